@@ -1,0 +1,83 @@
+#pragma once
+
+#include "error.h"
+#include "layer.h"
+
+#include <QObject>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace drawing {
+
+/// Told of long work as it goes on; called on the working thread.
+struct Progress
+{
+    std::function<void(int percent)> report; ///< May be empty.
+    std::atomic<bool> cancelled{false};      ///< Set from any thread to stop the work.
+};
+
+/// A drawing held in a DXF file: its layers, its entities' places, its edits.
+///
+/// The file's bytes are mapped and never changed; an edit replaces a byte range in a journal, and
+/// saving streams the original with the replacements spliced in. What was not edited is written byte
+/// for byte. All edits belong to a step; one step is one undo.
+class Drawing : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Maps and indexes `path`. Refuses (naming line and cause) what is no readable DXF file.
+    /// May run on a worker thread; the result is moved to `owner`.
+    static Expected<std::unique_ptr<Drawing>> open(
+        const QString& path, Progress* progress = nullptr, QThread* owner = nullptr);
+    ~Drawing() override;
+
+    /// Writes the drawing through a temporary file that replaces `path` only when whole.
+    /// On success the drawing lives in `path` and is unmodified; on refusal nothing has changed.
+    Expected<void> save(const QString& path, Progress* progress = nullptr);
+
+    QString path() const;
+    /// True when the drawing differs from what its file holds.
+    bool isModified() const;
+
+    const std::vector<Layer>& layers() const;              ///< In file order, deleted ones left out.
+    const Layer* layer(LayerId id) const;                  ///< Null when there is none (any more).
+    const Layer* findLayer(const QString& name) const;     ///< Without regard to letter case.
+    LayerId currentLayer() const;
+
+    // Edits; each needs an open step.
+    Expected<void> setLayerProperties(LayerId id, const LayerProperties& properties); ///< Renames too.
+    Expected<LayerId> addLayer(const LayerProperties& properties);
+    Expected<void> removeLayer(LayerId id); ///< Refuses layer 0, the current layer and used layers.
+    Expected<void> setCurrentLayer(LayerId id);
+
+    /// Opens an undo step; steps do not nest.
+    void beginStep(const QString& name);
+    /// Closes it; one that changed nothing leaves no trace.
+    void commitStep();
+    /// Takes back what the open step did.
+    void rollbackStep();
+    bool inStep() const;
+
+    bool canUndo() const;
+    bool canRedo() const;
+    QString undoName() const;
+    QString redoName() const;
+    void undo();
+    void redo();
+
+signals:
+    void layersChanged();   ///< Any layer, or the current layer, changed; once per step, undo or redo.
+    void entitiesChanged(); ///< Entities went, came or changed their layer.
+    void modifiedChanged(bool modified);
+
+private:
+    Drawing();
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace drawing
