@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dxftags.h"
+#include "entities.h"
 #include "error.h"
 #include "layer.h"
 
@@ -22,8 +24,8 @@ struct Progress
 /// A drawing held in a DXF file: its layers, its entities' places, its edits.
 ///
 /// The file's bytes are mapped and never changed; an edit replaces a byte range in a journal, and
-/// saving streams the original with the replacements spliced in. What was not edited is written byte
-/// for byte. All edits belong to a step; one step is one undo.
+/// saving streams the original with the replacements spliced in. What was not edited is written
+/// byte for byte. All edits belong to a step; one step is one undo.
 class Drawing : public QObject
 {
     Q_OBJECT
@@ -43,13 +45,23 @@ public:
     /// True when the drawing differs from what its file holds.
     bool isModified() const;
 
-    const std::vector<Layer>& layers() const;              ///< In file order, deleted ones left out.
-    const Layer* layer(LayerId id) const;                  ///< Null when there is none (any more).
-    const Layer* findLayer(const QString& name) const;     ///< Without regard to letter case.
+    const std::vector<Layer>& layers() const;          ///< In file order, deleted ones left out.
+    const Layer* layer(LayerId id) const;              ///< Null when there is none (any more).
+    const Layer* findLayer(const QString& name) const; ///< Without regard to letter case.
     LayerId currentLayer() const;
 
+    /// All entities: those of the block definitions and of the ENTITIES section, in file order.
+    const std::vector<Entity>& entities() const;
+    const std::vector<Block>& blocks() const;
+    const Block* findBlock(const QString& name) const; ///< Without regard to letter case.
+    /// The tags of an entity as they stand in the file read; valid as long as the drawing is open.
+    TagReader tags(const Entity& entity) const;
+    /// Text of a value in the file's code page, `\U+XXXX` escapes resolved.
+    QString decoded(std::string_view value) const;
+
     // Edits; each needs an open step.
-    Expected<void> setLayerProperties(LayerId id, const LayerProperties& properties); ///< Renames too.
+    Expected<void> setLayerProperties(
+        LayerId id, const LayerProperties& properties); ///< Renames too.
     Expected<LayerId> addLayer(const LayerProperties& properties);
     Expected<void> removeLayer(LayerId id); ///< Refuses layer 0, the current layer and used layers.
     Expected<void> setCurrentLayer(LayerId id);
@@ -70,7 +82,8 @@ public:
     void redo();
 
 signals:
-    void layersChanged();   ///< Any layer, or the current layer, changed; once per step, undo or redo.
+    void
+    layersChanged(); ///< Any layer, or the current layer, changed; once per step, undo or redo.
     void entitiesChanged(); ///< Entities went, came or changed their layer.
     void modifiedChanged(bool modified);
 
