@@ -1,0 +1,44 @@
+#pragma once
+
+#include "OdaCommon.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+/// Immutable wide text. Copies share the characters, so handing one on costs a reference count.
+class ODRX_EXPORT OdString
+{
+public:
+    OdString() = default;
+    OdString(const wchar_t* text);
+    explicit OdString(std::wstring_view text);
+
+    const wchar_t* c_str() const;
+    std::wstring_view view() const;
+    bool isEmpty() const { return !m_text; }
+    int getLength() const;
+
+    /// Order by character codes: below, equal to or above zero.
+    int compare(const OdString& other) const;
+    /// As `compare`, without regard to letter case.
+    int iCompare(const OdString& other) const;
+
+    OdString operator+(const OdString& other) const;
+
+private:
+    std::shared_ptr<const std::wstring> m_text; ///< Null for the empty text.
+};
+
+inline bool operator==(const OdString& a, const OdString& b)
+{
+    return a.compare(b) == 0;
+}
+inline bool operator!=(const OdString& a, const OdString& b)
+{
+    return a.compare(b) != 0;
+}
+inline bool operator<(const OdString& a, const OdString& b)
+{
+    return a.compare(b) < 0;
+}

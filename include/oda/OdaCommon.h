@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#define ODRX_EXPORT __attribute__((visibility("default")))
+
+using OdInt16 = std::int16_t;
+using OdUInt8 = std::uint8_t;
+using OdInt32 = std::int32_t;
+using OdUInt32 = std::uint32_t;
+using OdInt64 = std::int64_t;
+
+/// A colour packed as 0x00BBGGRR.
+using ODCOLORREF = std::uint32_t;

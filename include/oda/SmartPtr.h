@@ -1,0 +1,67 @@
+#pragma once
+
+#include "OdError.h"
+
+#include <utility>
+
+enum OdRxObjMod {
+    kOdRxObjAttach ///< The pointer takes over a reference that its maker holds.
+};
+
+class OdRxObject;
+
+/// Holds one reference on a run-time object.
+template <class T>
+class OdSmartPtr
+{
+public:
+    OdSmartPtr() = default;
+    OdSmartPtr(std::nullptr_t) {}
+    OdSmartPtr(T* object) : m_object(object) { addRef(); }
+    OdSmartPtr(T* object, OdRxObjMod) : m_object(object) {}
+    OdSmartPtr(const OdSmartPtr& other) : m_object(other.m_object) { addRef(); }
+    OdSmartPtr(OdSmartPtr&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
+    template <class U>
+    OdSmartPtr(const OdSmartPtr<U>& derived) : m_object(derived.get())
+    {
+        addRef();
+    }
+    ~OdSmartPtr() { release(); }
+
+    OdSmartPtr& operator=(OdSmartPtr other) noexcept
+    {
+        std::swap(m_object, other.m_object);
+        return *this;
+    }
+
+    /// The object as a `T`; null when it is null or of another class.
+    static OdSmartPtr castFrom(const OdRxObject* object);
+
+    T* get() const { return m_object; }
+    T* operator->() const { return m_object; }
+    T& operator*() const { return *m_object; }
+    bool isNull() const { return !m_object; }
+    explicit operator bool() const { return m_object; }
+    /// Gives the reference to the caller.
+    T* detach() { return std::exchange(m_object, nullptr); }
+
+private:
+    void addRef()
+    {
+        if (m_object)
+            m_object->addRef();
+    }
+    void release()
+    {
+        if (m_object)
+            m_object->release();
+    }
+
+    T* m_object = nullptr;
+};
+
+template <class T>
+bool operator==(const OdSmartPtr<T>& a, const OdSmartPtr<T>& b)
+{
+    return a.get() == b.get();
+}
