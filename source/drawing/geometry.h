@@ -1,0 +1,82 @@
+#pragma once
+
+#include "error.h"
+#include "geometrymath.h"
+#include "layer.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace drawing {
+
+class Drawing;
+struct Progress;
+
+/// Where the colour of something drawn comes from; ByBlock is resolved by then.
+struct GeometryColor
+{
+    enum class Source : quint8 { Layer, Index, True };
+
+    Source source = Source::Layer;
+    quint32 value = 0; ///< A layer's id, a colour index 1..255, or 0x00RRGGBB.
+};
+
+bool operator==(const GeometryColor& a, const GeometryColor& b);
+
+/// A run of a group's vertices that belong together. A vertex of NaN begins a new part.
+struct Primitive
+{
+    enum class Shape : quint8 { Lines, Fill, Dot };
+
+    quint32 first = 0;
+    quint32 count = 0;
+    int entity = -1;      ///< Index into `Drawing::entities()` of what was drawn in model space.
+    quint32 sequence = 0; ///< Order of drawing among all groups.
+    Shape shape = Shape::Lines; ///< Fills are even-odd.
+    Box bounds;
+};
+
+/// One line of text. The canvas knows the font, so alignment is left to it.
+struct TextRun
+{
+    enum class Horizontal : quint8 { Left, Center, Right };
+    enum class Vertical : quint8 { Baseline, Bottom, Middle, Top };
+
+    QString text;
+    QPointF origin;
+    QPointF right;       ///< One text height along the line, stretching included.
+    QPointF up;          ///< One text height (of a capital letter) across it.
+    double fitWidth = 0; ///< In lengths of `right`: the text is stretched to it; 0 = as it runs.
+    Horizontal horizontal = Horizontal::Left;
+    Vertical vertical = Vertical::Baseline;
+    int entity = -1;
+    Box bounds; ///< Estimated.
+};
+
+/// Everything that is shown, hidden and coloured as one.
+struct GeometryGroup
+{
+    LayerId layer = LayerId::None;
+    int owners = 0; ///< Index into `Geometry::owners`.
+    GeometryColor color;
+    std::vector<QPointF> vertices;
+    std::vector<Primitive> primitives;
+    std::vector<TextRun> texts;
+    Box bounds;
+};
+
+/// A drawing's model space, flattened and grouped by what decides on visibility and colour.
+struct Geometry
+{
+    std::vector<GeometryGroup> groups;
+    /// Layers of the block references around a group: one of them frozen hides the group.
+    std::vector<std::vector<LayerId>> owners;
+    bool truncated = false; ///< There was more than can be shown.
+};
+
+/// Flattens model space. Works on any thread while the drawing is left alone; refuses only when
+/// cancelled. Block references are bounded in depth and number, a block inside itself is left out.
+Expected<Geometry> buildGeometry(const Drawing& drawing, Progress* progress = nullptr);
+
+} // namespace drawing

@@ -1,0 +1,204 @@
+#include "geometryhatchreader.h"
+
+#include <algorithm>
+
+namespace drawing {
+
+namespace {
+
+constexpr int kPolylineLoop = 2; ///< Bit of the loop's type.
+
+} // namespace
+
+void HatchReader::take(const Tag& tag)
+{
+    if (tag.code == 92 && m_part != Part::Tail && m_part != Part::Pattern) {
+        finishLoop();
+        m_part = tag.toInteger() & kPolylineLoop ? Part::PolylineLoop : Part::EdgeLoop;
+        return;
+    }
+    if (tag.code == 75 && m_part != Part::Tail) {
+        finishLoop();
+        m_part = Part::Pattern;
+        return;
+    }
+    switch (m_part) {
+    case Part::Head:
+        return takeHead(tag);
+    case Part::PolylineLoop:
+        return takePolyline(tag);
+    case Part::EdgeLoop:
+        return takeEdge(tag);
+    case Part::Pattern:
+    case Part::Tail:
+        return takePattern(tag);
+    }
+}
+
+void HatchReader::finish()
+{
+    finishLoop();
+}
+
+void HatchReader::takeHead(const Tag& tag)
+{
+    if (tag.code == 70)
+        m_solid = tag.toInteger() == 1;
+}
+
+void HatchReader::takePolyline(const Tag& tag)
+{
+    if (tag.code == 10)
+        m_vertices.push_back({{tag.toDouble(), 0, 0}, 0});
+    else if (tag.code == 20 && !m_vertices.empty())
+        m_vertices.back().point.y = tag.toDouble();
+    else if (tag.code == 42 && !m_vertices.empty())
+        m_vertices.back().bulge = tag.toDouble();
+}
+
+void HatchReader::takeEdge(const Tag& tag)
+{
+    switch (tag.code) {
+    case 72: {
+        finishEdge();
+        const qint64 kind = tag.toInteger();
+        m_edge.kind = kind >= 1 && kind <= 4 ? static_cast<EdgeKind>(kind) : EdgeKind::None;
+        return;
+    }
+    case 10:
+        m_edge.points.push_back({tag.toDouble(), 0, 0});
+        return;
+    case 11:
+        m_edge.seconds.push_back({tag.toDouble(), 0, 0});
+        return;
+    case 20:
+    case 21: {
+        Path& path = tag.code == 20 ? m_edge.points : m_edge.seconds;
+        if (!path.empty())
+            path.back().y = tag.toDouble();
+        return;
+    }
+    case 50:
+        m_edge.start = tag.toDouble() * kPi / 180;
+        return;
+    case 51:
+        m_edge.end = tag.toDouble() * kPi / 180;
+        return;
+    default:
+        takeSpline(tag);
+    }
+}
+
+/// The codes whose meaning hangs on the kind of edge.
+void HatchReader::takeSpline(const Tag& tag)
+{
+    const bool spline = m_edge.kind == EdgeKind::Spline;
+    if (tag.code == 40 && spline)
+        m_edge.spline.knots.push_back(tag.toDouble());
+    else if (tag.code == 40)
+        m_edge.size = tag.toDouble();
+    else if (tag.code == 42 && spline)
+        m_edge.spline.weights.push_back(tag.toDouble());
+    else if (tag.code == 73 && !spline)
+        m_edge.forward = tag.toInteger() != 0;
+    else if (tag.code == 94)
+        m_edge.spline.degree = static_cast<int>(std::clamp<qint64>(tag.toInteger(), 0, 100));
+}
+
+void HatchReader::takePattern(const Tag& tag)
+{
+    // Seed points and the gradient follow the pattern.
+    if (tag.code == 98)
+        m_part = Part::Tail;
+    if (tag.code == 450 && tag.toInteger() == 1)
+        m_solid = true;
+    if (m_part == Part::Tail)
+        return;
+    if (tag.code == 53)
+        m_pattern.push_back({tag.toDouble(), {}, {}, {}});
+    if (m_pattern.empty())
+        return;
+    PatternLine& line = m_pattern.back();
+    switch (tag.code) {
+    case 43:
+        line.base.x = tag.toDouble();
+        return;
+    case 44:
+        line.base.y = tag.toDouble();
+        return;
+    case 45:
+        line.offset.x = tag.toDouble();
+        return;
+    case 46:
+        line.offset.y = tag.toDouble();
+        return;
+    case 49:
+        line.dashes.push_back(tag.toDouble());
+        return;
+    default:
+        return;
+    }
+}
+
+void HatchReader::finishEdge()
+{
+    Path path;
+    // Backward arcs state their angles as seen from behind.
+    const double turn = m_edge.forward ? 1 : -1;
+    const double sweep = turn * forwardSweep(m_edge.start, m_edge.end);
+    const Vec3 center = m_edge.points.empty() ? Vec3() : m_edge.points.front();
+    const Vec3 major = m_edge.seconds.empty() ? Vec3() : m_edge.seconds.front();
+    switch (m_edge.kind) {
+    case EdgeKind::None:
+        break;
+    case EdgeKind::Line:
+        path = {center, major};
+        break;
+    case EdgeKind::Arc:
+        appendArc(path, center, m_edge.size, turn * m_edge.start, sweep);
+        break;
+    case EdgeKind::Ellipse:
+        appendEllipse(path, center, major, Vec3{-major.y, major.x, 0} * m_edge.size,
+            turn * m_edge.start, sweep);
+        break;
+    case EdgeKind::Spline:
+        m_edge.spline.controls = m_edge.points;
+        m_edge.spline.fitPoints = m_edge.seconds;
+        appendSpline(path, m_edge.spline);
+        break;
+    }
+    m_edge = {};
+    if (path.empty())
+        return;
+    joinLoop(std::move(path));
+}
+
+/// Edges come in order, but each may run either way.
+void HatchReader::joinLoop(Path path)
+{
+    const auto reach = [&path](const Vec3& end) {
+        return std::min((end - path.front()).length(), (end - path.back()).length());
+    };
+    if (m_loopEdges == 1 && reach(m_loop.front()) < reach(m_loop.back()))
+        std::reverse(m_loop.begin(), m_loop.end());
+    if (m_loopEdges > 0 &&
+        (m_loop.back() - path.back()).length() < (m_loop.back() - path.front()).length())
+        std::reverse(path.begin(), path.end());
+    m_loop.insert(m_loop.end(), path.begin(), path.end());
+    ++m_loopEdges;
+}
+
+void HatchReader::finishLoop()
+{
+    finishEdge();
+    appendBulges(m_loop, m_vertices, true);
+    m_vertices.clear();
+    const bool finite = std::all_of(
+        m_loop.begin(), m_loop.end(), [](const Vec3& vertex) { return vertex.isFinite(); });
+    if (finite && m_loop.size() > 2)
+        m_loops.push_back(std::move(m_loop));
+    m_loop.clear();
+    m_loopEdges = 0;
+}
+
+} // namespace drawing

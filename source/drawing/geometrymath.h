@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QPointF>
+
+#include <vector>
+
+namespace drawing {
+
+constexpr double kPi = 3.14159265358979323846;
+
+/// A point or a direction in drawing units.
+struct Vec3
+{
+    double x = 0;
+    double y = 0;
+    double z = 0;
+
+    bool isFinite() const; ///< No NaN, no infinity, and small enough to be squared.
+    double length() const;
+    Vec3 normalized() const; ///< The null vector stays as it is.
+    static Vec3 cross(const Vec3& a, const Vec3& b);
+};
+
+inline Vec3 operator+(const Vec3& a, const Vec3& b)
+{
+    return {a.x + b.x, a.y + b.y, a.z + b.z};
+}
+
+inline Vec3 operator-(const Vec3& a, const Vec3& b)
+{
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+
+inline Vec3 operator*(const Vec3& a, double factor)
+{
+    return {a.x * factor, a.y * factor, a.z * factor};
+}
+
+/// An affine map of space: the images of the three axes, and of the origin.
+class Transform3
+{
+public:
+    Transform3() = default;
+    Transform3(const Vec3& x, const Vec3& y, const Vec3& z, const Vec3& origin);
+
+    /// From the coordinate system an extrusion direction stands for to the world's.
+    static Transform3 fromExtrusion(const Vec3& normal);
+    static Transform3 translation(const Vec3& by);
+    static Transform3 scaling(const Vec3& factors);
+    static Transform3 rotation(double degrees); ///< About the z axis.
+
+    Vec3 map(const Vec3& point) const { return mapDirection(point) + m_origin; }
+    Vec3 mapDirection(const Vec3& direction) const
+    {
+        return m_x * direction.x + m_y * direction.y + m_z * direction.z;
+    }
+    bool isFinite() const;
+
+    /// The map that does `inner` first.
+    friend Transform3 operator*(const Transform3& outer, const Transform3& inner);
+
+private:
+    Vec3 m_x{1, 0, 0};
+    Vec3 m_y{0, 1, 0};
+    Vec3 m_z{0, 0, 1};
+    Vec3 m_origin;
+};
+
+/// An upright box on the plane; empty until something is added. A single point is not empty.
+struct Box
+{
+    double minX = 1;
+    double minY = 0;
+    double maxX = -1;
+    double maxY = 0;
+
+    bool isEmpty() const { return minX > maxX; }
+    double width() const { return maxX - minX; }
+    double height() const { return maxY - minY; }
+    QPointF center() const { return {(minX + maxX) / 2, (minY + maxY) / 2}; }
+    void add(const QPointF& point);
+    void add(const Box& other);
+    bool intersects(const Box& other) const
+    {
+        return minX <= other.maxX && maxX >= other.minX && minY <= other.maxY && maxY >= other.minY;
+    }
+};
+
+} // namespace drawing

@@ -1,0 +1,569 @@
+#include "geometryreader.h"
+
+#include "geometryhatchreader.h"
+#include "geometrytext.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace drawing {
+
+namespace {
+
+constexpr double kDegree = kPi / 180;
+const Vec3 kBreak{std::numeric_limits<double>::quiet_NaN(), 0, 0};
+
+/// Bits of a polyline's and its vertices' flags (group 70).
+enum PolylineFlag { Closed = 1, Spatial = 8, Mesh = 16, ClosedAcross = 32, Polyface = 64 };
+enum VertexFlag { Smoothed = 8, Control = 16, FaceVertex = 64, FaceRecord = 128 };
+
+Transform3 turnedAt(const Vec3& origin, double degrees)
+{
+    return Transform3::translation(origin) * Transform3::rotation(degrees);
+}
+
+} // namespace
+
+struct EntityReader::HandlerRow
+{
+    std::string_view type;
+    Handler handler;
+};
+
+const EntityReader::HandlerRow EntityReader::kHandlers[] = {
+    {"LINE", &EntityReader::line},
+    {"LWPOLYLINE", &EntityReader::lwPolyline},
+    {"INSERT", &EntityReader::insert},
+    {"TEXT", &EntityReader::text},
+    {"MTEXT", &EntityReader::mtext},
+    {"CIRCLE", &EntityReader::circle},
+    {"ARC", &EntityReader::arc},
+    {"POLYLINE", &EntityReader::polyline},
+    {"HATCH", &EntityReader::hatch},
+    {"DIMENSION", &EntityReader::dimension},
+    {"ARC_DIMENSION", &EntityReader::dimension},
+    {"LARGE_RADIAL_DIMENSION", &EntityReader::dimension},
+    {"POINT", &EntityReader::point},
+    {"SOLID", &EntityReader::solid},
+    {"TRACE", &EntityReader::solid},
+    {"3DFACE", &EntityReader::face},
+    {"ELLIPSE", &EntityReader::ellipse},
+    {"SPLINE", &EntityReader::spline},
+    {"LEADER", &EntityReader::leader},
+    {"ATTRIB", &EntityReader::attribute},
+    {"ATTDEF", &EntityReader::attributeDefinition},
+    {"ACAD_TABLE", &EntityReader::insert},
+    {"IMAGE", &EntityReader::image},
+};
+
+EntityReader::EntityReader(const Drawing& drawing) : m_drawing(drawing)
+{
+    if (const Layer* zero = drawing.findLayer(QStringLiteral("0")))
+        m_layerZero = zero->id;
+}
+
+void EntityReader::read(std::size_t index, bool inBlock, Definition& definition)
+{
+    m_index = index;
+    m_inBlock = inBlock;
+    m_owner = LayerId::None;
+    m_definition = &definition;
+    m_tags.load(m_drawing.tags(m_drawing.entities()[index]));
+    if (m_tags.integer(60) == 1)
+        return; // Invisible.
+    const auto row = std::find_if(std::begin(kHandlers), std::end(kHandlers),
+        [type = m_tags.type()](const HandlerRow& candidate) { return candidate.type == type; });
+    if (row != std::end(kHandlers))
+        (this->*row->handler)();
+}
+
+EntityStyle EntityReader::style() const
+{
+    EntityStyle style;
+    style.layer = m_drawing.entities()[m_index].layer;
+    style.owner = m_owner;
+    if (m_owner != LayerId::None && style.layer == m_layerZero)
+        style.layer = m_owner;
+    if (const Tag* color = m_tags.find(420)) {
+        style.color = EntityStyle::Color::True;
+        style.value = static_cast<quint32>(color->toInteger()) & 0xffffff;
+        return style;
+    }
+    const qint64 index = std::abs(m_tags.integer(62, 256));
+    if (index == 0)
+        style.color = EntityStyle::Color::ByBlock;
+    else if (index < 256)
+        style.color = EntityStyle::Color::Index;
+    style.value = static_cast<quint32>(index & 0xff);
+    return style;
+}
+
+Transform3 EntityReader::plane() const
+{
+    return Transform3::fromExtrusion(m_tags.extrusion());
+}
+
+void EntityReader::addShape(Primitive::Shape shape, const Path& path, const Transform3& place)
+{
+    Path& vertices = m_definition->vertices;
+    const std::size_t first = vertices.size();
+    for (const Vec3& vertex : path) {
+        const Vec3 mapped = place.map(vertex);
+        if (mapped.isFinite())
+            vertices.push_back(mapped);
+        else if (std::isnan(vertex.x) && vertices.size() > first)
+            vertices.push_back(kBreak);
+    }
+    if (vertices.size() > first)
+        m_definition->shapes.push_back({style(), shape, first, vertices.size() - first});
+}
+
+void EntityReader::line()
+{
+    addShape(Primitive::Shape::Lines, {m_tags.point(10), m_tags.point(11)});
+}
+
+void EntityReader::lwPolyline()
+{
+    std::vector<BulgeVertex> vertices;
+    const double elevation = m_tags.number(38);
+    for (const Tag& tag : m_tags) {
+        if (tag.code == 10)
+            vertices.push_back({{tag.toDouble(), 0, elevation}, 0});
+        else if (tag.code == 20 && !vertices.empty())
+            vertices.back().point.y = tag.toDouble();
+        else if (tag.code == 42 && !vertices.empty())
+            vertices.back().bulge = tag.toDouble();
+    }
+    Path path;
+    appendBulges(path, vertices, m_tags.integer(70) & Closed);
+    addShape(Primitive::Shape::Lines, path, plane());
+}
+
+void EntityReader::polyline()
+{
+    const qint64 flags = m_tags.integer(70);
+    if (flags & Polyface)
+        polyface();
+    else if (flags & Mesh)
+        meshPolyline(flags);
+    else
+        flatPolyline(flags & Closed);
+}
+
+/// A polyline in the plane or in space; of a curve-fitted one the curve, not its frame.
+void EntityReader::flatPolyline(bool closed)
+{
+    const Transform3 place = m_tags.integer(70) & Spatial ? Transform3() : plane();
+    const EntityTags head = m_tags;
+    const auto& entities = m_drawing.entities();
+    std::vector<BulgeVertex> vertices;
+    for (std::size_t i = m_index + 1; i < entities.size() && entities[i].subEntity; ++i) {
+        m_tags.load(m_drawing.tags(entities[i]));
+        if (m_tags.type() != "VERTEX" || m_tags.integer(70) & Control)
+            continue;
+        const Vec3 point = m_tags.point(10);
+        if (point.isFinite())
+            vertices.push_back({point, m_tags.number(42)});
+    }
+    m_tags = head;
+    Path path;
+    appendBulges(path, vertices, closed);
+    addShape(Primitive::Shape::Lines, path, place);
+}
+
+/// A mesh of M rows and N columns: the lines both ways.
+void EntityReader::meshPolyline(qint64 flags)
+{
+    const EntityTags head = m_tags;
+    const bool smooth = m_tags.integer(75) != 0;
+    const auto& entities = m_drawing.entities();
+    Path points;
+    for (std::size_t i = m_index + 1; i < entities.size() && entities[i].subEntity; ++i) {
+        m_tags.load(m_drawing.tags(entities[i]));
+        const bool isSmoothed = m_tags.integer(70) & Smoothed;
+        if (m_tags.type() == "VERTEX" && isSmoothed == smooth)
+            points.push_back(m_tags.point(10));
+    }
+    m_tags = head;
+    const auto size = static_cast<qint64>(points.size());
+    const qint64 rows = m_tags.integer(smooth ? 73 : 71);
+    const qint64 columns = m_tags.integer(smooth ? 74 : 72);
+    if (rows < 1 || columns < 1 || rows > size || columns > size || rows * columns > size)
+        return;
+    Path path;
+    const auto addRun = [&](qint64 start, qint64 step, qint64 count, bool closed) {
+        for (qint64 i = 0; i < count + (closed ? 1 : 0); ++i)
+            path.push_back(points[static_cast<std::size_t>(start + i % count * step)]);
+        path.push_back(kBreak);
+    };
+    for (qint64 row = 0; row < rows; ++row)
+        addRun(row * columns, 1, columns, flags & ClosedAcross);
+    for (qint64 column = 0; column < columns; ++column)
+        addRun(column, columns, rows, flags & Closed);
+    addShape(Primitive::Shape::Lines, path);
+}
+
+/// Vertices first, then faces that number them from 1; a negative number hides the edge behind it.
+void EntityReader::polyface()
+{
+    const EntityTags head = m_tags;
+    const auto& entities = m_drawing.entities();
+    Path points;
+    Path path;
+    const auto at = [&points](qint64 number) {
+        const auto index = static_cast<std::size_t>(std::abs(number)) - 1;
+        return number != 0 && index < points.size() ? points[index] : kBreak;
+    };
+    for (std::size_t i = m_index + 1; i < entities.size() && entities[i].subEntity; ++i) {
+        m_tags.load(m_drawing.tags(entities[i]));
+        const qint64 flags = m_tags.integer(70);
+        if (flags & FaceVertex) {
+            points.push_back(m_tags.point(10));
+            continue;
+        }
+        if (!(flags & FaceRecord))
+            continue;
+        std::vector<qint64> corners;
+        for (int code = 71; code <= 74 && m_tags.integer(code) != 0; ++code)
+            corners.push_back(m_tags.integer(code));
+        for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+            if (corners[corner] < 0)
+                continue;
+            path.push_back(at(corners[corner]));
+            path.push_back(at(corners[(corner + 1) % corners.size()]));
+            path.push_back(kBreak);
+        }
+    }
+    m_tags = head;
+    addShape(Primitive::Shape::Lines, path);
+}
+
+void EntityReader::circle()
+{
+    Path path;
+    appendArc(path, m_tags.point(10), m_tags.number(40), 0, 2 * kPi);
+    addShape(Primitive::Shape::Lines, path, plane());
+}
+
+void EntityReader::arc()
+{
+    const double start = m_tags.number(50) * kDegree;
+    Path path;
+    appendArc(path, m_tags.point(10), m_tags.number(40), start,
+        forwardSweep(start, m_tags.number(51) * kDegree));
+    addShape(Primitive::Shape::Lines, path, plane());
+}
+
+void EntityReader::ellipse()
+{
+    const Vec3 major = m_tags.point(11);
+    const Vec3 minor = Vec3::cross(m_tags.extrusion().normalized(), major) * m_tags.number(40, 1);
+    const double start = m_tags.number(41);
+    Path path;
+    appendEllipse(path, m_tags.point(10), major, minor, start,
+        forwardSweep(start, m_tags.number(42, 2 * kPi)));
+    addShape(Primitive::Shape::Lines, path);
+}
+
+void EntityReader::spline()
+{
+    Spline spline;
+    spline.degree = static_cast<int>(std::clamp<qint64>(m_tags.integer(71, 3), 0, 100));
+    spline.closed = m_tags.integer(70) & Closed;
+    for (const Tag& tag : m_tags) {
+        Path& path = tag.code % 10 == 0 ? spline.controls : spline.fitPoints;
+        if (tag.code == 40)
+            spline.knots.push_back(tag.toDouble());
+        else if (tag.code == 41)
+            spline.weights.push_back(tag.toDouble());
+        else if (tag.code == 10 || tag.code == 11)
+            path.push_back({tag.toDouble(), 0, 0});
+        else if ((tag.code == 20 || tag.code == 21) && !path.empty())
+            path.back().y = tag.toDouble();
+        else if ((tag.code == 30 || tag.code == 31) && !path.empty())
+            path.back().z = tag.toDouble();
+    }
+    Path path;
+    appendSpline(path, spline);
+    addShape(Primitive::Shape::Lines, path);
+}
+
+void EntityReader::point()
+{
+    addShape(Primitive::Shape::Dot, {m_tags.point(10)});
+}
+
+void EntityReader::solid()
+{
+    // The third and fourth corner are stored crosswise; a triangle repeats or leaves out the last.
+    const Vec3 last = m_tags.find(13) ? m_tags.point(13) : m_tags.point(12);
+    addShape(Primitive::Shape::Fill, {m_tags.point(10), m_tags.point(11), last, m_tags.point(12)},
+        plane());
+}
+
+void EntityReader::face()
+{
+    const Vec3 last = m_tags.find(13) ? m_tags.point(13) : m_tags.point(12);
+    const Vec3 corners[] = {m_tags.point(10), m_tags.point(11), m_tags.point(12), last};
+    const qint64 hidden = m_tags.integer(70);
+    Path path;
+    for (int i = 0; i < 4; ++i) {
+        if (hidden >> i & 1)
+            continue;
+        path.push_back(corners[i]);
+        path.push_back(corners[(i + 1) % 4]);
+        path.push_back(kBreak);
+    }
+    addShape(Primitive::Shape::Lines, path);
+}
+
+void EntityReader::hatch()
+{
+    HatchReader reader;
+    for (const Tag& tag : m_tags)
+        reader.take(tag);
+    reader.finish();
+    const Transform3 place = plane() * Transform3::translation({0, 0, m_tags.number(30)});
+
+    Path path;
+    std::vector<HatchSegment> segments;
+    if (!reader.isSolid() && appendPattern(segments, reader.loops(), reader.pattern())) {
+        for (const HatchSegment& segment : segments)
+            path.insert(path.end(), {segment.from, segment.to, kBreak});
+        addShape(Primitive::Shape::Lines, path, place);
+        return;
+    }
+    for (const Path& loop : reader.loops()) {
+        path.insert(path.end(), loop.begin(), loop.end());
+        path.push_back(loop.front());
+        path.push_back(kBreak);
+    }
+    addShape(reader.isSolid() ? Primitive::Shape::Fill : Primitive::Shape::Lines, path, place);
+}
+
+void EntityReader::leader()
+{
+    Path path;
+    for (const Tag& tag : m_tags) {
+        if (tag.code == 10)
+            path.push_back({tag.toDouble(), 0, 0});
+        else if (tag.code == 20 && !path.empty())
+            path.back().y = tag.toDouble();
+        else if (tag.code == 30 && !path.empty())
+            path.back().z = tag.toDouble();
+    }
+    // The arrow is as long as the annotation's text is high, which is what dimension styles agree
+    // on.
+    const double size = m_tags.number(40);
+    const bool hasArrow = m_tags.integer(71, 1) != 0 && path.size() > 1;
+    const Vec3 way = hasArrow ? path[1] - path[0] : Vec3();
+    if (hasArrow && size > 0 && way.length() > 2 * size) {
+        const Vec3 along = way.normalized() * size;
+        const Vec3 across = Vec3::cross({0, 0, 1}, along) * (1.0 / 6);
+        addShape(
+            Primitive::Shape::Fill, {path[0], path[0] + along + across, path[0] + along - across});
+    }
+    addShape(Primitive::Shape::Lines, path);
+}
+
+/// Pixels are not shown, but where the image lies is.
+void EntityReader::image()
+{
+    const Vec3 corner = m_tags.point(10);
+    const Vec3 right = m_tags.point(11) * m_tags.number(13);
+    const Vec3 up = m_tags.point(12) * m_tags.number(23);
+    addShape(Primitive::Shape::Lines,
+        {corner, corner + right, corner + right + up, corner + up, corner});
+}
+
+void EntityReader::text()
+{
+    const Tag* value = m_tags.find(1);
+    addText(value ? m_drawing.decoded(value->value) : QString(),
+        static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(73), 0, 3)));
+}
+
+void EntityReader::attribute()
+{
+    constexpr int kInvisible = 1;
+    const Tag* value = m_tags.find(1);
+    if (value && !(m_tags.integer(70) & kInvisible))
+        addText(m_drawing.decoded(value->value),
+            static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(74), 0, 3)));
+}
+
+void EntityReader::attributeDefinition()
+{
+    constexpr int kInvisible = 1;
+    constexpr int kConstant = 2;
+    const qint64 flags = m_tags.integer(70);
+    if (flags & kInvisible || (m_inBlock && !(flags & kConstant)))
+        return;
+    const Tag* value = m_tags.find(flags & kConstant ? 1 : 2);
+    if (value)
+        addText(m_drawing.decoded(value->value),
+            static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(74), 0, 3)));
+}
+
+/// A line of text by the codes of TEXT.
+bool EntityReader::addText(QString value, TextRun::Vertical vertical)
+{
+    enum Justification { Left, Center, Right, Aligned, Middle, Fit };
+    enum Mirror { Backward = 2, UpsideDown = 4 };
+    const qint64 justification = m_tags.integer(72);
+    const bool atFirst = (justification == Left && vertical == TextRun::Vertical::Baseline) ||
+                         justification == Aligned || justification == Fit || !m_tags.find(11);
+
+    Definition::Text text;
+    text.style = style();
+    text.run.text = plainText(value);
+    text.run.vertical = justification == Middle ? TextRun::Vertical::Middle : vertical;
+    if (justification == Center || justification == Middle)
+        text.run.horizontal = TextRun::Horizontal::Center;
+    else if (justification == Right)
+        text.run.horizontal = TextRun::Horizontal::Right;
+
+    double rotation = m_tags.number(50);
+    double height = m_tags.number(40, 1);
+    const Vec3 span = m_tags.point(11) - m_tags.point(10);
+    const double length = std::hypot(span.x, span.y);
+    if ((justification == Aligned || justification == Fit) && m_tags.find(11) && length > 0) {
+        rotation = std::atan2(span.y, span.x) / kDegree;
+        if (justification == Aligned)
+            height = length / std::max(estimatedWidth(text.run.text), 1.0);
+        text.run.fitWidth = height > 0 ? length / height : 0;
+    }
+    const qint64 mirror = m_tags.integer(71);
+    const double stretch = text.run.fitWidth > 0 ? 1 : m_tags.number(41, 1);
+    const double slant = std::tan(m_tags.number(51) * kDegree);
+    const Vec3 right{mirror & Backward ? -height : height, 0, 0};
+    const Vec3 up{slant * height, mirror & UpsideDown ? -height : height, 0};
+
+    const Transform3 place = plane() * turnedAt(m_tags.point(atFirst ? 10 : 11), rotation);
+    text.origin = place.map({});
+    text.right = place.mapDirection(right * stretch);
+    text.up = place.mapDirection(up);
+    const bool usable = text.origin.isFinite() && text.right.isFinite() && text.up.isFinite();
+    if (!usable || height <= 0 || text.run.text.trimmed().isEmpty())
+        return false;
+    m_definition->texts.push_back(std::move(text));
+    return true;
+}
+
+void EntityReader::mtext()
+{
+    std::string_view chunk;
+    QString value;
+    for (const Tag& tag : m_tags) {
+        if (tag.code == 3)
+            value += m_drawing.decoded(tag.value);
+        else if (tag.code == 1)
+            chunk = tag.value;
+    }
+    value += m_drawing.decoded(chunk);
+
+    const double height = m_tags.number(40, 1);
+    if (!(height > 0) || !std::isfinite(height))
+        return;
+    // A direction and an angle may both be there: the later one counts.
+    const Tag* direction = m_tags.find(11);
+    const Tag* angle = m_tags.find(50);
+    Transform3 place = plane() * Transform3::rotation(m_tags.number(50));
+    if (direction && (!angle || angle->begin < direction->begin)) {
+        const Vec3 x = m_tags.point(11).normalized();
+        const Vec3 z = m_tags.extrusion().normalized();
+        place = Transform3(x, Vec3::cross(z, x), z, {});
+    }
+    place = Transform3::translation(m_tags.point(10)) * place;
+    addMTextLines(plainLines(value, m_tags.number(41) / height), place, height);
+}
+
+void EntityReader::addMTextLines(const QStringList& lines, const Transform3& place, double height)
+{
+    // Lines lie five thirds of the text height apart unless told otherwise.
+    const double spacing = height * 5 / 3 * m_tags.number(44, 1);
+    const double total = spacing * (lines.size() - 1) + height;
+    const qint64 attachment = std::clamp<qint64>(m_tags.integer(71, 1), 1, 9) - 1;
+    const double top = total * static_cast<double>(attachment / 3) / 2;
+    if (!place.isFinite() || !std::isfinite(total))
+        return;
+    double baseline = top - height;
+    for (const QString& line : lines) {
+        if (!line.trimmed().isEmpty()) {
+            Definition::Text text;
+            text.style = style();
+            text.run.text = line;
+            text.run.horizontal = static_cast<TextRun::Horizontal>(attachment % 3);
+            text.origin = place.map({0, baseline, 0});
+            text.right = place.mapDirection({height, 0, 0});
+            text.up = place.mapDirection({0, height, 0});
+            m_definition->texts.push_back(std::move(text));
+        }
+        baseline -= spacing;
+    }
+}
+
+void EntityReader::insert()
+{
+    const Tag* name = m_tags.find(2);
+    if (!name)
+        return;
+    const auto bounded = [](qint64 count) {
+        return static_cast<int>(std::clamp<qint64>(count, 1, std::numeric_limits<int>::max()));
+    };
+    const auto factor = [this](int code) {
+        const double value = m_tags.number(code, 1);
+        return value != 0 ? value : 1;
+    };
+    Definition::Reference reference;
+    reference.style = style();
+    reference.columns = bounded(m_tags.integer(70, 1));
+    reference.rows = bounded(m_tags.integer(71, 1));
+    const Transform3 frame = plane() * turnedAt(m_tags.point(10), m_tags.number(50));
+    reference.columnStep = frame.mapDirection({m_tags.number(44), 0, 0});
+    reference.rowStep = frame.mapDirection({0, m_tags.number(45), 0});
+    reference.place = frame * Transform3::scaling({factor(41), factor(42), factor(43)});
+    addReference(m_drawing.decoded(name->trimmed()), reference);
+    attributes();
+}
+
+void EntityReader::attributes()
+{
+    const auto& entities = m_drawing.entities();
+    m_owner = entities[m_index].layer;
+    while (m_index + 1 < entities.size() && entities[m_index + 1].subEntity) {
+        ++m_index;
+        m_tags.load(m_drawing.tags(entities[m_index]));
+        if (m_tags.type() == "ATTRIB" && m_tags.integer(60) != 1)
+            attribute();
+    }
+}
+
+/// The picture of a dimension is a block of its own, drawn where it belongs.
+void EntityReader::dimension()
+{
+    const Tag* name = m_tags.find(2);
+    if (!name)
+        return;
+    Definition::Reference reference;
+    reference.style = style();
+    reference.place = Transform3::translation(plane().map(m_tags.point(12)));
+    addReference(m_drawing.decoded(name->trimmed()), reference);
+}
+
+void EntityReader::addReference(const QString& name, Definition::Reference reference)
+{
+    const Block* block = m_drawing.findBlock(name);
+    if (!block)
+        return;
+    reference.block = static_cast<int>(block - m_drawing.blocks().data());
+    reference.place = reference.place * Transform3::translation({-block->baseX, -block->baseY, 0});
+    const bool finite = reference.place.isFinite() && reference.columnStep.isFinite() &&
+                        reference.rowStep.isFinite();
+    if (finite)
+        m_definition->references.push_back(reference);
+}
+
+} // namespace drawing

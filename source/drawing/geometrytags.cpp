@@ -1,0 +1,51 @@
+#include "geometrytags.h"
+
+namespace drawing {
+
+void EntityTags::load(TagReader reader)
+{
+    constexpr int kExtendedData = 1000;
+    constexpr int kEmbeddedObject = 101;
+    m_tags.clear();
+    Tag tag;
+    while (reader.next(tag) && tag.code < kExtendedData && tag.code != kEmbeddedObject)
+        m_tags.push_back(tag);
+}
+
+std::string_view EntityTags::type() const
+{
+    return m_tags.empty() ? std::string_view() : m_tags.front().trimmed();
+}
+
+const Tag* EntityTags::find(int code) const
+{
+    for (const Tag& tag : m_tags) {
+        if (tag.code == code)
+            return &tag;
+    }
+    return nullptr;
+}
+
+double EntityTags::number(int code, double otherwise) const
+{
+    const Tag* tag = find(code);
+    return tag ? tag->toDouble() : otherwise;
+}
+
+qint64 EntityTags::integer(int code, qint64 otherwise) const
+{
+    const Tag* tag = find(code);
+    return tag ? tag->toInteger() : otherwise;
+}
+
+Vec3 EntityTags::point(int code) const
+{
+    return {number(code), number(code + 10), number(code + 20)};
+}
+
+Vec3 EntityTags::extrusion() const
+{
+    return find(210) ? point(210) : Vec3{0, 0, 1};
+}
+
+} // namespace drawing
