@@ -238,6 +238,7 @@ private:
         primitive.sequence = static_cast<quint32>(m_pieces++);
         m_vertices += primitive.count;
         group.bounds.add(primitive.bounds);
+        group.hasFills = group.hasFills || primitive.shape == Primitive::Shape::Fill;
         group.primitives.push_back(primitive);
     }
 

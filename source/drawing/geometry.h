@@ -63,6 +63,7 @@ struct GeometryGroup
     std::vector<QPointF> vertices;
     std::vector<Primitive> primitives;
     std::vector<TextRun> texts;
+    bool hasFills = false;
     Box bounds;
 };
 

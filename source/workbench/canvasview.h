@@ -1,0 +1,40 @@
+#pragma once
+
+#include "geometrymath.h"
+
+#include <QPointF>
+#include <QSize>
+
+/// Which part of the drawing a widget shows: the centre, and pixels per drawing unit.
+class CanvasView
+{
+public:
+    QPointF center() const { return m_center; }
+    double scale() const { return m_scale; }
+    QSize size() const { return m_size; }
+    void setSize(const QSize& size) { m_size = size; }
+
+    QPointF toScreen(const QPointF& point) const
+    {
+        return {(point.x() - m_center.x()) * m_scale + m_size.width() * 0.5,
+            (m_center.y() - point.y()) * m_scale + m_size.height() * 0.5};
+    }
+    QPointF toDrawing(const QPointF& pixel) const;
+    drawing::Box visibleBox() const;
+
+    /// Shows all of `box` with a margin; an empty one shows a hundred units around the origin.
+    void fit(const drawing::Box& box);
+    /// Scales by `factor`; the drawing's point under `pixel` stays there.
+    void zoomAt(const QPointF& pixel, double factor);
+    void pan(const QPointF& pixels);
+
+    friend bool operator==(const CanvasView& a, const CanvasView& b)
+    {
+        return a.m_center == b.m_center && a.m_scale == b.m_scale && a.m_size == b.m_size;
+    }
+
+private:
+    QPointF m_center;
+    double m_scale = 1;
+    QSize m_size;
+};

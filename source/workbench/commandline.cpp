@@ -1,0 +1,108 @@
+#include "commandline.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kEchoLines = 500;
+constexpr int kVisibleLines = 3;
+constexpr int kHistory = 100;
+
+} // namespace
+
+CommandLine::CommandLine(QWidget* parent) : QWidget(parent)
+{
+    m_echo = new QPlainTextEdit(this);
+    m_echo->setObjectName(QStringLiteral("commandEcho"));
+    m_echo->setReadOnly(true);
+    m_echo->setMaximumBlockCount(kEchoLines);
+    m_echo->setFocusPolicy(Qt::NoFocus);
+    m_echo->setAccessibleName(tr("命令回显"));
+    m_input = new QLineEdit(this);
+    m_input->setObjectName(QStringLiteral("commandInput"));
+    m_input->setAccessibleName(tr("命令"));
+    m_input->setPlaceholderText(tr("键入命令"));
+    m_input->installEventFilter(this);
+    auto* label = new QLabel(tr("命令:"), this);
+    label->setBuddy(m_input);
+
+    auto* line = new QHBoxLayout;
+    line->addWidget(label);
+    line->addWidget(m_input);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 2, 4, 2);
+    layout->setSpacing(2);
+    layout->addWidget(m_echo);
+    layout->addLayout(line);
+    m_echo->setMinimumHeight(m_echo->fontMetrics().lineSpacing() * kVisibleLines + 12);
+
+    connect(m_input, &QLineEdit::returnPressed, this, &CommandLine::enter);
+}
+
+void CommandLine::setWords(const QStringList& words)
+{
+    auto* completer = new QCompleter(words, m_input);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    delete m_input->completer();
+    m_input->setCompleter(completer);
+}
+
+void CommandLine::say(const QString& text)
+{
+    m_echo->appendPlainText(text);
+}
+
+QString CommandLine::echo() const
+{
+    return m_echo->toPlainText();
+}
+
+void CommandLine::enter()
+{
+    const QString word = m_input->text().trimmed();
+    m_input->clear();
+    m_shown = m_history.size();
+    if (word.isEmpty())
+        return;
+    if (m_history.isEmpty() || m_history.last() != word)
+        m_history.append(word);
+    if (m_history.size() > kHistory)
+        m_history.removeFirst();
+    m_shown = m_history.size();
+    say(tr("命令: %1").arg(word));
+    emit entered(word);
+}
+
+void CommandLine::showHistory(int step)
+{
+    const int shown = std::clamp(m_shown + step, 0, m_history.size());
+    if (shown == m_shown)
+        return;
+    m_shown = shown;
+    m_input->setText(m_history.value(shown));
+}
+
+bool CommandLine::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_input || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    // While the completer's list is open the arrows move in it.
+    const bool completing = m_input->completer() && m_input->completer()->popup()->isVisible();
+    if (completing || (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_Escape))
+        return QWidget::eventFilter(watched, event);
+    if (key == Qt::Key_Escape)
+        m_input->clear();
+    else
+        showHistory(key == Qt::Key_Up ? -1 : 1);
+    return true;
+}

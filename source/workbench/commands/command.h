@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+namespace drawing {
+class Drawing;
+}
+
+/// What a layer command works on and talks through.
+struct CommandContext
+{
+    drawing::Drawing& drawing;
+    QWidget* parent = nullptr;               ///< For dialogs.
+    std::function<void(const QString&)> say; ///< A line for the command line's echo.
+    std::function<void()> refresh; ///< Shows the layers as they are now, within the open step.
+};
+
+/// One of the layer commands. A new object for every run.
+class LayerCommand
+{
+public:
+    virtual ~LayerCommand() = default;
+    /// Runs to its end, dialogs included. A step of the drawing is open meanwhile and is committed
+    /// behind it: whatever the command changes is one undo.
+    virtual void run(CommandContext& context) = 0;
+};

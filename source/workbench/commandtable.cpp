@@ -1,0 +1,37 @@
+#include "commandtable.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr CommandRow kRows[] = {
+    {"LAYER", QT_TRANSLATE_NOOP("Commands", "图层特性"), "layer", nullptr},
+    {"LAYERSTATE", QT_TRANSLATE_NOOP("Commands", "图层状态"), "layer-states", nullptr},
+    {"LAYDEL", QT_TRANSLATE_NOOP("Commands", "删除图层"), "layer-delete", nullptr},
+    {"LAYMCH", QT_TRANSLATE_NOOP("Commands", "更改到图层"), "layer-change", nullptr},
+    {"LAYMRG", QT_TRANSLATE_NOOP("Commands", "合并图层"), "layer-merge", nullptr},
+    {"LAYWALK", QT_TRANSLATE_NOOP("Commands", "图层漫游"), "layer-walk", nullptr},
+    {"LAYTRANS", QT_TRANSLATE_NOOP("Commands", "图层转换器"), "layer-translate", nullptr},
+};
+
+} // namespace
+
+const CommandRow* CommandTable::begin() const
+{
+    return std::begin(kRows);
+}
+
+const CommandRow* CommandTable::end() const
+{
+    return std::end(kRows);
+}
+
+const CommandRow* CommandTable::find(const QString& word) const
+{
+    const QString wanted = word.trimmed();
+    const auto found = std::find_if(begin(), end(), [&wanted](const CommandRow& row) {
+        return wanted.compare(QLatin1String(row.name), Qt::CaseInsensitive) == 0;
+    });
+    return found == end() ? nullptr : found;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "drawing.h"
+#include "geometry.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QThread;
+
+/// A drawing with what the canvas shows of it.
+struct OpenedFile
+{
+    std::unique_ptr<drawing::Drawing> drawing;
+    std::shared_ptr<const drawing::Geometry> geometry;
+};
+
+/// Opens a drawing and flattens it. `owner` is the thread the drawing is to live on.
+drawing::Expected<OpenedFile> readFile(
+    const QString& path, drawing::Progress* progress, QThread* owner);
+
+/// Opens and saves on a thread of its own; one job at a time. Signals come on the thread the worker
+/// lives on.
+class FileWorker : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FileWorker(QObject* parent = nullptr);
+    ~FileWorker() override; ///< Stops the job under way and waits for its end.
+
+    bool isBusy() const { return m_thread != nullptr; }
+    void open(const QString& path);
+    /// The drawing must be left alone until the job has ended.
+    void save(drawing::Drawing& drawing, const QString& path);
+    void cancel();
+
+signals:
+    void started(const QString& what);
+    void progress(int percent);
+    void opened(const std::shared_ptr<OpenedFile>& file);
+    void saved(const QString& path);
+    void openFailed(const QString& path, const drawing::Error& error);
+    void saveFailed(const QString& path, const drawing::Error& error);
+    void finished(); ///< Right before one of the four above; the next job may start.
+
+private:
+    void start(const QString& what, std::function<std::function<void()>()> job);
+    void conclude(const std::function<void()>& outcome);
+
+    drawing::Progress m_progress;
+    std::unique_ptr<QThread> m_thread;
+};

@@ -1,0 +1,24 @@
+#include "gallery.h"
+
+#include "mainwindow.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QPixmap>
+
+drawing::Expected<void> savePicture(QWidget& widget, const QString& path)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    if (widget.grab().save(path, "PNG"))
+        return {};
+    return tl::unexpected(
+        drawing::Error{QCoreApplication::translate("Gallery", "无法写入图片“%1”。")
+                           .arg(QDir::toNativeSeparators(path)),
+            0, false});
+}
+
+drawing::Expected<void> writeGallery(MainWindow& window, const QString& folder)
+{
+    return savePicture(window, QDir(folder).filePath(QStringLiteral("workbench.png")));
+}

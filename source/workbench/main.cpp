@@ -1,0 +1,133 @@
+#include "gallery.h"
+#include "layerlist.h"
+#include "mainwindow.h"
+#include "messages.h"
+#include "options.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QTextStream>
+#include <QTranslator>
+
+#include <cstdio>
+
+namespace {
+
+enum ExitCode { Fine = 0, Failed = 1 };
+
+void print(std::FILE* stream, const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+}
+
+int fail(const QString& path, const drawing::Error& error)
+{
+    print(stderr, QStringLiteral("layerbench: %1: %2\n")
+                      .arg(QDir::toNativeSeparators(path), messages::describe(error)));
+    return Failed;
+}
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qEnvironmentVariableIsSet("DISPLAY") ||
+           qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+QString sampleDrawing()
+{
+    const QDir samples(QStringLiteral(LAYERBENCH_SAMPLES));
+    const QStringList found = samples.entryList({QStringLiteral("*.dxf")}, QDir::Files, QDir::Name);
+    return found.isEmpty() ? QString() : samples.filePath(found.first());
+}
+
+int printList(const Options& options)
+{
+    const auto drawing = drawing::Drawing::open(options.file);
+    if (!drawing)
+        return fail(options.file, drawing.error());
+    print(stdout, QString::fromUtf8(layerListJson(**drawing)));
+    return Fine;
+}
+
+/// Opens the drawing in the foreground and draws the pictures that were asked for.
+int makePictures(const Options& options)
+{
+    MainWindow window;
+    window.show();
+    const bool useSample = options.file.isEmpty() && !options.gallery.isEmpty();
+    const QString path = useSample ? sampleDrawing() : options.file;
+    if (!path.isEmpty()) {
+        auto file = readFile(path, nullptr, QThread::currentThread());
+        if (!file)
+            return fail(path, file.error());
+        window.setFile(std::move(*file));
+    }
+    QCoreApplication::processEvents();
+    if (!options.screenshot.isEmpty()) {
+        if (const auto saved = savePicture(window, options.screenshot); !saved)
+            return fail(options.screenshot, saved.error());
+    }
+    if (!options.gallery.isEmpty()) {
+        if (const auto saved = writeGallery(window, options.gallery); !saved)
+            return fail(options.gallery, saved.error());
+    }
+    return Fine;
+}
+
+int runWindow(const Options& options)
+{
+    MainWindow window;
+    window.show();
+    if (!options.command.isEmpty()) {
+        const QString command = options.command;
+        // Queued, so the command's dialogs open over a window that is ready.
+        QObject::connect(
+            &window, &MainWindow::fileOpened, &window,
+            [&window, command, done = false]() mutable {
+                if (!std::exchange(done, true))
+                    window.runCommand(command);
+            },
+            Qt::QueuedConnection);
+    }
+    if (!options.file.isEmpty())
+        window.openFile(options.file);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const bool display = hasDisplay();
+    if (!display)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("layerbench"));
+    QApplication::setApplicationDisplayName(QStringLiteral("图层工作台"));
+    QApplication::setApplicationVersion(QStringLiteral(LAYERBENCH_VERSION));
+    QApplication::setOrganizationName(QStringLiteral("layerbench"));
+    QTranslator translator;
+    if (translator.load(
+            QStringLiteral("qtbase_zh_CN"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&translator);
+
+    const auto options = parseOptions(QApplication::arguments());
+    if (!options) {
+        print(options.error().code == Fine ? stdout : stderr, options.error().text);
+        return options.error().code;
+    }
+    if (options->list)
+        return printList(*options);
+    if (options->isBatch())
+        return makePictures(*options);
+    if (!display) {
+        print(stderr, QStringLiteral("layerbench: 没有可用的显示；"
+                                     "可用 --gallery、--screenshot 或 --list。\n"));
+        return Failed;
+    }
+    return runWindow(*options);
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "commandtable.h"
+#include "fileworker.h"
+
+#include <QMainWindow>
+
+#include <vector>
+
+class Canvas;
+class CommandLine;
+class RecentFiles;
+class StatusFields;
+
+/// The workbench: one drawing, its canvas, and the layer commands.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+
+    /// Opens in the background; asks first when the present drawing has unsaved changes. A file
+    /// that cannot be opened is reported in a message box and the present drawing stays.
+    void openFile(const QString& path);
+    /// Takes over a drawing that was read already.
+    void setFile(OpenedFile file);
+    /// Runs what was typed; anything that cannot run is answered in the echo.
+    void runCommand(const QString& word);
+
+    drawing::Drawing* drawing() const { return m_drawing.get(); }
+    Canvas* canvas() const { return m_canvas; }
+
+signals:
+    void fileOpened(); ///< The drawing shown is another one.
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    struct ActionRow;
+    static const ActionRow kActions[];
+
+    void createActions();
+    void createCommandLine();
+    void connectParts();
+
+    void chooseFile();
+    void save();
+    void saveAs();
+    void quit();
+    void undo();
+    void redo();
+    void zoomToExtents();
+    void toggleBackground();
+    void about();
+
+    void runLayerCommand(const CommandRow& row);
+    void showLayers();
+    void rebuildGeometry();
+    void updateState();
+    /// True when there is nothing to lose: unmodified, saved now, or given up by the user.
+    bool confirmDiscard();
+    void saveTo(const QString& path);
+    void waitForWorker();
+    bool isBusy() const { return m_commandRunning || m_worker->isBusy(); }
+    void report(const QString& title, const QString& path, const drawing::Error& error);
+    QAction* action(const char* name) const;
+
+    std::unique_ptr<drawing::Drawing> m_drawing;
+    std::unique_ptr<FileWorker> m_worker; ///< Behind the drawing: it ends first.
+    Canvas* m_canvas = nullptr;
+    CommandLine* m_commandLine = nullptr;
+    RecentFiles* m_recent = nullptr;
+    StatusFields* m_status = nullptr;
+    bool m_commandRunning = false;
+    bool m_waiting = false; ///< For the worker, before going on with what was asked for.
+};

@@ -1,0 +1,60 @@
+#include "messages.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace messages {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Messages", text);
+}
+
+} // namespace
+
+SaveChoice askToSave(QWidget* parent, const QString& fileName)
+{
+    QMessageBox box(QMessageBox::Question, tr("图层工作台"),
+        tr("图形“%1”有未保存的更改。是否保存？").arg(fileName), QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    QAbstractButton* const keep = box.addButton(tr("保存"), QMessageBox::AcceptRole);
+    QAbstractButton* const discard = box.addButton(tr("不保存"), QMessageBox::DestructiveRole);
+    box.setEscapeButton(box.addButton(tr("取消"), QMessageBox::RejectRole));
+    box.exec();
+    if (box.clickedButton() == keep)
+        return SaveChoice::Save;
+    return box.clickedButton() == discard ? SaveChoice::Discard : SaveChoice::Cancel;
+}
+
+QString describe(const drawing::Error& error)
+{
+    return error.line > 0 ? tr("第 %1 行: %2").arg(error.line).arg(error.text) : error.text;
+}
+
+void showFailure(
+    QWidget* parent, const QString& title, const QString& path, const drawing::Error& error)
+{
+    QMessageBox box(QMessageBox::Warning, title,
+        QDir::toNativeSeparators(path) + QLatin1Char('\n') + describe(error), QMessageBox::NoButton,
+        parent);
+    box.setTextFormat(Qt::PlainText);
+    box.addButton(tr("确定"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+void showAbout(QWidget* parent)
+{
+    QMessageBox box(QMessageBox::NoIcon, tr("关于图层工作台"),
+        tr("<b>图层工作台 %1</b><p>打开 DXF 图形，管理其中的图层。</p>")
+            .arg(QCoreApplication::applicationVersion()),
+        QMessageBox::NoButton, parent);
+    box.setIconPixmap(QPixmap(QStringLiteral(":/workbench/app-64.png")));
+    box.addButton(tr("确定"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+} // namespace messages

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "error.h"
+
+#include <QString>
+
+class QWidget;
+
+/// The workbench's own message boxes.
+namespace messages {
+
+enum class SaveChoice { Save, Discard, Cancel };
+
+/// Asks what becomes of unsaved changes; Esc means cancel.
+SaveChoice askToSave(QWidget* parent, const QString& fileName);
+
+/// The line of the file, where one is to blame, and the cause.
+QString describe(const drawing::Error& error);
+/// Names file, line and cause of what went wrong.
+void showFailure(
+    QWidget* parent, const QString& title, const QString& path, const drawing::Error& error);
+
+void showAbout(QWidget* parent);
+
+} // namespace messages
