@@ -374,11 +374,10 @@ def draw_layout(doc):
     doc.layouts.rename("Layout1", "三层平面 A2")
     layout.page_setup(size=(594, 420), margins=(0, 0, 0, 0), units="mm")
     insert(layout, "图框A2", 0, 0, "A-TTLB").add_auto_attribs(TITLE)
-    viewport = layout.add_viewport(center=(304.5, 242), size=(557, 333), view_center_point=(21000, 9400),
-                                   view_height=33300)
+    viewport = layout.add_viewport(center=(304.5, 210), size=(559, 400), view_center_point=(21000, 4800),
+                                   view_height=40000)
     viewport.dxf.layer = "视口"
-    viewport.frozen_layers = [doc.layers.get(name).dxf.handle for name in ("A-TTLB", "文字-工位号")]
-    text(layout, "三层平面图  1:100", 200, 50, 8, "文字-说明")
+    viewport.frozen_layers = ["A-TTLB", "文字-工位号"]
 
 
 def add_styles(doc):

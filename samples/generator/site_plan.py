@@ -8,7 +8,7 @@ from .drafting import Layer, add_layers, add_linetypes, box, circle, closed, ins
 
 LAYERS = [
     Layer("0", 7), Layer("G-PROP", 6, "PHANTOM", 70, description="Site boundary"),
-    Layer("等高线-计曲线", 33, weight=35), Layer("等高线-首曲线", 34, weight=13), Layer("建筑-轮廓", 7, weight=50),
+    Layer("等高线-计曲线", 30, weight=35), Layer("等高线-首曲线", 32, weight=13), Layer("建筑-轮廓", 7, weight=50),
     Layer("建筑-填充", 8, weight=5), Layer("道路-边线", 2, weight=30), Layer("道路-中线", 1, "CENTER", 13),
     Layer("C-PRKG", 9, weight=18), Layer("水体", 5, weight=25), Layer("水体-填充", 142, weight=5),
     Layer("L-PLNT-TREE", 3, weight=13), Layer("L-PLNT-SHRB", 94, weight=9, flags="l"), Layer("步行道", 42, weight=18),
@@ -62,7 +62,7 @@ def draw_ground(space):
                 "layer": "等高线-计曲线" if index else "等高线-首曲线", "elevation": 62 - level, "const_width": 0.25 if index else 0})
         if index:
             x, y = contour(6 + 3.4 * level, pi)
-            text(space, str(62 - level), x, y, 1.4, "文字")
+            text(space, str(62 - level), x + 1.6, y, 1.4, "文字")
     box(space, 0, 0, 180, 120, "G-PROP", const_width=0.3)
     for x in range(0, 181, 30):
         for y in range(0, 121, 30):
@@ -101,7 +101,7 @@ def draw_buildings(space):
 
 def draw_trees(space, rng):
     spots = [(x, y) for x in range(6, 100, 7) for y in (57.5,) if x < 84] + [(x, 36.5) for x in range(104, 166, 7)]
-    spots += [(88, y) for y in range(66, 120, 7)] + [(99.5, y) for y in range(66, 120, 7)]
+    spots += [(85.5, y) for y in range(66, 120, 7)] + [(99.5, y) for y in range(66, 120, 7)]
     for x, y in spots:
         insert(space, "阔叶树", x, y, "L-PLNT-TREE", rng.randrange(360), rng.choice((0.9, 1.0, 1.1)))
     placed = []
@@ -126,7 +126,7 @@ def make():
     draw_trees(space, random.Random(11))
     insert(space, "指北针", 188, 110, "G-ANNO-NORTH")
     text(space, "青禾科技园总平面图", 82, -8, 5, "文字")
-    text(space, "1:500", 116, -8.4, 3.2, "文字")
+    text(space, "1:500", 124, -8.4, 3.2, "文字")
     doc.header["$CLAYER"] = "道路-边线"
     doc.header["$EXTMIN"], doc.header["$EXTMAX"] = (0, -12, 0), (194, 120, 0)
     return doc

@@ -130,6 +130,8 @@ def draw_flange(space, x, y):
         for step in range(800, 1700, 200):
             end = min(400, right - left - step)
             line(space, left + step, y + sign * 600, left + step + end, y + sign * (600 + end), "零件-剖面线")
+    for edge in (left, right):
+        line(space, edge, y - 600, edge, y + 600, "零件-轮廓")
     text(space, "轴承端盖  10:1", x + 2300, y - 2900, 350, "文字")
     text(space, "%%c400", x + 1900, y + 1900, 280, "尺寸", "LEFT")
     text(space, "6-%%c34 均布", x + 1900, y - 1900, 280, "尺寸", "LEFT")
@@ -156,6 +158,9 @@ def make():
     text_table(space, 13500, -6000, (2000, 4000, 2000, 4000), rows, 300, "文字", "图框", 620, style="STANDARD")
     for margin in (0, 500):
         polyline(space, rectangle(-2500 + margin, -12200 + margin, 32500 - margin, 18000 - margin), "图框")
+    viewport = doc.layout("Layout1").add_viewport(center=(210, 148), size=(400, 280), view_center_point=(15000, 2900),
+                                                  view_height=32000)
+    viewport.frozen_layers = ["管线-电缆", "备用"]
     doc.header["$LTSCALE"] = 60
     doc.header["$CLAYER"] = "设备"
     doc.header["$EXTMIN"], doc.header["$EXTMAX"] = (-2500, -12200, 0), (32500, 18000, 0)
