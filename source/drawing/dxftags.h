@@ -17,10 +17,13 @@ struct Tag
     qint64 end = 0;         ///< File offset behind the value's line end.
 
     double toDouble() const;          ///< 0.0 for text that is not a number.
-    qint64 toInteger() const;         ///< 0 for text that is not a number.
+    qint64 toInteger() const;         ///< 0 for text that is not a number; a fraction is cut off.
     quint64 toHandle() const;         ///< Hexadecimal; 0 for text that is not.
     std::string_view trimmed() const; ///< The value without blanks around it.
 };
+
+/// `text` without blanks and tabs around it.
+std::string_view trimmedView(std::string_view text);
 
 /// Walks over the tags of a byte range. Stops at the range's end, at a cut-off pair, and at a group
 /// code that is not a number; `broken()` tells the last two from the first.
@@ -28,14 +31,15 @@ class TagReader
 {
 public:
     /// `bytes` must outlive the reader; `base` is the file offset of its first byte.
-    TagReader(std::string_view bytes, qint64 base);
+    explicit TagReader(std::string_view bytes, qint64 base = 0);
+
+    /// Reads the next tag; false, with `tag` untouched, when there is none.
     bool next(Tag& tag);
     bool broken() const { return m_broken; }
+    /// File offset of the tag that `next` reads next.
     qint64 offset() const { return m_base + m_position; }
 
 private:
-    std::string_view takeLine();
-
     std::string_view m_bytes;
     qint64 m_base = 0;
     qint64 m_position = 0;

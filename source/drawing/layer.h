@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QString>
 
 #include <optional>
@@ -25,11 +24,18 @@ struct LayerProperties
     QString linetype = QStringLiteral("Continuous");
     int lineweight = -3;  ///< Hundredths of a millimetre; -3 is "default".
     int transparency = 0; ///< Percent, 0..90.
-    QString plotStyle;    ///< Name; read-only, files hold a handle.
+    /// Name; read-only, as files hold a handle. "Color_N" where plot styles go by colour.
+    QString plotStyle;
     QString description;
 };
 
 bool operator==(const LayerProperties& a, const LayerProperties& b);
+bool operator!=(const LayerProperties& a, const LayerProperties& b);
+
+/// The lineweights that exist, in hundredths of a millimetre: -3 default, -2 by block, -1 by layer.
+constexpr int kLineweights[] = {-3, -2, -1, 0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70,
+    80, 90, 100, 106, 120, 140, 158, 200, 211};
+bool isLineweight(int hundredths);
 
 struct Layer
 {
