@@ -1,0 +1,84 @@
+#pragma once
+
+#include "entities.h"
+#include "nameinterner.h"
+
+#include <QByteArray>
+
+#include <array>
+#include <string_view>
+#include <vector>
+
+namespace drawing {
+
+/// A range of file offsets; null when there is none.
+struct ByteRange
+{
+    qint64 begin = -1;
+    qint64 end = -1;
+
+    bool isNull() const { return begin < 0; }
+    bool contains(qint64 offset) const { return offset >= begin && offset < end; }
+};
+
+enum class HeaderVariable { Version, CodePage, CurrentLayer, HandleSeed, PlotStyleMode, Count };
+
+enum class TableKind { Layer, Linetype, AppId, Other, Count };
+
+/// A table of the TABLES section.
+struct TablePlace
+{
+    ByteRange head; ///< From `0 TABLE` to the first record; null when the file has no such table.
+    qint64 endTab = -1; ///< File offset behind the last record.
+    std::vector<ByteRange> records;
+
+    bool isNull() const { return head.isNull(); }
+};
+
+enum class ObjectKind : quint8 { Other, Dictionary, XRecord, LayerList };
+
+/// An object of the OBJECTS section. `LayerList` objects name layers in their 8 groups.
+struct ObjectPlace
+{
+    qint64 begin = 0;
+    qint64 end = 0;
+    quint64 handle = 0;
+    ObjectKind kind = ObjectKind::Other;
+};
+
+/// A place outside the entities where a layer is named: `value` up to its line end.
+struct LayerNamePlace
+{
+    qint64 value = 0;
+    LayerId layer = LayerId::None;
+};
+
+/// Where things stand in the file. Names of layers are kept as spelled in `layerSpellings`; until
+/// the layers are known, a `LayerId` here is the number of a spelling.
+struct DrawingIndex
+{
+    std::array<ByteRange, static_cast<size_t>(HeaderVariable::Count)> header; ///< Value lines.
+    std::array<TablePlace, static_cast<size_t>(TableKind::Count)> tables;
+    std::vector<Block> blocks; ///< Names are filled in when the code page is known.
+    std::vector<ByteRange> blockNames;
+    std::vector<Entity> entities;
+    /// For each entity where its layer name stands, counted from its begin; 0 when it names none.
+    std::vector<quint32> layerNameAt;
+    std::vector<LayerNamePlace> blockLayers; ///< Of BLOCK and ENDBLK.
+    std::vector<qint64> xdataNames;          ///< Value lines of the 1003 groups.
+    std::vector<ObjectPlace> objects;
+    NameInterner layerSpellings;
+
+    qint64 headerEnd = -1; ///< The HEADER section's `0 ENDSEC`; -1 when there is no such section.
+    qint64 tablesEnd = -1; ///< The TABLES section's `0 ENDSEC`.
+    qint64 firstSection = -1; ///< `0 SECTION` of the first section.
+    qint64 firstBody = -1;    ///< Of the first section that must follow TABLES; else `0 EOF`.
+
+    const ByteRange& variable(HeaderVariable which) const
+    {
+        return header[static_cast<size_t>(which)];
+    }
+    const TablePlace& table(TableKind which) const { return tables[static_cast<size_t>(which)]; }
+};
+
+} // namespace drawing
