@@ -1,0 +1,83 @@
+#pragma once
+
+#include "drawingindex.h"
+#include "editjournal.h"
+#include "handleindex.h"
+#include "layerrecord.h"
+#include "layertable.h"
+#include "textcodec.h"
+
+#include <QSet>
+#include <QStringList>
+
+#include <optional>
+
+namespace drawing {
+
+/// What changes as a whole with a step, besides the layers and the bytes.
+struct DocumentState
+{
+    LayerId current = LayerId::None;
+    quint64 handlesTaken = 0;  ///< New handles given out.
+    quint32 recordsMade = 0;   ///< LAYER records ever inserted.
+    int layerRecordsAdded = 0; ///< Those inserted less those removed.
+    QSet<QString> newAppIds;   ///< Added to the APPID table.
+};
+
+inline bool operator==(const DocumentState& a, const DocumentState& b)
+{
+    return a.current == b.current && a.handlesTaken == b.handlesTaken &&
+           a.recordsMade == b.recordsMade && a.layerRecordsAdded == b.layerRecordsAdded &&
+           a.newAppIds == b.newAppIds;
+}
+
+/// An entity that changed its layer.
+struct EntityChange
+{
+    int entity = 0;
+    LayerId before = LayerId::None;
+    LayerId after = LayerId::None;
+};
+
+/// The inside of a drawing, shared by what reads and what edits it.
+struct DrawingData
+{
+    std::string_view bytes; ///< The file as mapped.
+    DrawingIndex index;
+    TextCodec codec;
+    LayerRecordLimits limits;
+    QHash<QString, int> blockByName;    ///< By folded name.
+    QHash<QString, QString> linetypes;  ///< Names as the file spells them, by folded name.
+    QSet<QString> appIds;               ///< Folded names.
+    QHash<quint64, QString> plotStyles; ///< Names by handle; unused where styles go by colour.
+    bool plotStylesByColor = true;
+    std::optional<HandleIndex> handles;
+    quint64 freeHandle = 0; ///< The first one to give out; 0 until it is needed.
+    /// Where layers are named outside the entities' own group: BLOCK, ENDBLK and XDATA.
+    std::vector<LayerNamePlace> namePlaces;
+
+    EditJournal journal;
+    LayerTable layers;
+    DocumentState state;
+    std::vector<EntityChange> entityChanges; ///< Of the open step.
+    QStringList notices;
+
+    std::string_view view(const ByteRange& range) const
+    {
+        return range.isNull() ? std::string_view()
+                              : bytes.substr(static_cast<size_t>(range.begin),
+                                    static_cast<size_t>(range.end - range.begin));
+    }
+    TagReader tags(const ByteRange& range) const
+    {
+        return TagReader(view(range), range.isNull() ? 0 : range.begin);
+    }
+    /// The line that begins at this offset, without its line end.
+    std::string_view lineAt(qint64 offset) const;
+    /// Null when there is no such object. The index of handles is made at the first call.
+    const ObjectPlace* objectByHandle(quint64 handle);
+    /// Name of the plot style of a layer with this colour index and plot style handle.
+    QString plotStyleName(int colorIndex, quint64 handle) const;
+};
+
+} // namespace drawing

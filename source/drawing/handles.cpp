@@ -1,0 +1,81 @@
+#include "handles.h"
+
+#include <algorithm>
+
+namespace drawing {
+
+namespace {
+
+template <class Visit>
+void visitEntries(DrawingData& data, const ObjectPlace* dictionary, Visit visit)
+{
+    if (!dictionary)
+        return;
+    TagReader tags = data.tags({dictionary->begin, dictionary->end});
+    std::string_view key;
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == 3)
+            key = tag.trimmed();
+        else if ((tag.code == 350 || tag.code == 360) && !key.empty())
+            visit(key, data.objectByHandle(tag.toHandle()));
+    }
+}
+
+} // namespace
+
+const ObjectPlace* dictionaryEntry(
+    DrawingData& data, const ObjectPlace* dictionary, std::string_view wanted)
+{
+    const ObjectPlace* found = nullptr;
+    visitEntries(data, dictionary, [&](std::string_view key, const ObjectPlace* object) {
+        if (key == wanted && !found)
+            found = object;
+    });
+    return found;
+}
+
+std::vector<const ObjectPlace*> dictionaryObjects(DrawingData& data, const ObjectPlace* dictionary)
+{
+    std::vector<const ObjectPlace*> objects;
+    visitEntries(data, dictionary, [&](std::string_view, const ObjectPlace* object) {
+        if (object)
+            objects.push_back(object);
+    });
+    return objects;
+}
+
+quint64 extensionDictionary(TagReader tags)
+{
+    bool inGroup = false;
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == 102)
+            inGroup = tag.trimmed() == "{ACAD_XDICTIONARY";
+        else if (inGroup && tag.code == 360)
+            return tag.toHandle();
+    }
+    return 0;
+}
+
+quint64 firstFreeHandle(const DrawingData& data)
+{
+    constexpr quint64 kHighest = quint64(1) << 62;
+    const ByteRange& variable = data.index.variable(HeaderVariable::HandleSeed);
+    Tag seed;
+    seed.value = data.view(variable);
+    quint64 free = std::max<quint64>(seed.toHandle(), 1);
+    // Some programs write a seed that is already in use.
+    TagReader tags(data.bytes);
+    Tag tag;
+    while (tags.next(tag)) {
+        if ((tag.code != 5 && tag.code != 105) || tag.valueBegin == variable.begin)
+            continue;
+        const quint64 handle = tag.toHandle();
+        if (handle >= free && handle < kHighest)
+            free = handle + 1;
+    }
+    return free;
+}
+
+} // namespace drawing

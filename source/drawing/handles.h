@@ -1,0 +1,20 @@
+#pragma once
+
+#include "drawingdata.h"
+
+namespace drawing {
+
+/// The object a dictionary holds under `key`, as the file was read; null when there is none.
+const ObjectPlace* dictionaryEntry(
+    DrawingData& data, const ObjectPlace* dictionary, std::string_view key);
+
+/// The objects a dictionary holds, as the file was read; none of a null dictionary.
+std::vector<const ObjectPlace*> dictionaryObjects(DrawingData& data, const ObjectPlace* dictionary);
+
+/// Handle of the extension dictionary of a record, object or table head; 0 when it has none.
+quint64 extensionDictionary(TagReader tags);
+
+/// The lowest handle that is surely free in the file as read, by what it uses and by its seed.
+quint64 firstFreeHandle(const DrawingData& data);
+
+} // namespace drawing

@@ -1,0 +1,218 @@
+#include "layeredits.h"
+
+#include "symboltables.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace drawing {
+
+namespace {
+
+constexpr int kLongestName = 255;
+constexpr int kLongestDescription = 255;
+constexpr int kMostTransparent = 90;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("drawing", text);
+}
+
+tl::unexpected<Error> refusal(const QString& text)
+{
+    return tl::make_unexpected(Error{text, 0, false});
+}
+
+bool mayStandInName(QChar c)
+{
+    const QLatin1String never("\\<>/\":;?*|,=`");
+    return c.unicode() >= 0x20 && c.unicode() != 0x7f && !QString(never).contains(c);
+}
+
+/// Text as it can be read back: a value is one line.
+QString oneLine(QString text)
+{
+    for (QChar& c : text) {
+        if (c.unicode() < 0x20 || c.unicode() == 0x7f)
+            c = QLatin1Char(' ');
+    }
+    return text;
+}
+
+} // namespace
+
+Expected<void> LayerEdits::checkName(const QString& name, LayerId own) const
+{
+    if (name.isEmpty())
+        return refusal(tr("图层名不能为空。"));
+    if (name.size() > kLongestName)
+        return refusal(tr("图层名“%1…”超过 255 个字符。").arg(name.left(20)));
+    if (!std::all_of(name.begin(), name.end(), mayStandInName))
+        return refusal(
+            tr("图层名“%1”含有不能使用的字符：\\ < > / \" : ; ? * | , = ` 或控制字符。").arg(name));
+    const Layer* other = m_data.layers.find(name);
+    if (other && other->id != own)
+        return refusal(tr("已有名为“%1”的图层。").arg(other->properties.name));
+    return {};
+}
+
+Expected<void> LayerEdits::checkRename(const LayerEntry& entry, const QString& name) const
+{
+    const QString& old = entry.layer.properties.name;
+    if (old == QLatin1String("0"))
+        return refusal(tr("图层“0”不能重命名。"));
+    if (entry.layer.dependsOnReference)
+        return refusal(tr("图层“%1”依赖外部参照，不能重命名。").arg(old));
+    return checkName(name, entry.layer.id);
+}
+
+Expected<void> LayerEdits::checkValues(
+    const LayerProperties& before, const LayerProperties& after) const
+{
+    const auto refuse = [&after](const char* text, const QString& value) {
+        return refusal(tr(text).arg(after.name, value));
+    };
+    if (after.colorIndex < 1 || after.colorIndex > 255)
+        return refuse("图层“%1”：没有颜色索引 %2。", QString::number(after.colorIndex));
+    if (after.trueColor && *after.trueColor > 0xffffff)
+        return refuse("图层“%1”：没有真彩色 %2。", QString::number(*after.trueColor, 16));
+    if (after.lineweight != before.lineweight && !isLineweight(after.lineweight))
+        return refuse("图层“%1”：没有线宽 %2。", QString::number(after.lineweight));
+    if (after.transparency < 0 || after.transparency > kMostTransparent)
+        return refuse(
+            "图层“%1”：透明度 %2 不在 0 到 90 之间。", QString::number(after.transparency));
+    if (after.description.size() > kLongestDescription)
+        return refuse("图层“%1”：说明“%2…”超过 255 个字符。", after.description.left(20));
+    return {};
+}
+
+/// The wanted properties in the form in which the file will give them back.
+Expected<LayerProperties> LayerEdits::settled(
+    const LayerProperties& before, const LayerProperties& wanted) const
+{
+    LayerProperties after = wanted;
+    after.name = wanted.name.trimmed();
+    after.description = oneLine(wanted.description);
+    const QString key = wanted.linetype.trimmed().toCaseFolded();
+    const QString continuous = QStringLiteral("Continuous");
+    if (key == before.linetype.toCaseFolded())
+        after.linetype = before.linetype;
+    else if (m_data.linetypes.contains(key))
+        after.linetype = m_data.linetypes.value(key);
+    else if (key == continuous.toCaseFolded())
+        after.linetype = continuous;
+    else
+        return refusal(tr("图层“%1”：图形中没有线型“%2”。").arg(after.name, wanted.linetype));
+    if (const auto checked = checkValues(before, after); !checked)
+        return tl::make_unexpected(checked.error());
+    return after;
+}
+
+/// Older formats lack some groups: what they would hold stays as it was, and a notice says so.
+void LayerEdits::dropUnsupported(const LayerProperties& before, LayerProperties& after)
+{
+    const LayerRecordLimits& limits = m_data.limits;
+    const auto drop = [&](bool isStored, auto LayerProperties::*member, const char* notice) {
+        if (isStored || after.*member == before.*member)
+            return;
+        after.*member = before.*member;
+        const QString text = tr(notice).arg(after.name);
+        if (!m_data.notices.contains(text))
+            m_data.notices.append(text);
+    };
+    drop(limits.plotFlag, &LayerProperties::plotted,
+        "图层“%1”：此图形的 DXF 版本不能保存“不打印”，该设置未改动。");
+    drop(limits.lineweight, &LayerProperties::lineweight,
+        "图层“%1”：此图形的 DXF 版本不能保存线宽，该设置未改动。");
+    drop(limits.trueColor, &LayerProperties::trueColor,
+        "图层“%1”：此图形的 DXF 版本不能保存真彩色，只保存了颜色索引。");
+}
+
+void LayerEdits::needApplications(const LayerProperties& before, const LayerProperties& after)
+{
+    SymbolTables tables(m_data);
+    if (before.transparency != after.transparency)
+        tables.needAppId(QLatin1String(kTransparencyApp));
+    if (before.description != after.description)
+        tables.needAppId(QLatin1String(kStandardApp));
+}
+
+Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& properties)
+{
+    if (!m_data.layers.layer(id))
+        return refusal(tr("图层“%1”已不存在。").arg(properties.name));
+    LayerEntry entry = m_data.layers.entry(id);
+    const LayerProperties before = entry.layer.properties;
+    auto wanted = settled(before, properties);
+    if (!wanted)
+        return tl::make_unexpected(wanted.error());
+    LayerProperties after = *wanted;
+    if (after.name != before.name) {
+        if (const auto checked = checkRename(entry, after.name); !checked)
+            return checked;
+    }
+    dropUnsupported(before, after);
+    after.plotStyle = m_data.plotStyleName(after.colorIndex, entry.plotStyle);
+    if (after == before)
+        return {};
+    needApplications(before, after);
+    entry.layer.properties = after;
+    SymbolTables tables(m_data);
+    if (entry.hasRecord)
+        tables.setLayerRecord(
+            entry, editedLayerRecord(tables.layerRecord(entry), before, after, m_data.codec));
+    else
+        tables.addLayerRecord(entry);
+    m_data.layers.change(id, entry);
+    return {};
+}
+
+Expected<LayerId> LayerEdits::add(const LayerProperties& properties)
+{
+    auto wanted = settled({}, properties);
+    if (!wanted)
+        return tl::make_unexpected(wanted.error());
+    if (const auto checked = checkName(wanted->name, LayerId::None); !checked)
+        return tl::make_unexpected(checked.error());
+    LayerEntry entry;
+    entry.layer.properties = *wanted;
+    dropUnsupported({}, entry.layer.properties);
+    needApplications({}, entry.layer.properties);
+    SymbolTables(m_data).addLayerRecord(entry);
+    LayerProperties& p = entry.layer.properties;
+    p.plotStyle = m_data.plotStyleName(p.colorIndex, entry.plotStyle);
+    return m_data.layers.add(entry);
+}
+
+Expected<void> LayerEdits::remove(LayerId id)
+{
+    const Layer* layer = m_data.layers.layer(id);
+    if (!layer)
+        return refusal(tr("图层已不存在。"));
+    const QString& name = layer->properties.name;
+    if (name == QLatin1String("0"))
+        return refusal(tr("图层“0”不能删除。"));
+    if (id == m_data.state.current)
+        return refusal(tr("当前图层“%1”不能删除。").arg(name));
+    if (layer->used())
+        return refusal(tr("图层“%1”上有 %2 个对象，不能删除。").arg(name).arg(layer->entityCount));
+    LayerEntry entry = m_data.layers.entry(id);
+    SymbolTables(m_data).removeLayerRecord(entry);
+    entry.present = false;
+    m_data.layers.change(id, entry);
+    return {};
+}
+
+Expected<void> LayerEdits::setCurrent(LayerId id)
+{
+    if (!m_data.layers.layer(id))
+        return refusal(tr("图层已不存在。"));
+    if (id == m_data.state.current)
+        return {};
+    m_data.state.current = id;
+    SymbolTables(m_data).writeCurrentLayer();
+    return {};
+}
+
+} // namespace drawing

@@ -1,0 +1,181 @@
+#include "layerobjects.h"
+
+#include "handles.h"
+
+#include <unordered_set>
+
+namespace drawing {
+
+namespace {
+
+/// Where an XRECORD's own data begin.
+int dataBegin(const TagList& tags)
+{
+    const int marker = tags.find(100, 0, tags.size());
+    return marker == TagList::kNone ? tags.size() : marker + 1;
+}
+
+class ObjectUpdate
+{
+public:
+    ObjectUpdate(DrawingData& data, const LayerRenames& renames) : m_data(data), m_renames(renames)
+    {
+    }
+
+    void run();
+
+private:
+    using Rewrite = void (ObjectUpdate::*)(TagList&) const;
+
+    void rewrite(const ObjectPlace& object, Rewrite how) const;
+    void rewriteAll(const ObjectPlace* dictionary, Rewrite how) const;
+    void rewriteList(TagList& tags) const;
+    void rewriteState(TagList& tags) const;
+    void rewriteFilter(TagList& tags) const;
+    void rewriteGroup(TagList& tags) const;
+    bool renameAt(TagList& tags, int at) const;
+    bool isRemoved(const TagList& tags, int at) const;
+
+    DrawingData& m_data;
+    const LayerRenames& m_renames;
+};
+
+void ObjectUpdate::run()
+{
+    for (const ObjectPlace& object : m_data.index.objects) {
+        if (object.kind == ObjectKind::LayerList)
+            rewrite(object, &ObjectUpdate::rewriteList);
+    }
+    const TablePlace& table = m_data.index.table(TableKind::Layer);
+    const quint64 handle = extensionDictionary(m_data.tags(table.head));
+    const ObjectPlace* extension = handle != 0 ? m_data.objectByHandle(handle) : nullptr;
+    rewriteAll(dictionaryEntry(m_data, extension, "ACAD_LAYERSTATES"), &ObjectUpdate::rewriteState);
+    rewriteAll(
+        dictionaryEntry(m_data, extension, "ACAD_LAYERFILTERS"), &ObjectUpdate::rewriteFilter);
+    rewriteAll(dictionaryEntry(m_data, extension, "ACLYDICTIONARY"), &ObjectUpdate::rewriteGroup);
+}
+
+void ObjectUpdate::rewriteAll(const ObjectPlace* dictionary, Rewrite how) const
+{
+    for (const ObjectPlace* object : dictionaryObjects(m_data, dictionary)) {
+        if (object->kind == ObjectKind::XRecord)
+            rewrite(*object, how);
+    }
+}
+
+void ObjectUpdate::rewrite(const ObjectPlace& object, Rewrite how) const
+{
+    const QByteArray before = m_data.journal.current(object.begin, object.end);
+    TagList tags(before);
+    (this->*how)(tags);
+    const QByteArray after = tags.bytes();
+    if (after != before)
+        m_data.journal.replace(object.begin, object.end, after);
+}
+
+bool ObjectUpdate::renameAt(TagList& tags, int at) const
+{
+    const QString key = m_data.codec.decode(tags.trimmed(at)).toCaseFolded();
+    const auto renamed = m_renames.newNames.constFind(key);
+    if (renamed == m_renames.newNames.constEnd())
+        return false;
+    tags.setValue(at, m_data.codec.encode(*renamed));
+    return true;
+}
+
+bool ObjectUpdate::isRemoved(const TagList& tags, int at) const
+{
+    if (tags.code(at) == 330)
+        return m_renames.removedHandles.contains(tags.handle(at));
+    const QString key = m_data.codec.decode(tags.trimmed(at)).toCaseFolded();
+    return tags.code(at) == 8 && m_renames.removedNames.contains(key);
+}
+
+void ObjectUpdate::rewriteList(TagList& tags) const
+{
+    for (int at = 0; at < tags.size(); ++at) {
+        if (tags.code(at) == 8)
+            renameAt(tags, at);
+    }
+}
+
+/// A layer state: a layer's tags run from its handle or name to the next layer's.
+void ObjectUpdate::rewriteState(TagList& tags) const
+{
+    std::vector<int> keep;
+    bool isKept = true;
+    const int begin = dataBegin(tags);
+    for (int at = 0; at < tags.size(); ++at) {
+        const bool isData = at >= begin;
+        const int code = tags.code(at);
+        if (isData && (code == 8 || code == 330 || code == 1001))
+            isKept = code == 1001 || !isRemoved(tags, at);
+        if (isKept && isData && (code == 8 || code == 302))
+            renameAt(tags, at);
+        if (isKept)
+            keep.push_back(at);
+    }
+    tags.keepOnly(keep);
+}
+
+/// A filter of the older kind: its own name, then the pattern of layer names.
+void ObjectUpdate::rewriteFilter(TagList& tags) const
+{
+    const int own = tags.find(1, dataBegin(tags), tags.size());
+    const int pattern = own == TagList::kNone ? own : tags.find(1, own + 1, tags.size());
+    if (pattern != TagList::kNone)
+        renameAt(tags, pattern);
+}
+
+/// A filter of the newer kind: a group lists handles, a filter compares names in its
+/// expression.
+void ObjectUpdate::rewriteGroup(TagList& tags) const
+{
+    std::vector<int> keep;
+    const int begin = dataBegin(tags);
+    for (int at = 0; at < tags.size(); ++at) {
+        if (at < begin || tags.code(at) != 330 || !isRemoved(tags, at))
+            keep.push_back(at);
+        if (at < begin || tags.code(at) != 301)
+            continue;
+        QString expression = m_data.codec.decode(tags.value(at));
+        const int name = expression.indexOf(QLatin1String("NAME==\""), 0, Qt::CaseInsensitive);
+        const int from = name + 7;
+        const int to = name < 0 ? -1 : expression.indexOf(QLatin1Char('"'), from);
+        const auto renamed = m_renames.newNames.constFind(
+            to < 0 ? QString() : expression.mid(from, to - from).toCaseFolded());
+        if (renamed != m_renames.newNames.constEnd())
+            tags.setValue(at, m_data.codec.encode(expression.replace(from, to - from, *renamed)));
+    }
+    tags.keepOnly(keep);
+}
+
+} // namespace
+
+void updateLayerObjects(DrawingData& data, const LayerRenames& renames)
+{
+    ObjectUpdate(data, renames).run();
+}
+
+void removeOwnedObjects(DrawingData& data, quint64 handle)
+{
+    std::unordered_set<quint64> seen;
+    std::vector<quint64> open = {handle};
+    while (!open.empty()) {
+        const quint64 next = open.back();
+        open.pop_back();
+        const ObjectPlace* object = next != 0 ? data.objectByHandle(next) : nullptr;
+        if (!object || !seen.insert(next).second)
+            continue;
+        const bool isDictionary = object->kind == ObjectKind::Dictionary;
+        TagReader tags = data.tags({object->begin, object->end});
+        Tag tag;
+        while (tags.next(tag)) {
+            if (tag.code == 360 || (tag.code == 350 && isDictionary))
+                open.push_back(tag.toHandle());
+        }
+        data.journal.replace(object->begin, object->end, {});
+    }
+}
+
+} // namespace drawing

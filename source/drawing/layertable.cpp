@@ -1,0 +1,122 @@
+#include "layertable.h"
+
+namespace drawing {
+
+namespace {
+
+QString keyOf(const LayerEntry& entry)
+{
+    return entry.layer.properties.name.toCaseFolded();
+}
+
+} // namespace
+
+bool LayerTable::isValid(LayerId id) const
+{
+    const int at = static_cast<int>(id);
+    return at >= 0 && at < entryCount();
+}
+
+LayerId LayerTable::load(const LayerEntry& entry)
+{
+    const auto id = static_cast<LayerId>(entryCount());
+    m_entries.emplace_back();
+    put(id, entry);
+    return id;
+}
+
+LayerId LayerTable::add(LayerEntry entry)
+{
+    const auto id = static_cast<LayerId>(entryCount());
+    m_entries.emplace_back().layer.id = id;
+    entry.present = true;
+    change(id, std::move(entry));
+    return id;
+}
+
+void LayerTable::change(LayerId id, LayerEntry after)
+{
+    after.layer.id = id;
+    note(id, entry(id), after);
+    put(id, after);
+}
+
+void LayerTable::note(LayerId id, const LayerEntry& before, const LayerEntry& after)
+{
+    const auto known = m_changeOf.constFind(static_cast<int>(id));
+    if (known != m_changeOf.constEnd()) {
+        m_changes[static_cast<size_t>(*known)].after = after;
+        return;
+    }
+    m_changeOf.insert(static_cast<int>(id), static_cast<int>(m_changes.size()));
+    m_changes.push_back({id, before, after});
+}
+
+void LayerTable::put(LayerId id, const LayerEntry& after)
+{
+    LayerEntry& entry = m_entries[static_cast<size_t>(id)];
+    const QString oldKey = keyOf(entry);
+    const QString newKey = keyOf(after);
+    const bool wasPresent = entry.present;
+    entry = after;
+    entry.layer.id = id;
+    m_isListed = false;
+    if (wasPresent == after.present && oldKey == newKey)
+        return;
+    if (wasPresent && m_byName.value(oldKey, LayerId::None) == id)
+        m_byName.remove(oldKey);
+    // A file may hold two records of one name: the first is the one entities are on.
+    if (after.present && !m_byName.contains(newKey))
+        m_byName.insert(newKey, id);
+}
+
+void LayerTable::setEntityCount(LayerId id, int count)
+{
+    m_entries[static_cast<size_t>(id)].layer.entityCount = count;
+    m_isListed = false;
+}
+
+const Layer* LayerTable::layer(LayerId id) const
+{
+    return isValid(id) && entry(id).present ? &entry(id).layer : nullptr;
+}
+
+const Layer* LayerTable::find(const QString& name) const
+{
+    return layer(m_byName.value(name.toCaseFolded(), LayerId::None));
+}
+
+const std::vector<Layer>& LayerTable::listed() const
+{
+    if (m_isListed)
+        return m_listed;
+    m_listed.clear();
+    for (const LayerEntry& entry : m_entries) {
+        if (entry.present)
+            m_listed.push_back(entry.layer);
+    }
+    m_isListed = true;
+    return m_listed;
+}
+
+std::vector<LayerChange> LayerTable::takeChanges()
+{
+    m_changeOf.clear();
+    std::vector<LayerChange> changes;
+    changes.swap(m_changes);
+    return changes;
+}
+
+void LayerTable::apply(const std::vector<LayerChange>& changes, bool forward)
+{
+    // Names may have been swapped: all old ones go before the new ones come.
+    for (const LayerChange& change : changes) {
+        LayerEntry gone = entry(change.id);
+        gone.present = false;
+        put(change.id, gone);
+    }
+    for (const LayerChange& change : changes)
+        put(change.id, forward ? change.after : change.before);
+}
+
+} // namespace drawing

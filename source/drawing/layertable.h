@@ -1,0 +1,70 @@
+#pragma once
+
+#include "editjournal.h"
+#include "layer.h"
+
+#include <QHash>
+
+#include <deque>
+#include <vector>
+
+namespace drawing {
+
+/// A layer and where its record stands.
+struct LayerEntry
+{
+    Layer layer;
+    EditPlace place; ///< Of the record: a range of the file, or an insertion.
+    qint64 end = -1; ///< Of the record's range; the insertion's place itself.
+    quint64 handle = 0;
+    quint64 plotStyle = 0;  ///< Handle of its plot style name object.
+    bool hasRecord = false; ///< Layers that only entities name have none.
+    bool present = false;   ///< False when deleted, or not added yet.
+};
+
+struct LayerChange
+{
+    LayerId id = LayerId::None;
+    LayerEntry before;
+    LayerEntry after;
+};
+
+/// The layers by id and by name. Layers that went stay on as entries, so ids never come back.
+class LayerTable
+{
+public:
+    /// Takes in a layer of the file; not recorded as a change.
+    LayerId load(const LayerEntry& entry);
+    /// Takes in a new layer.
+    LayerId add(LayerEntry entry);
+    /// Puts `after` in the layer's place; its id is kept.
+    void change(LayerId id, LayerEntry after);
+
+    bool isValid(LayerId id) const;
+    const LayerEntry& entry(LayerId id) const { return m_entries[static_cast<size_t>(id)]; }
+    int entryCount() const { return static_cast<int>(m_entries.size()); }
+    /// Counts entities; the layer need not be present.
+    void setEntityCount(LayerId id, int count);
+
+    const Layer* layer(LayerId id) const;
+    const Layer* find(const QString& name) const;
+    const std::vector<Layer>& listed() const;
+
+    /// What changed since the last call, one change a layer.
+    std::vector<LayerChange> takeChanges();
+    const std::vector<LayerChange>& changes() const { return m_changes; }
+    void apply(const std::vector<LayerChange>& changes, bool forward);
+
+private:
+    void put(LayerId id, const LayerEntry& entry);
+    void note(LayerId id, const LayerEntry& before, const LayerEntry& after);
+
+    std::deque<LayerEntry> m_entries; // A deque, so that pointers to layers stay good.
+    QHash<QString, LayerId> m_byName;
+    std::vector<LayerChange> m_changes;
+    QHash<int, int> m_changeOf; // Layer id -> its place in m_changes.
+    mutable std::vector<Layer> m_listed;
+    mutable bool m_isListed = false;
+};
+
+} // namespace drawing

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "drawingdata.h"
+
+namespace drawing {
+
+/// Adds and removes records of the TABLES section, and what goes with them: handles, the handle
+/// seed, the tables' counts. A table or section that is missing is made.
+class SymbolTables
+{
+public:
+    explicit SymbolTables(DrawingData& data) : m_data(data) {}
+
+    /// Adds a record for `entry`, filling in its place and handle.
+    void addLayerRecord(LayerEntry& entry);
+    void removeLayerRecord(const LayerEntry& entry);
+    /// The bytes of the layer's record as edited so far.
+    QByteArray layerRecord(const LayerEntry& entry) const;
+    void setLayerRecord(const LayerEntry& entry, const QByteArray& record);
+
+    /// Lists an XDATA application, where it is not listed yet.
+    void needAppId(const QString& name);
+    /// Writes the current layer's name to the header.
+    void writeCurrentLayer();
+
+private:
+    struct Spot;
+
+    Spot spot(TableKind kind) const;
+    void countRecords(const Spot& spot, TableKind kind, int added);
+    void makeFrame(const Spot& spot, TableKind kind, int records);
+    void writeHeader(std::string_view name, HeaderVariable which, int code, const QByteArray& text);
+    quint64 takeHandle();
+    quint64 tableHandle(TableKind kind) const;
+
+    DrawingData& m_data;
+};
+
+} // namespace drawing
