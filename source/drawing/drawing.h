@@ -6,6 +6,7 @@
 #include "layer.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <atomic>
 #include <functional>
@@ -39,14 +40,18 @@ public:
 
     /// Writes the drawing through a temporary file that replaces `path` only when whole.
     /// On success the drawing lives in `path` and is unmodified; on refusal nothing has changed.
+    /// May run on a worker thread while nobody edits; refuses while a step is open.
     Expected<void> save(const QString& path, Progress* progress = nullptr);
 
     QString path() const;
     /// True when the drawing differs from what its file holds.
     bool isModified() const;
 
-    const std::vector<Layer>& layers() const;          ///< In file order, deleted ones left out.
-    const Layer* layer(LayerId id) const;              ///< Null when there is none (any more).
+    /// In file order, deleted ones left out; then the layers that only entities name, which get a
+    /// record with their first edit; then those added. Valid until the next call after an edit.
+    const std::vector<Layer>& layers() const;
+    /// Null when there is none (any more). The pointer stays good while the drawing is open.
+    const Layer* layer(LayerId id) const;
     const Layer* findLayer(const QString& name) const; ///< Without regard to letter case.
     LayerId currentLayer() const;
 
@@ -59,12 +64,22 @@ public:
     /// Text of a value in the file's code page, `\U+XXXX` escapes resolved.
     QString decoded(std::string_view value) const;
 
-    // Edits; each needs an open step.
-    Expected<void> setLayerProperties(
-        LayerId id, const LayerProperties& properties); ///< Renames too.
-    Expected<LayerId> addLayer(const LayerProperties& properties);
-    Expected<void> removeLayer(LayerId id); ///< Refuses layer 0, the current layer and used layers.
+    // Edits; each needs an open step. A refused edit changes nothing.
+
+    /// Changes what differs, also the name; then all that names the layer follows at the end of the
+    /// step. Refuses a name that is empty, longer than 255, in use or with one of \ < > / " : ; ?
+    /// * | , = ` in it, renaming layer 0 or a layer that depends on a reference, a linetype the
+    /// drawing lacks, and values out of their ranges. What the file's version cannot store is left
+    /// as it was, see `takeNotices`. The plot style is not changed.
+    Expected<void> setLayerProperties(LayerId id, const LayerProperties& properties);
+    Expected<LayerId> addLayer(const LayerProperties& properties); ///< Refuses the same.
+    /// Refuses layer 0, the current layer and used layers. What still names the layer (block heads,
+    /// layer states, frozen layers of viewports) forgets it.
+    Expected<void> removeLayer(LayerId id);
     Expected<void> setCurrentLayer(LayerId id);
+    /// What edits since the last call had to leave out, a sentence each: the file's version may
+    /// have no place for lineweights, true colours or the plot flag.
+    QStringList takeNotices();
 
     /// Opens an undo step; steps do not nest.
     void beginStep(const QString& name);
@@ -72,6 +87,9 @@ public:
     void commitStep();
     /// Takes back what the open step did.
     void rollbackStep();
+    /// Lets listeners see what the open step did so far, as an applied dialog that stays open
+    /// wants it.
+    void publishStep();
     bool inStep() const;
 
     bool canUndo() const;
@@ -82,13 +100,16 @@ public:
     void redo();
 
 signals:
-    void
-    layersChanged(); ///< Any layer, or the current layer, changed; once per step, undo or redo.
+    /// Any layer, or the current layer, changed; once a step, undo, redo or `publishStep`.
+    void layersChanged();
     void entitiesChanged(); ///< Entities went, came or changed their layer.
     void modifiedChanged(bool modified);
 
 private:
     Drawing();
+    Expected<void> readyToEdit() const;
+    void announce(bool layers, bool entities);
+
     class Private;
     std::unique_ptr<Private> d;
 };

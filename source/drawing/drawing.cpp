@@ -1,0 +1,295 @@
+#include "drawing.h"
+
+#include "drawingdata.h"
+#include "drawingloader.h"
+#include "filewriter.h"
+#include "layeredits.h"
+#include "references.h"
+#include "undostack.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace drawing {
+
+class Drawing::Private
+{
+public:
+    Expected<void> map(const QString& fileName);
+    UndoStep takeStep();
+
+    QString path;
+    QFile file; // Keeps the mapping; its inode lives on when saving replaces the file.
+    DrawingData data;
+    UndoStack steps;
+    DocumentState stateBefore;
+    QString stepName;
+    bool stepIsOpen = false;
+    bool wasModified = false;
+};
+
+Expected<void> Drawing::Private::map(const QString& fileName)
+{
+    const auto refusal = [&fileName](const QString& cause) {
+        return tl::make_unexpected(
+            Error{tr("无法打开文件“%1”：%2。").arg(fileName, cause), 0, false});
+    };
+    const QFileInfo info(fileName);
+    if (!info.exists())
+        return refusal(tr("文件不存在"));
+    if (!info.isFile())
+        return refusal(info.isDir() ? tr("它是文件夹") : tr("它不是普通文件"));
+    path = fileName;
+    file.setFileName(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return refusal(info.isReadable() ? file.errorString() : tr("没有读取权限"));
+    if (file.size() == 0)
+        return {};
+    const uchar* bytes = file.map(0, file.size());
+    if (!bytes)
+        return refusal(file.errorString());
+    data.bytes = {reinterpret_cast<const char*>(bytes), static_cast<size_t>(file.size())};
+    return {};
+}
+
+UndoStep Drawing::Private::takeStep()
+{
+    UndoStep step;
+    step.name = stepName;
+    step.edits = data.journal.takeChanges();
+    step.layers = data.layers.takeChanges();
+    step.entities.swap(data.entityChanges);
+    step.before = stateBefore;
+    step.after = data.state;
+    stepIsOpen = false;
+    return step;
+}
+
+Drawing::Drawing() : d(std::make_unique<Private>()) {}
+
+Drawing::~Drawing() = default;
+
+Expected<std::unique_ptr<Drawing>> Drawing::open(
+    const QString& path, Progress* progress, QThread* owner)
+{
+    std::unique_ptr<Drawing> drawing(new Drawing);
+    if (const auto mapped = drawing->d->map(path); !mapped)
+        return tl::make_unexpected(mapped.error());
+    if (const auto loaded = loadDrawing(drawing->d->data, path, progress); !loaded)
+        return tl::make_unexpected(loaded.error());
+    if (owner) {
+        drawing->d->file.moveToThread(owner);
+        drawing->moveToThread(owner);
+    }
+    return drawing;
+}
+
+Expected<void> Drawing::save(const QString& path, Progress* progress)
+{
+    const auto refusal = [&path](const QString& cause) {
+        return tl::make_unexpected(Error{tr("无法保存文件“%1”：%2。").arg(path, cause), 0, false});
+    };
+    if (d->stepIsOpen)
+        return refusal(tr("还有未完成的操作"));
+    const auto size = static_cast<qint64>(d->data.bytes.size());
+    // The bytes that were not edited are still read from it.
+    if (d->file.size() != size)
+        return refusal(tr("原文件已被其他程序改写"));
+    const auto written = writeFile(d->data.journal, size, path, progress);
+    if (!written)
+        return written;
+    d->path = path;
+    d->steps.setClean();
+    announce(false, false);
+    return {};
+}
+
+QString Drawing::path() const
+{
+    return d->path;
+}
+
+bool Drawing::isModified() const
+{
+    const bool stepChanged =
+        d->stepIsOpen && (d->data.journal.hasChanges() || !(d->stateBefore == d->data.state));
+    return stepChanged || !d->steps.isClean();
+}
+
+const std::vector<Layer>& Drawing::layers() const
+{
+    return d->data.layers.listed();
+}
+
+const Layer* Drawing::layer(LayerId id) const
+{
+    return d->data.layers.layer(id);
+}
+
+const Layer* Drawing::findLayer(const QString& name) const
+{
+    return d->data.layers.find(name);
+}
+
+LayerId Drawing::currentLayer() const
+{
+    return d->data.state.current;
+}
+
+const std::vector<Entity>& Drawing::entities() const
+{
+    return d->data.index.entities;
+}
+
+const std::vector<Block>& Drawing::blocks() const
+{
+    return d->data.index.blocks;
+}
+
+const Block* Drawing::findBlock(const QString& name) const
+{
+    const int at = d->data.blockByName.value(name.toCaseFolded(), -1);
+    return at < 0 ? nullptr : &blocks()[static_cast<size_t>(at)];
+}
+
+TagReader Drawing::tags(const Entity& entity) const
+{
+    return d->data.tags({entity.begin, entity.end});
+}
+
+QString Drawing::decoded(std::string_view value) const
+{
+    return d->data.codec.decode(value);
+}
+
+Expected<void> Drawing::readyToEdit() const
+{
+    if (d->stepIsOpen)
+        return {};
+    return tl::make_unexpected(Error{tr("图形没有打开的操作步骤，不能改动。"), 0, false});
+}
+
+Expected<void> Drawing::setLayerProperties(LayerId id, const LayerProperties& properties)
+{
+    return readyToEdit().and_then(
+        [&] { return LayerEdits(d->data).setProperties(id, properties); });
+}
+
+Expected<LayerId> Drawing::addLayer(const LayerProperties& properties)
+{
+    return readyToEdit().and_then([&] { return LayerEdits(d->data).add(properties); });
+}
+
+Expected<void> Drawing::removeLayer(LayerId id)
+{
+    return readyToEdit().and_then([&] { return LayerEdits(d->data).remove(id); });
+}
+
+Expected<void> Drawing::setCurrentLayer(LayerId id)
+{
+    return readyToEdit().and_then([&] { return LayerEdits(d->data).setCurrent(id); });
+}
+
+QStringList Drawing::takeNotices()
+{
+    QStringList notices;
+    notices.swap(d->data.notices);
+    return notices;
+}
+
+void Drawing::beginStep(const QString& name)
+{
+    Q_ASSERT(!d->stepIsOpen);
+    d->stepName = name;
+    d->stateBefore = d->data.state;
+    d->stepIsOpen = true;
+}
+
+void Drawing::commitStep()
+{
+    if (!d->stepIsOpen)
+        return;
+    updateReferences(d->data);
+    UndoStep step = d->takeStep();
+    if (step.isEmpty())
+        return;
+    const bool entities = !step.entities.empty();
+    d->steps.push(std::move(step));
+    announce(true, entities);
+}
+
+void Drawing::rollbackStep()
+{
+    if (!d->stepIsOpen)
+        return;
+    const UndoStep step = d->takeStep();
+    if (step.isEmpty())
+        return;
+    step.apply(d->data, false);
+    announce(true, !step.entities.empty());
+}
+
+void Drawing::publishStep()
+{
+    if (d->stepIsOpen && isModified())
+        announce(true, !d->data.entityChanges.empty());
+}
+
+bool Drawing::inStep() const
+{
+    return d->stepIsOpen;
+}
+
+bool Drawing::canUndo() const
+{
+    return !d->stepIsOpen && d->steps.undoStep();
+}
+
+bool Drawing::canRedo() const
+{
+    return !d->stepIsOpen && d->steps.redoStep();
+}
+
+QString Drawing::undoName() const
+{
+    return canUndo() ? d->steps.undoStep()->name : QString();
+}
+
+QString Drawing::redoName() const
+{
+    return canRedo() ? d->steps.redoStep()->name : QString();
+}
+
+void Drawing::undo()
+{
+    if (!canUndo())
+        return;
+    const UndoStep* step = d->steps.undoStep();
+    step->apply(d->data, false);
+    d->steps.stepBack();
+    announce(true, !step->entities.empty());
+}
+
+void Drawing::redo()
+{
+    if (!canRedo())
+        return;
+    const UndoStep* step = d->steps.redoStep();
+    step->apply(d->data, true);
+    d->steps.stepForward();
+    announce(true, !step->entities.empty());
+}
+
+void Drawing::announce(bool layers, bool entities)
+{
+    if (layers)
+        emit layersChanged();
+    if (entities)
+        emit entitiesChanged();
+    if (isModified() == d->wasModified)
+        return;
+    d->wasModified = !d->wasModified;
+    emit modifiedChanged(d->wasModified);
+}
+
+} // namespace drawing

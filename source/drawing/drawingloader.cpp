@@ -1,0 +1,270 @@
+#include "drawingloader.h"
+
+#include "drawingindexer.h"
+#include "handles.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace drawing {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("drawing", text);
+}
+
+qint64 lineOf(std::string_view bytes, qint64 offset)
+{
+    return 1 + std::count(bytes.begin(), bytes.begin() + offset, '\n');
+}
+
+QString shown(std::string_view text)
+{
+    constexpr size_t kMost = 40;
+    const std::string_view part = trimmedView(text.substr(0, kMost));
+    return QString::fromUtf8(part.data(), static_cast<int>(part.size()));
+}
+
+Error faultError(const DrawingData& data, const IndexFault& fault, const QString& fileName)
+{
+    Error error;
+    error.line = lineOf(data.bytes, fault.offset);
+    const QString line = QString::number(error.line);
+    const QString section = shown(fault.section);
+    switch (fault.kind) {
+    case IndexFaultKind::Cancelled:
+        error.cancelled = true;
+        error.text = tr("已取消打开文件“%1”。").arg(fileName);
+        break;
+    case IndexFaultKind::NotTagged:
+        error.text = tr("文件“%1”不是 DXF 图形：它不以 SECTION 段开头（第 1 行）。").arg(fileName);
+        break;
+    case IndexFaultKind::BadCode:
+        error.text = tr("文件“%1”第 %2 行的组码“%3”不是数字。")
+                         .arg(fileName, line, shown(data.lineAt(fault.offset)));
+        break;
+    case IndexFaultKind::SectionNotEnded:
+        error.text =
+            tr("文件“%1”不完整：%3 段到第 %2 行仍没有 ENDSEC。").arg(fileName, line, section);
+        break;
+    case IndexFaultKind::CutOff:
+        error.text = section.isEmpty()
+                         ? tr("文件“%1”不完整：在第 %2 行中断，缺少 EOF。").arg(fileName, line)
+                         : tr("文件“%1”不完整：在第 %2 行、%3 段中中断，缺少 ENDSEC 和 EOF。")
+                               .arg(fileName, line, section);
+        break;
+    }
+    return error;
+}
+
+/// What is no tagged text at all is told apart by how it begins.
+Expected<void> checkFormat(std::string_view bytes, const QString& fileName)
+{
+    const auto refusal = [&fileName](const char* text) {
+        return tl::make_unexpected(Error{tr(text).arg(fileName), 1, false});
+    };
+    if (bytes.empty())
+        return refusal("文件“%1”是空的，不是 DXF 图形（第 1 行）。");
+    if (bytes.substr(0, 4) == "AC10")
+        return refusal("文件“%1”是 DWG 图形，不能读取；请先另存为 DXF（第 1 行）。");
+    if (bytes.substr(0, 18) == "xxxxxxx Binary DXF")
+        return refusal("文件“%1”是二进制 DXF，不能读取；请先另存为文本 DXF（第 1 行）。");
+    return {};
+}
+
+class Loader
+{
+public:
+    explicit Loader(DrawingData& data) : m_data(data) {}
+
+    void loadHeader();
+    void loadSymbols();
+    void loadPlotStyles();
+    void loadLayerRecords();
+    void loadNamedLayers();
+    void resolveEntities();
+    void nameBlocks();
+
+private:
+    std::string_view variable(HeaderVariable which) const
+    {
+        return trimmedView(m_data.view(m_data.index.variable(which)));
+    }
+    QString symbolName(const ByteRange& record) const;
+    LayerId layerNamed(std::string_view spelling);
+
+    DrawingData& m_data;
+    std::vector<LayerId> m_layerOfSpelling;
+};
+
+void Loader::loadHeader()
+{
+    std::string_view version = variable(HeaderVariable::Version);
+    if (version.empty())
+        version = "AC1009"; // Files without a version come from programs that write R12.
+    m_data.codec = TextCodec(version, variable(HeaderVariable::CodePage));
+    m_data.limits = LayerRecordLimits::of(version);
+    const std::string_view mode = variable(HeaderVariable::PlotStyleMode);
+    m_data.plotStylesByColor = mode != "0";
+}
+
+QString Loader::symbolName(const ByteRange& record) const
+{
+    TagReader tags = m_data.tags(record);
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == 2)
+            return m_data.codec.decode(tag.trimmed());
+    }
+    return {};
+}
+
+void Loader::loadSymbols()
+{
+    for (const ByteRange& record : m_data.index.table(TableKind::Linetype).records) {
+        const QString name = symbolName(record);
+        m_data.linetypes.insert(name.toCaseFolded(), name);
+    }
+    for (const ByteRange& record : m_data.index.table(TableKind::AppId).records)
+        m_data.appIds.insert(symbolName(record).toCaseFolded());
+}
+
+void Loader::loadPlotStyles()
+{
+    if (m_data.plotStylesByColor)
+        return;
+    const ObjectPlace* root =
+        m_data.index.objects.empty() ? nullptr : &m_data.index.objects.front();
+    const ObjectPlace* names = dictionaryEntry(m_data, root, "ACAD_PLOTSTYLENAME");
+    if (!names)
+        return;
+    TagReader tags = m_data.tags({names->begin, names->end});
+    std::string_view name;
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == 3)
+            name = tag.value;
+        else if (tag.code == 350 || tag.code == 360)
+            m_data.plotStyles.insert(tag.toHandle(), m_data.codec.decode(name));
+    }
+}
+
+void Loader::loadLayerRecords()
+{
+    LayerRecordReader reader(m_data.codec);
+    for (const ByteRange& range : m_data.index.table(TableKind::Layer).records) {
+        const LayerRecord record = reader.read(m_data.tags(range));
+        LayerEntry entry;
+        entry.layer.properties = record.properties;
+        LayerProperties& p = entry.layer.properties;
+        p.plotStyle = m_data.plotStyleName(p.colorIndex, record.plotStyle);
+        entry.layer.dependsOnReference =
+            record.dependsOnReference || p.name.contains(QLatin1Char('|'));
+        entry.place = {range.begin};
+        entry.end = range.end;
+        entry.handle = record.handle;
+        entry.plotStyle = record.plotStyle;
+        entry.hasRecord = true;
+        entry.present = true;
+        m_data.layers.load(entry);
+    }
+}
+
+LayerId Loader::layerNamed(std::string_view spelling)
+{
+    QString name = m_data.codec.decode(trimmedView(spelling));
+    if (name.isEmpty())
+        name = QStringLiteral("0");
+    if (const Layer* layer = m_data.layers.find(name))
+        return layer->id;
+    LayerEntry entry;
+    entry.layer.properties.name = name;
+    entry.layer.properties.plotStyle = m_data.plotStyleName(entry.layer.properties.colorIndex, 0);
+    entry.layer.dependsOnReference = name.contains(QLatin1Char('|'));
+    entry.present = true;
+    return m_data.layers.load(entry);
+}
+
+/// Layers that only entities name are layers too, with everything as a plain layer has it.
+void Loader::loadNamedLayers()
+{
+    const LayerId zero = layerNamed("0");
+    for (const std::string_view spelling : m_data.index.layerSpellings.names())
+        m_layerOfSpelling.push_back(layerNamed(spelling));
+    const std::string_view current = variable(HeaderVariable::CurrentLayer);
+    m_data.state.current = current.empty() ? zero : layerNamed(current);
+}
+
+void Loader::resolveEntities()
+{
+    const auto layerOf = [this](LayerId spelling) {
+        return spelling == LayerId::None ? m_data.layers.find(QStringLiteral("0"))->id
+                                         : m_layerOfSpelling[static_cast<size_t>(spelling)];
+    };
+    std::vector<int> counts(static_cast<size_t>(m_data.layers.entryCount()));
+    for (Entity& entity : m_data.index.entities) {
+        entity.layer = layerOf(entity.layer);
+        if (!entity.subEntity)
+            ++counts[static_cast<size_t>(entity.layer)];
+    }
+    for (const LayerNamePlace& place : m_data.index.blockLayers)
+        m_data.namePlaces.push_back({place.value, layerOf(place.layer)});
+    // XDATA may name layers that are no more; it brings none about.
+    for (const qint64 value : m_data.index.xdataNames) {
+        const QString name = m_data.codec.decode(trimmedView(m_data.lineAt(value)));
+        if (const Layer* layer = m_data.layers.find(name))
+            m_data.namePlaces.push_back({value, layer->id});
+    }
+    for (int i = 0; i < m_data.layers.entryCount(); ++i)
+        m_data.layers.setEntityCount(static_cast<LayerId>(i), counts[static_cast<size_t>(i)]);
+}
+
+void Loader::nameBlocks()
+{
+    DrawingIndex& index = m_data.index;
+    for (size_t i = 0; i < index.blocks.size(); ++i) {
+        Block& block = index.blocks[i];
+        block.name = m_data.codec.decode(trimmedView(m_data.view(index.blockNames[i])));
+        const QString name = block.name.toCaseFolded();
+        m_data.blockByName.insert(name, static_cast<int>(i));
+        block.layout = name.startsWith(QLatin1String("*model_space")) ||
+                       name.startsWith(QLatin1String("*paper_space")) ||
+                       name == QLatin1String("$model_space") ||
+                       name == QLatin1String("$paper_space");
+    }
+}
+
+} // namespace
+
+Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress* progress)
+{
+    if (const auto known = checkFormat(data.bytes, fileName); !known)
+        return known;
+    DrawingIndexer indexer(data.bytes, progress);
+    if (const auto fault = indexer.run(data.index))
+        return tl::make_unexpected(faultError(data, *fault, fileName));
+    Loader loader(data);
+    loader.loadHeader();
+    if (data.limits.markers && data.index.table(TableKind::Layer).isNull()) {
+        const qint64 offset =
+            data.index.tablesEnd < 0 ? data.index.firstBody : data.index.tablesEnd;
+        const qint64 line = lineOf(data.bytes, offset);
+        return tl::make_unexpected(
+            Error{tr("文件“%1”没有图层表（LAYER），到第 %2 行 TABLES 段已结束。")
+                      .arg(fileName, QString::number(line)),
+                line, false});
+    }
+    loader.loadSymbols();
+    loader.loadPlotStyles();
+    loader.loadLayerRecords();
+    loader.loadNamedLayers();
+    loader.resolveEntities();
+    loader.nameBlocks();
+    data.journal = EditJournal(data.bytes);
+    return {};
+}
+
+} // namespace drawing

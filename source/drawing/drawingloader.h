@@ -1,0 +1,14 @@
+#pragma once
+
+#include "drawingdata.h"
+#include "error.h"
+
+namespace drawing {
+
+struct Progress;
+
+/// Indexes `data.bytes` and fills in all that is known of a drawing when it is opened. Refuses
+/// what is no readable drawing, in words that call the file `fileName`.
+Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress* progress);
+
+} // namespace drawing

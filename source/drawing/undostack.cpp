@@ -1,0 +1,40 @@
+#include "undostack.h"
+
+namespace drawing {
+
+bool UndoStep::isEmpty() const
+{
+    return edits.empty() && layers.empty() && entities.empty() && before == after;
+}
+
+void UndoStep::apply(DrawingData& data, bool forward) const
+{
+    data.journal.apply(edits, forward);
+    data.layers.apply(layers, forward);
+    for (const EntityChange& change : entities)
+        data.index.entities[static_cast<size_t>(change.entity)].layer =
+            forward ? change.after : change.before;
+    data.state = forward ? after : before;
+}
+
+void UndoStack::push(UndoStep step)
+{
+    if (m_clean > m_done)
+        m_clean = -1;
+    m_steps.resize(static_cast<size_t>(m_done));
+    m_steps.push_back(std::move(step));
+    ++m_done;
+}
+
+const UndoStep* UndoStack::undoStep() const
+{
+    return m_done > 0 ? &m_steps[static_cast<size_t>(m_done) - 1] : nullptr;
+}
+
+const UndoStep* UndoStack::redoStep() const
+{
+    return static_cast<size_t>(m_done) < m_steps.size() ? &m_steps[static_cast<size_t>(m_done)]
+                                                        : nullptr;
+}
+
+} // namespace drawing
