@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QLibraryInfo>
 #include <QTextStream>
+#include <QThread>
 #include <QTranslator>
 
 #include <cstdio>
