@@ -376,7 +376,8 @@ def draw_layout(doc):
     insert(layout, "图框A2", 0, 0, "A-TTLB").add_auto_attribs(TITLE)
     viewport = layout.add_viewport(center=(304.5, 210), size=(559, 400), view_center_point=(21000, 4800),
                                    view_height=40000)
-    viewport.dxf.layer = "视口"
+    for each in layout.viewports():
+        each.dxf.layer = "视口"
     viewport.frozen_layers = ["A-TTLB", "文字-工位号"]
 
 

@@ -121,13 +121,13 @@ def draw_flange(space, x, y):
     line(space, x, y - 2300, x, y + 2300, "中心线")
     left, middle, right = x + 4800, x + 5400, x + 6600
     for sign in (1, -1):
-        profile = [(left, 600), (right, 600), (right, 1000), (middle + 200, 1000, 0.414 * sign), (middle, 1200),
+        profile = [(left, 600), (right, 600), (right, 1000), (middle + 200, 1000, -0.414 * sign), (middle, 1200),
                    (middle, 2000), (left, 2000)]
         polyline(space, [(px, y + sign * py, *bulge) for px, py, *bulge in profile], "零件-轮廓")
         for step in range(0, 1400, 200):
             low = 600 + step
             line(space, left, y + sign * low, left + min(600, 2000 - low), y + sign * min(low + 600, 2000), "零件-剖面线")
-        for step in range(800, 1700, 200):
+        for step in range(200, 1700, 200):
             end = min(400, right - left - step)
             line(space, left + step, y + sign * 600, left + step + end, y + sign * (600 + end), "零件-剖面线")
     for edge in (left, right):
@@ -160,6 +160,7 @@ def make():
         polyline(space, rectangle(-2500 + margin, -12200 + margin, 32500 - margin, 18000 - margin), "图框")
     viewport = doc.layout("Layout1").add_viewport(center=(210, 148), size=(400, 280), view_center_point=(15000, 2900),
                                                   view_height=32000)
+    viewport.dxf.layer, viewport.dxf.id = "图框", 2
     viewport.frozen_layers = ["管线-电缆", "备用"]
     doc.header["$LTSCALE"] = 60
     doc.header["$CLAYER"] = "设备"
