@@ -144,6 +144,9 @@ def save(doc, path, encoding, line_end="\n"):
     errors = doc.audit().errors
     if errors:
         raise DXFValueError(f"{path.name}: {[error.message for error in errors]}")
+    # The writer adds the classes in use from an unordered set; named beforehand they keep one order.
+    for dxf_type in sorted(doc.entitydb.dxf_types_in_use()):
+        doc.classes.add_class(dxf_type)
     doc.saveas(path, encoding=encoding)
     content = path.read_text(encoding=encoding)
     # The writer's escapes are in small letters, which its own reader does not know.
