@@ -192,8 +192,8 @@ Expected<void> Drawing::setCurrentLayer(LayerId id)
 
 QStringList Drawing::takeNotices()
 {
-    QStringList notices;
-    notices.swap(d->data.notices);
+    const QStringList notices = d->data.leftOut.sentences();
+    d->data.leftOut = {};
     return notices;
 }
 

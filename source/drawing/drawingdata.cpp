@@ -2,7 +2,36 @@
 
 #include "tagscan.h"
 
+#include <QCoreApplication>
+
 namespace drawing {
+
+void LeftOut::note(Kind kind, const QString& layer)
+{
+    Note& note = m_notes[kind];
+    if (note.layer.isEmpty())
+        note.layer = layer;
+    else
+        note.more = note.more || note.layer != layer;
+}
+
+QStringList LeftOut::sentences() const
+{
+    constexpr const char* kTexts[] = {
+        "此图形的 DXF 版本不能保存打印开关：图层“%1”%2的该设置未改动。",
+        "此图形的 DXF 版本不能保存线宽：图层“%1”%2的该设置未改动。",
+        "此图形的 DXF 版本不能保存真彩色：图层“%1”%2只保存了颜色索引。",
+    };
+    static_assert(std::size(kTexts) == KindCount);
+    QStringList sentences;
+    for (size_t kind = 0; kind < KindCount; ++kind) {
+        const Note& note = m_notes[kind];
+        if (!note.layer.isEmpty())
+            sentences += QCoreApplication::translate("drawing", kTexts[kind])
+                             .arg(note.layer, note.more ? QStringLiteral("等") : QString());
+    }
+    return sentences;
+}
 
 std::string_view DrawingData::lineAt(qint64 offset) const
 {

@@ -10,6 +10,7 @@
 #include <QSet>
 #include <QStringList>
 
+#include <array>
 #include <optional>
 
 namespace drawing {
@@ -39,6 +40,26 @@ struct EntityChange
     LayerId after = LayerId::None;
 };
 
+/// What edits had to leave out because the file's version has no place for it.
+class LeftOut
+{
+public:
+    enum Kind { PlotFlag, Lineweight, TrueColor, KindCount };
+
+    void note(Kind kind, const QString& layer);
+    /// A sentence for each kind.
+    QStringList sentences() const;
+
+private:
+    struct Note
+    {
+        QString layer; ///< The first one; empty when there is none.
+        bool more = false;
+    };
+
+    std::array<Note, KindCount> m_notes;
+};
+
 /// The inside of a drawing, shared by what reads and what edits it.
 struct DrawingData
 {
@@ -60,7 +81,7 @@ struct DrawingData
     LayerTable layers;
     DocumentState state;
     std::vector<EntityChange> entityChanges; ///< Of the open step.
-    QStringList notices;
+    LeftOut leftOut;
 
     std::string_view view(const ByteRange& range) const
     {

@@ -1,9 +1,9 @@
 #include "drawingindexer.h"
 
 #include "drawing.h"
+#include "dxfnames.h"
 #include "dxftags.h"
 
-#include <algorithm>
 #include <charconv>
 
 namespace drawing {
@@ -11,73 +11,6 @@ namespace drawing {
 namespace {
 
 constexpr qint64 kReportEvery = 1 << 20;
-
-struct NamedKind
-{
-    std::string_view name;
-    EntityKind kind;
-};
-
-// Sorted by name.
-constexpr NamedKind kKinds[] = {
-    {"3DFACE", EntityKind::Face3d},
-    {"ARC", EntityKind::Arc},
-    {"ATTDEF", EntityKind::AttDef},
-    {"ATTRIB", EntityKind::Attrib},
-    {"CIRCLE", EntityKind::Circle},
-    {"DIMENSION", EntityKind::Dimension},
-    {"ELLIPSE", EntityKind::Ellipse},
-    {"HATCH", EntityKind::Hatch},
-    {"INSERT", EntityKind::Insert},
-    {"LEADER", EntityKind::Leader},
-    {"LINE", EntityKind::Line},
-    {"LWPOLYLINE", EntityKind::LwPolyline},
-    {"MTEXT", EntityKind::MText},
-    {"POINT", EntityKind::Point},
-    {"POLYLINE", EntityKind::Polyline},
-    {"SEQEND", EntityKind::Seqend},
-    {"SOLID", EntityKind::Solid},
-    {"SPLINE", EntityKind::Spline},
-    {"TEXT", EntityKind::Text},
-    {"TRACE", EntityKind::Trace},
-    {"VERTEX", EntityKind::Vertex},
-    {"VIEWPORT", EntityKind::Viewport},
-};
-
-constexpr std::string_view kVariables[] = {
-    "$ACADVER", "$DWGCODEPAGE", "$CLAYER", "$HANDSEED", "$PSTYLEMODE"};
-static_assert(std::size(kVariables) == static_cast<size_t>(HeaderVariable::Count));
-
-constexpr std::string_view kTables[] = {"LAYER", "LTYPE", "APPID"};
-static_assert(std::size(kTables) == static_cast<size_t>(TableKind::Other));
-
-constexpr std::pair<std::string_view, ObjectKind> kObjects[] = {
-    {"DICTIONARY", ObjectKind::Dictionary},
-    {"ACDBDICTIONARYWDFLT", ObjectKind::Dictionary},
-    {"XRECORD", ObjectKind::XRecord},
-    {"LAYER_FILTER", ObjectKind::LayerList},
-    {"LAYER_INDEX", ObjectKind::LayerList},
-};
-
-ObjectKind objectKind(std::string_view name)
-{
-    for (const auto& [known, kind] : kObjects) {
-        if (known == name)
-            return kind;
-    }
-    return ObjectKind::Other;
-}
-
-TableKind tableKind(std::string_view name)
-{
-    const auto* known = std::find(std::begin(kTables), std::end(kTables), name);
-    return static_cast<TableKind>(known - std::begin(kTables));
-}
-
-bool isSubEntity(EntityKind kind)
-{
-    return kind == EntityKind::Vertex || kind == EntityKind::Attrib || kind == EntityKind::Seqend;
-}
 
 quint64 handleOf(std::string_view value)
 {
@@ -234,11 +167,9 @@ bool DrawingIndexer::readHeader()
         if (m_tag.code == 0 && !goesOn())
             break;
         if (m_tag.code == 9) {
-            const auto* known =
-                std::find(std::begin(kVariables), std::end(kVariables), m_tag.text());
-            value = known == std::end(kVariables)
-                        ? nullptr
-                        : &m_index->header[static_cast<size_t>(known - std::begin(kVariables))];
+            const HeaderVariable which = headerVariable(m_tag.text());
+            value = which == HeaderVariable::Count ? nullptr
+                                                   : &m_index->header[static_cast<size_t>(which)];
         } else if (value) {
             *value = valueRange();
             value = nullptr;
@@ -404,11 +335,8 @@ EntityKind DrawingIndexer::kindOf(std::string_view name)
 {
     if (name == m_lastKindName)
         return m_lastKind;
-    const auto* known = std::lower_bound(std::begin(kKinds), std::end(kKinds), name,
-        [](const NamedKind& kind, std::string_view wanted) { return kind.name < wanted; });
-    const bool isKnown = known != std::end(kKinds) && known->name == name;
     m_lastKindName = name;
-    m_lastKind = isKnown ? known->kind : EntityKind::Other;
+    m_lastKind = entityKind(name);
     return m_lastKind;
 }
 

@@ -7,6 +7,9 @@ namespace drawing {
 
 namespace {
 
+// Tells a transparency of its own from one "by layer" or "by block".
+constexpr qint64 kTransparencyByValue = 0x02000000;
+
 auto members(const LayerProperties& p)
 {
     return std::tie(p.name, p.off, p.frozen, p.locked, p.plotted, p.frozenInNewViewports,
@@ -30,6 +33,25 @@ bool isLineweight(int hundredths)
 {
     return std::find(std::begin(kLineweights), std::end(kLineweights), hundredths) !=
            std::end(kLineweights);
+}
+
+bool isNeverPlotted(const QString& name)
+{
+    return name.compare(QLatin1String("Defpoints"), Qt::CaseInsensitive) == 0;
+}
+
+int transparencyPercent(qint64 stored)
+{
+    if ((stored & 0xff000000) != kTransparencyByValue)
+        return 0;
+    const int clear = 255 - static_cast<int>(stored & 0xff);
+    // Rounded, since writers differ in which way they round alpha.
+    return std::min((clear * 200 + 255) / 510, kMostTransparent);
+}
+
+qint64 storedTransparency(int percent)
+{
+    return kTransparencyByValue + 255 * (100 - percent) / 100;
 }
 
 } // namespace drawing

@@ -37,6 +37,15 @@ constexpr int kLineweights[] = {-3, -2, -1, 0, 5, 9, 13, 15, 18, 20, 25, 30, 35,
     80, 90, 100, 106, 120, 140, 158, 200, 211};
 bool isLineweight(int hundredths);
 
+/// True for `Defpoints`, which never plots, whatever its record says.
+bool isNeverPlotted(const QString& name);
+
+/// The highest transparency a layer may have, percent.
+constexpr int kMostTransparent = 90;
+/// Percent of a transparency as files store it: 0x02000000 + alpha; 0 for any other kind.
+int transparencyPercent(qint64 stored);
+qint64 storedTransparency(int percent);
+
 struct Layer
 {
     LayerId id = LayerId::None;

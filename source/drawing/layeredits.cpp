@@ -1,5 +1,6 @@
 #include "layeredits.h"
 
+#include "layerrecordedit.h"
 #include "symboltables.h"
 
 #include <QCoreApplication>
@@ -12,7 +13,6 @@ namespace {
 
 constexpr int kLongestName = 255;
 constexpr int kLongestDescription = 255;
-constexpr int kMostTransparent = 90;
 
 QString tr(const char* text)
 {
@@ -28,6 +28,14 @@ bool mayStandInName(QChar c)
 {
     const QLatin1String never("\\<>/\":;?*|,=`");
     return c.unicode() >= 0x20 && c.unicode() != 0x7f && !QString(never).contains(c);
+}
+
+/// What the record says, as far as it is not known from the name alone.
+LayerProperties stored(LayerProperties before, const LayerProperties& after)
+{
+    if (isNeverPlotted(before.name) && !isNeverPlotted(after.name))
+        before.plotted = true;
+    return before;
 }
 
 /// Text as it can be read back: a value is one line.
@@ -94,6 +102,7 @@ Expected<LayerProperties> LayerEdits::settled(
     LayerProperties after = wanted;
     after.name = wanted.name.trimmed();
     after.description = oneLine(wanted.description);
+    after.plotted = wanted.plotted && !isNeverPlotted(after.name);
     const QString key = wanted.linetype.trimmed().toCaseFolded();
     const QString continuous = QStringLiteral("Continuous");
     if (key == before.linetype.toCaseFolded())
@@ -113,20 +122,15 @@ Expected<LayerProperties> LayerEdits::settled(
 void LayerEdits::dropUnsupported(const LayerProperties& before, LayerProperties& after)
 {
     const LayerRecordLimits& limits = m_data.limits;
-    const auto drop = [&](bool isStored, auto LayerProperties::*member, const char* notice) {
+    const auto drop = [&](bool isStored, auto LayerProperties::*member, LeftOut::Kind kind) {
         if (isStored || after.*member == before.*member)
             return;
         after.*member = before.*member;
-        const QString text = tr(notice).arg(after.name);
-        if (!m_data.notices.contains(text))
-            m_data.notices.append(text);
+        m_data.leftOut.note(kind, after.name);
     };
-    drop(limits.plotFlag, &LayerProperties::plotted,
-        "图层“%1”：此图形的 DXF 版本不能保存“不打印”，该设置未改动。");
-    drop(limits.lineweight, &LayerProperties::lineweight,
-        "图层“%1”：此图形的 DXF 版本不能保存线宽，该设置未改动。");
-    drop(limits.trueColor, &LayerProperties::trueColor,
-        "图层“%1”：此图形的 DXF 版本不能保存真彩色，只保存了颜色索引。");
+    drop(limits.plotFlag, &LayerProperties::plotted, LeftOut::PlotFlag);
+    drop(limits.lineweight, &LayerProperties::lineweight, LeftOut::Lineweight);
+    drop(limits.trueColor, &LayerProperties::trueColor, LeftOut::TrueColor);
 }
 
 void LayerEdits::needApplications(const LayerProperties& before, const LayerProperties& after)
@@ -160,8 +164,8 @@ Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& prop
     entry.layer.properties = after;
     SymbolTables tables(m_data);
     if (entry.hasRecord)
-        tables.setLayerRecord(
-            entry, editedLayerRecord(tables.layerRecord(entry), before, after, m_data.codec));
+        tables.setLayerRecord(entry, editedLayerRecord(tables.layerRecord(entry),
+                                         stored(before, after), after, m_data.codec));
     else
         tables.addLayerRecord(entry);
     m_data.layers.change(id, entry);

@@ -1,6 +1,7 @@
 #include "layerobjects.h"
 
 #include "handles.h"
+#include "tagtext.h"
 
 #include <unordered_set>
 

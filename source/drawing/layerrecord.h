@@ -1,7 +1,7 @@
 #pragma once
 
+#include "dxftags.h"
 #include "layer.h"
-#include "tagtext.h"
 #include "textcodec.h"
 
 namespace drawing {
@@ -13,7 +13,6 @@ struct LayerRecord
     quint64 handle = 0;         ///< 0 when the record has none.
     quint64 plotStyle = 0;      ///< Handle of the plot style name object.
     quint64 material = 0;
-    bool hasOwner = false;           ///< Names its table as its owner.
     bool dependsOnReference = false; ///< By its flags; a `|` in the name counts too.
 };
 
@@ -35,6 +34,12 @@ private:
     int m_strings = 0;              // Of that application so far.
 };
 
+/// Bits of a LAYER record's flags, group 70.
+constexpr qint64 kLayerFrozen = 1;
+constexpr qint64 kLayerFrozenInNewViewports = 2;
+constexpr qint64 kLayerLocked = 4;
+constexpr qint64 kLayerFromReference = 16;
+
 /// What a format version can store in a LAYER record.
 struct LayerRecordLimits
 {
@@ -46,26 +51,8 @@ struct LayerRecordLimits
     static LayerRecordLimits of(std::string_view version);
 };
 
-/// What a new record holds besides the properties.
-struct NewLayerRecord
-{
-    LayerRecordLimits limits;
-    TagStyle style;
-    quint64 handle = 0;
-    quint64 owner = 0; ///< These three: 0 to leave the group out.
-    quint64 plotStyle = 0;
-    quint64 material = 0;
-};
-
 /// XDATA applications the layer properties need.
 constexpr char kTransparencyApp[] = "AcCmTransparency";
 constexpr char kStandardApp[] = "AcAecLayerStandard";
-
-/// The record with only those groups changed in which `after` differs from `before`.
-QByteArray editedLayerRecord(const QByteArray& record, const LayerProperties& before,
-    const LayerProperties& after, const TextCodec& codec);
-
-QByteArray newLayerRecord(
-    const NewLayerRecord& plan, const LayerProperties& properties, const TextCodec& codec);
 
 } // namespace drawing

@@ -4,6 +4,8 @@
 #include "layerobjects.h"
 #include "symboltables.h"
 
+#include <algorithm>
+
 namespace drawing {
 
 namespace {
@@ -22,6 +24,7 @@ public:
 
 private:
     void rename(qint64 value, const QByteArray& name);
+    ByteRange viewportTag(qint64 value) const;
     const QByteArray& newName(LayerId id) const { return m_names[static_cast<size_t>(id)]; }
 
     DrawingData& m_data;
@@ -83,9 +86,35 @@ void ReferenceUpdate::updateEntities()
 void ReferenceUpdate::updateNamePlaces()
 {
     for (const LayerNamePlace& place : m_data.namePlaces) {
-        if (!newName(place.layer).isNull())
-            rename(place.value, newName(place.layer));
+        const QByteArray& name = newName(place.layer);
+        if (name.isNull())
+            continue;
+        const bool isRemoved = !m_data.layers.entry(place.layer).present;
+        const ByteRange listed = isRemoved ? viewportTag(place.value) : ByteRange();
+        if (listed.isNull())
+            rename(place.value, name);
+        else
+            m_data.journal.replace(listed.begin, listed.end, {});
     }
+}
+
+/// The tag of this value, where it stands in a viewport: its XDATA list the layers frozen in it, so
+/// layer 0 must not take a deleted layer's place there.
+ByteRange ReferenceUpdate::viewportTag(qint64 value) const
+{
+    const std::vector<Entity>& entities = m_data.index.entities;
+    const auto next = std::upper_bound(entities.begin(), entities.end(), value,
+        [](qint64 offset, const Entity& entity) { return offset < entity.begin; });
+    if (next == entities.begin() || std::prev(next)->end <= value ||
+        std::prev(next)->kind != EntityKind::Viewport)
+        return {};
+    TagReader tags = m_data.tags({std::prev(next)->begin, std::prev(next)->end});
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.valueBegin == value)
+            return {tag.begin, tag.end};
+    }
+    return {};
 }
 
 void ReferenceUpdate::updateCurrentLayer()
@@ -94,7 +123,7 @@ void ReferenceUpdate::updateCurrentLayer()
         SymbolTables(m_data).writeCurrentLayer();
 }
 
-/// Viewports list the layers frozen in them by handle.
+/// From R13 on viewports list the layers frozen in them by handle.
 void ReferenceUpdate::updateViewports()
 {
     if (m_renames.removedHandles.isEmpty())

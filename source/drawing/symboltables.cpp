@@ -1,6 +1,7 @@
 #include "symboltables.h"
 
 #include "handles.h"
+#include "layerrecordedit.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "layerrecord.h"
+#include "tagtext.h"
+
+namespace drawing {
+
+/// What a new record holds besides the properties.
+struct NewLayerRecord
+{
+    LayerRecordLimits limits;
+    TagStyle style;
+    quint64 handle = 0;
+    quint64 owner = 0; ///< These three: 0 to leave the group out.
+    quint64 plotStyle = 0;
+    quint64 material = 0;
+};
+
+/// The record with only those groups changed in which `after` differs from `before`.
+QByteArray editedLayerRecord(const QByteArray& record, const LayerProperties& before,
+    const LayerProperties& after, const TextCodec& codec);
+
+QByteArray newLayerRecord(
+    const NewLayerRecord& plan, const LayerProperties& properties, const TextCodec& codec);
+
+} // namespace drawing
