@@ -45,7 +45,8 @@ Vec3 EntityTags::point(int code) const
 
 Vec3 EntityTags::extrusion() const
 {
-    return find(210) ? point(210) : Vec3{0, 0, 1};
+    const bool sideways = find(210) || find(220);
+    return {number(210), number(220), number(230, sideways ? 0 : 1)};
 }
 
 } // namespace drawing

@@ -37,8 +37,12 @@ QString percentCode(const QString& text, int& i)
         return QStringLiteral("⌀");
     case '%':
         return QStringLiteral("%");
-    default:
+    case 'u':
+    case 'o':
+    case 'k':
         return {};
+    default:
+        return QStringLiteral("%%") + text[i - 1];
     }
 }
 

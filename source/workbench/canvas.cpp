@@ -135,6 +135,8 @@ void Canvas::paintEvent(QPaintEvent*)
 
 void Canvas::resizeEvent(QResizeEvent*)
 {
+    if (m_view.size() == size())
+        return;
     m_view.setSize(size());
     if (m_fitted)
         zoomToExtents();

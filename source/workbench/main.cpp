@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QLibraryInfo>
-#include <QTextStream>
 #include <QThread>
 #include <QTranslator>
 
@@ -25,8 +24,7 @@ void print(std::FILE* stream, const QString& text)
 
 int fail(const QString& path, const drawing::Error& error)
 {
-    print(stderr, QStringLiteral("layerbench: %1: %2\n")
-                      .arg(QDir::toNativeSeparators(path), messages::describe(error)));
+    print(stderr, QStringLiteral("layerbench: %1\n").arg(messages::describe(path, error)));
     return Failed;
 }
 

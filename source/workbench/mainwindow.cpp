@@ -245,13 +245,13 @@ void MainWindow::runCommand(const QString& word)
 
 void MainWindow::runLayerCommand(const CommandRow& row)
 {
+    if (!m_drawing || isBusy()) {
+        m_commandLine->say(m_drawing ? tr("请等待当前操作结束。") : tr("请先打开一个图形。"));
+        return;
+    }
     if (!row.create) {
         m_commandLine->say(
             tr("命令 %1（%2）尚不可用。").arg(QLatin1String(row.name), row.displayTitle()));
-        return;
-    }
-    if (!m_drawing || isBusy()) {
-        m_commandLine->say(m_drawing ? tr("请等待当前操作结束。") : tr("请先打开一个图形。"));
         return;
     }
     CommandContext context{*m_drawing, this,
@@ -385,7 +385,7 @@ void MainWindow::report(const QString& title, const QString& path, const drawing
         m_commandLine->say(tr("已取消。"));
         return;
     }
-    m_commandLine->say(tr("%1: %2").arg(title, messages::describe(error)));
+    m_commandLine->say(messages::describe(path, error));
     messages::showFailure(this, title, path, error);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -30,17 +31,21 @@ SaveChoice askToSave(QWidget* parent, const QString& fileName)
     return box.clickedButton() == discard ? SaveChoice::Discard : SaveChoice::Cancel;
 }
 
-QString describe(const drawing::Error& error)
+QString describe(const QString& path, const drawing::Error& error)
 {
-    return error.line > 0 ? tr("第 %1 行: %2").arg(error.line).arg(error.text) : error.text;
+    const QString line = tr("第 %1 行").arg(error.line);
+    QString text = error.text;
+    if (error.line > 0 && !text.contains(line))
+        text = tr("%1: %2").arg(line, text);
+    const QString shown = QDir::toNativeSeparators(path);
+    return text.contains(QFileInfo(path).fileName()) ? text : tr("%1: %2").arg(shown, text);
 }
 
 void showFailure(
     QWidget* parent, const QString& title, const QString& path, const drawing::Error& error)
 {
-    QMessageBox box(QMessageBox::Warning, title,
-        QDir::toNativeSeparators(path) + QLatin1Char('\n') + describe(error), QMessageBox::NoButton,
-        parent);
+    QMessageBox box(
+        QMessageBox::Warning, title, describe(path, error), QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
     box.addButton(tr("确定"), QMessageBox::AcceptRole);
     box.exec();

@@ -14,8 +14,8 @@ enum class SaveChoice { Save, Discard, Cancel };
 /// Asks what becomes of unsaved changes; Esc means cancel.
 SaveChoice askToSave(QWidget* parent, const QString& fileName);
 
-/// The line of the file, where one is to blame, and the cause.
-QString describe(const drawing::Error& error);
+/// One sentence that names file, line (where one is to blame) and cause, each once.
+QString describe(const QString& path, const drawing::Error& error);
 /// Names file, line and cause of what went wrong.
 void showFailure(
     QWidget* parent, const QString& title, const QString& path, const drawing::Error& error);

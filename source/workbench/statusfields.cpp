@@ -29,6 +29,7 @@ QLabel* StatusFields::addField(const QString& name, const QString& widest)
     label->setTextFormat(Qt::PlainText);
     label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest));
     label->setAlignment(Qt::AlignCenter);
+    label->setContentsMargins(8, 0, 8, 0);
     addPermanentWidget(label);
     return label;
 }
