@@ -109,7 +109,8 @@ Expected<void> writeFile(
     if (target.exists() && !target.isFile())
         return refusal(path, tr("它不是普通文件"));
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered: a failure to write the last of a buffer would not keep commit() from replacing.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return refusal(path, causeOf(file, size));
     Output output(file, size, progress);
     const bool isWritten = journal.stream([&output](std::string_view piece) {
