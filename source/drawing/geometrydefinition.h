@@ -45,12 +45,24 @@ struct Definition
         int rows = 1;
     };
 
+    struct Endless
+    {
+        EntityStyle style;
+        Vec3 from;
+        Vec3 direction;
+        bool bothWays = false;
+    };
+
     Path vertices; ///< A vertex with an x of NaN begins a new part.
     std::vector<Shape> shapes;
     std::vector<Text> texts;
+    std::vector<Endless> endless;
     std::vector<Reference> references;
 
-    bool isEmpty() const { return shapes.empty() && texts.empty() && references.empty(); }
+    bool isEmpty() const
+    {
+        return shapes.empty() && texts.empty() && endless.empty() && references.empty();
+    }
     void clear();
 };
 

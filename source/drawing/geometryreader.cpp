@@ -1,6 +1,8 @@
 #include "geometryreader.h"
 
 #include "geometryhatchreader.h"
+#include "geometrymultileader.h"
+#include "geometrypolyline.h"
 #include "geometrytext.h"
 
 #include <algorithm>
@@ -12,11 +14,7 @@ namespace drawing {
 namespace {
 
 constexpr double kDegree = kPi / 180;
-const Vec3 kBreak{std::numeric_limits<double>::quiet_NaN(), 0, 0};
-
-/// Bits of a polyline's and its vertices' flags (group 70).
-enum PolylineFlag { Closed = 1, Spatial = 8, Mesh = 16, ClosedAcross = 32, Polyface = 64 };
-enum VertexFlag { Smoothed = 8, Control = 16, FaceVertex = 64, FaceRecord = 128 };
+constexpr qint64 kClosed = 1; ///< Bit of a polyline's or spline's flags.
 
 Transform3 turnedAt(const Vec3& origin, double degrees)
 {
@@ -55,6 +53,10 @@ const EntityReader::HandlerRow EntityReader::kHandlers[] = {
     {"ATTDEF", &EntityReader::attributeDefinition},
     {"ACAD_TABLE", &EntityReader::insert},
     {"IMAGE", &EntityReader::image},
+    {"MESH", &EntityReader::mesh},
+    {"RAY", &EntityReader::ray},
+    {"XLINE", &EntityReader::constructionLine},
+    {"MULTILEADER", &EntityReader::multiLeader},
 };
 
 EntityReader::EntityReader(const Drawing& drawing) : m_drawing(drawing)
@@ -113,7 +115,7 @@ void EntityReader::addShape(Primitive::Shape shape, const Path& path, const Tran
         if (mapped.isFinite())
             vertices.push_back(mapped);
         else if (std::isnan(vertex.x) && vertices.size() > first)
-            vertices.push_back(kBreak);
+            vertices.push_back(pathBreak());
     }
     if (vertices.size() > first)
         m_definition->shapes.push_back({style(), shape, first, vertices.size() - first});
@@ -137,107 +139,44 @@ void EntityReader::lwPolyline()
             vertices.back().bulge = tag.toDouble();
     }
     Path path;
-    appendBulges(path, vertices, m_tags.integer(70) & Closed);
+    appendBulges(path, vertices, m_tags.integer(70) & kClosed);
     addShape(Primitive::Shape::Lines, path, plane());
 }
 
 void EntityReader::polyline()
 {
-    const qint64 flags = m_tags.integer(70);
-    if (flags & Polyface)
-        polyface();
-    else if (flags & Mesh)
-        meshPolyline(flags);
-    else
-        flatPolyline(flags & Closed);
+    Polyline polyline(m_tags);
+    const auto& entities = m_drawing.entities();
+    EntityTags vertex;
+    for (std::size_t i = m_index + 1; i < entities.size() && entities[i].subEntity; ++i) {
+        vertex.load(m_drawing.tags(entities[i]));
+        polyline.add(vertex);
+    }
+    addShape(
+        Primitive::Shape::Lines, polyline.lines(), polyline.isPlanar() ? plane() : Transform3());
 }
 
-/// A polyline in the plane or in space; of a curve-fitted one the curve, not its frame.
-void EntityReader::flatPolyline(bool closed)
+void EntityReader::mesh()
 {
-    const Transform3 place = m_tags.integer(70) & Spatial ? Transform3() : plane();
-    const EntityTags head = m_tags;
-    const auto& entities = m_drawing.entities();
-    std::vector<BulgeVertex> vertices;
-    for (std::size_t i = m_index + 1; i < entities.size() && entities[i].subEntity; ++i) {
-        m_tags.load(m_drawing.tags(entities[i]));
-        if (m_tags.type() != "VERTEX" || m_tags.integer(70) & Control)
-            continue;
-        const Vec3 point = m_tags.point(10);
-        if (point.isFinite())
-            vertices.push_back({point, m_tags.number(42)});
-    }
-    m_tags = head;
-    Path path;
-    appendBulges(path, vertices, closed);
-    addShape(Primitive::Shape::Lines, path, place);
+    addShape(Primitive::Shape::Lines, meshEdges(m_tags));
 }
 
-/// A mesh of M rows and N columns: the lines both ways.
-void EntityReader::meshPolyline(qint64 flags)
+void EntityReader::ray()
 {
-    const EntityTags head = m_tags;
-    const bool smooth = m_tags.integer(75) != 0;
-    const auto& entities = m_drawing.entities();
-    Path points;
-    for (std::size_t i = m_index + 1; i < entities.size() && entities[i].subEntity; ++i) {
-        m_tags.load(m_drawing.tags(entities[i]));
-        const bool isSmoothed = m_tags.integer(70) & Smoothed;
-        if (m_tags.type() == "VERTEX" && isSmoothed == smooth)
-            points.push_back(m_tags.point(10));
-    }
-    m_tags = head;
-    const auto size = static_cast<qint64>(points.size());
-    const qint64 rows = m_tags.integer(smooth ? 73 : 71);
-    const qint64 columns = m_tags.integer(smooth ? 74 : 72);
-    if (rows < 1 || columns < 1 || rows > size || columns > size || rows * columns > size)
-        return;
-    Path path;
-    const auto addRun = [&](qint64 start, qint64 step, qint64 count, bool closed) {
-        for (qint64 i = 0; i < count + (closed ? 1 : 0); ++i)
-            path.push_back(points[static_cast<std::size_t>(start + i % count * step)]);
-        path.push_back(kBreak);
-    };
-    for (qint64 row = 0; row < rows; ++row)
-        addRun(row * columns, 1, columns, flags & ClosedAcross);
-    for (qint64 column = 0; column < columns; ++column)
-        addRun(column, columns, rows, flags & Closed);
-    addShape(Primitive::Shape::Lines, path);
+    addEndless(false);
 }
 
-/// Vertices first, then faces that number them from 1; a negative number hides the edge behind it.
-void EntityReader::polyface()
+void EntityReader::constructionLine()
 {
-    const EntityTags head = m_tags;
-    const auto& entities = m_drawing.entities();
-    Path points;
-    Path path;
-    const auto at = [&points](qint64 number) {
-        const auto index = static_cast<std::size_t>(std::abs(number)) - 1;
-        return number != 0 && index < points.size() ? points[index] : kBreak;
-    };
-    for (std::size_t i = m_index + 1; i < entities.size() && entities[i].subEntity; ++i) {
-        m_tags.load(m_drawing.tags(entities[i]));
-        const qint64 flags = m_tags.integer(70);
-        if (flags & FaceVertex) {
-            points.push_back(m_tags.point(10));
-            continue;
-        }
-        if (!(flags & FaceRecord))
-            continue;
-        std::vector<qint64> corners;
-        for (int code = 71; code <= 74 && m_tags.integer(code) != 0; ++code)
-            corners.push_back(m_tags.integer(code));
-        for (std::size_t corner = 0; corner < corners.size(); ++corner) {
-            if (corners[corner] < 0)
-                continue;
-            path.push_back(at(corners[corner]));
-            path.push_back(at(corners[(corner + 1) % corners.size()]));
-            path.push_back(kBreak);
-        }
-    }
-    m_tags = head;
-    addShape(Primitive::Shape::Lines, path);
+    addEndless(true);
+}
+
+void EntityReader::addEndless(bool bothWays)
+{
+    const Vec3 from = m_tags.point(10);
+    const Vec3 direction = m_tags.point(11);
+    if (from.isFinite() && direction.isFinite())
+        m_definition->endless.push_back({style(), from, direction, bothWays});
 }
 
 void EntityReader::circle()
@@ -271,7 +210,7 @@ void EntityReader::spline()
 {
     Spline spline;
     spline.degree = static_cast<int>(std::clamp<qint64>(m_tags.integer(71, 3), 0, 100));
-    spline.closed = m_tags.integer(70) & Closed;
+    spline.closed = m_tags.integer(70) & kClosed;
     for (const Tag& tag : m_tags) {
         Path& path = tag.code % 10 == 0 ? spline.controls : spline.fitPoints;
         if (tag.code == 40)
@@ -314,7 +253,7 @@ void EntityReader::face()
             continue;
         path.push_back(corners[i]);
         path.push_back(corners[(i + 1) % 4]);
-        path.push_back(kBreak);
+        path.push_back(pathBreak());
     }
     addShape(Primitive::Shape::Lines, path);
 }
@@ -331,14 +270,14 @@ void EntityReader::hatch()
     std::vector<HatchSegment> segments;
     if (!reader.isSolid() && appendPattern(segments, reader.loops(), reader.pattern())) {
         for (const HatchSegment& segment : segments)
-            path.insert(path.end(), {segment.from, segment.to, kBreak});
+            path.insert(path.end(), {segment.from, segment.to, pathBreak()});
         addShape(Primitive::Shape::Lines, path, place);
         return;
     }
     for (const Path& loop : reader.loops()) {
         path.insert(path.end(), loop.begin(), loop.end());
         path.push_back(loop.front());
-        path.push_back(kBreak);
+        path.push_back(pathBreak());
     }
     addShape(reader.isSolid() ? Primitive::Shape::Fill : Primitive::Shape::Lines, path, place);
 }
@@ -354,18 +293,39 @@ void EntityReader::leader()
         else if (tag.code == 30 && !path.empty())
             path.back().z = tag.toDouble();
     }
-    // The arrow is as long as the annotation's text is high, which is what dimension styles agree
-    // on.
-    const double size = m_tags.number(40);
-    const bool hasArrow = m_tags.integer(71, 1) != 0 && path.size() > 1;
-    const Vec3 way = hasArrow ? path[1] - path[0] : Vec3();
-    if (hasArrow && size > 0 && way.length() > 2 * size) {
-        const Vec3 along = way.normalized() * size;
-        const Vec3 across = Vec3::cross({0, 0, 1}, along) * (1.0 / 6);
-        addShape(
-            Primitive::Shape::Fill, {path[0], path[0] + along + across, path[0] + along - across});
-    }
     addShape(Primitive::Shape::Lines, path);
+    // The arrow is as long as the annotation's text is high, as dimension styles agree.
+    if (m_tags.integer(71, 1) != 0)
+        addArrow(path, m_tags.number(40));
+}
+
+/// An arrowhead at the beginning of a line that has room for it.
+void EntityReader::addArrow(const Path& path, double size)
+{
+    if (path.size() < 2 || !(size > 0))
+        return;
+    const Vec3 way = path[1] - path[0];
+    if (!(way.length() > 2 * size))
+        return;
+    const Vec3 along = way.normalized() * size;
+    const Vec3 across = Vec3::cross({0, 0, 1}, along) * (1.0 / 6);
+    addShape(Primitive::Shape::Fill, {path[0], path[0] + along + across, path[0] + along - across});
+}
+
+void EntityReader::multiLeader()
+{
+    const MultiLeader leader(m_tags);
+    for (const Path& line : leader.lines()) {
+        addShape(Primitive::Shape::Lines, line);
+        addArrow(line, leader.arrowSize());
+    }
+    const double height = leader.textHeight();
+    if (!leader.hasText() || !(height > 0))
+        return;
+    const Vec3 x = leader.textDirection().normalized();
+    const Transform3 place(x, Vec3::cross({0, 0, 1}, x), {0, 0, 1}, leader.textPlace());
+    addLines(plainLines(m_drawing.decoded(leader.text()), leader.textWidth() / height), place,
+        {height, 1, leader.textColumn(), 0});
 }
 
 /// Pixels are not shown, but where the image lies is.
@@ -477,28 +437,29 @@ void EntityReader::mtext()
         place = Transform3(x, Vec3::cross(z, x), z, {});
     }
     place = Transform3::translation(m_tags.point(10)) * place;
-    addMTextLines(plainLines(value, m_tags.number(41) / height), place, height);
+    const auto attachment = static_cast<int>(std::clamp<qint64>(m_tags.integer(71, 1), 1, 9)) - 1;
+    addLines(plainLines(value, m_tags.number(41) / height), place,
+        {height, m_tags.number(44, 1), attachment % 3, attachment / 3});
 }
 
-void EntityReader::addMTextLines(const QStringList& lines, const Transform3& place, double height)
+void EntityReader::addLines(
+    const QStringList& lines, const Transform3& place, const Paragraph& paragraph)
 {
     // Lines lie five thirds of the text height apart unless told otherwise.
-    const double spacing = height * 5 / 3 * m_tags.number(44, 1);
-    const double total = spacing * (lines.size() - 1) + height;
-    const qint64 attachment = std::clamp<qint64>(m_tags.integer(71, 1), 1, 9) - 1;
-    const double top = total * static_cast<double>(attachment / 3) / 2;
+    const double spacing = paragraph.height * 5 / 3 * paragraph.spacing;
+    const double total = spacing * (lines.size() - 1) + paragraph.height;
     if (!place.isFinite() || !std::isfinite(total))
         return;
-    double baseline = top - height;
+    double baseline = total * paragraph.row / 2 - paragraph.height;
     for (const QString& line : lines) {
         if (!line.trimmed().isEmpty()) {
             Definition::Text text;
             text.style = style();
             text.run.text = line;
-            text.run.horizontal = static_cast<TextRun::Horizontal>(attachment % 3);
+            text.run.horizontal = static_cast<TextRun::Horizontal>(paragraph.column);
             text.origin = place.map({0, baseline, 0});
-            text.right = place.mapDirection({height, 0, 0});
-            text.up = place.mapDirection({0, height, 0});
+            text.right = place.mapDirection({paragraph.height, 0, 0});
+            text.up = place.mapDirection({0, paragraph.height, 0});
             m_definition->texts.push_back(std::move(text));
         }
         baseline -= spacing;

@@ -23,6 +23,15 @@ private:
     struct HandlerRow;
     static const HandlerRow kHandlers[];
 
+    /// How lines of text stand together and where from their place.
+    struct Paragraph
+    {
+        double height = 1;
+        double spacing = 1; ///< In units of the usual distance.
+        int column = 0;     ///< 0 to the right of the place, 1 centred, 2 to the left.
+        int row = 0;        ///< 0 below the place, 1 centred, 2 above.
+    };
+
     void line();
     void lwPolyline();
     void polyline();
@@ -42,14 +51,17 @@ private:
     void dimension();
     void leader();
     void image();
+    void mesh();
+    void ray();
+    void constructionLine();
+    void multiLeader();
 
-    void flatPolyline(bool closed);
-    void meshPolyline(qint64 flags);
-    void polyface();
     void attributes();
     Transform3 plane() const;
     bool addText(QString value, TextRun::Vertical vertical);
-    void addMTextLines(const QStringList& lines, const Transform3& place, double height);
+    void addLines(const QStringList& lines, const Transform3& place, const Paragraph& paragraph);
+    void addArrow(const Path& path, double size);
+    void addEndless(bool bothWays);
     void addShape(Primitive::Shape shape, const Path& path, const Transform3& place = {});
     void addReference(const QString& name, Definition::Reference reference);
     EntityStyle style() const;

@@ -10,7 +10,7 @@
 namespace {
 
 /// Drawings that take longer are shown as a moved picture while zooming and panning goes on.
-constexpr qint64 kFluentMilliseconds = 40;
+constexpr qint64 kFluentMilliseconds = 60;
 constexpr int kSettleMilliseconds = 120;
 /// Beyond this many vertices smooth lines cost more than they show.
 constexpr std::size_t kSmoothVertices = 400'000;

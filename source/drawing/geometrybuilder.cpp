@@ -1,0 +1,313 @@
+#include "geometrybuilder.h"
+
+#include "geometrytext.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace drawing {
+
+namespace {
+
+constexpr std::size_t kMaxVertices = 16'000'000; ///< 256 MB of points.
+constexpr std::size_t kMaxPieces = 4'000'000;    ///< Primitives and texts.
+constexpr int kMaxInstances = 1'000'000;         ///< Placed block references.
+constexpr int kMaxDepth = 64;                    ///< Of block references inside blocks.
+
+QPointF flat(const Vec3& point)
+{
+    return {point.x, point.y};
+}
+
+Box estimatedBounds(const TextRun& run)
+{
+    const double width = run.fitWidth > 0 ? run.fitWidth : estimatedWidth(run.text);
+    const double start = -width * static_cast<double>(run.horizontal) / 2;
+    Box box;
+    for (const double along : {start, start + width}) {
+        // Whatever the vertical alignment, the line lies within this.
+        for (const double across : {-1.2, 1.2})
+            box.add(run.origin + run.right * along + run.up * across);
+    }
+    return box;
+}
+
+} // namespace
+
+GeometryBuilder::GeometryBuilder(const Drawing& drawing, Progress* progress)
+    : m_drawing(drawing),
+      m_progress(progress),
+      m_reader(drawing)
+{
+    m_definitions.resize(drawing.blocks().size());
+    m_active.resize(drawing.blocks().size());
+    m_geometry.owners.emplace_back();
+    if (const Layer* zero = drawing.findLayer(QStringLiteral("0")))
+        m_layerZero = zero->id;
+}
+
+Expected<Geometry> GeometryBuilder::build()
+{
+    const auto& entities = m_drawing.entities();
+    Definition definition;
+    for (std::size_t i = 0; i < entities.size(); ++i) {
+        const Entity& entity = entities[i];
+        if (i % 256 == 0 && !goOn(i, entities.size()))
+            return tl::unexpected(
+                Error{QCoreApplication::translate("Geometry", "已取消。"), 0, true});
+        if (entity.block >= 0 || entity.paperSpace || entity.subEntity)
+            continue;
+        definition.clear();
+        m_reader.read(i, false, definition);
+        m_entity = static_cast<int>(i);
+        emitDefinition(definition, {}, {}, 0);
+    }
+    if (isCancelled())
+        return tl::unexpected(Error{QCoreApplication::translate("Geometry", "已取消。"), 0, true});
+    emitEndless();
+    return std::move(m_geometry);
+}
+
+bool GeometryBuilder::goOn(std::size_t done, std::size_t total)
+{
+    const int percent = static_cast<int>(done * 100 / total);
+    if (m_progress && m_progress->report && percent != m_percent)
+        m_progress->report(percent);
+    m_percent = percent;
+    return !isCancelled();
+}
+
+const Definition& GeometryBuilder::definitionOf(int block)
+{
+    std::optional<Definition>& known = m_definitions[static_cast<std::size_t>(block)];
+    if (known)
+        return *known;
+    known.emplace();
+    const Block& source = m_drawing.blocks()[static_cast<std::size_t>(block)];
+    for (int i = source.first; i < source.first + source.count; ++i) {
+        const auto index = static_cast<std::size_t>(i);
+        if (index < m_drawing.entities().size() && !m_drawing.entities()[index].subEntity)
+            m_reader.read(index, true, *known);
+    }
+    return *known;
+}
+
+bool GeometryBuilder::isFull()
+{
+    const bool full = m_vertices >= kMaxVertices || m_pieces >= kMaxPieces ||
+                      m_instances >= kMaxInstances || isCancelled();
+    m_geometry.truncated = m_geometry.truncated || full;
+    return full;
+}
+
+LayerId GeometryBuilder::layerOf(const EntityStyle& style, const Context& context) const
+{
+    return style.layer == m_layerZero && context.layer != LayerId::None ? context.layer
+                                                                        : style.layer;
+}
+
+GeometryColor GeometryBuilder::colorOf(const EntityStyle& style, const Context& context) const
+{
+    switch (style.color) {
+    case EntityStyle::Color::ByLayer:
+        return {GeometryColor::Source::Layer, static_cast<quint32>(layerOf(style, context))};
+    case EntityStyle::Color::ByBlock:
+        return context.color;
+    case EntityStyle::Color::Index:
+        return {GeometryColor::Source::Index, style.value};
+    case EntityStyle::Color::True:
+        break;
+    }
+    return {GeometryColor::Source::True, style.value};
+}
+
+int GeometryBuilder::ownersWith(int owners, LayerId layer)
+{
+    const std::vector<LayerId>& known = m_geometry.owners[static_cast<std::size_t>(owners)];
+    if (layer == LayerId::None || std::find(known.begin(), known.end(), layer) != known.end())
+        return owners;
+    const auto [found, isNew] =
+        m_ownerIndex.try_emplace({owners, layer}, static_cast<int>(m_geometry.owners.size()));
+    if (isNew) {
+        std::vector<LayerId> longer = known;
+        longer.push_back(layer);
+        m_geometry.owners.push_back(std::move(longer));
+    }
+    return found->second;
+}
+
+GeometryGroup& GeometryBuilder::groupFor(const EntityStyle& style, const Context& context)
+{
+    const GroupKey key{
+        layerOf(style, context), ownersWith(context.owners, style.owner), colorOf(style, context)};
+    auto found = m_groupIndex.constFind(key);
+    if (found == m_groupIndex.constEnd()) {
+        found = m_groupIndex.insert(key, m_geometry.groups.size());
+        GeometryGroup& group = m_geometry.groups.emplace_back();
+        group.layer = key.layer;
+        group.owners = key.owners;
+        group.color = key.color;
+    }
+    return m_geometry.groups[found.value()];
+}
+
+void GeometryBuilder::emitDefinition(
+    const Definition& definition, const Transform3& place, const Context& context, int depth)
+{
+    for (const Definition::Shape& shape : definition.shapes) {
+        if (isFull())
+            return;
+        emitShape(definition, shape, place, context);
+    }
+    for (const Definition::Text& text : definition.texts) {
+        if (isFull())
+            return;
+        emitText(text, place, context);
+    }
+    for (const Definition::Endless& line : definition.endless) {
+        if (isFull())
+            return;
+        noteEndless(line, place, context);
+    }
+    for (const Definition::Reference& reference : definition.references)
+        emitReference(reference, place, context, depth);
+}
+
+void GeometryBuilder::emitShape(const Definition& definition, const Definition::Shape& shape,
+    const Transform3& place, const Context& context)
+{
+    GeometryGroup& group = groupFor(shape.style, context);
+    Primitive primitive;
+    primitive.first = static_cast<quint32>(group.vertices.size());
+    for (std::size_t i = shape.first; i < shape.first + shape.count; ++i) {
+        const Vec3& source = definition.vertices[i];
+        const Vec3 mapped = place.map(source);
+        if (mapped.isFinite()) {
+            group.vertices.push_back(flat(mapped));
+            primitive.bounds.add(flat(mapped));
+        } else if (std::isnan(source.x)) {
+            group.vertices.emplace_back(qQNaN(), qQNaN());
+        }
+    }
+    primitive.count = static_cast<quint32>(group.vertices.size()) - primitive.first;
+    if (primitive.bounds.isEmpty())
+        return;
+    primitive.entity = m_entity;
+    primitive.shape = shape.shape;
+    primitive.sequence = static_cast<quint32>(m_pieces++);
+    m_vertices += primitive.count;
+    group.bounds.add(primitive.bounds);
+    group.hasFills = group.hasFills || primitive.shape == Primitive::Shape::Fill;
+    group.primitives.push_back(primitive);
+}
+
+void GeometryBuilder::noteEndless(
+    const Definition::Endless& line, const Transform3& place, const Context& context)
+{
+    const Vec3 from = place.map(line.from);
+    const Vec3 direction = place.mapDirection(line.direction);
+    GeometryGroup& group = groupFor(line.style, context);
+    const auto index = static_cast<std::size_t>(&group - m_geometry.groups.data());
+    if (from.isFinite() && direction.isFinite())
+        m_endless.push_back({index, flat(from), flat(direction), line.bothWays, m_entity,
+            static_cast<quint32>(m_pieces++)});
+}
+
+void GeometryBuilder::emitEndless()
+{
+    Box extents;
+    for (const GeometryGroup& group : m_geometry.groups)
+        extents.add(group.bounds);
+    for (const EndlessLine& line : m_endless)
+        extents.add(line.from);
+    for (const EndlessLine& line : m_endless) {
+        QPointF ends[2];
+        if (!clip(line, extents, ends))
+            continue;
+        GeometryGroup& group = m_geometry.groups[line.group];
+        Primitive primitive;
+        primitive.first = static_cast<quint32>(group.vertices.size());
+        primitive.count = 2;
+        primitive.entity = line.entity;
+        primitive.sequence = line.sequence;
+        for (const QPointF& end : ends) {
+            group.vertices.push_back(end);
+            primitive.bounds.add(end);
+        }
+        group.bounds.add(primitive.bounds);
+        group.primitives.push_back(primitive);
+    }
+}
+
+void GeometryBuilder::emitText(
+    const Definition::Text& text, const Transform3& place, const Context& context)
+{
+    const Vec3 origin = place.map(text.origin);
+    const Vec3 right = place.mapDirection(text.right);
+    const Vec3 up = place.mapDirection(text.up);
+    if (!origin.isFinite() || !right.isFinite() || !up.isFinite())
+        return;
+    GeometryGroup& group = groupFor(text.style, context);
+    TextRun run = text.run;
+    run.origin = flat(origin);
+    run.right = flat(right);
+    run.up = flat(up);
+    run.entity = m_entity;
+    run.bounds = estimatedBounds(run);
+    ++m_pieces;
+    group.bounds.add(run.bounds);
+    group.texts.push_back(std::move(run));
+}
+
+void GeometryBuilder::emitReference(const Definition::Reference& reference, const Transform3& place,
+    const Context& context, int depth)
+{
+    const auto block = static_cast<std::size_t>(reference.block);
+    if (depth >= kMaxDepth || m_active[block])
+        return;
+    const Definition& definition = definitionOf(reference.block);
+    if (definition.isEmpty())
+        return;
+    Context inner;
+    inner.layer = layerOf(reference.style, context);
+    inner.color = colorOf(reference.style, context);
+    inner.owners = ownersWith(context.owners, inner.layer);
+
+    m_active[block] = true;
+    for (int row = 0; row < reference.rows && !isFull(); ++row) {
+        for (int column = 0; column < reference.columns && !isFull(); ++column) {
+            ++m_instances;
+            const Vec3 shift = reference.columnStep * column + reference.rowStep * row;
+            emitDefinition(definition, place * Transform3::translation(shift) * reference.place,
+                inner, depth + 1);
+        }
+    }
+    m_active[block] = false;
+}
+
+bool GeometryBuilder::clip(const EndlessLine& line, const Box& box, QPointF ends[2])
+{
+    double low = line.bothWays ? -std::numeric_limits<double>::infinity() : 0;
+    double high = std::numeric_limits<double>::infinity();
+    const auto narrow = [&](double from, double direction, double least, double greatest) {
+        if (direction == 0)
+            return from >= least && from <= greatest;
+        const double a = (least - from) / direction;
+        const double b = (greatest - from) / direction;
+        low = std::max(low, std::min(a, b));
+        high = std::min(high, std::max(a, b));
+        return low < high;
+    };
+    const bool inside = narrow(line.from.x(), line.direction.x(), box.minX, box.maxX) &&
+                        narrow(line.from.y(), line.direction.y(), box.minY, box.maxY);
+    if (!inside || !std::isfinite(low) || !std::isfinite(high))
+        return false;
+    ends[0] = line.from + line.direction * low;
+    ends[1] = line.from + line.direction * high;
+    return true;
+}
+
+} // namespace drawing

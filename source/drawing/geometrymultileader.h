@@ -1,0 +1,50 @@
+#pragma once
+
+#include "geometrycurves.h"
+#include "geometrytags.h"
+
+namespace drawing {
+
+/// What a MULTILEADER shows. Its groups are nested in braces, and the same codes mean other things
+/// inside and outside of them.
+class MultiLeader
+{
+public:
+    explicit MultiLeader(const EntityTags& tags);
+
+    const std::vector<Path>& lines() const { return m_lines; } ///< Each from its arrow on.
+    double arrowSize() const { return m_arrowSize; }
+
+    bool hasText() const { return m_hasText; }
+    std::string_view text() const { return m_text; } ///< As an MTEXT's, not decoded.
+    Vec3 textPlace() const { return m_textPlace; }
+    Vec3 textDirection() const { return m_textDirection; }
+    double textHeight() const { return m_textHeight; }
+    double textWidth() const { return m_textWidth; } ///< To wrap at; 0 = none.
+    int textColumn() const { return m_textColumn; }  ///< 0 left, 1 centre, 2 right of its place.
+
+private:
+    enum class Part { Outside, Context, Leader, Line };
+
+    void takeContext(const Tag& tag);
+    void takeLeader(const Tag& tag);
+    void takeLine(const Tag& tag);
+    void finishLeader();
+
+    Part m_part = Part::Outside;
+    std::vector<Path> m_lines;
+    std::size_t m_firstLine = 0; ///< Of the leader being read.
+    Vec3 m_landing;
+    Vec3 m_doglegDirection;
+    double m_doglegLength = 0;
+    double m_arrowSize = 0;
+    bool m_hasText = false;
+    std::string_view m_text;
+    Vec3 m_textPlace;
+    Vec3 m_textDirection{1, 0, 0};
+    double m_textHeight = 1;
+    double m_textWidth = 0;
+    int m_textColumn = 0;
+};
+
+} // namespace drawing
