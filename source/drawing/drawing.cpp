@@ -17,6 +17,7 @@ class Drawing::Private
 public:
     Expected<void> map(const QString& fileName);
     UndoStep takeStep();
+    bool stepChanged() const;
 
     QString path;
     QFile file; // Keeps the mapping; its inode lives on when saving replaces the file.
@@ -25,6 +26,7 @@ public:
     DocumentState stateBefore;
     QString stepName;
     bool stepIsOpen = false;
+    bool stepIsPublished = false;
     bool wasModified = false;
 };
 
@@ -63,6 +65,11 @@ UndoStep Drawing::Private::takeStep()
     step.after = data.state;
     stepIsOpen = false;
     return step;
+}
+
+bool Drawing::Private::stepChanged() const
+{
+    return stepIsOpen && (data.journal.hasChanges() || !(stateBefore == data.state));
 }
 
 Drawing::Drawing() : d(std::make_unique<Private>()) {}
@@ -111,9 +118,7 @@ QString Drawing::path() const
 
 bool Drawing::isModified() const
 {
-    const bool stepChanged =
-        d->stepIsOpen && (d->data.journal.hasChanges() || !(d->stateBefore == d->data.state));
-    return stepChanged || !d->steps.isClean();
+    return d->stepChanged() || !d->steps.isClean();
 }
 
 const std::vector<Layer>& Drawing::layers() const
@@ -203,6 +208,7 @@ void Drawing::beginStep(const QString& name)
     d->stepName = name;
     d->stateBefore = d->data.state;
     d->stepIsOpen = true;
+    d->stepIsPublished = false;
 }
 
 void Drawing::commitStep()
@@ -211,8 +217,10 @@ void Drawing::commitStep()
         return;
     updateReferences(d->data);
     UndoStep step = d->takeStep();
-    if (step.isEmpty())
+    if (step.isEmpty()) {
+        announce(d->stepIsPublished, false);
         return;
+    }
     const bool entities = !step.entities.empty();
     d->steps.push(std::move(step));
     announce(true, entities);
@@ -223,16 +231,16 @@ void Drawing::rollbackStep()
     if (!d->stepIsOpen)
         return;
     const UndoStep step = d->takeStep();
-    if (step.isEmpty())
-        return;
     step.apply(d->data, false);
-    announce(true, !step.entities.empty());
+    announce(d->stepIsPublished || !step.isEmpty(), !step.entities.empty());
 }
 
 void Drawing::publishStep()
 {
-    if (d->stepIsOpen && isModified())
-        announce(true, !d->data.entityChanges.empty());
+    if (!d->stepChanged())
+        return;
+    d->stepIsPublished = true;
+    announce(true, false);
 }
 
 bool Drawing::inStep() const

@@ -6,6 +6,12 @@
 
 namespace drawing {
 
+namespace {
+
+constexpr int kLastColorIndex = 255;
+
+} // namespace
+
 void LeftOut::note(Kind kind, const QString& layer)
 {
     Note& note = m_notes[kind];
@@ -51,8 +57,16 @@ const ObjectPlace* DrawingData::objectByHandle(quint64 handle)
 
 QString DrawingData::plotStyleName(int colorIndex, quint64 handle) const
 {
-    return plotStylesByColor ? QStringLiteral("Color_%1").arg(colorIndex)
-                             : plotStyles.value(handle);
+    if (!plotStylesByColor)
+        return plotStyles.value(handle);
+    // Shared by all layers of a colour.
+    static const std::vector<QString> names = [] {
+        std::vector<QString> made;
+        for (int color = 0; color <= kLastColorIndex; ++color)
+            made.push_back(QStringLiteral("Color_%1").arg(color));
+        return made;
+    }();
+    return names.at(static_cast<size_t>(colorIndex));
 }
 
 } // namespace drawing

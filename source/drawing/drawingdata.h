@@ -97,7 +97,7 @@ struct DrawingData
     std::string_view lineAt(qint64 offset) const;
     /// Null when there is no such object. The index of handles is made at the first call.
     const ObjectPlace* objectByHandle(quint64 handle);
-    /// Name of the plot style of a layer with this colour index and plot style handle.
+    /// Name of the plot style of a layer with this colour index, 1..255, and plot style handle.
     QString plotStyleName(int colorIndex, quint64 handle) const;
 };
 

@@ -155,6 +155,7 @@ void Loader::loadPlotStyles()
 void Loader::loadLayerRecords()
 {
     LayerRecordReader reader(m_data.codec);
+    m_data.layers.reserve(m_data.index.table(TableKind::Layer).records.size());
     for (const ByteRange& range : m_data.index.table(TableKind::Layer).records) {
         const LayerRecord record = reader.read(m_data.tags(range));
         LayerEntry entry;

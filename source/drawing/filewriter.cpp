@@ -82,6 +82,7 @@ QString causeOf(const QSaveFile& file, qint64 size)
 {
     const QString folder = QFileInfo(file.fileName()).absolutePath();
     const QStorageInfo storage(folder);
+    const QFileInfo target(file.fileName());
     if (!QDir(folder).exists())
         return tr("文件夹不存在");
     if (storage.isReadOnly())
@@ -90,6 +91,8 @@ QString causeOf(const QSaveFile& file, qint64 size)
         return tr("磁盘空间不足");
     if (!QFileInfo(folder).isWritable())
         return tr("没有写入该文件夹的权限");
+    if (target.exists() && !target.isWritable())
+        return tr("文件是只读的");
     return file.errorString();
 }
 

@@ -130,7 +130,7 @@ void LayerEdits::dropUnsupported(const LayerProperties& before, LayerProperties&
     };
     drop(limits.plotFlag, &LayerProperties::plotted, LeftOut::PlotFlag);
     drop(limits.lineweight, &LayerProperties::lineweight, LeftOut::Lineweight);
-    drop(limits.trueColor, &LayerProperties::trueColor, LeftOut::TrueColor);
+    drop(limits.trueColor || !after.trueColor, &LayerProperties::trueColor, LeftOut::TrueColor);
 }
 
 void LayerEdits::needApplications(const LayerProperties& before, const LayerProperties& after)

@@ -35,6 +35,8 @@ private:
     void rewriteFilter(TagList& tags) const;
     void rewriteGroup(TagList& tags) const;
     bool renameAt(TagList& tags, int at) const;
+    QString renamedPattern(const QString& pattern) const;
+    void forgetAt(TagList& tags, int at) const;
     bool isRemoved(const TagList& tags, int at) const;
 
     DrawingData& m_data;
@@ -84,6 +86,30 @@ bool ObjectUpdate::renameAt(TagList& tags, int at) const
     return true;
 }
 
+/// The current layer of a state may not be one that is gone.
+void ObjectUpdate::forgetAt(TagList& tags, int at) const
+{
+    if (m_renames.removedNames.contains(m_data.codec.decode(tags.trimmed(at)).toCaseFolded()))
+        tags.setValue(at, "0");
+}
+
+/// The new name of a layer as a pattern, where `pattern` is a name and that layer got a new one.
+QString ObjectUpdate::renamedPattern(const QString& pattern) const
+{
+    const QLatin1Char escape('`');
+    const QString name = QString(pattern).remove(escape);
+    const auto renamed = m_renames.newNames.constFind(name.toCaseFolded());
+    if (renamed == m_renames.newNames.constEnd())
+        return {};
+    QString escaped;
+    for (const QChar c : *renamed) {
+        if (QStringLiteral("#@[]~").contains(c))
+            escaped += escape;
+        escaped += c;
+    }
+    return escaped;
+}
+
 bool ObjectUpdate::isRemoved(const TagList& tags, int at) const
 {
     if (tags.code(at) == 330)
@@ -111,8 +137,8 @@ void ObjectUpdate::rewriteState(TagList& tags) const
         const int code = tags.code(at);
         if (isData && (code == 8 || code == 330 || code == 1001))
             isKept = code == 1001 || !isRemoved(tags, at);
-        if (isKept && isData && (code == 8 || code == 302))
-            renameAt(tags, at);
+        if (isKept && isData && (code == 8 || code == 302) && !renameAt(tags, at) && code == 302)
+            forgetAt(tags, at);
         if (isKept)
             keep.push_back(at);
     }
@@ -124,8 +150,11 @@ void ObjectUpdate::rewriteFilter(TagList& tags) const
 {
     const int own = tags.find(1, dataBegin(tags), tags.size());
     const int pattern = own == TagList::kNone ? own : tags.find(1, own + 1, tags.size());
-    if (pattern != TagList::kNone)
-        renameAt(tags, pattern);
+    if (pattern == TagList::kNone)
+        return;
+    const QString renamed = renamedPattern(m_data.codec.decode(tags.trimmed(pattern)));
+    if (!renamed.isEmpty())
+        tags.setValue(pattern, m_data.codec.encode(renamed));
 }
 
 /// A filter of the newer kind: a group lists handles, a filter compares names in its
@@ -143,10 +172,10 @@ void ObjectUpdate::rewriteGroup(TagList& tags) const
         const int name = expression.indexOf(QLatin1String("NAME==\""), 0, Qt::CaseInsensitive);
         const int from = name + 7;
         const int to = name < 0 ? -1 : expression.indexOf(QLatin1Char('"'), from);
-        const auto renamed = m_renames.newNames.constFind(
-            to < 0 ? QString() : expression.mid(from, to - from).toCaseFolded());
-        if (renamed != m_renames.newNames.constEnd())
-            tags.setValue(at, m_data.codec.encode(expression.replace(from, to - from, *renamed)));
+        const QString renamed =
+            to < 0 ? QString() : renamedPattern(expression.mid(from, to - from));
+        if (!renamed.isEmpty())
+            tags.setValue(at, m_data.codec.encode(expression.replace(from, to - from, renamed)));
     }
     tags.keepOnly(keep);
 }

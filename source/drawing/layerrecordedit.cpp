@@ -25,27 +25,38 @@ public:
 
 private:
     void findBody();
-    int find(int code) const { return m_tags.find(code, m_bodyBegin, m_bodyEnd); }
+    int find(int code) const;
     void insert(int code, const QByteArray& tag);
     void remove(int code);
     int findXdata(std::string_view application, int& end) const;
 
     TagList m_tags;
-    int m_bodyBegin = 0; // Behind the subclass marker and the 102 groups.
+    int m_bodyBegin = 1; // Behind the subclass markers.
     int m_bodyEnd = 0;   // The first XDATA tag.
 };
 
 void RecordEditor::findBody()
 {
-    m_bodyBegin = 1;
     m_bodyEnd = m_tags.find(1001, 0, m_tags.size());
     if (m_bodyEnd == TagList::kNone)
         m_bodyEnd = m_tags.size();
     for (int at = 1; at < m_bodyEnd; ++at) {
-        const bool isMarker = m_tags.code(at) == 100;
-        if (isMarker || m_tags.code(at) == 102)
+        if (m_tags.code(at) == 100)
             m_bodyBegin = at + 1;
     }
+}
+
+/// The record's own tag with this code, not one in a 102 group.
+int RecordEditor::find(int code) const
+{
+    bool inGroup = false;
+    for (int at = 1; at < m_bodyEnd; ++at) {
+        if (m_tags.code(at) == 102)
+            inGroup = m_tags.trimmed(at) != "}";
+        else if (m_tags.code(at) == code && !inGroup)
+            return at;
+    }
+    return TagList::kNone;
 }
 
 void RecordEditor::insert(int code, const QByteArray& tag)
@@ -53,11 +64,8 @@ void RecordEditor::insert(int code, const QByteArray& tag)
     constexpr int kOrder[] = {2, 70, 62, 420, 430, 6, 290, 370, 390, 347, 348};
     const auto* const own = std::find(std::begin(kOrder), std::end(kOrder), code);
     int at = m_bodyBegin;
-    for (int i = m_bodyBegin; i < m_bodyEnd; ++i) {
-        const auto* const other = std::find(std::begin(kOrder), std::end(kOrder), m_tags.code(i));
-        if (other < own)
-            at = i + 1;
-    }
+    for (const int* other = std::begin(kOrder); other != own; ++other)
+        at = std::max(at, find(*other) + 1);
     m_tags.insert(at, code, tag);
     ++m_bodyEnd;
 }

@@ -1,8 +1,21 @@
 #include "layertable.h"
 
+#include <algorithm>
+#include <tuple>
+
 namespace drawing {
 
 namespace {
+
+bool isSame(const LayerEntry& a, const LayerEntry& b)
+{
+    const auto parts = [](const LayerEntry& entry) {
+        return std::tie(entry.layer.properties, entry.layer.dependsOnReference,
+            entry.layer.entityCount, entry.place, entry.end, entry.handle, entry.plotStyle,
+            entry.hasRecord, entry.present);
+    };
+    return parts(a) == parts(b);
+}
 
 QString keyOf(const LayerEntry& entry)
 {
@@ -15,6 +28,12 @@ bool LayerTable::isValid(LayerId id) const
 {
     const int at = static_cast<int>(id);
     return at >= 0 && at < entryCount();
+}
+
+void LayerTable::reserve(size_t count)
+{
+    m_byName.reserve(static_cast<int>(count));
+    m_listed.reserve(count);
 }
 
 LayerId LayerTable::load(const LayerEntry& entry)
@@ -104,6 +123,10 @@ std::vector<LayerChange> LayerTable::takeChanges()
     m_changeOf.clear();
     std::vector<LayerChange> changes;
     changes.swap(m_changes);
+    const auto isIdle = [](const LayerChange& change) {
+        return isSame(change.before, change.after);
+    };
+    changes.erase(std::remove_if(changes.begin(), changes.end(), isIdle), changes.end());
     return changes;
 }
 

@@ -35,6 +35,8 @@ class LayerTable
 public:
     /// Takes in a layer of the file; not recorded as a change.
     LayerId load(const LayerEntry& entry);
+    /// Tells how many layers are about to be loaded.
+    void reserve(size_t count);
     /// Takes in a new layer.
     LayerId add(LayerEntry entry);
     /// Puts `after` in the layer's place; its id is kept.
@@ -50,7 +52,7 @@ public:
     const Layer* find(const QString& name) const;
     const std::vector<Layer>& listed() const;
 
-    /// What changed since the last call, one change a layer.
+    /// What changed since the last call, one change a layer; what changed back is left out.
     std::vector<LayerChange> takeChanges();
     const std::vector<LayerChange>& changes() const { return m_changes; }
     void apply(const std::vector<LayerChange>& changes, bool forward);

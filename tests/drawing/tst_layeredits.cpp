@@ -56,6 +56,7 @@ private slots:
     void refusals_data();
     void refusals();
     void swappedNames();
+    void filters();
     void neverPlotted();
     void added();
     void removed();
@@ -142,6 +143,13 @@ void TestLayerEdits::properties_data()
         withApp(wallAs("62 5\n1001 AcAecLayerStandard\n1000 \n1000 old"), "AcAecLayerStandard"),
         [](P& p) { p.description.clear(); },
         withApp(wallAs("62 5\n1001 AcAecLayerStandard\n1000 \n1000 "), "AcAecLayerStandard"));
+    row(
+        "group of another program", wallAs("102 {OTHER\n62 1\n370 1\n102 }\n62 5"),
+        [](P& p) {
+            p.colorIndex = 6;
+            p.lineweight = 9;
+        },
+        wallAs("102 {OTHER\n62 1\n370 1\n102 }\n62 6\n370 9"));
     row(
         "rename", house, [](P& p) { p.name = "Wand"; }, renamed("Wand"));
     row(
@@ -266,6 +274,29 @@ void TestLayerEdits::swappedNames()
     drawing->undo();
     QCOMPARE(drawing->findLayer(QStringLiteral("wall"))->id, wall);
     QCOMPARE(saved(*drawing), House().bytes());
+}
+
+/// Layer filters that name a layer follow it; those that only look like it stay.
+void TestLayerEdits::filters()
+{
+    const QByteArray filters = "0 DICTIONARY\n5 A0\n3 ACAD_LAYERFILTERS\n360 D0\n3 ACLYDICTIONARY\n"
+                               "360 D1\n0 DICTIONARY\n5 D0\n3 F\n360 D2\n0 XRECORD\n5 D2\n"
+                               "100 AcDbXrecord\n1 Wall\n1 @\n70 0\n0 DICTIONARY\n5 D1\n3 *A\n"
+                               "360 D3\n3 *B\n360 D4\n0 XRECORD\n5 D3\n100 AcDbXrecord\n"
+                               "1 AcLyLayerFilter\n301 OFF==\"0\" AND NAME==\"@\"\n0 XRECORD\n"
+                               "5 D4\n100 AcDbXrecord\n1 AcLyLayerFilter\n301 NAME==\"Wall*\"\n"
+                               "0 XRECORD\n5 D5\n100 AcDbXrecord\n1 Wall\n1 Wall\n";
+    const auto house = [&filters](House made, QByteArray pattern) {
+        QByteArray lines = House::kLines;
+        const int objects = lines.indexOf("0 DICTIONARY\n5 A0");
+        lines.remove(objects, lines.indexOf("0 LAYER_FILTER") - objects);
+        lines.insert(objects, QByteArray(filters).replace("@", pattern));
+        return made.filledIn(lines);
+    };
+    const auto drawing = opened(house(House(), "WALL"));
+    QCOMPARE(edit(*drawing, QStringLiteral("Wall"), [](LayerProperties& p) { p.name = "W#1"; }),
+        QString());
+    QCOMPARE(saved(*drawing), house(renamed("W#1"), "W`#1"));
 }
 
 /// Defpoints never plots; whatever it is renamed to must then say so itself.
@@ -522,6 +553,16 @@ void TestLayerEdits::rollback()
     QCOMPARE(changed.count(), 1);
     drawing->rollbackStep();
     QCOMPARE(changed.count(), 2);
+    // There and back: listeners saw it, but no step is left.
+    drawing->beginStep(QStringLiteral("idle"));
+    for (const bool off : {true, false}) {
+        properties = wall->properties;
+        properties.off = off;
+        QVERIFY(drawing->setLayerProperties(wall->id, properties));
+        drawing->publishStep();
+    }
+    drawing->commitStep();
+    QCOMPARE(changed.count(), 5);
     QVERIFY(!drawing->isModified() && !drawing->inStep() && !drawing->canUndo());
     QVERIFY(!drawing->layer(*id) && !drawing->findLayer(QStringLiteral("Wand")));
     QCOMPARE(saved(*drawing), House().bytes());
