@@ -16,7 +16,7 @@ constexpr int kMaxDegree = 25;
 void appendBulge(Path& path, const Vec3& from, const Vec3& to, double bulge)
 {
     const double chord = std::hypot(to.x - from.x, to.y - from.y);
-    if (!std::isfinite(bulge) || std::abs(bulge) < 1e-9 || chord == 0) {
+    if (!std::isfinite(bulge) || std::abs(bulge) < 1e-9 || chord == 0 || !std::isfinite(chord)) {
         path.push_back(to);
         return;
     }
@@ -28,8 +28,10 @@ void appendBulge(Path& path, const Vec3& from, const Vec3& to, double bulge)
     const double start = std::atan2(from.y - center.y, from.x - center.x);
     Path arc;
     appendArc(arc, center, radius, start, 4 * std::atan(bulge));
-    path.insert(path.end(), arc.begin() + 1, arc.end());
-    path.back() = to;
+    // Nothing but the ends is left of an arc too large for its own centre.
+    if (!arc.empty())
+        path.insert(path.end(), arc.begin() + 1, arc.end() - 1);
+    path.push_back(to);
 }
 
 /// Non-decreasing, finite, and as many as degree and control points ask for.

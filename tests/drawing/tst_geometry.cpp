@@ -185,6 +185,10 @@ void GeometryTest::shapes_data()
     QTest::newRow("no number is no vertex")
         << QByteArray(poly + "70 0 10 0 20 0 10 nan 20 5 10 inf 20 0 10 1e300 20 0 10 1 20 1")
         << Numbers{0, 0, 1, 1} << Numbers{0, 0, 1, 1};
+    QTest::newRow("a bulge to nowhere")
+        << QByteArray(
+               poly + "70 0 10 0 20 0 42 1 10 nan 20 5 42 1 10 1e308 20 -1e308 42 1 10 1 20 0")
+        << Numbers{0, 0, 1, 0} << Numbers{0, 0, 1, 0};
     QTest::newRow("invisible") << QByteArray(kUnitLine + "60 1") << Numbers{} << Numbers{};
     QTest::newRow("in paper space") << QByteArray(kUnitLine + "67 1") << Numbers{} << Numbers{};
 }
