@@ -191,28 +191,33 @@ bool DrawingIndexer::readTables()
     }
 }
 
-/// Reads a table and stops at the `0` group that ends it.
+/// Reads a table and stops at the `0` group that ends it. What is no record of its kind is left
+/// alone.
 bool DrawingIndexer::readTable()
 {
     TablePlace read;
     read.head.begin = at();
-    TableKind kind = TableKind::Other;
-    bool named = false;
+    std::string_view name;
+    bool isRecord = false;
     while (next()) {
         if (m_tag.code == 1003)
             m_index->xdataNames.push_back(m_tag.value - m_begin);
-        if (m_tag.code == 2 && !named) {
-            kind = tableKind(m_tag.text());
-            named = true;
-        }
+        if (m_tag.code == 2 && name.empty() && read.endTab < 0)
+            name = m_tag.text();
         if (m_tag.code != 0)
             continue;
-        (read.records.empty() ? read.head : read.records.back()).end = at();
+        if (isRecord)
+            read.records.back().end = at();
+        if (read.endTab < 0)
+            read.head.end = at();
         read.endTab = at();
         if (!goesOn() || m_tag.text() == "ENDTAB" || m_tag.text() == "TABLE")
             break;
-        read.records.push_back({at(), at()});
+        isRecord = m_tag.text() == name;
+        if (isRecord)
+            read.records.push_back({at(), at()});
     }
+    const TableKind kind = tableKind(name);
     TablePlace& place = m_index->tables[static_cast<size_t>(kind)];
     if (place.isNull())
         place = std::move(read);

@@ -63,6 +63,8 @@ Error faultError(const DrawingData& data, const IndexFault& fault, const QString
 /// What is no tagged text at all is told apart by how it begins.
 Expected<void> checkFormat(std::string_view bytes, const QString& fileName)
 {
+    constexpr size_t kSentinelSize = 22;
+    constexpr std::string_view kSentinelEnd = " Binary DXF\r\n\x1a";
     const auto refusal = [&fileName](const char* text) {
         return tl::make_unexpected(Error{tr(text).arg(fileName), 1, false});
     };
@@ -70,7 +72,7 @@ Expected<void> checkFormat(std::string_view bytes, const QString& fileName)
         return refusal("文件“%1”是空的，不是 DXF 图形（第 1 行）。");
     if (bytes.substr(0, 4) == "AC10")
         return refusal("文件“%1”是 DWG 图形，不能读取；请先另存为 DXF（第 1 行）。");
-    if (bytes.substr(0, 18) == "xxxxxxx Binary DXF")
+    if (bytes.substr(0, kSentinelSize).find(kSentinelEnd) != std::string_view::npos)
         return refusal("文件“%1”是二进制 DXF，不能读取；请先另存为文本 DXF（第 1 行）。");
     return {};
 }

@@ -34,7 +34,7 @@ bool mayStandInName(QChar c)
 LayerProperties stored(LayerProperties before, const LayerProperties& after)
 {
     if (isNeverPlotted(before.name) && !isNeverPlotted(after.name))
-        before.plotted = true;
+        before.plotted = !after.plotted; // So that it is written in any case.
     return before;
 }
 

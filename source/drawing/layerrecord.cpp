@@ -15,6 +15,11 @@ int colorOf(qint64 index)
 
 } // namespace
 
+bool opensGroup(int code, std::string_view value)
+{
+    return code == 102 && !value.empty() && value.front() == '{';
+}
+
 LayerRecord LayerRecordReader::read(TagReader tags)
 {
     LayerRecord record;
@@ -27,8 +32,8 @@ LayerRecord LayerRecordReader::read(TagReader tags)
             m_strings = 0;
         } else if (!m_application.empty()) {
             readXdata(tag, record);
-        } else if (tag.code == 102) {
-            inGroup = !tag.trimmed().empty() && tag.trimmed().front() == '{';
+        } else if (tag.code == 102 || tag.code == 100) {
+            inGroup = opensGroup(tag.code, tag.trimmed());
         } else if (!inGroup) {
             readTag(tag, record);
         }

@@ -16,6 +16,10 @@ struct LayerRecord
     bool dependsOnReference = false; ///< By its flags; a `|` in the name counts too.
 };
 
+/// Tells of a 102 or 100 tag whether a group of other data begins with it; a subclass marker ends
+/// one that was never closed.
+bool opensGroup(int code, std::string_view value);
+
 /// Reads LAYER records; remembers the last linetype, as runs of layers share theirs.
 class LayerRecordReader
 {

@@ -46,17 +46,18 @@ void RecordEditor::findBody()
     }
 }
 
-/// The record's own tag with this code, not one in a 102 group.
+/// The record's own tag with this code, not one in a 102 group; of several the last, as it is read.
 int RecordEditor::find(int code) const
 {
+    int found = TagList::kNone;
     bool inGroup = false;
     for (int at = 1; at < m_bodyEnd; ++at) {
-        if (m_tags.code(at) == 102)
-            inGroup = m_tags.trimmed(at) != "}";
+        if (m_tags.code(at) == 102 || m_tags.code(at) == 100)
+            inGroup = opensGroup(m_tags.code(at), m_tags.trimmed(at));
         else if (m_tags.code(at) == code && !inGroup)
-            return at;
+            found = at;
     }
-    return TagList::kNone;
+    return found;
 }
 
 void RecordEditor::insert(int code, const QByteArray& tag)

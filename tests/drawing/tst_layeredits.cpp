@@ -310,6 +310,13 @@ void TestLayerEdits::neverPlotted()
     House after = renamed("Wand");
     after.wallRecord += "\n290 0";
     QCOMPARE(saved(*drawing), after.bytes());
+    drawing->undo();
+    const auto plot = [](LayerProperties& p) {
+        p.name = "Wand";
+        p.plotted = true;
+    };
+    QCOMPARE(edit(*drawing, name, plot), QString());
+    QCOMPARE(saved(*drawing), renamed("Wand").bytes());
 }
 
 void TestLayerEdits::added()
