@@ -102,7 +102,7 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
     // The bytes that were not edited are still read from it.
     if (d->file.size() != size)
         return refusal(tr("原文件已被其他程序改写"));
-    const auto written = writeFile(d->data.journal, size, path, progress);
+    auto written = writeFile(d->data.journal, size, path, progress);
     if (!written)
         return written;
     d->path = path;
@@ -197,7 +197,7 @@ Expected<void> Drawing::setCurrentLayer(LayerId id)
 
 QStringList Drawing::takeNotices()
 {
-    const QStringList notices = d->data.leftOut.sentences();
+    QStringList notices = d->data.leftOut.sentences();
     d->data.leftOut = {};
     return notices;
 }

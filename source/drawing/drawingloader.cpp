@@ -244,7 +244,7 @@ void Loader::nameBlocks()
 
 Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress* progress)
 {
-    if (const auto known = checkFormat(data.bytes, fileName); !known)
+    if (auto known = checkFormat(data.bytes, fileName); !known)
         return known;
     DrawingIndexer indexer(data.bytes, progress);
     if (const auto fault = indexer.run(data.index))

@@ -153,7 +153,7 @@ Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& prop
         return tl::make_unexpected(wanted.error());
     LayerProperties after = *wanted;
     if (after.name != before.name) {
-        if (const auto checked = checkRename(entry, after.name); !checked)
+        if (auto checked = checkRename(entry, after.name); !checked)
             return checked;
     }
     dropUnsupported(before, after);
