@@ -2,14 +2,13 @@
 
 #include "canvas.h"
 #include "commandline.h"
+#include "drawingsession.h"
 #include "messages.h"
 #include "recentfiles.h"
 #include "statusfields.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QDockWidget>
-#include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -72,9 +71,7 @@ const MainWindow::ActionRow MainWindow::kActions[] = {
         &MainWindow::about},
 };
 
-MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent),
-      m_worker(std::make_unique<FileWorker>())
+MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowIcon(QIcon(QStringLiteral(":/workbench/app-64.png")));
@@ -85,6 +82,7 @@ MainWindow::MainWindow(QWidget* parent)
     m_status = new StatusFields(this);
     setStatusBar(m_status);
     m_recent = new RecentFiles(this);
+    m_session = new DrawingSession(this);
     createActions();
     createCommandLine();
     connectParts();
@@ -104,6 +102,9 @@ void MainWindow::createActions()
     const auto add = [&](QMenu* menu, const char* name, const QString& title, const char* icon) {
         auto* made = new QAction(title, this);
         made->setObjectName(QLatin1String(name));
+        // The name to type comes behind the title, whose mnemonic is the menu's alone.
+        made->setToolTip(QStringLiteral("%1 (%2)").arg(
+            title.section(QLatin1Char('('), 0, 0), QLatin1String(name)));
         menu->addAction(made);
         if (icon) {
             made->setIcon(QIcon(QStringLiteral(":/workbench/%1.png").arg(QLatin1String(icon))));
@@ -119,8 +120,6 @@ void MainWindow::createActions()
     bar->addSeparator();
     for (const CommandRow& row : CommandTable()) {
         QAction* const made = add(menus[ActionRow::Layers], row.name, row.displayTitle(), row.icon);
-        made->setToolTip(
-            QStringLiteral("%1 (%2)").arg(row.displayTitle(), QLatin1String(row.name)));
         connect(made, &QAction::triggered, this, [this, &row] { runLayerCommand(row); });
     }
     menus[ActionRow::File]->insertMenu(action("SAVE"), m_recent);
@@ -155,71 +154,65 @@ void MainWindow::connectParts()
     connect(m_recent, &RecentFiles::chosen, this, &MainWindow::openFile);
     connect(m_canvas, &Canvas::cursorMoved, m_status, &StatusFields::showCursor);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::runCommand);
-    connect(m_status, &StatusFields::cancelClicked, m_worker.get(), &FileWorker::cancel);
 
-    FileWorker* const worker = m_worker.get();
+    connect(m_session, &DrawingSession::said, m_commandLine, &CommandLine::say);
+    connect(m_session, &DrawingSession::opened, this, &MainWindow::showDrawing);
+    connect(m_session, &DrawingSession::saved, m_recent, &RecentFiles::add);
+    connect(m_session, &DrawingSession::saved, this, &MainWindow::updateState);
+    connect(m_session, &DrawingSession::failed, m_recent, &RecentFiles::removeMissing);
+
+    FileWorker* const worker = m_session->worker();
+    connect(m_status, &StatusFields::cancelClicked, worker, &FileWorker::cancel);
     connect(worker, &FileWorker::started, m_status, &StatusFields::showWork);
     connect(worker, &FileWorker::started, this, &MainWindow::updateState);
     connect(worker, &FileWorker::progress, m_status, &StatusFields::showProgress);
     connect(worker, &FileWorker::finished, m_status, &StatusFields::hideWork);
     connect(worker, &FileWorker::finished, this, &MainWindow::updateState);
-    connect(worker, &FileWorker::opened, this,
-        [this](const std::shared_ptr<OpenedFile>& file) { setFile(std::move(*file)); });
-    connect(worker, &FileWorker::openFailed, this,
-        [this](const QString& path, const drawing::Error& error) {
-            if (!QFileInfo::exists(path))
-                m_recent->remove(path);
-            report(tr("无法打开图形"), path, error);
-        });
-    connect(worker, &FileWorker::saved, this, [this](const QString& path) {
-        m_recent->add(path);
-        m_commandLine->say(tr("已保存 %1").arg(QDir::toNativeSeparators(path)));
-        updateState();
-    });
-    connect(worker, &FileWorker::saveFailed, this,
-        [this](const QString& path, const drawing::Error& error) {
-            report(tr("无法保存图形"), path, error);
-            updateState();
-        });
+}
+
+drawing::Drawing* MainWindow::drawing() const
+{
+    return m_session->drawing();
+}
+
+bool MainWindow::isBusy() const
+{
+    return m_commandRunning || m_session->isBusy();
 }
 
 void MainWindow::openFile(const QString& path)
 {
-    if (!isBusy() && confirmDiscard())
-        m_worker->open(path);
+    if (!isBusy())
+        m_session->open(path);
 }
 
 void MainWindow::setFile(OpenedFile file)
 {
-    m_drawing = std::move(file.drawing);
-    connect(m_drawing.get(), &drawing::Drawing::layersChanged, this, &MainWindow::showLayers);
-    connect(
-        m_drawing.get(), &drawing::Drawing::entitiesChanged, this, &MainWindow::rebuildGeometry);
-    connect(m_drawing.get(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
-    m_canvas->setScene(file.geometry);
+    m_session->adopt(std::move(file));
+}
+
+void MainWindow::showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry)
+{
+    connect(drawing(), &drawing::Drawing::layersChanged, this, &MainWindow::showLayers);
+    connect(drawing(), &drawing::Drawing::entitiesChanged, this, &MainWindow::rebuildGeometry);
+    connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
+    m_canvas->setScene(geometry);
     showLayers();
     m_canvas->zoomToExtents();
-    m_recent->add(m_drawing->path());
-    m_commandLine->say(tr("已打开 %1: %2 个图层, %3 个对象")
-                           .arg(QDir::toNativeSeparators(m_drawing->path()))
-                           .arg(m_drawing->layers().size())
-                           .arg(m_drawing->entities().size()));
-    if (file.geometry->truncated)
-        m_commandLine->say(tr("图形内容过多，只显示其中一部分。"));
-    updateState();
+    m_recent->add(drawing()->path());
     emit fileOpened();
 }
 
 void MainWindow::showLayers()
 {
-    m_canvas->setLayers(m_drawing->layers());
-    m_status->showLayers(m_drawing.get());
+    m_canvas->setLayers(drawing()->layers());
+    m_status->showLayers(drawing());
     updateState();
 }
 
 void MainWindow::rebuildGeometry()
 {
-    if (auto geometry = drawing::buildGeometry(*m_drawing))
+    if (auto geometry = drawing::buildGeometry(*drawing()))
         m_canvas->setScene(std::make_shared<const drawing::Geometry>(std::move(*geometry)));
     showLayers();
 }
@@ -245,8 +238,8 @@ void MainWindow::runCommand(const QString& word)
 
 void MainWindow::runLayerCommand(const CommandRow& row)
 {
-    if (!m_drawing || isBusy()) {
-        m_commandLine->say(m_drawing ? tr("请等待当前操作结束。") : tr("请先打开一个图形。"));
+    if (!drawing() || isBusy()) {
+        m_commandLine->say(drawing() ? tr("请等待当前操作结束。") : tr("请先打开一个图形。"));
         return;
     }
     if (!row.create) {
@@ -254,20 +247,20 @@ void MainWindow::runLayerCommand(const CommandRow& row)
             tr("命令 %1（%2）尚不可用。").arg(QLatin1String(row.name), row.displayTitle()));
         return;
     }
-    CommandContext context{*m_drawing, this,
+    CommandContext context{*drawing(), this,
         [this](const QString& text) { m_commandLine->say(text); }, [this] { showLayers(); }};
     m_commandRunning = true;
     updateState();
-    m_drawing->beginStep(row.displayTitle());
+    drawing()->beginStep(row.displayTitle());
     row.create()->run(context);
-    m_drawing->commitStep();
+    drawing()->commitStep();
     m_commandRunning = false;
     updateState();
 }
 
 void MainWindow::chooseFile()
 {
-    const QString folder = m_drawing ? QFileInfo(m_drawing->path()).path() : QString();
+    const QString folder = drawing() ? QFileInfo(drawing()->path()).path() : QString();
     const QString path = QFileDialog::getOpenFileName(this, tr("打开图形"), folder, fileFilter());
     if (!path.isEmpty())
         openFile(path);
@@ -275,21 +268,15 @@ void MainWindow::chooseFile()
 
 void MainWindow::save()
 {
-    saveTo(m_drawing->path());
+    m_session->save(drawing()->path());
 }
 
 void MainWindow::saveAs()
 {
     const QString path =
-        QFileDialog::getSaveFileName(this, tr("图形另存为"), m_drawing->path(), fileFilter());
+        QFileDialog::getSaveFileName(this, tr("图形另存为"), drawing()->path(), fileFilter());
     if (!path.isEmpty())
-        saveTo(path);
-}
-
-void MainWindow::saveTo(const QString& path)
-{
-    if (m_drawing && !isBusy())
-        m_worker->save(*m_drawing, path);
+        m_session->save(path);
 }
 
 void MainWindow::quit()
@@ -299,13 +286,13 @@ void MainWindow::quit()
 
 void MainWindow::undo()
 {
-    m_drawing->undo();
+    drawing()->undo();
     updateState();
 }
 
 void MainWindow::redo()
 {
-    m_drawing->redo();
+    drawing()->redo();
     updateState();
 }
 
@@ -333,71 +320,33 @@ QAction* MainWindow::action(const char* name) const
 
 void MainWindow::updateState()
 {
-    const bool idle = m_drawing && !isBusy();
-    const bool canUndo = idle && m_drawing->canUndo();
-    const bool canRedo = idle && m_drawing->canRedo();
+    const bool idle = drawing() && !isBusy();
+    const bool canUndo = idle && drawing()->canUndo();
+    const bool canRedo = idle && drawing()->canRedo();
     action("OPEN")->setEnabled(!isBusy());
     m_recent->setEnabled(!isBusy());
-    action("SAVE")->setEnabled(idle && m_drawing->isModified());
+    action("SAVE")->setEnabled(idle && drawing()->isModified());
     action("SAVEAS")->setEnabled(idle);
     action("UNDO")->setEnabled(canUndo);
     action("UNDO")->setText(
-        canUndo ? tr("撤销 %1(&U)").arg(m_drawing->undoName()) : tr("撤销(&U)"));
+        canUndo ? tr("撤销 %1(&U)").arg(drawing()->undoName()) : tr("撤销(&U)"));
     action("REDO")->setEnabled(canRedo);
     action("REDO")->setText(
-        canRedo ? tr("重做 %1(&R)").arg(m_drawing->redoName()) : tr("重做(&R)"));
-    action("ZOOM")->setEnabled(m_drawing != nullptr);
+        canRedo ? tr("重做 %1(&R)").arg(drawing()->redoName()) : tr("重做(&R)"));
+    action("ZOOM")->setEnabled(drawing() != nullptr);
     action("BACKGROUND")->setChecked(!m_canvas->isDark());
     for (const CommandRow& row : CommandTable())
         action(row.name)->setEnabled(idle && row.create);
-    const QString file = m_drawing ? QFileInfo(m_drawing->path()).fileName() : tr("无图形");
+    if (m_session->isBusy())
+        return; // The saving thread has the drawing to itself; this runs again when it is done.
+    const QString file = drawing() ? QFileInfo(drawing()->path()).fileName() : tr("无图形");
     setWindowTitle(tr("图层工作台 - %1[*]").arg(file));
-    setWindowModified(m_drawing && m_drawing->isModified());
-}
-
-bool MainWindow::confirmDiscard()
-{
-    if (!m_drawing || !m_drawing->isModified())
-        return true;
-    const auto choice = messages::askToSave(this, QFileInfo(m_drawing->path()).fileName());
-    if (choice != messages::SaveChoice::Save)
-        return choice == messages::SaveChoice::Discard;
-    save();
-    waitForWorker();
-    return !m_drawing->isModified();
-}
-
-/// Returns when the job under way has ended; the window goes on living meanwhile.
-void MainWindow::waitForWorker()
-{
-    if (!m_worker->isBusy())
-        return;
-    QEventLoop loop;
-    connect(m_worker.get(), &FileWorker::finished, &loop, &QEventLoop::quit);
-    m_waiting = true;
-    loop.exec();
-    m_waiting = false;
-}
-
-void MainWindow::report(const QString& title, const QString& path, const drawing::Error& error)
-{
-    if (error.cancelled) {
-        m_commandLine->say(tr("已取消。"));
-        return;
-    }
-    m_commandLine->say(messages::describe(path, error));
-    messages::showFailure(this, title, path, error);
+    setWindowModified(drawing() && drawing()->isModified());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (m_commandRunning || m_waiting) {
-        event->ignore();
-        return;
-    }
-    m_worker->cancel();
-    waitForWorker();
-    event->setAccepted(confirmDiscard());
+    event->setAccepted(!m_commandRunning && m_session->confirmClose());
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

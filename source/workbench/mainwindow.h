@@ -9,6 +9,7 @@
 
 class Canvas;
 class CommandLine;
+class DrawingSession;
 class RecentFiles;
 class StatusFields;
 
@@ -28,7 +29,7 @@ public:
     /// Runs what was typed; anything that cannot run is answered in the echo.
     void runCommand(const QString& word);
 
-    drawing::Drawing* drawing() const { return m_drawing.get(); }
+    drawing::Drawing* drawing() const;
     Canvas* canvas() const { return m_canvas; }
 
 signals:
@@ -58,23 +59,17 @@ private:
     void about();
 
     void runLayerCommand(const CommandRow& row);
+    void showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry);
     void showLayers();
     void rebuildGeometry();
     void updateState();
-    /// True when there is nothing to lose: unmodified, saved now, or given up by the user.
-    bool confirmDiscard();
-    void saveTo(const QString& path);
-    void waitForWorker();
-    bool isBusy() const { return m_commandRunning || m_worker->isBusy(); }
-    void report(const QString& title, const QString& path, const drawing::Error& error);
+    bool isBusy() const;
     QAction* action(const char* name) const;
 
-    std::unique_ptr<drawing::Drawing> m_drawing;
-    std::unique_ptr<FileWorker> m_worker; ///< Behind the drawing: it ends first.
+    DrawingSession* m_session = nullptr;
     Canvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
     RecentFiles* m_recent = nullptr;
     StatusFields* m_status = nullptr;
     bool m_commandRunning = false;
-    bool m_waiting = false; ///< For the worker, before going on with what was asked for.
 };

@@ -31,8 +31,10 @@ void RecentFiles::add(const QString& path)
     store(known.mid(0, kMostFiles));
 }
 
-void RecentFiles::remove(const QString& path)
+void RecentFiles::removeMissing(const QString& path)
 {
+    if (QFileInfo::exists(path))
+        return;
     QStringList known = paths();
     known.removeAll(QFileInfo(path).absoluteFilePath());
     store(known);

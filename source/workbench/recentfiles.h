@@ -11,9 +11,9 @@ class RecentFiles : public QMenu
 public:
     explicit RecentFiles(QWidget* parent = nullptr);
 
-    QStringList paths() const;        ///< The latest first.
-    void add(const QString& path);    ///< Comes first from now on.
-    void remove(const QString& path); ///< It cannot be opened any more.
+    QStringList paths() const;               ///< The latest first.
+    void add(const QString& path);           ///< Comes first from now on.
+    void removeMissing(const QString& path); ///< Forgets it when it is not there any more.
 
 signals:
     void chosen(const QString& path);
