@@ -117,9 +117,7 @@ void ScenePainter::paintLines(const GeometryGroup& group)
     for (const Primitive& primitive : group.primitives) {
         if (primitive.shape == Primitive::Shape::Fill || !isSeen(primitive.bounds))
             continue;
-        if (primitive.shape == Primitive::Shape::Dot)
-            addPoint(m_view.toScreen(primitive.bounds.center()));
-        else if (isTiny(primitive.bounds))
+        if (isTiny(primitive.bounds))
             m_dots.append(m_view.toScreen(primitive.bounds.center()));
         else
             addLines(group, primitive);
@@ -146,14 +144,6 @@ void ScenePainter::addLines(const GeometryGroup& group, const Primitive& primiti
             m_part.append(pixel);
     }
     addPart();
-}
-
-/// A single pixel is overlooked, a small cross is not.
-void ScenePainter::addPoint(const QPointF& pixel)
-{
-    constexpr double kArm = 1.5;
-    m_lines.append(QLineF(pixel.x() - kArm, pixel.y(), pixel.x() + kArm, pixel.y()));
-    m_lines.append(QLineF(pixel.x(), pixel.y() - kArm, pixel.x(), pixel.y() + kArm));
 }
 
 void ScenePainter::addPart()

@@ -34,7 +34,6 @@ private:
     void paintFill(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
     void paintLines(const drawing::GeometryGroup& group);
     void addLines(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
-    void addPoint(const QPointF& pixel);
     void addPart();
     void paintTexts(const drawing::GeometryGroup& group, const QColor& color);
     void paintText(const drawing::TextRun& run, bool asBar);
