@@ -1,0 +1,87 @@
+#pragma once
+
+#include "layerrecord.h"
+#include "vndocument.h"
+
+#include <QHash>
+#include <QIcon>
+
+#include <array>
+#include <vector>
+
+class QTableWidget;
+class QTableWidgetItem;
+
+namespace vnsi {
+
+/// How a column shows a record's value.
+enum class LayerCell { Status, Text, Toggle, Color, LineWidth, Number };
+
+/// The icons of cells and buttons, by their file names.
+enum class LayerIcon {
+    Current,
+    NoCurrent,
+    Deleted,
+    Off,
+    On,
+    Frozen,
+    Thaw,
+    Lock,
+    Unlock,
+    Print,
+    NoPrint,
+    AllFrozen,
+    AllThaw,
+    NewLayer,
+    DeleteLayer,
+    SetCurrent,
+    Count
+};
+
+/// One column of a table of layers.
+struct LayerColumn
+{
+    const char* header; ///< Source text; tables translate it.
+    LayerCell cell;
+    const char* key = nullptr;              ///< Of the record; null for cells that read several.
+    LayerIcon whenTrue = LayerIcon::Count;  ///< Of toggles.
+    LayerIcon whenFalse = LayerIcon::Count; ///< Of toggles.
+};
+
+/// Makes the cells of layer tables. Icons, swatches and colour texts are made once and shared by
+/// all cells of a dialog.
+class LayerCells
+{
+public:
+    /// The icon, read from the resources at its first use.
+    const QIcon& icon(LayerIcon icon);
+    /// The icon of a record's status; statuses without one of their own look like an ordinary
+    /// layer's.
+    const QIcon& statusIcon(int status);
+    /// A new cell that cannot be edited in place.
+    QTableWidgetItem* makeItem(const LayerRecord& record, const LayerColumn& column);
+    /// Replaces one cell by what its record says now.
+    void refresh(QTableWidget& table, int row, int column, const LayerRecord& record,
+        const LayerColumn& description);
+    /// Rebuilds all rows in one go; `isSelected` rows are selected.
+    void fill(QTableWidget& table, const std::vector<LayerRecord>& records,
+        const LayerColumn* columns, int columnCount);
+
+private:
+    struct Swatch
+    {
+        QIcon icon;
+        QString text;
+    };
+
+    const Swatch& swatch(const LayerColor& color);
+
+    std::array<QIcon, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
+    QHash<QPair<qint64, qint64>, Swatch> m_swatches;
+    VnDocumentPtr m_document;
+};
+
+/// The text of a lineweight in hundredths of a millimetre, or of its codes -1, -2 and -3.
+QString lineWidthText(int lineWidth);
+
+} // namespace vnsi

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "CmColor.h"
+#include "vnjson.h"
+
+namespace vnsi {
+
+/// The keys of a layer record.
+namespace layerkey {
+inline constexpr char kList[] = "LayerList";
+inline constexpr char kName[] = "LayerName";
+inline constexpr char kStatus[] = "CurLayer";
+inline constexpr char kOff[] = "Off";
+inline constexpr char kFrozen[] = "Frozen";
+inline constexpr char kLock[] = "Lock";
+inline constexpr char kColorMethod[] = "Color/clrMethod";
+inline constexpr char kColorValue[] = "Color/selectClr";
+inline constexpr char kLinetype[] = "linetype/name";
+inline constexpr char kLineWidth[] = "LineWidth";
+inline constexpr char kTransparency[] = "Transparency";
+inline constexpr char kPlotStyle[] = "PlotStyle";
+inline constexpr char kPrint[] = "Print";
+inline constexpr char kVPortFrozen[] = "VPortFrozen";
+inline constexpr char kDescription[] = "Description";
+inline constexpr char kSelected[] = "Selected";
+inline constexpr char kDepend[] = "bDepend";
+inline constexpr char kUsed[] = "Used";
+inline constexpr char kModified[] = "Modified";
+} // namespace layerkey
+
+/// What "CurLayer" of a record says, and what dialogs write into it for the command to do.
+enum LayerStatus {
+    kLayerCurrent = 0,
+    kLayerOrdinary = 1,
+    kLayerDelete = 2,
+    kLayerNewTarget = 3,
+    kLayerTarget = 4,
+    kLayerMergeSource = 5,
+    kLayerMergeTarget = 11
+};
+
+/// A colour as records hold it: 195 and an index, or 194 and red, green, blue from the lowest byte
+/// up.
+struct LayerColor
+{
+    OdInt64 method = 0;
+    OdInt64 value = 0;
+    OdCmColor resolved() const;
+};
+
+/// A view of one layer record. It shares the node, so what is written through it is in the list.
+class LayerRecord
+{
+public:
+    explicit LayerRecord(VnJsonPtr node) : m_node(std::move(node)) {}
+    bool isNull() const { return m_node.isNull(); }
+
+    bool flag(const char* key) const { return m_node && m_node->GetDataB(key); }
+    void setFlag(const char* key, bool value) { m_node->SetDataB(key, value); }
+    int number(const char* key) const { return m_node ? m_node->GetDataI(key) : 0; }
+    void setNumber(const char* key, int value) { m_node->SetDataI(key, value); }
+    OdString text(const char* key) const { return m_node ? m_node->GetDataSW(key) : OdString(); }
+    void setText(const char* key, const OdString& value) { m_node->SetDataSW(key, value); }
+
+    OdString name() const { return text(layerkey::kName); }
+    int status() const { return number(layerkey::kStatus); }
+    void setStatus(int status) { setNumber(layerkey::kStatus, status); }
+    bool isCurrent() const { return status() == kLayerCurrent; }
+    bool isOff() const { return flag(layerkey::kOff); }
+    bool dependsOnReference() const { return flag(layerkey::kDepend); }
+    LayerColor color() const;
+    void setColor(const LayerColor& color);
+
+    /// Whether the record was changed. The mark is a bool but for the actions that write it as the
+    /// number 1 (`markModifiedByAction`); both count.
+    bool isModified() const;
+    void markModified() { setFlag(layerkey::kModified, true); }
+    /// The mark of the actions that go with a status code: the number 1, which commands tell from a
+    /// changed property.
+    void markModifiedByAction() { setNumber(layerkey::kModified, 1); }
+
+private:
+    VnJsonPtr m_node;
+};
+
+} // namespace vnsi

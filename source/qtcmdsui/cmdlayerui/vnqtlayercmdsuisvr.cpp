@@ -1,0 +1,72 @@
+#include "vnqtlayercmdsuisvr.h"
+
+#include "vnqtuidynlayercmdimpl.h"
+#include "vornqt.h"
+
+#include <algorithm>
+#include <cwchar>
+
+namespace vnsi {
+
+namespace {
+
+template <class T>
+VnUiModeDialogBasePtr makeDialog()
+{
+    return VnQtRxObjectImpl<VnQtModeDialog<T>, VnQtModeDialog<T>>::createObject();
+}
+
+VnUiModeDialogBasePtr notBuilt()
+{
+    return {};
+}
+
+struct DialogRow
+{
+    const wchar_t* name;
+    VnUiModeDialogBasePtr (*make)();
+};
+
+constexpr DialogRow kDialogs[] = {
+    {L"Dialog/CmdLayer", makeDialog<VnQtUiDynLayerCmdImpl>},
+    {L"Dialog/CmdLayerState", notBuilt},
+    {L"Dialog/CmdLayerStateNew", notBuilt},
+    {L"Dialog/CmdLayerStateEdit", notBuilt},
+    {L"Dialog/CmdLayerStateAddNewLayer", notBuilt},
+    {L"Dialog/CmdLaydel", notBuilt},
+    {L"Dialog/CmdLaymch", notBuilt},
+    {L"Dialog/CmdLaymrg", notBuilt},
+    {L"Dialog/CmdLaywalk", notBuilt},
+    {L"Dialog/CmdLaywalk/Verify", notBuilt},
+    {L"Dialog/CmdLaytrans", notBuilt},
+    {L"Dialog/CmdLaytransNewEdit", notBuilt},
+    {L"Dialog/CmdLaytransSetting", notBuilt},
+};
+
+OdAnsiString objectNameOf(const OdString& dialogName)
+{
+    OdAnsiString name = OdStringToUtf8String(dialogName);
+    name.replace('/', '_');
+    name.replace('\\', '_');
+    return name;
+}
+
+} // namespace
+
+VnUiModeDialogBasePtr VnQtLayerCmdsUISvr::createDialog(const OdString& dialogName)
+{
+    const auto* const row =
+        std::find_if(std::begin(kDialogs), std::end(kDialogs), [&](const DialogRow& candidate) {
+            return wcscasecmp(candidate.name, dialogName.c_str()) == 0;
+        });
+    if (row == std::end(kDialogs))
+        return {};
+
+    VnUiModeDialogBasePtr dialog = row->make();
+    QWidget* parent = qt_windowHandle_to_widget(vnuiCurTargetWindow());
+    if (dialog && dialog->createDialog(parent, 0, objectNameOf(dialogName).c_str()))
+        return dialog;
+    return {};
+}
+
+} // namespace vnsi

@@ -1,0 +1,80 @@
+#include "vnqtuilayertransparencymodify.h"
+
+#include "vnmessages.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace vnsi {
+
+namespace {
+
+constexpr char kTransparency[] = "transparency";
+constexpr unsigned kMost = 90;
+constexpr unsigned kStep = 10;
+
+} // namespace
+
+VnQtUiLayerTransparencyModify::VnQtUiLayerTransparencyModify(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(tr("图层透明度"));
+    setObjectName(QStringLiteral("layerTransparency"));
+    setMinimumWidth(265);
+}
+
+void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& data)
+{
+    m_data = data;
+    const int start = m_data ? m_data->GetDataI(kTransparency, 0) : 0;
+
+    auto* label = new QLabel(tr("透明度值(<u>T</u>)(0~90):"), this);
+    m_value = new QComboBox(this);
+    m_value->setObjectName(QStringLiteral("transparencyValue"));
+    m_value->setEditable(true);
+    for (unsigned value = 0; value <= kMost; value += kStep)
+        m_value->addItem(QString::number(value));
+    m_value->setEditText(QString::number(start));
+    auto* ok = new QPushButton(tr("确定"), this);
+    ok->setObjectName(QStringLiteral("okButton"));
+    auto* cancel = new QPushButton(tr("取消"), this);
+    cancel->setObjectName(QStringLiteral("cancelButton"));
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    layout->addWidget(m_value);
+    layout->addLayout(buttons);
+
+    // The label is rich text, which has no mnemonic of its own.
+    auto* mnemonic = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_T), this);
+    connect(mnemonic, &QShortcut::activated, m_value, [this] { m_value->setFocus(); });
+    connect(ok, &QPushButton::clicked, this, &VnQtUiLayerTransparencyModify::slot_onBtnOkClicked);
+    connect(cancel, &QPushButton::clicked, this,
+        &VnQtUiLayerTransparencyModify::slot_onBtnCancelClicked);
+}
+
+void VnQtUiLayerTransparencyModify::slot_onBtnOkClicked(bool)
+{
+    // Text that is no number counts as 0; a negative number is far above the limit when unsigned.
+    const int value = m_value->currentText().toInt();
+    if (static_cast<unsigned>(value) > kMost) {
+        vnuiMessageBox(L"请输入一个0至90之间的整数", L"", kVnIconWarning);
+        return;
+    }
+    if (m_data)
+        m_data->SetDataI(kTransparency, value);
+    accept();
+}
+
+void VnQtUiLayerTransparencyModify::slot_onBtnCancelClicked(bool)
+{
+    reject();
+}
+
+} // namespace vnsi

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "vnjson.h"
+
+#include <QDialog>
+
+class QComboBox;
+
+namespace vnsi {
+
+/// Asks for the transparency of a layer.
+class VnQtUiLayerTransparencyModify : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit VnQtUiLayerTransparencyModify(QWidget* parent = nullptr);
+    /// Shows the percentage under "transparency" of `data`; when the dialog is accepted the chosen
+    /// one, 0 to 90, stands there.
+    void setData(const VnJsonPtr& data);
+
+private slots:
+    void slot_onBtnOkClicked(bool checked);
+    void slot_onBtnCancelClicked(bool checked);
+
+private:
+    QComboBox* m_value = nullptr;
+    VnJsonPtr m_data;
+};
+
+} // namespace vnsi
