@@ -24,6 +24,8 @@ LayerColor LayerRecord::color() const
 
 void LayerRecord::setColor(const LayerColor& color)
 {
+    if (!m_node)
+        return;
     m_node->SetDataL(layerkey::kColorValue, color.value);
     m_node->SetDataL(layerkey::kColorMethod, color.method);
 }

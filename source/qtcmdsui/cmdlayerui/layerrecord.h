@@ -1,43 +1,10 @@
 #pragma once
 
 #include "CmColor.h"
+#include "layerkeys.h"
 #include "vnjson.h"
 
 namespace vnsi {
-
-/// The keys of a layer record.
-namespace layerkey {
-inline constexpr char kList[] = "LayerList";
-inline constexpr char kName[] = "LayerName";
-inline constexpr char kStatus[] = "CurLayer";
-inline constexpr char kOff[] = "Off";
-inline constexpr char kFrozen[] = "Frozen";
-inline constexpr char kLock[] = "Lock";
-inline constexpr char kColorMethod[] = "Color/clrMethod";
-inline constexpr char kColorValue[] = "Color/selectClr";
-inline constexpr char kLinetype[] = "linetype/name";
-inline constexpr char kLineWidth[] = "LineWidth";
-inline constexpr char kTransparency[] = "Transparency";
-inline constexpr char kPlotStyle[] = "PlotStyle";
-inline constexpr char kPrint[] = "Print";
-inline constexpr char kVPortFrozen[] = "VPortFrozen";
-inline constexpr char kDescription[] = "Description";
-inline constexpr char kSelected[] = "Selected";
-inline constexpr char kDepend[] = "bDepend";
-inline constexpr char kUsed[] = "Used";
-inline constexpr char kModified[] = "Modified";
-} // namespace layerkey
-
-/// What "CurLayer" of a record says, and what dialogs write into it for the command to do.
-enum LayerStatus {
-    kLayerCurrent = 0,
-    kLayerOrdinary = 1,
-    kLayerDelete = 2,
-    kLayerNewTarget = 3,
-    kLayerTarget = 4,
-    kLayerMergeSource = 5,
-    kLayerMergeTarget = 11
-};
 
 /// A colour as records hold it: 195 and an index, or 194 and red, green, blue from the lowest byte
 /// up.
@@ -56,11 +23,23 @@ public:
     bool isNull() const { return m_node.isNull(); }
 
     bool flag(const char* key) const { return m_node && m_node->GetDataB(key); }
-    void setFlag(const char* key, bool value) { m_node->SetDataB(key, value); }
+    void setFlag(const char* key, bool value)
+    {
+        if (m_node)
+            m_node->SetDataB(key, value);
+    }
     int number(const char* key) const { return m_node ? m_node->GetDataI(key) : 0; }
-    void setNumber(const char* key, int value) { m_node->SetDataI(key, value); }
+    void setNumber(const char* key, int value)
+    {
+        if (m_node)
+            m_node->SetDataI(key, value);
+    }
     OdString text(const char* key) const { return m_node ? m_node->GetDataSW(key) : OdString(); }
-    void setText(const char* key, const OdString& value) { m_node->SetDataSW(key, value); }
+    void setText(const char* key, const OdString& value)
+    {
+        if (m_node)
+            m_node->SetDataSW(key, value);
+    }
 
     OdString name() const { return text(layerkey::kName); }
     int status() const { return number(layerkey::kStatus); }

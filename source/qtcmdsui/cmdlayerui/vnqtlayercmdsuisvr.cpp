@@ -1,5 +1,8 @@
 #include "vnqtlayercmdsuisvr.h"
 
+#include "cmdlaydelui/vnqtlaydellayerdlg.h"
+#include "cmdlaymchui/vnqtlaymchlayerdlg.h"
+#include "cmdlaymrgui/vnqtlaymrglayerdlg.h"
 #include "vnqtuidynlayercmdimpl.h"
 #include "vornqt.h"
 
@@ -33,9 +36,9 @@ constexpr DialogRow kDialogs[] = {
     {L"Dialog/CmdLayerStateNew", notBuilt},
     {L"Dialog/CmdLayerStateEdit", notBuilt},
     {L"Dialog/CmdLayerStateAddNewLayer", notBuilt},
-    {L"Dialog/CmdLaydel", notBuilt},
-    {L"Dialog/CmdLaymch", notBuilt},
-    {L"Dialog/CmdLaymrg", notBuilt},
+    {L"Dialog/CmdLaydel", makeDialog<VnQtLaydelLayerDlg>},
+    {L"Dialog/CmdLaymch", makeDialog<VnQtLaymchLayerDlg>},
+    {L"Dialog/CmdLaymrg", makeDialog<VnQtLaymrgLayerDlg>},
     {L"Dialog/CmdLaywalk", notBuilt},
     {L"Dialog/CmdLaywalk/Verify", notBuilt},
     {L"Dialog/CmdLaytrans", notBuilt},

@@ -23,8 +23,13 @@ struct CommandContext
 class LayerCommand
 {
 public:
+    /// Takes a picture of a window under a file name without its ending.
+    using Camera = std::function<void(const QString& name, QWidget& window)>;
+
     virtual ~LayerCommand() = default;
     /// Runs to its end, dialogs included. A step of the drawing is open meanwhile and is committed
     /// behind it: whatever the command changes is one undo.
     virtual void run(CommandContext& context) = 0;
+    /// Shows the camera each of the command's dialogs, filled from the drawing.
+    virtual void pose(CommandContext& context, const Camera& camera) = 0;
 };

@@ -1,0 +1,153 @@
+#include "vnqtlaymchlayerdlg.h"
+
+#include "dialoghelp.h"
+#include "layerlistparts.h"
+#include "layerrecord.h"
+#include "namerule.h"
+#include "vnmessages.h"
+#include "vnstrings.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace vnsi {
+
+namespace {
+
+bool refuse(const wchar_t* text, const wchar_t* caption)
+{
+    vnuiMessageBox(text, caption, kVnOk);
+    return false;
+}
+
+bool acceptName(const QString& name)
+{
+    const auto isSpace = [](QChar c) { return c.isSpace(); };
+    if (std::all_of(name.begin(), name.end(), isSpace))
+        return refuse(L"\n图层名至少必须包含一个字符。", L"图层名无效");
+    // A blank is refused like the thirteen characters, though the message does not list it.
+    if (std::any_of(name.begin(), name.end(), isSpace) || holdsForbiddenCharacter(name))
+        return refuse(L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  \\<>/\":;?*|,=`",
+            L"图层-不支持的字符");
+    if (isTooLongForName(name))
+        return refuse(L"\n图层名最多只能包含 255 个字符。", L"图层名无效");
+    return true;
+}
+
+} // namespace
+
+VnQtLaymchLayerDlg::VnQtLaymchLayerDlg(
+    VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags)
+    : VnQtModeDialogImpl(wrapper, parent, flags)
+{
+    setWindowTitle(tr("更改到图层"));
+    setMinimumWidth(400);
+}
+
+bool VnQtLaymchLayerDlg::initDialog()
+{
+    auto* label = new QLabel(tr("目标图层: "), this);
+    m_nameEdit = layerlist::makeNameEdit(*this);
+    m_list = layerlist::makeList(*this);
+    auto* choice = new QVBoxLayout;
+    choice->addWidget(m_nameEdit);
+    choice->addWidget(m_list);
+    layerlist::Buttons buttons;
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    layout->addLayout(choice);
+    layout->addLayout(layerlist::makeButtonRow(*this, buttons));
+
+    using Self = VnQtLaymchLayerDlg;
+    connect(m_list, &QListWidget::currentItemChanged, this, &Self::slot_LayerListItemClicked);
+    connect(m_list, &QListWidget::itemClicked, this, &Self::slot_LayerListItemClicked);
+    connect(m_list, &QListWidget::itemDoubleClicked, this, &Self::slot_LayerListItemDoubleClicked);
+    connect(buttons.ok, &QPushButton::clicked, this, &Self::slot_SureBtnClicked);
+    connect(buttons.cancel, &QPushButton::clicked, this, &Self::close);
+    connect(buttons.help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
+    return true;
+}
+
+bool VnQtLaymchLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
+{
+    VnQtModeDialogImpl::setData(data, invoker);
+    layerlist::fill(*m_list, canRequest() ? layers() : VnJsonPtr());
+    layerlist::copyText(m_list->item(0), m_nameEdit);
+    return true;
+}
+
+VnJsonPtr VnQtLaymchLayerDlg::layers() const
+{
+    return data() ? data()->GetDataJ(layerkey::kList) : VnJsonPtr();
+}
+
+void VnQtLaymchLayerDlg::slot_LayerListItemClicked(QListWidgetItem* item)
+{
+    layerlist::copyText(item, m_nameEdit);
+}
+
+void VnQtLaymchLayerDlg::slot_LayerListItemDoubleClicked(QListWidgetItem* item)
+{
+    slot_LayerListItemClicked(item);
+    slot_SureBtnClicked(false);
+}
+
+void VnQtLaymchLayerDlg::slot_SureBtnClicked(bool)
+{
+    const QString name = m_nameEdit->text();
+    if (!acceptName(name))
+        return;
+    if (isKnown(name)) {
+        // The look-up ignores letter case and the marking does not; this is intended.
+        layerlist::mark(layers(), {name}, kLayerTarget);
+    } else {
+        if (!confirmNewLayer(name))
+            return;
+        markNewLayer(name);
+    }
+    endDialog(1);
+}
+
+bool VnQtLaymchLayerDlg::isKnown(const QString& name) const
+{
+    const VnJsonPtr list = layers();
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
+        if (isSameName(vnutOdStringToQString(LayerRecord(list(i)).name()), name))
+            return true;
+    }
+    return false;
+}
+
+bool VnQtLaymchLayerDlg::confirmNewLayer(const QString& name) const
+{
+    const QString text =
+        QStringLiteral("\n图层\"") + name + QStringLiteral("\"不存在。\n是否创建它？");
+    const VnJsonPtr answer = vnuiMessageBoxEx(L"是否创建图层？", vnutQStringToOdString(text),
+        ElementValue::createObject(2), kVnYesNo, 1, kVnIconQuestion);
+    return answer->GetDataI("ControlBtn") == kVnAnswerYes;
+}
+
+/// The request for a new layer rides on the last record of the list, as commands expect it.
+void VnQtLaymchLayerDlg::markNewLayer(const QString& name)
+{
+    const VnJsonPtr list = layers();
+    LayerRecord last(list(list.ArrayCount() - 1));
+    if (last.isNull() || vnutOdStringToQString(last.name()) == name)
+        return;
+    last.setStatus(kLayerNewTarget);
+    last.setText("NewLayer", vnutQStringToOdString(name));
+    last.markModifiedByAction();
+}
+
+void VnQtLaymchLayerDlg::slot_HelpBtnClicked(bool)
+{
+    vnqtShowHelp();
+}
+
+} // namespace vnsi

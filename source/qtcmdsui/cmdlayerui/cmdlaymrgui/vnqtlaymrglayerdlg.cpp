@@ -1,0 +1,170 @@
+#include "vnqtlaymrglayerdlg.h"
+
+#include "dialoghelp.h"
+#include "layerlistparts.h"
+#include "layerrecord.h"
+#include "namerule.h"
+#include "vnmessages.h"
+#include "vnproduct.h"
+#include "vnstrings.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace vnsi {
+
+namespace {
+
+bool refuse(const wchar_t* text, const wchar_t* caption)
+{
+    vnuiMessageBox(text, caption, kVnOk);
+    return false;
+}
+
+} // namespace
+
+VnQtLaymrgLayerDlg::VnQtLaymrgLayerDlg(
+    VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags)
+    : VnQtModeDialogImpl(wrapper, parent, flags)
+{
+    setMinimumWidth(400);
+}
+
+bool VnQtLaymrgLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
+{
+    VnQtModeDialogImpl::setData(data, invoker);
+    readTree();
+    if (!m_list)
+        buildLayout();
+    fill();
+    return true;
+}
+
+VnJsonPtr VnQtLaymrgLayerDlg::layers() const
+{
+    return data() ? data()->GetDataJ(layerkey::kList) : VnJsonPtr();
+}
+
+void VnQtLaymrgLayerDlg::readTree()
+{
+    const VnJsonPtr list = layers();
+    const LayerRecord first(list(0));
+    m_sourceMode = first.flag("IsFrom");
+    m_blockReferences = first.number("blockrefcout"); // The key's agreed spelling.
+    m_names.clear();
+    m_sources.clear();
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
+        const LayerRecord record(list(i));
+        m_names.append(vnutOdStringToQString(record.name()));
+        if (!m_sourceMode && record.flag("SoucLayer")) // The key's agreed spelling.
+            m_sources.append(m_names.last());
+    }
+}
+
+void VnQtLaymrgLayerDlg::buildLayout()
+{
+    setWindowTitle(m_sourceMode ? tr("合并图层") : tr("合并到图层"));
+    auto* label = new QLabel(m_sourceMode ? tr("要合并的图层: ") : tr("目标图层: "), this);
+    if (!m_sourceMode)
+        m_targetEdit = layerlist::makeNameEdit(*this);
+    m_list = layerlist::makeList(*this);
+    m_list->setSelectionMode(
+        m_sourceMode ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+    layerlist::Buttons buttons;
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    if (m_targetEdit)
+        layout->addWidget(m_targetEdit);
+    layout->addWidget(m_list);
+    layout->addLayout(layerlist::makeButtonRow(*this, buttons));
+
+    using Self = VnQtLaymrgLayerDlg;
+    connect(m_list, &QListWidget::currentItemChanged, this, &Self::slot_LayerListItemClicked);
+    connect(m_list, &QListWidget::itemClicked, this, &Self::slot_LayerListItemClicked);
+    connect(m_list, &QListWidget::itemDoubleClicked, this, &Self::slot_LayerListItemDoubleClicked);
+    connect(buttons.ok, &QPushButton::clicked, this, &Self::slot_SureBtnClicked);
+    connect(buttons.cancel, &QPushButton::clicked, this, &Self::close);
+    connect(buttons.help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
+}
+
+void VnQtLaymrgLayerDlg::fill()
+{
+    m_list->clear();
+    m_list->addItems(m_names);
+    m_list->setCurrentRow(0);
+    layerlist::copyText(m_list->item(0), m_targetEdit);
+}
+
+void VnQtLaymrgLayerDlg::slot_LayerListItemClicked(QListWidgetItem* item)
+{
+    layerlist::copyText(item, m_targetEdit);
+}
+
+void VnQtLaymrgLayerDlg::slot_LayerListItemDoubleClicked(QListWidgetItem* item)
+{
+    slot_LayerListItemClicked(item);
+    slot_SureBtnClicked(false);
+}
+
+void VnQtLaymrgLayerDlg::slot_SureBtnClicked(bool)
+{
+    const QSet<QString> selected = layerlist::selectedNames(*m_list);
+    if (selected.isEmpty())
+        return;
+    if (m_sourceMode) {
+        layerlist::mark(layers(), selected, kLayerMergeSource);
+    } else {
+        const QString target = m_targetEdit->text();
+        if (!acceptTarget(target))
+            return;
+        // Written before the question and left when it is declined; this is intended.
+        markTarget(target);
+        if (!confirm(target))
+            return;
+    }
+    endDialog(1);
+}
+
+bool VnQtLaymrgLayerDlg::acceptTarget(const QString& target) const
+{
+    if (holdsForbiddenCharacter(target))
+        return refuse(L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:  \\<>/\":;?*|,=`",
+            L"图层-不支持的字符");
+    if (!m_names.contains(target))
+        return refuse(L"图层名无效", kProductName);
+    if (target.isEmpty())
+        return refuse(L"\n\n图层名至少必须包含一个字符。", L"图层名无效。");
+    return true;
+}
+
+void VnQtLaymrgLayerDlg::markTarget(const QString& target)
+{
+    LayerRecord record(layers()(m_names.indexOf(target)));
+    record.setStatus(kLayerMergeTarget);
+    record.markModifiedByAction();
+}
+
+bool VnQtLaymrgLayerDlg::confirm(const QString& target) const
+{
+    const int count = m_sources.size();
+    const QString what = count < 2 ? tr("\n将要把图层 %1 合并到图层").arg(m_sources.value(0))
+                                   : tr("\n将要把 %1 个图层合并到图层").arg(count);
+    const QString ending = m_blockReferences < 1
+                               ? tr("。\n\n是否继续？")
+                               : tr("。\n将重定义已合并图层中参照的所用块。\n\n是否继续？");
+    const VnJsonPtr answer = vnuiMessageBoxEx(L"合并到图层",
+        vnutQStringToOdString(what + QLatin1Char(' ') + target + ending),
+        ElementValue::createObject(2), kVnYesNo, 1, kVnIconQuestion);
+    return answer->GetDataI("ControlBtn") == kVnAnswerYes;
+}
+
+void VnQtLaymrgLayerDlg::slot_HelpBtnClicked(bool)
+{
+    vnqtShowHelp();
+}
+
+} // namespace vnsi

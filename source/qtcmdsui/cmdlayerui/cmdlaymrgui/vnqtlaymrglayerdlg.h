@@ -1,0 +1,47 @@
+#pragma once
+
+#include "vornqt.h"
+
+#include <QStringList>
+
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
+
+namespace vnsi {
+
+/// Both steps of a merge: first the layers to merge, then the one they are merged into. The tree
+/// says which step it is.
+class VnQtLaymrgLayerDlg : public VnQtModeDialogImpl<VnQtLaymrgLayerDlg, QDialog>
+{
+    Q_OBJECT
+
+public:
+    VnQtLaymrgLayerDlg(VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags);
+
+    bool setData(VnJsonPtr data, OdRxObjectPtr invoker) override;
+
+private slots:
+    void slot_LayerListItemClicked(QListWidgetItem* item);
+    void slot_LayerListItemDoubleClicked(QListWidgetItem* item);
+    void slot_SureBtnClicked(bool checked);
+    void slot_HelpBtnClicked(bool checked);
+
+private:
+    void readTree();
+    void buildLayout();
+    void fill();
+    VnJsonPtr layers() const;
+    bool acceptTarget(const QString& target) const;
+    void markTarget(const QString& target);
+    bool confirm(const QString& target) const;
+
+    bool m_sourceMode = false;
+    int m_blockReferences = 0;
+    QStringList m_names;
+    QStringList m_sources;
+    QLineEdit* m_targetEdit = nullptr; ///< Null in source mode.
+    QListWidget* m_list = nullptr;
+};
+
+} // namespace vnsi

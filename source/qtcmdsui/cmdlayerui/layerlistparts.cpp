@@ -1,0 +1,100 @@
+#include "layerlistparts.h"
+
+#include "layerrecord.h"
+#include "vnstrings.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+namespace vnsi::layerlist {
+
+namespace {
+
+struct ButtonRow
+{
+    QPushButton* Buttons::*button;
+    const char* text;
+    const char* objectName;
+};
+
+constexpr ButtonRow kButtons[] = {
+    {&Buttons::ok, QT_TRANSLATE_NOOP("vnsi::layerlist", "确定"), "okButton"},
+    {&Buttons::cancel, QT_TRANSLATE_NOOP("vnsi::layerlist", "取消"), "cancelButton"},
+    {&Buttons::help, QT_TRANSLATE_NOOP("vnsi::layerlist", "帮助(&H)"), "helpButton"},
+};
+
+} // namespace
+
+QBoxLayout* makeButtonRow(QDialog& dialog, Buttons& buttons)
+{
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    for (const ButtonRow& description : kButtons) {
+        auto* button = new QPushButton(
+            QCoreApplication::translate("vnsi::layerlist", description.text), &dialog);
+        button->setObjectName(QLatin1String(description.objectName));
+        row->addWidget(button);
+        buttons.*description.button = button;
+    }
+    buttons.ok->setDefault(true);
+    return row;
+}
+
+QListWidget* makeList(QDialog& dialog)
+{
+    auto* list = new QListWidget(&dialog);
+    list->setObjectName(QStringLiteral("layerList"));
+    return list;
+}
+
+QLineEdit* makeNameEdit(QDialog& dialog)
+{
+    auto* edit = new QLineEdit(&dialog);
+    edit->setObjectName(QStringLiteral("layerNameEdit"));
+    edit->setFocusPolicy(Qt::ClickFocus);
+    return edit;
+}
+
+void fill(QListWidget& list, const VnJsonPtr& layers)
+{
+    list.clear();
+    QStringList names;
+    for (int i = 0, count = layers.ArrayCount(); i < count; ++i)
+        names.append(vnutOdStringToQString(LayerRecord(layers(i)).name()));
+    list.addItems(names);
+    list.setCurrentRow(0);
+}
+
+void copyText(const QListWidgetItem* item, QLineEdit* edit)
+{
+    if (!item || !edit)
+        return;
+    edit->clear();
+    edit->setText(item->text());
+}
+
+QSet<QString> selectedNames(const QListWidget& list)
+{
+    QSet<QString> names;
+    const QModelIndexList rows = list.selectionModel()->selectedRows();
+    for (const QModelIndex& row : rows)
+        names.insert(row.data().toString());
+    return names;
+}
+
+void mark(const VnJsonPtr& layers, const QSet<QString>& names, int status)
+{
+    for (int i = 0, count = layers.ArrayCount(); i < count; ++i) {
+        LayerRecord record(layers(i));
+        if (!names.contains(vnutOdStringToQString(record.name())))
+            continue;
+        record.setStatus(status);
+        record.markModifiedByAction();
+    }
+}
+
+} // namespace vnsi::layerlist

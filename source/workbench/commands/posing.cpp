@@ -1,0 +1,46 @@
+#include "posing.h"
+
+#include "commandinvoker.h"
+#include "vnservicedict.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
+
+namespace posing {
+
+void showDialog(const OdString& service, const OdString& dialog, const vnsi::VnJsonPtr& tree,
+    const LayerCommand::Camera& camera, const QString& name,
+    const std::function<void(QWidget& window)>& more)
+{
+    const auto dialogs =
+        OdSmartPtr<vnsi::VnUiService>::castFrom(vnsi::vn_arbitDict_getservice(service).get());
+    const auto made = dialogs ? dialogs->createDialog(dialog) : vnsi::VnUiModeDialogBasePtr();
+    if (made.isNull() || !made->widget())
+        return;
+    made->setData(tree, CommandInvoker::make([](const vnsi::VnJsonPtr&) {}));
+    QWidget& window = *made->widget();
+    window.show();
+    QCoreApplication::processEvents();
+    camera(name, window);
+    if (more)
+        more(window);
+    window.hide();
+}
+
+void showNested(QWidget& window, const char* method, int row, int column,
+    const LayerCommand::Camera& camera, const QString& name)
+{
+    // By value: where no dialog opens, the timer outlives this call.
+    QTimer::singleShot(0, &window, [camera, name] {
+        auto* nested = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!nested)
+            return;
+        QCoreApplication::processEvents();
+        camera(name, *nested);
+        nested->reject();
+    });
+    QMetaObject::invokeMethod(&window, method, Q_ARG(int, row), Q_ARG(int, column));
+}
+
+} // namespace posing

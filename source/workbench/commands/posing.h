@@ -1,0 +1,20 @@
+#pragma once
+
+#include "command.h"
+#include "vnjson.h"
+
+/// Shows dialogs to a camera without waiting for a user.
+namespace posing {
+
+/// Makes a dialog through its service, fills it from `tree`, pictures it as `name` and lets `more`
+/// go on with its window.
+void showDialog(const OdString& service, const OdString& dialog, const vnsi::VnJsonPtr& tree,
+    const LayerCommand::Camera& camera, const QString& name,
+    const std::function<void(QWidget& window)>& more = {});
+
+/// Calls the slot `method(row, column)` of `window`, pictures the modal dialog that it opens, and
+/// cancels that.
+void showNested(QWidget& window, const char* method, int row, int column,
+    const LayerCommand::Camera& camera, const QString& name);
+
+} // namespace posing
