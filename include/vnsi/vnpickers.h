@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CmColor.h"
+#include "DbObjectId.h"
 #include "OdString.h"
 #include "vnsidef.h"
 
@@ -22,12 +23,20 @@ public:
     /// Shows `color`; one that the list lacks is added to it.
     void setColor(const OdCmColor& color);
 
+    /// As `color`.
+    OdCmColor GetCurrentColorEx() const { return color(); }
+    /// The row that shows `color`; -1 where none does.
+    int FindColor(const OdCmColor& color) const;
+    /// Adds a row for `color` and returns it; the row that is there already where one is.
+    int AppendColorItem(const OdCmColor& color);
+
 signals:
     void colorChanged();
 
 private:
     void rebuild();
     void handleActivated(int index);
+    void handleCurrentChanged(int index);
 
     bool m_logicalColors = true;
     OdCmColor m_color;
@@ -43,6 +52,11 @@ public:
     OdString lineType() const;
     /// Shows `name`; one that the list lacks is added to it.
     void setLineType(const OdString& name);
+
+    /// As `lineType`.
+    OdString getCurrentLineTypeString() const { return lineType(); }
+    /// The linetype's record in the drawing; null for one that the drawing lacks.
+    OdDbObjectId getCurrentLineType() const;
 };
 
 /// Chooses a lineweight: ByLayer, ByBlock, default, or one of the weights that exist.
@@ -56,6 +70,9 @@ public:
     int lineWidth() const;
     /// Shows the weight; one that does not exist shows as the default.
     void setLineWidth(int weight);
+
+    /// As `lineWidth`.
+    int GetCurrentLineWeight() const { return lineWidth(); }
 };
 
 } // namespace vnsi

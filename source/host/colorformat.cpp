@@ -1,0 +1,36 @@
+#include "vndocument.h"
+
+#include <cwchar>
+
+namespace vnsi {
+
+namespace {
+
+constexpr const wchar_t* kNames[] = {L"红", L"黄", L"绿", L"青", L"蓝", L"洋红", L"白"};
+
+OdString indexText(int index)
+{
+    if (index >= 1 && index <= static_cast<int>(std::size(kNames)))
+        return kNames[index - 1];
+    return OdString(std::to_wstring(index));
+}
+
+} // namespace
+
+OdString formatColor(const OdCmColor& color, const OdArray<ODCOLORREF>&, OdDbObjectId)
+{
+    switch (color.colorMethod()) {
+    case OdCmEntityColor::kByLayer:
+        return L"ByLayer";
+    case OdCmEntityColor::kByBlock:
+        return L"ByBlock";
+    case OdCmEntityColor::kByACI:
+        return indexText(color.colorIndex());
+    case OdCmEntityColor::kByColor:
+        break;
+    }
+    return OdString(std::to_wstring(color.red()) + L',' + std::to_wstring(color.green()) + L',' +
+                    std::to_wstring(color.blue()));
+}
+
+} // namespace vnsi

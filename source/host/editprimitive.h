@@ -1,0 +1,10 @@
+#pragma once
+
+#include "vneditprimitive.h"
+
+namespace host {
+
+/// The service "Core/EditPrimitiveServer".
+OdRxObjectPtr makeEditPrimitiveServer();
+
+} // namespace host

@@ -1,0 +1,195 @@
+#include "valuearray.h"
+#include "valueobject.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cmath>
+#include <limits>
+
+#include "vnstrings.h"
+
+namespace vnsi {
+
+namespace {
+
+/// As deep as texts of this kind are read; deeper containers are written as null.
+constexpr int kDeepestJson = 1024;
+
+VnJsonPtr emptyLike(const ValueNode& source)
+{
+    if (source.kind() == IElementValueBase::Kind::Array)
+        return ElementValue::createArray(source.ArrayCount());
+    const auto& members = static_cast<const ValueObject&>(source).members();
+    return ElementValue::createObject(static_cast<int>(members.size()));
+}
+
+/// A container that is copied, and its copy.
+using CopyStep = std::pair<const ValueNode*, ValueNode*>;
+
+/// The copy of one value; a container is made empty and noted to be filled.
+Value copied(const Value& value, std::vector<CopyStep>& open)
+{
+    const ValueNode* const node = readNode(value);
+    if (!node)
+        return value;
+    const VnJsonPtr copy = emptyLike(*node);
+    open.emplace_back(node, static_cast<ValueNode*>(copy.get()));
+    return toValue(copy);
+}
+
+void fillCopy(const CopyStep& step, std::vector<CopyStep>& open)
+{
+    if (step.first->kind() == IElementValueBase::Kind::Array) {
+        for (const Value& element : static_cast<const ValueArray*>(step.first)->elements())
+            static_cast<ValueArray*>(step.second)->add(copied(element, open));
+        return;
+    }
+    for (const ValueObject::Member& member : static_cast<const ValueObject*>(step.first)->members())
+        if (member.key)
+            static_cast<ValueObject*>(step.second)
+                ->put(member.key->text, copied(member.value, open));
+}
+
+QJsonValue jsonOf(const Value& value, int depth);
+
+QJsonValue jsonOf(const ValueNode& node, int depth)
+{
+    if (depth > kDeepestJson)
+        return QJsonValue::Null;
+    if (node.kind() == IElementValueBase::Kind::Array) {
+        QJsonArray array;
+        for (const Value& element : static_cast<const ValueArray&>(node).elements())
+            array.append(jsonOf(element, depth + 1));
+        return array;
+    }
+    QJsonObject object;
+    for (const ValueObject::Member& member : static_cast<const ValueObject&>(node).members()) {
+        if (member.key)
+            object.insert(
+                QString::fromStdString(member.key->text), jsonOf(member.value, depth + 1));
+    }
+    return object;
+}
+
+struct ScalarToJson
+{
+    int depth;
+
+    QJsonValue operator()(std::monostate) const { return QJsonValue::Null; }
+    QJsonValue operator()(bool value) const { return value; }
+    QJsonValue operator()(OdInt32 value) const { return value; }
+    QJsonValue operator()(OdInt64 value) const { return static_cast<qint64>(value); }
+    QJsonValue operator()(double value) const { return value; }
+    QJsonValue operator()(const OdString& value) const { return vnutOdStringToQString(value); }
+    QJsonValue operator()(const Branch& value) const { return jsonOf(*value.node(), depth); }
+};
+
+QJsonValue jsonOf(const Value& value, int depth)
+{
+    return std::visit(ScalarToJson{depth}, value);
+}
+
+VnJsonPtr fromArray(const QJsonArray& array);
+VnJsonPtr fromObject(const QJsonObject& object);
+
+Value fromNumber(const QJsonValue& json)
+{
+    const QVariant number = json.toVariant();
+    if (number.type() != QVariant::LongLong)
+        return number.toDouble();
+    const OdInt64 wide = number.toLongLong();
+    using Limits = std::numeric_limits<OdInt32>;
+    if (wide < Limits::min() || wide > Limits::max())
+        return wide;
+    return static_cast<OdInt32>(wide);
+}
+
+Value fromJsonValue(const QJsonValue& json)
+{
+    switch (json.type()) {
+    case QJsonValue::Bool:
+        return json.toBool();
+    case QJsonValue::Double:
+        return fromNumber(json);
+    case QJsonValue::String:
+        return vnutQStringToOdString(json.toString());
+    case QJsonValue::Array:
+        return toValue(fromArray(json.toArray()));
+    case QJsonValue::Object:
+        return toValue(fromObject(json.toObject()));
+    default:
+        return {};
+    }
+}
+
+// The parser refuses what is nested deeper than kDeepestJson, so these two may call each other.
+VnJsonPtr fromArray(const QJsonArray& array)
+{
+    VnJsonPtr node = ElementValue::createArray(array.size());
+    for (const QJsonValue element : array)
+        static_cast<ValueArray&>(*node).add(fromJsonValue(element));
+    return node;
+}
+
+VnJsonPtr fromObject(const QJsonObject& object)
+{
+    VnJsonPtr node = ElementValue::createObject(object.size());
+    for (auto member = object.begin(); member != object.end(); ++member)
+        static_cast<ValueObject&>(*node).put(
+            member.key().toStdString(), fromJsonValue(member.value()));
+    return node;
+}
+
+} // namespace
+
+VnJsonPtr ElementValue::createObject(int capacity)
+{
+    return VnJsonPtr(new ValueObject(capacity));
+}
+
+VnJsonPtr ElementValue::createArray(int capacity)
+{
+    return VnJsonPtr(new ValueArray(capacity));
+}
+
+VnJsonPtr ElementValue::clone(const VnJsonPtr& node)
+{
+    if (!node)
+        return {};
+    std::vector<CopyStep> open;
+    const VnJsonPtr copy = toHandle(copied(toValue(node), open));
+    while (!open.empty()) {
+        const CopyStep step = open.back();
+        open.pop_back();
+        fillCopy(step, open);
+    }
+    return copy;
+}
+
+VnJsonPtr ElementValue::fromJson(const OdAnsiString& json)
+{
+    const std::string_view bytes = json.view();
+    const QJsonDocument document = QJsonDocument::fromJson(
+        QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
+    if (document.isArray())
+        return fromArray(document.array());
+    return document.isObject() ? fromObject(document.object()) : VnJsonPtr();
+}
+
+OdAnsiString ElementValue::toJson(const VnJsonPtr& node)
+{
+    // A scalar has no document of its own: it is written as the only element of a list.
+    const QJsonValue json = jsonOf(toValue(node), 1);
+    if (json.isObject() || json.isArray()) {
+        const QJsonDocument document =
+            json.isArray() ? QJsonDocument(json.toArray()) : QJsonDocument(json.toObject());
+        return OdAnsiString(document.toJson(QJsonDocument::Compact).toStdString());
+    }
+    const std::string list =
+        QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact).toStdString();
+    return OdAnsiString(std::string_view(list).substr(1, list.size() - 2));
+}
+
+} // namespace vnsi

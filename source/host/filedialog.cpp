@@ -1,0 +1,93 @@
+#include "filedialog.h"
+
+#include "filefilters.h"
+#include "vnstrings.h"
+
+namespace host {
+
+namespace {
+
+constexpr int kFlagSave = 1;
+
+QString text(const vnsi::VnJsonPtr& tree, const char* key)
+{
+    return vnsi::vnutOdStringToQString(tree->GetDataSW(key));
+}
+
+QString firstText(const vnsi::VnJsonPtr& tree, std::initializer_list<const char*> keys)
+{
+    for (const char* key : keys) {
+        const QString found = text(tree, key);
+        if (!found.isEmpty())
+            return found;
+    }
+    return {};
+}
+
+bool isForOpening(const vnsi::VnJsonPtr& tree)
+{
+    const bool byFlags = !(tree->GetDataI("flags") & kFlagSave);
+    return tree->GetDataB("Open", byFlags);
+}
+
+} // namespace
+
+FileDialog::FileDialog(QWidget* parent) : QFileDialog(parent)
+{
+    setOption(QFileDialog::DontUseNativeDialog);
+    connect(this, &QFileDialog::filterSelected, this, &FileDialog::followFilter);
+}
+
+void FileDialog::readKeys(const vnsi::VnJsonPtr& tree)
+{
+    const bool isOpening = isForOpening(tree);
+    const bool isMultiple = isOpening && tree->GetDataB("MutiFile");
+    setAcceptMode(isOpening ? AcceptOpen : AcceptSave);
+    setFileMode(isMultiple ? ExistingFiles : isOpening ? ExistingFile : AnyFile);
+
+    const QString title = firstText(tree, {"title", "caption"});
+    setWindowTitle(!title.isEmpty() ? title : isOpening ? tr("选择文件") : tr("另存为"));
+    setLabelText(FileName, tr("文件名(&N):"));
+    setLabelText(FileType, tr("文件类型(&T):"));
+    setLabelText(LookIn, tr("查找范围:"));
+    setLabelText(Accept, isOpening ? tr("打开(&O)") : tr("保存(&S)"));
+    setLabelText(Reject, tr("取消"));
+
+    const QStringList filters = splitFilters(text(tree, "filter"));
+    if (!filters.isEmpty())
+        setNameFilters(filters);
+    const QString folder = text(tree, "dir");
+    if (!folder.isEmpty())
+        setDirectory(folder);
+    const QStringList chosen = splitFilters(text(tree, "defFilter"));
+    if (!chosen.isEmpty() && filters.contains(chosen.first()))
+        selectNameFilter(chosen.first());
+    followFilter(selectedNameFilter());
+    const QString offered = text(tree, "defawlt");
+    if (!offered.isEmpty())
+        selectFile(offered);
+}
+
+void FileDialog::followFilter(const QString& entry)
+{
+    if (acceptMode() == AcceptSave)
+        setDefaultSuffix(firstExtension(entry));
+}
+
+void FileDialog::writeAnswers(const vnsi::VnJsonPtr& tree, bool isAccepted) const
+{
+    const QStringList paths = isAccepted ? selectedFiles() : QStringList();
+    tree->RemoveKey("filePath");
+    tree->RemoveKey("filePaths");
+    if (paths.isEmpty())
+        return;
+    tree->SetDataSW("filePath", vnsi::vnutQStringToOdString(paths.first()));
+    if (!tree->GetDataB("MutiFile"))
+        return;
+    const vnsi::VnJsonPtr all = vnsi::ElementValue::createArray(paths.size());
+    for (const QString& path : paths)
+        all->AppendSW(vnsi::vnutQStringToOdString(path));
+    tree->SetDataJ("filePaths", all);
+}
+
+} // namespace host

@@ -1,0 +1,7 @@
+#include "hostlog.h"
+
+namespace host {
+
+Q_LOGGING_CATEGORY(hostLog, "vn.host", QtCriticalMsg)
+
+} // namespace host

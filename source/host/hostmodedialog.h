@@ -1,0 +1,73 @@
+#pragma once
+
+#include "RxObjectImpl.h"
+#include "vndialogs.h"
+
+#include <QDialog>
+#include <QPointer>
+
+namespace host {
+
+/// A dialog of the host's own as its services hand it out. `T` is a QDialog that takes its keys
+/// with `readKeys(tree)` and leaves its answers with `writeAnswers(tree, isAccepted)`.
+template <class T>
+class HostModeDialog : public vnsi::VnUiModeDialogBase
+{
+public:
+    static vnsi::VnUiModeDialogBasePtr create(QWidget* parent, const char* objectName)
+    {
+        const auto dialog = OdRxObjectImpl<HostModeDialog<T>>::createObject();
+        dialog->createDialog(parent, 0, objectName);
+        return dialog;
+    }
+
+    ~HostModeDialog() override { delete m_dialog.data(); }
+
+    int setData(vnsi::VnJsonPtr data, OdRxObjectPtr) override
+    {
+        m_data = data ? data : vnsi::ElementValue::createObject(2);
+        if (m_dialog)
+            m_dialog->readKeys(m_data);
+        return m_dialog ? 1 : 0;
+    }
+
+    QWidget* widget() const override { return m_dialog; }
+    vnsi::VnJsonPtr resultData() const override { return m_result; }
+
+    void endDialog(int code) override
+    {
+        if (m_dialog)
+            static_cast<QDialog*>(m_dialog)->done(
+                code == kAccepted ? QDialog::Accepted : QDialog::Rejected);
+    }
+
+    int doModal() override
+    {
+        if (!m_dialog || !m_data)
+            return 0;
+        const bool isAccepted = m_dialog->exec() == QDialog::Accepted;
+        if (m_dialog)
+            m_dialog->writeAnswers(m_data, isAccepted);
+        m_result->SetDataI("result", isAccepted ? kAccepted : kCancelled);
+        return m_result->GetDataI("result");
+    }
+
+    bool createDialog(QWidget* parent, unsigned, const char* objectName) override
+    {
+        if (m_dialog)
+            return true;
+        m_dialog = new T(parent);
+        m_dialog->setObjectName(QString::fromUtf8(objectName));
+        return true;
+    }
+
+private:
+    static constexpr int kAccepted = 1;
+    static constexpr int kCancelled = 2;
+
+    vnsi::VnJsonPtr m_data;
+    vnsi::VnJsonPtr m_result = vnsi::ElementValue::createObject(1);
+    QPointer<T> m_dialog;
+};
+
+} // namespace host

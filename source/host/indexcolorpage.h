@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace host {
+
+class SwatchGrid;
+
+/// The page of the colour dialog that chooses an index colour, ByLayer or ByBlock.
+class IndexColorPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit IndexColorPage(QWidget* parent = nullptr);
+
+    void setLogicalColorsEnabled(bool byLayer, bool byBlock);
+    /// The index: 1 to 255, 0 ByBlock, 256 ByLayer; -1 while the text field holds none of them.
+    int index() const { return m_index; }
+    void setIndex(int index);
+
+signals:
+    void indexChanged(int index);
+    void confirmed();
+
+private:
+    SwatchGrid* addGrid(const char* name, const QVector<int>& indices, int columns, int side);
+    void choose(int index);
+    void readText(const QString& text);
+    void describe(int index);
+    void markGrids();
+
+    QVector<SwatchGrid*> m_grids;
+    QLabel* m_description;
+    QPushButton* m_byLayer;
+    QPushButton* m_byBlock;
+    QLineEdit* m_text;
+    int m_index = -1;
+};
+
+} // namespace host

@@ -1,0 +1,61 @@
+#include "vnpickers.h"
+
+#include <QPainter>
+
+namespace vnsi {
+
+namespace {
+
+constexpr int kDefaultWeight = -3;
+constexpr int kWeights[] = {-1, -2, kDefaultWeight, 0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53,
+    60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
+constexpr QSize kIconSize(40, 16);
+constexpr int kHundredthsToAPixel = 18;
+
+QString weightText(int weight)
+{
+    switch (weight) {
+    case -1:
+        return VnLineWidthComboBox::tr("随层");
+    case -2:
+        return VnLineWidthComboBox::tr("随块");
+    case kDefaultWeight:
+        return VnLineWidthComboBox::tr("默认");
+    default:
+        return VnLineWidthComboBox::tr("%1 mm").arg(weight / 100.0, 0, 'f', 2);
+    }
+}
+
+/// A stroke as thick as the weight, in the text colour so that it reads on every background.
+QIcon weightIcon(int weight, const QColor& color)
+{
+    QPixmap pixmap(kIconSize);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const int thickness = qMax(1, weight / kHundredthsToAPixel);
+    painter.fillRect(0, (kIconSize.height() - thickness) / 2, kIconSize.width(), thickness, color);
+    painter.end();
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+VnLineWidthComboBox::VnLineWidthComboBox(QWidget* parent) : QComboBox(parent)
+{
+    setIconSize(kIconSize);
+    for (const int weight : kWeights)
+        addItem(weightIcon(weight, palette().color(QPalette::Text)), weightText(weight), weight);
+}
+
+int VnLineWidthComboBox::lineWidth() const
+{
+    return currentIndex() < 0 ? kDefaultWeight : currentData().toInt();
+}
+
+void VnLineWidthComboBox::setLineWidth(int weight)
+{
+    const int row = findData(weight);
+    setCurrentIndex(row >= 0 ? row : findData(kDefaultWeight));
+}
+
+} // namespace vnsi

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "CmColor.h"
+
+#include <QColor>
+#include <QIcon>
+
+namespace host {
+
+QColor indexColor(int index);
+QColor toQColor(const OdCmEntityColor& color);
+/// A square of the colour with a thin border.
+QIcon swatchIcon(const QColor& color);
+
+} // namespace host

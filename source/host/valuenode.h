@@ -1,0 +1,69 @@
+#pragma once
+
+#include "value.h"
+
+#include <atomic>
+#include <vector>
+
+namespace vnsi {
+
+/// What all kinds of nodes share: the counts, and the answers of a node that is not of the kind an
+/// operation is for.
+class ValueNode : public IElementValueBase
+{
+public:
+    void addRef() override { m_references.fetch_add(1, std::memory_order_relaxed); }
+    void release() override;
+
+    /// The value of a scalar node; null for containers.
+    virtual const Value* scalar() const { return nullptr; }
+    /// Appends the containers that hang in this one.
+    virtual void collectChildren(std::vector<ValueNode*>& children) const;
+
+    void hang() { m_hanging.fetch_add(1, std::memory_order_relaxed); }
+    void unhang() { m_hanging.fetch_sub(1, std::memory_order_relaxed); }
+    /// Whether this node may become a child of `parent`: it must not be it nor hold it somewhere.
+    bool mayHangIn(const ValueNode& parent) const;
+
+    bool GetDataB(const char* key, bool fallback) const override;
+    OdInt32 GetDataI(const char* key, OdInt32 fallback) const override;
+    OdInt64 GetDataL(const char* key, OdInt64 fallback) const override;
+    OdString GetDataSW(const char* key, const OdString& fallback) const override;
+    OdAnsiString GetDataS(const char* key, const OdAnsiString& fallback) const override;
+    VnJsonPtr GetDataJ(const char* key) const override;
+
+    void SetDataB(const char* key, bool value) override;
+    void SetDataI(const char* key, OdInt32 value) override;
+    void SetDataL(const char* key, OdInt64 value) override;
+    void SetDataSW(const char* key, const OdString& value) override;
+    void SetDataS(const char* key, const OdAnsiString& utf8) override;
+    void SetDataJ(const char* key, const VnJsonPtr& value) override;
+    bool HasKey(const char* key) const override;
+    void RemoveKey(const char* key) override;
+
+    int ArrayCount() const override;
+    VnJsonPtr operator()(int index) const override;
+    void Append(const VnJsonPtr& value) override;
+    void AppendI(OdInt32 value) override;
+    void AppendSW(const OdString& value) override;
+    void Insert(int index, const VnJsonPtr& value) override;
+    void Remove(int index) override;
+    void Clear() override;
+
+    bool asB(bool fallback) const override;
+    OdInt32 asI(OdInt32 fallback) const override;
+    OdString asSW(const OdString& fallback) const override;
+
+protected:
+    /// What stands under `path`; null where there is nothing and on nodes that are no objects.
+    virtual const Value* find(const char* path) const;
+    /// Writes `value` under `path`; nothing on nodes that are no objects.
+    virtual void store(const char* path, Value value);
+
+private:
+    std::atomic<OdInt32> m_references{1};
+    std::atomic<OdInt32> m_hanging{0};
+    ValueNode* m_nextDoomed = nullptr;
+};
+
+} // namespace vnsi

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "valuenode.h"
+
+namespace vnsi {
+
+/// A scalar that stands alone: an element taken out of its array.
+class ValueScalar final : public ValueNode
+{
+public:
+    explicit ValueScalar(Value value) : m_value(std::move(value)) {}
+
+    Kind kind() const override;
+    const Value* scalar() const override { return &m_value; }
+
+private:
+    Value m_value;
+};
+
+} // namespace vnsi
