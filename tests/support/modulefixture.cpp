@@ -1,0 +1,42 @@
+#include "modulefixture.h"
+
+#include "vnservicedict.h"
+#include "vnstrings.h"
+
+#include <QtTest>
+
+ModuleFixture::ModuleFixture()
+{
+    const QString failure = m_host.loadModule(modulePath());
+    if (!failure.isEmpty())
+        QTest::qFail(qPrintable(failure), __FILE__, __LINE__);
+}
+
+QString ModuleFixture::modulePath()
+{
+    return QStringLiteral(VN_MODULE_PATH);
+}
+
+vnsi::VnUiModeDialogBasePtr ModuleFixture::createDialog(
+    const QString& name, const vnsi::VnJsonPtr& tree, const OdRxObjectPtr& invoker)
+{
+    const auto service =
+        vnsi::VnUiService::cast(vnsi::vn_arbitDict_getservice(L"Dialog/CmdLayer").get());
+    if (service.isNull())
+        qFatal("the module did not register its service");
+    vnsi::VnUiModeDialogBasePtr dialog = service->createDialog(vnsi::vnutQStringToOdString(name));
+    if (!dialog.isNull())
+        dialog->setData(tree, invoker);
+    return dialog;
+}
+
+void ModuleFixture::failMissing(
+    const QWidget* parent, const char* className, const char* objectName)
+{
+    QStringList names;
+    for (const QWidget* widget : parent->findChildren<QWidget*>()) {
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
+            names.append(widget->objectName());
+    }
+    qFatal("no %s named \"%s\" among: %s", className, objectName, qPrintable(names.join(", ")));
+}

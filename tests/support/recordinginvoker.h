@@ -1,0 +1,35 @@
+#pragma once
+
+#include "RxObjectImpl.h"
+#include "vndialogs.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <string>
+
+class RecordingHost;
+
+/// A command that notes each request in the log of a recording host and answers with a function.
+class RecordingInvoker : public vnsi::VnUiDialogInvoker
+{
+public:
+    using Answer = std::function<void(const vnsi::VnJsonPtr& tree)>;
+    using Ptr = OdSmartPtr<RecordingInvoker>;
+
+    /// `keys` are the members noted with each request; none for the whole tree.
+    static Ptr create(RecordingHost& host, const QStringList& keys, Answer answer = {});
+    RecordingInvoker(RecordingHost& host, QStringList keys, Answer answer);
+
+    /// The key of the request code, where it is not "marker".
+    void setMarkerKey(const char* key) { m_markerKey = key; }
+    void setAnswer(Answer answer) { m_answer = std::move(answer); }
+
+    void invoke(vnsi::VnJsonPtr tree) override;
+
+private:
+    RecordingHost& m_host;
+    QStringList m_keys;
+    Answer m_answer;
+    std::string m_markerKey = "marker";
+};

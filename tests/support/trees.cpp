@@ -1,0 +1,77 @@
+#include "trees.h"
+
+#include "vnstrings.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QtTest>
+
+namespace {
+
+OdAnsiString utf8(const QByteArray& bytes)
+{
+    return OdAnsiString(bytes.toStdString());
+}
+
+void mergeMember(const vnsi::VnJsonPtr& target, const QString& name, const QJsonValue& value)
+{
+    const std::string text = name.toStdString();
+    const char* const key = text.c_str();
+    switch (value.type()) {
+    case QJsonValue::Bool:
+        target->SetDataB(key, value.toBool());
+        return;
+    case QJsonValue::Double:
+        target->SetDataL(key, value.toVariant().toLongLong());
+        return;
+    case QJsonValue::String:
+        target->SetDataSW(key, vnsi::vnutQStringToOdString(value.toString()));
+        return;
+    case QJsonValue::Array: {
+        const QByteArray json = QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact);
+        target->SetDataJ(key, vnsi::ElementValue::fromJson(utf8(json)));
+        return;
+    }
+    case QJsonValue::Object:
+        if (!target->GetDataJ(key))
+            target->SetDataJ(key, vnsi::ElementValue::createObject(4));
+        merge(target->GetDataJ(key), value.toObject());
+        return;
+    default:
+        target->RemoveKey(key);
+    }
+}
+
+} // namespace
+
+vnsi::VnJsonPtr tree(const QString& json)
+{
+    vnsi::VnJsonPtr node = vnsi::ElementValue::fromJson(utf8(json.toUtf8()));
+    if (!node)
+        QTest::qFail(qPrintable("no JSON: " + json), __FILE__, __LINE__);
+    return node;
+}
+
+QString toText(const vnsi::VnJsonPtr& node)
+{
+    return QString::fromUtf8(vnsi::ElementValue::toJson(node).c_str());
+}
+
+QJsonObject toJsonObject(const vnsi::VnJsonPtr& node)
+{
+    return QJsonDocument::fromJson(toText(node).toUtf8()).object();
+}
+
+void merge(const vnsi::VnJsonPtr& target, const QJsonObject& json)
+{
+    for (auto member = json.begin(); member != json.end(); ++member)
+        mergeMember(target, member.key(), member.value());
+}
+
+void merge(const vnsi::VnJsonPtr& target, const QString& json)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
+    if (!document.isObject())
+        QTest::qFail(qPrintable("no JSON object: " + json), __FILE__, __LINE__);
+    merge(target, document.object());
+}
