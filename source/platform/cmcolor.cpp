@@ -14,7 +14,7 @@ constexpr ODCOLORREF kNamed[] = {rgb(255, 255, 255), rgb(255, 0, 0), rgb(255, 25
     rgb(0, 255, 0), rgb(0, 255, 255), rgb(0, 0, 255), rgb(255, 0, 255), rgb(255, 255, 255),
     rgb(128, 128, 128), rgb(192, 192, 192)};
 constexpr int kFirstGrey = 250;
-constexpr int kGreys[] = {51, 80, 105, 130, 190, 255};
+constexpr int kGreys[] = {51, 91, 132, 173, 214, 255};
 
 /// Indices 10 to 249 go round the colour circle in 24 hues of ten: five brightnesses, each full and
 /// half saturated, as the published table has them.

@@ -1,12 +1,20 @@
 #include "commandtable.h"
 
+#include "commands/layercommand.h"
+
 #include <algorithm>
 #include <iterator>
 
 namespace {
 
+template <class T>
+std::unique_ptr<LayerCommand> make()
+{
+    return std::make_unique<T>();
+}
+
 constexpr CommandRow kRows[] = {
-    {"LAYER", QT_TRANSLATE_NOOP("Commands", "图层特性"), "layer", nullptr},
+    {"LAYER", QT_TRANSLATE_NOOP("Commands", "图层特性"), "layer", make<LayerPropertiesCommand>},
     {"LAYERSTATE", QT_TRANSLATE_NOOP("Commands", "图层状态"), "layer-states", nullptr},
     {"LAYDEL", QT_TRANSLATE_NOOP("Commands", "删除图层"), "layer-delete", nullptr},
     {"LAYMCH", QT_TRANSLATE_NOOP("Commands", "更改到图层"), "layer-change", nullptr},

@@ -20,5 +20,11 @@ drawing::Expected<void> savePicture(QWidget& widget, const QString& path)
 
 drawing::Expected<void> writeGallery(MainWindow& window, const QString& folder)
 {
-    return savePicture(window, QDir(folder).filePath(QStringLiteral("workbench.png")));
+    drawing::Expected<void> outcome;
+    window.pose([&](const QString& name, QWidget& shown) {
+        const QString path = QDir(folder).filePath(name + QStringLiteral(".png"));
+        if (auto saved = savePicture(shown, path); !saved)
+            outcome = std::move(saved);
+    });
+    return outcome;
 }

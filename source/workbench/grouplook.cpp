@@ -1,5 +1,6 @@
 #include "grouplook.h"
 
+#include "CmColor.h"
 #include "colorindex.h"
 
 #include <QHash>
@@ -44,8 +45,11 @@ private:
 
     QColor ofIndex(int index) const
     {
-        return index == drawing::kColorForeground ? m_foreground
-                                                  : QColor(QRgb(drawing::colorOfIndex(index)));
+        if (index == drawing::kColorForeground)
+            return m_foreground;
+        OdCmEntityColor color;
+        color.setColorIndex(static_cast<OdInt16>(index));
+        return QColor(color.red(), color.green(), color.blue());
     }
 
     QColor colorOf(const GeometryColor& color) const

@@ -1,4 +1,7 @@
+#include "documents.h"
 #include "gallery.h"
+#include "hoststart.h"
+#include "hostwindows.h"
 #include "layerlist.h"
 #include "mainwindow.h"
 #include "messages.h"
@@ -50,10 +53,22 @@ int printList(const Options& options)
     return Fine;
 }
 
+/// Makes the host's services and loads the module that lies beside the program, or the one that the
+/// environment names. Without it there are no layer dialogs, but drawings can be seen.
+void startHost(host::Host& host)
+{
+    const QString beside = QApplication::applicationDirPath() + QStringLiteral("/libcmdlayerui.so");
+    const QString path = qEnvironmentVariable("LAYERBENCH_MODULE", beside);
+    host::setCurrentDocument(host::makeDocument());
+    if (const QString failure = host.loadModule(path); !failure.isEmpty())
+        print(stderr, QStringLiteral("layerbench: %1\n").arg(failure));
+}
+
 /// Opens the drawing in the foreground and draws the pictures that were asked for.
 int makePictures(const Options& options)
 {
     MainWindow window;
+    host::setMainWindow(&window);
     window.show();
     const bool useSample = options.file.isEmpty() && !options.gallery.isEmpty();
     const QString path = useSample ? sampleDrawing() : options.file;
@@ -78,6 +93,7 @@ int makePictures(const Options& options)
 int runWindow(const Options& options)
 {
     MainWindow window;
+    host::setMainWindow(&window);
     window.show();
     if (!options.command.isEmpty()) {
         const QString command = options.command;
@@ -121,12 +137,12 @@ int main(int argc, char* argv[])
     }
     if (options->list)
         return printList(*options);
-    if (options->isBatch())
-        return makePictures(*options);
-    if (!display) {
+    if (!display && !options->isBatch()) {
         print(stderr, QStringLiteral("layerbench: 没有可用的显示；"
                                      "可用 --gallery、--screenshot 或 --list。\n"));
         return Failed;
     }
-    return runWindow(*options);
+    host::Host host;
+    startHost(host);
+    return options->isBatch() ? makePictures(*options) : runWindow(*options);
 }

@@ -5,6 +5,7 @@
 #include "drawingsession.h"
 #include "messages.h"
 #include "recentfiles.h"
+#include "requests.h"
 #include "statusfields.h"
 
 #include <QCloseEvent>
@@ -247,15 +248,38 @@ void MainWindow::runLayerCommand(const CommandRow& row)
             tr("命令 %1（%2）尚不可用。").arg(QLatin1String(row.name), row.displayTitle()));
         return;
     }
-    CommandContext context{*drawing(), this,
-        [this](const QString& text) { m_commandLine->say(text); }, [this] { showLayers(); }};
+    CommandContext context = commandContext();
     m_commandRunning = true;
     updateState();
     drawing()->beginStep(row.displayTitle());
-    row.create()->run(context);
-    drawing()->commitStep();
+    try {
+        const host::CommandScope running;
+        row.create()->run(context);
+        drawing()->commitStep();
+    } catch (const std::exception& error) {
+        drawing()->rollbackStep();
+        messages::showCommandFailure(this, row.displayTitle(), QString::fromUtf8(error.what()));
+    }
     m_commandRunning = false;
     updateState();
+}
+
+CommandContext MainWindow::commandContext()
+{
+    return {*drawing(), this, [this](const QString& text) { m_commandLine->say(text); },
+        [this] { showLayers(); }};
+}
+
+void MainWindow::pose(const LayerCommand::Camera& camera)
+{
+    camera(QStringLiteral("workbench"), *this);
+    if (!drawing())
+        return;
+    CommandContext context = commandContext();
+    for (const CommandRow& row : CommandTable()) {
+        if (row.create)
+            row.create()->pose(context, camera);
+    }
 }
 
 void MainWindow::chooseFile()

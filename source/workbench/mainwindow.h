@@ -29,6 +29,9 @@ public:
     /// Runs what was typed; anything that cannot run is answered in the echo.
     void runCommand(const QString& word);
 
+    /// Pictures the window and each dialog that a layer command shows.
+    void pose(const LayerCommand::Camera& camera);
+
     drawing::Drawing* drawing() const;
     Canvas* canvas() const { return m_canvas; }
 
@@ -58,6 +61,7 @@ private:
     void toggleBackground();
     void about();
 
+    CommandContext commandContext();
     void runLayerCommand(const CommandRow& row);
     void showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry);
     void showLayers();

@@ -15,6 +15,14 @@ QString tr(const char* text)
     return QCoreApplication::translate("Messages", text);
 }
 
+void showWarning(QWidget* parent, const QString& title, const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.addButton(tr("确定"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
 } // namespace
 
 SaveChoice askToSave(QWidget* parent, const QString& fileName)
@@ -44,11 +52,13 @@ QString describe(const QString& path, const drawing::Error& error)
 void showFailure(
     QWidget* parent, const QString& title, const QString& path, const drawing::Error& error)
 {
-    QMessageBox box(
-        QMessageBox::Warning, title, describe(path, error), QMessageBox::NoButton, parent);
-    box.setTextFormat(Qt::PlainText);
-    box.addButton(tr("确定"), QMessageBox::AcceptRole);
-    box.exec();
+    showWarning(parent, title, describe(path, error));
+}
+
+void showCommandFailure(QWidget* parent, const QString& command, const QString& cause)
+{
+    showWarning(
+        parent, command, tr("命令“%1”出错，它所做的更改已撤回。\n\n原因：%2").arg(command, cause));
 }
 
 void showAbout(QWidget* parent)

@@ -26,9 +26,9 @@ VnQtUiLayerTransparencyModify::VnQtUiLayerTransparencyModify(QWidget* parent) : 
     setMinimumWidth(265);
 }
 
-void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& data)
+void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
 {
-    m_data = data;
+    m_data = tree;
     const int start = m_data ? m_data->GetDataI(kTransparency, 0) : 0;
 
     auto* label = new QLabel(tr("透明度值(<u>T</u>)(0~90):"), this);

@@ -15,9 +15,9 @@ class VnQtUiLayerTransparencyModify : public QDialog
 
 public:
     explicit VnQtUiLayerTransparencyModify(QWidget* parent = nullptr);
-    /// Shows the percentage under "transparency" of `data`; when the dialog is accepted the chosen
+    /// Shows the percentage under "transparency" of `tree`; when the dialog is accepted the chosen
     /// one, 0 to 90, stands there.
-    void setData(const VnJsonPtr& data);
+    void setData(const VnJsonPtr& tree);
 
 private slots:
     void slot_onBtnOkClicked(bool checked);

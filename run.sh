@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Sets up, builds, and opens the workbench on a sample drawing (or on the drawing named).
+# Without a display it writes a picture of every dialog instead.
+set -euo pipefail
+cd "$(dirname "$0")"
+scripts/setup.sh
+scripts/build.sh release
+
+if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    echo "没有可用的显示：改为把各对话框的图片写入 build/gallery。"
+    exec build/release/bin/layerbench --gallery build/gallery "$@"
+fi
+exec build/release/bin/layerbench "${@:-samples/office-floor.dxf}"

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Installs, from Debian, what building and running needs and is missing; --tests adds what tests need.
+set -euo pipefail
+
+packages=(
+    g++ cmake ninja-build
+    qtbase5-dev qttranslations5-l10n libexpected-dev libbenchmark-dev libdxflib-dev
+    fonts-wqy-zenhei
+)
+if [ "${1:-}" = "--tests" ]; then
+    packages+=(python3-ezdxf)
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+        echo "需要以 root 身份安装：${missing[*]}" >&2
+        exit 1
+    }
+    as_root=(sudo)
+fi
+echo "安装：${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

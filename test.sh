@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Sets up, builds and runs every test; with --asan once more under the sanitizers.
+set -euo pipefail
+cd "$(dirname "$0")"
+scripts/setup.sh --tests
+
+run_tests() {
+    scripts/build.sh "$1"
+    ctest --preset "$1" -j "$(nproc)"
+}
+
+if [ "${1:-}" = "--asan" ]; then
+    export ASAN_OPTIONS="detect_leaks=1:strict_string_checks=1:${ASAN_OPTIONS:-}"
+    export LSAN_OPTIONS="suppressions=$PWD/tests/leaks.supp:print_suppressions=0"
+    export UBSAN_OPTIONS="print_stacktrace=1"
+    run_tests asan
+else
+    run_tests release
+fi
