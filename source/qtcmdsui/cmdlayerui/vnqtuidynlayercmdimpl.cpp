@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 namespace vnsi {
@@ -115,6 +116,10 @@ bool VnQtUiDynLayerCmdImpl::initDialog()
     QBoxLayout* buttonRow = makeButtonRow();
     m_table = new VnQtLayerQTableWgt(this);
     m_table->setObjectName(QStringLiteral("layerTable"));
+    m_table->setTabKeyNavigation(false); // Tab goes on to the buttons.
+    // The table would take the key for a search by typing, so it never came up to the dialog.
+    m_deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), this);
+    m_deleteKey->setAutoRepeat(false);
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(currentRow);
@@ -188,6 +193,7 @@ void VnQtUiDynLayerCmdImpl::connectWidgets()
     connect(m_okButton, &QPushButton::clicked, this, &Self::slot_BtnOkClicked, once);
     connect(m_cancelButton, &QPushButton::clicked, this, &Self::slot_BtnCancelClicked, once);
     connect(m_applyButton, &QPushButton::clicked, this, &Self::slot_BtnApplyClicked, once);
+    connect(m_deleteKey, &QShortcut::activated, this, &Self::deleteByKey, once);
 }
 
 void VnQtUiDynLayerCmdImpl::setUpTable()
@@ -210,6 +216,7 @@ VnJsonPtr VnQtUiDynLayerCmdImpl::list() const
 void VnQtUiDynLayerCmdImpl::fill()
 {
     const int scrolledTo = m_table->verticalScrollBar()->value();
+    int cursor = m_table->currentRow();
     const VnJsonPtr layers = list();
     const int count = layers.ArrayCount();
     m_currentRow = -1;
@@ -220,6 +227,8 @@ void VnQtUiDynLayerCmdImpl::fill()
         records.emplace_back(layers(row));
         if (records.back().isCurrent())
             m_currentRow = row;
+        if (records.back().flag(layerkey::kSelected))
+            cursor = row;
     }
     m_cells.fill(*m_table, records, kColumns, kColumnCount);
 
@@ -233,6 +242,14 @@ void VnQtUiDynLayerCmdImpl::fill()
     }
     applyColumnWidths();
     m_table->verticalScrollBar()->setValue(scrolledTo);
+    moveCursor(cursor >= 0 ? cursor : m_currentRow);
+}
+
+/// Puts the keyboard's cursor on a row, and that into view, without selecting it.
+void VnQtUiDynLayerCmdImpl::moveCursor(int row)
+{
+    m_table->selectionModel()->setCurrentIndex(
+        m_table->model()->index(row, kName), QItemSelectionModel::NoUpdate);
 }
 
 void VnQtUiDynLayerCmdImpl::applyColumnWidths()
@@ -240,7 +257,7 @@ void VnQtUiDynLayerCmdImpl::applyColumnWidths()
     const VnJsonPtr widths = data() ? data()->GetDataJ(kColumnWidthList) : VnJsonPtr();
     const int count = std::min(widths.ArrayCount(), static_cast<int>(kColumnCount));
     for (int column = 0; column < count; ++column)
-        m_table->setColumnWidth(column, widths(column)->asI());
+        m_table->setColumnWidth(column, widths(column)->asI(m_table->columnWidth(column)));
 }
 
 void VnQtUiDynLayerCmdImpl::writeColumnWidths()
@@ -296,6 +313,11 @@ void VnQtUiDynLayerCmdImpl::keyPressEvent(QKeyEvent* event)
         QDialog::keyPressEvent(event);
         return;
     }
+    deleteByKey();
+}
+
+void VnQtUiDynLayerCmdImpl::deleteByKey()
+{
     deleteSelected();
     fill();
 }
@@ -371,7 +393,7 @@ void VnQtUiDynLayerCmdImpl::editColor(int row, LayerRecord& record)
 {
     const LayerColor color = record.color();
     VnJsonPtr tree = ElementValue::createObject(2);
-    tree->SetDataL("selectClr", color.value);
+    tree->SetDataL("selectClr", color.chosenValue());
     tree->set("isByLayerEnable", 0)
         .set("isByBLockEnable", 0)
         .set("clrMethod", static_cast<int>(color.method));

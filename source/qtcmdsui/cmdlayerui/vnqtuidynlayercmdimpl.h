@@ -7,6 +7,7 @@ class QBoxLayout;
 class QButtonGroup;
 class QLabel;
 class QPushButton;
+class QShortcut;
 
 namespace vnsi {
 
@@ -44,6 +45,7 @@ private:
 
     void setUpTable();
     void fill();
+    void moveCursor(int row);
     void applyColumnWidths();
     void writeColumnWidths();
     void writeSelection();
@@ -54,6 +56,7 @@ private:
     void editColor(int row, LayerRecord& record);
     void editTransparency(int row, LayerRecord& record);
 
+    void deleteByKey();
     void deleteSelected();
     void setSelectedCurrent();
     bool canBeCurrent(int row, Ask ask);
@@ -79,6 +82,7 @@ private:
     QPushButton* m_okButton = nullptr;
     QPushButton* m_cancelButton = nullptr;
     QPushButton* m_applyButton = nullptr;
+    QShortcut* m_deleteKey = nullptr;
     LayerCells m_cells;
     int m_currentRow = -1;
     bool m_renaming = false;
