@@ -124,7 +124,8 @@ public:
     static VnJsonPtr clone(const VnJsonPtr& node);
     /// The tree of a JSON text in UTF-8; empty when it is no JSON object or array.
     static VnJsonPtr fromJson(const OdAnsiString& json);
-    /// The tree as one line of JSON in UTF-8; "null" for an empty handle.
+    /// The tree as one line of JSON in UTF-8; "null" for an empty handle. Integers beyond 2^53 are
+    /// rounded, and what is nested deeper than 1024 containers is left out as null.
     static OdAnsiString toJson(const VnJsonPtr& node);
 };
 

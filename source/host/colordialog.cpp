@@ -110,6 +110,7 @@ void ColorDialog::readKeys(const vnsi::VnJsonPtr& tree)
     m_preview->setBackground(unpacked(tree->GetDataL("backgroundColor")));
     showColor(colorOf(tree));
     m_preview->setOld(chosen());
+    m_tabs->currentWidget()->setFocus();
 }
 
 void ColorDialog::writeAnswers(const vnsi::VnJsonPtr& tree, bool isAccepted) const

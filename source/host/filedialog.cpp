@@ -48,14 +48,13 @@ void FileDialog::readKeys(const vnsi::VnJsonPtr& tree)
     const QString title = firstText(tree, {"title", "caption"});
     setWindowTitle(!title.isEmpty() ? title : isOpening ? tr("选择文件") : tr("另存为"));
     setLabelText(FileName, tr("文件名(&N):"));
-    setLabelText(FileType, tr("文件类型(&T):"));
+    setLabelText(FileType, tr("文件类型:"));
     setLabelText(LookIn, tr("查找范围:"));
     setLabelText(Accept, isOpening ? tr("打开(&O)") : tr("保存(&S)"));
     setLabelText(Reject, tr("取消"));
 
     const QStringList filters = splitFilters(text(tree, "filter"));
-    if (!filters.isEmpty())
-        setNameFilters(filters);
+    setNameFilters(filters.isEmpty() ? QStringList{tr("所有文件 (*)")} : filters);
     const QString folder = text(tree, "dir");
     if (!folder.isEmpty())
         setDirectory(folder);

@@ -18,8 +18,8 @@ namespace {
 constexpr int kByBlock = 0;
 constexpr int kByLayer = 256;
 constexpr int kHues = 24;
-constexpr int kSmallSide = 14;
-constexpr int kLargeSide = 20;
+constexpr int kSmallSide = 20;
+constexpr int kLargeSide = 24;
 
 /// One column a hue: the full colours from dark to light in the upper half, the half saturated ones
 /// from light to dark in the lower.
@@ -88,6 +88,10 @@ IndexColorPage::IndexColorPage(QWidget* parent)
     connect(m_byLayer, &QPushButton::clicked, this, [this] { choose(kByLayer); });
     connect(m_byBlock, &QPushButton::clicked, this, [this] { choose(kByBlock); });
     connect(m_text, &QLineEdit::textEdited, this, &IndexColorPage::readText);
+    const QVector<QWidget*> order{m_grids[0], m_grids[1], m_byLayer, m_byBlock, m_grids[2], m_text};
+    for (int i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+    setFocusProxy(m_text);
     describe(-1);
 }
 
@@ -101,6 +105,7 @@ void IndexColorPage::setIndex(int index)
 {
     m_index = index;
     m_text->setText(index < 0 ? QString() : colorText(index));
+    m_text->selectAll();
     markGrids();
     describe(-1);
 }

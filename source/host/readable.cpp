@@ -3,7 +3,7 @@
 namespace host {
 
 namespace {
-constexpr int kLongestText = 3000;
+constexpr int kLongestText = 1500;
 constexpr int kLongestWord = 60;
 constexpr ushort kBreakAllowed = 0x200B;
 } // namespace

@@ -13,7 +13,7 @@
 namespace host {
 
 namespace {
-constexpr int kWidth = 380;
+constexpr int kWidth = 440;
 constexpr double kInstructionScale = 1.25;
 } // namespace
 

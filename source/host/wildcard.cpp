@@ -33,7 +33,7 @@ std::size_t Wildcard::bracketEnd(std::wstring_view pattern)
 Wildcard::Element Wildcard::bracket(std::wstring_view content)
 {
     Element element{Kind::OneOf, 0, {}};
-    if (content.size() > 1 && content.front() == L'~') {
+    if (content.front() == L'~') {
         element.kind = Kind::NoneOf;
         content.remove_prefix(1);
     }
