@@ -15,6 +15,11 @@ OdCmColor LayerColor::resolved() const
     return color;
 }
 
+OdInt64 LayerColor::chosenValue() const
+{
+    return method == OdCmEntityColor::kByACI ? static_cast<OdInt16>(value) : value;
+}
+
 LayerColor LayerRecord::color() const
 {
     if (!m_node)

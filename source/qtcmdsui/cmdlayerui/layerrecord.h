@@ -13,6 +13,8 @@ struct LayerColor
     OdInt64 method = 0;
     OdInt64 value = 0;
     OdCmColor resolved() const;
+    /// The value alone: of an index its low 16 bits, which are the ones that count.
+    OdInt64 chosenValue() const;
 };
 
 /// A view of one layer record. It shares the node, so what is written through it is in the list.
@@ -45,6 +47,9 @@ public:
     int status() const { return number(layerkey::kStatus); }
     void setStatus(int status) { setNumber(layerkey::kStatus, status); }
     bool isCurrent() const { return status() == kLayerCurrent; }
+    /// In a layer state the key reads the other way round: 1 is the current layer, 0 any other.
+    bool isCurrentOfState() const { return status() == 1; }
+    void setCurrentOfState(bool current) { setStatus(current ? 1 : 0); }
     bool isOff() const { return flag(layerkey::kOff); }
     bool dependsOnReference() const { return flag(layerkey::kDepend); }
     LayerColor color() const;
