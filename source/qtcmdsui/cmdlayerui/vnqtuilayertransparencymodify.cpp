@@ -35,6 +35,8 @@ void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
     m_value = new QComboBox(this);
     m_value->setObjectName(QStringLiteral("transparencyValue"));
     m_value->setEditable(true);
+    m_value->setCompleter(nullptr); // A typed 5 is 5, not completed to 50.
+    m_value->setInsertPolicy(QComboBox::NoInsert);
     for (unsigned value = 0; value <= kMost; value += kStep)
         m_value->addItem(QString::number(value));
     m_value->setEditText(QString::number(start));
