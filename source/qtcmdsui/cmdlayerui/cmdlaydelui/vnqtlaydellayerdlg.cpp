@@ -78,14 +78,16 @@ VnJsonPtr VnQtLaydelLayerDlg::layers() const
 
 bool VnQtLaydelLayerDlg::isReferencedInBlocks(const QSet<QString>& names)
 {
-    sendRequest({kAskBlocks, {kIsExistBlock}}, [&](IElementValueBase& tree) {
+    const auto markSelected = [&](IElementValueBase& tree) {
         const VnJsonPtr list = tree.GetDataJ(layerkey::kList);
         for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
             LayerRecord record(list(i));
             record.setFlag(kIsSelected, names.contains(vnutOdStringToQString(record.name())));
         }
-    });
-    return data() && data()->GetDataB(kIsExistBlock);
+    };
+    // Nobody to ask: what an earlier answer left in the tree does not count.
+    return sendRequest({kAskBlocks, {kIsExistBlock}}, markSelected) &&
+           data()->GetDataB(kIsExistBlock);
 }
 
 QString VnQtLaydelLayerDlg::question(bool inBlocks, int count, const QString& single) const
