@@ -34,9 +34,12 @@ bool acceptName(const QString& name)
     if (std::any_of(name.begin(), name.end(), isSpace) || holdsForbiddenCharacter(name))
         return refuse(L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  \\<>/\":;?*|,=`",
             L"图层-不支持的字符");
-    if (isTooLongForName(name))
-        return refuse(L"\n图层名最多只能包含 255 个字符。", L"图层名无效");
     return true;
+}
+
+bool acceptNewName(const QString& name)
+{
+    return !isTooLongForName(name) || refuse(L"\n图层名最多只能包含 255 个字符。", L"图层名无效");
 }
 
 } // namespace
@@ -107,7 +110,7 @@ void VnQtLaymchLayerDlg::slot_SureBtnClicked(bool)
         // The look-up ignores letter case and the marking does not; this is intended.
         layerlist::mark(layers(), {name}, kLayerTarget);
     } else {
-        if (!confirmNewLayer(name))
+        if (!acceptNewName(name) || !confirmNewLayer(name))
             return;
         markNewLayer(name);
     }
