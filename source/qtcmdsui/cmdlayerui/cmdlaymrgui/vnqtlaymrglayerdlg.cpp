@@ -52,7 +52,8 @@ void VnQtLaymrgLayerDlg::readTree()
 {
     const VnJsonPtr list = layers();
     const LayerRecord first(list(0));
-    m_sourceMode = first.flag("IsFrom");
+    if (!m_list) // The layout stands for one of the modes, so the first tree decides.
+        m_sourceMode = first.flag("IsFrom");
     m_blockReferences = first.number("blockrefcout"); // The key's agreed spelling.
     m_names.clear();
     m_sources.clear();
