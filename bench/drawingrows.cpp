@@ -1,0 +1,204 @@
+#include "drawing.h"
+#include "drawingfile.h"
+#include "rows.h"
+#include "stopwatch.h"
+
+#include <dxflib/dl_creationadapter.h>
+#include <dxflib/dl_dxf.h>
+
+#include <QFile>
+
+#include <algorithm>
+#include <cstring>
+
+#include <unistd.h>
+
+namespace bench {
+
+namespace {
+
+constexpr int kMegabytes = 20;
+
+/// The generated drawing; empty when it could not be written.
+QString drawingIn(const QString& folder)
+{
+    const QString path = folder + QStringLiteral("/drawing.dxf");
+    return QFile::exists(path) || writeDrawing(path, kMegabytes) ? path : QString();
+}
+
+tl::unexpected<QString> noDrawing(const QString& folder)
+{
+    return tl::make_unexpected(QStringLiteral("no drawing could be written in %1").arg(folder));
+}
+
+tl::expected<double, QString> openSeconds(const QString& path)
+{
+    drawing::Expected<std::unique_ptr<drawing::Drawing>> opened;
+    const double seconds = timed(Clock::Processor, [&] { opened = drawing::Drawing::open(path); });
+    if (!opened)
+        return tl::make_unexpected(opened.error().text);
+    return seconds;
+}
+
+using Counter = qint64 (*)(const char* bytes, qint64 size);
+
+qint64 countByStandardLibrary(const char* bytes, qint64 size)
+{
+    return std::count(bytes, bytes + size, '\n');
+}
+
+qint64 countByMemchr(const char* bytes, qint64 size)
+{
+    qint64 count = 0;
+    const char* const end = bytes + size;
+    while (const void* hit = std::memchr(bytes, '\n', static_cast<std::size_t>(end - bytes))) {
+        ++count;
+        bytes = static_cast<const char*>(hit) + 1;
+    }
+    return count;
+}
+
+/// Maps the file and counts its line ends; the file is mapped afresh, as opening it does.
+double countSeconds(const QString& path, Counter counter)
+{
+    qint64 count = 0;
+    const double seconds = timed(Clock::Processor, [&] {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return;
+        const auto* const bytes = reinterpret_cast<const char*>(file.map(0, file.size()));
+        count = bytes ? counter(bytes, file.size()) : 0;
+    });
+    return count > 0 ? seconds : 0;
+}
+
+struct LineEndCounter
+{
+    Counter count;
+    const char* name;
+};
+
+/// The faster of the two ways to count, on this machine and this file.
+LineEndCounter fasterCounter(const QString& path)
+{
+    constexpr LineEndCounter kCounters[] = {
+        {countByStandardLibrary, "counting its line ends by std::count, the faster way"},
+        {countByMemchr, "counting its line ends by memchr, the faster way"},
+    };
+    double best[std::size(kCounters)] = {1e9, 1e9};
+    for (int round = 0; round < 5; ++round) {
+        for (std::size_t i = 0; i < std::size(kCounters); ++i)
+            best[i] = std::min(best[i], countSeconds(path, kCounters[i].count));
+    }
+    return kCounters[best[0] <= best[1] ? 0 : 1];
+}
+
+tl::expected<Sides, QString> openAgainstCount(const QString& folder)
+{
+    const QString path = drawingIn(folder);
+    if (path.isEmpty())
+        return noDrawing(folder);
+    if (const auto opened = openSeconds(path); !opened)
+        return tl::make_unexpected(opened.error());
+    const LineEndCounter counter = fasterCounter(path);
+    return Sides{[path] { return *openSeconds(path); },
+        [path, counter] { return countSeconds(path, counter.count); },
+        QString::fromUtf8(counter.name)};
+}
+
+tl::expected<Sides, QString> openAgainstReader(const QString& folder)
+{
+    const QString path = drawingIn(folder);
+    if (path.isEmpty())
+        return noDrawing(folder);
+    if (const auto opened = openSeconds(path); !opened)
+        return tl::make_unexpected(opened.error());
+    return Sides{[path] { return *openSeconds(path); },
+        [path] {
+            return timed(Clock::Processor, [&] {
+                DL_CreationAdapter keepsNothing;
+                DL_Dxf().in(path.toStdString(), &keepsNothing);
+            });
+        },
+        QStringLiteral("dxflib, keeping nothing")};
+}
+
+/// Copies a file and waits until the copy is on the disk, as saving does.
+double copySeconds(const QString& from, const QString& to)
+{
+    QFile::remove(to);
+    return timed(Clock::Wall, [&] {
+        QFile::copy(from, to);
+        QFile copy(to);
+        if (copy.open(QIODevice::ReadWrite))
+            fsync(copy.handle());
+    });
+}
+
+/// An open drawing that is saved again and again, with one layer changed each time.
+class Saver
+{
+public:
+    static tl::expected<std::shared_ptr<Saver>, QString> open(const QString& path)
+    {
+        auto opened = drawing::Drawing::open(path);
+        if (!opened)
+            return tl::make_unexpected(opened.error().text);
+        return std::make_shared<Saver>(std::move(*opened));
+    }
+    explicit Saver(std::unique_ptr<drawing::Drawing> opened) : m_drawing(std::move(opened)) {}
+
+    /// Seconds of saving; 0 when the change or the saving was refused.
+    double save()
+    {
+        const drawing::Layer layer = m_drawing->layers().back();
+        drawing::LayerProperties changed = layer.properties;
+        changed.off = !changed.off;
+        m_drawing->beginStep(QStringLiteral("off"));
+        const bool isChanged = m_drawing->setLayerProperties(layer.id, changed).has_value();
+        m_drawing->commitStep();
+        bool isSaved = false;
+        const double seconds =
+            timed(Clock::Wall, [&] { isSaved = m_drawing->save(m_drawing->path()).has_value(); });
+        return isChanged && isSaved ? seconds : 0;
+    }
+
+private:
+    std::unique_ptr<drawing::Drawing> m_drawing;
+};
+
+tl::expected<Sides, QString> saveAgainstCopy(const QString& folder)
+{
+    const QString original = drawingIn(folder);
+    const QString path = folder + QStringLiteral("/saved.dxf");
+    const QString copied = folder + QStringLiteral("/copied.dxf");
+    QFile::remove(path);
+    if (original.isEmpty() || !QFile::copy(original, path))
+        return noDrawing(folder);
+    const auto opened = Saver::open(path);
+    if (!opened)
+        return tl::make_unexpected(opened.error());
+    const std::shared_ptr<Saver> saver = *opened;
+    if (saver->save() <= 0)
+        return tl::make_unexpected(QStringLiteral("the drawing could not be saved"));
+    return Sides{[saver] { return saver->save(); },
+        [original, copied] { return copySeconds(original, copied); },
+        QStringLiteral("QFile::copy, then fsync")};
+}
+
+} // namespace
+
+std::vector<Row> drawingRows(const QString& folder)
+{
+    using Kind = Budget::Kind;
+    return {
+        {"open/line_ends", "open a drawing of 20 MB", "processor", {Kind::AtMostTimes, 6}, 31, 7,
+            [folder] { return openAgainstCount(folder); }},
+        {"open/dxflib", "open a drawing of 20 MB", "processor", {}, 5, 2,
+            [folder] { return openAgainstReader(folder); }},
+        {"save/copy", "save it after one layer changed", "wall", {Kind::AtMostTimes, 2}, 31, 7,
+            [folder] { return saveAgainstCopy(folder); }},
+    };
+}
+
+} // namespace bench
