@@ -2,6 +2,7 @@
 
 #include "drawingdata.h"
 #include "drawingloader.h"
+#include "entityedits.h"
 #include "filewriter.h"
 #include "layeredits.h"
 #include "references.h"
@@ -195,6 +196,31 @@ Expected<void> Drawing::setCurrentLayer(LayerId id)
     return readyToEdit().and_then([&] { return LayerEdits(d->data).setCurrent(id); });
 }
 
+Expected<int> Drawing::moveEntities(const std::vector<int>& entities, LayerId target)
+{
+    return readyToEdit().and_then([&] { return EntityEdits(d->data).move(entities, target); });
+}
+
+Expected<void> Drawing::mergeLayers(const std::vector<LayerId>& sources, LayerId target)
+{
+    return readyToEdit().and_then([&] { return EntityEdits(d->data).merge(sources, target); });
+}
+
+Expected<void> Drawing::deleteLayers(const std::vector<LayerId>& layers)
+{
+    return readyToEdit().and_then([&] { return EntityEdits(d->data).removeLayers(layers); });
+}
+
+bool Drawing::isReferencedInBlocks(const std::vector<LayerId>& layers) const
+{
+    return EntityEdits(d->data).isReferencedInBlocks(layers);
+}
+
+int Drawing::countBlockReferences(const std::vector<LayerId>& layers) const
+{
+    return EntityEdits(d->data).countBlockReferences(layers);
+}
+
 QStringList Drawing::takeNotices()
 {
     QStringList notices = d->data.leftOut.sentences();
@@ -240,7 +266,7 @@ void Drawing::publishStep()
     if (!d->stepChanged())
         return;
     d->stepIsPublished = true;
-    announce(true, false);
+    announce(true, !d->data.entityChanges.empty());
 }
 
 bool Drawing::inStep() const

@@ -56,6 +56,7 @@ public:
     LayerId currentLayer() const;
 
     /// All entities: those of the block definitions and of the ENTITIES section, in file order.
+    /// Deleted ones stay in their places, marked as removed.
     const std::vector<Entity>& entities() const;
     const std::vector<Block>& blocks() const;
     const Block* findBlock(const QString& name) const; ///< Without regard to letter case.
@@ -77,6 +78,25 @@ public:
     /// layer states, frozen layers of viewports) forgets it.
     Expected<void> removeLayer(LayerId id);
     Expected<void> setCurrentLayer(LayerId id);
+    /// Puts entities, by their indices, on a layer; returns how many came from another one. What
+    /// follows an entity (vertices, attributes, end marks) comes along where it was on the entity's
+    /// layer and stays where it was not; the index of a part stands for the whole. Refuses a target
+    /// that depends on a reference.
+    Expected<int> moveEntities(const std::vector<int>& entities, LayerId target);
+    /// Puts everything on the sources, in layouts and blocks too, on the target and removes the
+    /// sources; what names them names the target then. Layer states and viewports forget them.
+    /// Refuses layer 0, the current layer, layers that depend on a reference and the target itself
+    /// as sources, and a target that depends on a reference.
+    Expected<void> mergeLayers(const std::vector<LayerId>& sources, LayerId target);
+    /// Removes layers with the entities on them in model space, layouts and blocks, and all that
+    /// refers to either. Parts on them of entities that stay: attributes go, vertices and end marks
+    /// come to their entity's layer; a sheet's own viewport comes to layer 0. Refuses layer 0, the
+    /// current layer and layers that depend on a reference.
+    Expected<void> deleteLayers(const std::vector<LayerId>& layers);
+    /// Whether anything inside a block definition, layouts left out, is on one of these layers.
+    bool isReferencedInBlocks(const std::vector<LayerId>& layers) const;
+    /// How many block references place a definition that has something on one of these layers.
+    int countBlockReferences(const std::vector<LayerId>& layers) const;
     /// What edits since the last call had to leave out, a sentence each: the file's version may
     /// have no place for lineweights, true colours or the plot flag.
     QStringList takeNotices();

@@ -48,6 +48,15 @@ std::string_view DrawingData::lineAt(qint64 offset) const
     return {begin, static_cast<size_t>(end - begin)};
 }
 
+void DrawingData::changeEntity(size_t entity, LayerId layer, bool removed)
+{
+    Entity& changed = index.entities[entity];
+    entityChanges.push_back(
+        {static_cast<int>(entity), {changed.layer, changed.removed}, {layer, removed}});
+    changed.layer = layer;
+    changed.removed = removed;
+}
+
 const ObjectPlace* DrawingData::objectByHandle(quint64 handle)
 {
     if (!handles)

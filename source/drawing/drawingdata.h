@@ -32,12 +32,18 @@ inline bool operator==(const DocumentState& a, const DocumentState& b)
            a.newAppIds == b.newAppIds;
 }
 
-/// An entity that changed its layer.
+/// An entity that changed its layer, or went.
 struct EntityChange
 {
+    struct State
+    {
+        LayerId layer = LayerId::None;
+        bool removed = false;
+    };
+
     int entity = 0;
-    LayerId before = LayerId::None;
-    LayerId after = LayerId::None;
+    State before;
+    State after;
 };
 
 /// What edits had to leave out because the file's version has no place for it.
@@ -95,6 +101,8 @@ struct DrawingData
     }
     /// The line that begins at this offset, without its line end.
     std::string_view lineAt(qint64 offset) const;
+    /// Puts an entity on `layer`, or marks it as gone, as part of the open step.
+    void changeEntity(size_t entity, LayerId layer, bool removed);
     /// Null when there is no such object. The index of handles is made at the first call.
     const ObjectPlace* objectByHandle(quint64 handle);
     /// Name of the plot style of a layer with this colour index, 1..255, and plot style handle.

@@ -45,6 +45,7 @@ struct Entity
     EntityKind kind = EntityKind::Other;
     bool paperSpace = false; ///< Group 67 = 1; meaningful in the ENTITIES section.
     bool subEntity = false;  ///< Follows an owner; does not count as an entity of its own.
+    bool removed = false; ///< Deleted; it keeps its place, so that indices of entities stay good.
 };
 
 /// A block definition: its entities are `entities[first .. first + count)`.

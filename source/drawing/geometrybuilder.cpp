@@ -58,7 +58,7 @@ Expected<Geometry> GeometryBuilder::build()
         if (i % 256 == 0 && !goOn(i, entities.size()))
             return tl::unexpected(
                 Error{QCoreApplication::translate("Geometry", "已取消。"), 0, true});
-        if (entity.block >= 0 || entity.paperSpace || entity.subEntity)
+        if (entity.block >= 0 || entity.paperSpace || entity.subEntity || entity.removed)
             continue;
         definition.clear();
         m_reader.read(i, false, definition);
@@ -89,7 +89,10 @@ const Definition& GeometryBuilder::definitionOf(int block)
     const Block& source = m_drawing.blocks()[static_cast<std::size_t>(block)];
     for (int i = source.first; i < source.first + source.count; ++i) {
         const auto index = static_cast<std::size_t>(i);
-        if (index < m_drawing.entities().size() && !m_drawing.entities()[index].subEntity)
+        if (index >= m_drawing.entities().size())
+            break;
+        const Entity& entity = m_drawing.entities()[index];
+        if (!entity.subEntity && !entity.removed)
             m_reader.read(index, true, *known);
     }
     return *known;

@@ -496,6 +496,8 @@ void EntityReader::attributes()
     m_owner = entities[m_index].layer;
     while (m_index + 1 < entities.size() && entities[m_index + 1].subEntity) {
         ++m_index;
+        if (entities[m_index].removed)
+            continue;
         m_tags.load(m_drawing.tags(entities[m_index]));
         if (m_tags.type() == "ATTRIB" && m_tags.integer(60) != 1)
             attribute();

@@ -34,6 +34,7 @@ private:
     void rewriteState(TagList& tags) const;
     void rewriteFilter(TagList& tags) const;
     void rewriteGroup(TagList& tags) const;
+    QString keyAt(const TagList& tags, int at) const;
     bool renameAt(TagList& tags, int at) const;
     QString renamedPattern(const QString& pattern) const;
     void forgetAt(TagList& tags, int at) const;
@@ -76,33 +77,39 @@ void ObjectUpdate::rewrite(const ObjectPlace& object, Rewrite how) const
         m_data.journal.replace(object.begin, object.end, after);
 }
 
+/// The name at this tag as a key.
+QString ObjectUpdate::keyAt(const TagList& tags, int at) const
+{
+    return m_data.codec.decode(tags.trimmed(at)).toCaseFolded();
+}
+
 bool ObjectUpdate::renameAt(TagList& tags, int at) const
 {
-    const QString key = m_data.codec.decode(tags.trimmed(at)).toCaseFolded();
-    const auto renamed = m_renames.newNames.constFind(key);
+    const auto renamed = m_renames.newNames.constFind(keyAt(tags, at));
     if (renamed == m_renames.newNames.constEnd())
         return false;
     tags.setValue(at, m_data.codec.encode(*renamed));
     return true;
 }
 
-/// The current layer of a state may not be one that is gone.
+/// The current layer of a state may not be one that is gone: its heir takes its place, or layer 0.
 void ObjectUpdate::forgetAt(TagList& tags, int at) const
 {
-    if (m_renames.removedNames.contains(m_data.codec.decode(tags.trimmed(at)).toCaseFolded()))
-        tags.setValue(at, "0");
+    const QString key = keyAt(tags, at);
+    if (m_renames.removedNames.contains(key))
+        tags.setValue(at, m_data.codec.encode(m_renames.heirs.value(key, QStringLiteral("0"))));
 }
 
-/// The new name of a layer as a pattern, where `pattern` is a name and that layer got a new one.
+/// The new name of a layer as a pattern, where `pattern` is a name and that layer got a new one or
+/// was merged.
 QString ObjectUpdate::renamedPattern(const QString& pattern) const
 {
     const QLatin1Char escape('`');
     const QString name = QString(pattern).remove(escape);
-    const auto renamed = m_renames.newNames.constFind(name.toCaseFolded());
-    if (renamed == m_renames.newNames.constEnd())
-        return {};
+    const QString key = name.toCaseFolded();
+    const QString renamed = m_renames.newNames.value(key, m_renames.heirs.value(key));
     QString escaped;
-    for (const QChar c : *renamed) {
+    for (const QChar c : renamed) {
         if (QStringLiteral("#@[]~").contains(c))
             escaped += escape;
         escaped += c;
@@ -114,16 +121,38 @@ bool ObjectUpdate::isRemoved(const TagList& tags, int at) const
 {
     if (tags.code(at) == 330)
         return m_renames.removedHandles.contains(tags.handle(at));
-    const QString key = m_data.codec.decode(tags.trimmed(at)).toCaseFolded();
-    return tags.code(at) == 8 && m_renames.removedNames.contains(key);
+    return tags.code(at) == 8 && m_renames.removedNames.contains(keyAt(tags, at));
 }
 
+/// A list of layers: what belongs to one runs from its name to the next name. An heir that is not
+/// listed itself takes the place of a merged layer.
 void ObjectUpdate::rewriteList(TagList& tags) const
 {
+    std::vector<int> keep;
+    QSet<QString> listed;
     for (int at = 0; at < tags.size(); ++at) {
         if (tags.code(at) == 8)
-            renameAt(tags, at);
+            listed.insert(keyAt(tags, at));
     }
+    bool isKept = true;
+    for (int at = 0; at < tags.size(); ++at) {
+        const int code = tags.code(at);
+        if (code == 8) {
+            const QString key = keyAt(tags, at);
+            const QString heir = m_renames.heirs.value(key).toCaseFolded();
+            isKept = !m_renames.removedNames.contains(key) ||
+                     (!heir.isEmpty() && !listed.contains(heir));
+            if (isKept && !renameAt(tags, at))
+                forgetAt(tags, at);
+            listed.insert(heir);
+        }
+        isKept = isKept || code == 100 || code == 1001;
+        if (isKept)
+            keep.push_back(at);
+        else if (code == 360)
+            removeOwnedObjects(m_data, tags.handle(at));
+    }
+    tags.keepOnly(keep);
 }
 
 /// A layer state: a layer's tags run from its handle or name to the next layer's.

@@ -9,6 +9,7 @@ struct LayerRenames
 {
     QHash<QString, QString> newNames; ///< By the folded old name.
     QSet<QString> removedNames;       ///< Folded.
+    QHash<QString, QString> heirs;    ///< Of merged layers: names by the folded old name.
     QSet<quint64> removedHandles;
 };
 

@@ -17,7 +17,9 @@ struct LayerEntry
     EditPlace place; ///< Of the record: a range of the file, or an insertion.
     qint64 end = -1; ///< Of the record's range; the insertion's place itself.
     quint64 handle = 0;
-    quint64 plotStyle = 0;  ///< Handle of its plot style name object.
+    quint64 plotStyle = 0; ///< Handle of its plot style name object.
+    /// Of a layer that is gone: the layer it was merged into; None when it was deleted.
+    LayerId heir = LayerId::None;
     bool hasRecord = false; ///< Layers that only entities name have none.
     bool present = false;   ///< False when deleted, or not added yet.
 };

@@ -1,5 +1,6 @@
 #include "references.h"
 
+#include "entityeditsbytes.h"
 #include "handles.h"
 #include "layerobjects.h"
 #include "symboltables.h"
@@ -23,12 +24,20 @@ public:
     void updateObjects();
 
 private:
+    /// What becomes of the name of a layer in this step.
+    struct Fate
+    {
+        LayerId layer = LayerId::None; ///< Itself, or the one that what named it goes to.
+        QByteArray name;               ///< Null where nothing changes.
+    };
+
+    void follow(const std::vector<char>& changed);
     void rename(qint64 value, const QByteArray& name);
     ByteRange viewportTag(qint64 value) const;
-    const QByteArray& newName(LayerId id) const { return m_names[static_cast<size_t>(id)]; }
+    const Fate& fate(LayerId id) const { return m_fates[static_cast<size_t>(id)]; }
 
     DrawingData& m_data;
-    std::vector<QByteArray> m_names; // By layer id; null where nothing changes.
+    std::vector<Fate> m_fates; // By layer id.
     LayerRenames m_renames;
     std::vector<ByteRange> m_removedRecords;
 };
@@ -36,27 +45,67 @@ private:
 /// Finds out what changed; false when no place can be touched by it.
 bool ReferenceUpdate::collect()
 {
-    m_names.resize(static_cast<size_t>(m_data.layers.entryCount()));
-    bool any = false;
+    std::vector<char> changed(static_cast<size_t>(m_data.layers.entryCount()));
+    std::vector<const LayerChange*> removals;
     for (const LayerChange& change : m_data.layers.changes()) {
         const QString& oldName = change.before.layer.properties.name;
         const QString& name = change.after.layer.properties.name;
         const bool removed = change.before.present && !change.after.present;
         if (!change.before.present || (!removed && oldName == name))
             continue;
-        any = true;
-        m_names[static_cast<size_t>(change.id)] = removed ? "0" : m_data.codec.encode(name);
-        if (!removed) {
+        changed[static_cast<size_t>(change.id)] = true;
+        if (removed)
+            removals.push_back(&change);
+        else
             m_renames.newNames.insert(oldName.toCaseFolded(), name);
-            continue;
-        }
-        m_renames.removedNames.insert(oldName.toCaseFolded());
-        if (change.before.handle != 0)
-            m_renames.removedHandles.insert(change.before.handle);
-        if (change.before.hasRecord && change.before.place.order == EditPlace::kReplacement)
-            m_removedRecords.push_back({change.before.place.begin, change.before.end});
     }
-    return any;
+    if (removals.empty() && m_renames.newNames.isEmpty())
+        return false;
+    follow(changed);
+    for (const LayerChange* removal : removals) {
+        const LayerEntry& before = removal->before;
+        const QString key = before.layer.properties.name.toCaseFolded();
+        m_renames.removedNames.insert(key);
+        if (removal->after.heir != LayerId::None)
+            m_renames.heirs.insert(
+                key, m_data.layers.entry(fate(removal->id).layer).layer.properties.name);
+        if (before.handle != 0)
+            m_renames.removedHandles.insert(before.handle);
+        if (before.hasRecord && before.place.order == EditPlace::kReplacement)
+            m_removedRecords.push_back({before.place.begin, before.end});
+    }
+    return true;
+}
+
+/// Follows every layer over those it was merged into, in this step and before, to one that is
+/// there.
+void ReferenceUpdate::follow(const std::vector<char>& changed)
+{
+    const LayerId zero = m_data.layers.find(QStringLiteral("0"))->id;
+    m_fates.resize(changed.size());
+    std::vector<size_t> path;
+    for (size_t id = 0; id < m_fates.size(); ++id) {
+        size_t at = id;
+        while (m_fates[at].layer == LayerId::None) {
+            const LayerEntry& entry = m_data.layers.entry(static_cast<LayerId>(at));
+            if (entry.present) {
+                m_fates[at].layer = static_cast<LayerId>(at);
+                if (changed[at])
+                    m_fates[at].name = m_data.codec.encode(entry.layer.properties.name);
+                break;
+            }
+            path.push_back(at);
+            at = static_cast<size_t>(entry.heir != LayerId::None ? entry.heir : zero);
+        }
+        for (; !path.empty(); path.pop_back()) {
+            const size_t gone = path.back();
+            m_fates[gone] = m_fates[at];
+            if (changed[gone] && m_fates[gone].name.isNull())
+                m_fates[gone].name = m_data.codec.encode(
+                    m_data.layers.entry(m_fates[at].layer).layer.properties.name);
+            at = gone;
+        }
+    }
 }
 
 void ReferenceUpdate::rename(qint64 value, const QByteArray& name)
@@ -68,25 +117,21 @@ void ReferenceUpdate::rename(qint64 value, const QByteArray& name)
 
 void ReferenceUpdate::updateEntities()
 {
-    const LayerId zero = m_data.layers.find(QStringLiteral("0"))->id;
-    std::vector<Entity>& entities = m_data.index.entities;
+    const std::vector<Entity>& entities = m_data.index.entities;
     for (size_t i = 0; i < entities.size(); ++i) {
-        Entity& entity = entities[i];
-        const QByteArray& name = newName(entity.layer);
-        if (name.isNull())
+        const Fate& fate = this->fate(entities[i].layer);
+        if (fate.name.isNull() || entities[i].removed)
             continue;
-        rename(entity.begin + m_data.index.layerNameAt[i], name);
-        if (m_data.layers.entry(entity.layer).present)
-            continue;
-        m_data.entityChanges.push_back({static_cast<int>(i), entity.layer, zero});
-        entity.layer = zero;
+        writeLayerName(m_data, i, fate.name);
+        if (fate.layer != entities[i].layer)
+            m_data.changeEntity(i, fate.layer, false);
     }
 }
 
 void ReferenceUpdate::updateNamePlaces()
 {
     for (const LayerNamePlace& place : m_data.namePlaces) {
-        const QByteArray& name = newName(place.layer);
+        const QByteArray& name = fate(place.layer).name;
         if (name.isNull())
             continue;
         const bool isRemoved = !m_data.layers.entry(place.layer).present;
@@ -99,7 +144,7 @@ void ReferenceUpdate::updateNamePlaces()
 }
 
 /// The tag of this value, where it stands in a viewport: its XDATA list the layers frozen in it, so
-/// layer 0 must not take a deleted layer's place there.
+/// no other layer may take a deleted one's place there.
 ByteRange ReferenceUpdate::viewportTag(qint64 value) const
 {
     const std::vector<Entity>& entities = m_data.index.entities;
@@ -119,7 +164,7 @@ ByteRange ReferenceUpdate::viewportTag(qint64 value) const
 
 void ReferenceUpdate::updateCurrentLayer()
 {
-    if (!newName(m_data.state.current).isNull())
+    if (!fate(m_data.state.current).name.isNull())
         SymbolTables(m_data).writeCurrentLayer();
 }
 

@@ -11,9 +11,19 @@ void UndoStep::apply(DrawingData& data, bool forward) const
 {
     data.journal.apply(edits, forward);
     data.layers.apply(layers, forward);
-    for (const EntityChange& change : entities)
-        data.index.entities[static_cast<size_t>(change.entity)].layer =
-            forward ? change.after : change.before;
+    const auto put = [&data](int index, const EntityChange::State& state) {
+        Entity& entity = data.index.entities[static_cast<size_t>(index)];
+        entity.layer = state.layer;
+        entity.removed = state.removed;
+    };
+    // An entity may have changed more than once.
+    if (forward) {
+        for (const EntityChange& change : entities)
+            put(change.entity, change.after);
+    } else {
+        for (auto change = entities.rbegin(); change != entities.rend(); ++change)
+            put(change->entity, change->before);
+    }
     data.state = forward ? after : before;
 }
 

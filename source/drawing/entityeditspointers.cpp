@@ -1,0 +1,301 @@
+#include "entityeditspointers.h"
+
+#include <algorithm>
+
+namespace drawing {
+
+namespace {
+
+bool isPointer(int code)
+{
+    return (code >= 320 && code <= 369) || (code >= 390 && code <= 399) || code == 480 ||
+           code == 481 || code == 1005;
+}
+
+bool isType(const std::vector<Tag>& tags, std::string_view type)
+{
+    return !tags.empty() && tags.front().trimmed() == type;
+}
+
+} // namespace
+
+/// Pointers that go with their tag, and what goes along. Any other pointer becomes the null handle.
+struct PointerRemoval::Rule
+{
+    enum With { Alone, TagBefore, TagBehind };
+
+    std::string_view type;
+    int code;
+    With with;
+};
+
+const PointerRemoval::Rule PointerRemoval::kRules[] = {
+    {"DICTIONARY", 350, Rule::TagBefore},
+    {"DICTIONARY", 360, Rule::TagBefore},
+    {"ACDBDICTIONARYWDFLT", 350, Rule::TagBefore},
+    {"ACDBDICTIONARYWDFLT", 360, Rule::TagBefore},
+    {"GROUP", 340, Rule::Alone},
+    {"IDBUFFER", 330, Rule::Alone},
+    {"SORTENTSTABLE", 331, Rule::TagBehind},
+    {"VIEWPORT", 340, Rule::Alone},
+    {"LEADER", 340, Rule::Alone},
+};
+
+/// What else of an entity says that the pointer is there.
+struct PointerRemoval::Flag
+{
+    std::string_view type;
+    int pointer;
+    int code;
+    qint64 kept; ///< Bits of the old value.
+    qint64 set;  ///< Bits set besides.
+};
+
+const PointerRemoval::Flag PointerRemoval::kFlags[] = {
+    {"VIEWPORT", 340, 90, ~qint64(0x10000), 0}, // Clipped by an entity.
+    {"LEADER", 340, 73, 0, 3},                  // The kind of its annotation: none.
+    {"HATCH", 330, 71, 0, 0},                   // Follows its boundary.
+};
+
+void PointerRemoval::addEntity(size_t entity)
+{
+    const Entity& place = m_data.index.entities[entity];
+    TagReader tags = m_data.tags({place.begin, place.end});
+    Tag tag;
+    while (tags.next(tag) && tag.code != 5) {
+    }
+    if (tag.code != 5 || tag.toHandle() == 0)
+        return;
+    m_gone.insert(tag.toHandle());
+    m_open.push_back(tag.toHandle());
+    addOwned({place.begin, place.end}, false);
+}
+
+void PointerRemoval::addOwned(const ByteRange& range, bool isDictionary)
+{
+    TagReader tags = m_data.tags(range);
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == 360 || (tag.code == 350 && isDictionary))
+            addObject(m_data.objectByHandle(tag.toHandle()));
+    }
+}
+
+void PointerRemoval::addObject(const ObjectPlace* object)
+{
+    if (!object || !m_gone.insert(object->handle).second)
+        return;
+    m_open.push_back(object->handle);
+    m_objectGoes.resize(m_data.index.objects.size());
+    m_objectGoes[static_cast<size_t>(object - m_data.index.objects.data())] = true;
+}
+
+/// Objects that go with another one: those it owns, and what ties a dimension to what it measures.
+void PointerRemoval::findDependents()
+{
+    for (const ObjectPlace& object : m_data.index.objects) {
+        TagReader tags = m_data.tags({object.begin, object.end});
+        Tag tag;
+        const bool isTie = tags.next(tag) && tag.trimmed() == "DIMASSOC";
+        bool inGroup = false;
+        while (tags.next(tag) && (isTie || tag.code != 100)) {
+            if (tag.code == 102)
+                inGroup = tag.trimmed() != "}";
+            const bool isOwner = tag.code == 330;
+            if (!inGroup && (isOwner || (isTie && (tag.code == 331 || tag.code == 332))))
+                m_dependents.emplace(tag.toHandle(), &object);
+        }
+    }
+}
+
+void PointerRemoval::addDependents()
+{
+    while (!m_open.empty()) {
+        const quint64 handle = m_open.back();
+        m_open.pop_back();
+        if (const ObjectPlace* object = m_data.objectByHandle(handle))
+            addOwned({object->begin, object->end}, object->kind == ObjectKind::Dictionary);
+        const auto [from, to] = m_dependents.equal_range(handle);
+        for (auto dependent = from; dependent != to; ++dependent)
+            addObject(dependent->second);
+    }
+}
+
+void PointerRemoval::run()
+{
+    if (m_gone.empty())
+        return;
+    m_objectGoes.resize(m_data.index.objects.size());
+    findDependents();
+    addDependents();
+    for (const Entity& entity : m_data.index.entities) {
+        if (!entity.removed)
+            clean({entity.begin, entity.end});
+    }
+    for (const TablePlace& table : m_data.index.tables) {
+        for (const ByteRange& record : table.records)
+            clean(record);
+    }
+    for (size_t i = 0; i < m_objectGoes.size(); ++i) {
+        const ObjectPlace& object = m_data.index.objects[i];
+        if (m_objectGoes[i])
+            m_data.journal.replace(object.begin, object.end, {});
+        else
+            clean({object.begin, object.end});
+    }
+}
+
+bool PointerRemoval::pointsAtGone(const Tag& tag) const
+{
+    return isPointer(tag.code) && m_gone.count(tag.toHandle()) != 0;
+}
+
+bool PointerRemoval::touches(const ByteRange& range) const
+{
+    TagReader tags = m_data.tags(range);
+    Tag tag;
+    while (tags.next(tag)) {
+        if (pointsAtGone(tag))
+            return true;
+    }
+    return false;
+}
+
+void PointerRemoval::clean(const ByteRange& range)
+{
+    if (!touches(range))
+        return;
+    m_tags.clear();
+    TagReader tags = m_data.tags(range);
+    Tag tag;
+    while (tags.next(tag))
+        m_tags.push_back(tag);
+    readGroups();
+    for (size_t at = 0; at < m_tags.size(); ++at) {
+        if (pointsAtGone(m_tags[at]) && !isErased(m_tags[at]))
+            drop(at);
+    }
+}
+
+void PointerRemoval::readGroups()
+{
+    m_groupHead.assign(m_tags.size(), -1);
+    int head = -1;
+    for (size_t at = 0; at < m_tags.size(); ++at) {
+        const Tag& tag = m_tags[at];
+        if (tag.code == 100)
+            head = -1;
+        else if (tag.code == 102 && tag.trimmed() != "}")
+            head = static_cast<int>(at);
+        m_groupHead[at] = head;
+        if (tag.code == 102 && tag.trimmed() == "}")
+            head = -1;
+    }
+}
+
+void PointerRemoval::drop(size_t at)
+{
+    const int code = m_tags[at].code;
+    if (m_groupHead[at] >= 0) {
+        dropFromGroup(at);
+        return;
+    }
+    const auto* const rule =
+        std::find_if(std::begin(kRules), std::end(kRules), [this, code](const Rule& candidate) {
+            return candidate.code == code && isType(m_tags, candidate.type);
+        });
+    if (rule != std::end(kRules)) {
+        erase(at);
+        if (rule->with == Rule::TagBefore)
+            erase(at - 1);
+        else if (rule->with == Rule::TagBehind && at + 1 < m_tags.size())
+            erase(at + 1);
+    } else if (!dropCounted(at)) {
+        write(m_tags[at], "0");
+    }
+    settleFlags(code);
+}
+
+/// A group without contents goes as a whole.
+void PointerRemoval::dropFromGroup(size_t at)
+{
+    erase(at);
+    const int head = m_groupHead[at];
+    size_t end = static_cast<size_t>(head) + 1;
+    while (end < m_tags.size() && m_groupHead[end] == head && m_tags[end].code != 102) {
+        if (!isErased(m_tags[end]))
+            return;
+        ++end;
+    }
+    if (end == m_tags.size() || m_groupHead[end] != head)
+        return;
+    erase(static_cast<size_t>(head));
+    erase(end);
+}
+
+/// Drops what goes from a list of handles that stands behind its length; false when this is none.
+bool PointerRemoval::dropCounted(size_t at)
+{
+    const int code = m_tags[at].code;
+    size_t first = at;
+    while (first > 0 && m_tags[first - 1].code == code)
+        --first;
+    size_t end = at + 1;
+    while (end < m_tags.size() && m_tags[end].code == code)
+        ++end;
+    const bool isCounted = first > 0 &&
+                           (m_tags[first - 1].code == 97 || m_tags[first - 1].code == 90) &&
+                           m_tags[first - 1].toInteger() == static_cast<qint64>(end - first);
+    if (!isCounted)
+        return false;
+    int dropped = 0;
+    for (size_t i = first; i < end; ++i) {
+        if (!pointsAtGone(m_tags[i]) || isErased(m_tags[i]))
+            continue;
+        erase(i);
+        ++dropped;
+    }
+    settleCount(first - 1, dropped);
+    return true;
+}
+
+void PointerRemoval::settleCount(size_t at, int dropped)
+{
+    const Tag& count = m_tags[at];
+    const auto end = count.valueBegin + static_cast<qint64>(count.value.size());
+    const qint64 old = m_data.journal.current(count.valueBegin, end).trimmed().toLongLong();
+    write(count, QByteArray::number(old - dropped));
+}
+
+void PointerRemoval::settleFlags(int code)
+{
+    for (const Flag& flag : kFlags) {
+        if (flag.pointer != code || !isType(m_tags, flag.type))
+            continue;
+        const auto tag = std::find_if(m_tags.begin(), m_tags.end(),
+            [&flag](const Tag& candidate) { return candidate.code == flag.code; });
+        if (tag != m_tags.end())
+            write(*tag, QByteArray::number((tag->toInteger() & flag.kept) | flag.set));
+    }
+}
+
+void PointerRemoval::erase(size_t at)
+{
+    m_data.journal.replace(m_tags[at].begin, m_tags[at].end, {});
+}
+
+/// Keeps the width of a number it replaces.
+void PointerRemoval::write(const Tag& tag, QByteArray value)
+{
+    if (!tag.value.empty() && tag.value.front() == ' ')
+        value = value.rightJustified(static_cast<int>(tag.value.size()));
+    m_data.journal.replace(
+        tag.valueBegin, tag.valueBegin + static_cast<qint64>(tag.value.size()), value);
+}
+
+bool PointerRemoval::isErased(const Tag& tag) const
+{
+    return m_data.journal.current(tag.begin, tag.end).isEmpty();
+}
+
+} // namespace drawing

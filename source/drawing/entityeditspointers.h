@@ -1,0 +1,55 @@
+#pragma once
+
+#include "drawingdata.h"
+
+#include <unordered_map>
+#include <unordered_set>
+
+namespace drawing {
+
+/// Takes out what points at entities that go: objects that only they owned or that only tell of
+/// them, entries of lists, and single handles. One pass over the file however many entities go.
+class PointerRemoval
+{
+public:
+    explicit PointerRemoval(DrawingData& data) : m_data(data) {}
+
+    /// Notes an entity that goes.
+    void addEntity(size_t entity);
+    void run();
+
+private:
+    struct Rule;
+    struct Flag;
+    static const Rule kRules[];
+    static const Flag kFlags[];
+
+    void addObject(const ObjectPlace* object);
+    void addOwned(const ByteRange& range, bool isDictionary);
+    void findDependents();
+    void addDependents();
+    bool pointsAtGone(const Tag& tag) const;
+    bool touches(const ByteRange& range) const;
+    void clean(const ByteRange& range);
+    void readGroups();
+    void drop(size_t at);
+    void dropFromGroup(size_t at);
+    bool dropCounted(size_t at);
+    void settleCount(size_t at, int dropped);
+    void settleFlags(int code);
+    void erase(size_t at);
+    void write(const Tag& tag, QByteArray value);
+    bool isErased(const Tag& tag) const;
+
+    DrawingData& m_data;
+    std::unordered_set<quint64> m_gone; ///< Handles.
+    std::vector<quint64> m_open;        ///< Those whose dependents are still to be found.
+    std::vector<char> m_objectGoes;     ///< By the objects' indices.
+    std::unordered_multimap<quint64, const ObjectPlace*> m_dependents;
+
+    // Of the record or object being cleaned.
+    std::vector<Tag> m_tags;
+    std::vector<int> m_groupHead; ///< For each tag its group's 102; -1 outside of groups.
+};
+
+} // namespace drawing
