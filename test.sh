@@ -11,7 +11,6 @@ run_tests() {
 
 if [ "${1:-}" = "--asan" ]; then
     export ASAN_OPTIONS="detect_leaks=1:strict_string_checks=1:${ASAN_OPTIONS:-}"
-    export LSAN_OPTIONS="suppressions=$PWD/tests/leaks.supp:print_suppressions=0"
     export UBSAN_OPTIONS="print_stacktrace=1"
     run_tests asan
 else
