@@ -93,6 +93,15 @@ void CommandLine::showHistory(int step)
 
 bool CommandLine::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_input && event->type() == QEvent::ShortcutOverride) {
+        // With nothing typed, undo and redo are the drawing's.
+        const auto* typed = static_cast<QKeyEvent*>(event);
+        if (m_input->text().isEmpty() &&
+            (typed->matches(QKeySequence::Undo) || typed->matches(QKeySequence::Redo))) {
+            event->ignore();
+            return true;
+        }
+    }
     if (watched != m_input || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();

@@ -122,7 +122,6 @@ int main(int argc, char* argv[])
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("layerbench"));
-    QApplication::setApplicationDisplayName(QStringLiteral("图层工作台"));
     QApplication::setApplicationVersion(QStringLiteral(LAYERBENCH_VERSION));
     QApplication::setOrganizationName(QStringLiteral("layerbench"));
     QTranslator translator;

@@ -5,6 +5,7 @@
 #include "recordinghost.h"
 #include "vnmessages.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QtTest>
@@ -97,6 +98,8 @@ void LayerCommandTest::init()
     auto file = readFile(m_path, nullptr, QThread::currentThread());
     QVERIFY(file.has_value());
     m_window->setFile(std::move(*file));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
 
 void LayerCommandTest::cleanup()
@@ -140,7 +143,10 @@ void LayerCommandTest::okAppliesEverythingAsOneStep()
     QCOMPARE(layer("A-WALL")->properties.trueColor, std::optional<quint32>(0x010203));
     QVERIFY(savedBytes() != m_original);
 
-    m_window->drawing()->undo();
+    // The command line has the focus and nothing in it to undo.
+    auto* input = ModuleFixture::child<QLineEdit>(m_window.get(), "commandInput");
+    input->setFocus();
+    QTest::keyClick(input, Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(!m_window->drawing()->canUndo());
     QCOMPARE(savedBytes(), m_original);
     m_window->drawing()->redo();
