@@ -1,0 +1,39 @@
+#include "OdAnsiString.h"
+#include "RxModuleLoader.h"
+
+#include <QtTest>
+
+class TestLoader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void refusesWithCause_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("cause");
+        QTest::newRow("no such file") << "/nowhere/libnone.so"
+                                      << "/nowhere/libnone.so";
+        QTest::newRow("no entry points") << NOT_A_MODULE << "odrxGetAPIVersion";
+        QTest::newRow("another release") << OLD_MODULE << "another release";
+    }
+
+    void refusesWithCause()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, cause);
+        try {
+            odrxLoadModule(OdString(path.toStdWString().c_str()));
+            QFAIL("it was loaded");
+        } catch (const OdError& error) {
+            QCOMPARE(error.code(), eCannotLoadModule);
+            QVERIFY2(QString::fromUtf8(error.what()).contains(cause), error.what());
+        }
+    }
+
+    void unloadsNothing() { odrxUnloadModule({}); }
+};
+
+QTEST_APPLESS_MAIN(TestLoader)
+
+#include "tst_loader.moc"

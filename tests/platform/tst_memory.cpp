@@ -1,0 +1,91 @@
+#include "OdAlloc.h"
+#include "RxObjectImpl.h"
+
+#include <QtTest>
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+int failuresLeft = 0;
+int handlerCalls = 0;
+
+void countCall()
+{
+    ++handlerCalls;
+}
+
+void giveUp()
+{
+    ++handlerCalls;
+    std::set_new_handler(nullptr);
+}
+
+class Thing : public OdRxObject
+{
+};
+
+} // namespace
+
+// These stand before the platform's own, as a host's may.
+void* odrxAlloc(std::size_t size)
+{
+    return failuresLeft > 0 && failuresLeft-- ? nullptr : std::malloc(size);
+}
+
+void odrxFree(void* memory)
+{
+    std::free(memory);
+}
+
+class TestMemory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        failuresLeft = handlerCalls = 0;
+        std::set_new_handler(nullptr);
+    }
+
+    void callsHandler_data()
+    {
+        QTest::addColumn<int>("failures");
+        QTest::addColumn<bool>("givesUp");
+        QTest::addColumn<bool>("succeeds");
+        QTest::addColumn<int>("calls");
+        QTest::newRow("memory at once") << 0 << false << true << 0;
+        QTest::newRow("memory after one call") << 1 << false << true << 1;
+        QTest::newRow("tried again after every call") << 3 << false << true << 3;
+        QTest::newRow("handler takes itself away") << 5 << true << false << 1;
+    }
+
+    void callsHandler()
+    {
+        QFETCH(int, failures);
+        QFETCH(bool, givesUp);
+        std::set_new_handler(givesUp ? giveUp : countCall);
+        failuresLeft = failures;
+        bool succeeds = true;
+        try {
+            OdRxObjectImpl<Thing>::createObject();
+        } catch (const std::bad_alloc&) {
+            succeeds = false;
+        }
+        std::set_new_handler(nullptr);
+        QTEST(succeeds, "succeeds");
+        QTEST(handlerCalls, "calls");
+    }
+
+    void raisesWithoutHandler()
+    {
+        failuresLeft = 1;
+        QVERIFY_EXCEPTION_THROWN(odrxAllocOrThrow(8), std::bad_alloc);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestMemory)
+
+#include "tst_memory.moc"
