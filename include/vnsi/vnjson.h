@@ -84,6 +84,7 @@ public:
     IElementValueBase& set(const char* key, bool value);
     IElementValueBase& set(const char* key, OdInt32 value);
     IElementValueBase& set(const char* key, const OdString& value);
+    IElementValueBase& set(const char* key, const wchar_t* value); // Else a literal is a bool.
     template <class T>
     std::enable_if_t<!std::is_convertible_v<const T&, OdString>, IElementValueBase&> set(
         const char* key, const T& value) = delete;
@@ -145,6 +146,11 @@ inline IElementValueBase& IElementValueBase::set(const char* key, const OdString
 {
     SetDataSW(key, value);
     return *this;
+}
+
+inline IElementValueBase& IElementValueBase::set(const char* key, const wchar_t* value)
+{
+    return set(key, OdString(value));
 }
 
 inline VnJsonPtr::VnJsonPtr(const VnJsonPtr& other) : m_node(other.m_node)
