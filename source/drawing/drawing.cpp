@@ -5,18 +5,33 @@
 #include "entityedits.h"
 #include "filewriter.h"
 #include "layeredits.h"
+#include "layerstatefile.h"
+#include "layerstates.h"
 #include "references.h"
+#include "symboltables.h"
 #include "undostack.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 namespace drawing {
 
+namespace {
+
+QString statesPathOf(const QString& drawingPath)
+{
+    const QFileInfo info(drawingPath);
+    return info.dir().filePath(info.completeBaseName() + QStringLiteral(".las"));
+}
+
+} // namespace
+
 class Drawing::Private
 {
 public:
     Expected<void> map(const QString& fileName);
+    Expected<void> saveStatesAside(const QString& drawingPath);
     UndoStep takeStep();
     bool stepChanged() const;
 
@@ -29,6 +44,7 @@ public:
     bool stepIsOpen = false;
     bool stepIsPublished = false;
     bool wasModified = false;
+    std::shared_ptr<const LayerStateTable> savedStates; // As `DocumentState` has them.
 };
 
 Expected<void> Drawing::Private::map(const QString& fileName)
@@ -43,6 +59,7 @@ Expected<void> Drawing::Private::map(const QString& fileName)
     if (!info.isFile())
         return refusal(info.isDir() ? tr("它是文件夹") : tr("它不是普通文件"));
     path = fileName;
+    data.statesPath = statesPathOf(fileName);
     file.setFileName(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return refusal(info.isReadable() ? file.errorString() : tr("没有读取权限"));
@@ -53,6 +70,23 @@ Expected<void> Drawing::Private::map(const QString& fileName)
         return refusal(file.errorString());
     data.bytes = {reinterpret_cast<const char*>(bytes), static_cast<size_t>(file.size())};
     return {};
+}
+
+/// Formats without objects: the layer states go beside the drawing, when they are others than
+/// there.
+Expected<void> Drawing::Private::saveStatesAside(const QString& drawingPath)
+{
+    const LayerStates states(data);
+    if (states.liveInDrawing() || !data.statesFault.isEmpty())
+        return {};
+    const QString target = statesPathOf(drawingPath);
+    const std::vector<LayerState> all = states.all();
+    if (target == data.statesPath ? savedStates == data.state.layerStates : all.empty())
+        return {};
+    return writeLayerStateFile(target, all).map([&] {
+        data.statesPath = target;
+        savedStates = data.state.layerStates;
+    });
 }
 
 UndoStep Drawing::Private::takeStep()
@@ -103,6 +137,8 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
     // The bytes that were not edited are still read from it.
     if (d->file.size() != size)
         return refusal(tr("原文件已被其他程序改写"));
+    if (auto aside = d->saveStatesAside(path); !aside)
+        return aside;
     auto written = writeFile(d->data.journal, size, path, progress);
     if (!written)
         return written;
@@ -194,6 +230,56 @@ Expected<void> Drawing::removeLayer(LayerId id)
 Expected<void> Drawing::setCurrentLayer(LayerId id)
 {
     return readyToEdit().and_then([&] { return LayerEdits(d->data).setCurrent(id); });
+}
+
+std::vector<LayerState> Drawing::layerStates() const
+{
+    return LayerStates(d->data).all();
+}
+
+QStringList Drawing::layerStateNames() const
+{
+    return LayerStates(d->data).names();
+}
+
+std::optional<LayerState> Drawing::layerState(const QString& name) const
+{
+    return LayerStates(d->data).find(name);
+}
+
+QString Drawing::layerStatesPath() const
+{
+    return LayerStates(d->data).liveInDrawing() ? QString() : d->data.statesPath;
+}
+
+bool Drawing::isModelSpace() const
+{
+    return d->data.state.modelSpace;
+}
+
+Expected<void> Drawing::putLayerStates(const std::vector<LayerState>& states)
+{
+    return readyToEdit().and_then([&] { return LayerStates(d->data).put(states); });
+}
+
+Expected<void> Drawing::removeLayerStates(const QStringList& names)
+{
+    return readyToEdit().and_then([&] { return LayerStates(d->data).remove(names); });
+}
+
+Expected<void> Drawing::renameLayerState(const QString& name, const QString& newName)
+{
+    return readyToEdit().and_then([&] { return LayerStates(d->data).rename(name, newName); });
+}
+
+Expected<void> Drawing::setModelSpace(bool modelSpace)
+{
+    return readyToEdit().map([&] {
+        if (d->data.state.modelSpace == modelSpace)
+            return;
+        d->data.state.modelSpace = modelSpace;
+        SymbolTables(d->data).writeTileMode();
+    });
 }
 
 Expected<int> Drawing::moveEntities(const std::vector<int>& entities, LayerId target)

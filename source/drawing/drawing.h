@@ -4,6 +4,7 @@
 #include "entities.h"
 #include "error.h"
 #include "layer.h"
+#include "layerstate.h"
 
 #include <QObject>
 #include <QStringList>
@@ -11,6 +12,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace drawing {
@@ -55,6 +57,17 @@ public:
     const Layer* findLayer(const QString& name) const; ///< Without regard to letter case.
     LayerId currentLayer() const;
 
+    /// The layer states in the order of the file; those made since behind them.
+    std::vector<LayerState> layerStates() const;
+    QStringList layerStateNames() const;
+    /// By name, without regard to letter case.
+    std::optional<LayerState> layerState(const QString& name) const;
+    /// The file beside the drawing that holds its layer states; empty where they live in the
+    /// drawing itself.
+    QString layerStatesPath() const;
+    /// True while model space is shown, false for a layout.
+    bool isModelSpace() const;
+
     /// All entities: those of the block definitions and of the ENTITIES section, in file order.
     /// Deleted ones stay in their places, marked as removed.
     const std::vector<Entity>& entities() const;
@@ -97,6 +110,14 @@ public:
     bool isReferencedInBlocks(const std::vector<LayerId>& layers) const;
     /// How many block references place a definition that has something on one of these layers.
     int countBlockReferences(const std::vector<LayerId>& layers) const;
+    /// Takes in layer states; those of the same name, whatever its letter case, are replaced.
+    /// What they say of the drawing's layers is not checked.
+    Expected<void> putLayerStates(const std::vector<LayerState>& states);
+    /// Refuses when the drawing has none of these.
+    Expected<void> removeLayerStates(const QStringList& names);
+    /// Refuses a name in use.
+    Expected<void> renameLayerState(const QString& name, const QString& newName);
+    Expected<void> setModelSpace(bool modelSpace);
     /// What edits since the last call had to leave out, a sentence each: the file's version may
     /// have no place for lineweights, true colours or the plot flag.
     QStringList takeNotices();

@@ -4,6 +4,7 @@
 #include "editjournal.h"
 #include "handleindex.h"
 #include "layerrecord.h"
+#include "layerstatetable.h"
 #include "layertable.h"
 #include "textcodec.h"
 
@@ -11,6 +12,7 @@
 #include <QStringList>
 
 #include <array>
+#include <memory>
 #include <optional>
 
 namespace drawing {
@@ -19,17 +21,21 @@ namespace drawing {
 struct DocumentState
 {
     LayerId current = LayerId::None;
-    quint64 handlesTaken = 0;  ///< New handles given out.
-    quint32 recordsMade = 0;   ///< LAYER records ever inserted.
-    int layerRecordsAdded = 0; ///< Those inserted less those removed.
-    QSet<QString> newAppIds;   ///< Added to the APPID table.
+    quint64 handlesTaken = 0;                                ///< New handles given out.
+    quint32 recordsMade = 0;                                 ///< LAYER records ever inserted.
+    int layerRecordsAdded = 0;                               ///< Those inserted less those removed.
+    QSet<QString> newAppIds;                                 ///< Added to the APPID table.
+    quint32 objectsMade = 0;                                 ///< Objects ever inserted.
+    bool modelSpace = true;                                  ///< What is shown: TILEMODE.
+    std::shared_ptr<const LayerStateTable> layerStates = {}; ///< Null: as the file was read.
 };
 
 inline bool operator==(const DocumentState& a, const DocumentState& b)
 {
     return a.current == b.current && a.handlesTaken == b.handlesTaken &&
            a.recordsMade == b.recordsMade && a.layerRecordsAdded == b.layerRecordsAdded &&
-           a.newAppIds == b.newAppIds;
+           a.newAppIds == b.newAppIds && a.objectsMade == b.objectsMade &&
+           a.modelSpace == b.modelSpace && a.layerStates == b.layerStates;
 }
 
 /// An entity that changed its layer, or went.
@@ -82,6 +88,9 @@ struct DrawingData
     quint64 freeHandle = 0; ///< The first one to give out; 0 until it is needed.
     /// Where layers are named outside the entities' own group: BLOCK, ENDBLK and XDATA.
     std::vector<LayerNamePlace> namePlaces;
+    std::shared_ptr<const LayerStateTable> loadedStates; ///< Null until they are asked for.
+    QString statesPath;  ///< Where a format without objects keeps layer states.
+    QString statesFault; ///< Why these could not be read.
 
     EditJournal journal;
     LayerTable layers;

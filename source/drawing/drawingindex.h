@@ -21,7 +21,15 @@ struct ByteRange
     bool contains(qint64 offset) const { return offset >= begin && offset < end; }
 };
 
-enum class HeaderVariable { Version, CodePage, CurrentLayer, HandleSeed, PlotStyleMode, Count };
+enum class HeaderVariable {
+    Version,
+    CodePage,
+    CurrentLayer,
+    HandleSeed,
+    PlotStyleMode,
+    TileMode,
+    Count
+};
 
 enum class TableKind { Layer, Linetype, AppId, Other, Count };
 
@@ -69,8 +77,10 @@ struct DrawingIndex
     std::vector<ObjectPlace> objects;
     NameInterner layerSpellings;
 
-    qint64 headerEnd = -1; ///< The HEADER section's `0 ENDSEC`; -1 when there is no such section.
-    qint64 tablesEnd = -1; ///< The TABLES section's `0 ENDSEC`.
+    qint64 headerEnd = -1;  ///< The HEADER section's `0 ENDSEC`; -1 when there is no such section.
+    qint64 tablesEnd = -1;  ///< The TABLES section's `0 ENDSEC`.
+    qint64 objectsEnd = -1; ///< The OBJECTS section's `0 ENDSEC`.
+    qint64 eof = -1;        ///< `0 EOF`.
     qint64 firstSection = -1; ///< `0 SECTION` of the first section.
     qint64 firstBody = -1;    ///< Of the first section that must follow TABLES; else `0 EOF`.
 

@@ -114,6 +114,7 @@ bool DrawingIndexer::readSections()
         if (!next())
             return false;
     }
+    m_index->eof = at();
     if (m_index->firstBody < 0)
         m_index->firstBody = at();
     return true;
@@ -148,6 +149,8 @@ bool DrawingIndexer::readSection()
         m_index->headerEnd = at();
     if (m_section == "TABLES")
         m_index->tablesEnd = at();
+    if (m_section == "OBJECTS")
+        m_index->objectsEnd = at();
     return true;
 }
 

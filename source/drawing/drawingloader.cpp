@@ -111,6 +111,7 @@ void Loader::loadHeader()
     m_data.limits = LayerRecordLimits::of(version);
     const std::string_view mode = variable(HeaderVariable::PlotStyleMode);
     m_data.plotStylesByColor = mode != "0";
+    m_data.state.modelSpace = variable(HeaderVariable::TileMode) != "0";
 }
 
 QString Loader::symbolName(const ByteRange& record) const

@@ -39,7 +39,7 @@ constexpr NamedKind kKinds[] = {
 };
 
 constexpr std::string_view kVariables[] = {
-    "$ACADVER", "$DWGCODEPAGE", "$CLAYER", "$HANDSEED", "$PSTYLEMODE"};
+    "$ACADVER", "$DWGCODEPAGE", "$CLAYER", "$HANDSEED", "$PSTYLEMODE", "$TILEMODE"};
 static_assert(std::size(kVariables) == static_cast<size_t>(HeaderVariable::Count));
 
 constexpr std::string_view kTables[] = {"LAYER", "LTYPE", "APPID"};

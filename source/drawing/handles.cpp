@@ -35,6 +35,15 @@ const ObjectPlace* dictionaryEntry(
     return found;
 }
 
+std::vector<DictionaryEntry> dictionaryEntries(DrawingData& data, const ObjectPlace* dictionary)
+{
+    std::vector<DictionaryEntry> entries;
+    visitEntries(data, dictionary, [&](std::string_view key, const ObjectPlace* object) {
+        entries.push_back({key, object});
+    });
+    return entries;
+}
+
 std::vector<const ObjectPlace*> dictionaryObjects(DrawingData& data, const ObjectPlace* dictionary)
 {
     std::vector<const ObjectPlace*> objects;

@@ -8,6 +8,16 @@ namespace drawing {
 const ObjectPlace* dictionaryEntry(
     DrawingData& data, const ObjectPlace* dictionary, std::string_view key);
 
+/// An entry of a dictionary; the object is null when the file lacks it.
+struct DictionaryEntry
+{
+    std::string_view key;
+    const ObjectPlace* object = nullptr;
+};
+
+/// The entries of a dictionary in their order, as the file was read; none of a null dictionary.
+std::vector<DictionaryEntry> dictionaryEntries(DrawingData& data, const ObjectPlace* dictionary);
+
 /// The objects a dictionary holds, as the file was read; none of a null dictionary.
 std::vector<const ObjectPlace*> dictionaryObjects(DrawingData& data, const ObjectPlace* dictionary);
 

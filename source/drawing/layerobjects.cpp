@@ -1,6 +1,7 @@
 #include "layerobjects.h"
 
 #include "handles.h"
+#include "layerstates.h"
 #include "tagtext.h"
 
 #include <unordered_set>
@@ -53,7 +54,7 @@ void ObjectUpdate::run()
     const TablePlace& table = m_data.index.table(TableKind::Layer);
     const quint64 handle = extensionDictionary(m_data.tags(table.head));
     const ObjectPlace* extension = handle != 0 ? m_data.objectByHandle(handle) : nullptr;
-    rewriteAll(dictionaryEntry(m_data, extension, "ACAD_LAYERSTATES"), &ObjectUpdate::rewriteState);
+    LayerStates(m_data).rewrite([this](TagList& tags) { rewriteState(tags); });
     rewriteAll(
         dictionaryEntry(m_data, extension, "ACAD_LAYERFILTERS"), &ObjectUpdate::rewriteFilter);
     rewriteAll(dictionaryEntry(m_data, extension, "ACLYDICTIONARY"), &ObjectUpdate::rewriteGroup);

@@ -115,6 +115,15 @@ void SymbolTables::writeCurrentLayer()
         "$CLAYER", HeaderVariable::CurrentLayer, 8, m_data.codec.encode(layer.properties.name));
 }
 
+void SymbolTables::writeTileMode()
+{
+    const QByteArray value = m_data.state.modelSpace ? "1" : "0";
+    const auto& old = m_data.view(m_data.index.variable(HeaderVariable::TileMode));
+    const bool isAligned = !old.empty() && old.front() == ' ';
+    writeHeader("$TILEMODE", HeaderVariable::TileMode, 70,
+        isAligned ? value.rightJustified(static_cast<int>(old.size())) : value);
+}
+
 /// Sets the count of a table to what the file says plus `added`.
 void SymbolTables::countRecords(const Spot& spot, TableKind kind, int added)
 {

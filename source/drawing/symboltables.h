@@ -22,6 +22,13 @@ public:
     void needAppId(const QString& name);
     /// Writes the current layer's name to the header.
     void writeCurrentLayer();
+    /// Writes whether model space or a layout is shown to the header.
+    void writeTileMode();
+
+    /// A handle for a new object, and the seed behind it; 0 in formats without handles.
+    quint64 takeHandle();
+    /// 0 for a table without a handle.
+    quint64 tableHandle(TableKind kind) const;
 
 private:
     struct Spot;
@@ -30,8 +37,6 @@ private:
     void countRecords(const Spot& spot, TableKind kind, int added);
     void makeFrame(const Spot& spot, TableKind kind, int records);
     void writeHeader(std::string_view name, HeaderVariable which, int code, const QByteArray& text);
-    quint64 takeHandle();
-    quint64 tableHandle(TableKind kind) const;
 
     DrawingData& m_data;
 };

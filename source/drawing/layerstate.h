@@ -1,0 +1,82 @@
+#pragma once
+
+#include "error.h"
+#include "layer.h"
+
+#include <QStringList>
+
+#include <vector>
+
+namespace drawing {
+
+class Drawing;
+
+/// The properties a layer state restores, as the bits of its mask.
+enum LayerStateMask : int {
+    kStateOnOff = 1,
+    kStateFreeze = 2,
+    kStateLock = 4,
+    kStatePlot = 8,
+    kStateNewViewportFreeze = 16,
+    kStateColor = 32,
+    kStateLinetype = 64,
+    kStateLineweight = 128,
+    kStatePlotStyle = 256,
+    kStateCurrentViewport = 512,
+    kStateTransparency = 1024,
+    kStateEverything = 2047
+};
+
+/// One layer as a state holds it. The description is not part of a state.
+struct LayerStateLayer
+{
+    LayerProperties properties;
+    bool frozenInCurrentViewport = false;
+};
+
+bool operator==(const LayerStateLayer& a, const LayerStateLayer& b);
+
+/// The saved properties of layers under a name.
+struct LayerState
+{
+    QString name;
+    QString description;
+    QString currentLayer;
+    int mask = kStateEverything; ///< `LayerStateMask` bits.
+    bool fromLayout = false;     ///< Saved while a layout was shown.
+    std::vector<LayerStateLayer> layers;
+
+    /// States that came with an external reference carry its name before a `|`.
+    bool isFromReference() const { return name.contains(QLatin1Char('|')); }
+};
+
+bool operator==(const LayerState& a, const LayerState& b);
+
+/// The layers of the drawing as they are now.
+LayerState captureLayerState(const Drawing& drawing, const QString& name);
+
+/// `now` with the properties of `saved` that the mask names.
+LayerProperties maskedProperties(
+    const LayerProperties& now, const LayerProperties& saved, int mask);
+
+/// Whether restoring the state, over its own mask, would change nothing. Layers the state does not
+/// hold do not count; one the drawing lacks does.
+bool isSameAsDrawing(const LayerState& state, const Drawing& drawing);
+
+/// How a state is restored.
+struct LayerStateRestore
+{
+    int mask = kStateEverything;
+    bool turnOthersOff = false;     ///< Layers that the state does not hold.
+    bool viewportOverrides = false; ///< Colours, linetypes and the like for the viewport alone.
+};
+
+/// Restores `state` within the open step; returns a sentence for each thing that could not be.
+QStringList restoreLayerState(
+    Drawing& drawing, const LayerState& state, const LayerStateRestore& how);
+
+/// Drops what the drawing cannot use: layers it lacks, second mentions of a layer. Returns the
+/// names of the layers it lacks.
+QStringList dropUnknownLayers(LayerState& state, const Drawing& drawing);
+
+} // namespace drawing

@@ -1,0 +1,186 @@
+#include "layerstatefile.h"
+
+#include "layerstatetags.h"
+#include "tagscan.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace drawing {
+
+namespace {
+
+constexpr std::string_view kHead = "LAYERSTATEDICTIONARY";
+constexpr std::string_view kState = "LAYERSTATE";
+constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
+constexpr int kFilePlotStyleCode = 2;
+constexpr int kLongestName = 255;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("drawing", text);
+}
+
+QString shown(const QString& path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+bool isUtf8(std::string_view bytes)
+{
+    constexpr int kPiece = 1 << 20;
+    QTextCodec* const codec = QTextCodec::codecForName("UTF-8");
+    QTextCodec::ConverterState state;
+    for (size_t at = 0; at < bytes.size() && state.invalidChars == 0; at += kPiece) {
+        const std::string_view piece = bytes.substr(at, kPiece);
+        codec->toUnicode(piece.data(), static_cast<int>(piece.size()), &state);
+    }
+    return state.invalidChars == 0;
+}
+
+std::string_view withoutMark(std::string_view bytes)
+{
+    return bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark
+               ? bytes.substr(kByteOrderMark.size())
+               : bytes;
+}
+
+bool startsAsStates(std::string_view bytes)
+{
+    TagReader tags(withoutMark(bytes));
+    Tag tag;
+    return tags.next(tag) && tag.code == 0 && tag.trimmed() == kHead;
+}
+
+class FileReader
+{
+public:
+    FileReader(std::string_view bytes, const TextCodec& codec) : m_bytes(bytes), m_codec(codec) {}
+    /// The offset of a line where a group code should stand and none does; -1 when all is well.
+    qint64 run();
+    LayerStateFile& file() { return m_file; }
+
+private:
+    void close(LayerStateReader& reader);
+
+    std::string_view m_bytes;
+    const TextCodec& m_codec;
+    LayerStateFile m_file;
+    bool m_isOpen = false;
+};
+
+qint64 FileReader::run()
+{
+    const LayerStateNames noHandles;
+    LayerStateReader reader(m_codec, noHandles);
+    TagReader tags(m_bytes);
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == 0) {
+            close(reader);
+            m_isOpen = tag.trimmed() == kState;
+        } else if (m_isOpen) {
+            reader.take(tag);
+        }
+    }
+    if (tags.broken()) {
+        const auto offset = static_cast<size_t>(tags.offset());
+        RawTag rest;
+        if (scanTag(m_bytes.data() + offset, m_bytes.data() + m_bytes.size(), rest) !=
+            ScanResult::CutOff)
+            return tags.offset();
+        reader.dropOpenLayer();
+    }
+    const int whole = static_cast<int>(m_file.states.size());
+    close(reader);
+    if (tags.broken()) {
+        const bool hasLast = static_cast<int>(m_file.states.size()) > whole;
+        m_file.notices += hasLast ? tr("文件不完整：在图层状态“%1”中中断，其后的内容没有读入。")
+                                        .arg(m_file.states.back().name)
+                                  : tr("文件不完整：末尾的内容没有读入。");
+    }
+    return -1;
+}
+
+void FileReader::close(LayerStateReader& reader)
+{
+    LayerState state = reader.finish();
+    if (!m_isOpen)
+        return;
+    state.name = state.name.trimmed();
+    if (state.name.isEmpty() || state.name.size() > kLongestName)
+        m_file.notices += tr("一个图层状态没有可用的名称，没有读入。");
+    else
+        m_file.states.push_back(std::move(state));
+}
+
+} // namespace
+
+bool isLayerStateFile(const QString& path)
+{
+    constexpr qint64 kSample = 256;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray head = file.read(kSample);
+    return startsAsStates({head.constData(), static_cast<size_t>(head.size())});
+}
+
+Expected<LayerStateFile> readLayerStateFile(const QString& path, const TextCodec& fallback)
+{
+    const auto refusal = [&path](const QString& cause, qint64 line = 0) {
+        return tl::make_unexpected(
+            Error{tr("无法读取图层状态文件“%1”：%2。").arg(shown(path), cause), line, false});
+    };
+    QFile file(path);
+    if (!file.exists())
+        return LayerStateFile();
+    if (!file.open(QIODevice::ReadOnly))
+        return refusal(file.errorString());
+    const uchar* mapped = file.size() > 0 ? file.map(0, file.size()) : nullptr;
+    if (!mapped)
+        return refusal(file.size() > 0 ? file.errorString() : tr("它是空的"));
+    const std::string_view all(
+        reinterpret_cast<const char*>(mapped), static_cast<size_t>(file.size()));
+    if (!startsAsStates(all))
+        return refusal(tr("第 1 行不是图层状态文件的开头"), 1);
+    const std::string_view bytes = withoutMark(all);
+    const TextCodec utf8("AC1021", {});
+    const bool isPlain = isUtf8(bytes);
+    FileReader reader(bytes, isPlain ? utf8 : fallback);
+    const qint64 fault = reader.run();
+    if (fault >= 0) {
+        const qint64 line = 1 + std::count(bytes.begin(), bytes.begin() + fault, '\n');
+        return refusal(tr("第 %1 行的组码不是数字").arg(line), line);
+    }
+    return std::move(reader.file());
+}
+
+Expected<void> writeLayerStateFile(const QString& path, const std::vector<LayerState>& states)
+{
+    const auto refusal = [&path](const QString& cause) {
+        return tl::make_unexpected(
+            Error{tr("无法写入图层状态文件“%1”：%2。").arg(shown(path), cause), 0, false});
+    };
+    const TextCodec utf8("AC1021", {});
+    TagStyle style;
+    style.lineEnd = "\r\n";
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return refusal(file.errorString());
+    file.write(style.tag(0, "LAYERSTATEDICTIONARY"));
+    for (const LayerState& state : states) {
+        file.write(style.tag(0, "LAYERSTATE") + style.tag(1, utf8.encode(state.name)));
+        file.write(layerStateTags(state, {}, kFilePlotStyleCode, style, utf8));
+    }
+    if (!file.commit())
+        return refusal(file.errorString());
+    return {};
+}
+
+} // namespace drawing

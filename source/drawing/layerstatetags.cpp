@@ -1,0 +1,206 @@
+#include "layerstatetags.h"
+
+#include <cstdlib>
+
+namespace drawing {
+
+namespace {
+
+enum Code {
+    kName = 1,
+    kPlotStyleByName = 1,
+    kPlotStyle = 2,
+    kLinetype = 6,
+    kLayerName = 8,
+    kColorIndex = 62,
+    kFlags = 90,
+    kMask = 91,
+    kTrueColor = 92,
+    kFromLayout = 290,
+    kDescription = 301,
+    kCurrentLayer = 302,
+    kLayerHandle = 330,
+    kLinetypeHandle = 331,
+    kLineweight = 370,
+    kTransparency = 440
+};
+
+enum Flag { kOff = 1, kFrozen = 2, kLocked = 4, kPlotted = 8, kNewFrozen = 16, kHereFrozen = 32 };
+
+constexpr qint64 kByTrueColor = 0xc2;
+constexpr int kLastColorIndex = 255;
+
+/// A value is one line: line ends within a description are written as other programs do.
+QString onOneLine(const QString& text)
+{
+    return QString(text).replace(QLatin1Char('\n'), QLatin1String("^J"));
+}
+
+QString onSeveralLines(const QString& text)
+{
+    return QString(text).replace(QLatin1String("^J"), QLatin1String("\n"));
+}
+
+void readFlags(qint64 flags, LayerStateLayer& layer)
+{
+    LayerProperties& p = layer.properties;
+    p.off = (flags & kOff) != 0;
+    p.frozen = (flags & kFrozen) != 0;
+    p.locked = (flags & kLocked) != 0;
+    p.plotted = (flags & kPlotted) != 0;
+    p.frozenInNewViewports = (flags & kNewFrozen) != 0;
+    layer.frozenInCurrentViewport = (flags & kHereFrozen) != 0;
+}
+
+qint64 flagsOf(const LayerStateLayer& layer)
+{
+    const LayerProperties& p = layer.properties;
+    return (p.off ? kOff : 0) | (p.frozen ? kFrozen : 0) | (p.locked ? kLocked : 0) |
+           (p.plotted ? kPlotted : 0) | (p.frozenInNewViewports ? kNewFrozen : 0) |
+           (layer.frozenInCurrentViewport ? kHereFrozen : 0);
+}
+
+} // namespace
+
+LayerStateReader::LayerStateReader(const TextCodec& codec, const LayerStateNames& names)
+    : m_codec(codec),
+      m_names(names)
+{
+}
+
+void LayerStateReader::take(const Tag& tag)
+{
+    if (tag.code == kLayerName)
+        openLayer(m_codec.decode(tag.trimmed()));
+    else if (tag.code == kLayerHandle)
+        openLayer(m_names.layers.value(tag.toHandle()));
+    else if (m_isLayerOpen)
+        takeLayer(tag);
+    else
+        takeHead(tag);
+}
+
+void LayerStateReader::takeHead(const Tag& tag)
+{
+    switch (tag.code) {
+    case kName:
+        m_state.name = m_codec.decode(tag.value);
+        break;
+    case kMask:
+        m_state.mask = static_cast<int>(tag.toInteger() & kStateEverything);
+        break;
+    case kDescription:
+        m_state.description = onSeveralLines(m_codec.decode(tag.value));
+        break;
+    case kFromLayout:
+        m_state.fromLayout = tag.toInteger() != 0;
+        break;
+    case kCurrentLayer:
+        m_state.currentLayer = m_codec.decode(tag.trimmed());
+        break;
+    default:
+        break;
+    }
+}
+
+void LayerStateReader::takeLayer(const Tag& tag)
+{
+    LayerProperties& p = m_layer.properties;
+    switch (tag.code) {
+    case kPlotStyleByName:
+    case kPlotStyle:
+        p.plotStyle = decoded(m_plotStyle, tag.trimmed());
+        break;
+    case kLinetype:
+        p.linetype = decoded(m_linetype, tag.trimmed());
+        break;
+    case kLinetypeHandle:
+        p.linetype = m_names.linetypes.value(tag.toHandle(), p.linetype);
+        break;
+    case kColorIndex:
+        if (const qint64 index = std::abs(tag.toInteger()); index >= 1 && index <= kLastColorIndex)
+            p.colorIndex = static_cast<int>(index);
+        break;
+    case kFlags:
+        readFlags(tag.toInteger(), m_layer);
+        break;
+    case kTrueColor: {
+        // Some programs put the colour's method above its three parts.
+        const qint64 method = (tag.toInteger() >> 24) & 0xff;
+        if (method == 0 || method == kByTrueColor)
+            p.trueColor = static_cast<quint32>(tag.toInteger() & 0xffffff);
+        break;
+    }
+    case kLineweight:
+        if (isLineweight(static_cast<int>(tag.toInteger())))
+            p.lineweight = static_cast<int>(tag.toInteger());
+        break;
+    case kTransparency:
+        p.transparency = transparencyPercent(tag.toInteger());
+        break;
+    default:
+        break;
+    }
+}
+
+const QString& LayerStateReader::decoded(Decoded& last, std::string_view bytes) const
+{
+    if (last.bytes != bytes || last.text.isNull())
+        last = {bytes, m_codec.decode(bytes)};
+    return last.text;
+}
+
+void LayerStateReader::openLayer(const QString& name)
+{
+    closeLayer();
+    m_layer = {};
+    m_layer.properties.name = name;
+    m_isLayerOpen = true;
+}
+
+void LayerStateReader::closeLayer()
+{
+    // A handle that leads nowhere leaves a layer without a name.
+    if (m_isLayerOpen && !m_layer.properties.name.isEmpty())
+        m_state.layers.push_back(m_layer);
+    m_isLayerOpen = false;
+}
+
+void LayerStateReader::dropOpenLayer()
+{
+    m_isLayerOpen = false;
+}
+
+LayerState LayerStateReader::finish()
+{
+    closeLayer();
+    return std::exchange(m_state, {});
+}
+
+QByteArray layerStateTags(const LayerState& state, const LayerStateHandles& handles,
+    int plotStyleCode, const TagStyle& style, const TextCodec& codec)
+{
+    QByteArray bytes = style.number(kMask, state.mask) +
+                       style.tag(kDescription, codec.encode(onOneLine(state.description))) +
+                       style.number(kFromLayout, state.fromLayout ? 1 : 0) +
+                       style.tag(kCurrentLayer, codec.encode(state.currentLayer));
+    for (const LayerStateLayer& layer : state.layers) {
+        const LayerProperties& p = layer.properties;
+        const quint64 own = handles.layers.value(p.name.toCaseFolded());
+        const quint64 linetype = handles.linetypes.value(p.linetype.toCaseFolded());
+        bytes += own != 0 ? style.handle(kLayerHandle, own)
+                          : style.tag(kLayerName, codec.encode(p.name));
+        bytes += style.number(kFlags, flagsOf(layer)) + style.number(kColorIndex, p.colorIndex) +
+                 style.number(kLineweight, p.lineweight);
+        bytes += linetype != 0 ? style.handle(kLinetypeHandle, linetype)
+                               : style.tag(kLinetype, codec.encode(p.linetype));
+        bytes += style.tag(plotStyleCode, codec.encode(p.plotStyle)) +
+                 style.number(
+                     kTransparency, p.transparency == 0 ? 0 : storedTransparency(p.transparency));
+        if (p.trueColor)
+            bytes += style.number(kTrueColor, *p.trueColor);
+    }
+    return bytes;
+}
+
+} // namespace drawing

@@ -1,0 +1,546 @@
+#include "fixture.h"
+#include "layerstatefile.h"
+#include "textcodec.h"
+
+#include <QDirIterator>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+using namespace drawing;
+
+namespace {
+
+LayerState everything(const Drawing& drawing, const QString& name)
+{
+    LayerState state = captureLayerState(drawing, name);
+    state.description = QStringLiteral("说明\n第二行");
+    return state;
+}
+
+/// Other values than before in every property a layer has.
+LayerProperties turnedAround(LayerProperties p)
+{
+    p.off = !p.off;
+    p.frozen = !p.frozen;
+    p.locked = !p.locked;
+    p.plotted = !p.plotted;
+    p.frozenInNewViewports = !p.frozenInNewViewports;
+    p.trueColor = p.trueColor ? std::nullopt : std::optional<quint32>(0x10203);
+    p.colorIndex = p.colorIndex % 255 + 1;
+    p.linetype = p.linetype == QLatin1String("Continuous") ? QStringLiteral("Dashed")
+                                                           : QStringLiteral("Continuous");
+    p.lineweight = p.lineweight == 50 ? 30 : 50;
+    p.transparency = (p.transparency + 45) % 90;
+    return p;
+}
+
+constexpr char kForeign[] = R"(0 LAYERSTATEDICTIONARY
+0 LAYERSTATE
+1 Foreign
+91 4095
+301 by hand
+290 0
+302 WALL
+8 WALL
+90 11
+62 3
+370 50
+6 Dashed
+2 Color_3
+440 33554559
+92 66051
+77 unknown
+8 Nowhere
+90 8
+8 Empty
+90 44
+62 -1
+370 51
+)";
+
+} // namespace
+
+/// Layer states in drawings and in files of their own.
+class TestLayerStates : public Fixture
+{
+    Q_OBJECT
+
+private slots:
+    void storedForm();
+    void seenByOthers_data();
+    void seenByOthers();
+    void edits();
+    void followsLayers();
+    void besideOldDrawing();
+    void brokenBesideOldDrawing();
+    void files();
+    void foreignFile_data();
+    void foreignFile();
+    void brokenFile_data();
+    void brokenFile();
+    void restored_data();
+    void restored();
+    void restoredWithCurrent();
+    void modelSpace();
+    void many();
+
+private:
+    static void put(Drawing& drawing, const LayerState& state)
+    {
+        drawing.beginStep(QStringLiteral("state"));
+        const auto stored = drawing.putLayerStates({state});
+        drawing.commitStep();
+        QVERIFY2(stored, stored ? "" : qPrintable(stored.error().text));
+    }
+    static QStringList restore(
+        Drawing& drawing, const LayerState& state, const LayerStateRestore& how)
+    {
+        drawing.beginStep(QStringLiteral("restore"));
+        const QStringList notices = restoreLayerState(drawing, state, how);
+        drawing.commitStep();
+        return notices;
+    }
+    static QJsonObject seen(const QString& path)
+    {
+        QProcess reader;
+        reader.start(QStringLiteral("/usr/bin/python3"), {QStringLiteral(STATES_SCRIPT), path});
+        if (!reader.waitForFinished(120000) || reader.exitCode() != 0)
+            return {{QStringLiteral("failure"), QString::fromUtf8(reader.readAllStandardError())}};
+        return QJsonDocument::fromJson(reader.readAllStandardOutput()).object();
+    }
+};
+
+/// The object as the published layout has it, code by code; taken back, nothing of it stays.
+void TestLayerStates::storedForm()
+{
+    House house;
+    house.wallRecord = "70 1\n62 -5\n420 66051\n6 Dashed\n370 50\n390 F\n"
+                       "1001 AcCmTransparency\n1071 33554559";
+    const auto drawing = opened(house.bytes());
+    LayerState state = everything(*drawing, QStringLiteral("New"));
+    state.description = QStringLiteral("two\nlines");
+    state.mask = 37;
+    state.layers.resize(2);
+    put(*drawing, state);
+    const QByteArray expected = tagged(R"(5 100
+102 {ACAD_REACTORS
+330 A1
+102 }
+330 A1
+100 AcDbXrecord
+280 1
+91 37
+301 two^Jlines
+290 0
+302 Wall
+330 10
+90 8
+62 7
+370 -3
+331 30
+1 Color_7
+440 0
+330 11
+90 11
+62 5
+370 50
+331 31
+1 Color_5
+440 33554559
+92 66051
+0 ENDSEC
+)");
+    QVERIFY(saved(*drawing).contains(expected));
+    const auto again = opened(saved(*drawing));
+    QCOMPARE(again->layerStateNames(), QStringList({"State", "New"}));
+    QVERIFY(*again->layerState(QStringLiteral("new")) == state);
+
+    drawing->undo();
+    QVERIFY(saved(*drawing) == house.bytes());
+    drawing->redo();
+    QVERIFY(*drawing->layerState(QStringLiteral("New")) == state);
+}
+
+void TestLayerStates::seenByOthers_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char* folder : {SAMPLES_DIR, SHARED_DRAWINGS_DIR}) {
+        QDirIterator files(QString::fromUtf8(folder), {QStringLiteral("*.dxf")});
+        while (files.hasNext()) {
+            const QString path = files.next();
+            QTest::newRow(qPrintable(files.fileName())) << path;
+        }
+    }
+}
+
+void TestLayerStates::seenByOthers()
+{
+    QProcess python;
+    python.start(
+        QStringLiteral("/usr/bin/python3"), {QStringLiteral("-c"), QStringLiteral("import ezdxf")});
+    if (!python.waitForFinished() || python.exitCode() != 0)
+        QSKIP("python3-ezdxf is not installed");
+    QFETCH(QString, path);
+    const auto drawing = opened(read(path));
+    if (!drawing->layerStatesPath().isEmpty())
+        QSKIP("the format has no place for layer states");
+    const QJsonObject before = seen(path);
+    LayerState first = captureLayerState(*drawing, QStringLiteral("First"));
+    LayerState second = first;
+    second.name = QStringLiteral("Second");
+    second.mask = kStateColor;
+    second.layers.resize(1);
+    put(*drawing, first);
+    put(*drawing, second);
+    const QString result = m_folder.filePath(QStringLiteral("result.dxf"));
+    QVERIFY(drawing->save(result));
+
+    const QJsonObject after = seen(result);
+    QVERIFY2(!after.contains("failure"), qPrintable(after.value("failure").toString()));
+    const QJsonArray states = after.value("states").toArray();
+    QCOMPARE(states.size(), before.value("states").toArray().size() + 2);
+    const QJsonObject last = states.last().toObject();
+    QCOMPARE(last.value("name").toString(), QStringLiteral("Second"));
+    QVERIFY(last.value("owned").toBool() && last.value("reactors").toBool());
+    QHash<int, QString> values;
+    for (const QJsonValue& tag : last.value("tags").toArray())
+        values.insert(tag.toArray().at(0).toInt(), tag.toArray().at(1).toString());
+    const LayerProperties& p = second.layers.front().properties;
+    QCOMPARE(values.value(91), QString::number(kStateColor));
+    QCOMPARE(values.value(302), second.currentLayer);
+    QCOMPARE(after.value("layers").toObject().value(values.value(330)).toString(), p.name);
+    QCOMPARE(values.value(62), QString::number(p.colorIndex));
+    QCOMPARE(values.value(370), QString::number(p.lineweight));
+    const QJsonObject oldErrors = before.value("errors").toObject();
+    const QJsonObject newErrors = after.value("errors").toObject();
+    for (const QString& code : newErrors.keys())
+        QVERIFY2(newErrors.value(code).toInt() <= oldErrors.value(code).toInt(),
+            qPrintable(QStringLiteral("audit error ") + code));
+    QVERIFY(*opened(read(result))->layerState(QStringLiteral("First")) == first);
+}
+
+/// Replacing keeps the object and its place; what is deleted leaves dictionary and objects.
+void TestLayerStates::edits()
+{
+    const auto drawing = opened(House().bytes());
+    LayerState state = everything(*drawing, QStringLiteral("STATE"));
+    put(*drawing, state);
+    QCOMPARE(drawing->layerStateNames(), QStringList({"State"}));
+    QCOMPARE(drawing->layerState(QStringLiteral("state"))->description, state.description);
+    state.name = QStringLiteral("Other");
+    put(*drawing, state);
+
+    drawing->beginStep(QStringLiteral("names"));
+    QVERIFY(!drawing->renameLayerState(QStringLiteral("other"), QStringLiteral("stAte")));
+    QVERIFY(!drawing->renameLayerState(QStringLiteral("none"), QStringLiteral("x")));
+    QVERIFY(drawing->renameLayerState(QStringLiteral("state"), QStringLiteral("First")));
+    drawing->commitStep();
+    QCOMPARE(drawing->layerStateNames(), QStringList({"First", "Other"}));
+
+    drawing->beginStep(QStringLiteral("remove"));
+    QVERIFY(!drawing->removeLayerStates({QStringLiteral("none")}));
+    QVERIFY(drawing->removeLayerStates({QStringLiteral("FIRST"), QStringLiteral("Other")}));
+    drawing->commitStep();
+    QVERIFY(!saved(*drawing).contains("XRECORD\n  5\nA2"));
+    QCOMPARE(opened(saved(*drawing))->layerStateNames(), QStringList());
+    drawing->undo();
+    QCOMPARE(opened(saved(*drawing))->layerStateNames(), QStringList({"First", "Other"}));
+}
+
+/// Layers renamed and deleted later are so in states of the file and in new ones.
+void TestLayerStates::followsLayers()
+{
+    for (const bool old : {false, true}) {
+        House house;
+        house.version = old ? "AC1009" : "AC1018";
+        house.current = "0";
+        const auto drawing = opened(house.bytes());
+        LayerState state = captureLayerState(*drawing, QStringLiteral("Mine"));
+        state.currentLayer = QStringLiteral("Wall");
+        put(*drawing, state);
+        QVERIFY(edit(*drawing, QStringLiteral("Wall"), [](LayerProperties& p) {
+            p.name = QStringLiteral("墙");
+        }).isEmpty());
+        const LayerState followed = *drawing->layerState(QStringLiteral("Mine"));
+        QCOMPARE(followed.currentLayer, QStringLiteral("墙"));
+        QCOMPARE(followed.layers.at(1).properties.name, QStringLiteral("墙"));
+        QVERIFY(isSameAsDrawing(followed, *drawing));
+    }
+}
+
+void TestLayerStates::besideOldDrawing()
+{
+    House house;
+    house.version = "AC1009";
+    const auto drawing = opened(house.bytes());
+    QVERIFY(drawing->layerStatesPath().endsWith(QLatin1String("house.las")));
+    const LayerState state = everything(*drawing, QStringLiteral("Aside"));
+    put(*drawing, state);
+    QVERIFY(drawing->isModified());
+    QVERIFY(!QFile::exists(drawing->layerStatesPath()));
+    const QString path = m_folder.filePath(QStringLiteral("old.dxf"));
+    QVERIFY(drawing->save(path));
+    QCOMPARE(read(path), house.bytes());
+    QCOMPARE(drawing->layerStatesPath(), m_folder.filePath(QStringLiteral("old.las")));
+    const auto again = Drawing::open(path);
+    QVERIFY(*(*again)->layerState(QStringLiteral("Aside")) == state);
+
+    drawing->undo();
+    QVERIFY(drawing->save(path));
+    QVERIFY((*Drawing::open(path))->layerStates().empty());
+}
+
+/// A file that cannot be read is not written over.
+void TestLayerStates::brokenBesideOldDrawing()
+{
+    House house;
+    house.version = "AC1009";
+    const auto drawing = opened(house.bytes());
+    const QByteArray precious = "  0\nLAYERSTATEDICTIONARY\nwhat\nis this\n";
+    QFile file(drawing->layerStatesPath());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(precious) == precious.size());
+    file.close();
+    drawing->beginStep(QStringLiteral("state"));
+    const auto refused =
+        drawing->putLayerStates({captureLayerState(*drawing, QStringLiteral("New"))});
+    drawing->commitStep();
+    QVERIFY(!refused && refused.error().text.contains(QLatin1String("3")));
+    QVERIFY(drawing->save(drawing->path()));
+    QCOMPARE(read(drawing->layerStatesPath()), precious);
+}
+
+void TestLayerStates::files()
+{
+    House house;
+    house.wallRecord = "70 5\n62 -5\n420 66051\n6 Dashed\n370 50\n290 0\n"
+                       "1001 AcCmTransparency\n1071 33554559";
+    const auto drawing = opened(house.bytes());
+    LayerState first = everything(*drawing, QStringLiteral("一"));
+    first.fromLayout = true;
+    first.mask = 1;
+    first.layers.front().frozenInCurrentViewport = true;
+    LayerState second = first;
+    second.name = QStringLiteral("Two");
+    second.layers.clear();
+    const QString path = m_folder.filePath(QStringLiteral("states.las"));
+    QVERIFY(writeLayerStateFile(path, {first, second}));
+    QVERIFY(isLayerStateFile(path));
+    const auto back = readLayerStateFile(path, TextCodec());
+    QVERIFY(back && back->notices.isEmpty());
+    QVERIFY((back->states == std::vector<LayerState>{first, second}));
+    QVERIFY(!writeLayerStateFile(m_folder.filePath(QStringLiteral("no/such.las")), {first}));
+}
+
+void TestLayerStates::foreignFile_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("description");
+    const QByteArray plain = tagged(kForeign);
+    QTest::newRow("plain") << plain << "by hand";
+    QTest::newRow("CR LF and a byte order mark")
+        << "\xef\xbb\xbf" + tagged(kForeign, "\r\n") << "by hand";
+    QTest::newRow("escapes") << QByteArray(plain).replace("by hand", "\\U+8BF4\\U+660E")
+                             << QStringLiteral("说明");
+    QTest::newRow("another code page")
+        << QByteArray(plain).replace("by hand", "\xcb\xb5\xc3\xf7") << QStringLiteral("说明");
+}
+
+/// What another program wrote: unknown bits and codes, a layer and a weight that do not exist.
+void TestLayerStates::foreignFile()
+{
+    QFETCH(QByteArray, bytes);
+    const auto drawing = opened(House().bytes());
+    const auto file = readLayerStateFile(
+        write(bytes, QStringLiteral("foreign.las")), TextCodec("AC1018", "ANSI_936"));
+    QVERIFY(file && file->states.size() == 1);
+    LayerState state = file->states.front();
+    QTEST(state.description, "description");
+    QCOMPARE(state.mask, int(kStateEverything));
+    QCOMPARE(dropUnknownLayers(state, *drawing), QStringList({"Nowhere"}));
+    QCOMPARE(state.layers.size(), 2u);
+    LayerProperties wall;
+    wall.name = QStringLiteral("WALL");
+    wall.off = wall.frozen = true;
+    wall.colorIndex = 3;
+    wall.trueColor = 0x10203;
+    wall.lineweight = 50;
+    wall.linetype = QStringLiteral("Dashed");
+    wall.plotStyle = QStringLiteral("Color_3");
+    wall.transparency = 50;
+    QVERIFY(state.layers.front().properties == wall);
+    const LayerStateLayer& empty = state.layers.back();
+    QVERIFY(empty.properties.locked && empty.properties.plotted && empty.frozenInCurrentViewport);
+    QVERIFY(!empty.properties.frozen && !empty.properties.off);
+    QCOMPARE(empty.properties.colorIndex, 1);
+    QCOMPARE(empty.properties.lineweight, -3);
+}
+
+void TestLayerStates::brokenFile_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("states"); // -1: refused.
+    QTest::addColumn<int>("layers");
+    QTest::addColumn<qint64>("line");
+    const QByteArray plain = tagged(kForeign);
+    const QByteArray two = plain + tagged(kForeign).mid(plain.indexOf("LAYERSTATE\n") - 4);
+    QTest::newRow("empty") << QByteArray() << -1 << 0 << qint64(0);
+    QTest::newRow("something else") << House().bytes() << -1 << 0 << qint64(1);
+    QTest::newRow("words for codes")
+        << QByteArray(plain).replace("370\n50", "weight\n50") << -1 << 0 << qint64(21);
+    QTest::newRow("cut within a layer")
+        << plain.left(plain.indexOf("370\n51") + 4) << 1 << 2 << qint64(0);
+    QTest::newRow("cut within a name")
+        << plain.left(plain.indexOf("Foreign") - 4) << 0 << 0 << qint64(0);
+    QTest::newRow("nothing in it")
+        << plain.left(plain.indexOf("LAYERSTATE\n") - 4) << 0 << 0 << qint64(0);
+    QTest::newRow("no name") << QByteArray(plain).replace("  1\nForeign\n", "") << 0 << 0
+                             << qint64(0);
+    QTest::newRow("two") << two << 2 << 3 << qint64(0);
+}
+
+void TestLayerStates::brokenFile()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, states);
+    const auto file = readLayerStateFile(write(bytes, QStringLiteral("broken.las")), TextCodec());
+    QCOMPARE(bool(file), states >= 0);
+    if (!file) {
+        QTEST(file.error().line, "line");
+        return;
+    }
+    QCOMPARE(int(file->states.size()), states);
+    if (states > 0)
+        QTEST(int(file->states.front().layers.size()), "layers");
+}
+
+void TestLayerStates::restored_data()
+{
+    QTest::addColumn<int>("mask");
+    for (int bit = 1; bit <= kStateTransparency; bit *= 2)
+        QTest::newRow(qPrintable(QString::number(bit))) << bit;
+    QTest::newRow("nothing") << 0;
+    QTest::newRow("all") << int(kStateEverything);
+    QTest::newRow("all but colour") << (kStateEverything & ~kStateColor);
+}
+
+/// What the mask names is back, all else is as it was changed to; twenty layers at once where the
+/// large drawing is at hand.
+void TestLayerStates::restored()
+{
+    QFETCH(int, mask);
+    const QString floor = QStringLiteral(SHARED_DRAWINGS_DIR "/floorplan.dxf");
+    const auto drawing = opened(QFile::exists(floor) ? read(floor) : House().bytes());
+    const LayerState state = captureLayerState(*drawing, QStringLiteral("Before"));
+    put(*drawing, state);
+    drawing->beginStep(QStringLiteral("turn"));
+    std::vector<Layer> turned = drawing->layers();
+    turned.resize(std::min<size_t>(turned.size(), 20));
+    for (Layer& layer : turned) {
+        LayerProperties p = turnedAround(layer.properties);
+        if (!drawing->setLayerProperties(layer.id, p)) {
+            p.linetype = layer.properties.linetype;
+            QVERIFY(drawing->setLayerProperties(layer.id, p));
+        }
+    }
+    drawing->commitStep();
+    QVERIFY(!isSameAsDrawing(state, *drawing));
+    const std::vector<Layer> after = drawing->layers();
+
+    LayerStateRestore how;
+    how.mask = mask;
+    const LayerState stored = *drawing->layerState(state.name);
+    QVERIFY(stored == state);
+    restore(*drawing, stored, how);
+    for (size_t i = 0; i < after.size(); ++i) {
+        const LayerProperties& was = state.layers.at(i).properties;
+        const LayerProperties& changed = after.at(i).properties;
+        const LayerProperties& now = drawing->layers().at(i).properties;
+        const auto expect = [&](int bit, auto member) {
+            return now.*member == ((mask & bit) ? was.*member : changed.*member);
+        };
+        QVERIFY(expect(kStateOnOff, &LayerProperties::off));
+        QVERIFY(expect(kStateFreeze, &LayerProperties::frozen));
+        QVERIFY(expect(kStateLock, &LayerProperties::locked));
+        QVERIFY(expect(kStatePlot, &LayerProperties::plotted));
+        QVERIFY(expect(kStateNewViewportFreeze, &LayerProperties::frozenInNewViewports));
+        QVERIFY(expect(kStateColor, &LayerProperties::colorIndex));
+        QVERIFY(expect(kStateColor, &LayerProperties::trueColor));
+        QVERIFY(expect(kStateLinetype, &LayerProperties::linetype));
+        QVERIFY(expect(kStateLineweight, &LayerProperties::lineweight));
+        QVERIFY(expect(kStateTransparency, &LayerProperties::transparency));
+        QCOMPARE(now.description, changed.description);
+    }
+    QCOMPARE(isSameAsDrawing(state, *drawing), mask == kStateEverything);
+}
+
+/// The state's current layer comes back first, so that the present one may be frozen; layers it
+/// does not hold are turned off when asked.
+void TestLayerStates::restoredWithCurrent()
+{
+    const auto drawing = opened(House().bytes());
+    LayerState state = captureLayerState(*drawing, QStringLiteral("S"));
+    state.currentLayer = QStringLiteral("EMPTY");
+    state.layers.at(1).properties.frozen = true;
+    state.layers.at(1).properties.linetype = QStringLiteral("Gone");
+    state.layers.at(1).properties.lineweight = 9;
+    state.layers.at(2).properties.name = QStringLiteral("Missing");
+    LayerStateRestore how;
+    how.turnOthersOff = true;
+    const QStringList notices = restore(*drawing, state, how);
+    QCOMPARE(drawing->layer(drawing->currentLayer())->properties.name, QStringLiteral("Empty"));
+    const LayerProperties& wall = drawing->findLayer(QStringLiteral("wall"))->properties;
+    QVERIFY(wall.frozen && !wall.off);
+    QCOMPARE(wall.lineweight, 9);
+    QVERIFY(drawing->findLayer(QStringLiteral("Empty"))->properties.off);
+    QCOMPARE(notices.size(), 2);
+    QVERIFY(notices.at(0).contains(QLatin1String("Gone")));
+    QVERIFY(notices.at(1).contains(QLatin1String("Missing")));
+
+    state.currentLayer.clear();
+    state.layers.at(0).properties.frozen = true;
+    drawing->beginStep(QStringLiteral("zero"));
+    QVERIFY(drawing->setCurrentLayer(drawing->findLayer(QStringLiteral("0"))->id));
+    drawing->commitStep();
+    restore(*drawing, state, {});
+    QVERIFY(!drawing->findLayer(QStringLiteral("0"))->properties.frozen);
+}
+
+void TestLayerStates::modelSpace()
+{
+    const auto drawing = opened(House().bytes());
+    QVERIFY(drawing->isModelSpace());
+    drawing->beginStep(QStringLiteral("layout"));
+    QVERIFY(drawing->setModelSpace(false));
+    drawing->commitStep();
+    QVERIFY(captureLayerState(*drawing, {}).fromLayout);
+    QVERIFY(!opened(saved(*drawing))->isModelSpace());
+    drawing->undo();
+    QVERIFY(saved(*drawing) == House().bytes());
+}
+
+/// Thousands of states at once.
+void TestLayerStates::many()
+{
+    constexpr int kStates = 5000;
+    const auto drawing = opened(House().bytes());
+    std::vector<LayerState> states(kStates, captureLayerState(*drawing, {}));
+    QStringList names;
+    for (int i = 0; i < kStates; ++i) {
+        states.at(size_t(i)).name = QStringLiteral("S%1").arg(i);
+        names += states.at(size_t(i)).name;
+    }
+    drawing->beginStep(QStringLiteral("many"));
+    QVERIFY(drawing->putLayerStates(states));
+    drawing->commitStep();
+    const auto again = opened(saved(*drawing));
+    QCOMPARE(again->layerStates().size(), size_t(kStates + 1));
+    again->beginStep(QStringLiteral("none"));
+    QVERIFY(again->removeLayerStates(names));
+    again->commitStep();
+    QCOMPARE(again->layerStateNames(), QStringList({"State"}));
+}
+
+QTEST_GUILESS_MAIN(TestLayerStates)
+#include "tst_layerstates.moc"
