@@ -1,0 +1,45 @@
+#pragma once
+
+#include "modulefixture.h"
+#include "recordinghost.h"
+#include "recordinginvoker.h"
+#include "trees.h"
+
+#include <QPushButton>
+#include <QTableWidget>
+
+/// The record of a layer; `more` are further members, with a comma before each.
+QString layer(const QString& name, int status = 1, const QString& more = {});
+/// The tree of the layer manager with these records; `more` as above.
+QString layerTree(const QStringList& records, const QString& more = {});
+
+/// The layer manager on the screen, in front of a recording host and command.
+class ManagerDriver
+{
+public:
+    /// `keys` are the members noted with each request.
+    ManagerDriver(ModuleFixture& module, const QString& json, RecordingInvoker::Answer answer = {},
+        const QStringList& keys = {"marker"});
+
+    QTableWidgetItem* cell(int row, int column) const { return table->item(row, column); }
+    QString text(int row, int column) const { return cell(row, column)->text(); }
+    vnsi::VnJsonPtr record(int row) const { return root->GetDataJ("LayerList")(row); }
+    QString recordText(int row) const { return toText(record(row)); }
+    bool isApplyEnabled() const { return button("applyButton")->isEnabled(); }
+    QPushButton* button(const char* name) const;
+    QString label(const char* name) const;
+    QList<int> selectedRows() const;
+    /// Whether the cell shows the bitmap "layer_<name>.bmp".
+    bool shows(int row, int column, const char* name) const;
+
+    void click(int row, int column) const;
+    void doubleClick(int row, int column) const;
+    void select(const QList<int>& rows) const;
+    void press(const char* button) const;
+
+    RecordingHost host;
+    vnsi::VnJsonPtr root;
+    RecordingInvoker::Ptr invoker;
+    vnsi::VnUiModeDialogBasePtr dialog;
+    QTableWidget* table;
+};

@@ -1,0 +1,94 @@
+#include "hostfiledialog.h"
+#include "recordinghost.h"
+#include "trees.h"
+#include "vnstrings.h"
+
+#include <QtTest>
+
+#include <memory>
+
+using namespace vnsi;
+
+class TestFileDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void asksForOneName_data()
+    {
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("chosen") << 1 << R"({"filePath":"/a/层.las"})"
+                                << "/a/层.las";
+        QTest::newRow("chosen without a path") << 1 << "{}"
+                                               << "";
+        QTest::newRow("cancelled, though a path is there") << 2 << R"({"filePath":"/a/b"})"
+                                                           << "untouched";
+        QTest::newRow("no such dialog") << 0 << "{}"
+                                        << "untouched";
+    }
+
+    void asksForOneName()
+    {
+        QFETCH(int, result);
+        QFETCH(QString, answer);
+        RecordingHost host;
+        host.answer(result, answer);
+        OdString path(L"untouched");
+        QCOMPARE(vnqtGetFileName(L"标题", L"plan", L"图 (*.dws;*.dwg;*.dwt)", 5, path), result);
+        QTEST(vnutOdStringToQString(path), "path");
+        QCOMPARE(
+            host.log(), (QStringList{"dialog|Dialog/Common|FileDialogBox|{\"defawlt\":\"plan\","
+                                     "\"filter\":\"图 (*.dws *.dwg *.dwt)\",\"flags\":5,"
+                                     "\"title\":\"标题\"}"}));
+    }
+
+    void navigates_data()
+    {
+        QTest::addColumn<int>("flags");
+        QTest::addColumn<QString>("expected");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QStringList>("paths");
+        const QString several = R"({"filePath":"/a","filePaths":["/a","/b"]})";
+        QTest::newRow("open one") << 0 << R"("MutiFile":false,"Open":true)" << 1 << several
+                                  << QStringList{"/a"};
+        QTest::newRow("save") << 1 << R"("MutiFile":false,"Open":false)" << 1 << several
+                              << QStringList{"/a"};
+        QTest::newRow("several") << 0x1000 << R"("MutiFile":true,"Open":true)" << 1 << several
+                                 << QStringList{"/a", "/b"};
+        QTest::newRow("several allowed, one given")
+            << 0x1003 << R"("MutiFile":true,"Open":false)" << 1 << R"({"filePath":"/a"})"
+            << QStringList{"/a"};
+        QTest::newRow("other bits")
+            << 0x2ffe << R"("MutiFile":false,"Open":true)" << 2 << several << QStringList{};
+    }
+
+    void navigates()
+    {
+        QFETCH(int, flags);
+        QFETCH(QString, expected);
+        QFETCH(int, result);
+        QFETCH(QString, answer);
+        RecordingHost host;
+        host.answer(result, answer);
+        VnResbuf* list = nullptr;
+        QCOMPARE(vnqtGetNavFileName(L"t", L"d", L"c", L"n", L"*.a;*.b", flags, list), result);
+        const std::unique_ptr<VnResbuf, decltype(&vnsiutRelRb)> owned(list, vnsiutRelRb);
+        QStringList paths;
+        for (const VnResbuf* node = list; node; node = node->rbnext) {
+            QCOMPARE(node->restype, 5005);
+            paths.append(QString::fromWCharArray(node->rstring));
+        }
+        QTEST(paths, "paths");
+        QCOMPARE(host.log(), QStringList{"dialog|Dialog/Common|FileNavDialogBox|{" + expected +
+                                         QString(R"(,"caption":"c","defawlt":"d","dlgname":"n",)"
+                                                 R"("filter":"*.a *.b","flags":%1,"title":"t"})")
+                                             .arg(flags)});
+    }
+};
+
+QTEST_MAIN(TestFileDialog)
+
+#include "tst_filedialog.moc"

@@ -1,0 +1,130 @@
+#include "listdriver.h"
+
+#include <QBoxLayout>
+
+using namespace vnsi;
+
+namespace {
+
+const char kName[] = "Dialog/CmdLaydel";
+const char kLayers[] =
+    R"({"IsExistBlock":true,"LayerList":[{"LayerName":"A%1"},{"LayerName":"b"},{"LayerName":"B"}]})";
+
+} // namespace
+
+class TestLaydel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void asksAndMarks_data()
+    {
+        QTest::addColumn<QList<int>>("rows");
+        QTest::addColumn<bool>("inBlocks");
+        QTest::addColumn<QString>("question");
+        QTest::newRow("one")
+            << QList<int>{0} << false
+            << "图层 A%1 将被删除。\n\n此图层上的所有对象或参照此图层的所有对象都将被"
+               "删除。";
+        QTest::newRow("several")
+            << QList<int>{0, 1, 2} << false
+            << "3 图层将被删除。\n\n这些图层上的所有对象或参照这些图层的所有对象都将"
+               "被删除。";
+        QTest::newRow("one in blocks")
+            << QList<int>{0} << true
+            << "将要删除的图层“A%"
+               "1”，该图层在块中被参照。\n将要删除该图层上的所有对象并重定义已参照的"
+               "块。\n\n是否继续？";
+        QTest::newRow("several in blocks")
+            << QList<int>{0, 2} << true
+            << "将要删除 2 "
+               "个图层，其中某些图层在块中被参照。\n将要删除该图层上的所有对象并重定义已参照"
+               "的块。\n\n是否继续？";
+    }
+
+    void asksAndMarks()
+    {
+        QFETCH(QList<int>, rows);
+        QFETCH(bool, inBlocks);
+        QFETCH(QString, question);
+        ListDriver driver(m_module, kName, kLayers, [&](const VnJsonPtr& root) {
+            QVERIFY(!root->GetDataB("IsExistBlock", true)); // What stood there is cleared.
+            if (inBlocks)
+                root->SetDataB("IsExistBlock", true);
+        });
+        driver.host.answer(2);
+        driver.host.answer(1);
+        const int result = driver.run([&](ListDriver& user) {
+            user.select(rows);
+            user.press("okButton"); // Declined first.
+            for (int i = 0; i < 3; ++i) {
+                const VnJsonPtr record = user.root->GetDataJ("LayerList")(i);
+                QCOMPARE(record->GetDataB("IsSelected", !rows.contains(i)), rows.contains(i));
+                QVERIFY(!record->HasKey("CurLayer") && !record->HasKey("Modified"));
+            }
+            QCOMPARE(user.list->selectedItems().size(), rows.size());
+            user.press("okButton");
+        });
+        QCOMPARE(result, 1);
+        QVERIFY(!driver.staysOpen);
+        QCOMPARE(driver.host.log().size(), 4);
+        QVERIFY(driver.host.log()[0].startsWith("request|6|0|"));
+        QCOMPARE(driver.host.log()[1], "messageEx|图层删除 - 删除确认|" + question + "|1|1|32");
+        for (int i = 0; i < 3; ++i) {
+            const VnJsonPtr record = driver.root->GetDataJ("LayerList")(i);
+            QCOMPARE(record->GetDataI("CurLayer", -1), rows.contains(i) ? 2 : -1);
+            QCOMPARE(record->GetDataI("Modified", -1), rows.contains(i) ? 1 : -1);
+        }
+    }
+
+    void doubleClickIsOk()
+    {
+        ListDriver driver(m_module, kName, kLayers);
+        driver.host.answer(1);
+        QCOMPARE(driver.run([](ListDriver& user) { user.doubleClick(1); }), 1);
+        QVERIFY(driver.host.log().last().contains("图层 b 将被删除"));
+        QVERIFY(!driver.root->GetDataJ("LayerList")(2)->HasKey("CurLayer")); // Not "B".
+    }
+
+    void doesNothingUnselected()
+    {
+        ListDriver driver(m_module, kName, kLayers);
+        QCOMPARE(driver.run([](ListDriver& user) {
+            QCOMPARE(user.list->currentRow(), 0);
+            user.list->clearSelection();
+            user.press("okButton");
+            user.press("helpButton");
+            QVERIFY(user.dialog->widget()->isVisible());
+            user.press("cancelButton");
+        }),
+            2);
+        QCOMPARE(driver.host.log(), QStringList{"help|0"});
+        QVERIFY(!driver.staysOpen);
+        QVERIFY(!driver.root->HasKey("marker"));
+    }
+
+    void isLaidOut()
+    {
+        const ListDriver driver(m_module, kName, kLayers);
+        const QWidget* const window = driver.dialog->widget();
+        QCOMPARE(window->windowTitle(), QStringLiteral("删除图层"));
+        QCOMPARE(window->minimumWidth(), 400);
+        QCOMPARE(
+            window->layout()->itemAt(1)->layout()->contentsMargins(), QMargins(15, 15, 15, 15));
+        QCOMPARE(driver.list->selectionMode(), QAbstractItemView::ExtendedSelection);
+        QCOMPARE(driver.texts(), (QStringList{"A%1", "b", "B"}));
+    }
+
+    void staysEmptyWithoutCommand()
+    {
+        const auto dialog = m_module.createDialog(kName, tree(kLayers));
+        QCOMPARE(ModuleFixture::child<QListWidget>(dialog, "layerList")->count(), 0);
+    }
+
+private:
+    ModuleFixture m_module;
+};
+
+QTEST_MAIN(TestLaydel)
+
+#include "tst_laydel.moc"

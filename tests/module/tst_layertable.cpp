@@ -1,0 +1,355 @@
+#include "managerdriver.h"
+#include "vndocument.h"
+#include "vnstrings.h"
+
+#include <QHeaderView>
+#include <QtTest>
+
+using namespace vnsi;
+
+class TestLayerTable : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isSetUp()
+    {
+        const ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
+        const QStringList headers{"状态", "名称", "开", "冻结", "锁定", "颜色", "线型", "线宽",
+            "透明度", "打印样式", "打印", "新视口冻结", "说明"};
+        const QList<int> alignments{
+            129, 129, 132, 132, 132, 132, 129, 129, 129, 129, 132, 132, 129};
+        QCOMPARE(manager.table->columnCount(), headers.size());
+        for (int column = 0; column < headers.size(); ++column) {
+            QCOMPARE(manager.table->horizontalHeaderItem(column)->text(), headers[column]);
+            QCOMPARE(manager.cell(0, column)->textAlignment(), alignments[column]);
+            QVERIFY(!(manager.cell(0, column)->flags() & Qt::ItemIsEditable));
+        }
+        QCOMPARE(manager.table->selectionBehavior(), QAbstractItemView::SelectRows);
+        QVERIFY(manager.table->verticalHeader()->isHidden());
+        QVERIFY(!manager.table->horizontalHeader()->highlightSections());
+        QVERIFY(manager.table->hasFocus());
+    }
+
+    void showsIcon_data()
+    {
+        QTest::addColumn<QString>("record");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QByteArray>("icon");
+        const auto row = [](const char* name, const QString& record, int column, const char* icon) {
+            QTest::newRow(name) << record << column << QByteArray(icon);
+        };
+        row("current", R"({"CurLayer":0})", 0, "current");
+        row("ordinary", R"({"CurLayer":1})", 0, "nocurrent");
+        row("deleted", R"({"CurLayer":2,"Off":true})", 0, "deleted");
+        row("other status", R"({"CurLayer":5})", 0, "nocurrent");
+        row("no status", "{}", 0, "current");
+        row("status of another type", R"({"CurLayer":"2"})", 0, "current");
+        row("off of a deleted layer", R"({"CurLayer":2,"Off":true})", 2, "off");
+        row("on", R"({"Off":false})", 2, "on");
+        row("off of another type", R"({"Off":1})", 2, "on");
+        row("frozen", R"({"Frozen":true})", 3, "frozed");
+        row("thawed", "{}", 3, "thaw");
+        row("locked", R"({"Lock":true})", 4, "lock");
+        row("unlocked", R"({"Lock":false})", 4, "unlock");
+        row("plotted", R"({"Print":true})", 10, "print");
+        row("not plotted", "{}", 10, "noprint");
+        row("frozen in viewports", R"({"VPortFrozen":true})", 11, "allfrozed");
+        row("thawed in viewports", R"({"VPortFrozen":false})", 11, "allthaw");
+    }
+
+    void showsIcon()
+    {
+        QFETCH(QString, record);
+        QFETCH(int, column);
+        QFETCH(QByteArray, icon);
+        const ManagerDriver manager(m_module, layerTree({record}));
+        QVERIFY(manager.shows(0, column, icon.constData()));
+        QVERIFY(manager.text(0, column).isEmpty());
+    }
+
+    void showsText_data()
+    {
+        QTest::addColumn<QString>("record");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char* name, const char* record, int column, const char* text) {
+            QTest::newRow(name) << record << column << QString(text);
+        };
+        row("name", R"({"LayerName":"<b>墙&"})", 1, "<b>墙&");
+        row("name of another type", R"({"LayerName":7})", 1, "");
+        row("linetype", R"({"linetype":{"name":"DASHED"}})", 6, "DASHED");
+        row("linetype not nested", R"({"linetype":"DASHED"})", 6, "");
+        row("default weight", R"({"LineWidth":-3})", 7, "默认");
+        row("weight by layer", R"({"LineWidth":-1})", 7, "ByLayer");
+        row("weight by block", R"({"LineWidth":-2})", 7, "ByBlock");
+        row("weight 0", R"({"LineWidth":0})", 7, "0.00 mm");
+        row("weight 5", R"({"LineWidth":5})", 7, "0.05 mm");
+        row("weight 211", R"({"LineWidth":211})", 7, "2.11 mm");
+        row("no weight", "{}", 7, "0.00 mm");
+        row("transparency", R"({"Transparency":35})", 8, "35");
+        row("no transparency", "{}", 8, "0");
+        row("plot style", R"({"PlotStyle":"Color_7"})", 9, "Color_7");
+        row("description", R"({"Description":"两\n行"})", 12, "两\n行");
+    }
+
+    void showsText()
+    {
+        QFETCH(QString, record);
+        QFETCH(int, column);
+        const ManagerDriver manager(m_module, layerTree({record}));
+        QTEST(manager.text(0, column), "text");
+    }
+
+    void showsColor_data()
+    {
+        QTest::addColumn<QString>("color");
+        QTest::addColumn<QColor>("swatch");
+        QTest::newRow("index") << R"({"clrMethod":195,"selectClr":1})" << QColor(255, 0, 0);
+        QTest::newRow("index, low bits count")
+            << R"({"clrMethod":195,"selectClr":131075})" << QColor(0, 255, 0);
+        QTest::newRow("true colour, red lowest")
+            << R"({"clrMethod":194,"selectClr":3351057})" << QColor(0x11, 0x22, 0x33);
+        QTest::newRow("unknown method")
+            << R"({"clrMethod":7,"selectClr":255})" << QColor(255, 0, 0);
+        QTest::newRow("missing") << "{}" << QColor(0, 0, 0);
+    }
+
+    void showsColor()
+    {
+        QFETCH(QString, color);
+        QFETCH(QColor, swatch);
+        const ManagerDriver manager(m_module, layerTree({R"({"Color":)" + color + "}"}));
+        const QImage image = manager.cell(0, 5)->icon().pixmap(16, 16).toImage();
+        QCOMPARE(image.size(), QSize(16, 16));
+        QCOMPARE(image.pixelColor(0, 0), swatch);
+        QCOMPARE(image.pixelColor(15, 15), swatch);
+        OdCmColor shown(static_cast<OdUInt8>(swatch.red()), static_cast<OdUInt8>(swatch.green()),
+            static_cast<OdUInt8>(swatch.blue()));
+        const VnJsonPtr given = tree(color);
+        if (given->GetDataI("clrMethod") == 195)
+            shown.setColorIndex(static_cast<OdInt16>(given->GetDataI("selectClr")));
+        QCOMPARE(manager.text(0, 5), vnutOdStringToQString(formatColor(shown, {}, {})));
+    }
+
+    void fillsLabels_data()
+    {
+        QTest::addColumn<QString>("json");
+        QTest::addColumn<QString>("current");
+        QTest::addColumn<QString>("count");
+        QTest::newRow("layers") << layerTree({layer("A"), layer("<i>墙", 0)}) << "当前图层：<i>墙"
+                                << "全部：共2个图层";
+        QTest::newRow("last of two current ones")
+            << layerTree({layer("A", 0), layer("B", 0)}) << "当前图层：B"
+            << "全部：共2个图层";
+        QTest::newRow("none current") << layerTree({layer("A")}) << "当前图层："
+                                      << "全部：共1个图层";
+        QTest::newRow("empty list") << layerTree({}) << "当前图层："
+                                    << "全部：共0个图层";
+        QTest::newRow("no list") << "{}"
+                                 << "当前图层："
+                                 << "共  个图层";
+        QTest::newRow("list of another type") << R"({"LayerList":"A"})"
+                                              << "当前图层："
+                                              << "共  个图层";
+        QTest::newRow("no tree") << ""
+                                 << "当前图层："
+                                 << "共  个图层";
+    }
+
+    void fillsLabels()
+    {
+        QFETCH(QString, json);
+        const ManagerDriver manager(m_module, json);
+        QTEST(manager.label("currentLayerLabel"), "current");
+        QTEST(manager.label("layerCountLabel"), "count");
+    }
+
+    void appliesColumnWidths_data()
+    {
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<QList<int>>("widths");
+        QTest::newRow("short") << "[90,120]" << QList<int>{90, 120, -1};
+        QTest::newRow("long") << "[90,80,70,60,50,60,70,80,90,80,70,60,50,99,98]"
+                              << QList<int>{90, 80, 70, 60, 50, 60, 70, 80, 90, 80, 70, 60, 50};
+        QTest::newRow("elements of other types")
+            << R"(["x",77,null,88])" << QList<int>{-1, 77, -1, 88};
+        QTest::newRow("no array") << R"({"0":90})" << QList<int>{-1, -1};
+        QTest::newRow("absurd") << "[2147483647,-5]" << QList<int>{-1, -1};
+    }
+
+    void appliesColumnWidths()
+    {
+        QFETCH(QString, list);
+        QFETCH(QList<int>, widths);
+        const QStringList records{layer("0", 0)};
+        const ManagerDriver plain(m_module, layerTree(records));
+        const ManagerDriver manager(m_module, layerTree(records, R"(,"ColumnWidthList":)" + list));
+        for (int column = 0; column < widths.size(); ++column) {
+            const int natural = plain.table->columnWidth(column);
+            QCOMPARE(
+                manager.table->columnWidth(column), widths[column] < 0 ? natural : widths[column]);
+        }
+    }
+
+    void appliesColumnWidthsWithoutLayers()
+    {
+        const ManagerDriver manager(m_module, R"({"ColumnWidthList":[123]})");
+        QCOMPARE(manager.table->columnWidth(0), 123);
+        QCOMPARE(manager.table->rowCount(), 0);
+    }
+
+    void clicksCell_data()
+    {
+        QTest::addColumn<int>("row"); // 0 is the current layer.
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<QString>("after"); // Empty where nothing changes.
+        QTest::addColumn<bool>("marks");
+        const auto row = [](const char* name, int r, int column, const char* before, int answer,
+                             const char* asked, const char* after, bool marks) {
+            QTest::newRow(name) << r << column << before << answer << asked << after << marks;
+        };
+        const char* const off =
+            "message|当前图层将被关闭。\n是否要使当前图层保持打开状态?\n|Quenlith|68";
+        const char* const frozen = "message|不能冻结当前图层\n|Quenlith|64";
+        row("status", 1, 0, "{}", 0, "", "", false);
+        row("name", 1, 1, "{}", 0, "", "", false);
+        row("turn off", 1, 2, "{}", 0, "", R"({"Off":true})", true);
+        row("turn on", 1, 2, R"({"Off":true})", 0, "", R"({"Off":false})", true);
+        row("keep current on", 0, 2, R"({"Off":false})", 6, off, "", false);
+        row("turn current off", 0, 2, R"({"Off":false})", 7, off, R"({"Off":true})", true);
+        row("current off, box closed", 0, 2, "{}", 0, off, R"({"Off":true})", true);
+        row("turn current on", 0, 2, R"({"Off":true})", 0, "", R"({"Off":false})", true);
+        row("freeze", 1, 3, "{}", 0, "", R"({"Frozen":true})", true);
+        row("freeze current", 0, 3, "{}", 0, frozen, "", false);
+        row("thaw current", 0, 3, R"({"Frozen":true})", 0, frozen, "", false);
+        row("lock", 0, 4, "{}", 0, "", R"({"Lock":true})", true);
+        row("linetype", 1, 6, "{}", 0, "", "", true);
+        row("lineweight", 0, 7, "{}", 0, "", "", true);
+        row("plot style", 1, 9, "{}", 0, "", "", false);
+        row("plot", 1, 10, R"({"Print":true})", 0, "", R"({"Print":false})", true);
+        row("viewports", 0, 11, "{}", 0, "", R"({"VPortFrozen":true})", true);
+        row("description", 1, 12, "{}", 0, "", "", false);
+    }
+
+    void clicksCell()
+    {
+        QFETCH(int, row);
+        QFETCH(int, column);
+        QFETCH(QString, before);
+        QFETCH(int, answer);
+        QFETCH(QString, asked);
+        QFETCH(QString, after);
+        QFETCH(bool, marks);
+        ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B", 1)}));
+        merge(manager.record(row), before);
+        QJsonObject expected = toJsonObject(manager.record(row));
+        if (asked.endsWith("|68"))
+            manager.host.answer(answer);
+
+        manager.click(row, column);
+
+        const QJsonObject changes = toJsonObject(tree(after.isEmpty() ? "{}" : after));
+        for (auto change = changes.begin(); change != changes.end(); ++change)
+            expected.insert(change.key(), change.value());
+        if (marks)
+            expected.insert("Modified", true);
+        QCOMPARE(toJsonObject(manager.record(row)), expected);
+        QCOMPARE(manager.host.log().join('#'), asked);
+        QCOMPARE(manager.isApplyEnabled(), marks);
+    }
+
+    void togglesIcon()
+    {
+        const ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B")}));
+        manager.click(1, 2);
+        QVERIFY(manager.shows(1, 2, "off"));
+        manager.click(1, 2);
+        QVERIFY(manager.shows(1, 2, "on"));
+        manager.click(1, 11);
+        QVERIFY(manager.shows(1, 11, "allfrozed"));
+        QCOMPARE(manager.cell(1, 11)->textAlignment(), 132);
+        QVERIFY(!(manager.cell(1, 11)->flags() & Qt::ItemIsEditable));
+    }
+
+    void choosesColor_data()
+    {
+        QTest::addColumn<QString>("color");
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QColor>("swatch");
+        const QString index = R"({"clrMethod":195,"selectClr":3})";
+        const QString askedIndex =
+            R"({"clrMethod":195,"isByBLockEnable":0,"isByLayerEnable":0,"selectClr":3})";
+        QTest::newRow("index to true colour")
+            << index << askedIndex << 1 << R"({"clrMethod":194,"selectClr":255})"
+            << R"({"clrMethod":194,"selectClr":255})" << QColor(255, 0, 0);
+        QTest::newRow("cancelled")
+            << index << askedIndex << 2 << R"({"selectClr":5})" << index << QColor(0, 255, 0);
+        QTest::newRow("answers nothing")
+            << index << askedIndex << 1 << R"({"selectClr":null,"clrMethod":null})"
+            << R"({"clrMethod":0,"selectClr":-1})" << QColor(255, 255, 255);
+        QTest::newRow("only the index of an index is handed on")
+            << R"({"clrMethod":195,"selectClr":65539})" << askedIndex << 2 << "{}"
+            << R"({"clrMethod":195,"selectClr":65539})" << QColor(0, 255, 0);
+        QTest::newRow("true colour to index")
+            << R"({"clrMethod":194,"selectClr":255})"
+            << R"({"clrMethod":194,"isByBLockEnable":0,"isByLayerEnable":0,"selectClr":255})" << 1
+            << R"({"clrMethod":195,"selectClr":5})"
+            << R"({"clrMethod":195,"selectClr":5})" << QColor(0, 0, 255);
+    }
+
+    void choosesColor()
+    {
+        QFETCH(QString, color);
+        QFETCH(QString, asked);
+        QFETCH(int, result);
+        QFETCH(QString, answer);
+        ManagerDriver manager(
+            m_module, layerTree({layer("A", 0), layer("B", 1, R"(,"Color":)" + color)}));
+        manager.host.answer(result, answer);
+        manager.click(1, 5);
+        QCOMPARE(manager.host.log(), QStringList{"dialog|Dialog/Common|ColorDialog|" + asked});
+        QTEST(toText(manager.record(1)->GetDataJ("Color")), "stored");
+        QTEST(manager.cell(1, 5)->icon().pixmap(16, 16).toImage().pixelColor(8, 8), "swatch");
+        QVERIFY(manager.record(1)->GetDataB("Modified")); // Also when cancelled.
+        QVERIFY(manager.isApplyEnabled());
+    }
+
+    void keepsSelectionBelowLastRow()
+    {
+        const ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B"), layer("C")}));
+        manager.select({1});
+        const QRect last = manager.table->visualItemRect(manager.cell(2, 1));
+        QTest::mouseClick(manager.table->viewport(), Qt::LeftButton, Qt::NoModifier,
+            last.bottomLeft() + QPoint(5, 40));
+        QCOMPARE(manager.selectedRows(), QList<int>{1});
+        manager.click(2, 1);
+        QCOMPARE(manager.selectedRows(), QList<int>{2});
+    }
+
+    void survivesStrangeRecords()
+    {
+        ManagerDriver manager(m_module, R"({"LayerList":[5,null,"x",[],{}]})");
+        QCOMPARE(manager.table->rowCount(), 5);
+        for (int column = 2; column < 12; ++column) {
+            if (column != 5 && column != 8)
+                manager.click(0, column);
+        }
+        manager.select({0, 1, 2, 3, 4});
+        manager.press("setCurrentButton");
+        manager.press("applyButton");
+    }
+
+private:
+    ModuleFixture m_module;
+};
+
+QTEST_MAIN(TestLayerTable)
+
+#include "tst_layertable.moc"

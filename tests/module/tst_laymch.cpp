@@ -1,0 +1,111 @@
+#include "listdriver.h"
+
+namespace {
+
+const char kName[] = "Dialog/CmdLaymch";
+const char kLayers[] = R"({"LayerList":[{"LayerName":"0"},{"LayerName":"Layer1"}]})";
+const char kUnchanged[] = R"([{"LayerName":"0"},{"LayerName":"Layer1"}])";
+
+} // namespace
+
+class TestLaymch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void choosesTarget_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("answer"); // 0: nothing is asked.
+        QTest::addColumn<QString>("log");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("after");
+        const QString unsupported = "message|\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  "
+                                    "\\<>/\":;?*|,=`|图层-不支持的字符|0";
+        const QString empty = "message|\n图层名至少必须包含一个字符。|图层名无效|0";
+        const QString create =
+            "messageEx|是否创建图层？|\n图层\"新%1\"不存在。\n是否创建它？|4|1|32";
+        QTest::newRow("listed") << "Layer1" << 0 << "" << 1
+                                << R"([{"LayerName":"0"},{"CurLayer":4,"LayerName":"Layer1",)"
+                                   R"("Modified":1}])";
+        QTest::newRow("listed in other case") << "LAYER1" << 0 << "" << 1 << kUnchanged;
+        QTest::newRow("new") << "新%1" << 6 << create << 1
+                             << R"([{"LayerName":"0"},{"CurLayer":3,"LayerName":"Layer1",)"
+                                R"("Modified":1,"NewLayer":"新%1"}])";
+        QTest::newRow("new, declined") << "新%1" << 7 << create << 2 << kUnchanged;
+        QTest::newRow("empty") << "" << 0 << empty << 2 << kUnchanged;
+        QTest::newRow("only blanks") << " \t " << 0 << empty << 2 << kUnchanged;
+        QTest::newRow("blank inside") << "my layer" << 0 << unsupported << 2 << kUnchanged;
+        QTest::newRow("blank around a listed name")
+            << " Layer1" << 0 << unsupported << 2 << kUnchanged;
+        for (const QChar c : QStringLiteral("\\<>/\":;?*|,=`"))
+            QTest::newRow(qPrintable("forbidden " + QString(c)))
+                << QString(c) << 0 << unsupported << 2 << kUnchanged;
+        QTest::newRow("too long for a new layer")
+            << QString(256, 'x') << 0 << "message|\n图层名最多只能包含 255 个字符。|图层名无效|0"
+            << 2 << kUnchanged;
+    }
+
+    void choosesTarget()
+    {
+        QFETCH(QString, typed);
+        QFETCH(int, answer);
+        ListDriver driver(m_module, kName, kLayers);
+        if (answer)
+            driver.host.answer(answer);
+        const int result = driver.run([&](ListDriver& user) {
+            user.edit()->setText(typed);
+            user.press("okButton");
+        });
+        QTEST(result, "result");
+        QTEST(driver.host.log().join('#'), "log");
+        QTEST(driver.listText(), "after");
+        QCOMPARE(driver.staysOpen, result == 2);
+    }
+
+    void copiesListedName()
+    {
+        ListDriver driver(m_module, kName, kLayers);
+        QCOMPARE(driver.run([](ListDriver& user) {
+            QCOMPARE(user.edit()->text(), QStringLiteral("0"));
+            QTest::keyClick(user.list, Qt::Key_Down);
+            QCOMPARE(user.edit()->text(), QStringLiteral("Layer1"));
+            user.edit()->setText("other");
+            user.select({1}); // A click on the current item copies it again.
+            QCOMPARE(user.edit()->text(), QStringLiteral("Layer1"));
+            user.press("helpButton");
+            user.doubleClick(0);
+        }),
+            1);
+        QCOMPARE(driver.host.log(), QStringList{"help|0"}); // No request is sent.
+        QCOMPARE(driver.root->GetDataJ("LayerList")(0)->GetDataI("CurLayer"), 4);
+    }
+
+    void isLaidOut()
+    {
+        const ListDriver driver(m_module, kName, kLayers);
+        QCOMPARE(driver.dialog->widget()->windowTitle(), QStringLiteral("更改到图层"));
+        QCOMPARE(driver.dialog->widget()->minimumWidth(), 400);
+        QCOMPARE(driver.edit()->focusPolicy(), Qt::ClickFocus);
+        QCOMPARE(driver.list->selectionMode(), QAbstractItemView::SingleSelection);
+    }
+
+    void createsWithoutAnyRecord()
+    {
+        ListDriver driver(m_module, kName, R"({"LayerList":[]})");
+        driver.host.answer(6);
+        QCOMPARE(driver.run([](ListDriver& user) {
+            user.edit()->setText("x");
+            user.press("okButton");
+        }),
+            1);
+        QCOMPARE(driver.listText(), QStringLiteral("[]"));
+    }
+
+private:
+    ModuleFixture m_module;
+};
+
+QTEST_MAIN(TestLaymch)
+
+#include "tst_laymch.moc"

@@ -1,0 +1,139 @@
+#include "listdriver.h"
+
+namespace {
+
+const char kName[] = "Dialog/CmdLaymrg";
+
+/// Layers A, B, B, b and one without a name; the first `sources` are merged.
+QString layers(bool isFrom, int sources = 0, int blocks = 0)
+{
+    QStringList records;
+    for (const char* name : {"A", "B", "B", "b", ""}) {
+        QString more;
+        if (records.isEmpty())
+            more = QStringLiteral(R"(,"IsFrom":%1,"blockrefcout":%2)")
+                       .arg(isFrom ? "true" : "false")
+                       .arg(blocks);
+        if (records.size() < sources)
+            more += R"(,"SoucLayer":true)";
+        records.append(QStringLiteral(R"({"LayerName":"%1"%2})").arg(name).arg(more));
+    }
+    return QStringLiteral(R"({"LayerList":[%1]})").arg(records.join(','));
+}
+
+QList<int> marks(const ListDriver& driver)
+{
+    QList<int> all;
+    for (int i = 0; i < driver.list->count(); ++i) {
+        const vnsi::VnJsonPtr record = driver.root->GetDataJ("LayerList")(i);
+        all.append(record->GetDataI("Modified") ? record->GetDataI("CurLayer") : 0);
+    }
+    return all;
+}
+
+} // namespace
+
+class TestLaymrg : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void marksSources()
+    {
+        ListDriver driver(m_module, kName, layers(true));
+        QCOMPARE(driver.dialog->widget()->windowTitle(), QStringLiteral("合并图层"));
+        QVERIFY(!driver.dialog->widget()->findChild<QLineEdit*>());
+        QCOMPARE(driver.list->selectionMode(), QAbstractItemView::ExtendedSelection);
+        QCOMPARE(driver.run([](ListDriver& user) {
+            user.list->clearSelection();
+            user.press("okButton");
+            QVERIFY(user.dialog->widget()->isVisible());
+            user.select({0, 3});
+            user.press("okButton");
+        }),
+            1);
+        QCOMPARE(marks(driver), (QList<int>{5, 0, 0, 5, 0}));
+        QVERIFY(driver.host.log().isEmpty());
+    }
+
+    void refusesTarget_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("log");
+        const QString unsupported = "message|\n名称 包含不支持的字符。\n\n\n不支持以下字符:  "
+                                    "\\<>/\":;?*|,=`|图层-不支持的字符|0";
+        QTest::newRow("forbidden, also unknown") << "x/y" << unsupported;
+        QTest::newRow("unknown") << "x"
+                                 << "message|图层名无效|Quenlith|0";
+        QTest::newRow("other case") << "a"
+                                    << "message|图层名无效|Quenlith|0";
+        QTest::newRow("listed, but empty")
+            << ""
+            << "message|\n\n图层名至少必须包含一个字符。|图层名无效。|0";
+    }
+
+    void refusesTarget()
+    {
+        QFETCH(QString, typed);
+        ListDriver driver(m_module, kName, layers(false, 1));
+        const int result = driver.run([&](ListDriver& user) {
+            user.edit()->setText(typed);
+            user.press("okButton");
+        });
+        QCOMPARE(result, 2);
+        QTEST(driver.host.log().join('#'), "log");
+        QCOMPARE(marks(driver), (QList<int>{0, 0, 0, 0, 0}));
+    }
+
+    void confirmsTarget_data()
+    {
+        QTest::addColumn<int>("sources");
+        QTest::addColumn<int>("blocks");
+        QTest::addColumn<QString>("question");
+        const QString plain = "。\n\n是否继续？";
+        const QString redefines = "。\n将重定义已合并图层中参照的所用块。\n\n是否继续？";
+        QTest::newRow("one") << 1 << 0 << "\n将要把图层 A 合并到图层 B" + plain;
+        QTest::newRow("none") << 0 << 1 << "\n将要把图层  合并到图层 B" + redefines;
+        QTest::newRow("two") << 2 << -1 << "\n将要把 2 个图层合并到图层 B" + plain;
+        QTest::newRow("three in blocks") << 3 << 2 << "\n将要把 3 个图层合并到图层 B" + redefines;
+    }
+
+    void confirmsTarget()
+    {
+        QFETCH(int, sources);
+        QFETCH(int, blocks);
+        QFETCH(QString, question);
+        ListDriver driver(m_module, kName, layers(false, sources, blocks));
+        QCOMPARE(driver.dialog->widget()->windowTitle(), QStringLiteral("合并到图层"));
+        driver.host.answer(7);
+        driver.host.answer(6);
+        const QList<int> marked{0, 11, 0, 0, 0}; // Only the first of that name.
+        const int result = driver.run([&](ListDriver& user) {
+            QCOMPARE(user.edit()->text(), QStringLiteral("A"));
+            user.select({1});
+            user.press("okButton");
+            QVERIFY(user.dialog->widget()->isVisible());
+            QCOMPARE(marks(user), marked); // Declined, and still marked.
+            user.doubleClick(1);
+        });
+        QCOMPARE(result, 1);
+        QCOMPARE(marks(driver), marked);
+        QCOMPARE(driver.host.log().first(), "messageEx|合并到图层|" + question + "|4|1|32");
+    }
+
+    void keepsItsModeForNewData()
+    {
+        ListDriver driver(m_module, kName, layers(true));
+        driver.root = tree(layers(false));
+        driver.dialog->setData(driver.root, {});
+        QCOMPARE(driver.run([](ListDriver& user) { user.press("okButton"); }), 1);
+        QCOMPARE(marks(driver), (QList<int>{5, 0, 0, 0, 0}));
+    }
+
+private:
+    ModuleFixture m_module;
+};
+
+QTEST_MAIN(TestLaymrg)
+
+#include "tst_laymrg.moc"
