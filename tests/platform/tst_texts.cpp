@@ -97,13 +97,6 @@ private slots:
         QCOMPARE(OdStringToUtf8String(text).c_str(), "a\xef\xbf\xbd\xef\xbf\xbd");
     }
 
-    void replacesCharacters()
-    {
-        OdAnsiString name("Dialog/CmdLaywalk/Verify");
-        QCOMPARE(name.replace('/', '_'), 2);
-        QCOMPARE(name.c_str(), "Dialog_CmdLaywalk_Verify");
-    }
-
     void knowsIndexColors_data()
     {
         QTest::addColumn<int>("index");
@@ -132,16 +125,6 @@ private slots:
         color.setColorMethod(OdCmEntityColor::kByACI);
         color.setColorIndex(static_cast<OdInt16>(index));
         QCOMPARE(static_cast<unsigned>(color.red() << 16 | color.green() << 8 | color.blue()), rgb);
-    }
-
-    void forgetsIndexForTrueColor()
-    {
-        OdCmColor color;
-        color.setColorIndex(3);
-        color.setRGB(1, 2, 3);
-        QCOMPARE(color.colorMethod(), OdCmEntityColor::kByColor);
-        QCOMPARE(color.colorIndex(), OdInt16(0));
-        QCOMPARE(color.blue(), OdUInt8(3));
     }
 };
 
