@@ -1,11 +1,17 @@
 #include "canvas.h"
 
+#include "canvaspick.h"
+
+#include <QApplication>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -14,6 +20,7 @@ constexpr qint64 kFluentMilliseconds = 60;
 constexpr int kSettleMilliseconds = 120;
 /// Beyond this many vertices smooth lines cost more than they show.
 constexpr std::size_t kSmoothVertices = 400'000;
+constexpr double kReachPixels = 4; ///< How far from a line a click still hits it.
 
 } // namespace
 
@@ -53,12 +60,32 @@ void Canvas::setDark(bool dark)
 void Canvas::updateLooks()
 {
     m_looks = m_geometry ? looksOf(*m_geometry, m_layers, m_dark) : std::vector<GroupLook>();
+    setSelection(m_selection);
     invalidate();
+}
+
+void Canvas::setSelection(std::vector<int> entities)
+{
+    std::sort(entities.begin(), entities.end());
+    entities.erase(std::unique(entities.begin(), entities.end()), entities.end());
+    if (m_geometry && !entities.empty())
+        entities = CanvasPick(*m_geometry, m_looks).shown(entities);
+    else
+        entities.clear();
+    if (m_geometry)
+        m_highlight.collect(*m_geometry, m_looks, entities);
+    const bool isSame = entities == m_selection;
+    m_selection = std::move(entities);
+    m_overlay.stale = true;
+    update();
+    if (!isSame)
+        emit selectionChanged(static_cast<int>(m_selection.size()));
 }
 
 void Canvas::invalidate()
 {
-    m_stale = true;
+    m_frame.stale = true;
+    m_overlay.stale = true;
     update();
 }
 
@@ -94,43 +121,120 @@ void Canvas::viewMoved()
     invalidate();
 }
 
+/// Makes room for a picture of the present view.
+void Canvas::prepare(Picture& picture, QImage::Format format, const QColor& ground)
+{
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = size() * ratio;
+    if (picture.image.size() != pixels)
+        picture.image = QImage(pixels, format);
+    picture.image.setDevicePixelRatio(ratio);
+    picture.image.fill(ground);
+    picture.view = m_view;
+    picture.stale = false;
+}
+
+void Canvas::renderHighlight()
+{
+    prepare(m_overlay, QImage::Format_ARGB32_Premultiplied, Qt::transparent);
+    QPainter painter(&m_overlay.image);
+    m_highlight.paint(painter, *m_geometry, m_view);
+}
+
 void Canvas::render()
 {
     QElapsedTimer timer;
     timer.start();
-    const qreal ratio = devicePixelRatioF();
-    const QSize pixels = size() * ratio;
-    if (m_frame.size() != pixels)
-        m_frame = QImage(pixels, QImage::Format_RGB32);
-    m_frame.setDevicePixelRatio(ratio);
-    m_frame.fill(m_dark ? Qt::black : Qt::white);
+    prepare(m_frame, QImage::Format_RGB32, m_dark ? Qt::black : Qt::white);
     if (m_geometry) {
         std::size_t vertices = 0;
         for (std::size_t i = 0; i < m_looks.size(); ++i)
             vertices += m_looks[i].visible ? m_geometry->groups[i].vertices.size() : 0;
-        QPainter painter(&m_frame);
+        QPainter painter(&m_frame.image);
         painter.setRenderHint(QPainter::Antialiasing, vertices < kSmoothVertices);
         m_painter.paint(painter, *m_geometry, m_looks, m_view);
     }
-    m_frameView = m_view;
-    m_stale = false;
     m_renderMilliseconds = timer.elapsed();
 }
 
 void Canvas::paintEvent(QPaintEvent*)
 {
-    if (m_stale || m_frame.isNull())
+    if (m_frame.stale || m_frame.image.isNull())
         render();
     QPainter painter(this);
-    if (m_frameView == m_view) {
-        painter.drawImage(0, 0, m_frame);
+    if (!(m_frame.view == m_view))
+        painter.fillRect(rect(), m_dark ? Qt::black : Qt::white);
+    drawPicture(painter, m_frame);
+    if (!m_selection.empty()) {
+        if (m_overlay.stale || m_overlay.image.isNull())
+            renderHighlight();
+        drawPicture(painter, m_overlay);
+    }
+    if (m_windowing)
+        drawWindow(painter);
+}
+
+/// A picture of another view is moved to where it belongs until there is a new one.
+void Canvas::drawPicture(QPainter& painter, const Picture& picture) const
+{
+    if (picture.view == m_view) {
+        painter.drawImage(0, 0, picture.image);
         return;
     }
-    // The picture drawn last, moved to where it belongs until there is a new one.
-    painter.fillRect(rect(), m_dark ? Qt::black : Qt::white);
-    const QPointF corner = m_view.toScreen(m_frameView.toDrawing({0, 0}));
-    const double zoom = m_view.scale() / m_frameView.scale();
-    painter.drawImage(QRectF(corner, QSizeF(m_frameView.size()) * zoom), m_frame);
+    const QPointF corner = m_view.toScreen(picture.view.toDrawing({0, 0}));
+    const double zoom = m_view.scale() / picture.view.scale();
+    painter.drawImage(QRectF(corner, QSizeF(picture.view.size()) * zoom), picture.image);
+}
+
+void Canvas::drawWindow(QPainter& painter) const
+{
+    const bool isCrossing = m_windowTo.x() < m_windowFrom.x();
+    QColor color(isCrossing ? 0x2ea043 : 0x3d9bff);
+    painter.setPen(QPen(color, 1, isCrossing ? Qt::DashLine : Qt::SolidLine));
+    color.setAlpha(40);
+    painter.setBrush(color);
+    painter.drawRect(QRect(m_windowFrom, m_windowTo).normalized());
+}
+
+std::vector<int> Canvas::picked(const QPoint& from, const QPoint& to) const
+{
+    const CanvasPick pick(*m_geometry, m_looks);
+    if (!m_windowing) {
+        const int entity = pick.nearest(m_view.toDrawing(to), kReachPixels / m_view.scale());
+        return entity < 0 ? std::vector<int>() : std::vector<int>{entity};
+    }
+    drawing::Box box;
+    box.add(m_view.toDrawing(from));
+    box.add(m_view.toDrawing(to));
+    return pick.within(
+        box, to.x() < from.x() ? CanvasPick::Mode::Crossing : CanvasPick::Mode::Inside);
+}
+
+void Canvas::pick(const QPoint& from, const QPoint& to, bool adds)
+{
+    if (!m_geometry)
+        return;
+    std::vector<int> found = picked(from, to);
+    if (!adds) {
+        setSelection(std::move(found));
+        return;
+    }
+    std::vector<int> all;
+    // What is clicked a second time goes.
+    if (m_windowing)
+        std::set_union(m_selection.begin(), m_selection.end(), found.begin(), found.end(),
+            std::back_inserter(all));
+    else
+        std::set_symmetric_difference(m_selection.begin(), m_selection.end(), found.begin(),
+            found.end(), std::back_inserter(all));
+    setSelection(std::move(all));
+}
+
+void Canvas::endWindow()
+{
+    m_pressed = false;
+    m_windowing = false;
+    update();
 }
 
 void Canvas::resizeEvent(QResizeEvent*)
@@ -155,6 +259,11 @@ void Canvas::wheelEvent(QWheelEvent* event)
 
 void Canvas::mousePressEvent(QMouseEvent* event)
 {
+    if (event->button() == Qt::LeftButton) {
+        m_pressed = true;
+        m_windowFrom = event->pos();
+        return;
+    }
     if (event->button() != Qt::MiddleButton)
         return QWidget::mousePressEvent(event);
     m_panning = true;
@@ -169,15 +278,35 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
         m_panFrom = event->pos();
         viewMoved();
     }
+    if (m_pressed) {
+        m_windowTo = event->pos();
+        m_windowing = m_windowing || (m_windowTo - m_windowFrom).manhattanLength() >=
+                                         QApplication::startDragDistance();
+        update();
+    }
     emit cursorMoved(m_view.toDrawing(event->localPos()));
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (event->button() == Qt::LeftButton && m_pressed) {
+        pick(m_windowFrom, event->pos(), event->modifiers() & Qt::ControlModifier);
+        endWindow();
+        return;
+    }
     if (event->button() != Qt::MiddleButton)
         return QWidget::mouseReleaseEvent(event);
     m_panning = false;
     setCursor(Qt::CrossCursor);
+}
+
+void Canvas::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape)
+        return QWidget::keyPressEvent(event);
+    if (!m_pressed)
+        clearSelection();
+    endWindow();
 }
 
 void Canvas::mouseDoubleClickEvent(QMouseEvent* event)

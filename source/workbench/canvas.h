@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvashighlight.h"
 #include "canvasview.h"
 #include "geometry.h"
 #include "grouplook.h"
@@ -12,7 +13,10 @@
 #include <memory>
 
 /// Shows a drawing's model space: wheel zooms at the cursor, the middle button pans, a double click
-/// of it zooms to the extents.
+/// of it zooms to the extents. The left button selects: a click what is there, a window drawn to
+/// the right what lies in it, to the left what reaches into it; Ctrl adds, and takes out what is
+/// clicked again; Esc clears. What is on layers not shown cannot be selected, what is on locked
+/// layers can.
 ///
 /// Geometry is handed in once; layers switching on, off or changing colour only choose anew which
 /// of its groups to draw and how.
@@ -23,7 +27,8 @@ class Canvas : public QWidget
 public:
     explicit Canvas(QWidget* parent = nullptr);
 
-    /// Replaces what is shown; null shows nothing. The view stays where it is.
+    /// Replaces what is shown; null shows nothing. The view stays where it is, and the selection as
+    /// far as it is shown: for another drawing it must be cleared.
     void setScene(std::shared_ptr<const drawing::Geometry> geometry);
     /// Takes over the state of the layers and redraws.
     void setLayers(const std::vector<drawing::Layer>& layers);
@@ -35,11 +40,18 @@ public:
     void zoomToExtents();
     const CanvasView& view() const { return m_view; }
 
+    /// Indices of entities of the drawing, ascending.
+    const std::vector<int>& selection() const { return m_selection; }
+    /// Selects these, in any order, as far as they are shown.
+    void setSelection(std::vector<int> entities);
+    void clearSelection() { setSelection({}); }
+
     QSize sizeHint() const override { return {900, 600}; }
 
 signals:
     void cursorMoved(const QPointF& point); ///< In drawing units.
     void backgroundChanged(bool dark);
+    void selectionChanged(int count);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -49,12 +61,28 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void updateLooks();
     void invalidate();
     void viewMoved();
+    /// What was drawn last, for the view of that time.
+    struct Picture
+    {
+        QImage image;
+        CanvasView view;
+        bool stale = true;
+    };
+
+    void prepare(Picture& picture, QImage::Format format, const QColor& ground);
+    void drawPicture(QPainter& painter, const Picture& picture) const;
     void render();
+    void renderHighlight();
+    void drawWindow(QPainter& painter) const;
+    void pick(const QPoint& from, const QPoint& to, bool adds);
+    std::vector<int> picked(const QPoint& from, const QPoint& to) const;
+    void endWindow();
 
     std::shared_ptr<const drawing::Geometry> m_geometry;
     std::vector<drawing::Layer> m_layers;
@@ -66,9 +94,15 @@ private:
     QPoint m_panFrom;
     bool m_panning = false;
 
-    QImage m_frame; ///< What was drawn last, for `m_frameView`.
-    CanvasView m_frameView;
-    bool m_stale = true;
+    std::vector<int> m_selection;
+    CanvasHighlight m_highlight;
+    QPoint m_windowFrom;
+    QPoint m_windowTo;
+    bool m_pressed = false; ///< The left button, to select.
+    bool m_windowing = false;
+
+    Picture m_frame;
+    Picture m_overlay; ///< The marks of what is selected.
     qint64 m_renderMilliseconds = 0;
     QTimer m_settle; ///< Runs while a slow drawing moves under the hand.
 };

@@ -154,6 +154,7 @@ void MainWindow::connectParts()
 {
     connect(m_recent, &RecentFiles::chosen, this, &MainWindow::openFile);
     connect(m_canvas, &Canvas::cursorMoved, m_status, &StatusFields::showCursor);
+    connect(m_canvas, &Canvas::selectionChanged, m_status, &StatusFields::showSelection);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::runCommand);
 
     connect(m_session, &DrawingSession::said, m_commandLine, &CommandLine::say);
@@ -197,6 +198,7 @@ void MainWindow::showDrawing(const std::shared_ptr<const drawing::Geometry>& geo
     connect(drawing(), &drawing::Drawing::layersChanged, this, &MainWindow::showLayers);
     connect(drawing(), &drawing::Drawing::entitiesChanged, this, &MainWindow::rebuildGeometry);
     connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
+    m_canvas->clearSelection();
     m_canvas->setScene(geometry);
     showLayers();
     m_canvas->zoomToExtents();

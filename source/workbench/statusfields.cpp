@@ -15,11 +15,19 @@ StatusFields::StatusFields(QWidget* parent) : QStatusBar(parent)
     m_cancel->setToolTip(tr("停止正在进行的操作"));
     addPermanentWidget(m_bar);
     addPermanentWidget(m_cancel);
+    m_space = new QToolButton(this);
+    m_space->setObjectName(QStringLiteral("spaceSwitch"));
+    m_space->setToolTip(tr("在模型空间和布局之间切换"));
+    m_space->setAutoRaise(true);
+    addPermanentWidget(m_space);
     m_cursor = addField(QStringLiteral("cursorField"), QStringLiteral("-000000.000, -000000.000"));
+    m_selected = addField(QStringLiteral("selectionField"), {});
     m_current = addField(QStringLiteral("currentLayerField"), {});
     m_count = addField(QStringLiteral("layerCountField"), {});
     hideWork();
+    showLayers(nullptr);
     connect(m_cancel, &QToolButton::clicked, this, &StatusFields::cancelClicked);
+    connect(m_space, &QToolButton::clicked, this, &StatusFields::spaceClicked);
 }
 
 QLabel* StatusFields::addField(const QString& name, const QString& widest)
@@ -42,7 +50,14 @@ void StatusFields::showLayers(const drawing::Drawing* drawing)
                                        current->properties.name, Qt::ElideMiddle, kWidestName)
                                  : QString();
     m_current->setText(current ? tr("当前图层: %1").arg(name) : QString());
+    m_space->setText(!drawing || drawing->isModelSpace() ? tr("模型") : tr("布局"));
+    m_space->setEnabled(drawing != nullptr);
     m_count->setText(drawing ? tr("%1 个图层").arg(drawing->layers().size()) : QString());
+}
+
+void StatusFields::showSelection(int count)
+{
+    m_selected->setText(count > 0 ? tr("已选择 %1 个对象").arg(count) : QString());
 }
 
 void StatusFields::showCursor(const QPointF& point)

@@ -1,0 +1,243 @@
+#include "canvaspick.h"
+
+#include "geometrytext.h"
+
+#include <algorithm>
+#include <cmath>
+
+using drawing::Box;
+using drawing::GeometryGroup;
+using drawing::Primitive;
+using drawing::TextRun;
+
+namespace {
+
+double distance(const QPointF& at, const QPointF& from, const QPointF& to)
+{
+    const QPointF along = to - from;
+    const double square = QPointF::dotProduct(along, along);
+    const double part =
+        square > 0 ? std::clamp(QPointF::dotProduct(at - from, along) / square, 0.0, 1.0) : 0;
+    const QPointF gap = at - (from + along * part);
+    return std::hypot(gap.x(), gap.y());
+}
+
+/// Calls `visit(from, to)` for each line of a primitive until that returns true; a vertex that
+/// stands alone is a line to itself. A fill's parts are closed.
+template <class Visit>
+bool anyLine(const GeometryGroup& group, const Primitive& primitive, Visit visit)
+{
+    const QPointF* const begin = group.vertices.data() + primitive.first;
+    const QPointF* const end = begin + primitive.count;
+    const bool isClosed = primitive.shape == Primitive::Shape::Fill;
+    const auto isBreak = [](const QPointF& vertex) { return std::isnan(vertex.x()); };
+    for (const QPointF* part = begin; part < end;) {
+        const QPointF* const next = std::find_if(part, end, isBreak);
+        if (next - part == 1 && visit(*part, *part))
+            return true;
+        for (const QPointF* vertex = part; vertex + 1 < next; ++vertex) {
+            if (visit(vertex[0], vertex[1]))
+                return true;
+        }
+        if (isClosed && next - part > 2 && visit(next[-1], *part))
+            return true;
+        part = next + 1;
+    }
+    return false;
+}
+
+/// By the even-odd rule.
+bool isFilledAt(const GeometryGroup& group, const Primitive& primitive, const QPointF& at)
+{
+    bool inside = false;
+    anyLine(group, primitive, [&](const QPointF& from, const QPointF& to) {
+        const bool crosses = (from.y() > at.y()) != (to.y() > at.y());
+        if (crosses &&
+            at.x() < (to.x() - from.x()) * (at.y() - from.y()) / (to.y() - from.y()) + from.x())
+            inside = !inside;
+        return false;
+    });
+    return inside;
+}
+
+/// Whether a line has a point in the box: what the box's sides leave of it is not empty.
+bool reachesInto(const Box& box, const QPointF& from, const QPointF& to)
+{
+    double low = 0;
+    double high = 1;
+    const auto narrow = [&](double start, double step, double least, double greatest) {
+        if (step == 0)
+            return start >= least && start <= greatest;
+        const double a = (least - start) / step;
+        const double b = (greatest - start) / step;
+        low = std::max(low, std::min(a, b));
+        high = std::min(high, std::max(a, b));
+        return low <= high;
+    };
+    return narrow(from.x(), to.x() - from.x(), box.minX, box.maxX) &&
+           narrow(from.y(), to.y() - from.y(), box.minY, box.maxY);
+}
+
+bool isInside(const Box& inner, const Box& box)
+{
+    return inner.minX >= box.minX && inner.maxX <= box.maxX && inner.minY >= box.minY &&
+           inner.maxY <= box.maxY;
+}
+
+bool reachesInto(const Box& box, const GeometryGroup& group, const Primitive& primitive)
+{
+    if (isInside(primitive.bounds, box))
+        return true;
+    const auto reaches = [&box](const QPointF& from, const QPointF& to) {
+        return reachesInto(box, from, to);
+    };
+    return anyLine(group, primitive, reaches) ||
+           (primitive.shape == Primitive::Shape::Fill &&
+               isFilledAt(group, primitive, {box.minX, box.minY}));
+}
+
+bool reachesInto(const Box& box, const QPolygonF& outline)
+{
+    for (int i = 0; i + 1 < outline.size(); ++i) {
+        if (reachesInto(box, outline[i], outline[i + 1]))
+            return true;
+    }
+    return outline.containsPoint({box.minX, box.minY}, Qt::OddEvenFill);
+}
+
+Box boundsOf(const QPolygonF& outline)
+{
+    Box box;
+    for (const QPointF& corner : outline)
+        box.add(corner);
+    return box;
+}
+
+Box around(const QPointF& at, double reach)
+{
+    return {at.x() - reach, at.y() - reach, at.x() + reach, at.y() + reach};
+}
+
+} // namespace
+
+QPolygonF textOutline(const TextRun& run)
+{
+    // By the order of TextRun::Vertical.
+    constexpr double kBottoms[] = {0, 0, -0.5, -1};
+    const double width = run.fitWidth > 0 ? run.fitWidth : drawing::estimatedWidth(run.text);
+    const QPointF along = run.right * width;
+    const QPointF corner = run.origin - along * (static_cast<double>(run.horizontal) / 2) +
+                           run.up * kBottoms[static_cast<int>(run.vertical)];
+    return QPolygonF({corner, corner + along, corner + along + run.up, corner + run.up, corner});
+}
+
+/// The best so far: lines before surfaces, then the nearer, then the later.
+struct CanvasPick::Hit
+{
+    int entity = -1;
+    bool onLine = false;
+    double distance = 0;
+    quint32 sequence = 0;
+
+    void offer(const Hit& other)
+    {
+        const auto rank = [](const Hit& hit) {
+            return std::make_tuple(hit.entity >= 0, hit.onLine, -hit.distance, hit.sequence);
+        };
+        if (rank(*this) <= rank(other))
+            *this = other;
+    }
+};
+
+int CanvasPick::nearest(const QPointF& at, double reach) const
+{
+    const Box near = around(at, reach);
+    Hit best;
+    for (std::size_t i = 0; i < m_looks.size(); ++i) {
+        const GeometryGroup& group = m_geometry.groups[i];
+        if (!m_looks[i].visible || !group.bounds.intersects(near))
+            continue;
+        for (const Primitive& primitive : group.primitives) {
+            if (!primitive.bounds.intersects(near))
+                continue;
+            double least = reach;
+            bool onLine = false;
+            anyLine(group, primitive, [&](const QPointF& from, const QPointF& to) {
+                const double gap = distance(at, from, to);
+                onLine = onLine || gap <= reach;
+                least = std::min(least, gap);
+                return false;
+            });
+            const bool isFill = primitive.shape == Primitive::Shape::Fill;
+            if (onLine && !isFill)
+                best.offer({primitive.entity, true, least, primitive.sequence});
+            else if (isFill && (onLine || isFilledAt(group, primitive, at)))
+                best.offer({primitive.entity, false, 0, primitive.sequence});
+        }
+        for (const TextRun& run : group.texts) {
+            // Texts are drawn over fills.
+            if (run.bounds.intersects(near) && reachesInto(near, textOutline(run)))
+                best.offer({run.entity, false, 0, std::numeric_limits<quint32>::max()});
+        }
+    }
+    return best.entity;
+}
+
+std::vector<int> CanvasPick::within(const Box& box, Mode mode) const
+{
+    std::vector<int> in;
+    std::vector<int> out; // Those with a part that does not count.
+    const auto note = [&](int entity, bool counts) { (counts ? in : out).push_back(entity); };
+    for (std::size_t i = 0; i < m_looks.size(); ++i) {
+        const GeometryGroup& group = m_geometry.groups[i];
+        const bool isNear = group.bounds.intersects(box);
+        if (!m_looks[i].visible || (!isNear && mode == Mode::Crossing))
+            continue;
+        for (const Primitive& primitive : group.primitives) {
+            const bool mayCount = isNear && primitive.bounds.intersects(box);
+            note(primitive.entity,
+                mayCount && (mode == Mode::Inside ? isInside(primitive.bounds, box)
+                                                  : reachesInto(box, group, primitive)));
+        }
+        for (const TextRun& run : group.texts) {
+            const QPolygonF outline = textOutline(run);
+            note(run.entity, mode == Mode::Inside ? isInside(boundsOf(outline), box)
+                                                  : reachesInto(box, outline));
+        }
+    }
+    const auto sort = [](std::vector<int>& entities) {
+        std::sort(entities.begin(), entities.end());
+        entities.erase(std::unique(entities.begin(), entities.end()), entities.end());
+    };
+    sort(in);
+    if (mode == Mode::Crossing)
+        return in;
+    sort(out);
+    std::vector<int> whole;
+    std::set_difference(in.begin(), in.end(), out.begin(), out.end(), std::back_inserter(whole));
+    return whole;
+}
+
+std::vector<int> CanvasPick::shown(const std::vector<int>& entities) const
+{
+    std::vector<char> isShown(entities.size());
+    const auto note = [&](int entity) {
+        const auto found = std::lower_bound(entities.begin(), entities.end(), entity);
+        if (found != entities.end() && *found == entity)
+            isShown[static_cast<std::size_t>(found - entities.begin())] = true;
+    };
+    for (std::size_t i = 0; i < m_looks.size(); ++i) {
+        if (!m_looks[i].visible)
+            continue;
+        for (const Primitive& primitive : m_geometry.groups[i].primitives)
+            note(primitive.entity);
+        for (const TextRun& run : m_geometry.groups[i].texts)
+            note(run.entity);
+    }
+    std::vector<int> shown;
+    for (std::size_t i = 0; i < entities.size(); ++i) {
+        if (isShown[i])
+            shown.push_back(entities[i]);
+    }
+    return shown;
+}
