@@ -1,6 +1,9 @@
 #include "commandtable.h"
 
+#include "commands/laydelcommand.h"
 #include "commands/layercommand.h"
+#include "commands/laymchcommand.h"
+#include "commands/laymrgcommand.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,9 +19,10 @@ std::unique_ptr<LayerCommand> make()
 constexpr CommandRow kRows[] = {
     {"LAYER", QT_TRANSLATE_NOOP("Commands", "图层特性"), "layer", make<LayerPropertiesCommand>},
     {"LAYERSTATE", QT_TRANSLATE_NOOP("Commands", "图层状态"), "layer-states", nullptr},
-    {"LAYDEL", QT_TRANSLATE_NOOP("Commands", "删除图层"), "layer-delete", nullptr},
-    {"LAYMCH", QT_TRANSLATE_NOOP("Commands", "更改到图层"), "layer-change", nullptr},
-    {"LAYMRG", QT_TRANSLATE_NOOP("Commands", "合并图层"), "layer-merge", nullptr},
+    {"LAYDEL", QT_TRANSLATE_NOOP("Commands", "删除图层"), "layer-delete", make<LayerDeleteCommand>},
+    {"LAYMCH", QT_TRANSLATE_NOOP("Commands", "更改到图层"), "layer-change",
+        make<LayerChangeCommand>},
+    {"LAYMRG", QT_TRANSLATE_NOOP("Commands", "合并图层"), "layer-merge", make<LayerMergeCommand>},
     {"LAYWALK", QT_TRANSLATE_NOOP("Commands", "图层漫游"), "layer-walk", nullptr},
     {"LAYTRANS", QT_TRANSLATE_NOOP("Commands", "图层转换器"), "layer-translate", nullptr},
 };

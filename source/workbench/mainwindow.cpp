@@ -19,6 +19,7 @@
 
 namespace {
 
+constexpr int kNoticeMilliseconds = 15000;
 const char kDarkKey[] = "canvas/dark";
 
 QString fileFilter()
@@ -269,7 +270,8 @@ void MainWindow::runLayerCommand(const CommandRow& row)
 CommandContext MainWindow::commandContext()
 {
     return {*drawing(), this, [this](const QString& text) { m_commandLine->say(text); },
-        [this] { showLayers(); }};
+        [this] { showLayers(); }, m_canvas->selection(),
+        [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); }};
 }
 
 void MainWindow::pose(const LayerCommand::Camera& camera)

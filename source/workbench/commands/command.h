@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <functional>
+#include <vector>
 
 class QWidget;
 
@@ -16,7 +17,9 @@ struct CommandContext
     drawing::Drawing& drawing;
     QWidget* parent = nullptr;               ///< For dialogs.
     std::function<void(const QString&)> say; ///< A line for the command line's echo.
-    std::function<void()> refresh; ///< Shows the layers as they are now, within the open step.
+    std::function<void()> refresh;   ///< Shows the layers as they are now, within the open step.
+    std::vector<int> selection = {}; ///< Entities selected on the canvas, ascending.
+    std::function<void(const QString&)> notice = {}; ///< A line for the status bar.
 };
 
 /// One of the layer commands. A new object for every run.

@@ -1,0 +1,105 @@
+#include "layermarks.h"
+
+#include "commandinvoker.h"
+#include "layerkeys.h"
+#include "layerrecords.h"
+#include "vnmessages.h"
+#include "vnproduct.h"
+#include "vnstrings.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace layermarks {
+
+namespace {
+
+namespace key = vnsi::layerkey;
+using vnsi::VnJsonPtr;
+
+constexpr wchar_t kService[] = L"Dialog/CmdLayer";
+constexpr int kMostNamesShown = 5;
+
+} // namespace
+
+VnJsonPtr makeTree(const drawing::Drawing& drawing, const Filter& passes)
+{
+    const VnJsonPtr all = layerrecords::makeList(drawing);
+    const VnJsonPtr list = vnsi::ElementValue::createArray(all.ArrayCount());
+    for (int i = 0, count = all.ArrayCount(); i < count; ++i) {
+        const drawing::Layer* layer = drawing.layer(layerrecords::idOf(all(i)));
+        if (layer && passes(*layer))
+            list->Append(all(i));
+    }
+    VnJsonPtr tree = vnsi::ElementValue::createObject(8);
+    tree->SetDataJ(key::kList, list);
+    return tree;
+}
+
+bool mayGo(const drawing::Drawing& drawing, const drawing::Layer& layer)
+{
+    return layer.properties.name != QLatin1String("0") && layer.id != drawing.currentLayer() &&
+           !layer.dependsOnReference;
+}
+
+bool show(CommandContext& context, const OdString& dialog, const VnJsonPtr& tree,
+    std::function<void(const VnJsonPtr& tree)> answer)
+{
+    const auto invoker = CommandInvoker::make([answer = std::move(answer)](const VnJsonPtr& asked) {
+        if (answer)
+            answer(asked);
+    });
+    const VnJsonPtr outcome =
+        vnsi::vnuiShowModelDialogEx(kService, dialog, tree, invoker, context.parent);
+    return outcome && outcome->GetDataI("result") == 1;
+}
+
+std::vector<Marked> marked(const VnJsonPtr& tree, int status)
+{
+    std::vector<Marked> layers;
+    const VnJsonPtr list = tree->GetDataJ(key::kList);
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
+        const VnJsonPtr record = list(i);
+        if (record && record->GetDataI(key::kStatus) == status && layerrecords::isModified(record))
+            layers.push_back({layerrecords::idOf(record), layerrecords::nameOf(record)});
+    }
+    return layers;
+}
+
+std::vector<drawing::LayerId> present(CommandContext& context, const std::vector<Marked>& layers)
+{
+    std::vector<drawing::LayerId> ids;
+    QStringList vanished;
+    for (const Marked& layer : layers) {
+        if (context.drawing.layer(layer.id))
+            ids.push_back(layer.id);
+        else
+            vanished += QStringLiteral("“%1”").arg(layer.name);
+    }
+    if (vanished.isEmpty())
+        return ids;
+    const QString names = vanished.mid(0, kMostNamesShown).join(QStringLiteral("、"));
+    tell(context,
+        QCoreApplication::translate("Commands", "图层%1%2已不存在，已跳过。")
+            .arg(names,
+                vanished.size() > kMostNamesShown
+                    ? QCoreApplication::translate("Commands", "等 %1 个").arg(vanished.size())
+                    : QString()));
+    return ids;
+}
+
+void tell(CommandContext& context, const QString& text)
+{
+    if (context.say)
+        context.say(text);
+    if (context.notice)
+        context.notice(text);
+}
+
+void warn(const QString& text)
+{
+    vnsi::vnuiMessageBox(
+        vnsi::vnutQStringToOdString(text), vnsi::kProductName, vnsi::kVnIconWarning);
+}
+
+} // namespace layermarks

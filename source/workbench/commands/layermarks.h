@@ -1,0 +1,38 @@
+#pragma once
+
+#include "command.h"
+#include "drawing.h"
+#include "vnjson.h"
+
+/// What the commands share that offer layers in a list and carry out what a dialog marked there.
+namespace layermarks {
+
+/// A layer as it was when a dialog showed it.
+struct Marked
+{
+    drawing::LayerId id = drawing::LayerId::None;
+    QString name;
+};
+
+using Filter = std::function<bool(const drawing::Layer& layer)>;
+
+/// A tree whose list has the records of the layers that pass, by name.
+vnsi::VnJsonPtr makeTree(const drawing::Drawing& drawing, const Filter& passes);
+/// Whether a layer may be taken out of the drawing: not 0, not current, not of a reference.
+bool mayGo(const drawing::Drawing& drawing, const drawing::Layer& layer);
+
+/// Shows a dialog of the module on `tree`; true when it ended with OK.
+bool show(CommandContext& context, const OdString& dialog, const vnsi::VnJsonPtr& tree,
+    std::function<void(const vnsi::VnJsonPtr& tree)> answer = {});
+
+/// The layers whose records carry the action `status`, in their order.
+std::vector<Marked> marked(const vnsi::VnJsonPtr& tree, int status);
+/// The ids of those that are still there; the others are named to the user.
+std::vector<drawing::LayerId> present(CommandContext& context, const std::vector<Marked>& layers);
+
+/// A line for echo and status bar.
+void tell(CommandContext& context, const QString& text);
+/// A message box on why something could not be done.
+void warn(const QString& text);
+
+} // namespace layermarks

@@ -1,0 +1,156 @@
+#include "laymrgcommand.h"
+
+#include "drawing.h"
+#include "layerkeys.h"
+#include "layerrecords.h"
+#include "posing.h"
+#include "vnstrings.h"
+#include "vntaskdialog.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+using vnsi::VnJsonPtr;
+
+namespace {
+
+namespace key = vnsi::layerkey;
+
+constexpr wchar_t kService[] = L"Dialog/CmdLayer";
+constexpr wchar_t kDialog[] = L"Dialog/CmdLaymrg";
+constexpr int kFirstChoice = 100;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("LayerMergeCommand", text);
+}
+
+bool contains(const std::vector<layermarks::Marked>& layers, drawing::LayerId id)
+{
+    return std::any_of(layers.begin(), layers.end(),
+        [id](const layermarks::Marked& layer) { return layer.id == id; });
+}
+
+std::vector<drawing::LayerId> idsOf(const std::vector<layermarks::Marked>& layers)
+{
+    std::vector<drawing::LayerId> ids;
+    ids.reserve(layers.size());
+    for (const layermarks::Marked& layer : layers)
+        ids.push_back(layer.id);
+    return ids;
+}
+
+} // namespace
+
+VnJsonPtr LayerMergeCommand::makeSourceTree(const drawing::Drawing& drawing)
+{
+    const VnJsonPtr tree = layermarks::makeTree(drawing,
+        [&drawing](const drawing::Layer& layer) { return layermarks::mayGo(drawing, layer); });
+    if (const VnJsonPtr first = tree->GetDataJ(key::kList)(0))
+        first->SetDataB("IsFrom", true);
+    return tree;
+}
+
+/// The sources are listed too, for their names, but last: the first one is offered as target.
+VnJsonPtr LayerMergeCommand::makeTargetTree(const drawing::Drawing& drawing, const Layers& sources)
+{
+    const VnJsonPtr tree = layermarks::makeTree(
+        drawing, [](const drawing::Layer& layer) { return !layer.dependsOnReference; });
+    std::vector<drawing::LayerId> ids = idsOf(sources);
+    std::sort(ids.begin(), ids.end());
+    const VnJsonPtr all = tree->GetDataJ(key::kList);
+    const VnJsonPtr list = vnsi::ElementValue::createArray(all.ArrayCount());
+    for (const bool isSource : {false, true}) {
+        for (int i = 0, count = all.ArrayCount(); i < count; ++i) {
+            const VnJsonPtr record = all(i);
+            if (std::binary_search(ids.begin(), ids.end(), layerrecords::idOf(record)) != isSource)
+                continue;
+            record->SetDataB("SoucLayer", isSource); // The key's agreed spelling.
+            list->Append(record);
+        }
+    }
+    tree->SetDataJ(key::kList, list);
+    if (const VnJsonPtr first = list(0)) {
+        first->SetDataB("IsFrom", false);
+        // The key's agreed spelling.
+        first->SetDataI("blockrefcout", drawing.countBlockReferences(ids));
+    }
+    return tree;
+}
+
+void LayerMergeCommand::run(CommandContext& context)
+{
+    const VnJsonPtr tree = makeSourceTree(context.drawing);
+    if (tree->GetDataJ(key::kList).ArrayCount() == 0) {
+        layermarks::tell(context, tr("没有可以合并的图层。"));
+        return;
+    }
+    if (!layermarks::show(context, kDialog, tree))
+        return;
+    const Layers sources = layermarks::marked(tree, vnsi::kLayerMergeSource);
+    if (sources.empty())
+        return;
+    const Layers target = askTarget(context, sources);
+    if (!target.empty())
+        merge(context, sources, target);
+}
+
+LayerMergeCommand::Layers LayerMergeCommand::askTarget(
+    CommandContext& context, const Layers& sources)
+{
+    for (;;) {
+        const VnJsonPtr tree = makeTargetTree(context.drawing, sources);
+        if (!layermarks::show(context, kDialog, tree))
+            return {};
+        const Layers target = settle(layermarks::marked(tree, vnsi::kLayerMergeTarget));
+        if (target.empty() || !contains(sources, target.front().id))
+            return target;
+        layermarks::warn(tr("图层“%1”是要合并的图层，不能作为目标图层。").arg(target.front().name));
+    }
+}
+
+/// Targets that were declined keep their mark. Which of several was meant last cannot be told.
+LayerMergeCommand::Layers LayerMergeCommand::settle(const Layers& targets)
+{
+    if (targets.size() < 2)
+        return targets;
+    vnsi::CVnUiTaskDialog question;
+    question.SetWindowTitle(L"合并到图层");
+    question.SetMainInstruction(L"先后指定了几个目标图层，要合并到哪一个？");
+    for (std::size_t i = 0; i < targets.size(); ++i)
+        question.AddCommandControl(
+            kFirstChoice + static_cast<int>(i), vnsi::vnutQStringToOdString(targets[i].name));
+    const int choice = question.DoModal() - kFirstChoice;
+    if (choice < 0 || static_cast<std::size_t>(choice) >= targets.size())
+        return {};
+    return {targets[static_cast<std::size_t>(choice)]};
+}
+
+void LayerMergeCommand::merge(CommandContext& context, const Layers& sources, const Layers& target)
+{
+    Layers all = sources;
+    all.push_back(target.front());
+    std::vector<drawing::LayerId> layers = layermarks::present(context, all);
+    if (layers.size() < 2 || layers.back() != target.front().id)
+        return;
+    layers.pop_back();
+    if (const auto merged = context.drawing.mergeLayers(layers, target.front().id); !merged)
+        layermarks::warn(merged.error().text);
+    else
+        context.say(
+            tr("已将 %1 个图层合并到图层“%2”。").arg(layers.size()).arg(target.front().name));
+}
+
+void LayerMergeCommand::pose(CommandContext& context, const Camera& camera)
+{
+    const VnJsonPtr sourceTree = makeSourceTree(context.drawing);
+    const VnJsonPtr list = sourceTree->GetDataJ(key::kList);
+    posing::showDialog(
+        kService, kDialog, sourceTree, camera, QStringLiteral("layer-merge-sources"));
+    if (list.ArrayCount() == 0)
+        return;
+    const Layers sources = {{layerrecords::idOf(list(0)), layerrecords::nameOf(list(0))}};
+    posing::showDialog(kService, kDialog, makeTargetTree(context.drawing, sources), camera,
+        QStringLiteral("layer-merge-target"));
+}
