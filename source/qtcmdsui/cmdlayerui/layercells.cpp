@@ -15,6 +15,8 @@ namespace vnsi {
 namespace {
 
 constexpr int kSwatchSize = 16;
+/// Lists with more looks than this are no drawing's; models of them are not worth their memory.
+constexpr int kMostModels = 4096;
 // The alignment values of the host's tables: left or centred, in the middle of the row's height.
 constexpr int kAlignLeft = 129;
 constexpr int kAlignCentre = 132;
@@ -27,6 +29,13 @@ static_assert(std::size(kIconNames) == static_cast<std::size_t>(LayerIcon::Count
 bool isCentred(LayerCell cell)
 {
     return cell == LayerCell::Toggle || cell == LayerCell::Color;
+}
+
+/// Whether a drawing's cells of this kind repeat few looks; texts differ.
+bool hasFewLooks(LayerCell cell)
+{
+    return cell == LayerCell::Status || cell == LayerCell::Toggle || cell == LayerCell::Color ||
+           cell == LayerCell::LineWidth || cell == LayerCell::Number;
 }
 
 VnDocumentPtr currentDocument()
@@ -107,11 +116,52 @@ const LayerCells::Swatch& LayerCells::swatch(const LayerColor& color)
     return made;
 }
 
+LayerCells::Look LayerCells::lookOf(const LayerRecord& record, const LayerColumn& column) const
+{
+    const int cell = static_cast<int>(column.cell);
+    switch (column.cell) {
+    case LayerCell::Status:
+        return {cell, {record.status(), 0}};
+    case LayerCell::Toggle:
+        return {cell,
+            {static_cast<qint64>(record.flag(column.key) ? column.whenTrue : column.whenFalse), 0}};
+    case LayerCell::Color: {
+        const LayerColor color = record.color();
+        return {cell, {color.method, color.value}};
+    }
+    default:
+        return {cell, {record.number(column.key), 0}};
+    }
+}
+
 QTableWidgetItem* LayerCells::makeItem(const LayerRecord& record, const LayerColumn& column)
 {
-    auto* item = new QTableWidgetItem;
-    item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-    item->setTextAlignment(isCentred(column.cell) ? kAlignCentre : kAlignLeft);
+    if (!hasFewLooks(column.cell))
+        return makeNewItem(record, column);
+    // A copy shares what it shows with its model, which is cheaper than setting it again.
+    if (m_models.size() > kMostModels)
+        m_models.clear();
+    std::shared_ptr<QTableWidgetItem>& model = m_models[lookOf(record, column)];
+    if (!model)
+        model.reset(makeNewItem(record, column));
+    return model->clone();
+}
+
+QTableWidgetItem* LayerCells::makeBlankItem(LayerCell cell)
+{
+    const bool centred = isCentred(cell);
+    std::shared_ptr<QTableWidgetItem>& blank = m_blanks[centred];
+    if (!blank) {
+        blank = std::make_shared<QTableWidgetItem>();
+        blank->setFlags(blank->flags() & ~Qt::ItemIsEditable);
+        blank->setTextAlignment(centred ? kAlignCentre : kAlignLeft);
+    }
+    return blank->clone();
+}
+
+QTableWidgetItem* LayerCells::makeNewItem(const LayerRecord& record, const LayerColumn& column)
+{
+    QTableWidgetItem* const item = makeBlankItem(column.cell);
     switch (column.cell) {
     case LayerCell::Status:
         item->setIcon(statusIcon(record.status()));

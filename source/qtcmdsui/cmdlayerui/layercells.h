@@ -7,6 +7,7 @@
 #include <QIcon>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 class QTableWidget;
@@ -74,10 +75,18 @@ private:
         QString text;
     };
 
+    /// A cell's kind and the one or two numbers that its look depends on.
+    using Look = QPair<int, QPair<qint64, qint64>>;
+
     const Swatch& swatch(const LayerColor& color);
+    QTableWidgetItem* makeBlankItem(LayerCell cell);
+    QTableWidgetItem* makeNewItem(const LayerRecord& record, const LayerColumn& column);
+    Look lookOf(const LayerRecord& record, const LayerColumn& column) const;
 
     std::array<QIcon, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
     QHash<QPair<qint64, qint64>, Swatch> m_swatches;
+    std::array<std::shared_ptr<QTableWidgetItem>, 2> m_blanks; ///< Left and centred.
+    QHash<Look, std::shared_ptr<QTableWidgetItem>> m_models;   ///< One item of each look.
     VnDocumentPtr m_document;
 };
 
