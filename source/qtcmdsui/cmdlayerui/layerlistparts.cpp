@@ -80,7 +80,8 @@ void copyText(const QListWidgetItem* item, QLineEdit* edit)
 QSet<QString> selectedNames(const QListWidget& list)
 {
     QSet<QString> names;
-    const QModelIndexList rows = list.selectionModel()->selectedRows();
+    // One column: its indexes are its rows, and finding rows would look at every range for each.
+    const QModelIndexList rows = list.selectionModel()->selectedIndexes();
     for (const QModelIndex& row : rows)
         names.insert(row.data().toString());
     return names;
