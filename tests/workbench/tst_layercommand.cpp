@@ -145,6 +145,8 @@ void LayerCommandTest::okAppliesEverythingAsOneStep()
 
     // The command line has the focus and nothing in it to undo.
     auto* input = ModuleFixture::child<QLineEdit>(m_window.get(), "commandInput");
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     input->setFocus();
     QTest::keyClick(input, Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(!m_window->drawing()->canUndo());
