@@ -66,6 +66,21 @@ private slots:
         QCOMPARE(circle->isA(), Circle::desc());
     }
 
+    void namesBothClasses()
+    {
+        const auto circle = OdRxObjectImpl<Circle>::createObject();
+        const auto square = OdRxObjectImpl<Square>::createObject();
+        try {
+            circle->copyFrom(square.get());
+            QFAIL("a square was assigned to a circle");
+        } catch (const OdError_NotThatKindOfClass& error) {
+            QCOMPARE(error.code(), eNotThatKindOfClass);
+            QCOMPARE(error.what(), "Square is no Circle");
+        }
+        QVERIFY(!circle->isEqualTo(square.get()));
+        QVERIFY(circle->isEqualTo(circle.get()));
+    }
+
     void checksIndices()
     {
         OdArray<int> items;
