@@ -1,0 +1,224 @@
+#include "hoststart.h"
+#include "modaldriver.h"
+#include "requests.h"
+#include "vornqt.h"
+
+#include <QThread>
+#include <QtTest>
+
+#include <memory>
+
+using namespace vnsi;
+
+namespace {
+
+int built = 0;
+bool canBuild = true;
+QThread* deletedOn = nullptr;
+QString assertion;
+
+class Probe : public VnQtModeDialogImpl<Probe, QDialog>
+{
+public:
+    using VnQtModeDialogImpl::VnQtModeDialogImpl;
+    ~Probe() override { deletedOn = QThread::currentThread(); }
+    bool initDialog() override
+    {
+        ++built;
+        return canBuild;
+    }
+    void onDataSet(VnJsonPtr data) override { data->SetDataB("seen", true); }
+    VnQtUIModeDialogBase& host() { return *wrapper(); }
+};
+
+class OwnEnding : public Probe
+{
+public:
+    using Probe::Probe;
+    void endDialog(int code) override { done(code + 10); }
+};
+
+template <class T>
+class EndingWrapper : public VnQtModeDialog<T>
+{
+public:
+    void endDialog(int code) override { VnQtModeDialog<T>::endDialog(code + 20); }
+};
+
+template <class Wrapper>
+VnUiModeDialogBasePtr make()
+{
+    VnUiModeDialogBasePtr made = VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
+    made->createDialog(nullptr, 0, "probe");
+    return made;
+}
+
+} // namespace
+
+class TestModalHost : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        built = 0;
+        canBuild = true;
+        deletedOn = nullptr;
+    }
+
+    void endsWithResult_data()
+    {
+        using Step = ModalDriver::Step;
+        const auto own = [](QDialog& dialog) {
+            static_cast<Probe&>(dialog).host().resultData()->SetDataI("result", 3);
+        };
+        QTest::addColumn<Step>("step");
+        QTest::addColumn<int>("result");
+        QTest::newRow("close box") << Step([](QDialog& d) { d.close(); }) << 2;
+        QTest::newRow("escape") << Step([](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); })
+                                << 2;
+        QTest::newRow("accept") << Step([](QDialog& d) { d.accept(); }) << 1;
+        QTest::newRow("own result, then accept") << Step([own](QDialog& d) {
+            own(d);
+            d.accept();
+        }) << 3;
+        QTest::newRow("own result, then close box") << Step([own](QDialog& d) {
+            own(d);
+            d.close();
+        }) << 3;
+        QTest::newRow("another exit code") << Step([](QDialog& d) { d.done(9); }) << -1;
+        QTest::newRow("ended though rejected")
+            << Step([](QDialog& d) { static_cast<Probe&>(d).endDialog(1); }) << 1;
+    }
+
+    void endsWithResult()
+    {
+        QFETCH(ModalDriver::Step, step);
+        const auto dialog = make<VnQtModeDialog<Probe>>();
+        for (int run = 0; run < 2; ++run) { // What the first run left must not count.
+            ModalDriver user;
+            user.then(step);
+            QTEST(dialog->doModal(), "result");
+            QTEST(dialog->resultData()->GetDataI("result", -7), "result");
+        }
+    }
+
+    void endsTheWayThatIsOverridden()
+    {
+        ModalDriver user;
+        const auto end = [](QDialog& dialog) { static_cast<Probe&>(dialog).endDialog(1); };
+        user.then(end);
+        user.then(end);
+        QCOMPARE(make<EndingWrapper<Probe>>()->doModal(), 21);
+        // The dialog's own way wins: exit code 11 decides nothing.
+        QCOMPARE(make<EndingWrapper<OwnEnding>>()->doModal(), -1);
+    }
+
+    void showsAgain()
+    {
+        const auto dialog = make<VnQtModeDialog<Probe>>();
+        ModalDriver user;
+        const auto again = [](QDialog& d) {
+            static_cast<Probe&>(d).host().reshow();
+            d.accept();
+        };
+        user.then(again);
+        user.then(again);
+        user.then([](QDialog& d) { d.reject(); });
+        QCOMPARE(dialog->doModal(), 2);
+    }
+
+    void buildsOnce()
+    {
+        const VnUiModeDialogBasePtr dialog =
+            VnQtRxObjectImpl<VnQtModeDialog<Probe>, VnQtModeDialog<Probe>>::createObject();
+        QCOMPARE(dialog->doModal(), -1); // Nothing to run yet.
+        QCOMPARE(dialog->setData(ElementValue::createObject(2), {}), 0);
+        QVERIFY(dialog->createDialog(nullptr, 0, "first"));
+        QWidget* const widget = dialog->widget();
+        QVERIFY(dialog->createDialog(nullptr, 0, "second"));
+        QCOMPARE(dialog->widget(), widget);
+        QCOMPARE(built, 1);
+        QCOMPARE(widget->objectName(), QStringLiteral("first"));
+        QVERIFY(!widget->isVisible());
+
+        const VnJsonPtr data = ElementValue::createObject(2);
+        QCOMPARE(dialog->setData(data, {}), 1);
+        QVERIFY(data->GetDataB("seen"));
+    }
+
+    void failsWhenItCannotBeBuilt()
+    {
+        canBuild = false;
+        const VnUiModeDialogBasePtr dialog =
+            VnQtRxObjectImpl<VnQtModeDialog<Probe>, VnQtModeDialog<Probe>>::createObject();
+        QVERIFY(!dialog->createDialog(nullptr, 0, nullptr));
+    }
+
+    void survivesItsParent()
+    {
+        auto parent = std::make_unique<QWidget>();
+        VnUiModeDialogBasePtr dialog =
+            VnQtRxObjectImpl<VnQtModeDialog<Probe>, VnQtModeDialog<Probe>>::createObject();
+        dialog->createDialog(parent.get(), 0, "child");
+        parent.reset();
+        QVERIFY(!dialog->widget());
+        QCOMPARE(dialog->doModal(), -1);
+        dialog = {};
+    }
+
+    void isDeletedOnUiThread()
+    {
+        auto dialog = make<VnQtModeDialog<Probe>>();
+        auto second = dialog;
+        dialog = {};
+        QVERIFY(!deletedOn);
+        second = {};
+        QCOMPARE(deletedOn, QThread::currentThread());
+    }
+
+    void isDeletedOnUiThreadFromCommand()
+    {
+        const host::CommandScope command;
+        VnUiModeDialogBase* const dialog = make<VnQtModeDialog<Probe>>().detach();
+        bool isGoneAfterwards = false;
+        const std::unique_ptr<QThread> thread(QThread::create([&] {
+            dialog->release();
+            isGoneAfterwards = deletedOn; // Waited for.
+        }));
+        thread->start();
+        QTRY_VERIFY(thread->isFinished());
+        QVERIFY(isGoneAfterwards);
+        QCOMPARE(deletedOn, QThread::currentThread());
+        QCOMPARE(host::markedScraps(), 0);
+    }
+
+    void isLeftAliveWithoutCommand()
+    {
+        VnUiModeDialogBase* const dialog = make<VnQtModeDialog<Probe>>().detach();
+        const std::unique_ptr<QThread> thread(QThread::create([&] { dialog->release(); }));
+        thread->start();
+        QVERIFY(thread->wait());
+        QCoreApplication::processEvents();
+        QVERIFY(!deletedOn);
+
+        odSetAssertHandler([](const char* expression, const char* file, int) {
+            assertion = QString::fromUtf8(expression) + QLatin1Char('@') + QString::fromUtf8(file);
+        });
+        dialog->release();
+        odSetAssertHandler(nullptr);
+        QCOMPARE(assertion, QStringLiteral("(m_nRefCounter > 0)@include/qt/vornqt.h"));
+        QVERIFY(!deletedOn);
+        delete dialog;
+    }
+
+private:
+    host::Host m_host;
+};
+
+Q_DECLARE_METATYPE(ModalDriver::Step)
+
+QTEST_MAIN(TestModalHost)
+
+#include "tst_modalhost.moc"
