@@ -99,6 +99,11 @@ const QIcon& LayerCells::statusIcon(int status)
     }
 }
 
+const QIcon& LayerCells::stateIcon(bool current)
+{
+    return icon(current ? LayerIcon::Current : LayerIcon::NoCurrent);
+}
+
 const LayerCells::Swatch& LayerCells::swatch(const LayerColor& color)
 {
     Swatch& made = m_swatches[{color.method, color.value}];
@@ -167,6 +172,10 @@ QTableWidgetItem* LayerCells::makeNewItem(const LayerRecord& record, const Layer
         item->setIcon(statusIcon(record.status()));
         break;
     case LayerCell::Text:
+        item->setText(vnutOdStringToQString(record.text(column.key)));
+        break;
+    case LayerCell::MarkedName:
+        item->setIcon(stateIcon(record.isCurrentOfState()));
         item->setText(vnutOdStringToQString(record.text(column.key)));
         break;
     case LayerCell::Toggle:

@@ -16,7 +16,7 @@ class QTableWidgetItem;
 namespace vnsi {
 
 /// How a column shows a record's value.
-enum class LayerCell { Status, Text, Toggle, Color, LineWidth, Number };
+enum class LayerCell { Status, Text, MarkedName, Toggle, Color, LineWidth, Number };
 
 /// The icons of cells and buttons, by their file names.
 enum class LayerIcon {
@@ -59,12 +59,14 @@ public:
     /// The icon of a record's status; statuses without one of their own look like an ordinary
     /// layer's.
     const QIcon& statusIcon(int status);
+    /// The icon of a layer within a layer state.
+    const QIcon& stateIcon(bool current);
     /// A new cell that cannot be edited in place.
     QTableWidgetItem* makeItem(const LayerRecord& record, const LayerColumn& column);
     /// Replaces one cell by what its record says now.
     void refresh(QTableWidget& table, int row, int column, const LayerRecord& record,
         const LayerColumn& description);
-    /// Rebuilds all rows in one go; `isSelected` rows are selected.
+    /// Rebuilds all rows in one go; records with "Selected" are selected.
     void fill(QTableWidget& table, const std::vector<LayerRecord>& records,
         const LayerColumn* columns, int columnCount);
 

@@ -1,6 +1,10 @@
 #include "vnqtlayercmdsuisvr.h"
 
 #include "cmdlaydelui/vnqtlaydellayerdlg.h"
+#include "cmdlayerstateui/vnqtaddnewlayerdlg.h"
+#include "cmdlayerstateui/vnqteditlayerstatedlg.h"
+#include "cmdlayerstateui/vnqtnewlayerstatedlg.h"
+#include "cmdlayerstateui/vnqtuidynlayerstatecmdimpl.h"
 #include "cmdlaymchui/vnqtlaymchlayerdlg.h"
 #include "cmdlaymrgui/vnqtlaymrglayerdlg.h"
 #include "vnqtuidynlayercmdimpl.h"
@@ -32,10 +36,10 @@ struct DialogRow
 
 constexpr DialogRow kDialogs[] = {
     {L"Dialog/CmdLayer", makeDialog<VnQtUiDynLayerCmdImpl>},
-    {L"Dialog/CmdLayerState", notBuilt},
-    {L"Dialog/CmdLayerStateNew", notBuilt},
-    {L"Dialog/CmdLayerStateEdit", notBuilt},
-    {L"Dialog/CmdLayerStateAddNewLayer", notBuilt},
+    {L"Dialog/CmdLayerState", makeDialog<VnQtUiDynLayerStateCmdImpl>},
+    {L"Dialog/CmdLayerStateNew", makeDialog<VnQtNewLayerStateDlg>},
+    {L"Dialog/CmdLayerStateEdit", makeDialog<VnQtEditLayerStateDlg>},
+    {L"Dialog/CmdLayerStateAddNewLayer", makeDialog<VnQtAddNewLayerDlg>},
     {L"Dialog/CmdLaydel", makeDialog<VnQtLaydelLayerDlg>},
     {L"Dialog/CmdLaymch", makeDialog<VnQtLaymchLayerDlg>},
     {L"Dialog/CmdLaymrg", makeDialog<VnQtLaymrgLayerDlg>},

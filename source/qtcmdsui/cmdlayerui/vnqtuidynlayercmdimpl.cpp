@@ -1,10 +1,10 @@
 #include "vnqtuidynlayercmdimpl.h"
 
+#include "layeredits.h"
 #include "namerule.h"
 #include "vnmessages.h"
 #include "vnproduct.h"
 #include "vnqtlayerqtablewgt.h"
-#include "vnqtuilayertransparencymodify.h"
 #include "vnstrings.h"
 #include "vntaskdialog.h"
 
@@ -77,14 +77,7 @@ constexpr ControllerButton kControllers[] = {
 constexpr char kColumnWidthList[] = "ColumnWidthList";
 constexpr int kTurnOff = 101;
 constexpr int kKeepOn = 102;
-constexpr int kQuestionStyle = 68; // Yes and No.
 constexpr int kWarningStyle = 80;
-
-bool asksToKeepCurrentOn()
-{
-    return vnuiMessageBox(L"当前图层将被关闭。\n是否要使当前图层保持打开状态?\n", kProductName,
-               kQuestionStyle) == kVnAnswerYes;
-}
 
 bool isNeverDeleted(const LayerRecord& record)
 {
@@ -366,7 +359,7 @@ void VnQtUiDynLayerCmdImpl::slot_TableCellClicked(int row, int column)
 
 bool VnQtUiDynLayerCmdImpl::toggleOff(int row, LayerRecord& record)
 {
-    if (row == m_currentRow && !record.isOff() && asksToKeepCurrentOn())
+    if (row == m_currentRow && !record.isOff() && layeredits::asksToKeepCurrentOn())
         return false;
     toggle(row, kOff, record);
     return true;
@@ -375,7 +368,7 @@ bool VnQtUiDynLayerCmdImpl::toggleOff(int row, LayerRecord& record)
 bool VnQtUiDynLayerCmdImpl::toggleFrozen(int row, LayerRecord& record)
 {
     if (row == m_currentRow) {
-        vnuiMessageBox(L"不能冻结当前图层\n", kProductName, kVnIconInformation);
+        layeredits::refuseToFreezeCurrent();
         return false;
     }
     toggle(row, kFrozen, record);
@@ -391,30 +384,14 @@ void VnQtUiDynLayerCmdImpl::toggle(int row, int column, LayerRecord& record)
 
 void VnQtUiDynLayerCmdImpl::editColor(int row, LayerRecord& record)
 {
-    const LayerColor color = record.color();
-    VnJsonPtr tree = ElementValue::createObject(2);
-    tree->SetDataL("selectClr", color.chosenValue());
-    tree->set("isByLayerEnable", 0)
-        .set("isByBLockEnable", 0)
-        .set("clrMethod", static_cast<int>(color.method));
-    const VnJsonPtr answer =
-        vnuiShowModelDialogEx(L"Dialog/Common", L"ColorDialog", tree, {}, this);
-    if (answer->GetDataI("result") != 1)
-        return;
-    record.setColor({answer->GetDataL("clrMethod", 0), answer->GetDataL("selectClr", -1)});
-    showCell(row, kColor);
+    if (layeredits::editColor(record, ElementValue::createObject(2), this))
+        showCell(row, kColor);
 }
 
 void VnQtUiDynLayerCmdImpl::editTransparency(int row, LayerRecord& record)
 {
-    VnJsonPtr tree = ElementValue::createObject(2);
-    tree->SetDataI("transparency", record.number(layerkey::kTransparency));
-    VnQtUiLayerTransparencyModify dialog;
-    dialog.setData(tree);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    record.setNumber(layerkey::kTransparency, tree->GetDataI("transparency"));
-    showCell(row, kTransparency);
+    if (layeredits::editTransparency(record))
+        showCell(row, kTransparency);
 }
 
 void VnQtUiDynLayerCmdImpl::slot_BtnLayerControllerGroupClicked(int id)
@@ -484,7 +461,7 @@ bool VnQtUiDynLayerCmdImpl::canBeCurrent(int row, Ask ask)
             L"图层 - 无法置为当前", kVnIconInformation);
         return false;
     }
-    if (ask == Ask::Yes && candidate.isOff() && asksToKeepCurrentOn())
+    if (ask == Ask::Yes && candidate.isOff() && layeredits::asksToKeepCurrentOn())
         slot_TableCellClicked(row, kOff);
     return true;
 }

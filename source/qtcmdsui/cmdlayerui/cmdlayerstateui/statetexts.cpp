@@ -1,0 +1,28 @@
+#include "statetexts.h"
+
+namespace vnsi::layerstates {
+
+OdString badCharactersText()
+{
+    // Not in the order in which other messages list them; both orders are meant.
+    return L"名称包含不支持的字符。\n 不支持以下字符：\n  \\<>/?\":;*|,=`";
+}
+
+VnJsonPtr element(const VnJsonPtr& tree, Element element)
+{
+    return tree ? tree->GetDataJ(kManager)(element) : VnJsonPtr();
+}
+
+int ask(const OdString& caption, const OdString& text,
+    std::initializer_list<const wchar_t*> buttons, int fallback, int icon)
+{
+    constexpr const char* kKeys[] = {"btnText/0", "btnText/1", "btnText/2", "btnText/3"};
+    const VnJsonPtr options = ElementValue::createObject(2);
+    const auto* key = std::begin(kKeys);
+    for (const wchar_t* button : buttons)
+        options->set(*key++, OdString(button));
+    return vnuiMessageBoxEx(caption, text, options, kVnCustomButtons, 1, icon)
+        ->GetDataI("ControlBtn", fallback);
+}
+
+} // namespace vnsi::layerstates

@@ -1,0 +1,117 @@
+#include "vnqtaddnewlayerdlg.h"
+
+#include "dialoghelp.h"
+#include "layercells.h"
+#include "statetexts.h"
+#include "vnstrings.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QSet>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <vector>
+
+namespace vnsi {
+
+namespace {
+
+constexpr LayerColumn kColumns[] = {
+    {QT_TR_NOOP("名称"), LayerCell::Text, layerkey::kName},
+    {QT_TR_NOOP("说明"), LayerCell::Text, layerkey::kDescription},
+};
+constexpr int kColumnCount = static_cast<int>(std::size(kColumns));
+
+} // namespace
+
+VnQtAddNewLayerDlg::VnQtAddNewLayerDlg(
+    VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags)
+    : VnQtModeDialogImpl(wrapper, parent, flags)
+{
+    setWindowTitle(tr("选择要添加到图层状态的图层"));
+    setMinimumWidth(345);
+}
+
+bool VnQtAddNewLayerDlg::initDialog()
+{
+    m_table = new QTableWidget(0, kColumnCount, this);
+    m_table->setObjectName(QStringLiteral("candidateTable"));
+    m_table->setHorizontalHeaderLabels({tr(kColumns[0].header), tr(kColumns[1].header)});
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    auto* ok = new QPushButton(tr("确定"), this);
+    ok->setObjectName(QStringLiteral("okButton"));
+    ok->setDefault(true);
+    auto* cancel = new QPushButton(tr("取消"), this);
+    cancel->setObjectName(QStringLiteral("cancelButton"));
+    auto* help = new QPushButton(tr("帮助(&H)"), this);
+    help->setObjectName(QStringLiteral("helpButton"));
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
+    buttons->addWidget(help);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_table);
+    layout->addLayout(buttons);
+
+    using Self = VnQtAddNewLayerDlg;
+    connect(ok, &QPushButton::clicked, this, &Self::slot_SureBtnClicked);
+    connect(cancel, &QPushButton::clicked, this, &Self::close);
+    connect(help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
+    return true;
+}
+
+bool VnQtAddNewLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
+{
+    VnQtModeDialogImpl::setData(data, invoker);
+    fill();
+    return true;
+}
+
+VnJsonPtr VnQtAddNewLayerDlg::candidates() const
+{
+    return data() ? data()->GetDataJ(layerstates::kCandidates) : VnJsonPtr();
+}
+
+void VnQtAddNewLayerDlg::fill()
+{
+    const VnJsonPtr list = candidates();
+    std::vector<LayerRecord> records;
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
+        records.emplace_back(list(i));
+    LayerCells().fill(*m_table, records, kColumns, kColumnCount);
+    m_table->clearSelection();
+}
+
+void VnQtAddNewLayerDlg::slot_SureBtnClicked(bool)
+{
+    QSet<QString> chosen;
+    for (const QTableWidgetSelectionRange& range : m_table->selectedRanges()) {
+        for (int row = range.topRow(); row <= range.bottomRow(); ++row)
+            chosen.insert(m_table->item(row, 0)->text());
+    }
+    // The list is built anew: taking entries out one by one costs the square of their number.
+    const VnJsonPtr list = candidates();
+    std::vector<VnJsonPtr> kept;
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
+        if (chosen.contains(vnutOdStringToQString(LayerRecord(list(i)).name())))
+            kept.push_back(list(i));
+    }
+    if (list)
+        list->Clear();
+    for (const VnJsonPtr& layer : kept)
+        list->Append(layer);
+    endDialog(1);
+}
+
+void VnQtAddNewLayerDlg::slot_HelpBtnClicked(bool)
+{
+    vnqtShowHelp();
+}
+
+} // namespace vnsi

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "layercells.h"
+#include "vornqt.h"
+
+#include <QStringList>
+
+class QBoxLayout;
+class QPushButton;
+class QTableWidget;
+
+namespace vnsi {
+
+/// Edits the layers that a layer state holds.
+class VnQtEditLayerStateDlg : public VnQtModeDialogImpl<VnQtEditLayerStateDlg, QDialog>
+{
+    Q_OBJECT
+
+public:
+    VnQtEditLayerStateDlg(VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags);
+
+    bool initDialog() override;
+    bool setData(VnJsonPtr data, OdRxObjectPtr invoker) override;
+
+private slots:
+    void slot_TableCellClicked(int row, int column);
+    void slot_NewLayerButtonClicked(bool checked);
+    void slot_DeleteLayerButtonClicked(bool checked);
+    void slot_BtnOkClicked(bool checked);
+    void slot_HelpBtnClicked(bool checked);
+
+private:
+    QPushButton* makeIconButton(LayerIcon icon, const char* objectName, const QString& help);
+    QBoxLayout* makeBottomRow();
+    void setUpTable();
+
+    VnJsonPtr state() const;
+    VnJsonPtr list() const;
+    void fill();
+    void applyColumnWidths();
+    QStringList selectedNames() const;
+
+    void makeCurrent(int row);
+    bool mayToggle(int row, int column) const;
+    void toggle(int row, int column);
+    void showCell(int row, int column);
+    VnJsonPtr missingLayers() const;
+    void send(int code);
+
+    QPushButton* m_newButton = nullptr;
+    QPushButton* m_deleteButton = nullptr;
+    QTableWidget* m_table = nullptr;
+    LayerCells m_cells;
+    std::vector<LayerRecord> m_rows; ///< What the rows show; removed layers have none.
+    int m_currentRow = -1;
+    QStringList m_pendingDeletion;
+};
+
+} // namespace vnsi

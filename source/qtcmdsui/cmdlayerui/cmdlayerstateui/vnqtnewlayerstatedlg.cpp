@@ -1,0 +1,178 @@
+#include "vnqtnewlayerstatedlg.h"
+
+#include "dialoghelp.h"
+#include "namerule.h"
+#include "statetexts.h"
+#include "vnproduct.h"
+#include "vnstrings.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+namespace vnsi {
+
+namespace {
+
+constexpr wchar_t kFromReference[] = L"外部参照";
+
+enum Replace { kClosed = -1, kReplace = 0, kKeep = 1 };
+
+} // namespace
+
+VnQtNewLayerStateDlg::VnQtNewLayerStateDlg(
+    VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags)
+    : VnQtModeDialogImpl(wrapper, parent, flags)
+{
+    setWindowTitle(tr("要保存的新图层状态"));
+    setMinimumWidth(345);
+}
+
+bool VnQtNewLayerStateDlg::initDialog()
+{
+    auto* nameLabel = new QLabel(tr("新图层状态(L):"), this);
+    m_name = new QComboBox(this);
+    m_name->setObjectName(QStringLiteral("nameBox"));
+    m_name->setEditable(true);
+    m_name->setInsertPolicy(QComboBox::NoInsert);
+    m_name->setCompleter(nullptr); // It would finish new names as old ones.
+    auto* descriptionLabel = new QLabel(tr("说明(D):"), this);
+    m_description = new QTextEdit(this);
+    m_description->setObjectName(QStringLiteral("descriptionEdit"));
+    m_description->setAcceptRichText(false);
+    m_ok = new QPushButton(tr("确定"), this);
+    m_ok->setObjectName(QStringLiteral("okButton"));
+    m_ok->setDefault(true);
+    auto* cancel = new QPushButton(tr("取消"), this);
+    cancel->setObjectName(QStringLiteral("cancelButton"));
+    auto* help = new QPushButton(tr("帮助(&H)"), this);
+    help->setObjectName(QStringLiteral("helpButton"));
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_ok);
+    buttons->addWidget(cancel);
+    buttons->addWidget(help);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(nameLabel);
+    layout->addWidget(m_name);
+    layout->addWidget(descriptionLabel);
+    layout->addWidget(m_description);
+    layout->addLayout(buttons);
+
+    using Self = VnQtNewLayerStateDlg;
+    connect(m_name, &QComboBox::editTextChanged, this, &Self::slot_ComboBoxEditTextChanged);
+    connect(m_ok, &QPushButton::clicked, this, &Self::slot_SureBtnClicked);
+    connect(cancel, &QPushButton::clicked, this, &Self::close);
+    connect(help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
+    return true;
+}
+
+bool VnQtNewLayerStateDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
+{
+    VnQtModeDialogImpl::setData(data, invoker);
+    fill();
+    m_description->setTabChangesFocus(true);
+    connect(m_name, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+        &VnQtNewLayerStateDlg::slot_ComboBoxCurrentIndexChanged, Qt::UniqueConnection);
+    return true;
+}
+
+VnJsonPtr VnQtNewLayerStateDlg::states() const
+{
+    return data() ? data()->GetDataJ(layerstates::kList) : VnJsonPtr();
+}
+
+void VnQtNewLayerStateDlg::fill()
+{
+    m_description->clear();
+    m_name->clear();
+    m_ok->setEnabled(false);
+    const VnJsonPtr list = states();
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
+        const VnJsonPtr state = list(i);
+        m_name->addItem(vnutOdStringToQString(state->GetDataSW(layerstates::kName)),
+            vnutOdStringToQString(state->GetDataSW(layerstates::kDescription)));
+    }
+    // None is picked, so that picking the first one is a change too.
+    m_name->setCurrentIndex(-1);
+    m_name->clearEditText();
+    m_name->setFocus();
+    m_name->setToolTip(tr("为要保存的新图层状态指定名称。"));
+    m_description->setToolTip(tr("（可选）提供图层状态管理器中显示的图层状态说明。"));
+}
+
+void VnQtNewLayerStateDlg::slot_ComboBoxEditTextChanged(const QString& text)
+{
+    m_ok->setEnabled(!text.trimmed().isEmpty());
+}
+
+void VnQtNewLayerStateDlg::slot_ComboBoxCurrentIndexChanged(int index)
+{
+    m_description->setPlainText(m_name->itemData(index).toString());
+}
+
+void VnQtNewLayerStateDlg::correctName()
+{
+    m_name->setFocus();
+    m_name->lineEdit()->selectAll();
+}
+
+bool VnQtNewLayerStateDlg::acceptCharacters(const QString& name)
+{
+    if (!holdsForbiddenCharacter(name))
+        return true;
+    layerstates::ask(
+        layerstates::kBadCharactersCaption, layerstates::badCharactersText(), {L"关闭(&C)"}, 0);
+    correctName();
+    return false;
+}
+
+bool VnQtNewLayerStateDlg::acceptReplacing(const QString& name)
+{
+    const VnJsonPtr list = states();
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
+        const VnJsonPtr state = list(i);
+        if (!isSameName(name, vnutOdStringToQString(state->GetDataSW(layerstates::kName))))
+            continue;
+        const QString text = tr("%1 已经存在。是否替换?").arg(name);
+        const int answer = layerstates::ask(
+            L"图层状态 - 已经存在", vnutQStringToOdString(text), {L"替换", L"取消"}, kClosed);
+        if (answer == kKeep || answer == kClosed) {
+            correctName();
+            return false;
+        }
+        const bool isFixed =
+            isSameName(vnutOdStringToQString(state->GetDataSW(layerstates::kSpace)),
+                vnutOdStringToQString(kFromReference));
+        if (answer == kReplace && isFixed) {
+            vnuiMessageBox(L"无法保存图层状态。", kProductName, kVnOk);
+            return false;
+        }
+        return true;
+    }
+    return true;
+}
+
+void VnQtNewLayerStateDlg::slot_SureBtnClicked(bool)
+{
+    const QString name = m_name->currentText().trimmed();
+    if (!acceptCharacters(name) || !acceptReplacing(name))
+        return;
+    if (data())
+        data()
+            ->set("LayerStateNewName", vnutQStringToOdString(name))
+            .set(layerstates::kDescription, vnutQStringToOdString(m_description->toPlainText()))
+            .set("result", 1);
+    endDialog(1);
+}
+
+void VnQtNewLayerStateDlg::slot_HelpBtnClicked(bool)
+{
+    vnqtShowHelp();
+}
+
+} // namespace vnsi

@@ -1,0 +1,54 @@
+#include "layeredits.h"
+
+#include "vndialogs.h"
+#include "vnmessages.h"
+#include "vnproduct.h"
+#include "vnqtuilayertransparencymodify.h"
+
+namespace vnsi::layeredits {
+
+namespace {
+
+constexpr int kQuestionStyle = 68; // Yes and No.
+
+} // namespace
+
+bool asksToKeepCurrentOn()
+{
+    return vnuiMessageBox(L"当前图层将被关闭。\n是否要使当前图层保持打开状态?\n", kProductName,
+               kQuestionStyle) == kVnAnswerYes;
+}
+
+void refuseToFreezeCurrent()
+{
+    vnuiMessageBox(L"不能冻结当前图层\n", kProductName, kVnIconInformation);
+}
+
+bool editColor(LayerRecord& record, const VnJsonPtr& question, QWidget* parent)
+{
+    const LayerColor color = record.color();
+    question->SetDataL("selectClr", color.chosenValue());
+    question->set("isByLayerEnable", 0)
+        .set("isByBLockEnable", 0)
+        .set("clrMethod", static_cast<int>(color.method));
+    const VnJsonPtr answer =
+        vnuiShowModelDialogEx(L"Dialog/Common", L"ColorDialog", question, {}, parent);
+    if (answer->GetDataI("result") != 1)
+        return false;
+    record.setColor({answer->GetDataL("clrMethod", 0), answer->GetDataL("selectClr", -1)});
+    return true;
+}
+
+bool editTransparency(LayerRecord& record)
+{
+    VnJsonPtr tree = ElementValue::createObject(2);
+    tree->SetDataI("transparency", record.number(layerkey::kTransparency));
+    VnQtUiLayerTransparencyModify dialog;
+    dialog.setData(tree);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    record.setNumber(layerkey::kTransparency, tree->GetDataI("transparency"));
+    return true;
+}
+
+} // namespace vnsi::layeredits
