@@ -3,6 +3,8 @@
 #include "filefilters.h"
 #include "vnstrings.h"
 
+#include <QFileInfo>
+
 namespace host {
 
 namespace {
@@ -56,13 +58,15 @@ void FileDialog::readKeys(const vnsi::VnJsonPtr& tree)
     const QStringList filters = splitFilters(text(tree, "filter"));
     setNameFilters(filters.isEmpty() ? QStringList{tr("所有文件 (*)")} : filters);
     const QString folder = text(tree, "dir");
-    if (!folder.isEmpty())
+    // Who saves may give the name to start from in the folder's place.
+    const bool isName = !isOpening && !folder.isEmpty() && !QFileInfo(folder).isDir();
+    if (!folder.isEmpty() && !isName)
         setDirectory(folder);
     const QStringList chosen = splitFilters(text(tree, "defFilter"));
     if (!chosen.isEmpty() && filters.contains(chosen.first()))
         selectNameFilter(chosen.first());
     followFilter(selectedNameFilter());
-    const QString offered = text(tree, "defawlt");
+    const QString offered = isName ? folder : text(tree, "defawlt");
     if (!offered.isEmpty())
         selectFile(offered);
 }
@@ -81,7 +85,8 @@ void FileDialog::writeAnswers(const vnsi::VnJsonPtr& tree, bool isAccepted) cons
     if (paths.isEmpty())
         return;
     tree->SetDataSW("filePath", vnsi::vnutQStringToOdString(paths.first()));
-    if (!tree->GetDataB("MutiFile"))
+    // Whoever opens a file may read the list, also where only one file can be chosen.
+    if (!tree->GetDataB("MutiFile") && !tree->GetDataB("Open"))
         return;
     const vnsi::VnJsonPtr all = vnsi::ElementValue::createArray(paths.size());
     for (const QString& path : paths)
