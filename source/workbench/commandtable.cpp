@@ -2,6 +2,7 @@
 
 #include "commands/laydelcommand.h"
 #include "commands/layercommand.h"
+#include "commands/layerstatecommand.h"
 #include "commands/laymchcommand.h"
 #include "commands/laymrgcommand.h"
 
@@ -18,7 +19,8 @@ std::unique_ptr<LayerCommand> make()
 
 constexpr CommandRow kRows[] = {
     {"LAYER", QT_TRANSLATE_NOOP("Commands", "图层特性"), "layer", make<LayerPropertiesCommand>},
-    {"LAYERSTATE", QT_TRANSLATE_NOOP("Commands", "图层状态"), "layer-states", nullptr},
+    {"LAYERSTATE", QT_TRANSLATE_NOOP("Commands", "图层状态"), "layer-states",
+        make<LayerStateCommand>},
     {"LAYDEL", QT_TRANSLATE_NOOP("Commands", "删除图层"), "layer-delete", make<LayerDeleteCommand>},
     {"LAYMCH", QT_TRANSLATE_NOOP("Commands", "更改到图层"), "layer-change",
         make<LayerChangeCommand>},
