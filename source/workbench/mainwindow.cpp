@@ -156,6 +156,7 @@ void MainWindow::connectParts()
     connect(m_recent, &RecentFiles::chosen, this, &MainWindow::openFile);
     connect(m_canvas, &Canvas::cursorMoved, m_status, &StatusFields::showCursor);
     connect(m_canvas, &Canvas::selectionChanged, m_status, &StatusFields::showSelection);
+    connect(m_status, &StatusFields::spaceClicked, this, &MainWindow::switchSpace);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::runCommand);
 
     connect(m_session, &DrawingSession::said, m_commandLine, &CommandLine::say);
@@ -201,14 +202,32 @@ void MainWindow::showDrawing(const std::shared_ptr<const drawing::Geometry>& geo
     connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
     m_canvas->clearSelection();
     m_canvas->setScene(geometry);
+    m_showsModelSpace = drawing()->isModelSpace();
     showLayers();
     m_canvas->zoomToExtents();
     m_recent->add(drawing()->path());
     emit fileOpened();
 }
 
+void MainWindow::switchSpace()
+{
+    if (!drawing() || isBusy())
+        return;
+    const bool toModel = !drawing()->isModelSpace();
+    drawing()->beginStep(toModel ? tr("切换到模型空间") : tr("切换到布局"));
+    drawing()->setModelSpace(toModel);
+    drawing()->commitStep();
+    m_canvas->zoomToExtents();
+}
+
 void MainWindow::showLayers()
 {
+    // Undo and redo switch as well.
+    if (m_showsModelSpace != drawing()->isModelSpace()) {
+        m_showsModelSpace = drawing()->isModelSpace();
+        rebuildGeometry();
+        return;
+    }
     m_canvas->setLayers(drawing()->layers());
     m_status->showLayers(drawing());
     updateState();

@@ -64,6 +64,7 @@ private:
     CommandContext commandContext();
     void runLayerCommand(const CommandRow& row);
     void showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry);
+    void switchSpace();
     void showLayers();
     void rebuildGeometry();
     void updateState();
@@ -76,4 +77,5 @@ private:
     RecentFiles* m_recent = nullptr;
     StatusFields* m_status = nullptr;
     bool m_commandRunning = false;
+    bool m_showsModelSpace = true;
 };
