@@ -4,6 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <limits>
+#include <tuple>
 
 using drawing::Box;
 using drawing::GeometryGroup;
