@@ -1,0 +1,515 @@
+#include "managerdriver.h"
+
+#include <QDialog>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace vnsi;
+
+namespace {
+
+const char kNotCurrent[] =
+    "message|无法将选定图层置为当前图层。\n\n无法将下列图层置为当前图层:\n    依赖外部参照的图层\n"
+    "    已冻结的图层\n    已删除的图层\n|图层 - 无法置为当前|64";
+const char kCurrentOff[] =
+    "message|当前图层将被关闭。\n是否要使当前图层保持打开状态?\n|Quenlith|68";
+const char kCurrentOffTask[] =
+    "task|图层 - 关闭当前图层|当前图层将被关闭。希望执行什么操作？|101=关闭当前图层;"
+    "102=使当前图层保持打开状态";
+const char kSave[] = "message|是否保存对图层设置的修改？|提示|4";
+
+QString refusal(int refused, int selected)
+{
+    return QStringLiteral("message|有 %1 个选定图层无法删除（共 %2 个选定图层)\r\n "
+                          "无法删除以下图层：\r\n    ·图层0和图层Defpoints\r\n    ·当前图层\r\n"
+                          "    依赖外部参照的图层\r\n    ·包含对象的图层\r\n |提示|80")
+        .arg(refused)
+        .arg(selected);
+}
+
+QString request(int code)
+{
+    return QStringLiteral(R"(request|%1|0|{"marker":%1})").arg(code);
+}
+
+/// A key as the keyboard sends it: with the text that an item view would search for.
+void typeKey(QWidget* widget, Qt::Key key, const QString& text)
+{
+    QTest::sendKeyEvent(QTest::Click, widget, key, text, Qt::NoModifier);
+}
+
+} // namespace
+
+class TestLayerManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tabLeavesTable()
+    {
+        const ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
+        QTest::keyClick(manager.table, Qt::Key_Tab);
+        QVERIFY(manager.button("okButton")->hasFocus());
+    }
+
+    void deletesSelected_data()
+    {
+        QTest::addColumn<QStringList>("more"); // Members of the selected records.
+        QTest::addColumn<QStringList>("after");
+        QTest::addColumn<int>("refused");
+        const QString marked = R"({"CurLayer":2,"LayerName":"%1","Modified":1,"Selected":true})";
+        const QString kept = R"({"CurLayer":1,"LayerName":"%1","Selected":true})";
+        QTest::newRow("empty layer") << QStringList{"A|"} << QStringList{marked.arg("A")} << 0;
+        QTest::newRow("0, Defpoints and an empty one")
+            << QStringList{"0|", "dEFPOINTS|", "A|"}
+            << QStringList{kept.arg("0"), kept.arg("dEFPOINTS"), marked.arg("A")} << 2;
+        QTest::newRow("used") << QStringList{R"(A|,"Used":true)", "B|"}
+                              << QStringList{R"({"CurLayer":1,"LayerName":"A","Selected":true,)"
+                                             R"("Used":true})",
+                                     marked.arg("B")}
+                              << 1;
+        QTest::newRow("of a reference")
+            << QStringList{R"(x$A|,"bDepend":true)"}
+            << QStringList{R"({"CurLayer":1,"LayerName":"x$A","Selected":true,"bDepend":true})"}
+            << 1;
+        QTest::newRow("looks like 0") << QStringList{"00|"} << QStringList{marked.arg("00")} << 0;
+        QTest::newRow("deleted before, without a mark")
+            << QStringList{R"(A|,"CurLayer":2)"} << QStringList{kept.arg("A")} << 0;
+    }
+
+    void deletesSelected()
+    {
+        QFETCH(QStringList, more);
+        QFETCH(QStringList, after);
+        QFETCH(int, refused);
+        QStringList records{layer("Current", 0)};
+        QList<int> rows;
+        for (const QString& record : more) {
+            rows.append(records.size());
+            records.append(layer(record.section('|', 0, 0)));
+        }
+        ManagerDriver manager(m_module, layerTree(records));
+        for (int i = 0; i < more.size(); ++i)
+            merge(manager.record(i + 1), '{' + more[i].section('|', 1).mid(1) + '}');
+        manager.select(rows);
+        manager.press("deleteLayerButton");
+
+        QStringList log;
+        if (refused)
+            log.append(refusal(refused, more.size()));
+        QCOMPARE(manager.host.log(), log << request(1));
+        for (int i = 0; i < after.size(); ++i) {
+            QCOMPARE(manager.recordText(i + 1), after[i]);
+            QVERIFY(manager.shows(i + 1, 0,
+                manager.record(i + 1)->GetDataI("CurLayer") == 2 ? "deleted" : "nocurrent"));
+        }
+        QVERIFY(manager.isApplyEnabled());
+        QCOMPARE(manager.selectedRows(), rows);
+    }
+
+    void deletingTwiceRestores()
+    {
+        ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
+        manager.select({1});
+        manager.press("deleteLayerButton");
+        manager.press("deleteLayerButton");
+        QCOMPARE(manager.recordText(1),
+            QStringLiteral(R"({"CurLayer":1,"LayerName":"A","Modified":1,"Selected":true})"));
+        manager.host.answer(7);
+        manager.press("cancelButton"); // The mark as a number counts as a change.
+        QCOMPARE(manager.host.log(), (QStringList{request(1), request(1), kSave}));
+    }
+
+    void deletesByKey_data()
+    {
+        QTest::addColumn<QByteArray>("focused");
+        QTest::newRow("in the table") << QByteArray("layerTable");
+        QTest::newRow("on a button") << QByteArray("okButton");
+    }
+
+    void deletesByKey()
+    {
+        QFETCH(QByteArray, focused);
+        ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
+        manager.select({0, 1});
+        auto* const widget = ModuleFixture::child<QWidget>(manager.dialog, focused.constData());
+        widget->setFocus();
+        typeKey(widget, Qt::Key_Delete, "\x7f");
+        QCOMPARE(manager.host.log(), (QStringList{refusal(1, 2), request(1)}));
+        QVERIFY(manager.shows(1, 0, "deleted"));
+        QCOMPARE(manager.table->currentRow(), 1); // The keyboard goes on from here.
+    }
+
+    void deletesNothingUnselected()
+    {
+        ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}), {}, {});
+        manager.press("deleteLayerButton");
+        QVERIFY(manager.host.log().isEmpty());
+        QVERIFY(!manager.isApplyEnabled());
+        QCOMPARE(manager.root->GetDataI("SelectCount", -1), 0);
+        QVERIFY(!manager.root->HasKey("LastIndex"));
+        QVERIFY(!manager.root->HasKey("ColumnWidthList"));
+    }
+
+    void addsLayer()
+    {
+        const auto add = [](const VnJsonPtr& root) {
+            root->GetDataJ("LayerList")->Append(tree(layer("图层1", 1, R"(,"Selected":true)")));
+        };
+        ManagerDriver manager(m_module,
+            layerTree({layer("0", 0), layer("A"), layer("B", 1, R"(,"Selected":true)")}), add);
+        manager.table->setColumnWidth(1, 222);
+        manager.select({1});
+        manager.press("newLayerButton");
+        QCOMPARE(manager.host.log(), QStringList{request(0)});
+        QCOMPARE(manager.table->rowCount(), 4);
+        QCOMPARE(manager.label("layerCountLabel"), QStringLiteral("全部：共4个图层"));
+        QCOMPARE(manager.selectedRows(), (QList<int>{1, 3}));
+        QVERIFY(!manager.record(2)->GetDataB("Selected", true));
+        QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
+        QCOMPARE(manager.table->columnWidth(1), 222);
+        QVERIFY(manager.isApplyEnabled());
+        manager.press("newLayerButton"); // Widths are replaced, not added.
+        QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
+    }
+
+    void writesSelectionByRanges()
+    {
+        ManagerDriver manager(m_module,
+            layerTree({layer("0", 0), layer("A"), layer("B"), layer("C"), layer("D")}), {},
+            {"SelectCount", "LastIndex", "LastSelectedIndex"});
+        manager.select({3, 4, 1}); // The range selected last ends at row 1.
+        manager.press("newLayerButton");
+        QCOMPARE(manager.host.log(), QStringList{R"(request|0|0|{"LastIndex":4,)"
+                                                 R"("LastSelectedIndex":1,"SelectCount":3})"});
+    }
+
+    void setsCurrentByButton_data()
+    {
+        QTest::addColumn<QString>("more");
+        QTest::addColumn<int>("answer"); // 0: nothing is asked.
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<bool>("isCurrent");
+        QTest::addColumn<bool>("isOff");
+        const auto row = [](const char* name, const char* more, int answer, const char* asked,
+                             bool isCurrent, bool isOff) {
+            QTest::newRow(name) << more << answer << asked << isCurrent << isOff;
+        };
+        row("plain", "{}", 0, "", true, false);
+        row("frozen", R"({"Frozen":true,"Off":true})", 0, kNotCurrent, false, true);
+        row("deleted", R"({"CurLayer":2})", 0, kNotCurrent, false, false);
+        row("of a reference", R"({"bDepend":true})", 0, kNotCurrent, false, false);
+        row("off, turned on", R"({"Off":true})", 6, kCurrentOff, true, false);
+        row("off, left off", R"({"Off":true})", 7, kCurrentOff, true, true);
+    }
+
+    void setsCurrentByButton()
+    {
+        QFETCH(QString, more);
+        QFETCH(int, answer);
+        QFETCH(QString, asked);
+        QFETCH(bool, isCurrent);
+        ManagerDriver manager(m_module, layerTree({layer("Old", 0), layer("New")}));
+        merge(manager.record(1), more);
+        if (answer)
+            manager.host.answer(answer);
+        manager.select({1});
+        manager.press("setCurrentButton");
+        QCOMPARE(manager.host.log().join('#'), asked);
+        QCOMPARE(manager.label("currentLayerLabel"),
+            QString(isCurrent ? "当前图层：New" : "当前图层：Old"));
+        QTEST(manager.record(1)->GetDataB("Off"), "isOff");
+        QCOMPARE(manager.record(0)->GetDataI("CurLayer"), isCurrent ? 1 : 0);
+        QCOMPARE(manager.record(0)->GetDataB("Modified"), isCurrent);
+        QCOMPARE(manager.record(1)->GetDataB("Modified"), isCurrent);
+        QVERIFY(manager.shows(0, 0, isCurrent ? "nocurrent" : "current"));
+        QVERIFY(manager.isApplyEnabled());
+        QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
+        if (isCurrent) { // The rules of the current layer go with it.
+            manager.click(1, 3);
+            QVERIFY(!manager.record(1)->GetDataB("Frozen"));
+        }
+    }
+
+    void setsNothingCurrentUnlessOneIsSelected_data()
+    {
+        QTest::addColumn<QList<int>>("rows");
+        QTest::addColumn<bool>("enables");
+        QTest::newRow("none") << QList<int>{} << false;
+        QTest::newRow("two") << QList<int>{1, 2} << false;
+        QTest::newRow("the current one") << QList<int>{0} << true;
+    }
+
+    void setsNothingCurrentUnlessOneIsSelected()
+    {
+        QFETCH(QList<int>, rows);
+        ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B"), layer("C")}));
+        manager.select(rows);
+        manager.press("setCurrentButton");
+        QVERIFY(manager.host.log().isEmpty());
+        QCOMPARE(manager.label("currentLayerLabel"), QStringLiteral("当前图层：A"));
+        QVERIFY(!manager.record(0)->GetDataB("Modified"));
+        QTEST(manager.isApplyEnabled(), "enables");
+    }
+
+    void setsCurrentByDoubleClick_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("more");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<bool>("changes");
+        QTest::addColumn<bool>("isOff");
+        QTest::newRow("plain") << 2 << "{}" << 0 << "" << true << false;
+        QTest::newRow("current already") << 0 << "{}" << 0 << "" << false << false;
+        QTest::newRow("frozen") << 2 << R"({"Frozen":true})" << 0 << kNotCurrent << false << false;
+        QTest::newRow("off, kept on")
+            << 2 << R"({"Off":true})" << 102 << kCurrentOffTask << true << false;
+        QTest::newRow("off, turned off")
+            << 2 << R"({"Off":true})" << 101 << kCurrentOffTask << true << true;
+        QTest::newRow("off, task dialog closed")
+            << 2 << R"({"Off":true})" << 2 << kCurrentOffTask << true << true;
+    }
+
+    void setsCurrentByDoubleClick()
+    {
+        QFETCH(int, row);
+        QFETCH(QString, more);
+        QFETCH(int, answer);
+        QFETCH(QString, asked);
+        QFETCH(bool, changes);
+        ManagerDriver manager(
+            m_module, layerTree({layer("A", 0), layer("B", 1, R"(,"Selected":true)"), layer("C")}));
+        merge(manager.record(row), more);
+        if (answer)
+            manager.host.answer(answer);
+        manager.doubleClick(row, 0);
+        QCOMPARE(manager.host.log().join('#'), asked);
+        QCOMPARE(manager.record(0)->GetDataI("CurLayer"), changes ? 1 : 0);
+        QCOMPARE(manager.record(1)->GetDataB("Selected"), !changes);
+        QCOMPARE(manager.root->HasKey("ColumnWidthList"), changes);
+        QCOMPARE(manager.isApplyEnabled(), changes);
+        QTEST(manager.record(row)->GetDataB("Off"), "isOff");
+        if (changes)
+            QCOMPARE(manager.selectedRows(), QList<int>{row});
+    }
+
+    void renames_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("refused"); // The message; empty for none.
+        const QString length = "message|名称 的长度必须至少为一个字符|图层 - 文字长度|64";
+        const QString tooLong =
+            "message|图层名无效。\n\n所允许的最大长度为 255 个字符\n|图层 - 文字长度|64";
+        const QString forbidden = "message|图层名中包含无效的字符。\n\n图层名称中不得含有以下字符："
+                                  "\n\\<>/\":;?*|,=`|Quenlith|64";
+        const QString notUnique = "message|图层名无效。\n\n图层名必须唯一\n|Quenlith|64";
+        QTest::newRow("plain") << "墙 1"
+                               << "墙 1"
+                               << "";
+        QTest::newRow("blanks around") << " \t墙\n "
+                                       << "墙"
+                                       << "";
+        QTest::newRow("other case of itself") << "a"
+                                              << "a"
+                                              << "";
+        QTest::newRow("empty") << ""
+                               << "A" << length;
+        QTest::newRow("only blanks") << "  "
+                                     << "A" << length;
+        QTest::newRow("255 characters") << QString(255, L'墙') << QString(255, L'墙') << "";
+        QTest::newRow("255 and blanks") << QString(255, 'x') + "  " << QString(255, 'x') << "";
+        QTest::newRow("255 beyond sixteen bits")
+            << QString("\U0002070E").repeated(255) << QString("\U0002070E").repeated(255) << "";
+        QTest::newRow("256 characters") << QString(256, 'x') << "A" << tooLong;
+        QTest::newRow("256, one forbidden") << QString(255, 'x') + "<"
+                                            << "A" << tooLong;
+        for (const QChar c : QStringLiteral("\\<>/\":;?*|,=`"))
+            QTest::newRow(qPrintable("forbidden " + QString(c)))
+                << QString("x") + c << "A" << forbidden;
+        QTest::newRow("allowed signs") << "x$-_'.%[]"
+                                       << "x$-_'.%[]"
+                                       << "";
+        QTest::newRow("taken in other case") << "LAYER1"
+                                             << "A" << notUnique;
+        QTest::newRow("taken, with blanks") << " Étage "
+                                            << "A" << notUnique;
+    }
+
+    void renames()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, refused);
+        ManagerDriver manager(
+            m_module, layerTree({layer("0", 0), layer("A"), layer("layer1"), layer("étage")}));
+        manager.host.answer([&](const VnJsonPtr& question) {
+            merge(question, QJsonObject{{"Success", true}, {"NewName", typed}});
+            return 1;
+        });
+        manager.doubleClick(1, 1);
+        QStringList log{R"(dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|{"DefaultName":"A"})"};
+        if (!refused.isEmpty())
+            log.append(refused);
+        QCOMPARE(manager.host.log(), log);
+        QTEST(manager.text(1, 1), "stored");
+        QTEST(toJsonObject(manager.record(1))["LayerName"].toString(), "stored");
+        QCOMPARE(manager.cell(1, 1)->textAlignment(), 129);
+        QVERIFY(!(manager.cell(1, 1)->flags() & Qt::ItemIsEditable));
+        QVERIFY(manager.record(1)->GetDataB("Modified")); // Refused or not.
+        QVERIFY(manager.isApplyEnabled());
+        QVERIFY(!manager.table->signalsBlocked());
+    }
+
+    void renamesOnlyLayerToAnything()
+    {
+        ManagerDriver manager(m_module, layerTree({layer("A", 0)}));
+        manager.host.answer(1, R"({"Success":true,"NewName":" <> "})");
+        manager.doubleClick(0, 1);
+        QCOMPARE(manager.text(0, 1), QStringLiteral(" <> "));
+    }
+
+    void refusesToRename_data()
+    {
+        QTest::addColumn<QString>("record");
+        QTest::addColumn<bool>("refused");
+        QTest::newRow("0") << layer("0") << true;
+        QTest::newRow("of a reference") << layer("x|A", 1, R"(,"bDepend":true)") << true;
+        QTest::newRow("looks like 0") << layer("0 ") << false;
+        QTest::newRow("Defpoints") << layer("Defpoints") << false;
+    }
+
+    void refusesToRename()
+    {
+        QFETCH(QString, record);
+        QFETCH(bool, refused);
+        ManagerDriver manager(m_module, layerTree({layer("C", 0), record}));
+        manager.host.setLogsTrees(false);
+        if (!refused)
+            manager.host.answer(2, R"({"Success":false,"NewName":"no"})");
+        manager.doubleClick(1, 1);
+        QCOMPARE(manager.host.log().join('#'),
+            QString(refused ? "message|不能重命名选定图层。\n\n不能重命名下列图层:\n    图层 0\n"
+                              "    依赖外部参照的图层\n|Quenlith|64"
+                            : "dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|"));
+        QCOMPARE(toJsonObject(manager.record(1)), toJsonObject(tree(record)));
+        QCOMPARE(manager.isApplyEnabled(), !refused);
+    }
+
+    void describes()
+    {
+        ManagerDriver manager(
+            m_module, layerTree({layer("0", 0, R"(,"Description":"旧","bDepend":true)")}));
+        manager.host.answer(1, R"({"Success":true,"NewName":" <新> "})");
+        manager.doubleClick(0, 12);
+        QCOMPARE(manager.host.log(), QStringList{"dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|"
+                                                 R"({"DefaultName":"旧","Tip":"说明:"})"});
+        QCOMPARE(manager.text(0, 12), QStringLiteral(" <新> "));
+        QCOMPARE(manager.cell(0, 12)->textAlignment(), 129);
+        QVERIFY(manager.record(0)->GetDataB("Modified"));
+    }
+
+    void closes_data()
+    {
+        QTest::addColumn<QByteArray>("button"); // Empty for the Esc key.
+        QTest::addColumn<QString>("modified");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("log");
+        QTest::addColumn<int>("code");
+        const QString apply = request(4);
+        const auto row = [](const char* name, const char* button, const char* modified, int answer,
+                             const QString& log, int code) {
+            QTest::newRow(name) << QByteArray(button) << modified << answer << log << code;
+        };
+        row("OK, nothing modified", "okButton", "{}", 0, apply, 1);
+        row("OK, modified", "okButton", R"({"Modified":true})", 0, apply, 1);
+        row("Cancel, nothing modified", "cancelButton", R"({"Modified":false})", 0, "", 0);
+        row("Cancel, mark of another type", "cancelButton", R"({"Modified":"x"})", 0, "", 0);
+        row("Cancel, saved", "cancelButton", R"({"Modified":true})", 6, kSave + ("#" + apply), 0);
+        row("Cancel, not saved", "cancelButton", R"({"Modified":true})", 7, kSave, 0);
+        row("Esc", "", R"({"Modified":true})", 0, "", 0);
+    }
+
+    void closes()
+    {
+        QFETCH(QByteArray, button);
+        QFETCH(QString, modified);
+        QFETCH(int, answer);
+        ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B")}));
+        merge(manager.record(1), modified);
+        if (answer)
+            manager.host.answer(answer);
+        QSignalSpy finished(qobject_cast<QDialog*>(manager.dialog->widget()), &QDialog::finished);
+        if (button.isEmpty())
+            typeKey(manager.table, Qt::Key_Escape, "\x1b");
+        else
+            manager.press(button.constData());
+        QCOMPARE(finished.size(), 1);
+        QTEST(finished[0][0].toInt(), "code");
+        QTEST(manager.host.log().join('#'), "log");
+        QVERIFY(!manager.root->HasKey("ColumnWidthList"));
+        QVERIFY(!manager.root->HasKey("SelectCount"));
+    }
+
+    void applies()
+    {
+        ManagerDriver manager(
+            m_module, layerTree({layer("A", 0), layer("B")}), [](const VnJsonPtr& root) {
+                merge(root->GetDataJ("LayerList")(1), R"({"Off":false})");
+            });
+        manager.click(1, 2);
+        QVERIFY(manager.isApplyEnabled());
+        manager.press("applyButton");
+        QCOMPARE(manager.host.log(), QStringList{request(4)});
+        QVERIFY(manager.shows(1, 2, "on")); // Refilled from what the command answered.
+        QVERIFY(!manager.isApplyEnabled());
+        QVERIFY(manager.dialog->widget()->isVisible());
+    }
+
+    void worksWithoutCommandOrTree_data()
+    {
+        QTest::addColumn<QString>("json");
+        QTest::newRow("no command")
+            << layerTree({layer("A", 0), layer("B", 1, R"(,"Modified":true)")});
+        QTest::newRow("no tree") << "";
+    }
+
+    void worksWithoutCommandOrTree()
+    {
+        QFETCH(QString, json);
+        RecordingHost host;
+        const QList<const char*> buttons{"newLayerButton", "deleteLayerButton", "setCurrentButton",
+            "applyButton", "cancelButton", "okButton"};
+        for (const char* name : buttons) {
+            const VnJsonPtr root = json.isEmpty() ? VnJsonPtr() : tree(json);
+            const auto dialog = m_module.createDialog("Dialog/CmdLayer", root);
+            dialog->widget()->show();
+            ModuleFixture::child<QTableWidget>(dialog, "layerTable")->selectRow(1);
+            auto* const button = ModuleFixture::child<QPushButton>(dialog, name);
+            button->setEnabled(true);
+            button->click();
+            const bool closes =
+                button->objectName() == "okButton" || button->objectName() == "cancelButton";
+            QCOMPARE(dialog->widget()->isVisible(), !closes);
+        }
+        QVERIFY(host.log().isEmpty());
+    }
+
+    void takesDataTwice()
+    {
+        ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B")}));
+        const VnJsonPtr second = tree(layerTree({layer("C", 0)}));
+        manager.dialog->setData(second, manager.invoker);
+        QCOMPARE(manager.table->rowCount(), 1);
+        manager.press("newLayerButton");
+        QCOMPARE(manager.host.log(), QStringList{request(0)}); // Not once a connection.
+        QVERIFY(second->HasKey("marker") && !manager.root->HasKey("marker"));
+    }
+
+private:
+    ModuleFixture m_module;
+};
+
+QTEST_MAIN(TestLayerManager)
+
+#include "tst_layermanager.moc"

@@ -1,0 +1,126 @@
+#include "modulefixture.h"
+
+#include <QDirIterator>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
+#include <QtTest>
+
+namespace {
+
+const QDir kRoot(QStringLiteral(SOURCE_DIR));
+
+QString read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The first match of `pattern` in each line that a program writes about the module's library.
+QStringList linesOf(const QString& program, const QStringList& options, const char* pattern)
+{
+    QProcess process;
+    process.start(program, QStringList(options) << ModuleFixture::modulePath());
+    process.waitForFinished();
+    QStringList found;
+    auto match = QRegularExpression(QString::fromUtf8(pattern), QRegularExpression::MultilineOption)
+                     .globalMatch(QString::fromUtf8(process.readAllStandardOutput()));
+    while (match.hasNext())
+        found.append(match.next().captured(1));
+    found.sort();
+    return found;
+}
+
+} // namespace
+
+class TestStructure : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void includesPublicHeadersOnly()
+    {
+        QSet<QString> allowed;
+        for (const char* folder : {"include/oda", "include/vnsi", "include/qt"}) {
+            for (const QString& name : QDir(kRoot.filePath(folder)).entryList(QDir::Files))
+                allowed.insert(name);
+        }
+        const QDir module(kRoot.filePath("source/qtcmdsui/cmdlayerui"));
+        const QRegularExpression include(
+            "^\\s*#\\s*include\\s*([<\"])([^>\"]+)[>\"]", QRegularExpression::MultilineOption);
+        QDirIterator files(
+            module.path(), {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+        QStringList strangers;
+        int count = 0;
+        while (files.hasNext()) {
+            const QString path = files.next();
+            auto match = include.globalMatch(read(path));
+            while (match.hasNext()) {
+                const auto found = match.next();
+                const QString name = found.captured(2);
+                const QString inModule = QDir::cleanPath(module.filePath(name));
+                const QString beside = QDir::cleanPath(QFileInfo(path).dir().filePath(name));
+                ++count;
+                if (found.captured(1) == "<") // Qt and the standard library only.
+                    strangers += name.contains('/') || name.endsWith(".h") ? QStringList{name}
+                                                                           : QStringList{};
+                else if (!allowed.contains(name) && !isOwn(module, inModule) &&
+                         !isOwn(module, beside))
+                    strangers.append(path + ": " + name);
+            }
+        }
+        QCOMPARE(strangers, QStringList());
+        QVERIFY(count > 50);
+    }
+
+    void exportsEntryPointsOnly()
+    {
+        QCOMPARE(linesOf("nm", {"-D", "--defined-only"}, "^[0-9a-f]+ \\w ([^_\\s][^\\s@]*)"),
+            (QStringList{"odrxCreateModuleObject", "odrxGetAPIVersion"}));
+        QVERIFY(linesOf("nm", {"-D", "--defined-only"}, "^[0-9a-f]+ \\w (_[^\\s@]*)").isEmpty());
+    }
+
+    void needsPublicLibrariesOnly()
+    {
+        const QRegularExpression allowed("^(libQt5(Core|Gui|Widgets)|lib(stdc\\+\\+|gcc_s|m|c|asan|"
+                                         "ubsan)|ld-linux.*|libvnhost|libvnplatform)\\.so.*$");
+        const QStringList needed = linesOf("readelf", {"-d"}, "\\(NEEDED\\).*\\[(.*)\\]");
+        QVERIFY(needed.contains("libvnhost.so"));
+        for (const QString& library : needed)
+            QVERIFY2(allowed.match(library).hasMatch(), qPrintable(library));
+    }
+
+    void holdsBitmapsInTwoSizes()
+    {
+        const ModuleFixture module;
+        QSet<QByteArray> seen;
+        for (const char* name : {"current", "nocurrent", "deleted", "off", "on", "frozed", "thaw",
+                 "lock", "unlock", "print", "noprint", "allfrozed", "allthaw", "newlayer",
+                 "deletelayer", "currentlayer"}) {
+            const QString path = QStringLiteral(":/res/Resources/layer_%1").arg(name);
+            const QImage small(path + ".bmp");
+            const QImage large(path + "@2x.bmp");
+            QCOMPARE(small.size(), QSize(16, 16));
+            QCOMPARE(large.size(), QSize(32, 32));
+            QVERIFY2(small.hasAlphaChannel() && large.hasAlphaChannel(), name);
+            bool isClearSomewhere = false; // No box around the sign.
+            for (int i = 0; i < 16 * 16; ++i)
+                isClearSomewhere |= qAlpha(small.pixel(i % 16, i / 16)) == 0;
+            QVERIFY2(isClearSomewhere, name);
+            seen.insert(QByteArray(
+                reinterpret_cast<const char*>(small.constBits()), int(small.sizeInBytes())));
+        }
+        QCOMPARE(seen.size(), 16); // None looks like another.
+    }
+
+private:
+    static bool isOwn(const QDir& module, const QString& path)
+    {
+        return path.startsWith(module.path() + '/') && QFile::exists(path);
+    }
+};
+
+QTEST_MAIN(TestStructure)
+
+#include "tst_structure.moc"

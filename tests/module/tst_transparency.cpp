@@ -1,0 +1,85 @@
+#include "managerdriver.h"
+#include "modaldriver.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QtTest>
+
+class TestTransparency : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void accepts_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("stored"); // -1 where the dialog stays open.
+        QTest::newRow("nothing typed") << "" << 35;
+        QTest::newRow("least") << "0" << 0;
+        QTest::newRow("most") << "90" << 90;
+        QTest::newRow("first digit of an offered value") << "5" << 5;
+        QTest::newRow("too much") << "91" << -1;
+        QTest::newRow("negative") << "-1" << -1;
+        QTest::newRow("most negative") << "-2147483648" << -1;
+        QTest::newRow("no number") << "abc" << 0;
+        QTest::newRow("beyond numbers") << "99999999999" << 0;
+        QTest::newRow("fraction") << "4.5" << 0;
+    }
+
+    void accepts()
+    {
+        QFETCH(QString, typed);
+        QFETCH(int, stored);
+        ManagerDriver manager(m_module, layerTree({layer("0", 0, R"(,"Transparency":35)")}));
+        ModalDriver user;
+        user.then([&](QDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), QStringLiteral("图层透明度"));
+            QCOMPARE(dialog.minimumWidth(), 265);
+            QVERIFY(!dialog.parent());
+            auto* const value = ModuleFixture::child<QComboBox>(&dialog, "transparencyValue");
+            QCOMPARE(value->currentText(), QStringLiteral("35"));
+            value->lineEdit()->selectAll();
+            if (!typed.isEmpty())
+                QTest::keyClicks(value->lineEdit(), typed);
+            QTest::keyClick(value->lineEdit(), Qt::Key_Return);
+            QCOMPARE(dialog.isVisible(), stored < 0);
+            QCOMPARE(value->count(), 10); // What is typed is not offered.
+            if (stored < 0)
+                dialog.reject();
+        });
+        manager.click(0, 8);
+
+        QStringList log;
+        if (stored < 0)
+            log.append("message|请输入一个0至90之间的整数||48");
+        QCOMPARE(manager.host.log(), log);
+        QCOMPARE(manager.record(0)->GetDataI("Transparency"), stored < 0 ? 35 : stored);
+        QCOMPARE(manager.text(0, 8), QString::number(stored < 0 ? 35 : stored));
+        QVERIFY(manager.record(0)->GetDataB("Modified")); // Also when cancelled.
+        QVERIFY(manager.isApplyEnabled());
+    }
+
+    void offersTensAndCancels()
+    {
+        ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
+        ModalDriver user;
+        user.then([](QDialog& dialog) {
+            auto* const value = ModuleFixture::child<QComboBox>(&dialog, "transparencyValue");
+            QStringList offered;
+            for (int i = 0; i < value->count(); ++i)
+                offered.append(value->itemText(i));
+            QCOMPARE(offered.join(' '), QStringLiteral("0 10 20 30 40 50 60 70 80 90"));
+            value->setEditText("50");
+            ModuleFixture::child<QPushButton>(&dialog, "cancelButton")->click();
+        });
+        manager.click(0, 8);
+        QVERIFY(!manager.record(0)->HasKey("Transparency"));
+    }
+
+private:
+    ModuleFixture m_module;
+};
+
+QTEST_MAIN(TestTransparency)
+
+#include "tst_transparency.moc"
