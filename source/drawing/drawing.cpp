@@ -252,6 +252,11 @@ QString Drawing::layerStatesPath() const
     return LayerStates(d->data).liveInDrawing() ? QString() : d->data.statesPath;
 }
 
+bool Drawing::hasNamedPlotStyles() const
+{
+    return !d->data.plotStylesByColor;
+}
+
 bool Drawing::isModelSpace() const
 {
     return d->data.state.modelSpace;

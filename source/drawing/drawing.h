@@ -65,6 +65,8 @@ public:
     /// The file beside the drawing that holds its layer states; empty where they live in the
     /// drawing itself.
     QString layerStatesPath() const;
+    /// Whether layers have plot styles by name; otherwise these follow from the colour.
+    bool hasNamedPlotStyles() const;
     /// True while model space is shown, false for a layout.
     bool isModelSpace() const;
 
@@ -84,7 +86,8 @@ public:
     /// step. Refuses a name that is empty, longer than 255, in use or with one of \ < > / " : ; ?
     /// * | , = ` in it, renaming layer 0 or a layer that depends on a reference, a linetype the
     /// drawing lacks, and values out of their ranges. What the file's version cannot store is left
-    /// as it was, see `takeNotices`. The plot style is not changed.
+    /// as it was, see `takeNotices`. The plot style is changed where the drawing has named styles
+    /// and one of that name.
     Expected<void> setLayerProperties(LayerId id, const LayerProperties& properties);
     Expected<LayerId> addLayer(const LayerProperties& properties); ///< Refuses the same.
     /// Refuses layer 0, the current layer and used layers. What still names the layer (block heads,

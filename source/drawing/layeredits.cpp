@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace drawing {
 
@@ -142,6 +143,19 @@ void LayerEdits::needApplications(const LayerProperties& before, const LayerProp
         tables.needAppId(QLatin1String(kStandardApp));
 }
 
+/// The handle of a named plot style; what the layer has where styles go by colour, and where there
+/// is none of that name.
+quint64 LayerEdits::plotStyleHandle(const LayerEntry& entry, const QString& wanted) const
+{
+    if (m_data.plotStylesByColor)
+        return entry.plotStyle;
+    const auto& styles = m_data.plotStyles;
+    const auto found = std::find_if(styles.begin(), styles.end(),
+        [&wanted](const QString& name) { return name.compare(wanted, Qt::CaseInsensitive) == 0; });
+    const bool isKept = found == styles.end() || *found == styles.value(entry.plotStyle);
+    return isKept ? entry.plotStyle : found.key();
+}
+
 Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& properties)
 {
     if (!m_data.layers.layer(id))
@@ -157,17 +171,22 @@ Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& prop
             return checked;
     }
     dropUnsupported(before, after);
+    const quint64 oldStyle =
+        std::exchange(entry.plotStyle, plotStyleHandle(entry, after.plotStyle));
     after.plotStyle = m_data.plotStyleName(after.colorIndex, entry.plotStyle);
     if (after == before)
         return {};
     needApplications(before, after);
     entry.layer.properties = after;
     SymbolTables tables(m_data);
-    if (entry.hasRecord)
-        tables.setLayerRecord(entry, editedLayerRecord(tables.layerRecord(entry),
-                                         stored(before, after), after, m_data.codec));
-    else
+    if (!entry.hasRecord) {
         tables.addLayerRecord(entry);
+    } else {
+        const QByteArray record = editedLayerRecord(
+            tables.layerRecord(entry), stored(before, after), after, m_data.codec);
+        tables.setLayerRecord(
+            entry, entry.plotStyle == oldStyle ? record : withPlotStyle(record, entry.plotStyle));
+    }
     m_data.layers.change(id, entry);
     return {};
 }

@@ -24,6 +24,7 @@ private:
     Expected<LayerProperties> settled(
         const LayerProperties& before, const LayerProperties& wanted) const;
     void dropUnsupported(const LayerProperties& before, LayerProperties& after);
+    quint64 plotStyleHandle(const LayerEntry& entry, const QString& wanted) const;
     void needApplications(const LayerProperties& before, const LayerProperties& after);
 
     DrawingData& m_data;

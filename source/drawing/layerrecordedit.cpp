@@ -219,6 +219,13 @@ QByteArray editedLayerRecord(const QByteArray& record, const LayerProperties& be
     return editor.bytes();
 }
 
+QByteArray withPlotStyle(const QByteArray& record, quint64 handle)
+{
+    RecordEditor editor(record);
+    editor.setText(390, QByteArray::number(handle, 16).toUpper());
+    return editor.bytes();
+}
+
 QByteArray newLayerRecord(
     const NewLayerRecord& plan, const LayerProperties& properties, const TextCodec& codec)
 {

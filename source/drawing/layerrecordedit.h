@@ -20,6 +20,9 @@ struct NewLayerRecord
 QByteArray editedLayerRecord(const QByteArray& record, const LayerProperties& before,
     const LayerProperties& after, const TextCodec& codec);
 
+/// The record with another plot style name object.
+QByteArray withPlotStyle(const QByteArray& record, quint64 handle);
+
 QByteArray newLayerRecord(
     const NewLayerRecord& plan, const LayerProperties& properties, const TextCodec& codec);
 

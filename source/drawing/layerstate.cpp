@@ -37,6 +37,10 @@ constexpr MaskRow kRows[] = {
     {kStateTransparency, [](auto& to, auto& from) { to.transparency = from.transparency; }},
 };
 
+/// What a viewport may show otherwise than the layer says.
+constexpr int kOverridable =
+    kStateColor | kStateLinetype | kStateLineweight | kStatePlotStyle | kStateTransparency;
+
 QString tr(const char* text)
 {
     return QCoreApplication::translate("drawing", text);
@@ -83,13 +87,17 @@ private:
 
     Drawing& m_drawing;
     const LayerState& m_state;
-    const LayerStateRestore& m_how;
+    LayerStateRestore m_how;
     QStringList m_notices;
 };
 
 QStringList Restoring::run()
 {
     makeCurrent();
+    if (m_how.viewportOverrides) {
+        m_how.mask &= ~kOverridable;
+        m_notices += tr("颜色、线型、线宽、打印样式和透明度还不能作为视口替代应用，没有恢复。");
+    }
     QSet<QString> restored;
     QStringList missing;
     for (const LayerStateLayer& saved : m_state.layers) {

@@ -67,8 +67,9 @@ bool isSameAsDrawing(const LayerState& state, const Drawing& drawing);
 struct LayerStateRestore
 {
     int mask = kStateEverything;
-    bool turnOthersOff = false;     ///< Layers that the state does not hold.
-    bool viewportOverrides = false; ///< Colours, linetypes and the like for the viewport alone.
+    bool turnOthersOff = false; ///< Layers that the state does not hold.
+    /// Colours, linetypes and the like are wanted for the viewport alone: the layers keep theirs.
+    bool viewportOverrides = false;
 };
 
 /// Restores `state` within the open step; returns a sentence for each thing that could not be.

@@ -83,6 +83,7 @@ private slots:
     void restored_data();
     void restored();
     void restoredWithCurrent();
+    void namedPlotStyles();
     void modelSpace();
     void many();
 
@@ -505,6 +506,36 @@ void TestLayerStates::restoredWithCurrent()
     drawing->commitStep();
     restore(*drawing, state, {});
     QVERIFY(!drawing->findLayer(QStringLiteral("0"))->properties.frozen);
+
+    // Overrides of a viewport must not reach the layers themselves.
+    state.layers.at(0).properties.colorIndex = 2;
+    how = {};
+    how.viewportOverrides = true;
+    restore(*drawing, state, how);
+    QCOMPARE(drawing->findLayer(QStringLiteral("0"))->properties.colorIndex, 7);
+}
+
+/// Plot styles come back by name where the drawing has them, and leave nothing else changed.
+void TestLayerStates::namedPlotStyles()
+{
+    House house;
+    QByteArray bytes = house.bytes();
+    bytes.replace("  9\n$HANDSEED", "  9\n$PSTYLEMODE\n290\n0\n  9\n$HANDSEED");
+    bytes.replace("  0\nDICTIONARY\n  5\nC\n",
+        tagged("0 DICTIONARY\n5 C\n3 ACAD_PLOTSTYLENAME\n350 D0\n0 ACDBDICTIONARYWDFLT\n5 D0\n"
+               "3 Normal\n350 F\n3 Fine\n350 F1\n"));
+    const auto drawing = opened(bytes);
+    QVERIFY(drawing->hasNamedPlotStyles());
+    LayerState state = captureLayerState(*drawing, QStringLiteral("S"));
+    QCOMPARE(state.layers.front().properties.plotStyle, QStringLiteral("Normal"));
+    state.layers.front().properties.plotStyle = QStringLiteral("FINE");
+    QVERIFY(!isSameAsDrawing(state, *drawing));
+    LayerStateRestore how;
+    how.mask = kStatePlotStyle;
+    restore(*drawing, state, how);
+    QCOMPARE(drawing->findLayer(QStringLiteral("0"))->properties.plotStyle, QStringLiteral("Fine"));
+    QVERIFY(isSameAsDrawing(state, *drawing));
+    QCOMPARE(saved(*drawing), QByteArray(bytes).replace("390\nF\n", "390\nF1\n"));
 }
 
 void TestLayerStates::modelSpace()
