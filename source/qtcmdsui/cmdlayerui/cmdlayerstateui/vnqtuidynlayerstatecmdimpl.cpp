@@ -71,6 +71,7 @@ constexpr MaskRow kMask[] = {
 enum Select { kSelectAll, kClearAll };
 enum DeleteAnswer { kDeleteThis, kDeleteAll, kKeepThis, kStop };
 
+constexpr int kLeastWidth = 645;
 constexpr char kIsExpand[] = "IsExpand";
 constexpr char kMaskKey[] = "LayerStateMask";
 constexpr wchar_t kFromReference[] = L"外部参照";
@@ -139,7 +140,7 @@ VnQtUiDynLayerStateCmdImpl::VnQtUiDynLayerStateCmdImpl(
     : VnQtModeDialogImpl(wrapper, parent, flags)
 {
     setWindowTitle(tr("图层状态管理器"));
-    setMinimumWidth(645);
+    setMinimumWidth(kLeastWidth);
 }
 
 bool VnQtUiDynLayerStateCmdImpl::initDialog()
@@ -149,6 +150,9 @@ bool VnQtUiDynLayerStateCmdImpl::initDialog()
     layout->addWidget(makeListPanel(), 0, 0);
     layout->addWidget(makeMaskPanel(), 0, 1);
     layout->addLayout(makeBottomRow(), 1, 0, 1, 2);
+    // The size constraint takes the place of the window's own minimum.
+    const QMargins margins = layout->contentsMargins();
+    layout->addItem(new QSpacerItem(kLeastWidth - margins.left() - margins.right(), 0), 2, 0, 1, 2);
     m_maskPanel->hide();
     return true;
 }
@@ -181,6 +185,7 @@ QWidget* VnQtUiDynLayerStateCmdImpl::makeListPanel()
 
     auto* grid = new QGridLayout(panel);
     grid->setMargin(0);
+    grid->setColumnStretch(2, 1);
     grid->addWidget(new QLabel(tr("图层状态(E)"), panel), 0, 0);
     grid->addWidget(m_table, 1, 0);
     grid->addLayout(makeButtonColumn(), 1, 1);
@@ -329,8 +334,8 @@ void VnQtUiDynLayerStateCmdImpl::setUpTable()
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    constexpr int kWidths[] = {110, 70, 90};
+    m_table->horizontalHeader()->setSectionResizeMode(kDescriptionColumn, QHeaderView::Stretch);
+    constexpr int kWidths[] = {90, 66, 110};
     for (int column = 0; column < kDescriptionColumn; ++column)
         m_table->setColumnWidth(column, kWidths[column]);
 }
