@@ -55,6 +55,8 @@ VnUiModeDialogBasePtr make()
 
 } // namespace
 
+Q_DECLARE_METATYPE(ModalDriver::Step)
+
 class TestModalHost : public QObject
 {
     Q_OBJECT
@@ -216,8 +218,6 @@ private slots:
 private:
     host::Host m_host;
 };
-
-Q_DECLARE_METATYPE(ModalDriver::Step)
 
 QTEST_MAIN(TestModalHost)
 

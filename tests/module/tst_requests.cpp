@@ -30,6 +30,9 @@ class Bystander : public OdRxObject
 
 } // namespace
 
+Q_DECLARE_METATYPE(OdRxObjectPtr)
+Q_DECLARE_METATYPE(RecordingInvoker::Answer)
+
 class TestRequests : public QObject
 {
     Q_OBJECT
@@ -160,9 +163,6 @@ private slots:
         QCOMPARE(line["after"]["answer"].toInt(), 7);
     }
 };
-
-Q_DECLARE_METATYPE(OdRxObjectPtr)
-Q_DECLARE_METATYPE(Answer)
 
 QTEST_MAIN(TestRequests)
 

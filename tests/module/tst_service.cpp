@@ -92,8 +92,10 @@ private:
     /// The dialogs that are there at any time.
     static bool isBuilt(const QString& name)
     {
-        static const QStringList built{
-            "dialog/cmdlayer", "dialog/cmdlaydel", "dialog/cmdlaymch", "dialog/cmdlaymrg"};
+        static const QStringList built{"dialog/cmdlayer", "dialog/cmdlayerstate",
+            "dialog/cmdlayerstatenew", "dialog/cmdlayerstateedit",
+            "dialog/cmdlayerstateaddnewlayer", "dialog/cmdlaydel", "dialog/cmdlaymch",
+            "dialog/cmdlaymrg"};
         return built.contains(name.toLower());
     }
 
