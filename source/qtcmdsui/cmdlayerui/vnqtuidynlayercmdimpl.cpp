@@ -241,8 +241,10 @@ void VnQtUiDynLayerCmdImpl::fill()
 /// Puts the keyboard's cursor on a row, and that into view, without selecting it.
 void VnQtUiDynLayerCmdImpl::moveCursor(int row)
 {
+    const int scrolledTo = m_table->horizontalScrollBar()->value();
     m_table->selectionModel()->setCurrentIndex(
         m_table->model()->index(row, kName), QItemSelectionModel::NoUpdate);
+    m_table->horizontalScrollBar()->setValue(scrolledTo);
 }
 
 void VnQtUiDynLayerCmdImpl::applyColumnWidths()
