@@ -3,46 +3,11 @@
 #include "layerrecord.h"
 #include "vnstrings.h"
 
-#include <QCoreApplication>
 #include <QDialog>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 
 namespace vnsi::layerlist {
-
-namespace {
-
-struct ButtonRow
-{
-    QPushButton* Buttons::*button;
-    const char* text;
-    const char* objectName;
-};
-
-constexpr ButtonRow kButtons[] = {
-    {&Buttons::ok, QT_TRANSLATE_NOOP("vnsi::layerlist", "确定"), "okButton"},
-    {&Buttons::cancel, QT_TRANSLATE_NOOP("vnsi::layerlist", "取消"), "cancelButton"},
-    {&Buttons::help, QT_TRANSLATE_NOOP("vnsi::layerlist", "帮助(&H)"), "helpButton"},
-};
-
-} // namespace
-
-QBoxLayout* makeButtonRow(QDialog& dialog, Buttons& buttons)
-{
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    for (const ButtonRow& description : kButtons) {
-        auto* button = new QPushButton(
-            QCoreApplication::translate("vnsi::layerlist", description.text), &dialog);
-        button->setObjectName(QLatin1String(description.objectName));
-        row->addWidget(button);
-        buttons.*description.button = button;
-    }
-    buttons.ok->setDefault(true);
-    return row;
-}
 
 QListWidget* makeList(QDialog& dialog)
 {

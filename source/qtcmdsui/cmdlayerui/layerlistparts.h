@@ -5,25 +5,14 @@
 #include <QSet>
 #include <QString>
 
-class QBoxLayout;
 class QDialog;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
-class QPushButton;
 
 /// What the dialogs that offer layers in a list have in common.
 namespace vnsi::layerlist {
 
-struct Buttons
-{
-    QPushButton* ok = nullptr;
-    QPushButton* cancel = nullptr;
-    QPushButton* help = nullptr;
-};
-
-/// The row of OK, Cancel and Help at a dialog's right, with OK as its default button.
-QBoxLayout* makeButtonRow(QDialog& dialog, Buttons& buttons);
 QListWidget* makeList(QDialog& dialog);
 /// A line edit that takes the focus by click only, so that the list keeps the keyboard.
 QLineEdit* makeNameEdit(QDialog& dialog);

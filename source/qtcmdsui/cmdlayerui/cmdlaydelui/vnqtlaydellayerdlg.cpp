@@ -1,5 +1,6 @@
 #include "vnqtlaydellayerdlg.h"
 
+#include "dialogbuttons.h"
 #include "dialoghelp.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
@@ -49,12 +50,12 @@ bool VnQtLaydelLayerDlg::initDialog()
     auto* listBox = new QHBoxLayout;
     listBox->setMargin(15);
     listBox->addWidget(m_list);
-    layerlist::Buttons buttons;
+    OkCancelHelp buttons;
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addLayout(listBox);
-    layout->addLayout(layerlist::makeButtonRow(*this, buttons));
+    layout->addLayout(makeButtonRow(*this, buttons));
 
     using Self = VnQtLaydelLayerDlg;
     connect(m_list, &QListWidget::itemDoubleClicked, this, &Self::slot_LayerListItemDoubleClicked);

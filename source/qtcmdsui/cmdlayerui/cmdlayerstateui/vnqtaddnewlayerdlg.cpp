@@ -1,5 +1,6 @@
 #include "vnqtaddnewlayerdlg.h"
 
+#include "dialogbuttons.h"
 #include "dialoghelp.h"
 #include "layercells.h"
 #include "statetexts.h"
@@ -42,27 +43,15 @@ bool VnQtAddNewLayerDlg::initDialog()
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    auto* ok = new QPushButton(tr("确定"), this);
-    ok->setObjectName(QStringLiteral("okButton"));
-    ok->setDefault(true);
-    auto* cancel = new QPushButton(tr("取消"), this);
-    cancel->setObjectName(QStringLiteral("cancelButton"));
-    auto* help = new QPushButton(tr("帮助(&H)"), this);
-    help->setObjectName(QStringLiteral("helpButton"));
-
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
-    buttons->addWidget(help);
+    OkCancelHelp buttons;
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_table);
-    layout->addLayout(buttons);
+    layout->addLayout(makeButtonRow(*this, buttons));
 
     using Self = VnQtAddNewLayerDlg;
-    connect(ok, &QPushButton::clicked, this, &Self::slot_SureBtnClicked);
-    connect(cancel, &QPushButton::clicked, this, &Self::close);
-    connect(help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
+    connect(buttons.ok, &QPushButton::clicked, this, &Self::slot_SureBtnClicked);
+    connect(buttons.cancel, &QPushButton::clicked, this, &Self::close);
+    connect(buttons.help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "vnqteditlayerstatedlg.h"
 
+#include "dialogbuttons.h"
 #include "dialoghelp.h"
 #include "layeredits.h"
 #include "statetexts.h"
@@ -101,23 +102,14 @@ QPushButton* VnQtEditLayerStateDlg::makeIconButton(
 
 QBoxLayout* VnQtEditLayerStateDlg::makeBottomRow()
 {
-    auto* ok = new QPushButton(tr("确定"), this);
-    ok->setObjectName(QStringLiteral("okButton"));
-    ok->setDefault(true);
-    auto* cancel = new QPushButton(tr("取消"), this);
-    cancel->setObjectName(QStringLiteral("cancelButton"));
-    auto* help = new QPushButton(tr("帮助(&H)"), this);
-    help->setObjectName(QStringLiteral("helpButton"));
-
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    for (QPushButton* button : {ok, cancel, help}) {
+    OkCancelHelp buttons;
+    QBoxLayout* row = makeButtonRow(*this, buttons);
+    for (QPushButton* button : {buttons.ok, buttons.cancel, buttons.help})
         button->setFixedSize(kButtonWidth, button->sizeHint().height());
-        row->addWidget(button);
-    }
-    connect(ok, &QPushButton::clicked, this, &VnQtEditLayerStateDlg::slot_BtnOkClicked);
-    connect(cancel, &QPushButton::clicked, this, &VnQtEditLayerStateDlg::close);
-    connect(help, &QPushButton::clicked, this, &VnQtEditLayerStateDlg::slot_HelpBtnClicked);
+    using Self = VnQtEditLayerStateDlg;
+    connect(buttons.ok, &QPushButton::clicked, this, &Self::slot_BtnOkClicked);
+    connect(buttons.cancel, &QPushButton::clicked, this, &Self::close);
+    connect(buttons.help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
     return row;
 }
 

@@ -1,5 +1,6 @@
 #include "vnqtnewlayerstatedlg.h"
 
+#include "dialogbuttons.h"
 #include "dialoghelp.h"
 #include "namerule.h"
 #include "statetexts.h"
@@ -43,31 +44,20 @@ bool VnQtNewLayerStateDlg::initDialog()
     m_description = new QTextEdit(this);
     m_description->setObjectName(QStringLiteral("descriptionEdit"));
     m_description->setAcceptRichText(false);
-    m_ok = new QPushButton(tr("确定"), this);
-    m_ok->setObjectName(QStringLiteral("okButton"));
-    m_ok->setDefault(true);
-    auto* cancel = new QPushButton(tr("取消"), this);
-    cancel->setObjectName(QStringLiteral("cancelButton"));
-    auto* help = new QPushButton(tr("帮助(&H)"), this);
-    help->setObjectName(QStringLiteral("helpButton"));
-
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(m_ok);
-    buttons->addWidget(cancel);
-    buttons->addWidget(help);
+    OkCancelHelp buttons;
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(nameLabel);
     layout->addWidget(m_name);
     layout->addWidget(descriptionLabel);
     layout->addWidget(m_description);
-    layout->addLayout(buttons);
+    layout->addLayout(makeButtonRow(*this, buttons));
+    m_ok = buttons.ok;
 
     using Self = VnQtNewLayerStateDlg;
     connect(m_name, &QComboBox::editTextChanged, this, &Self::slot_ComboBoxEditTextChanged);
     connect(m_ok, &QPushButton::clicked, this, &Self::slot_SureBtnClicked);
-    connect(cancel, &QPushButton::clicked, this, &Self::close);
-    connect(help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
+    connect(buttons.cancel, &QPushButton::clicked, this, &Self::close);
+    connect(buttons.help, &QPushButton::clicked, this, &Self::slot_HelpBtnClicked);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "vnqtlaymchlayerdlg.h"
 
+#include "dialogbuttons.h"
 #include "dialoghelp.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
@@ -60,12 +61,12 @@ bool VnQtLaymchLayerDlg::initDialog()
     auto* choice = new QVBoxLayout;
     choice->addWidget(m_nameEdit);
     choice->addWidget(m_list);
-    layerlist::Buttons buttons;
+    OkCancelHelp buttons;
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addLayout(choice);
-    layout->addLayout(layerlist::makeButtonRow(*this, buttons));
+    layout->addLayout(makeButtonRow(*this, buttons));
 
     using Self = VnQtLaymchLayerDlg;
     connect(m_list, &QListWidget::currentItemChanged, this, &Self::slot_LayerListItemClicked);

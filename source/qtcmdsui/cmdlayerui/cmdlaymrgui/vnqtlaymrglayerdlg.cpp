@@ -1,5 +1,6 @@
 #include "vnqtlaymrglayerdlg.h"
 
+#include "dialogbuttons.h"
 #include "dialoghelp.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
@@ -74,14 +75,14 @@ void VnQtLaymrgLayerDlg::buildLayout()
     m_list = layerlist::makeList(*this);
     m_list->setSelectionMode(
         m_sourceMode ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
-    layerlist::Buttons buttons;
+    OkCancelHelp buttons;
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     if (m_targetEdit)
         layout->addWidget(m_targetEdit);
     layout->addWidget(m_list);
-    layout->addLayout(layerlist::makeButtonRow(*this, buttons));
+    layout->addLayout(makeButtonRow(*this, buttons));
 
     using Self = VnQtLaymrgLayerDlg;
     connect(m_list, &QListWidget::currentItemChanged, this, &Self::slot_LayerListItemClicked);

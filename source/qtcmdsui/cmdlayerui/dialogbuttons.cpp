@@ -1,0 +1,42 @@
+#include "dialogbuttons.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace vnsi {
+
+namespace {
+
+struct ButtonRow
+{
+    QPushButton* OkCancelHelp::*button;
+    const char* text;
+    const char* objectName;
+};
+
+constexpr ButtonRow kButtons[] = {
+    {&OkCancelHelp::ok, QT_TRANSLATE_NOOP("vnsi::OkCancelHelp", "确定"), "okButton"},
+    {&OkCancelHelp::cancel, QT_TRANSLATE_NOOP("vnsi::OkCancelHelp", "取消"), "cancelButton"},
+    {&OkCancelHelp::help, QT_TRANSLATE_NOOP("vnsi::OkCancelHelp", "帮助(&H)"), "helpButton"},
+};
+
+} // namespace
+
+QBoxLayout* makeButtonRow(QDialog& dialog, OkCancelHelp& buttons)
+{
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    for (const ButtonRow& description : kButtons) {
+        auto* button = new QPushButton(
+            QCoreApplication::translate("vnsi::OkCancelHelp", description.text), &dialog);
+        button->setObjectName(QLatin1String(description.objectName));
+        row->addWidget(button);
+        buttons.*description.button = button;
+    }
+    buttons.ok->setDefault(true);
+    return row;
+}
+
+} // namespace vnsi
