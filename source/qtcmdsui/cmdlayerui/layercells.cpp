@@ -15,8 +15,6 @@ namespace vnsi {
 namespace {
 
 constexpr int kSwatchSize = 16;
-/// Lists with more looks than this are no drawing's; models of them are not worth their memory.
-constexpr int kMostModels = 4096;
 // The alignment values of the host's tables: left or centred, in the middle of the row's height.
 constexpr int kAlignLeft = 129;
 constexpr int kAlignCentre = 132;
@@ -31,12 +29,40 @@ bool isCentred(LayerCell cell)
     return cell == LayerCell::Toggle || cell == LayerCell::Color;
 }
 
-/// Whether a drawing's cells of this kind repeat few looks; texts differ.
-bool hasFewLooks(LayerCell cell)
+/// A cell that cannot be edited in place. It holds what it shows itself: a general item's list of
+/// roles costs several allocations a cell, and a table has thirteen cells a layer.
+class LayerCellItem : public QTableWidgetItem
 {
-    return cell == LayerCell::Status || cell == LayerCell::Toggle || cell == LayerCell::Color ||
-           cell == LayerCell::LineWidth || cell == LayerCell::Number;
-}
+public:
+    LayerCellItem(bool centred, const QIcon& icon, const QString& text)
+        : m_icon(icon),
+          m_text(text),
+          m_alignment(centred ? kAlignCentre : kAlignLeft)
+    {
+        setFlags(flags() & ~Qt::ItemIsEditable);
+    }
+
+    QTableWidgetItem* clone() const override { return new LayerCellItem(*this); }
+
+    QVariant data(int role) const override
+    {
+        switch (role) {
+        case Qt::DisplayRole:
+            return m_text.isNull() ? QVariant() : m_text;
+        case Qt::DecorationRole:
+            return m_icon.isNull() ? QVariant() : m_icon;
+        case Qt::TextAlignmentRole:
+            return m_alignment;
+        default:
+            return QTableWidgetItem::data(role);
+        }
+    }
+
+private:
+    QIcon m_icon;
+    QString m_text;
+    int m_alignment;
+};
 
 VnDocumentPtr currentDocument()
 {
@@ -75,6 +101,16 @@ QString lineWidthText(int lineWidth)
     default:
         return QStringLiteral("%1 mm").arg(lineWidth / 100.0, 0, 'f', 2);
     }
+}
+
+QSize LayerCellDelegate::sizeHint(
+    const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const bool hasIcon = index.data(Qt::DecorationRole).isValid();
+    QSize& size = m_sizes[{index.data(Qt::DisplayRole).toString(), hasIcon}];
+    if (!size.isValid())
+        size = QStyledItemDelegate::sizeHint(option, index);
+    return size;
 }
 
 const QIcon& LayerCells::icon(LayerIcon icon)
@@ -121,80 +157,38 @@ const LayerCells::Swatch& LayerCells::swatch(const LayerColor& color)
     return made;
 }
 
-LayerCells::Look LayerCells::lookOf(const LayerRecord& record, const LayerColumn& column) const
+const QString& LayerCells::numberText(LayerCell cell, int number)
 {
-    const int cell = static_cast<int>(column.cell);
-    switch (column.cell) {
-    case LayerCell::Status:
-        return {cell, {record.status(), 0}};
-    case LayerCell::Toggle:
-        return {cell,
-            {static_cast<qint64>(record.flag(column.key) ? column.whenTrue : column.whenFalse), 0}};
-    case LayerCell::Color: {
-        const LayerColor color = record.color();
-        return {cell, {color.method, color.value}};
-    }
-    default:
-        return {cell, {record.number(column.key), 0}};
-    }
+    QString& made = m_numberTexts[{static_cast<int>(cell), number}];
+    if (made.isNull())
+        made = cell == LayerCell::LineWidth ? lineWidthText(number) : QString::number(number);
+    return made;
 }
 
 QTableWidgetItem* LayerCells::makeItem(const LayerRecord& record, const LayerColumn& column)
 {
-    if (!hasFewLooks(column.cell))
-        return makeNewItem(record, column);
-    // A copy shares what it shows with its model, which is cheaper than setting it again.
-    if (m_models.size() > kMostModels)
-        m_models.clear();
-    std::shared_ptr<QTableWidgetItem>& model = m_models[lookOf(record, column)];
-    if (!model)
-        model.reset(makeNewItem(record, column));
-    return model->clone();
-}
-
-QTableWidgetItem* LayerCells::makeBlankItem(LayerCell cell)
-{
-    const bool centred = isCentred(cell);
-    std::shared_ptr<QTableWidgetItem>& blank = m_blanks[centred];
-    if (!blank) {
-        blank = std::make_shared<QTableWidgetItem>();
-        blank->setFlags(blank->flags() & ~Qt::ItemIsEditable);
-        blank->setTextAlignment(centred ? kAlignCentre : kAlignLeft);
-    }
-    return blank->clone();
-}
-
-QTableWidgetItem* LayerCells::makeNewItem(const LayerRecord& record, const LayerColumn& column)
-{
-    QTableWidgetItem* const item = makeBlankItem(column.cell);
+    const auto make = [&column](const QIcon& icon, const QString& text) {
+        return new LayerCellItem(isCentred(column.cell), icon, text);
+    };
     switch (column.cell) {
     case LayerCell::Status:
-        item->setIcon(statusIcon(record.status()));
-        break;
-    case LayerCell::Text:
-        item->setText(vnutOdStringToQString(record.text(column.key)));
-        break;
+        return make(statusIcon(record.status()), {});
     case LayerCell::MarkedName:
-        item->setIcon(stateIcon(record.isCurrentOfState()));
-        item->setText(vnutOdStringToQString(record.text(column.key)));
-        break;
+        return make(
+            stateIcon(record.isCurrentOfState()), vnutOdStringToQString(record.text(column.key)));
     case LayerCell::Toggle:
-        item->setIcon(icon(record.flag(column.key) ? column.whenTrue : column.whenFalse));
-        break;
+        return make(icon(record.flag(column.key) ? column.whenTrue : column.whenFalse), {});
     case LayerCell::Color: {
         const Swatch& shown = swatch(record.color());
-        item->setIcon(shown.icon);
-        item->setText(shown.text);
-        break;
+        return make(shown.icon, shown.text);
     }
     case LayerCell::LineWidth:
-        item->setText(lineWidthText(record.number(column.key)));
-        break;
     case LayerCell::Number:
-        item->setText(QString::number(record.number(column.key)));
+        return make({}, numberText(column.cell, record.number(column.key)));
+    case LayerCell::Text:
         break;
     }
-    return item;
+    return make({}, vnutOdStringToQString(record.text(column.key)));
 }
 
 void LayerCells::refresh(QTableWidget& table, int row, int column, const LayerRecord& record,
@@ -207,6 +201,8 @@ void LayerCells::fill(QTableWidget& table, const std::vector<LayerRecord>& recor
     const LayerColumn* columns, int columnCount)
 {
     m_document = currentDocument();
+    m_delegate.forgetSizes();
+    table.setItemDelegate(&m_delegate);
     table.setUpdatesEnabled(false);
     table.clearContents();
     table.setRowCount(0);

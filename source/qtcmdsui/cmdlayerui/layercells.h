@@ -5,9 +5,9 @@
 
 #include <QHash>
 #include <QIcon>
+#include <QStyledItemDelegate>
 
 #include <array>
-#include <memory>
 #include <vector>
 
 class QTableWidget;
@@ -49,6 +49,19 @@ struct LayerColumn
     LayerIcon whenFalse = LayerIcon::Count; ///< Of toggles.
 };
 
+/// Remembers the size of each look: laying out the same few texts for thousands of cells is most of
+/// what sizing the columns costs.
+class LayerCellDelegate : public QStyledItemDelegate
+{
+public:
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    /// To be called when fonts or looks may have changed.
+    void forgetSizes() { m_sizes.clear(); }
+
+private:
+    mutable QHash<QPair<QString, bool>, QSize> m_sizes; ///< By text and whether there is an icon.
+};
+
 /// Makes the cells of layer tables. Icons, swatches and colour texts are made once and shared by
 /// all cells of a dialog.
 class LayerCells
@@ -77,18 +90,13 @@ private:
         QString text;
     };
 
-    /// A cell's kind and the one or two numbers that its look depends on.
-    using Look = QPair<int, QPair<qint64, qint64>>;
-
     const Swatch& swatch(const LayerColor& color);
-    QTableWidgetItem* makeBlankItem(LayerCell cell);
-    QTableWidgetItem* makeNewItem(const LayerRecord& record, const LayerColumn& column);
-    Look lookOf(const LayerRecord& record, const LayerColumn& column) const;
+    const QString& numberText(LayerCell cell, int number);
 
     std::array<QIcon, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
     QHash<QPair<qint64, qint64>, Swatch> m_swatches;
-    std::array<std::shared_ptr<QTableWidgetItem>, 2> m_blanks; ///< Left and centred.
-    QHash<Look, std::shared_ptr<QTableWidgetItem>> m_models;   ///< One item of each look.
+    QHash<QPair<int, int>, QString> m_numberTexts; ///< By the cell's kind and the number.
+    LayerCellDelegate m_delegate;
     VnDocumentPtr m_document;
 };
 
