@@ -18,13 +18,21 @@ double median(std::vector<double> samples)
     return *middle;
 }
 
-QString shown(double seconds)
+QString shownTime(double seconds)
 {
     if (seconds < 1e-3)
         return QStringLiteral("%1 µs").arg(seconds * 1e6, 0, 'f', 1);
     if (seconds < 1)
         return QStringLiteral("%1 ms").arg(seconds * 1e3, 0, 'f', seconds < 0.1 ? 2 : 0);
     return QStringLiteral("%1 s").arg(seconds, 0, 'f', 2);
+}
+
+constexpr const char* kMeasureNames[] = {"processor", "wall", "memory"};
+
+QString shown(Measure measure, double value)
+{
+    return measure == Measure::Memory ? QStringLiteral("%1 bytes").arg(value, 0, 'f', 0)
+                                      : shownTime(value);
 }
 
 struct Judgement
@@ -82,8 +90,8 @@ void Report::registerRows(const std::vector<Row>& rows, bool quick)
                 state.SetIterationTime(measured.back());
             }
             m_results.push_back({row, sides->comparedWith, median(measured), median(compared)});
-            state.counters["median_ms"] = m_results.back().measured * 1e3;
-            state.counters["compared_ms"] = m_results.back().compared * 1e3;
+            state.counters["median"] = m_results.back().measured;
+            state.counters["compared"] = m_results.back().compared;
         };
         benchmark::RegisterBenchmark(row.name, run)
             ->Iterations(quick ? row.quickSamples : row.samples)
@@ -95,9 +103,11 @@ void Report::registerRows(const std::vector<Row>& rows, bool quick)
 QString Report::line(const Result& result)
 {
     const Judgement judgement = judge(result.row.budget, result.measured, result.compared);
-    const QStringList cells{QString::fromUtf8(result.row.what), shown(result.measured),
-        QStringLiteral("%1: %2").arg(result.comparedWith, shown(result.compared)), judgement.ratio,
-        judgement.budget, judgement.verdict, QString::fromUtf8(result.row.clock)};
+    const Measure measure = result.row.measure;
+    const QStringList cells{result.row.what, shown(measure, result.measured),
+        QStringLiteral("%1: %2").arg(result.comparedWith, shown(measure, result.compared)),
+        judgement.ratio, judgement.budget, judgement.verdict,
+        QString::fromLatin1(kMeasureNames[static_cast<std::size_t>(measure)])};
     return QStringLiteral("| %1 |\n").arg(cells.join(QStringLiteral(" | ")));
 }
 

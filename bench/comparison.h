@@ -10,7 +10,8 @@
 
 namespace bench {
 
-/// Does the work once and returns the seconds it took; what it sets up is not counted.
+/// Does the work once and returns what it took, in seconds or bytes; what it sets up is not
+/// counted.
 using Run = std::function<double()>;
 
 /// The two runs of a row with what they share; it lives as long as they do.
@@ -32,15 +33,18 @@ struct Budget
     };
     Kind kind = Kind::None;
     double limit = 0;
-    int decades = 1;
+    double decades = 1;
 };
+
+/// What a row measures: time on either clock, or memory.
+enum class Measure { Processor, Wall, Memory };
 
 /// One row of the table.
 struct Row
 {
     const char* name; ///< Of the benchmark.
-    const char* what;
-    const char* clock; ///< As the table names it.
+    QString what;
+    Measure measure;
     Budget budget;
     int samples;      ///< Of each side.
     int quickSamples; ///< The same in a short run.
@@ -65,7 +69,7 @@ private:
     {
         Row row;
         QString comparedWith;
-        double measured; ///< Median, seconds.
+        double measured; ///< Median.
         double compared;
     };
 

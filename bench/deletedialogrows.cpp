@@ -92,10 +92,10 @@ std::vector<Row> deleteDialogRows()
 {
     using Kind = Budget::Kind;
     return {
-        {"delete/growth", "OK of the delete dialog, 100,000 layers, half selected", "processor",
-            {Kind::GrowthExponent, 1.1, 2}, 7, 3, confirmGrowth},
-        {"delete/pass", "OK of the delete dialog, 100,000 layers, half selected", "processor", {},
-            7, 3, confirmAgainstPass},
+        {"delete/growth", QStringLiteral("OK of the delete dialog, 100,000 layers, half selected"),
+            Measure::Processor, {Kind::GrowthExponent, 1.1, 2}, 7, 3, confirmGrowth},
+        {"delete/pass", QStringLiteral("OK of the delete dialog, 100,000 layers, half selected"),
+            Measure::Processor, {}, 7, 3, confirmAgainstPass},
     };
 }
 

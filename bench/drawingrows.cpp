@@ -192,12 +192,12 @@ std::vector<Row> drawingRows(const QString& folder)
 {
     using Kind = Budget::Kind;
     return {
-        {"open/line_ends", "open a drawing of 20 MB", "processor", {Kind::AtMostTimes, 6}, 31, 7,
-            [folder] { return openAgainstCount(folder); }},
-        {"open/dxflib", "open a drawing of 20 MB", "processor", {}, 5, 2,
+        {"open/line_ends", QStringLiteral("open a drawing of 20 MB"), Measure::Processor,
+            {Kind::AtMostTimes, 6}, 31, 7, [folder] { return openAgainstCount(folder); }},
+        {"open/dxflib", QStringLiteral("open a drawing of 20 MB"), Measure::Processor, {}, 5, 2,
             [folder] { return openAgainstReader(folder); }},
-        {"save/copy", "save it after one layer changed", "wall", {Kind::AtMostTimes, 2}, 31, 7,
-            [folder] { return saveAgainstCopy(folder); }},
+        {"save/copy", QStringLiteral("save it after one layer changed"), Measure::Wall,
+            {Kind::AtMostTimes, 2}, 31, 7, [folder] { return saveAgainstCopy(folder); }},
     };
 }
 

@@ -103,14 +103,14 @@ std::vector<Row> layerTableRows()
     };
     using Kind = Budget::Kind;
     return {
-        {"fill/bulk", "fill the layer table, 10,000 layers", "processor", {Kind::AtMostTimes, 1.15},
-            31, 7, bulk},
-        {"fill/row_by_row", "fill the layer table, 10,000 layers", "processor",
-            {Kind::AtLeastTimesFaster, 8}, 5, 3, rowByRow},
-        {"fill/growth", "fill the layer table, 100,000 layers", "processor",
+        {"fill/bulk", QStringLiteral("fill the layer table, 10,000 layers"), Measure::Processor,
+            {Kind::AtMostTimes, 1.15}, 31, 7, bulk},
+        {"fill/row_by_row", QStringLiteral("fill the layer table, 10,000 layers"),
+            Measure::Processor, {Kind::AtLeastTimesFaster, 8}, 5, 3, rowByRow},
+        {"fill/growth", QStringLiteral("fill the layer table, 100,000 layers"), Measure::Processor,
             {Kind::GrowthExponent, 1.1, 2}, 7, 3, fillGrowth},
-        {"click/toggle", "one click on a toggle cell, 100,000 layers", "processor",
-            {Kind::AtMostTimes, 2}, 15, 5, toggleClick},
+        {"click/toggle", QStringLiteral("one click on a toggle cell, 100,000 layers"),
+            Measure::Processor, {Kind::AtMostTimes, 2}, 15, 5, toggleClick},
     };
 }
 

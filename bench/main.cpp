@@ -48,6 +48,8 @@ int run(int argc, char** argv, bool quick)
     }
     bench::Report report;
     report.registerRows(bench::layerTableRows(), quick);
+    report.registerRows(bench::memoryRows(), quick);
+    report.registerRows(bench::dialogRows(), quick);
     report.registerRows(bench::drawingRows(folder.path()), quick);
     report.registerRows(bench::deleteDialogRows(), quick);
     benchmark::Initialize(&argc, argv);

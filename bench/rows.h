@@ -8,6 +8,10 @@ namespace bench {
 std::vector<Row> layerTableRows();
 /// Opening and saving a drawing; it is generated in `folder`.
 std::vector<Row> drawingRows(const QString& folder);
+/// What a layer takes in the value tree and in the table.
+std::vector<Row> memoryRows();
+/// Making, filling and painting each of the thirteen dialogs.
+std::vector<Row> dialogRows();
 /// Confirming the delete dialog.
 std::vector<Row> deleteDialogRows();
 
