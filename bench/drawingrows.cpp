@@ -7,6 +7,7 @@
 #include <dxflib/dl_dxf.h>
 
 #include <QFile>
+#include <QProcess>
 
 #include <algorithm>
 #include <cstring>
@@ -123,6 +124,35 @@ tl::expected<Sides, QString> openAgainstReader(const QString& folder)
         QStringLiteral("dxflib, keeping nothing")};
 }
 
+/// Seconds of processor time that ezdxf takes to read the drawing, without the start of Python; 0
+/// when it is not there or cannot read it.
+double ezdxfSeconds(const QString& path)
+{
+    QProcess python;
+    python.start(
+        QStringLiteral("/usr/bin/python3"), // Debian's, which has the package. {QStringLiteral("-c"),
+                                       QStringLiteral("import sys, time, ezdxf\n"
+                                                      "begin = time.process_time()\n"
+                                                      "ezdxf.readfile(sys.argv[1])\n"
+                                                      "print(time.process_time() - begin)\n"),
+                                       path
+});
+return python.waitForFinished(-1) ? python.readAllStandardOutput().trimmed().toDouble() : 0;
+}
+
+tl::expected<Sides, QString> openAgainstEzdxf(const QString& folder)
+{
+    const QString path = drawingIn(folder);
+    if (path.isEmpty())
+        return noDrawing(folder);
+    if (const auto opened = openSeconds(path); !opened)
+        return tl::make_unexpected(opened.error());
+    if (ezdxfSeconds(path) <= 0)
+        return tl::make_unexpected(QStringLiteral("python3-ezdxf cannot read the drawing"));
+    return Sides{[path] { return *openSeconds(path); }, [path] { return ezdxfSeconds(path); },
+        QStringLiteral("python3-ezdxf")};
+}
+
 /// Copies a file and waits until the copy is on the disk, as saving does.
 double copySeconds(const QString& from, const QString& to)
 {
@@ -196,6 +226,8 @@ std::vector<Row> drawingRows(const QString& folder)
             {Kind::AtMostTimes, 6}, 31, 7, [folder] { return openAgainstCount(folder); }},
         {"open/dxflib", QStringLiteral("open a drawing of 20 MB"), Measure::Processor, {}, 5, 2,
             [folder] { return openAgainstReader(folder); }},
+        {"open/ezdxf", QStringLiteral("open a drawing of 20 MB"), Measure::Processor, {}, 3, 1,
+            [folder] { return openAgainstEzdxf(folder); }},
         {"save/copy", QStringLiteral("save it after one layer changed"), Measure::Wall,
             {Kind::AtMostTimes, 2}, 31, 7, [folder] { return saveAgainstCopy(folder); }},
     };
