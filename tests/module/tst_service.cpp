@@ -95,7 +95,8 @@ private:
         static const QStringList built{"dialog/cmdlayer", "dialog/cmdlayerstate",
             "dialog/cmdlayerstatenew", "dialog/cmdlayerstateedit",
             "dialog/cmdlayerstateaddnewlayer", "dialog/cmdlaydel", "dialog/cmdlaymch",
-            "dialog/cmdlaymrg"};
+            "dialog/cmdlaymrg", "dialog/cmdlaytrans", "dialog/cmdlaytransnewedit",
+            "dialog/cmdlaytranssetting"};
         return built.contains(name.toLower());
     }
 

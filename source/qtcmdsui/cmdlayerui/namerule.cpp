@@ -24,4 +24,13 @@ bool isSameName(const QString& a, const QString& b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
+QString foldedName(const QString& name)
+{
+    // A character at a time, as names are compared: folding a whole text makes "ss" of one letter.
+    QVector<uint> characters = name.toUcs4();
+    for (uint& character : characters)
+        character = QChar::toCaseFolded(character);
+    return QString::fromUcs4(characters.constData(), characters.size());
+}
+
 } // namespace vnsi

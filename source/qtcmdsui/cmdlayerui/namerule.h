@@ -15,5 +15,7 @@ bool holdsForbiddenCharacter(const QString& name);
 bool isTooLongForName(const QString& name);
 /// Whether two names mean the same layer: letter case does not count.
 bool isSameName(const QString& a, const QString& b);
+/// One spelling for all names that `isSameName` takes for one: a key to look names up by.
+QString foldedName(const QString& name);
 
 } // namespace vnsi

@@ -7,6 +7,9 @@
 #include "cmdlayerstateui/vnqtuidynlayerstatecmdimpl.h"
 #include "cmdlaymchui/vnqtlaymchlayerdlg.h"
 #include "cmdlaymrgui/vnqtlaymrglayerdlg.h"
+#include "cmdlaytransui/vnqtlaytransneweditdlg.h"
+#include "cmdlaytransui/vnqtlaytranssettingdlg.h"
+#include "cmdlaytransui/vnqtlaytransuidlg.h"
 #include "vnqtuidynlayercmdimpl.h"
 #include "vornqt.h"
 
@@ -45,9 +48,9 @@ constexpr DialogRow kDialogs[] = {
     {L"Dialog/CmdLaymrg", makeDialog<VnQtLaymrgLayerDlg>},
     {L"Dialog/CmdLaywalk", notBuilt},
     {L"Dialog/CmdLaywalk/Verify", notBuilt},
-    {L"Dialog/CmdLaytrans", notBuilt},
-    {L"Dialog/CmdLaytransNewEdit", notBuilt},
-    {L"Dialog/CmdLaytransSetting", notBuilt},
+    {L"Dialog/CmdLaytrans", makeDialog<VnQtUiLaytransCmd>},
+    {L"Dialog/CmdLaytransNewEdit", makeDialog<VnQtLaytransNewEditWgt>},
+    {L"Dialog/CmdLaytransSetting", makeDialog<VnQtLaytransSettingWgt>},
 };
 
 OdAnsiString objectNameOf(const OdString& dialogName)

@@ -1,0 +1,172 @@
+#include "vnqtlaytranslistwgt.h"
+
+#include "layercells.h"
+#include "targetrecord.h"
+#include "translatorkeys.h"
+#include "vnstrings.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMenu>
+#include <QSet>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace vnsi {
+
+namespace {
+
+struct MappingColumn
+{
+    const char* header;
+    int width;
+    /// What the column shows of a target; null for the layer that is mapped.
+    QString (TargetRecord::*text)() const;
+};
+
+constexpr MappingColumn kColumns[] = {
+    {QT_TR_NOOP("旧图层名"), 150, nullptr},
+    {QT_TR_NOOP("新图层名"), 150, &TargetRecord::name},
+    {QT_TR_NOOP("颜色"), 120, &TargetRecord::colorText},
+    {QT_TR_NOOP("线型"), 100, &TargetRecord::linetype},
+    {QT_TR_NOOP("线宽"), 80, &TargetRecord::lineWidthText},
+    {QT_TR_NOOP("透明度"), 60, &TargetRecord::transparencyText},
+    {QT_TR_NOOP("打印样式"), 90, &TargetRecord::plotStyle},
+};
+
+QString mappedName(const VnJsonPtr& mapping)
+{
+    const VnJsonPtr from = mapping->GetDataJ(transkey::kFrom);
+    return from ? vnutOdStringToQString(from->GetDataSW(transkey::kFromName)) : QString();
+}
+
+} // namespace
+
+VnQtLaytransListWgt::VnQtLaytransListWgt(QWidget* parent)
+    : QListWidget(parent),
+      m_menu(new QMenu(this))
+{
+}
+
+void VnQtLaytransListWgt::contextMenuEvent(QContextMenuEvent* event)
+{
+    m_menu->popup(event->globalPos());
+}
+
+void VnQtLaytransListWgt::fill(
+    const VnJsonPtr& records, const char* nameKey, const char* usedKey, LayerCells& cells)
+{
+    const QStringList selected = selectedNames();
+    const QString current = currentItem() ? currentItem()->text() : QString();
+    setUpdatesEnabled(false);
+    clear();
+    const int rows = records.ArrayCount();
+    QStringList names;
+    names.reserve(rows);
+    for (int row = 0; row < rows; ++row)
+        names.append(vnutOdStringToQString(records(row)->GetDataSW(nameKey)));
+    addItems(names);
+    {
+        // One change of the whole list instead of two an item.
+        const QSignalBlocker quiet(model());
+        for (int row = 0; row < rows; ++row) {
+            item(row)->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+            item(row)->setIcon(cells.stateIcon(records(row)->GetDataB(usedKey)));
+        }
+    }
+    selectNames(selected, current);
+    setUpdatesEnabled(true);
+}
+
+void VnQtLaytransListWgt::selectNames(const QStringList& names, const QString& current)
+{
+    if (names.isEmpty())
+        return;
+    const QSet<QString> wanted(names.begin(), names.end());
+    QItemSelection selection;
+    for (int row = 0; row < count(); ++row) {
+        const QModelIndex index = model()->index(row, 0);
+        if (!wanted.contains(item(row)->text()))
+            continue;
+        selection.append(QItemSelectionRange(index));
+        if (item(row)->text() == current)
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    }
+    selectionModel()->select(selection, QItemSelectionModel::Select);
+}
+
+QStringList VnQtLaytransListWgt::selectedNames() const
+{
+    QModelIndexList indexes = selectionModel()->selectedIndexes();
+    std::sort(indexes.begin(), indexes.end());
+    QStringList names;
+    for (const QModelIndex& index : qAsConst(indexes))
+        names.append(index.data().toString());
+    return names;
+}
+
+void VnQtLaytransListWgt::addToSelection(const QString& name)
+{
+    const QString wanted = name.toLower();
+    QItemSelection selection;
+    for (int row = 0; row < count(); ++row) {
+        if (item(row)->text().toLower() == wanted)
+            selection.append(QItemSelectionRange(model()->index(row, 0)));
+    }
+    selectionModel()->select(selection, QItemSelectionModel::Select);
+    if (!selection.isEmpty())
+        scrollTo(selection.indexes().constFirst());
+}
+
+VnQtLaytransQTableWgt::VnQtLaytransQTableWgt(QWidget* parent) : QTableWidget(parent)
+{
+    setColumnCount(static_cast<int>(std::size(kColumns)));
+    QStringList headers;
+    for (const MappingColumn& column : kColumns) {
+        setColumnWidth(headers.size(), column.width);
+        headers.append(tr(column.header));
+    }
+    setHorizontalHeaderLabels(headers);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTabKeyNavigation(false); // Tab goes on to the buttons.
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
+    verticalHeader()->hide();
+}
+
+void VnQtLaytransQTableWgt::fill(const VnJsonPtr& mappings)
+{
+    const int rows = mappings.ArrayCount();
+    setUpdatesEnabled(false);
+    clearContents();
+    setRowCount(0);
+    setRowCount(rows);
+    {
+        // One change of the whole table instead of one a cell.
+        const QSignalBlocker quiet(model());
+        for (int row = 0; row < rows; ++row) {
+            const VnJsonPtr mapping = mappings(row);
+            const TargetRecord target(mapping->GetDataJ(transkey::kTo));
+            int column = 0;
+            for (const MappingColumn& shown : kColumns) {
+                const QString text = shown.text ? (target.*shown.text)() : mappedName(mapping);
+                auto* cell = new QTableWidgetItem(text);
+                cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
+                setItem(row, column++, cell);
+            }
+        }
+    }
+    setUpdatesEnabled(true);
+}
+
+int VnQtLaytransQTableWgt::selectedRow() const
+{
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.constFirst().row();
+}
+
+} // namespace vnsi

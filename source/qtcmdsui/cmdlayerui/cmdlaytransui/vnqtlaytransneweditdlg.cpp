@@ -1,0 +1,253 @@
+#include "vnqtlaytransneweditdlg.h"
+
+#include "dialogbuttons.h"
+#include "dialoghelp.h"
+#include "namerule.h"
+#include "translatorkeys.h"
+#include "vnmessages.h"
+#include "vnpickers.h"
+#include "vnstrings.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+#include <optional>
+
+namespace vnsi {
+
+namespace {
+
+constexpr int kMostTransparent = 90;
+constexpr int kTransparencyStep = 10;
+constexpr int kFirstLineWidth = 6;
+constexpr int kFirstColor = 1;
+constexpr const char* kPlotStyles[] = {QT_TR_NOOP("普通"), "ByLayer", "ByBlock"};
+
+QString text(const VnJsonPtr& record, const char* key)
+{
+    return vnutOdStringToQString(record->GetDataSW(key));
+}
+
+bool refuse(const QString& message)
+{
+    vnuiMessageBox(vnutQStringToOdString(message), L"", kVnOk);
+    return false;
+}
+
+void removeEntry(QComboBox& box, const QString& entry)
+{
+    const int row = box.findText(entry);
+    if (row >= 0)
+        box.removeItem(row);
+}
+
+/// Adds what the list lacks, so that what a record says is not lost by looking at it.
+void showText(QComboBox& box, const QString& entry)
+{
+    if (!entry.isEmpty() && box.findText(entry) < 0)
+        box.addItem(entry);
+    box.setCurrentText(entry);
+}
+
+/// None for text that is no whole number from 0 to the most.
+std::optional<int> transparencyOf(const QString& text)
+{
+    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
+    bool fits = false;
+    const int value = text.toInt(&fits);
+    if (!fits || value > kMostTransparent || !std::all_of(text.begin(), text.end(), isDigit))
+        return {};
+    return value;
+}
+
+/// The colour as records hold it: red in the lowest byte.
+LayerColor packed(const OdCmColor& color)
+{
+    if (color.colorMethod() == OdCmEntityColor::kByColor)
+        return {color.colorMethod(), color.red() | color.green() << 8 | color.blue() << 16};
+    return {color.colorMethod(), color.colorIndex()};
+}
+
+} // namespace
+
+VnQtLaytransNewEditWgt::VnQtLaytransNewEditWgt(
+    VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags)
+    : VnQtModeDialogImpl(wrapper, parent, flags)
+{
+    setWindowTitle(tr("新图层"));
+    setMinimumWidth(320);
+}
+
+bool VnQtLaytransNewEditWgt::initDialog()
+{
+    OkCancelHelp buttons;
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(makeForm());
+    layout->addStretch();
+    layout->addLayout(makeButtonRow(*this, buttons));
+
+    using Self = VnQtLaytransNewEditWgt;
+    connect(buttons.ok, &QPushButton::clicked, this, &Self::slot_pbOkClicked);
+    connect(buttons.cancel, &QPushButton::clicked, this, &Self::close);
+    connect(buttons.help, &QPushButton::clicked, this, &Self::slot_pbhelpClicked);
+    return true;
+}
+
+QFormLayout* VnQtLaytransNewEditWgt::makeForm()
+{
+    auto* form = new QFormLayout;
+    const auto addRow = [&](QWidget* field, const char* label, const char* name, const char* help) {
+        field->setObjectName(QLatin1String(name));
+        field->setToolTip(help ? tr(help) : QString());
+        form->addRow(tr(label), field);
+    };
+    m_name = new QLineEdit(this);
+    m_linetype = new VnLineTypeComboBox(this);
+    m_lineWidth = new VnLineWidthComboBox(this);
+    m_color = new VnColorComboBox(this);
+    m_transparency = new QComboBox(this);
+    m_plotStyle = new QComboBox(this);
+    addRow(m_name, QT_TR_NOOP("名称(&N)"), "nameEdit", QT_TR_NOOP("指定图层名。"));
+    addRow(m_linetype, QT_TR_NOOP("线型(&L)"), "linetypeBox", QT_TR_NOOP("指定图层线型。"));
+    addRow(m_lineWidth, QT_TR_NOOP("线宽(&W)"), "lineWidthBox", QT_TR_NOOP("指定图层线宽。"));
+    addRow(m_color, QT_TR_NOOP("颜色(&C)"), "colorBox", QT_TR_NOOP("指定图层颜色。"));
+    addRow(m_transparency, QT_TR_NOOP("透明度(&T)"), "transparencyBox", nullptr);
+    addRow(
+        m_plotStyle, QT_TR_NOOP("打印样式(&S)"), "plotStyleBox", QT_TR_NOOP("指定图层打印样式。"));
+    return form;
+}
+
+bool VnQtLaytransNewEditWgt::setData(VnJsonPtr data, OdRxObjectPtr invoker)
+{
+    VnQtModeDialogImpl::setData(data, invoker);
+    const bool isEdit = data && data->GetDataB(transkey::kIsEdit);
+    setWindowTitle(isEdit ? tr("编辑图层") : tr("新图层"));
+    m_namesInUse = data && !isEdit ? data->GetDataJ(transkey::kNamesInUse) : VnJsonPtr();
+    prepareCombos();
+    if (const VnJsonPtr record = data ? data->GetDataJ(transkey::kInitRecord) : VnJsonPtr())
+        prefill(record);
+    return true;
+}
+
+/// A layer's own properties cannot be those of a layer or a block.
+void VnQtLaytransNewEditWgt::prepareCombos()
+{
+    removeEntry(*m_linetype, QStringLiteral("ByLayer"));
+    removeEntry(*m_linetype, QStringLiteral("ByBlock"));
+    removeEntry(*m_lineWidth, QStringLiteral("随层"));
+    removeEntry(*m_lineWidth, QStringLiteral("随块"));
+    if (m_lineWidth->count() > kFirstLineWidth + 1)
+        m_lineWidth->setCurrentIndex(kFirstLineWidth);
+    m_color->setLogicalColorsEnabled(false);
+    if (m_color->count() > kFirstColor + 1)
+        m_color->setCurrentIndex(kFirstColor);
+
+    m_transparency->setEditable(true);
+    m_transparency->setCompleter(nullptr); // A typed 5 is 5, not completed to 50.
+    m_transparency->setInsertPolicy(QComboBox::NoInsert);
+    m_transparency->clear();
+    for (int value = 0; value <= kMostTransparent; value += kTransparencyStep)
+        m_transparency->addItem(QString::number(value));
+    m_transparency->setCurrentText(QStringLiteral("0"));
+
+    m_plotStyle->clear();
+    for (const char* style : kPlotStyles)
+        m_plotStyle->addItem(tr(style));
+    m_plotStyle->setCurrentText(QStringLiteral("ByLayer"));
+    m_plotStyle->setEnabled(false);
+}
+
+void VnQtLaytransNewEditWgt::prefill(const VnJsonPtr& record)
+{
+    m_name->setText(text(record, transkey::kToName));
+    const OdString linetype = record->GetDataSW(transkey::kToLinetype);
+    if (!linetype.isEmpty())
+        m_linetype->setLineType(linetype);
+    const int lineWidth = m_lineWidth->findText(text(record, transkey::kToLineWidthText));
+    if (lineWidth >= 0)
+        m_lineWidth->setCurrentIndex(lineWidth);
+    else if (record->HasKey(transkey::kToLineWidth))
+        m_lineWidth->setLineWidth(record->GetDataI(transkey::kToLineWidth));
+    m_transparency->setCurrentText(QString::number(record->GetDataI(transkey::kToTransparency, 0)));
+    showText(*m_plotStyle, text(record, transkey::kToPlotStyle));
+    showColor(
+        {record->GetDataL(transkey::kToColorMethod), record->GetDataL(transkey::kToColorValue)});
+}
+
+void VnQtLaytransNewEditWgt::showColor(const LayerColor& color)
+{
+    if (color.method != OdCmEntityColor::kByACI && color.method != OdCmEntityColor::kByColor)
+        return;
+    const OdCmColor resolved = color.resolved();
+    int row = m_color->FindColor(resolved);
+    if (row < 0)
+        row = m_color->AppendColorItem(resolved);
+    m_color->setCurrentIndex(row);
+}
+
+bool VnQtLaytransNewEditWgt::acceptName(const QString& name) const
+{
+    if (name.isEmpty())
+        return refuse(tr("名称必须赋值。"));
+    if (name.front().isSpace() || name.back().isSpace() || holdsForbiddenCharacter(name) ||
+        isTooLongForName(name))
+        return refuse(tr("名称不是有效符号名。"));
+    if (isInUse(name))
+        return refuse(
+            tr("名称 %s 已在使用。\n您需要输入其他名称。").replace(QLatin1String("%s"), name));
+    return true;
+}
+
+bool VnQtLaytransNewEditWgt::isInUse(const QString& name) const
+{
+    for (int i = 0, count = m_namesInUse.ArrayCount(); i < count; ++i) {
+        if (isSameName(vnutOdStringToQString(m_namesInUse(i)->asSW()), name))
+            return true;
+    }
+    return false;
+}
+
+void VnQtLaytransNewEditWgt::slot_pbOkClicked()
+{
+    const QString name = m_name->text();
+    if (!acceptName(name))
+        return;
+    const std::optional<int> transparency = transparencyOf(m_transparency->currentText());
+    if (!transparency) {
+        refuse(tr("请输入一个 0-90 之间的整数"));
+        return;
+    }
+    if (data()) {
+        data()->SetDataJ(transkey::kResult, makeResult(name, *transparency));
+        data()->set("result", 1);
+    }
+    endDialog(1);
+}
+
+VnJsonPtr VnQtLaytransNewEditWgt::makeResult(const QString& name, int transparency) const
+{
+    using namespace transkey;
+    const LayerColor color = packed(m_color->GetCurrentColorEx());
+    VnJsonPtr result = ElementValue::createObject(9);
+    result->SetDataSW(kResultName, vnutQStringToOdString(name));
+    result->SetDataSW(kResultLinetype, m_linetype->getCurrentLineTypeString());
+    result->SetDataL(
+        kResultLinetypeId, static_cast<OdInt64>(m_linetype->getCurrentLineType().getHandle()));
+    result->SetDataI(kResultLineWidth, m_lineWidth->GetCurrentLineWeight());
+    result->SetDataSW(kResultLineWidthText, vnutQStringToOdString(m_lineWidth->currentText()));
+    result->SetDataL(kResultColorMethod, color.method);
+    result->SetDataL(kResultColorValue, color.value);
+    result->SetDataI(kResultTransparency, transparency);
+    result->SetDataSW(kResultPlotStyle, vnutQStringToOdString(m_plotStyle->currentText()));
+    return result;
+}
+
+void VnQtLaytransNewEditWgt::slot_pbhelpClicked()
+{
+    vnqtShowHelp();
+}
+
+} // namespace vnsi
