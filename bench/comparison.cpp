@@ -63,7 +63,8 @@ Judgement judge(const Budget& budget, double measured, double compared)
     case Budget::Kind::None:
         break;
     }
-    return {QStringLiteral("%1 times").arg(times, 0, 'f', 2), QStringLiteral("none"),
+    const bool isSmall = times < 0.01; // A peer far behind: two decimals would say nothing.
+    return {QStringLiteral("%1 times").arg(times, 0, 'f', isSmall ? 4 : 2), QStringLiteral("none"),
         QStringLiteral("figure")};
 }
 

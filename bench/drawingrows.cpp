@@ -128,16 +128,14 @@ tl::expected<Sides, QString> openAgainstReader(const QString& folder)
 /// when it is not there or cannot read it.
 double ezdxfSeconds(const QString& path)
 {
+    const QString script = QStringLiteral("import sys, time, ezdxf\n"
+                                          "begin = time.process_time()\n"
+                                          "ezdxf.readfile(sys.argv[1])\n"
+                                          "print(time.process_time() - begin)\n");
     QProcess python;
-    python.start(
-        QStringLiteral("/usr/bin/python3"), // Debian's, which has the package. {QStringLiteral("-c"),
-                                       QStringLiteral("import sys, time, ezdxf\n"
-                                                      "begin = time.process_time()\n"
-                                                      "ezdxf.readfile(sys.argv[1])\n"
-                                                      "print(time.process_time() - begin)\n"),
-                                       path
-});
-return python.waitForFinished(-1) ? python.readAllStandardOutput().trimmed().toDouble() : 0;
+    // Debian's own Python has the package, whichever other comes first in the path.
+    python.start(QStringLiteral("/usr/bin/python3"), {QStringLiteral("-c"), script, path});
+    return python.waitForFinished(-1) ? python.readAllStandardOutput().trimmed().toDouble() : 0;
 }
 
 tl::expected<Sides, QString> openAgainstEzdxf(const QString& folder)
