@@ -5,6 +5,7 @@
 #include "error.h"
 #include "layer.h"
 #include "layerstate.h"
+#include "linetypedefinition.h"
 
 #include <QObject>
 #include <QStringList>
@@ -65,6 +66,11 @@ public:
     /// The file beside the drawing that holds its layer states; empty where they live in the
     /// drawing itself.
     QString layerStatesPath() const;
+    /// Names of the linetypes: those of the file in their order, then those added.
+    QStringList linetypes() const;
+    /// What the drawing says of a linetype, by name without regard to letter case; null when it has
+    /// none of that name.
+    LinetypePointer linetype(const QString& name) const;
     /// Whether layers have plot styles by name; otherwise these follow from the colour.
     bool hasNamedPlotStyles() const;
     /// True while model space is shown, false for a layout.
@@ -109,6 +115,10 @@ public:
     /// come to their entity's layer; a sheet's own viewport comes to layer 0. Refuses layer 0, the
     /// current layer and layers that depend on a reference.
     Expected<void> deleteLayers(const std::vector<LayerId>& layers);
+    /// Takes in a linetype and the text styles and shape files it needs; one of the same name stays
+    /// as it is. Where the format has no place for letters and shapes their dashes are taken, see
+    /// `takeNotices`.
+    Expected<void> addLinetype(const LinetypeDefinition& definition);
     /// Whether anything inside a block definition, layouts left out, is on one of these layers.
     bool isReferencedInBlocks(const std::vector<LayerId>& layers) const;
     /// How many block references place a definition that has something on one of these layers.

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "error.h"
+#include "layer.h"
+#include "linetypedefinition.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace drawing {
+
+class Drawing;
+
+/// A layer of a standard, which layers of a drawing are brought to.
+struct TargetLayer
+{
+    QString name;
+    int colorIndex = 7;               ///< 1..255; kept beside a true colour.
+    std::optional<quint32> trueColor; ///< 0x00RRGGBB.
+    QString linetype = QStringLiteral("Continuous");
+    /// The linetype as the file it came from defines it, for drawings that lack it; may be null.
+    LinetypePointer linetypeDefinition;
+    int lineweight = -3;         ///< Hundredths of a millimetre; -3 is "default".
+    int transparency = 0;        ///< Percent, 0..90.
+    QString plotStyle;           ///< Empty: the layer's own stays.
+    std::optional<bool> plotted; ///< Without a value the layer's own stays.
+};
+
+/// A layer of the drawing, by name without regard to letter case, and what it is brought to.
+struct LayerMapping
+{
+    QString from;
+    TargetLayer to;
+};
+
+/// The six options, in the order in which they are shown.
+struct TranslationOptions
+{
+    bool colorByLayer = false;
+    bool linetypeByLayer = false;
+    bool transparencyByLayer = false;
+    bool inBlocks = false;      ///< What stands in block definitions is translated too.
+    bool writeLog = false;      ///< For the caller, see `writeTranslationLog`.
+    bool showSelection = false; ///< For the caller: of no concern to the translation.
+};
+
+/// What became of one mapping.
+struct MappingResult
+{
+    enum class Target { LeftOut, Made, Changed, Unchanged };
+
+    QString from; ///< As the drawing spells it, where it has that layer.
+    QString to;
+    Target target = Target::LeftOut;
+    int translated = 0; ///< Entities that came to the target or, where it is the source, are on it.
+    int leftInBlocks = 0;       ///< Entities that stayed, as block contents were not asked for.
+    bool sourceRemoved = false; ///< The source ended empty and is gone.
+    QString cause;              ///< A sentence; why it was left out.
+    QStringList notices;        ///< Sentences; what of it could not be done as asked.
+
+    bool isApplied() const { return target != Target::LeftOut; }
+};
+
+struct TranslationReport
+{
+    std::vector<MappingResult> mappings; ///< One for each mapping, in their order.
+    QStringList notices;                 ///< Sentences; what the drawing's format has no place for.
+    int entities = 0;                    ///< Of the drawing: model space, layouts and blocks.
+
+    int appliedCount() const;
+    int translatedCount() const;
+};
+
+/// Brings layers of the drawing to their targets: what is on a source moves to the target, which is
+/// made, or changed to what the standard says of it. All mappings are about the layers as they were
+/// before, so layers may swap their contents. A target that is made takes over whether its source
+/// was off, frozen or locked, also in single viewports, so what was hidden stays hidden. A current
+/// layer that is translated makes its target current. Sources that end empty are removed, all but
+/// layer 0, Defpoints and the current layer; what named them names the target then. A target of the
+/// source's own name changes the properties alone.
+///
+/// A mapping that cannot be carried out (no such source, a second one for the same source, a layer
+/// that depends on a reference, a target name that is refused) is left out, and its cause says why.
+/// Belongs to the open step; refuses when there is none, and then changes nothing.
+Expected<TranslationReport> translateLayers(
+    Drawing& drawing, const std::vector<LayerMapping>& mappings, const TranslationOptions& options);
+
+/// What a drawing says of its own layers, as targets: those of references left out.
+std::vector<TargetLayer> targetLayers(const Drawing& drawing);
+
+/// Maps the layers that have a target of the same name, without regard to letter case, and no
+/// mapping in `known` yet.
+std::vector<LayerMapping> sameNamedMappings(const Drawing& drawing,
+    const std::vector<TargetLayer>& targets, const std::vector<LayerMapping>& known);
+
+} // namespace drawing

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace drawing {
+
+/// A group of a definition, its text decoded.
+struct TextTag
+{
+    int code = -1;
+    QString value;
+};
+
+inline bool operator==(const TextTag& a, const TextTag& b)
+{
+    return a.code == b.code && a.value == b.value;
+}
+
+/// A text style or shape file that a linetype takes its letters or shapes from.
+struct LinetypeStyle
+{
+    QString name;              ///< Empty for a shape file.
+    std::vector<TextTag> tags; ///< What follows the name, fonts included.
+};
+
+/// What a drawing's LTYPE record says, apart from its place in that drawing.
+struct LinetypeDefinition
+{
+    QString name;
+    /// What follows the name: description, alignment, dashes. The value of a 340 group is an index
+    /// into `styles`.
+    std::vector<TextTag> tags;
+    std::vector<LinetypeStyle> styles;
+
+    /// Whether there is more in it than dashes and gaps, which formats without objects lack.
+    bool hasLettersOrShapes() const { return !styles.empty(); }
+};
+
+using LinetypePointer = std::shared_ptr<const LinetypeDefinition>;
+
+} // namespace drawing
