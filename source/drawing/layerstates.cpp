@@ -2,6 +2,7 @@
 
 #include "handles.h"
 #include "layerstatefile.h"
+#include "objectedits.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -14,36 +15,11 @@ namespace {
 
 constexpr int kDrawingPlotStyleCode = 1;
 constexpr char kStatesKey[] = "ACAD_LAYERSTATES";
-constexpr char kReactors[] = "{ACAD_REACTORS";
 constexpr char kExtension[] = "{ACAD_XDICTIONARY";
-// Orders of insertions where objects go: a section that has to be made, the objects, its end.
-constexpr quint32 kSectionHead = 0x72000000;
-constexpr quint32 kSectionTail = 0x7f000000;
 
 QString tr(const char* text)
 {
     return QCoreApplication::translate("drawing", text);
-}
-
-QByteArray reactors(const TagStyle& style, quint64 owner)
-{
-    return style.tag(102, kReactors) + style.handle(330, owner) + style.tag(102, "}");
-}
-
-QByteArray newRecordHead(const TagStyle& style, quint64 handle, quint64 owner)
-{
-    QByteArray head = style.tag(0, "XRECORD");
-    if (handle != 0)
-        head += style.handle(5, handle) + reactors(style, owner) + style.handle(330, owner);
-    return head + style.tag(100, "AcDbXrecord") + style.number(280, 1);
-}
-
-QByteArray newDictionary(
-    const TagStyle& style, quint64 handle, quint64 owner, const QByteArray& entries)
-{
-    return style.tag(0, "DICTIONARY") + style.handle(5, handle) +
-           (owner != 0 ? reactors(style, owner) : QByteArray()) + style.handle(330, owner) +
-           style.tag(100, "AcDbDictionary") + style.number(280, 1) + style.number(281, 1) + entries;
 }
 
 /// The record with other data between its own head and the data of applications.
@@ -214,50 +190,28 @@ std::optional<LayerState> LayerStates::find(const QString& name) const
 
 TagStyle LayerStates::style() const
 {
-    return TagStyle::of(m_data.view(m_data.index.table(TableKind::Layer).head));
-}
-
-void LayerStates::insertObject(EditPlace& place, const QByteArray& bytes)
-{
-    const DrawingIndex& index = m_data.index;
-    const bool hasSection = index.objectsEnd >= 0;
-    place.begin = hasSection ? index.objectsEnd : index.eof;
-    const TagStyle style = this->style();
-    if (!hasSection && m_data.state.objectsMade == 0) {
-        const quint64 root = SymbolTables(m_data).takeHandle();
-        m_data.journal.insert(place.begin, kSectionHead,
-            style.tag(0, "SECTION") + style.tag(2, "OBJECTS") + newDictionary(style, root, 0, {}));
-        m_data.journal.insert(place.begin, kSectionTail, style.tag(0, "ENDSEC"));
-    }
-    place.order = kSectionHead + ++m_data.state.objectsMade;
-    m_data.journal.insert(place.begin, place.order, bytes);
+    return ObjectEdits(m_data).style();
 }
 
 /// Makes the dictionary of states and all that leads to it.
 void LayerStates::makeDictionary(LayerStateTable& table)
 {
     SymbolTables tables(m_data);
+    ObjectEdits objects(m_data);
     const TagStyle style = this->style();
     const TablePlace& layers = m_data.index.table(TableKind::Layer);
     const quint64 known = extensionDictionary(m_data.tags(layers.head));
     const ObjectPlace* extension = m_data.objectByHandle(known);
     const quint64 extensionHandle = extension ? known : tables.takeHandle();
     table.dictionary = tables.takeHandle();
-    const QByteArray entry = style.tag(3, kStatesKey) + style.handle(360, table.dictionary);
     if (extension) {
-        TagList tags(m_data.journal.current(extension->begin, extension->end));
-        const int xdata = tags.find(1001, 0, tags.size());
-        const int at = xdata == TagList::kNone ? tags.size() : xdata;
-        tags.insert(at, 360, style.handle(360, table.dictionary));
-        tags.insert(at, 3, style.tag(3, kStatesKey));
-        m_data.journal.replace(extension->begin, extension->end, tags.bytes());
+        objects.addEntry(*extension, kStatesKey, table.dictionary);
     } else {
         linkExtension(extensionHandle);
-        EditPlace place;
-        insertObject(place,
-            newDictionary(style, extensionHandle, tables.tableHandle(TableKind::Layer), entry));
+        objects.insert(newDictionary(style, extensionHandle, tables.tableHandle(TableKind::Layer),
+            style.tag(3, kStatesKey) + style.handle(360, table.dictionary)));
     }
-    insertObject(table.place, newDictionary(style, table.dictionary, extensionHandle, {}));
+    table.place = objects.insert(newDictionary(style, table.dictionary, extensionHandle, {}));
     table.end = table.place.begin;
 }
 
@@ -380,7 +334,7 @@ Expected<void> LayerStates::put(const std::vector<LayerState>& states)
         entry.handle = SymbolTables(m_data).takeHandle();
         const QByteArray record = newRecordHead(style, entry.handle, table.dictionary) + data;
         if (entry.handle != 0)
-            insertObject(entry.place, record);
+            entry.place = ObjectEdits(m_data).insert(record);
         else
             entry.aside = record;
         entry.end = entry.place.begin;

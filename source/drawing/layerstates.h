@@ -43,7 +43,6 @@ private:
     void erase(const LayerStateEntry& entry);
     void makeDictionary(LayerStateTable& table);
     void linkExtension(quint64 handle);
-    void insertObject(EditPlace& place, const QByteArray& bytes);
     void writeDictionary(const LayerStateTable& table, const std::vector<quint64>& gone);
     Expected<void> readyToWrite() const;
     QByteArray dictionaryBytes(const LayerStateTable& table) const;
