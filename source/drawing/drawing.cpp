@@ -1,18 +1,16 @@
-#include "drawing.h"
+#include "drawingprivate.h"
 
-#include "drawingdata.h"
 #include "drawingloader.h"
 #include "entityedits.h"
 #include "filewriter.h"
 #include "layeredits.h"
 #include "layerstatefile.h"
 #include "layerstates.h"
+#include "linetypetable.h"
 #include "references.h"
 #include "symboltables.h"
-#include "undostack.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace drawing {
@@ -27,25 +25,10 @@ QString statesPathOf(const QString& drawingPath)
 
 } // namespace
 
-class Drawing::Private
+DrawingData& DrawingAccess::data(Drawing& drawing)
 {
-public:
-    Expected<void> map(const QString& fileName);
-    Expected<void> saveStatesAside(const QString& drawingPath);
-    UndoStep takeStep();
-    bool stepChanged() const;
-
-    QString path;
-    QFile file; // Keeps the mapping; its inode lives on when saving replaces the file.
-    DrawingData data;
-    UndoStack steps;
-    DocumentState stateBefore;
-    QString stepName;
-    bool stepIsOpen = false;
-    bool stepIsPublished = false;
-    bool wasModified = false;
-    std::shared_ptr<const LayerStateTable> savedStates; // As `DocumentState` has them.
-};
+    return drawing.d->data;
+}
 
 Expected<void> Drawing::Private::map(const QString& fileName)
 {
@@ -235,6 +218,21 @@ Expected<void> Drawing::setCurrentLayer(LayerId id)
 std::vector<LayerState> Drawing::layerStates() const
 {
     return LayerStates(d->data).all();
+}
+
+QStringList Drawing::linetypes() const
+{
+    return LinetypeTable(d->data).names();
+}
+
+LinetypePointer Drawing::linetype(const QString& name) const
+{
+    return LinetypeTable(d->data).find(name);
+}
+
+Expected<void> Drawing::addLinetype(const LinetypeDefinition& definition)
+{
+    return readyToEdit().map([&] { LinetypeTable(d->data).add(definition); });
 }
 
 QStringList Drawing::layerStateNames() const

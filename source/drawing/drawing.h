@@ -66,7 +66,8 @@ public:
     /// The file beside the drawing that holds its layer states; empty where they live in the
     /// drawing itself.
     QString layerStatesPath() const;
-    /// Names of the linetypes: those of the file in their order, then those added.
+    /// Names of the linetypes, ByLayer and ByBlock left out: those of the file in their order, then
+    /// those added.
     QStringList linetypes() const;
     /// What the drawing says of a linetype, by name without regard to letter case; null when it has
     /// none of that name.
@@ -160,6 +161,8 @@ signals:
     void modifiedChanged(bool modified);
 
 private:
+    friend struct DrawingAccess;
+
     Drawing();
     Expected<void> readyToEdit() const;
     void announce(bool layers, bool entities);

@@ -12,13 +12,13 @@ constexpr int kLastColorIndex = 255;
 
 } // namespace
 
-void LeftOut::note(Kind kind, const QString& layer)
+void LeftOut::note(Kind kind, const QString& name)
 {
     Note& note = m_notes[kind];
-    if (note.layer.isEmpty())
-        note.layer = layer;
+    if (note.name.isEmpty())
+        note.name = name;
     else
-        note.more = note.more || note.layer != layer;
+        note.more = note.more || note.name != name;
 }
 
 QStringList LeftOut::sentences() const
@@ -27,14 +27,16 @@ QStringList LeftOut::sentences() const
         "此图形的 DXF 版本不能保存打印开关：图层“%1”%2的该设置未改动。",
         "此图形的 DXF 版本不能保存线宽：图层“%1”%2的该设置未改动。",
         "此图形的 DXF 版本不能保存真彩色：图层“%1”%2只保存了颜色索引。",
+        "此图形的 DXF 版本不能保存线型中的文字和形：线型“%1”%2只保存了划线和间隔。",
+        "线型“%1”%2所用的文字样式或形文件在其来源图形中找不到：只保存了划线和间隔。",
     };
     static_assert(std::size(kTexts) == KindCount);
     QStringList sentences;
     for (size_t kind = 0; kind < KindCount; ++kind) {
         const Note& note = m_notes[kind];
-        if (!note.layer.isEmpty())
+        if (!note.name.isEmpty())
             sentences += QCoreApplication::translate("drawing", kTexts[kind])
-                             .arg(note.layer, note.more ? QStringLiteral("等") : QString());
+                             .arg(note.name, note.more ? QStringLiteral("等") : QString());
     }
     return sentences;
 }
@@ -51,10 +53,31 @@ std::string_view DrawingData::lineAt(qint64 offset) const
 void DrawingData::changeEntity(size_t entity, LayerId layer, bool removed)
 {
     Entity& changed = index.entities[entity];
-    entityChanges.push_back(
-        {static_cast<int>(entity), {changed.layer, changed.removed}, {layer, removed}});
+    const bool byLayer = changed.colorByLayer;
+    entityChanges.push_back({static_cast<int>(entity), {changed.layer, changed.removed, byLayer},
+        {layer, removed, byLayer}});
     changed.layer = layer;
     changed.removed = removed;
+}
+
+void DrawingData::dropColor(size_t entity)
+{
+    Entity& changed = index.entities[entity];
+    if (changed.colorByLayer)
+        return;
+    const EntityChange::State before{changed.layer, changed.removed, false};
+    entityChanges.push_back(
+        {static_cast<int>(entity), before, {changed.layer, changed.removed, true}});
+    changed.colorByLayer = true;
+}
+
+QString DrawingData::linetypeName(const QString& key) const
+{
+    const auto known = linetypes.constFind(key);
+    if (known != linetypes.constEnd())
+        return known->name;
+    const LinetypePointer added = state.newLinetypes.value(key);
+    return added ? added->name : QString();
 }
 
 const ObjectPlace* DrawingData::objectByHandle(quint64 handle)

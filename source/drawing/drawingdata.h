@@ -6,6 +6,7 @@
 #include "layerrecord.h"
 #include "layerstatetable.h"
 #include "layertable.h"
+#include "linetypedefinition.h"
 #include "textcodec.h"
 
 #include <QSet>
@@ -21,12 +22,14 @@ namespace drawing {
 struct DocumentState
 {
     LayerId current = LayerId::None;
-    quint64 handlesTaken = 0;                                ///< New handles given out.
-    quint32 recordsMade = 0;                                 ///< LAYER records ever inserted.
-    int layerRecordsAdded = 0;                               ///< Those inserted less those removed.
-    QSet<QString> newAppIds;                                 ///< Added to the APPID table.
-    quint32 objectsMade = 0;                                 ///< Objects ever inserted.
-    bool modelSpace = true;                                  ///< What is shown: TILEMODE.
+    quint64 handlesTaken = 0;                     ///< New handles given out.
+    quint32 recordsMade = 0;                      ///< LAYER records ever inserted.
+    int layerRecordsAdded = 0;                    ///< Those inserted less those removed.
+    QSet<QString> newAppIds;                      ///< Added to the APPID table.
+    QHash<QString, LinetypePointer> newLinetypes; ///< Added to the LTYPE table, by folded name.
+    QHash<QString, quint64> newStyles;            ///< Added to the STYLE table, see `StyleIndex`.
+    quint32 objectsMade = 0;                      ///< Objects ever inserted.
+    bool modelSpace = true;                       ///< What is shown: TILEMODE.
     std::shared_ptr<const LayerStateTable> layerStates = {}; ///< Null: as the file was read.
 };
 
@@ -34,17 +37,19 @@ inline bool operator==(const DocumentState& a, const DocumentState& b)
 {
     return a.current == b.current && a.handlesTaken == b.handlesTaken &&
            a.recordsMade == b.recordsMade && a.layerRecordsAdded == b.layerRecordsAdded &&
-           a.newAppIds == b.newAppIds && a.objectsMade == b.objectsMade &&
+           a.newAppIds == b.newAppIds && a.newLinetypes == b.newLinetypes &&
+           a.newStyles == b.newStyles && a.objectsMade == b.objectsMade &&
            a.modelSpace == b.modelSpace && a.layerStates == b.layerStates;
 }
 
-/// An entity that changed its layer, or went.
+/// An entity that changed its layer, lost its own colour, or went.
 struct EntityChange
 {
     struct State
     {
         LayerId layer = LayerId::None;
         bool removed = false;
+        bool colorByLayer = false;
     };
 
     int entity = 0;
@@ -56,20 +61,35 @@ struct EntityChange
 class LeftOut
 {
 public:
-    enum Kind { PlotFlag, Lineweight, TrueColor, KindCount };
+    enum Kind { PlotFlag, Lineweight, TrueColor, LinetypeParts, LinetypeStyles, KindCount };
 
-    void note(Kind kind, const QString& layer);
+    /// Notes the layer or linetype it concerns.
+    void note(Kind kind, const QString& name);
     /// A sentence for each kind.
     QStringList sentences() const;
 
 private:
     struct Note
     {
-        QString layer; ///< The first one; empty when there is none.
+        QString name; ///< The first one; empty when there is none.
         bool more = false;
     };
 
     std::array<Note, KindCount> m_notes;
+};
+
+/// A linetype of the file.
+struct LinetypeEntry
+{
+    QString name; ///< As the file spells it.
+    ByteRange record;
+};
+
+/// The STYLE records of the file.
+struct StyleIndex
+{
+    QHash<quint64, ByteRange> records; ///< By handle.
+    QHash<QString, quint64> handles;   ///< By folded name; shape files by their font's.
 };
 
 /// The inside of a drawing, shared by what reads and what edits it.
@@ -79,10 +99,11 @@ struct DrawingData
     DrawingIndex index;
     TextCodec codec;
     LayerRecordLimits limits;
-    QHash<QString, int> blockByName;    ///< By folded name.
-    QHash<QString, QString> linetypes;  ///< Names as the file spells them, by folded name.
-    QSet<QString> appIds;               ///< Folded names.
-    QHash<quint64, QString> plotStyles; ///< Names by handle; unused where styles go by colour.
+    QHash<QString, int> blockByName;         ///< By folded name.
+    QHash<QString, LinetypeEntry> linetypes; ///< By folded name.
+    std::optional<StyleIndex> styles;        ///< Made when a linetype asks for it.
+    QSet<QString> appIds;                    ///< Folded names.
+    QHash<quint64, QString> plotStyles;      ///< Names by handle; unused where styles go by colour.
     bool plotStylesByColor = true;
     std::optional<HandleIndex> handles;
     quint64 freeHandle = 0; ///< The first one to give out; 0 until it is needed.
@@ -112,6 +133,10 @@ struct DrawingData
     std::string_view lineAt(qint64 offset) const;
     /// Puts an entity on `layer`, or marks it as gone, as part of the open step.
     void changeEntity(size_t entity, LayerId layer, bool removed);
+    /// Marks an entity as having the colour of its layer, as part of the open step.
+    void dropColor(size_t entity);
+    /// The linetype's name as the drawing spells it; null when it has none of that folded name.
+    QString linetypeName(const QString& key) const;
     /// Null when there is no such object. The index of handles is made at the first call.
     const ObjectPlace* objectByHandle(quint64 handle);
     /// Name of the plot style of a layer with this colour index, 1..255, and plot style handle.

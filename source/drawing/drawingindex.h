@@ -31,7 +31,8 @@ enum class HeaderVariable {
     Count
 };
 
-enum class TableKind { Layer, Linetype, AppId, Other, Count };
+/// In the order in which missing ones are made: layers name linetypes.
+enum class TableKind { Linetype, Layer, Style, AppId, Other, Count };
 
 /// A table of the TABLES section.
 struct TablePlace

@@ -129,7 +129,7 @@ void Loader::loadSymbols()
 {
     for (const ByteRange& record : m_data.index.table(TableKind::Linetype).records) {
         const QString name = symbolName(record);
-        m_data.linetypes.insert(name.toCaseFolded(), name);
+        m_data.linetypes.insert(name.toCaseFolded(), {name, record});
     }
     for (const ByteRange& record : m_data.index.table(TableKind::AppId).records)
         m_data.appIds.insert(symbolName(record).toCaseFolded());

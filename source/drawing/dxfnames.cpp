@@ -42,7 +42,7 @@ constexpr std::string_view kVariables[] = {
     "$ACADVER", "$DWGCODEPAGE", "$CLAYER", "$HANDSEED", "$PSTYLEMODE", "$TILEMODE"};
 static_assert(std::size(kVariables) == static_cast<size_t>(HeaderVariable::Count));
 
-constexpr std::string_view kTables[] = {"LAYER", "LTYPE", "APPID"};
+constexpr std::string_view kTables[] = {"LTYPE", "LAYER", "STYLE", "APPID"};
 static_assert(std::size(kTables) == static_cast<size_t>(TableKind::Other));
 
 constexpr std::pair<std::string_view, ObjectKind> kObjects[] = {

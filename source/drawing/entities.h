@@ -46,6 +46,7 @@ struct Entity
     bool paperSpace = false; ///< Group 67 = 1; meaningful in the ENTITIES section.
     bool subEntity = false;  ///< Follows an owner; does not count as an entity of its own.
     bool removed = false; ///< Deleted; it keeps its place, so that indices of entities stay good.
+    bool colorByLayer = false; ///< Lost the colour of its own that its tags tell of.
 };
 
 /// A block definition: its entities are `entities[first .. first + count)`.

@@ -1,6 +1,5 @@
 #include "entityedits.h"
 
-#include "entityeditsbytes.h"
 #include "entityeditsremoval.h"
 #include "symboltables.h"
 
@@ -37,6 +36,11 @@ std::vector<char> blocksOn(const DrawingData& data, const std::vector<char>& isO
 }
 
 } // namespace
+
+bool isInBlock(const DrawingData& data, const Entity& entity)
+{
+    return entity.block >= 0 && !data.index.blocks[static_cast<size_t>(entity.block)].layout;
+}
 
 std::vector<int> ownersOf(const std::vector<Entity>& entities)
 {
@@ -192,6 +196,34 @@ Expected<void> EntityEdits::removeLayers(const std::vector<LayerId>& layers)
     for (const LayerId layer : layers)
         dropRecord(layer, LayerId::None);
     return {};
+}
+
+void EntityEdits::moveContents(std::vector<ContentMove>& moves, const ContentRules& rules)
+{
+    std::vector<int> moveOf(static_cast<size_t>(m_data.layers.entryCount()), -1);
+    std::vector<QByteArray> names;
+    for (const ContentMove& move : moves) {
+        moveOf[static_cast<size_t>(move.from)] = static_cast<int>(names.size());
+        names.push_back(m_data.codec.encode(m_data.layers.entry(move.to).layer.properties.name));
+    }
+    for (size_t i = 0; i < m_data.index.entities.size(); ++i) {
+        const Entity& entity = m_data.index.entities[i];
+        const int at = moveOf[static_cast<size_t>(entity.layer)];
+        if (at < 0 || entity.removed)
+            continue;
+        ContentMove& move = moves[static_cast<size_t>(at)];
+        const int counted = entity.subEntity ? 0 : 1;
+        if (!rules.inBlocks && isInBlock(m_data, entity)) {
+            move.leftInBlocks += counted;
+            move.isEmptied = false;
+            continue;
+        }
+        move.moved += counted;
+        if (move.to != move.from)
+            put(i, move.to, names[static_cast<size_t>(at)]);
+        forceByLayer(m_data, i, rules.byLayer);
+    }
+    settleCounts();
 }
 
 bool EntityEdits::isReferencedInBlocks(const std::vector<LayerId>& layers) const

@@ -1,6 +1,9 @@
 #include "entityeditsbytes.h"
 
+#include "layerrecord.h"
 #include "tagtext.h"
+
+#include <algorithm>
 
 namespace drawing {
 
@@ -23,7 +26,60 @@ qint64 layerGroupPlace(const DrawingData& data, const Entity& entity)
     return behindType;
 }
 
+/// A group in which an entity has something of its own, unless it says that the layer has it.
+struct OwnGroup
+{
+    int code;
+    bool ByLayerGroups::*kind;
+    std::string_view byLayer; ///< In small letters; empty where any value is the entity's own.
+};
+
+constexpr OwnGroup kOwnGroups[] = {
+    {62, &ByLayerGroups::color, "256"},
+    {420, &ByLayerGroups::color, {}},
+    {430, &ByLayerGroups::color, {}},
+    {6, &ByLayerGroups::linetype, "bylayer"},
+    {440, &ByLayerGroups::transparency, "0"},
+};
+
+bool isOwn(const Tag& tag, const ByLayerGroups& groups)
+{
+    const auto* const group = std::find_if(std::begin(kOwnGroups), std::end(kOwnGroups),
+        [&tag](const OwnGroup& known) { return known.code == tag.code; });
+    if (group == std::end(kOwnGroups) || !(groups.*group->kind))
+        return false;
+    const std::string_view value = tag.trimmed();
+    return !std::equal(value.begin(), value.end(), group->byLayer.begin(), group->byLayer.end(),
+        [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
+}
+
 } // namespace
+
+/// Looks at the common data alone: other subclasses use the same codes for their own things. Old
+/// formats have no markers, and nothing else in these groups.
+void forceByLayer(DrawingData& data, size_t entity, const ByLayerGroups& groups)
+{
+    constexpr int kEmbeddedObject = 101;
+    constexpr int kExtendedData = 1000;
+    if (!groups.color && !groups.linetype && !groups.transparency)
+        return;
+    const Entity& place = data.index.entities[entity];
+    TagReader tags = data.tags({place.begin, place.end});
+    bool isCommon = true;
+    bool inGroup = false;
+    Tag tag;
+    while (tags.next(tag) && tag.code < kExtendedData && tag.code != kEmbeddedObject) {
+        if (tag.code == 100)
+            isCommon = tag.trimmed() == "AcDbEntity";
+        if (tag.code == 100 || tag.code == 102)
+            inGroup = opensGroup(tag.code, tag.trimmed());
+        if (!isCommon || inGroup || !isOwn(tag, groups))
+            continue;
+        data.journal.replace(tag.begin, tag.end, {});
+        if (tag.code == 62 || tag.code == 420)
+            data.dropColor(entity);
+    }
+}
 
 void writeLayerName(DrawingData& data, size_t entity, const QByteArray& name)
 {

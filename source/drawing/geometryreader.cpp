@@ -87,6 +87,8 @@ EntityStyle EntityReader::style() const
     style.owner = m_owner;
     if (m_owner != LayerId::None && style.layer == m_layerZero)
         style.layer = m_owner;
+    if (m_drawing.entities()[m_index].colorByLayer)
+        return style;
     if (const Tag* color = m_tags.find(420)) {
         style.color = EntityStyle::Color::True;
         style.value = static_cast<quint32>(color->toInteger()) & 0xffffff;

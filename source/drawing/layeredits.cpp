@@ -108,8 +108,8 @@ Expected<LayerProperties> LayerEdits::settled(
     const QString continuous = QStringLiteral("Continuous");
     if (key == before.linetype.toCaseFolded())
         after.linetype = before.linetype;
-    else if (m_data.linetypes.contains(key))
-        after.linetype = m_data.linetypes.value(key);
+    else if (const QString known = m_data.linetypeName(key); !known.isNull())
+        after.linetype = known;
     else if (key == continuous.toCaseFolded())
         after.linetype = continuous;
     else

@@ -34,6 +34,8 @@ struct LinetypeDefinition
     /// into `styles`.
     std::vector<TextTag> tags;
     std::vector<LinetypeStyle> styles;
+    /// Letters or shapes had to be left out, as their styles are nowhere to be found.
+    bool isSimplified = false;
 
     /// Whether there is more in it than dashes and gaps, which formats without objects lack.
     bool hasLettersOrShapes() const { return !styles.empty(); }

@@ -16,9 +16,24 @@ constexpr quint32 kSectionHead = 1;
 constexpr quint32 kTableSpan = 0x10000000;
 constexpr quint32 kSectionTail = 0x70000000;
 
-QByteArray tableName(TableKind kind)
+struct TableNames
 {
-    return kind == TableKind::Layer ? "LAYER" : "APPID";
+    TableKind kind;
+    const char* table;
+    const char* record; ///< Its subclass marker.
+};
+
+constexpr TableNames kTables[] = {
+    {TableKind::Linetype, "LTYPE", "AcDbLinetypeTableRecord"},
+    {TableKind::Layer, "LAYER", "AcDbLayerTableRecord"},
+    {TableKind::Style, "STYLE", "AcDbTextStyleTableRecord"},
+    {TableKind::AppId, "APPID", "AcDbRegAppTableRecord"},
+};
+
+const TableNames& namesOf(TableKind kind)
+{
+    return *std::find_if(std::begin(kTables), std::end(kTables),
+        [kind](const TableNames& names) { return names.kind == kind; });
 }
 
 TagStyle styleAt(const DrawingData& data, qint64 offset)
@@ -160,7 +175,7 @@ void SymbolTables::makeFrame(const Spot& spot, TableKind kind, int records)
     }
     QByteArray head = journal.inserted(spot.at, spot.first);
     if (head.isEmpty()) {
-        head = style.tag(0, "TABLE") + style.tag(2, tableName(kind));
+        head = style.tag(0, "TABLE") + style.tag(2, namesOf(kind).table);
         if (m_data.limits.markers)
             head += style.handle(5, takeHandle()) + style.handle(330, 0) +
                     style.tag(100, "AcDbSymbolTable");
@@ -230,19 +245,31 @@ void SymbolTables::needAppId(const QString& name)
     if (m_data.appIds.contains(key) || m_data.state.newAppIds.contains(key))
         return;
     m_data.state.newAppIds.insert(key);
-    const int added = m_data.state.newAppIds.size();
-    const Spot spot = this->spot(TableKind::AppId);
-    countRecords(spot, TableKind::AppId, added);
+    addRecord(
+        TableKind::AppId, m_data.state.newAppIds.size(), {{2, name}, {70, QStringLiteral("0")}});
+}
+
+quint64 SymbolTables::addRecord(TableKind kind, int added, const std::vector<TextTag>& tags)
+{
+    const Spot spot = this->spot(kind);
     const TagStyle& style = spot.style;
-    QByteArray record = style.tag(0, "APPID");
-    if (m_data.limits.markers) {
-        record += style.handle(5, takeHandle());
-        if (const quint64 owner = tableHandle(TableKind::AppId))
+    const TableNames& names = namesOf(kind);
+    countRecords(spot, kind, added);
+    QByteArray record = style.tag(0, names.table);
+    const quint64 handle = takeHandle();
+    if (handle != 0) {
+        record += style.handle(5, handle);
+        if (const quint64 owner = tableHandle(kind))
             record += style.handle(330, owner);
-        record += style.tag(100, "AcDbSymbolTableRecord") + style.tag(100, "AcDbRegAppTableRecord");
+        record += style.tag(100, "AcDbSymbolTableRecord") + style.tag(100, names.record);
     }
-    record += style.tag(2, m_data.codec.encode(name)) + style.number(70, 0);
+    for (const TextTag& tag : tags) {
+        const bool isFlag = tag.code >= 60 && tag.code <= 79;
+        record += isFlag ? style.number(tag.code, tag.value.toLongLong())
+                         : style.tag(tag.code, m_data.codec.encode(tag.value));
+    }
     m_data.journal.insert(spot.at, spot.first + static_cast<quint32>(added), record);
+    return handle;
 }
 
 } // namespace drawing

@@ -18,6 +18,9 @@ public:
     QByteArray layerRecord(const LayerEntry& entry) const;
     void setLayerRecord(const LayerEntry& entry, const QByteArray& record);
 
+    /// Adds a record with these tags behind its head to a table other than the layers'. `added`
+    /// tells how many that makes since the file was read. Returns its handle; 0 in formats without.
+    quint64 addRecord(TableKind kind, int added, const std::vector<TextTag>& tags);
     /// Lists an XDATA application, where it is not listed yet.
     void needAppId(const QString& name);
     /// Writes the current layer's name to the header.

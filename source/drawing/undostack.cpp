@@ -15,6 +15,7 @@ void UndoStep::apply(DrawingData& data, bool forward) const
         Entity& entity = data.index.entities[static_cast<size_t>(index)];
         entity.layer = state.layer;
         entity.removed = state.removed;
+        entity.colorByLayer = state.colorByLayer;
     };
     // An entity may have changed more than once.
     if (forward) {
