@@ -1,0 +1,308 @@
+#include "layertranslation.h"
+
+#include "drawingprivate.h"
+#include "entityedits.h"
+#include "targetlayers.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+#include <algorithm>
+#include <numeric>
+
+namespace drawing {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("drawing", text);
+}
+
+bool alwaysStays(const Layer& layer)
+{
+    return layer.properties.name == QLatin1String("0") || isNeverPlotted(layer.properties.name);
+}
+
+class Translation
+{
+public:
+    Translation(Drawing& drawing, const std::vector<LayerMapping>& mappings,
+        const TranslationOptions& options)
+        : m_drawing(drawing),
+          m_data(DrawingAccess::data(drawing)),
+          m_mappings(mappings),
+          m_options(options),
+          m_layers(drawing)
+    {
+    }
+
+    TranslationReport run();
+
+private:
+    /// A mapping that can be carried out.
+    struct Plan
+    {
+        size_t mapping = 0;
+        LayerId from = LayerId::None;
+        LayerId to = LayerId::None; ///< None as long as the drawing has no such layer.
+    };
+
+    void checkMappings();
+    QString refusalOf(const LayerMapping& mapping, const Layer* source);
+    void findBlockContents();
+    Expected<void> prepareTarget(Plan& plan);
+    Expected<void> changeTarget(Plan& plan);
+    Expected<void> makeTarget(Plan& plan);
+    void moveCurrentLayer();
+    void moveContents();
+    bool mayGo(const Plan& plan, const ContentMove& move) const;
+
+    const TargetLayer& target(const Plan& plan) const { return m_mappings[plan.mapping].to; }
+    MappingResult& result(const Plan& plan) { return m_report.mappings[plan.mapping]; }
+
+    Drawing& m_drawing;
+    DrawingData& m_data;
+    const std::vector<LayerMapping>& m_mappings;
+    const TranslationOptions& m_options;
+    TargetLayers m_layers;
+    TranslationReport m_report;
+    std::vector<Plan> m_plans;
+    QSet<int> m_sources;              // Ids.
+    QSet<int> m_targets;              // Ids of the layers that are targets, made ones included.
+    QHash<QString, size_t> m_decided; // By folded name of a target, the mapping that decided on it.
+    QHash<QString, LayerId> m_targetIds;
+    std::vector<char> m_hasBlockContents; // By layer id.
+};
+
+/// Why a mapping cannot be carried out, as far as can be told from its names; empty when it can.
+QString Translation::refusalOf(const LayerMapping& mapping, const Layer* source)
+{
+    if (!source)
+        return tr("图形中没有图层“%1”。").arg(mapping.from);
+    const QString& name = source->properties.name;
+    if (source->dependsOnReference)
+        return tr("图层“%1”依赖外部参照，不能转换。").arg(name);
+    if (m_sources.contains(static_cast<int>(source->id)))
+        return tr("图层“%1”已在前面的映射中。").arg(name);
+    const Layer* target = m_drawing.findLayer(mapping.to.name.trimmed());
+    if (target && target->dependsOnReference)
+        return tr("目标图层“%1”依赖外部参照。").arg(target->properties.name);
+    return {};
+}
+
+void Translation::checkMappings()
+{
+    for (size_t i = 0; i < m_mappings.size(); ++i) {
+        const LayerMapping& mapping = m_mappings[i];
+        const Layer* source = m_drawing.findLayer(mapping.from.trimmed());
+        MappingResult result;
+        result.from = source ? source->properties.name : mapping.from;
+        result.to = mapping.to.name;
+        result.cause = refusalOf(mapping, source);
+        m_report.mappings.push_back(result);
+        if (!result.cause.isEmpty())
+            continue;
+        m_sources.insert(static_cast<int>(source->id));
+        const Layer* target = m_drawing.findLayer(mapping.to.name.trimmed());
+        if (target)
+            m_targets.insert(static_cast<int>(target->id));
+        m_plans.push_back({i, source->id, target ? target->id : LayerId::None});
+    }
+}
+
+/// Parts of entities count too: a layer that only a vertex is on may not go either.
+void Translation::findBlockContents()
+{
+    m_hasBlockContents.assign(static_cast<size_t>(m_data.layers.entryCount()), false);
+    if (m_options.inBlocks)
+        return;
+    for (const Entity& entity : m_data.index.entities) {
+        if (!entity.removed && isInBlock(m_data, entity))
+            m_hasBlockContents[static_cast<size_t>(entity.layer)] = true;
+    }
+}
+
+Expected<void> Translation::prepareTarget(Plan& plan)
+{
+    const QString key = nameKey(target(plan).name);
+    const auto decided = m_decided.constFind(key);
+    if (decided == m_decided.constEnd()) {
+        const auto done = plan.to == LayerId::None ? makeTarget(plan) : changeTarget(plan);
+        if (!done)
+            return done;
+        m_decided.insert(key, plan.mapping);
+        m_targetIds.insert(key, plan.to);
+        m_targets.insert(static_cast<int>(plan.to));
+        return {};
+    }
+    plan.to = m_targetIds.value(key);
+    result(plan).target = MappingResult::Target::Unchanged;
+    if (!isSameTarget(m_mappings[*decided].to, target(plan)))
+        result(plan).notices +=
+            tr("目标图层“%1”在前面的映射中有别的特性，以前面的为准。").arg(target(plan).name);
+    return {};
+}
+
+Expected<void> Translation::changeTarget(Plan& plan)
+{
+    const LayerProperties before = m_drawing.layer(plan.to)->properties;
+    auto changed = m_layers.change(plan.to, target(plan));
+    if (!changed)
+        return changed;
+    const bool isSame = m_drawing.layer(plan.to)->properties == before;
+    result(plan).target =
+        isSame ? MappingResult::Target::Unchanged : MappingResult::Target::Changed;
+    return {};
+}
+
+/// A source that goes as a whole gets the target's name: what refers to it, be it a viewport that
+/// freezes it or a layer state, goes on doing so.
+Expected<void> Translation::makeTarget(Plan& plan)
+{
+    const Layer source = *m_drawing.layer(plan.from);
+    result(plan).target = MappingResult::Target::Made;
+    const bool isRenamed = !alwaysStays(source) &&
+                           !m_targets.contains(static_cast<int>(plan.from)) &&
+                           !m_hasBlockContents[static_cast<size_t>(plan.from)];
+    if (isRenamed) {
+        plan.to = plan.from;
+        result(plan).sourceRemoved = true;
+        return m_layers.turnInto(plan.from, target(plan));
+    }
+    return m_layers.add(target(plan), source.properties).map([&plan](LayerId id) { plan.to = id; });
+}
+
+void Translation::moveCurrentLayer()
+{
+    const LayerId current = m_drawing.currentLayer();
+    for (const Plan& plan : m_plans) {
+        if (plan.from != current || plan.to == current)
+            continue;
+        const LayerProperties& properties = m_drawing.layer(plan.to)->properties;
+        if (properties.frozen)
+            result(plan).notices +=
+                tr("目标图层“%1”已冻结，不能成为当前图层：当前图层“%2”保留。")
+                    .arg(properties.name, m_drawing.layer(current)->properties.name);
+        else if (const auto moved = m_drawing.setCurrentLayer(plan.to); !moved)
+            result(plan).notices += moved.error().text;
+        return;
+    }
+}
+
+bool Translation::mayGo(const Plan& plan, const ContentMove& move) const
+{
+    const Layer* source = m_drawing.layer(plan.from);
+    return plan.from != plan.to && move.isEmptied && !alwaysStays(*source) &&
+           plan.from != m_drawing.currentLayer() &&
+           !m_targets.contains(static_cast<int>(plan.from));
+}
+
+void Translation::moveContents()
+{
+    std::vector<ContentMove> moves;
+    moves.reserve(m_plans.size());
+    for (const Plan& plan : m_plans)
+        moves.push_back({plan.from, plan.to});
+    EntityEdits edits(m_data);
+    edits.moveContents(moves,
+        {m_options.inBlocks,
+            {m_options.colorByLayer, m_options.linetypeByLayer, m_options.transparencyByLayer}});
+    for (size_t i = 0; i < moves.size(); ++i) {
+        MappingResult& result = this->result(m_plans[i]);
+        result.translated = moves[i].moved;
+        result.leftInBlocks = moves[i].leftInBlocks;
+        if (!mayGo(m_plans[i], moves[i]))
+            continue;
+        edits.dropRecord(m_plans[i].from, m_plans[i].to);
+        result.sourceRemoved = true;
+    }
+}
+
+TranslationReport Translation::run()
+{
+    const std::vector<Layer>& layers = m_drawing.layers();
+    m_report.entities = std::accumulate(layers.begin(), layers.end(), 0,
+        [](int sum, const Layer& layer) { return sum + layer.entityCount; });
+    checkMappings();
+    findBlockContents();
+    std::vector<Plan> possible;
+    for (Plan& plan : m_plans) {
+        const auto prepared = prepareTarget(plan);
+        result(plan).notices += m_layers.takeNotices();
+        if (prepared) {
+            possible.push_back(plan);
+            continue;
+        }
+        MappingResult& leftOut = result(plan);
+        leftOut.target = MappingResult::Target::LeftOut;
+        leftOut.sourceRemoved = false;
+        leftOut.cause = prepared.error().text;
+    }
+    m_plans.swap(possible);
+    moveCurrentLayer();
+    moveContents();
+    m_report.notices = m_drawing.takeNotices();
+    return std::move(m_report);
+}
+
+} // namespace
+
+int TranslationReport::appliedCount() const
+{
+    return static_cast<int>(std::count_if(mappings.begin(), mappings.end(),
+        [](const MappingResult& result) { return result.isApplied(); }));
+}
+
+int TranslationReport::translatedCount() const
+{
+    return std::accumulate(mappings.begin(), mappings.end(), 0,
+        [](int sum, const MappingResult& result) { return sum + result.translated; });
+}
+
+Expected<TranslationReport> translateLayers(
+    Drawing& drawing, const std::vector<LayerMapping>& mappings, const TranslationOptions& options)
+{
+    if (!drawing.inStep())
+        return tl::make_unexpected(Error{tr("图形没有打开的操作步骤，不能转换图层。"), 0, false});
+    return Translation(drawing, mappings, options).run();
+}
+
+std::vector<TargetLayer> targetLayers(const Drawing& drawing)
+{
+    QHash<QString, LinetypePointer> definitions;
+    std::vector<TargetLayer> targets;
+    targets.reserve(drawing.layers().size());
+    for (const Layer& layer : drawing.layers()) {
+        if (layer.dependsOnReference)
+            continue;
+        const LayerProperties& p = layer.properties;
+        auto definition = definitions.find(p.linetype);
+        if (definition == definitions.end())
+            definition = definitions.insert(p.linetype, drawing.linetype(p.linetype));
+        targets.push_back({p.name, p.colorIndex, p.trueColor, p.linetype, *definition, p.lineweight,
+            p.transparency, p.plotStyle, p.plotted});
+    }
+    return targets;
+}
+
+std::vector<LayerMapping> sameNamedMappings(const Drawing& drawing,
+    const std::vector<TargetLayer>& targets, const std::vector<LayerMapping>& known)
+{
+    QSet<QString> mapped;
+    for (const LayerMapping& mapping : known)
+        mapped.insert(nameKey(mapping.from));
+    QHash<QString, const TargetLayer*> byName;
+    for (auto target = targets.rbegin(); target != targets.rend(); ++target)
+        byName.insert(nameKey(target->name), &*target); // Of two of one name the first.
+    std::vector<LayerMapping> mappings;
+    for (const Layer& layer : drawing.layers()) {
+        const QString key = nameKey(layer.properties.name);
+        const TargetLayer* target = byName.value(key);
+        if (target && !layer.dependsOnReference && !mapped.contains(key))
+            mappings.push_back({layer.properties.name, *target});
+    }
+    return mappings;
+}
+
+} // namespace drawing

@@ -1,0 +1,108 @@
+#include "targetlayers.h"
+
+#include <QCoreApplication>
+
+#include <tuple>
+
+namespace drawing {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("drawing", text);
+}
+
+/// Styles that follow from the colour are no names to look for.
+bool isNamedPlotStyle(const QString& style)
+{
+    return !style.isEmpty() && !style.startsWith(QLatin1String("Color_"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+QString nameKey(const QString& name)
+{
+    return name.trimmed().toCaseFolded();
+}
+
+bool isSameTarget(const TargetLayer& a, const TargetLayer& b)
+{
+    const auto parts = [](const TargetLayer& target) {
+        return std::tie(target.colorIndex, target.trueColor, target.lineweight, target.transparency,
+            target.plotStyle, target.plotted);
+    };
+    return parts(a) == parts(b) && nameKey(a.linetype) == nameKey(b.linetype);
+}
+
+QString TargetLayers::linetypeFor(const TargetLayer& target, const LayerProperties& base)
+{
+    const QString key = nameKey(target.linetype);
+    const LinetypePointer& definition = target.linetypeDefinition;
+    if (key == QLatin1String("continuous") || m_drawing.linetype(target.linetype))
+        return target.linetype;
+    if (definition && nameKey(definition->name) == key && m_drawing.addLinetype(*definition))
+        return target.linetype;
+    m_notices += tr("图形中没有线型“%1”，也没有它的定义：图层“%2”的线型为“%3”。")
+                     .arg(target.linetype, target.name, base.linetype);
+    return base.linetype;
+}
+
+/// What a layer is to be like: what a standard does not speak of stays.
+LayerProperties TargetLayers::wanted(const TargetLayer& target, const LayerProperties& base)
+{
+    LayerProperties properties = base;
+    properties.colorIndex = target.colorIndex;
+    properties.trueColor = target.trueColor;
+    properties.linetype = linetypeFor(target, base);
+    properties.lineweight = target.lineweight;
+    properties.transparency = target.transparency;
+    properties.plotted = target.plotted.value_or(base.plotted);
+    if (isNamedPlotStyle(target.plotStyle))
+        properties.plotStyle = target.plotStyle;
+    return properties;
+}
+
+Expected<void> TargetLayers::set(
+    LayerId id, const TargetLayer& target, const LayerProperties& wanted)
+{
+    return m_drawing.setLayerProperties(id, wanted).map([&] {
+        const LayerProperties& now = m_drawing.layer(id)->properties;
+        if (isNamedPlotStyle(target.plotStyle) && m_drawing.hasNamedPlotStyles() &&
+            now.plotStyle.compare(target.plotStyle, Qt::CaseInsensitive) != 0)
+            m_notices += tr("图形中没有打印样式“%1”：图层“%2”的打印样式为“%3”。")
+                             .arg(target.plotStyle, now.name, now.plotStyle);
+    });
+}
+
+Expected<void> TargetLayers::change(LayerId id, const TargetLayer& target)
+{
+    return set(id, target, wanted(target, m_drawing.layer(id)->properties));
+}
+
+Expected<void> TargetLayers::turnInto(LayerId id, const TargetLayer& target)
+{
+    LayerProperties properties = wanted(target, m_drawing.layer(id)->properties);
+    properties.name = target.name.trimmed();
+    return set(id, target, properties);
+}
+
+Expected<LayerId> TargetLayers::add(const TargetLayer& target, const LayerProperties& base)
+{
+    LayerProperties properties = wanted(target, base);
+    properties.name = target.name.trimmed();
+    const auto added = m_drawing.addLayer(properties);
+    if (!added)
+        return added;
+    // Only a layer that is there can be given a plot style.
+    return set(*added, target, properties).map([&added] { return *added; });
+}
+
+QStringList TargetLayers::takeNotices()
+{
+    QStringList notices;
+    notices.swap(m_notices);
+    return notices;
+}
+
+} // namespace drawing
