@@ -7,11 +7,12 @@ sys.dont_write_bytecode = True
 
 import ezdxf  # noqa: E402
 
-from generator import office_floor, site_plan, workshop  # noqa: E402
+from generator import office_floor, office_standard, site_plan, workshop  # noqa: E402
 from generator.drafting import save  # noqa: E402
 
 SAMPLES = (  # name, maker, encoding, line end
     ("office-floor.dxf", office_floor.make, "utf-8", "\r\n"),
+    ("office-standard.dxf", office_standard.make, "utf-8", "\r\n"),
     ("workshop-gbk.dxf", workshop.make, "gbk", "\r\n"),
     ("site-plan.dxf", site_plan.make, "cp1252", "\n"),
 )
