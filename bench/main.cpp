@@ -52,6 +52,7 @@ int run(int argc, char** argv, bool quick)
     report.registerRows(bench::dialogRows(), quick);
     report.registerRows(bench::drawingRows(folder.path()), quick);
     report.registerRows(bench::deleteDialogRows(), quick);
+    report.registerRows(bench::translatorRows(), quick);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

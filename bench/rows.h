@@ -14,5 +14,7 @@ std::vector<Row> memoryRows();
 std::vector<Row> dialogRows();
 /// Confirming the delete dialog.
 std::vector<Row> deleteDialogRows();
+/// Mapping layers of the same name in the layer translator.
+std::vector<Row> translatorRows();
 
 } // namespace bench

@@ -7,9 +7,10 @@ namespace bench {
 
 using namespace vnsi;
 
-ServedDialog::ServedDialog(const OdString& name, VnJsonPtr tree)
+ServedDialog::ServedDialog(const OdString& name, VnJsonPtr tree, OdRxObjectPtr invoker)
     : m_tree(std::move(tree)),
-      m_invoker(OdRxObjectImpl<VnUiDialogInvoker>::createObject())
+      m_invoker(invoker ? std::move(invoker)
+                        : OdRxObjectPtr(OdRxObjectImpl<VnUiDialogInvoker>::createObject()))
 {
     const auto service = VnUiService::cast(vn_arbitDict_getservice(L"Dialog/CmdLayer").get());
     if (!service)

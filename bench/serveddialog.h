@@ -11,8 +11,8 @@ namespace bench {
 class ServedDialog
 {
 public:
-    /// `name` is one of the service's dialog names.
-    ServedDialog(const OdString& name, vnsi::VnJsonPtr tree);
+    /// `name` is one of the service's dialog names. Without an invoker nothing is answered.
+    ServedDialog(const OdString& name, vnsi::VnJsonPtr tree, OdRxObjectPtr invoker = {});
     ServedDialog(const ServedDialog&) = delete;
     ServedDialog& operator=(const ServedDialog&) = delete;
 
@@ -20,6 +20,8 @@ public:
     /// Hands the tree over again, which fills the dialog again.
     void refill() { m_wrapper->setData(m_tree, m_invoker); }
     const vnsi::VnJsonPtr& tree() const { return m_tree; }
+    /// Calls a slot of the dialog without arguments.
+    void invoke(const char* slot) const { QMetaObject::invokeMethod(m_wrapper->widget(), slot); }
 
     /// The dialog's widget of this object name.
     template <class T>
@@ -30,7 +32,7 @@ public:
 
 private:
     vnsi::VnJsonPtr m_tree;
-    OdRxObjectPtr m_invoker; ///< Answers no request.
+    OdRxObjectPtr m_invoker;
     vnsi::VnUiModeDialogBasePtr m_wrapper;
 };
 
