@@ -10,6 +10,8 @@
 #include "cmdlaytransui/vnqtlaytransneweditdlg.h"
 #include "cmdlaytransui/vnqtlaytranssettingdlg.h"
 #include "cmdlaytransui/vnqtlaytransuidlg.h"
+#include "cmdlaywalkui/vnqtlaywalkdlg.h"
+#include "cmdlaywalkui/vnqtlaywalkverifydlg.h"
 #include "vnqtuidynlayercmdimpl.h"
 #include "vornqt.h"
 
@@ -24,11 +26,6 @@ template <class T>
 VnUiModeDialogBasePtr makeDialog()
 {
     return VnQtRxObjectImpl<VnQtModeDialog<T>, VnQtModeDialog<T>>::createObject();
-}
-
-VnUiModeDialogBasePtr notBuilt()
-{
-    return {};
 }
 
 struct DialogRow
@@ -46,8 +43,8 @@ constexpr DialogRow kDialogs[] = {
     {L"Dialog/CmdLaydel", makeDialog<VnQtLaydelLayerDlg>},
     {L"Dialog/CmdLaymch", makeDialog<VnQtLaymchLayerDlg>},
     {L"Dialog/CmdLaymrg", makeDialog<VnQtLaymrgLayerDlg>},
-    {L"Dialog/CmdLaywalk", notBuilt},
-    {L"Dialog/CmdLaywalk/Verify", notBuilt},
+    {L"Dialog/CmdLaywalk", makeDialog<VnQtLayWalkDlg>},
+    {L"Dialog/CmdLaywalk/Verify", makeDialog<VnQtLayWalkVerifyDlg>},
     {L"Dialog/CmdLaytrans", makeDialog<VnQtUiLaytransCmd>},
     {L"Dialog/CmdLaytransNewEdit", makeDialog<VnQtLaytransNewEditWgt>},
     {L"Dialog/CmdLaytransSetting", makeDialog<VnQtLaytransSettingWgt>},

@@ -1,0 +1,49 @@
+#pragma once
+
+namespace vnsi {
+
+/// The keys that the layer walk's dialogs and the command share, besides those of the records.
+namespace walkkey {
+
+/// The layer tree: what the dialog is given, what the command hands back when it made it anew.
+/// Requests carry the dialog's own copy of it under "parameter".
+inline constexpr char kLayers[] = "LayerStateMgr";
+inline constexpr char kParameter[] = "parameter";
+inline constexpr char kRequestCode[] = "marker";
+/// 0 where the command refused; what it leaves alone counts as done.
+inline constexpr char kResult[] = "result";
+
+// In a record.
+inline constexpr char kAlwaysShow[] = "bAlwaysShow";
+inline constexpr char kIsSelected[] = "IsSelected";
+
+// On the root: what a request needs to know.
+inline constexpr char kOldCurrent[] = "oldlaywalkLName";
+inline constexpr char kPurgeOne[] = "laywalkselLName";
+inline constexpr char kPurgeSeveral[] = "laywalkselLNameS";
+
+// On the root: answers.
+inline constexpr char kLayerCount[] = "LayerCount";
+inline constexpr char kSelectedCount[] = "SelectLayerCount";
+inline constexpr char kSelectedEntities[] = "SelectLayerEntitys"; // The key's agreed spelling.
+inline constexpr char kPickedNames[] = "laywalkpickLNameS";
+
+// In the layer tree, for the dialog that names a new layer state.
+inline constexpr char kStates[] = "LayerStateList";
+inline constexpr char kNewStateName[] = "LayerStateNewName";
+inline constexpr char kNewStateText[] = "desc";
+
+} // namespace walkkey
+
+/// The walk's requests, under "marker".
+enum WalkRequest {
+    kWalkSaveState = 1,
+    kWalkApply = 4, ///< Show the layers as the tree has them, at once.
+    kWalkCount = 7,
+    kWalkPurge = 12,
+    /// Let the user pick entities while the dialog is hidden, and answer the names of their layers
+    /// in an array. A command that does not know it leaves the dialog as it was.
+    kWalkPick = 13
+};
+
+} // namespace vnsi

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "vornqt.h"
+#include "walkkeys.h"
+#include "walklayers.h"
+
+class QCheckBox;
+class QComboBox;
+class QLayout;
+class QListWidgetItem;
+class QMenu;
+class QPushButton;
+
+namespace vnsi {
+
+class VnQtLayWalkListWgt;
+
+/// Shows the layers of a drawing to walk through: those selected are on in the drawing, at once,
+/// and all others off.
+class VnQtLayWalkDlg : public VnQtModeDialogImpl<VnQtLayWalkDlg, QDialog>
+{
+    Q_OBJECT
+
+public:
+    VnQtLayWalkDlg(VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags);
+
+    bool initDialog() override;
+    bool setData(VnJsonPtr data, OdRxObjectPtr invoker) override;
+    /// The one way out, of the close button, the frame and Esc.
+    void reject() override;
+
+private slots:
+    void slot_PickBtnClicked();
+    void slot_ClearBtnClicked();
+    void slot_CancelBtnClicked();
+    void slot_HelpBtnClicked();
+    void slot_FilterCheckBtnClicked();
+    void slot_FilterComboBoxActivated(int index);
+    void slot_FilterComboBoxReturnPressed();
+    void slot_FilterComboBoxTextChanged(const QString& text);
+    void slot_LayerListCustomContextMenuRequested(QPoint point);
+    void slot_LayerListItemClicked(QListWidgetItem* item = nullptr);
+    void slot_LayerListItemDoubleClicked(QListWidgetItem* item);
+
+    void slot_KeepSelActionTriggered();
+    void slot_ReleaseSelActionTriggered();
+    void slot_ReleaseSelAllActionTriggered();
+    void slot_SelAllActionTriggered();
+    void slot_ClearAllActionTriggered();
+    void slot_ReverseSelALLActionTriggered();
+    void slot_SelNotReferencedActionTriggered();
+    void slot_SavelaystateActionTriggered();
+    void slot_CheckActionTriggered();
+    void slot_CopyasfilterActionTriggered();
+    void slot_SavefilterActionTriggered();
+    void slot_DelfilterActionTriggered();
+
+private:
+    enum Need {
+        kSelection,
+        kStarInSelection,
+        kAnyStar,
+        kAnyRow,
+        kNewPattern,
+        kSavedPattern,
+        kNeedCount
+    };
+    struct ActionRow;
+    static const ActionRow kActions[];
+
+    void makeActions();
+    QLayout* makeFilterRow();
+    QLayout* makeButtonRow();
+    void connectWidgets();
+    void updateActions();
+
+    void fill();
+    void fillAndSelectVisible();
+    void updateTitle();
+    QString rowText(int index) const;
+    void updateStars();
+    void pinSelected(bool pinned);
+    WalkLayers::Choice recordsOf(const std::vector<bool>& rows) const;
+    std::vector<bool> rowsOf(const WalkLayers::Choice& records) const;
+    WalkLayers::Choice selectedRecords() const;
+
+    QString pattern() const;
+    int savedPattern() const;
+    void applyFilter();
+    void resetFilter();
+
+    bool ask(WalkRequest code, const VnJsonPtr& layers, const VnQtArgumentWriter& write = {});
+    void apply(const OdString& oldCurrent = {});
+    bool takeNewTree();
+    void takeLayers(const VnJsonPtr& tree);
+    void restoreLayers();
+    void loadSettings();
+    void saveSettings() const;
+
+    WalkLayers m_layers;
+    VnJsonPtr m_kept;        ///< The layers as they were when the dialog opened.
+    VnJsonPtr m_given;       ///< The layer tree last taken from the command.
+    std::vector<int> m_rows; ///< The record of each row.
+    bool m_isFiltered = false;
+    QString m_filtered; ///< The pattern used last, and what it let through.
+    WalkLayers::Choice m_letThrough;
+
+    VnQtLayWalkListWgt* m_list = nullptr;
+    QComboBox* m_filters = nullptr;
+    QCheckBox* m_filterBox = nullptr;
+    QCheckBox* m_restore = nullptr;
+    QPushButton* m_purge = nullptr;
+    QMenu* m_menu = nullptr;
+    QMenu* m_filterMenu = nullptr;
+};
+
+} // namespace vnsi

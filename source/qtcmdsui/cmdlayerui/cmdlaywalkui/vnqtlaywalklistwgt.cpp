@@ -1,0 +1,80 @@
+#include "vnqtlaywalklistwgt.h"
+
+#include <QMouseEvent>
+
+#include <utility>
+
+namespace vnsi {
+
+VnQtLayWalkListWgt::VnQtLayWalkListWgt(QWidget* parent) : QListWidget(parent)
+{
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(this, &QListWidget::itemClicked, this, [this] { m_isEdited = false; });
+}
+
+VnQtLayWalkListWgt::Rows VnQtLayWalkListWgt::selectedRows() const
+{
+    Rows rows(static_cast<std::size_t>(count()));
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection) {
+        const auto begin = rows.begin() + range.top();
+        std::fill(begin, begin + range.height(), true);
+    }
+    return rows;
+}
+
+void VnQtLayWalkListWgt::selectRows(const Rows& rows)
+{
+    QItemSelection selection;
+    const auto index = [this](std::size_t row) { return model()->index(static_cast<int>(row), 0); };
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        const std::size_t first = row;
+        while (row < rows.size() && rows[row])
+            ++row;
+        if (row > first)
+            selection.append(QItemSelectionRange(index(first), index(row - 1)));
+    }
+    // In two steps: changing one selection into another compares every range with every other.
+    selectionModel()->clearSelection();
+    selectionModel()->select(selection, QItemSelectionModel::Select);
+}
+
+void VnQtLayWalkListWgt::keyPressEvent(QKeyEvent* event)
+{
+    m_isEdited = false;
+    QListWidget::keyPressEvent(event);
+    tellIfEdited();
+}
+
+void VnQtLayWalkListWgt::mousePressEvent(QMouseEvent* event)
+{
+    // The right button asks for the menu on what is selected; it must not select something else.
+    if (event->button() == Qt::RightButton)
+        return;
+    m_isEdited = false;
+    QListWidget::mousePressEvent(event);
+}
+
+void VnQtLayWalkListWgt::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::RightButton)
+        return;
+    QListWidget::mouseReleaseEvent(event);
+    tellIfEdited();
+}
+
+void VnQtLayWalkListWgt::selectionChanged(
+    const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListWidget::selectionChanged(selected, deselected);
+    m_isEdited = true;
+}
+
+void VnQtLayWalkListWgt::tellIfEdited()
+{
+    if (std::exchange(m_isEdited, false))
+        emit selectionEdited();
+}
+
+} // namespace vnsi

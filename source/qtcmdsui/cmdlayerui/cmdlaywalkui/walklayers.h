@@ -1,0 +1,57 @@
+#pragma once
+
+#include "layerrecord.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace vnsi {
+
+/// The layers a walk goes through: a copy of the tree that is the dialog's own.
+///
+/// What is pinned is never turned off, whoever asks for it.
+class WalkLayers
+{
+public:
+    /// A yes or no for each record, in their order.
+    using Choice = std::vector<bool>;
+
+    /// Copies the tree; without one, or without a list in it, there are no layers.
+    void take(const VnJsonPtr& layers);
+
+    const VnJsonPtr& tree() const { return m_tree; }
+    int count() const { return static_cast<int>(m_firstOfName.size()); }
+    LayerRecord record(int index) const { return LayerRecord(m_list(index)); }
+    OdString name(int index) const { return record(index).name(); }
+    /// Of the record that was the current layer's when the tree came; empty when there is none.
+    OdString currentName() const;
+    bool isPinned(int index) const;
+    bool isVisible(int index) const;
+    Choice choiceOf(bool (WalkLayers::*question)(int index) const) const;
+    Choice matching(const OdString& pattern) const;
+    /// Those with one of these names, an array of texts; letter case does not count.
+    Choice named(const VnJsonPtr& names) const;
+    /// Neither layer 0 nor the current layer.
+    bool mayBePurged(int index) const;
+    bool isUnused(int index) const { return !record(index).flag(layerkey::kUsed); }
+
+    void setOff(int index, bool off);
+    void setPinned(int index, bool pinned);
+    /// Turns the chosen layers, and others of the same names, on and the rest off. The current
+    /// layer's record says then whether it stayed.
+    void showOnly(const Choice& chosen);
+    /// Makes the current layer's record say so again; false when it does.
+    bool restoreCurrent();
+    void markModified() { m_tree->SetDataB(layerkey::kModified, true); }
+
+private:
+    void setCurrentShown(bool shown);
+
+    VnJsonPtr m_tree;
+    VnJsonPtr m_list;
+    std::vector<int> m_firstOfName; ///< For each record the first one of its name.
+    int m_current = -1;
+};
+
+} // namespace vnsi

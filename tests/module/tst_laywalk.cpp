@@ -1,0 +1,587 @@
+#include "modaldriver.h"
+#include "modulefixture.h"
+#include "recordinghost.h"
+#include "recordinginvoker.h"
+#include "settings.h"
+#include "trees.h"
+#include "vnsettings.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QToolButton>
+#include <QtTest>
+
+using namespace vnsi;
+
+namespace {
+
+// Layer 0 is current; one is off, one starred, one frozen, one frozen in viewports.
+const char kLayers[] = R"([{"LayerName":"0","CurLayer":0,"Used":true},)"
+                       R"({"LayerName":"WALL","CurLayer":1,"Used":true},)"
+                       R"({"LayerName":"wall-2","CurLayer":1,"Off":true},)"
+                       R"({"LayerName":"door","CurLayer":1,"bAlwaysShow":true,"Used":true},)"
+                       R"({"LayerName":"ice","CurLayer":1,"Frozen":true,"Used":true},)"
+                       R"({"LayerName":"a*[1]","CurLayer":1,"VPortFrozen":true}])";
+
+QString treeText(const QString& layers)
+{
+    return QStringLiteral(R"({"LayerStateMgr":{"LayerList":%1}})").arg(layers);
+}
+
+/// Each layer as on or off, with the star and the mark of the current one: "+0! +WALL -wall-2".
+QString summary(const VnJsonPtr& layerTree)
+{
+    QStringList layers;
+    for (const QJsonValue layer : toJsonObject(layerTree).value("LayerList").toArray()) {
+        const QJsonObject record = layer.toObject();
+        layers.append(QString(record["Off"].toBool() ? "-" : "+") +
+                      (record["bAlwaysShow"].toBool() ? "*" : "") + record["LayerName"].toString() +
+                      (record["CurLayer"] == 0 ? "!" : ""));
+    }
+    return layers.join(' ');
+}
+
+} // namespace
+
+/// The walk with a command that notes what it is asked.
+class Walk
+{
+public:
+    explicit Walk(ModuleFixture& module, const QString& json = treeText(kLayers))
+        : root(tree(json)),
+          wrapper(module.createDialog("Dialog/CmdLaywalk", root,
+              RecordingInvoker::create(host, {"marker"},
+                  [this](const VnJsonPtr& asked) {
+                      note(asked);
+                      if (answer)
+                          answer(asked);
+                  }))),
+          dialog(wrapper->widget()),
+          list(child<QListWidget>("layerList")),
+          filters(child<QComboBox>("filterCombo"))
+    {
+        host.setLogsTrees(false);
+    }
+
+    template <class T>
+    T* child(const char* name) const
+    {
+        return ModuleFixture::child<T>(dialog, name);
+    }
+    /// Code, arguments and layers.
+    void note(const VnJsonPtr& asked)
+    {
+        QString line = QString::number(asked->GetDataI("marker"));
+        const QJsonObject all = toJsonObject(asked);
+        for (const char* key : {"oldlaywalkLName", "laywalkselLName"})
+            line += all.contains(key) ? " " + all[key].toString() : QString();
+        for (const QJsonValue name : all["laywalkselLNameS"].toArray())
+            line += " [" + name.toString() + "]";
+        const VnJsonPtr parameter = asked->GetDataJ("parameter");
+        requests.append(line + ": " + summary(parameter));
+        QVERIFY(asked->GetDataI("marker") != 4 || parameter->GetDataB("Modified"));
+    }
+    void trigger(const QString& action) { dialog->findChild<QAction*>(action)->trigger(); }
+    void click(int row, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        list->scrollToItem(list->item(row));
+        const QPoint place = list->visualItemRect(list->item(row)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, place);
+    }
+    void doubleClick(int row) const
+    {
+        click(row);
+        const QPoint place = list->visualItemRect(list->item(row)).center();
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, place);
+    }
+    void filter(const QString& pattern) const
+    {
+        filters->lineEdit()->setText(pattern);
+        QTest::keyClick(filters, Qt::Key_Return);
+    }
+    /// The rows as they stand, those selected in brackets.
+    QString rows() const
+    {
+        QStringList texts;
+        for (int row = 0; row < list->count(); ++row) {
+            const QListWidgetItem* item = list->item(row);
+            texts.append(item->isSelected() ? "[" + item->text() + "]" : item->text());
+        }
+        return texts.join('|');
+    }
+    bool mayPurge() const { return child<QPushButton>("purgeButton")->isEnabled(); }
+
+    RecordingHost host;
+    RecordingInvoker::Answer answer;
+    QStringList requests;
+    VnJsonPtr root;
+    VnUiModeDialogBasePtr wrapper;
+    QWidget* dialog;
+    QListWidget* list;
+    QComboBox* filters;
+};
+
+using Act = void (*)(Walk&);
+Q_DECLARE_METATYPE(Act)
+
+class TestLaywalk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_settings = std::make_unique<QTemporaryDir>();
+        host::setSettingsFolder(m_settings->path());
+    }
+    void cleanup() { host::setSettingsFolder({}); }
+
+    void opens()
+    {
+        Walk walk(m_module);
+        QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: 6"));
+        QCOMPARE(walk.rows(), QStringLiteral("[  0]|[  WALL]|  wall-2|[* door]|  ice|  a*[1]"));
+        QVERIFY(!walk.mayPurge() && !walk.child<QCheckBox>("filterBox")->isEnabled());
+        QCOMPARE(walk.child<QToolButton>("pickButton")->toolTip(),
+            QStringLiteral("选择对象\n选择对象及其图层。"));
+        QVERIFY(walk.requests.isEmpty());
+        QVERIFY(!walk.root->HasKey("marker"));
+    }
+
+    void acts_data()
+    {
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QStringList>("requests");
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("mayPurge");
+        const QString all = QStringLiteral("图层漫游 - 图层数: 6");
+        const auto filtered = [](int shown) {
+            return QStringLiteral("图层漫游 - 图层: 第 %1 层，共 6 层").arg(shown);
+        };
+        const auto row = [](const char* name, Act act, const QStringList& requests,
+                             const char* rows, const QString& title, bool mayPurge = true) {
+            QTest::newRow(name) << act << requests << QString::fromUtf8(rows) << title << mayPurge;
+        };
+        row(
+            "click leaves the star on", [](Walk& walk) { walk.click(2); },
+            {"4 0: -0 -WALL +wall-2 +*door -ice -a*[1]"},
+            "  0|  WALL|[  wall-2]|* door|  ice|  a*[1]", all);
+        row(
+            "back to the current layer",
+            [](Walk& walk) {
+                walk.click(1);
+                walk.click(0, Qt::ControlModifier);
+            },
+            {"4 0: -0 +WALL -wall-2 +*door -ice -a*[1]",
+                "4 0: +0! +WALL -wall-2 +*door -ice -a*[1]"},
+            "[  0]|[  WALL]|  wall-2|* door|  ice|  a*[1]", all);
+        row(
+            "keys walk too",
+            [](Walk& walk) {
+                walk.click(0);
+                QTest::keyClick(walk.list, Qt::Key_Down);
+            },
+            {"4 0: +0! -WALL -wall-2 +*door -ice -a*[1]",
+                "4 0: -0 +WALL -wall-2 +*door -ice -a*[1]"},
+            "  0|[  WALL]|  wall-2|* door|  ice|  a*[1]", all);
+        row(
+            "click below the rows only disables",
+            [](Walk& walk) {
+                QTest::mouseClick(walk.list->viewport(), Qt::LeftButton, {},
+                    QPoint(5, walk.list->viewport()->height() - 3));
+            },
+            {}, "  0|  WALL|  wall-2|* door|  ice|  a*[1]", all, false);
+        row(
+            "right button selects nothing",
+            [](Walk& walk) {
+                QTest::mouseClick(walk.list->viewport(), Qt::RightButton, {},
+                    walk.list->visualItemRect(walk.list->item(2)).center());
+            },
+            {}, "[  0]|[  WALL]|  wall-2|[* door]|  ice|  a*[1]", all, false);
+        row(
+            "double click stars and again releases",
+            [](Walk& walk) {
+                walk.doubleClick(1);
+                walk.doubleClick(1);
+            },
+            {"4 0: -0 +WALL -wall-2 +*door -ice -a*[1]", "4: -0 +*WALL -wall-2 +*door -ice -a*[1]",
+                "4 0: -0 +*WALL -wall-2 +*door -ice -a*[1]",
+                "4: -0 +WALL -wall-2 +*door -ice -a*[1]"},
+            "  0|[  WALL]|  wall-2|* door|  ice|  a*[1]", all);
+        row(
+            "release all turns off what is not selected",
+            [](Walk& walk) {
+                walk.click(1);
+                walk.trigger("releaseAllAction");
+            },
+            {"4 0: -0 +WALL -wall-2 +*door -ice -a*[1]", "4: -0 +WALL -wall-2 -door -ice -a*[1]"},
+            "  0|[  WALL]|  wall-2|  door|  ice|  a*[1]", all);
+        row(
+            "select all", [](Walk& walk) { walk.trigger("selectAllAction"); },
+            {"4: +0! +WALL +wall-2 +*door +ice +a*[1]"},
+            "[  0]|[  WALL]|[  wall-2]|[* door]|[  ice]|[  a*[1]]", all);
+        row(
+            "clear all leaves the star on", [](Walk& walk) { walk.trigger("clearAllAction"); },
+            {"4: -0! -WALL -wall-2 +*door -ice -a*[1]"}, "  0|  WALL|  wall-2|* door|  ice|  a*[1]",
+            all, false);
+        row(
+            "reverse", [](Walk& walk) { walk.trigger("reverseAction"); },
+            {"4: -0! -WALL +wall-2 +*door +ice +a*[1]"},
+            "  0|  WALL|[  wall-2]|* door|[  ice]|[  a*[1]]", all);
+        row(
+            "unreferenced are selected, not shown",
+            [](Walk& walk) { walk.trigger("selectUnusedAction"); }, {},
+            "  0|  WALL|[  wall-2]|* door|  ice|[  a*[1]]", all);
+        row(
+            "filter by ENTER, in any case", [](Walk& walk) { walk.filter("WALL*"); },
+            {"4: -0! +WALL +wall-2 +*door -ice -a*[1]"}, "[  WALL]|[  wall-2]", filtered(2));
+        row(
+            "filter that nothing passes", [](Walk& walk) { walk.filter("x"); },
+            {"4: -0! -WALL -wall-2 +*door -ice -a*[1]"}, "", filtered(0), false);
+        row(
+            "filter off by its box",
+            [](Walk& walk) {
+                walk.filter("WALL*");
+                walk.child<QCheckBox>("filterBox")->click();
+            },
+            {"4: -0! +WALL +wall-2 +*door -ice -a*[1]", "4: -0! +WALL +wall-2 +*door -ice -a*[1]"},
+            "  0|[  WALL]|[  wall-2]|[* door]|  ice|  a*[1]", all);
+        row(
+            "emptied pattern is no filter",
+            [](Walk& walk) {
+                walk.filter("ice");
+                walk.filters->lineEdit()->clear();
+            },
+            {"4: -0! -WALL -wall-2 +*door +ice -a*[1]", "4: -0! -WALL -wall-2 +*door +ice -a*[1]"},
+            "  0|  WALL|  wall-2|[* door]|  ice|  a*[1]", all);
+        row(
+            "a name like a pattern, copied, is itself alone",
+            [](Walk& walk) {
+                walk.click(5);
+                walk.trigger("copyAsFilterAction");
+                QCOMPARE(walk.filters->currentText(), QStringLiteral("a`*`[1`]"));
+                QTest::keyClick(walk.filters, Qt::Key_Return);
+            },
+            {"4 0: -0 -WALL -wall-2 +*door -ice +a*[1]", "4: -0 -WALL -wall-2 +*door -ice +a*[1]"},
+            "[  a*[1]]", filtered(1));
+        row(
+            "deleting the filter turns off what it let through",
+            [](Walk& walk) {
+                walk.filter("W*");
+                walk.trigger("saveFilterAction");
+                walk.trigger("saveFilterAction");
+                QCOMPARE(walk.filters->count(), 1);
+                walk.trigger("deleteFilterAction");
+                QCOMPARE(walk.filters->count(), 0);
+                QCOMPARE(walk.filters->currentText(), QString());
+            },
+            {"4: -0! +WALL +wall-2 +*door -ice -a*[1]", "4: -0! -WALL -wall-2 +*door -ice -a*[1]"},
+            "  0|  WALL|  wall-2|[* door]|  ice|  a*[1]", all);
+    }
+
+    void acts()
+    {
+        QFETCH(Act, act);
+        QFETCH(bool, mayPurge);
+        Walk walk(m_module);
+        walk.dialog->show();
+        act(walk);
+        QTEST(walk.requests, "requests");
+        QTEST(walk.rows(), "rows");
+        QTEST(walk.dialog->windowTitle(), "title");
+        QCOMPARE(walk.mayPurge(), mayPurge);
+        // The caller's tree is not the one worked on.
+        QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")),
+            QStringLiteral("+0! +WALL -wall-2 +*door +ice +a*[1]"));
+    }
+
+    void purges_data()
+    {
+        QTest::addColumn<QList<int>>("rows");
+        QTest::addColumn<QString>("request");
+        QTest::newRow("only the other one") << QList<int>{0, 2} << "12 wall-2: ";
+        QTest::newRow("several") << QList<int>{1, 2, 0} << "12 [WALL] [wall-2]: ";
+        QTest::newRow("layer 0 alone") << QList<int>{0} << QString();
+        QTest::newRow("current layer alone") << QList<int>{4} << QString();
+    }
+
+    void purges()
+    {
+        QFETCH(QList<int>, rows);
+        QFETCH(QString, request);
+        QString layers = kLayers; // The current layer is "ice".
+        layers.replace("\"CurLayer\":0", "\"CurLayer\":1")
+            .replace("\"ice\",\"CurLayer\":1", "\"ice\",\"CurLayer\":0");
+        Walk walk(m_module, treeText(layers));
+        walk.answer = [](const VnJsonPtr& root) {
+            if (root->GetDataI("marker") == 12)
+                root->SetDataJ("LayerStateMgr",
+                    tree(R"({"LayerList":[{"LayerName":"left"},{"LayerName":"x","Off":true}]})"));
+        };
+        walk.dialog->show();
+        walk.list->clearSelection();
+        for (const int row : rows)
+            walk.click(row, Qt::ControlModifier);
+        walk.requests.clear();
+        walk.child<QPushButton>("purgeButton")->click();
+        if (request.isEmpty()) {
+            QVERIFY(walk.requests.isEmpty());
+            return;
+        }
+        // The current layer, hidden by the walk, is current again before.
+        QCOMPARE(walk.requests.size(), 2);
+        QVERIFY(walk.requests[0].startsWith("4: ") && walk.requests[0].contains("-ice!"));
+        QVERIFY2(walk.requests[1].startsWith(request), qPrintable(walk.requests[1]));
+        QCOMPARE(walk.rows(), QStringLiteral("[  left]|  x"));
+        QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: 2"));
+    }
+
+    void failedRequestLeavesTheList()
+    {
+        Walk walk(m_module);
+        walk.answer = [](const VnJsonPtr& root) {
+            root->SetDataJ("LayerStateMgr", tree("{}"));
+            throw std::runtime_error("no");
+        };
+        walk.list->item(2)->setSelected(true);
+        QMetaObject::invokeMethod(walk.dialog, "slot_ClearBtnClicked");
+        QCOMPARE(walk.list->count(), 6);
+        QCOMPARE(walk.host.log().filter("message|").size(), 1);
+    }
+
+    void menuEnables_data()
+    {
+        QTest::addColumn<QString>("layers");
+        QTest::addColumn<QList<int>>("selected");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("enabled"); // The mnemonics.
+        QTest::newRow("nothing at all") << "[]" << QList<int>{} << ""
+                                        << "";
+        QTest::newRow("rows, a star among them") << kLayers << QList<int>{} << ""
+                                                 << "ASCIUVN";
+        QTest::newRow("unstarred selected") << kLayers << QList<int>{1} << ""
+                                            << "HASCIUVNO";
+        QTest::newRow("star selected") << kLayers << QList<int>{1, 3} << ""
+                                       << "HRASCIUVNO";
+        QTest::newRow("no star") << R"([{"LayerName":"0"}])" << QList<int>{0} << ""
+                                 << "HSCIUVNO";
+        QTest::newRow("new pattern") << "[]" << QList<int>{} << "old*"
+                                     << "F";
+        QTest::newRow("saved pattern") << "[]" << QList<int>{} << "Old*"
+                                       << "D";
+    }
+
+    void menuEnables()
+    {
+        QFETCH(QString, layers);
+        QFETCH(QList<int>, selected);
+        QFETCH(QString, pattern);
+        Walk walk(m_module, treeText(layers));
+        walk.filters->addItem("Old*");
+        walk.filters->setEditText(pattern);
+        walk.list->clearSelection();
+        for (const int row : selected)
+            walk.list->item(row)->setSelected(true);
+        emit walk.list->customContextMenuRequested(QPoint(1, 1));
+        QString enabled;
+        for (const QAction* action : walk.dialog->findChild<QMenu*>()->actions())
+            enabled += action->isEnabled() ? action->text().section('&', 1).left(1) : QString();
+        QTEST(enabled, "enabled");
+    }
+
+    void verifies()
+    {
+        Walk walk(m_module);
+        walk.host.setLogsTrees(true);
+        walk.list->selectAll();
+        walk.answer = [](const VnJsonPtr& root) {
+            QVERIFY(root->GetDataJ("parameter")->GetDataJ("LayerList")(5)->GetDataB("IsSelected"));
+            QVERIFY(!root->GetDataI("SelectLayerEntitys")); // An old answer is gone.
+            root->SetDataI("LayerCount", 60);
+            root->SetDataI("SelectLayerEntitys", 7);
+        };
+        walk.root->SetDataI("SelectLayerEntitys", 99);
+        walk.host.answer(2);
+        walk.trigger("verifyAction");
+        QCOMPARE(walk.requests.size(), 1);
+        const QString opened = walk.host.log().last();
+        QVERIFY(opened.startsWith("dialog|Dialog/CmdLayer|Dialog/CmdLaywalk/Verify|"));
+        QCOMPARE(opened.section('|', 3),
+            QStringLiteral(R"({"LayerCount":60,"SelectLayerCount":6,"SelectLayerEntitys":7})"));
+
+        const auto report = m_module.createDialog(
+            "Dialog/CmdLaywalk/Verify", tree(R"({"LayerCount":60,"SelectLayerCount":1200})"));
+        QStringList shown;
+        for (const char* key : {"LayerCount", "SelectLayerCount", "SelectLayerEntitys"}) {
+            const auto* edit = ModuleFixture::child<QLineEdit>(report->widget(), key);
+            shown.append(edit->text());
+            QVERIFY(edit->isReadOnly());
+        }
+        QCOMPARE(shown, (QStringList{"60", "1200", "0"}));
+    }
+
+    void savesState_data()
+    {
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QStringList>("requests");
+        QTest::newRow("named") << 1 << QStringList{"1: +0! +WALL -wall-2 +*door +ice +a*[1]"};
+        QTest::newRow("cancelled") << 2 << QStringList();
+    }
+
+    void savesState()
+    {
+        QFETCH(int, result);
+        Walk walk(m_module);
+        walk.answer = [](const VnJsonPtr& root) {
+            QCOMPARE(toJsonObject(root->GetDataJ("parameter"))["LayerStateNewName"].toString(),
+                QStringLiteral("S"));
+        };
+        walk.host.answer(result, R"({"LayerStateNewName":"S"})");
+        walk.trigger("saveStateAction");
+        QTEST(walk.requests, "requests");
+        QCOMPARE(walk.host.log().first(),
+            QStringLiteral("dialog|Dialog/CmdLayer|Dialog/CmdLayerStateNew|"));
+    }
+
+    void closes_data()
+    {
+        QTest::addColumn<bool>("restores");
+        QTest::addColumn<int>("way"); // Button, frame, Esc.
+        for (int way = 0; way < 3; ++way) {
+            QTest::addRow("restores, way %d", way) << true << way;
+            QTest::addRow("asks, way %d", way) << false << way;
+        }
+    }
+
+    void closes()
+    {
+        QFETCH(bool, restores);
+        QFETCH(int, way);
+        Walk walk(m_module);
+        ModalDriver user;
+        user.then([&](QDialog& dialog) {
+            const auto close = [&] {
+                if (way == 0)
+                    walk.child<QPushButton>("closeButton")->click();
+                else if (way == 1)
+                    dialog.close();
+                else
+                    QTest::keyClick(&dialog, Qt::Key_Escape);
+            };
+            walk.filters->setEditText("A*");
+            walk.trigger("saveFilterAction");
+            walk.child<QCheckBox>("restoreBox")->setChecked(restores);
+            walk.click(1);
+            if (!restores) {
+                walk.host.answer(1);
+                close();
+                QVERIFY(dialog.isVisible());
+                walk.host.answer(0);
+            }
+            close();
+            QVERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(walk.wrapper->doModal(), 2);
+        const QStringList asked = walk.host.log().filter("messageEx");
+        QCOMPARE(asked.size(), restores ? 0 : 2);
+        QCOMPARE(walk.requests.size(), restores ? 2 : 1);
+        if (restores)
+            QCOMPARE(walk.requests[1], QStringLiteral("4: +0! +WALL -wall-2 +*door +ice +a*[1]"));
+        else
+            QVERIFY(asked.first().startsWith(
+                "messageEx|图层 - 图层状态更改|关闭对话框时某些图层状态可能会发生更改。希望执行什么"
+                "操\n作？\n您可以通过选择\"退出时恢复\"选项保留以前的图层状态设置。|6|"));
+        QCOMPARE(toText(vn_user_config(L"table_dialog")),
+            QStringLiteral(R"({"FilterComboBoxList":[{"Item":"A*"}],"RecoverBoxChecked":%1})")
+                .arg(restores ? 2 : 0));
+        Walk again(m_module);
+        QCOMPARE(again.child<QCheckBox>("restoreBox")->isChecked(), restores);
+        QCOMPARE(again.filters->itemText(0), QStringLiteral("A*"));
+        QCOMPARE(again.filters->currentIndex(), -1);
+        QCOMPARE(again.filters->currentText(), QString());
+    }
+
+    void picks_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("picked") << R"({"laywalkpickLNameS":["WALL-2","DOOR"]})"
+                                << "  0|  WALL|[  wall-2]|[* door]|  ice|  a*[1]";
+        QTest::newRow("cancelled, or not known")
+            << "{}"
+            << "[  0]|[  WALL]|  wall-2|[* door]|  ice|  a*[1]";
+    }
+
+    void picks()
+    {
+        QFETCH(QString, answer);
+        Walk walk(m_module);
+        walk.answer = [&](const VnJsonPtr& root) {
+            if (root->GetDataI("marker") != 13)
+                return;
+            QVERIFY(!walk.dialog->isVisible());
+            merge(root, answer);
+        };
+        ModalDriver user;
+        user.then([&](QDialog&) { walk.child<QToolButton>("pickButton")->click(); });
+        user.then([&](QDialog& shownAgain) {
+            QTEST(walk.rows(), "rows");
+            QCOMPARE(walk.requests.size(), answer == "{}" ? 1 : 2);
+            shownAgain.close();
+        });
+        QCOMPARE(walk.wrapper->doModal(), 2);
+    }
+
+    void badInput_data()
+    {
+        QTest::addColumn<QString>("json");
+        QTest::addColumn<int>("count");
+        QTest::newRow("no tree") << "{}" << 0;
+        QTest::newRow("tree of another kind") << R"({"LayerStateMgr":[1]})" << 0;
+        QTest::newRow("no list") << R"({"LayerStateMgr":{}})" << 0;
+        QTest::newRow("empty list") << treeText("[]") << 0;
+        QTest::newRow("records of other kinds") << treeText(R"([1,"x",null,{}])") << 4;
+        QTest::newRow("doubles") << treeText(R"([{"LayerName":"a"},{"LayerName":"a"}])") << 2;
+    }
+
+    void badInput()
+    {
+        QFETCH(QString, json);
+        QFETCH(int, count);
+        vn_user_config(L"table_dialog")->SetDataSW("FilterComboBoxList", L"none");
+        Walk walk(m_module, json);
+        QCOMPARE(walk.list->count(), count);
+        QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: %1").arg(count));
+        for (int dialogs = json.contains("Mgr\":{") ? 2 : 1; dialogs > 0; --dialogs)
+            walk.host.answer(2); // Without a tree no state can be saved.
+        for (QAction* action : walk.dialog->findChild<QMenu*>()->actions())
+            action->trigger();
+        for (const QString& pattern : {QString(10000, '*') + "a[" + QString(10000, '?'),
+                 QStringLiteral("[a"), QString("~*,").repeated(5000)})
+            walk.filter(pattern);
+        QVERIFY(walk.child<QPushButton>("closeButton")->isEnabled());
+    }
+
+    void doublesGoTogether()
+    {
+        Walk walk(m_module, treeText(R"([{"LayerName":"a"},{"LayerName":"b"},{"LayerName":"a"}])"));
+        walk.dialog->show();
+        walk.click(0);
+        QVERIFY(walk.requests.last().contains(": +a -b +a!"));
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_settings;
+    ModuleFixture m_module;
+};
+
+QTEST_MAIN(TestLaywalk)
+
+#include "tst_laywalk.moc"
