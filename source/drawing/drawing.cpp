@@ -187,6 +187,11 @@ QString Drawing::decoded(std::string_view value) const
     return d->data.codec.decode(value);
 }
 
+const TextCodec& Drawing::codec() const
+{
+    return d->data.codec;
+}
+
 Expected<void> Drawing::readyToEdit() const
 {
     if (d->stepIsOpen)
@@ -260,6 +265,32 @@ bool Drawing::isModelSpace() const
     return d->data.state.modelSpace;
 }
 
+const std::vector<Layout>& Drawing::layouts() const
+{
+    return d->data.layouts;
+}
+
+int Drawing::shownLayout() const
+{
+    return d->data.state.layout;
+}
+
+bool Drawing::isShown(const Entity& entity) const
+{
+    const bool isModel = entity.block < 0 && !entity.paperSpace;
+    return isModelSpace() ? isModel : holds(layouts()[static_cast<size_t>(shownLayout())], entity);
+}
+
+Expected<void> Drawing::checkViewport() const
+{
+    return ViewportLayers(d->data).check();
+}
+
+std::vector<LayerId> Drawing::frozenInViewport() const
+{
+    return ViewportLayers(d->data).frozen();
+}
+
 Expected<void> Drawing::putLayerStates(const std::vector<LayerState>& states)
 {
     return readyToEdit().and_then([&] { return LayerStates(d->data).put(states); });
@@ -283,6 +314,23 @@ Expected<void> Drawing::setModelSpace(bool modelSpace)
         d->data.state.modelSpace = modelSpace;
         SymbolTables(d->data).writeTileMode();
     });
+}
+
+Expected<void> Drawing::showLayout(int layout)
+{
+    return setModelSpace(false).map([&] { d->data.state.layout = layout; });
+}
+
+Expected<void> Drawing::setFrozenInViewport(const std::vector<LayerId>& layers)
+{
+    return readyToEdit().and_then([&] { return ViewportLayers(d->data).setFrozen(layers); });
+}
+
+Expected<std::vector<LayerId>> Drawing::overrideInViewport(
+    const std::vector<LayerInViewport>& layers, int properties)
+{
+    return readyToEdit().and_then(
+        [&] { return ViewportLayers(d->data).override(layers, properties); });
 }
 
 Expected<int> Drawing::moveEntities(const std::vector<int>& entities, LayerId target)

@@ -5,7 +5,10 @@
 #include "error.h"
 #include "layer.h"
 #include "layerstate.h"
+#include "layouts.h"
 #include "linetypedefinition.h"
+#include "textcodec.h"
+#include "viewportlayers.h"
 
 #include <QObject>
 #include <QStringList>
@@ -76,6 +79,18 @@ public:
     bool hasNamedPlotStyles() const;
     /// True while model space is shown, false for a layout.
     bool isModelSpace() const;
+    /// The layouts in the order of their tabs, at least one.
+    const std::vector<Layout>& layouts() const;
+    /// Index of the layout shown; in model space of the one shown last, at first the file's own.
+    int shownLayout() const;
+    /// Whether an entity belongs to the space shown. What is in block definitions does not, those
+    /// of layouts left out.
+    bool isShown(const Entity& entity) const;
+    /// Whether a layout is shown that has a viewport, whose current one can show layers otherwise.
+    /// It is the one last active, as the file says, else the first.
+    Expected<void> checkViewport() const;
+    /// The layers frozen in the current viewport, ascending; none in model space.
+    std::vector<LayerId> frozenInViewport() const;
 
     /// All entities: those of the block definitions and of the ENTITIES section, in file order.
     /// Deleted ones stay in their places, marked as removed.
@@ -86,6 +101,7 @@ public:
     TagReader tags(const Entity& entity) const;
     /// Text of a value in the file's code page, `\U+XXXX` escapes resolved.
     QString decoded(std::string_view value) const;
+    const TextCodec& codec() const; ///< Of the file's text.
 
     // Edits; each needs an open step. A refused edit changes nothing.
 
@@ -132,6 +148,14 @@ public:
     /// Refuses a name in use.
     Expected<void> renameLayerState(const QString& name, const QString& newName);
     Expected<void> setModelSpace(bool modelSpace);
+    /// Shows a layout, by its index. Which one it is is not kept in the file, that it is one is.
+    Expected<void> showLayout(int layout);
+    /// Freezes these layers, and no others, in the current viewport; refuses as `checkViewport`.
+    Expected<void> setFrozenInViewport(const std::vector<LayerId>& layers);
+    /// Gives layers properties (`LayerOverrides::kProperties`) for the current viewport alone.
+    /// Layers whose linetype the drawing lacks come back, with all but that done.
+    Expected<std::vector<LayerId>> overrideInViewport(
+        const std::vector<LayerInViewport>& layers, int properties);
     /// What edits since the last call had to leave out, a sentence each: the file's version may
     /// have no place for lineweights, true colours or the plot flag.
     QStringList takeNotices();

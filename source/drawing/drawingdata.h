@@ -6,6 +6,7 @@
 #include "layerrecord.h"
 #include "layerstatetable.h"
 #include "layertable.h"
+#include "layouts.h"
 #include "linetypedefinition.h"
 #include "textcodec.h"
 
@@ -28,8 +29,8 @@ struct DocumentState
     QSet<QString> newAppIds;                      ///< Added to the APPID table.
     QHash<QString, LinetypePointer> newLinetypes; ///< Added to the LTYPE table, by folded name.
     QHash<QString, quint64> newStyles;            ///< Added to the STYLE table, see `StyleIndex`.
-    quint32 objectsMade = 0;                      ///< Objects ever inserted.
     bool modelSpace = true;                       ///< What is shown: TILEMODE.
+    int layout = 0;                               ///< The one shown, or shown last.
     std::shared_ptr<const LayerStateTable> layerStates = {}; ///< Null: as the file was read.
 };
 
@@ -38,8 +39,8 @@ inline bool operator==(const DocumentState& a, const DocumentState& b)
     return a.current == b.current && a.handlesTaken == b.handlesTaken &&
            a.recordsMade == b.recordsMade && a.layerRecordsAdded == b.layerRecordsAdded &&
            a.newAppIds == b.newAppIds && a.newLinetypes == b.newLinetypes &&
-           a.newStyles == b.newStyles && a.objectsMade == b.objectsMade &&
-           a.modelSpace == b.modelSpace && a.layerStates == b.layerStates;
+           a.newStyles == b.newStyles && a.modelSpace == b.modelSpace && a.layout == b.layout &&
+           a.layerStates == b.layerStates;
 }
 
 /// An entity that changed its layer, lost its own colour, or went.
@@ -109,6 +110,7 @@ struct DrawingData
     quint64 freeHandle = 0; ///< The first one to give out; 0 until it is needed.
     /// Where layers are named outside the entities' own group: BLOCK, ENDBLK and XDATA.
     std::vector<LayerNamePlace> namePlaces;
+    std::vector<Layout> layouts;                         ///< One at least.
     std::shared_ptr<const LayerStateTable> loadedStates; ///< Null until they are asked for.
     QString statesPath;  ///< Where a format without objects keeps layer states.
     QString statesFault; ///< Why these could not be read.

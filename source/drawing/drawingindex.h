@@ -32,7 +32,7 @@ enum class HeaderVariable {
 };
 
 /// In the order in which missing ones are made: layers name linetypes.
-enum class TableKind { Linetype, Layer, Style, AppId, Other, Count };
+enum class TableKind { Linetype, Layer, Style, AppId, BlockRecord, Other, Count };
 
 /// A table of the TABLES section.
 struct TablePlace
@@ -44,7 +44,7 @@ struct TablePlace
     bool isNull() const { return head.isNull(); }
 };
 
-enum class ObjectKind : quint8 { Other, Dictionary, XRecord, LayerList };
+enum class ObjectKind : quint8 { Other, Dictionary, XRecord, LayerList, Layout };
 
 /// An object of the OBJECTS section. `LayerList` objects name layers in their 8 groups.
 struct ObjectPlace

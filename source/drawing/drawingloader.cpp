@@ -89,6 +89,7 @@ public:
     void loadNamedLayers();
     void resolveEntities();
     void nameBlocks();
+    void loadLayouts();
 
 private:
     std::string_view variable(HeaderVariable which) const
@@ -241,6 +242,16 @@ void Loader::nameBlocks()
     }
 }
 
+/// A layout is shown, if one is, by its active flag.
+void Loader::loadLayouts()
+{
+    m_data.layouts = readLayouts(m_data);
+    const auto active = std::find_if(m_data.layouts.begin(), m_data.layouts.end(),
+        [](const Layout& layout) { return layout.isActive; });
+    if (active != m_data.layouts.end())
+        m_data.state.layout = static_cast<int>(active - m_data.layouts.begin());
+}
+
 } // namespace
 
 Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress* progress)
@@ -267,6 +278,7 @@ Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress*
     loader.loadNamedLayers();
     loader.resolveEntities();
     loader.nameBlocks();
+    loader.loadLayouts();
     data.journal = EditJournal(data.bytes);
     return {};
 }

@@ -42,7 +42,7 @@ constexpr std::string_view kVariables[] = {
     "$ACADVER", "$DWGCODEPAGE", "$CLAYER", "$HANDSEED", "$PSTYLEMODE", "$TILEMODE"};
 static_assert(std::size(kVariables) == static_cast<size_t>(HeaderVariable::Count));
 
-constexpr std::string_view kTables[] = {"LTYPE", "LAYER", "STYLE", "APPID"};
+constexpr std::string_view kTables[] = {"LTYPE", "LAYER", "STYLE", "APPID", "BLOCK_RECORD"};
 static_assert(std::size(kTables) == static_cast<size_t>(TableKind::Other));
 
 constexpr std::pair<std::string_view, ObjectKind> kObjects[] = {
@@ -51,6 +51,7 @@ constexpr std::pair<std::string_view, ObjectKind> kObjects[] = {
     {"XRECORD", ObjectKind::XRecord},
     {"LAYER_FILTER", ObjectKind::LayerList},
     {"LAYER_INDEX", ObjectKind::LayerList},
+    {"LAYOUT", ObjectKind::Layout},
 };
 
 } // namespace

@@ -216,11 +216,16 @@ void PointerRemoval::drop(size_t at)
     settleFlags(code);
 }
 
-/// A group without contents goes as a whole.
+/// A group without contents goes as a whole, and so does what a layer looks like in a viewport.
 void PointerRemoval::dropFromGroup(size_t at)
 {
+    constexpr int kViewport = 335;
     erase(at);
     const int head = m_groupHead[at];
+    for (size_t i = at + 1; m_tags[at].code == kViewport && i < m_tags.size() &&
+                            m_groupHead[i] == head && m_tags[i].code != 102;
+         ++i)
+        erase(i);
     size_t end = static_cast<size_t>(head) + 1;
     while (end < m_tags.size() && m_groupHead[end] == head && m_tags[end].code != 102) {
         if (!isErased(m_tags[end]))

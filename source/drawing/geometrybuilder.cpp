@@ -58,9 +58,7 @@ Expected<Geometry> GeometryBuilder::build()
         if (i % 256 == 0 && !goOn(i, entities.size()))
             return tl::unexpected(
                 Error{QCoreApplication::translate("Geometry", "已取消。"), 0, true});
-        // Outside the blocks stand model space and the layout that is shown.
-        if (entity.block >= 0 || entity.paperSpace == m_drawing.isModelSpace() ||
-            entity.subEntity || entity.removed)
+        if (entity.subEntity || entity.removed || !m_drawing.isShown(entity))
             continue;
         definition.clear();
         m_reader.read(i, false, definition);

@@ -67,6 +67,36 @@ quint64 extensionDictionary(TagReader tags)
     return 0;
 }
 
+quint64 ownHandle(TagReader tags)
+{
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == 5)
+            return tag.toHandle();
+    }
+    return 0;
+}
+
+QHash<quint64, QString> linetypeNames(const DrawingData& data)
+{
+    QHash<quint64, QString> names;
+    for (const ByteRange& record : data.index.table(TableKind::Linetype).records) {
+        TagReader tags = data.tags(record);
+        quint64 handle = 0;
+        QString name;
+        Tag tag;
+        while (tags.next(tag) && name.isNull()) {
+            if (tag.code == 5)
+                handle = tag.toHandle();
+            else if (tag.code == 2)
+                name = data.codec.decode(tag.trimmed());
+        }
+        if (handle != 0)
+            names.insert(handle, name);
+    }
+    return names;
+}
+
 quint64 firstFreeHandle(const DrawingData& data)
 {
     constexpr quint64 kHighest = quint64(1) << 62;

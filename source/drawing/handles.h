@@ -24,6 +24,12 @@ std::vector<const ObjectPlace*> dictionaryObjects(DrawingData& data, const Objec
 /// Handle of the extension dictionary of a record, object or table head; 0 when it has none.
 quint64 extensionDictionary(TagReader tags);
 
+/// Handle of a record, object or entity itself; 0 when it has none.
+quint64 ownHandle(TagReader tags);
+
+/// The linetypes by their handles.
+QHash<quint64, QString> linetypeNames(const DrawingData& data);
+
 /// The lowest handle that is surely free in the file as read, by what it uses and by its seed.
 quint64 firstFreeHandle(const DrawingData& data);
 

@@ -1,7 +1,9 @@
 #include "layerobjects.h"
 
+#include "dxfnames.h"
 #include "handles.h"
 #include "layerstates.h"
+#include "objectedits.h"
 #include "tagtext.h"
 
 #include <unordered_set>
@@ -219,22 +221,21 @@ void updateLayerObjects(DrawingData& data, const LayerRenames& renames)
 
 void removeOwnedObjects(DrawingData& data, quint64 handle)
 {
+    ObjectEdits objects(data);
     std::unordered_set<quint64> seen;
     std::vector<quint64> open = {handle};
     while (!open.empty()) {
         const quint64 next = open.back();
         open.pop_back();
-        const ObjectPlace* object = next != 0 ? data.objectByHandle(next) : nullptr;
-        if (!object || !seen.insert(next).second)
+        const TagList tags(next != 0 ? objects.bytes(next) : QByteArray());
+        if (tags.size() == 0 || !seen.insert(next).second)
             continue;
-        const bool isDictionary = object->kind == ObjectKind::Dictionary;
-        TagReader tags = data.tags({object->begin, object->end});
-        Tag tag;
-        while (tags.next(tag)) {
-            if (tag.code == 360 || (tag.code == 350 && isDictionary))
-                open.push_back(tag.toHandle());
+        const bool isDictionary = objectKind(tags.trimmed(0)) == ObjectKind::Dictionary;
+        for (int at = 0; at < tags.size(); ++at) {
+            if (tags.code(at) == 360 || (tags.code(at) == 350 && isDictionary))
+                open.push_back(tags.handle(at));
         }
-        data.journal.replace(object->begin, object->end, {});
+        objects.erase(next);
     }
 }
 

@@ -104,7 +104,8 @@ void LayerRecordReader::readXdata(const Tag& tag, LayerRecord& record)
 LayerRecordLimits LayerRecordLimits::of(std::string_view version)
 {
     const bool since2000 = version >= "AC1015";
-    return {version >= "AC1012", since2000, since2000, version >= "AC1018"};
+    const bool since2004 = version >= "AC1018";
+    return {version >= "AC1012", since2000, since2000, since2004, since2004};
 }
 
 } // namespace drawing

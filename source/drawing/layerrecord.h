@@ -47,10 +47,11 @@ constexpr qint64 kLayerFromReference = 16;
 /// What a format version can store in a LAYER record.
 struct LayerRecordLimits
 {
-    bool markers = true;    ///< Handle, owner and subclass markers.
-    bool plotFlag = true;   ///< 290.
-    bool lineweight = true; ///< 370.
-    bool trueColor = true;  ///< 420.
+    bool markers = true;      ///< Handle, owner and subclass markers.
+    bool plotFlag = true;     ///< 290.
+    bool lineweight = true;   ///< 370.
+    bool trueColor = true;    ///< 420.
+    bool softPointers = true; ///< Viewports list frozen layers in 331 groups, before in 341.
 
     static LayerRecordLimits of(std::string_view version);
 };

@@ -1,6 +1,7 @@
 #include "layerstate.h"
 
 #include "drawing.h"
+#include "layeroverrides.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -46,6 +47,25 @@ QString tr(const char* text)
     return QCoreApplication::translate("drawing", text);
 }
 
+/// Whether a viewport's visibility is part of restoring the state: one saved in model space says
+/// nothing of it.
+bool concernsViewport(const LayerState& state, int mask, const Drawing& drawing)
+{
+    return (mask & kStateCurrentViewport) != 0 && state.fromLayout && !drawing.isModelSpace();
+}
+
+bool contains(const std::vector<LayerId>& sorted, LayerId layer)
+{
+    return std::binary_search(sorted.begin(), sorted.end(), layer);
+}
+
+/// The first name, and how many there are when there are more.
+QString firstOf(const QStringList& names)
+{
+    return names.size() > 1 ? tr("“%1”等 %2 个图层").arg(names.first()).arg(names.size())
+                            : tr("“%1”").arg(names.first());
+}
+
 QString nameOf(const Drawing& drawing, LayerId id)
 {
     const Layer* layer = drawing.layer(id);
@@ -81,6 +101,9 @@ public:
 
 private:
     void makeCurrent();
+    void overrideLayers();
+    void noteUnheldStyles(const std::vector<LayerInViewport>& layers);
+    void restoreVisibility();
     void restoreLayer(const Layer& layer, const LayerProperties& saved);
     void turnOthersOff(const QSet<QString>& restored);
     void apply(LayerId id, const LayerProperties& after);
@@ -94,10 +117,8 @@ private:
 QStringList Restoring::run()
 {
     makeCurrent();
-    if (m_how.viewportOverrides) {
-        m_how.mask &= ~kOverridable;
-        m_notices += tr("颜色、线型、线宽、打印样式和透明度还不能作为视口替代应用，没有恢复。");
-    }
+    if (m_how.viewportOverrides && !m_drawing.isModelSpace())
+        overrideLayers();
     QSet<QString> restored;
     QStringList missing;
     for (const LayerStateLayer& saved : m_state.layers) {
@@ -109,10 +130,9 @@ QStringList Restoring::run()
             missing += saved.properties.name;
     }
     if (!missing.isEmpty())
-        m_notices +=
-            tr("图形中没有图层“%1”%2，没有恢复。")
-                .arg(missing.first(),
-                    missing.size() > 1 ? tr("等 %1 个图层").arg(missing.size()) : QString());
+        m_notices += tr("图形中没有图层%1，没有恢复。").arg(firstOf(missing));
+    if (concernsViewport(m_state, m_how.mask, m_drawing))
+        restoreVisibility();
     if (m_how.turnOthersOff)
         turnOthersOff(restored);
     return m_notices;
@@ -123,6 +143,69 @@ void Restoring::makeCurrent()
     const Layer* current = m_drawing.findLayer(m_state.currentLayer);
     if (current && !current->dependsOnReference)
         m_drawing.setCurrentLayer(current->id);
+}
+
+/// The layers themselves keep what is overridden, also where that cannot be done.
+void Restoring::overrideLayers()
+{
+    const int wanted = m_how.mask & kOverridable;
+    m_how.mask &= ~kOverridable;
+    if (const auto possible = m_drawing.checkViewport(); !possible) {
+        m_notices += tr("%1：颜色、线型、线宽、打印样式和透明度不能作为视口替代应用，没有恢复。")
+                         .arg(possible.error().text);
+        return;
+    }
+    std::vector<LayerInViewport> layers;
+    for (const LayerStateLayer& saved : m_state.layers) {
+        if (const Layer* layer = m_drawing.findLayer(saved.properties.name))
+            layers.push_back({layer->id, respelled(saved.properties, layer->properties)});
+    }
+    if (wanted & kStatePlotStyle)
+        noteUnheldStyles(layers);
+    const auto incomplete =
+        m_drawing.overrideInViewport(layers, wanted & LayerOverrides::kProperties);
+    QStringList names;
+    for (const LayerId id : incomplete.value_or(std::vector<LayerId>()))
+        names += nameOf(m_drawing, id);
+    if (!names.isEmpty())
+        m_notices += tr("图形中没有图层%1的线型，没有恢复。").arg(firstOf(names));
+}
+
+/// Plot styles have no place among the overrides.
+void Restoring::noteUnheldStyles(const std::vector<LayerInViewport>& layers)
+{
+    QStringList names;
+    for (const LayerInViewport& layer : layers) {
+        const LayerProperties& now = m_drawing.layer(layer.layer)->properties;
+        if (m_drawing.hasNamedPlotStyles() && layer.shown.plotStyle != now.plotStyle)
+            names += now.name;
+    }
+    if (!names.isEmpty())
+        m_notices += tr("图层%1的打印样式不能作为视口替代保存，没有恢复。").arg(firstOf(names));
+}
+
+/// Layers that the state does not hold stay as they are in the viewport.
+void Restoring::restoreVisibility()
+{
+    const std::vector<LayerId> now = m_drawing.frozenInViewport();
+    std::vector<LayerId> frozen;
+    QSet<int> held;
+    for (const LayerStateLayer& saved : m_state.layers) {
+        const Layer* layer = m_drawing.findLayer(saved.properties.name);
+        if (!layer)
+            continue;
+        held.insert(static_cast<int>(layer->id));
+        if (saved.frozenInCurrentViewport)
+            frozen.push_back(layer->id);
+    }
+    for (const LayerId layer : now) {
+        if (!held.contains(static_cast<int>(layer)))
+            frozen.push_back(layer);
+    }
+    if (frozen.empty() && now.empty())
+        return;
+    if (const auto done = m_drawing.setFrozenInViewport(frozen); !done)
+        m_notices += tr("%1：图层在当前视口中的可见性没有恢复。").arg(done.error().text);
 }
 
 void Restoring::restoreLayer(const Layer& layer, const LayerProperties& saved)
@@ -182,8 +265,9 @@ LayerState captureLayerState(const Drawing& drawing, const QString& name)
     state.currentLayer = nameOf(drawing, drawing.currentLayer());
     state.fromLayout = !drawing.isModelSpace();
     state.layers.reserve(drawing.layers().size());
+    const std::vector<LayerId> hidden = drawing.frozenInViewport();
     for (const Layer& layer : drawing.layers()) {
-        LayerStateLayer saved{layer.properties, false};
+        LayerStateLayer saved{layer.properties, contains(hidden, layer.id)};
         saved.properties.description.clear();
         state.layers.push_back(std::move(saved));
     }
@@ -202,9 +286,14 @@ LayerProperties maskedProperties(const LayerProperties& now, const LayerProperti
 
 bool isSameAsDrawing(const LayerState& state, const Drawing& drawing)
 {
+    const bool withViewport = concernsViewport(state, state.mask, drawing);
+    const std::vector<LayerId> hidden =
+        withViewport ? drawing.frozenInViewport() : std::vector<LayerId>();
     return std::all_of(state.layers.begin(), state.layers.end(), [&](const LayerStateLayer& saved) {
         const Layer* layer = drawing.findLayer(saved.properties.name);
         if (!layer)
+            return false;
+        if (withViewport && contains(hidden, layer->id) != saved.frozenInCurrentViewport)
             return false;
         const LayerProperties& now = layer->properties;
         return maskedProperties(now, respelled(saved.properties, now), state.mask) == now;

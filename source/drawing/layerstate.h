@@ -52,7 +52,8 @@ struct LayerState
 
 bool operator==(const LayerState& a, const LayerState& b);
 
-/// The layers of the drawing as they are now.
+/// The layers of the drawing as they are now; in a layout also which of them its current viewport
+/// hides.
 LayerState captureLayerState(const Drawing& drawing, const QString& name);
 
 /// `now` with the properties of `saved` that the mask names.
@@ -60,7 +61,8 @@ LayerProperties maskedProperties(
     const LayerProperties& now, const LayerProperties& saved, int mask);
 
 /// Whether restoring the state, over its own mask, would change nothing. Layers the state does not
-/// hold do not count; one the drawing lacks does.
+/// hold do not count; one the drawing lacks does. What a viewport hides counts in layouts, for
+/// states saved in one.
 bool isSameAsDrawing(const LayerState& state, const Drawing& drawing);
 
 /// How a state is restored.
@@ -68,7 +70,8 @@ struct LayerStateRestore
 {
     int mask = kStateEverything;
     bool turnOthersOff = false; ///< Layers that the state does not hold.
-    /// Colours, linetypes and the like are wanted for the viewport alone: the layers keep theirs.
+    /// In a layout: colours, linetypes and the like are wanted for its current viewport alone, the
+    /// layers keep theirs.
     bool viewportOverrides = false;
 };
 

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
-#include <QTextCodec>
 
 #include <algorithm>
 
@@ -31,16 +30,17 @@ QString shown(const QString& path)
     return QDir::toNativeSeparators(path);
 }
 
-bool isUtf8(std::string_view bytes)
+/// What the bytes are most likely in. A double-byte code page that has all of them is hardly so by
+/// chance; the single-byte ones have nearly any.
+TextCodec codecOf(std::string_view bytes, const TextCodec& own)
 {
-    constexpr int kPiece = 1 << 20;
-    QTextCodec* const codec = QTextCodec::codecForName("UTF-8");
-    QTextCodec::ConverterState state;
-    for (size_t at = 0; at < bytes.size() && state.invalidChars == 0; at += kPiece) {
-        const std::string_view piece = bytes.substr(at, kPiece);
-        codec->toUnicode(piece.data(), static_cast<int>(piece.size()), &state);
-    }
-    return state.invalidChars == 0;
+    const TextCodec utf8("AC1021", {});
+    const TextCodec gbk("AC1018", "ANSI_936");
+    if (utf8.canDecode(bytes))
+        return utf8;
+    if (own.isDoubleByte() && own.canDecode(bytes))
+        return own;
+    return gbk.canDecode(bytes) || own.name() == utf8.name() ? gbk : own;
 }
 
 std::string_view withoutMark(std::string_view bytes)
@@ -67,6 +67,7 @@ public:
 
 private:
     void close(LayerStateReader& reader);
+    void noteUnused(const LayerStateUnused& unused);
 
     std::string_view m_bytes;
     const TextCodec& m_codec;
@@ -98,6 +99,7 @@ qint64 FileReader::run()
     }
     const int whole = static_cast<int>(m_file.states.size());
     close(reader);
+    noteUnused(reader.unused());
     if (tags.broken()) {
         const bool hasLast = static_cast<int>(m_file.states.size()) > whole;
         m_file.notices += hasLast ? tr("文件不完整：在图层状态“%1”中中断，其后的内容没有读入。")
@@ -105,6 +107,24 @@ qint64 FileReader::run()
                                   : tr("文件不完整：末尾的内容没有读入。");
     }
     return -1;
+}
+
+void FileReader::noteUnused(const LayerStateUnused& unused)
+{
+    constexpr size_t kMost = 8;
+    QStringList codes;
+    for (auto at = unused.codes.begin(); at != unused.codes.end() && codes.size() < int(kMost);
+         ++at)
+        codes += QString::number(*at);
+    if (!codes.isEmpty())
+        m_file.notices +=
+            tr("不认识的组码 %1%2，已跳过。")
+                .arg(codes.join(tr("、")), unused.codes.size() > kMost ? tr("等") : QString());
+    if (unused.maskBits != 0)
+        m_file.notices += tr("恢复掩码中不认识的位 %1，已忽略。").arg(unused.maskBits);
+    if (unused.values > 0)
+        m_file.notices +=
+            tr("%1 个颜色或线宽的值不存在，图层的该项用默认值代替。").arg(unused.values);
 }
 
 void FileReader::close(LayerStateReader& reader)
@@ -150,15 +170,18 @@ Expected<LayerStateFile> readLayerStateFile(const QString& path, const TextCodec
     if (!startsAsStates(all))
         return refusal(tr("第 1 行不是图层状态文件的开头"), 1);
     const std::string_view bytes = withoutMark(all);
-    const TextCodec utf8("AC1021", {});
-    const bool isPlain = isUtf8(bytes);
-    FileReader reader(bytes, isPlain ? utf8 : fallback);
+    const TextCodec codec = codecOf(bytes, fallback);
+    FileReader reader(bytes, codec);
     const qint64 fault = reader.run();
     if (fault >= 0) {
         const qint64 line = 1 + std::count(bytes.begin(), bytes.begin() + fault, '\n');
         return refusal(tr("第 %1 行的组码不是数字").arg(line), line);
     }
-    return std::move(reader.file());
+    LayerStateFile read = std::move(reader.file());
+    if (codec.name() != TextCodec("AC1021", {}).name())
+        read.notices.prepend(
+            tr("文件“%1”的文字不是 UTF-8 编码，已按 %2 读取。").arg(shown(path), codec.name()));
+    return read;
 }
 
 Expected<void> writeLayerStateFile(const QString& path, const std::vector<LayerState>& states)

@@ -18,8 +18,9 @@ struct LayerStateFile
 bool isLayerStateFile(const QString& path);
 
 /// Reads a file of layer states (*.las). Text that is no UTF-8 is taken to be in the code page of
-/// `fallback`. A file that is cut off gives what is whole in it, with a notice; what is no such
-/// file is refused. A file that is not there gives no states.
+/// `fallback`, or in GBK where that fits better; a notice says in which. What cannot be used
+/// (groups, bits and values nobody knows, what follows a cut) is left out with a notice; what is no
+/// such file is refused. A file that is not there gives no states.
 Expected<LayerStateFile> readLayerStateFile(const QString& path, const TextCodec& fallback);
 
 /// Replaces the file only when all is written.

@@ -22,22 +22,6 @@ QString tr(const char* text)
     return QCoreApplication::translate("drawing", text);
 }
 
-/// The record with other data between its own head and the data of applications.
-QByteArray withData(const QByteArray& record, const QByteArray& data)
-{
-    TagList head(record);
-    TagList tail(record);
-    const int marker = head.find(100, 0, head.size());
-    int begin = marker == TagList::kNone ? head.size() : marker + 1;
-    if (begin < head.size() && head.code(begin) == 280)
-        ++begin;
-    int end = tail.find(1001, begin, tail.size());
-    end = end == TagList::kNone ? tail.size() : end;
-    head.remove(begin, head.size());
-    tail.remove(0, end);
-    return head.bytes() + data + tail.bytes();
-}
-
 bool isReference(int code)
 {
     return code == 350 || code == 360;
@@ -85,23 +69,16 @@ LayerStateTable LayerStates::load() const
     if (!states)
         return table;
     table.dictionary = states->handle;
-    table.place = {states->begin};
-    table.end = states->end;
     for (const DictionaryEntry& entry : dictionaryEntries(m_data, states)) {
         if (entry.object && entry.object->kind == ObjectKind::XRecord)
-            table.entries.push_back({m_data.codec.decode(entry.key), {entry.object->begin},
-                entry.object->end, entry.object->handle, {}});
+            table.entries.push_back({m_data.codec.decode(entry.key), entry.object->handle, {}});
     }
     return table;
 }
 
 QByteArray LayerStates::bytes(const LayerStateEntry& entry) const
 {
-    if (entry.handle == 0)
-        return entry.aside;
-    return entry.place.order == EditPlace::kReplacement
-               ? m_data.journal.current(entry.place.begin, entry.end)
-               : m_data.journal.inserted(entry.place.begin, entry.place.order);
+    return entry.handle == 0 ? entry.aside : ObjectEdits(m_data).bytes(entry.handle);
 }
 
 LayerStateNames LayerStates::namesByHandle() const
@@ -114,20 +91,7 @@ LayerStateNames LayerStates::namesByHandle() const
         if (entry.present && entry.handle != 0)
             names.layers.insert(entry.handle, entry.layer.properties.name);
     }
-    for (const ByteRange& record : m_data.index.table(TableKind::Linetype).records) {
-        TagReader tags = m_data.tags(record);
-        quint64 handle = 0;
-        QString name;
-        Tag tag;
-        while (tags.next(tag) && name.isNull()) {
-            if (tag.code == 5)
-                handle = tag.toHandle();
-            else if (tag.code == 2)
-                name = m_data.codec.decode(tag.trimmed());
-        }
-        if (handle != 0)
-            names.linetypes.insert(handle, name);
-    }
+    names.linetypes = linetypeNames(m_data);
     return names;
 }
 
@@ -188,37 +152,23 @@ std::optional<LayerState> LayerStates::find(const QString& name) const
     return {};
 }
 
-TagStyle LayerStates::style() const
-{
-    return ObjectEdits(m_data).style();
-}
-
 /// Makes the dictionary of states and all that leads to it.
 void LayerStates::makeDictionary(LayerStateTable& table)
 {
-    SymbolTables tables(m_data);
     ObjectEdits objects(m_data);
-    const TagStyle style = this->style();
-    const TablePlace& layers = m_data.index.table(TableKind::Layer);
-    const quint64 known = extensionDictionary(m_data.tags(layers.head));
-    const ObjectPlace* extension = m_data.objectByHandle(known);
-    const quint64 extensionHandle = extension ? known : tables.takeHandle();
-    table.dictionary = tables.takeHandle();
-    if (extension) {
-        objects.addEntry(*extension, kStatesKey, table.dictionary);
-    } else {
-        linkExtension(extensionHandle);
-        objects.insert(newDictionary(style, extensionHandle, tables.tableHandle(TableKind::Layer),
-            style.tag(3, kStatesKey) + style.handle(360, table.dictionary)));
+    quint64 extension = extensionDictionary(m_data.tags(m_data.index.table(TableKind::Layer).head));
+    if (!m_data.objectByHandle(extension)) {
+        extension = objects.addDictionary(SymbolTables(m_data).tableHandle(TableKind::Layer));
+        linkExtension(extension);
     }
-    table.place = objects.insert(newDictionary(style, table.dictionary, extensionHandle, {}));
-    table.end = table.place.begin;
+    table.dictionary = objects.addDictionary(extension);
+    objects.addEntry(extension, kStatesKey, table.dictionary);
 }
 
 /// Writes the handle of a new extension dictionary into the head of the layer table.
 void LayerStates::linkExtension(quint64 handle)
 {
-    const TagStyle style = this->style();
+    const TagStyle style = ObjectEdits(m_data).style();
     TagReader tags = m_data.tags(m_data.index.table(TableKind::Layer).head);
     qint64 behind = -1;
     bool inGroup = false;
@@ -243,27 +193,8 @@ void LayerStates::store(LayerStateEntry& entry, const QByteArray& record)
 {
     if (entry.handle == 0)
         entry.aside = record;
-    else if (entry.place.order == EditPlace::kReplacement)
-        m_data.journal.replace(entry.place.begin, entry.end, record);
     else
-        m_data.journal.insert(entry.place.begin, entry.place.order, record);
-}
-
-void LayerStates::erase(const LayerStateEntry& entry)
-{
-    if (entry.handle == 0)
-        return;
-    if (entry.place.order == EditPlace::kReplacement)
-        m_data.journal.replace(entry.place.begin, entry.end, {});
-    else
-        m_data.journal.removeInsertion(entry.place.begin, entry.place.order);
-}
-
-QByteArray LayerStates::dictionaryBytes(const LayerStateTable& table) const
-{
-    return table.place.order == EditPlace::kReplacement
-               ? m_data.journal.current(table.place.begin, table.end)
-               : m_data.journal.inserted(table.place.begin, table.place.order);
+        ObjectEdits(m_data).store(entry.handle, record);
 }
 
 /// Entries of other objects than states stay where they are.
@@ -271,7 +202,8 @@ void LayerStates::writeDictionary(const LayerStateTable& table, const std::vecto
 {
     if (!liveInDrawing())
         return;
-    TagList tags(dictionaryBytes(table));
+    ObjectEdits objects(m_data);
+    TagList tags(objects.bytes(table.dictionary));
     std::unordered_set<quint64> ours(gone.begin(), gone.end());
     for (const LayerStateEntry& entry : table.entries)
         ours.insert(entry.handle);
@@ -287,14 +219,11 @@ void LayerStates::writeDictionary(const LayerStateTable& table, const std::vecto
     }
     tags.keepOnly(kept);
     QByteArray bytes = tags.bytes();
-    const TagStyle style = this->style();
+    const TagStyle style = objects.style();
     for (const LayerStateEntry& entry : table.entries)
         bytes +=
             style.tag(3, m_data.codec.encode(entry.name)) + style.handle(reference, entry.handle);
-    if (table.place.order == EditPlace::kReplacement)
-        m_data.journal.replace(table.place.begin, table.end, bytes);
-    else
-        m_data.journal.insert(table.place.begin, table.place.order, bytes);
+    objects.store(table.dictionary, bytes);
 }
 
 Expected<void> LayerStates::readyToWrite() const
@@ -319,25 +248,23 @@ Expected<void> LayerStates::put(const std::vector<LayerState>& states)
     for (size_t i = 0; i < table.entries.size(); ++i)
         byName.insert(table.entries[i].name.toCaseFolded(), i);
     const LayerStateHandles handles = handlesByName();
-    const TagStyle style = this->style();
+    ObjectEdits objects(m_data);
+    const TagStyle style = objects.style();
     for (const LayerState& state : states) {
         const QByteArray data =
             layerStateTags(state, handles, kDrawingPlotStyleCode, style, m_data.codec);
         const auto known = byName.constFind(state.name.toCaseFolded());
         if (known != byName.constEnd()) {
             LayerStateEntry& entry = table.entries[*known];
-            store(entry, withData(bytes(entry), data));
+            store(entry, withRecordData(bytes(entry), data));
             continue;
         }
         LayerStateEntry entry;
         entry.name = state.name;
-        entry.handle = SymbolTables(m_data).takeHandle();
-        const QByteArray record = newRecordHead(style, entry.handle, table.dictionary) + data;
-        if (entry.handle != 0)
-            entry.place = ObjectEdits(m_data).insert(record);
+        if (liveInDrawing())
+            entry.handle = objects.addRecord(table.dictionary, data);
         else
-            entry.aside = record;
-        entry.end = entry.place.begin;
+            entry.aside = newRecordHead(style, 0, 0) + data;
         byName.insert(state.name.toCaseFolded(), table.entries.size());
         table.entries.push_back(entry);
     }
@@ -363,7 +290,8 @@ Expected<void> LayerStates::remove(const QStringList& names)
             continue;
         }
         gone.push_back(entry.handle);
-        erase(entry);
+        if (entry.handle != 0)
+            ObjectEdits(m_data).erase(entry.handle);
     }
     if (gone.empty())
         return tl::make_unexpected(

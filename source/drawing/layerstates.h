@@ -40,13 +40,10 @@ private:
     LayerStateHandles handlesByName() const;
 
     void store(LayerStateEntry& entry, const QByteArray& record);
-    void erase(const LayerStateEntry& entry);
     void makeDictionary(LayerStateTable& table);
     void linkExtension(quint64 handle);
     void writeDictionary(const LayerStateTable& table, const std::vector<quint64>& gone);
     Expected<void> readyToWrite() const;
-    QByteArray dictionaryBytes(const LayerStateTable& table) const;
-    TagStyle style() const;
 
     DrawingData& m_data;
 };

@@ -88,6 +88,7 @@ void LayerStateReader::takeHead(const Tag& tag)
         break;
     case kMask:
         m_state.mask = static_cast<int>(tag.toInteger() & kStateEverything);
+        m_unused.maskBits |= tag.toInteger() & ~qint64(kStateEverything);
         break;
     case kDescription:
         m_state.description = onSeveralLines(m_codec.decode(tag.value));
@@ -99,7 +100,7 @@ void LayerStateReader::takeHead(const Tag& tag)
         m_state.currentLayer = m_codec.decode(tag.trimmed());
         break;
     default:
-        break;
+        m_unused.codes.insert(tag.code);
     }
 }
 
@@ -120,6 +121,8 @@ void LayerStateReader::takeLayer(const Tag& tag)
     case kColorIndex:
         if (const qint64 index = std::abs(tag.toInteger()); index >= 1 && index <= kLastColorIndex)
             p.colorIndex = static_cast<int>(index);
+        else
+            ++m_unused.values;
         break;
     case kFlags:
         readFlags(tag.toInteger(), m_layer);
@@ -129,17 +132,21 @@ void LayerStateReader::takeLayer(const Tag& tag)
         const qint64 method = (tag.toInteger() >> 24) & 0xff;
         if (method == 0 || method == kByTrueColor)
             p.trueColor = static_cast<quint32>(tag.toInteger() & 0xffffff);
+        else
+            ++m_unused.values;
         break;
     }
     case kLineweight:
         if (isLineweight(static_cast<int>(tag.toInteger())))
             p.lineweight = static_cast<int>(tag.toInteger());
+        else
+            ++m_unused.values;
         break;
     case kTransparency:
         p.transparency = transparencyPercent(tag.toInteger());
         break;
     default:
-        break;
+        m_unused.codes.insert(tag.code);
     }
 }
 

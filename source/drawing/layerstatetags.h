@@ -6,6 +6,8 @@
 
 #include <QHash>
 
+#include <set>
+
 namespace drawing {
 
 /// What the handles in a state stand for.
@@ -22,6 +24,14 @@ struct LayerStateHandles
     QHash<QString, quint64> linetypes;
 };
 
+/// What of the tags of states said nothing that can be used.
+struct LayerStateUnused
+{
+    std::set<int> codes; ///< Groups nobody knows.
+    qint64 maskBits = 0;
+    int values = 0; ///< Colours and lineweights that do not exist.
+};
+
 /// Puts a state together from its tags. Codes it does not know are skipped.
 class LayerStateReader
 {
@@ -34,6 +44,8 @@ public:
     void dropOpenLayer();
     /// The state as read; the reader is then empty.
     LayerState finish();
+    /// Of all states since the beginning.
+    const LayerStateUnused& unused() const { return m_unused; }
 
 private:
     struct Decoded
@@ -52,6 +64,7 @@ private:
     const LayerStateNames& m_names;
     LayerState m_state;
     LayerStateLayer m_layer;
+    LayerStateUnused m_unused;
     bool m_isLayerOpen = false;
     Decoded m_linetype; // Runs of layers share these.
     Decoded m_plotStyle;

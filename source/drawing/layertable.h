@@ -18,6 +18,7 @@ struct LayerEntry
     qint64 end = -1; ///< Of the record's range; the insertion's place itself.
     quint64 handle = 0;
     quint64 plotStyle = 0; ///< Handle of its plot style name object.
+    quint64 extension = 0; ///< Handle of an extension dictionary made since the file was read.
     /// Of a layer that is gone: the layer it was merged into; None when it was deleted.
     LayerId heir = LayerId::None;
     bool hasRecord = false; ///< Layers that only entities name have none.

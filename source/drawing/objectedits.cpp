@@ -1,10 +1,13 @@
 #include "objectedits.h"
 
+#include "symboltables.h"
+
 namespace drawing {
 
 namespace {
 
 constexpr char kReactors[] = "{ACAD_REACTORS";
+constexpr char kExtension[] = "{ACAD_XDICTIONARY";
 // Orders of insertions where objects go: a section that has to be made, the objects, its end.
 constexpr quint32 kSectionHead = 0x72000000;
 constexpr quint32 kSectionTail = 0x7f000000;
@@ -14,7 +17,120 @@ QByteArray reactors(const TagStyle& style, quint64 owner)
     return style.tag(102, kReactors) + style.handle(330, owner) + style.tag(102, "}");
 }
 
+bool isReference(int code)
+{
+    return code == 350 || code == 360;
+}
+
+/// The tag of the key of a dictionary's entry.
+int findEntry(const TagList& tags, std::string_view key)
+{
+    for (int at = 0; at + 1 < tags.size(); ++at) {
+        if (tags.code(at) == 3 && tags.trimmed(at) == key && isReference(tags.code(at + 1)))
+            return at;
+    }
+    return TagList::kNone;
+}
+
 } // namespace
+
+TagStyle ObjectEdits::style() const
+{
+    return TagStyle::of(m_data.view(m_data.index.table(TableKind::Layer).head));
+}
+
+bool ObjectEdits::isNew(quint64 handle) const
+{
+    return m_data.freeHandle != 0 && handle >= m_data.freeHandle;
+}
+
+EditPlace ObjectEdits::placeOfNew(quint64 handle) const
+{
+    const DrawingIndex& index = m_data.index;
+    const auto number = static_cast<quint32>(handle - m_data.freeHandle);
+    return {index.objectsEnd >= 0 ? index.objectsEnd : index.eof, kSectionHead + 1 + number};
+}
+
+QByteArray ObjectEdits::bytes(quint64 handle) const
+{
+    if (const ObjectPlace* object = m_data.objectByHandle(handle))
+        return m_data.journal.current(object->begin, object->end);
+    const EditPlace place = placeOfNew(handle);
+    return isNew(handle) ? m_data.journal.inserted(place.begin, place.order) : QByteArray();
+}
+
+void ObjectEdits::makeSection(qint64 at)
+{
+    if (m_data.index.objectsEnd >= 0 || !m_data.journal.inserted(at, kSectionHead).isNull())
+        return;
+    const TagStyle style = this->style();
+    const quint64 root = SymbolTables(m_data).takeHandle();
+    m_data.journal.insert(at, kSectionHead,
+        style.tag(0, "SECTION") + style.tag(2, "OBJECTS") + newDictionary(style, root, 0, {}));
+    m_data.journal.insert(at, kSectionTail, style.tag(0, "ENDSEC"));
+}
+
+void ObjectEdits::store(quint64 handle, const QByteArray& bytes)
+{
+    if (const ObjectPlace* object = m_data.objectByHandle(handle)) {
+        m_data.journal.replace(object->begin, object->end, bytes);
+        return;
+    }
+    const EditPlace place = placeOfNew(handle);
+    makeSection(place.begin);
+    m_data.journal.insert(place.begin, place.order, bytes);
+}
+
+void ObjectEdits::erase(quint64 handle)
+{
+    const EditPlace place = placeOfNew(handle);
+    if (const ObjectPlace* object = m_data.objectByHandle(handle))
+        m_data.journal.replace(object->begin, object->end, {});
+    else if (isNew(handle))
+        m_data.journal.removeInsertion(place.begin, place.order);
+}
+
+quint64 ObjectEdits::addDictionary(quint64 owner)
+{
+    const quint64 handle = SymbolTables(m_data).takeHandle();
+    store(handle, newDictionary(style(), handle, owner, {}));
+    return handle;
+}
+
+quint64 ObjectEdits::addRecord(quint64 owner, const QByteArray& data)
+{
+    const quint64 handle = SymbolTables(m_data).takeHandle();
+    store(handle, newRecordHead(style(), handle, owner) + data);
+    return handle;
+}
+
+quint64 ObjectEdits::entry(quint64 dictionary, std::string_view key) const
+{
+    const TagList tags(bytes(dictionary));
+    const int at = findEntry(tags, key);
+    return at == TagList::kNone ? 0 : tags.handle(at + 1);
+}
+
+void ObjectEdits::addEntry(quint64 dictionary, const QByteArray& key, quint64 object)
+{
+    const TagStyle style = this->style();
+    TagList tags(bytes(dictionary));
+    const int xdata = tags.find(1001, 0, tags.size());
+    const int at = xdata == TagList::kNone ? tags.size() : xdata;
+    tags.insert(at, 360, style.handle(360, object));
+    tags.insert(at, 3, style.tag(3, key));
+    store(dictionary, tags.bytes());
+}
+
+void ObjectEdits::removeEntry(quint64 dictionary, std::string_view key)
+{
+    TagList tags(bytes(dictionary));
+    const int at = findEntry(tags, key);
+    if (at == TagList::kNone)
+        return;
+    tags.remove(at, at + 2);
+    store(dictionary, tags.bytes());
+}
 
 QByteArray newDictionary(
     const TagStyle& style, quint64 handle, quint64 owner, const QByteArray& entries)
@@ -32,37 +148,37 @@ QByteArray newRecordHead(const TagStyle& style, quint64 handle, quint64 owner)
     return head + style.tag(100, "AcDbXrecord") + style.number(280, 1);
 }
 
-TagStyle ObjectEdits::style() const
+QByteArray withRecordData(const QByteArray& record, const QByteArray& data)
 {
-    return TagStyle::of(m_data.view(m_data.index.table(TableKind::Layer).head));
+    TagList head(record);
+    TagList tail(record);
+    const int marker = head.find(100, 0, head.size());
+    int begin = marker == TagList::kNone ? head.size() : marker + 1;
+    if (begin < head.size() && head.code(begin) == 280)
+        ++begin;
+    int end = tail.find(1001, begin, tail.size());
+    end = end == TagList::kNone ? tail.size() : end;
+    head.remove(begin, head.size());
+    tail.remove(0, end);
+    return head.bytes() + data + tail.bytes();
 }
 
-EditPlace ObjectEdits::insert(const QByteArray& bytes)
+QByteArray withExtension(const QByteArray& record, quint64 dictionary)
 {
-    const DrawingIndex& index = m_data.index;
-    const bool hasSection = index.objectsEnd >= 0;
-    const qint64 at = hasSection ? index.objectsEnd : index.eof;
-    const TagStyle style = this->style();
-    if (!hasSection && m_data.state.objectsMade == 0) {
-        const quint64 root = SymbolTables(m_data).takeHandle();
-        m_data.journal.insert(at, kSectionHead,
-            style.tag(0, "SECTION") + style.tag(2, "OBJECTS") + newDictionary(style, root, 0, {}));
-        m_data.journal.insert(at, kSectionTail, style.tag(0, "ENDSEC"));
+    TagList tags(record);
+    const TagStyle style = tags.style();
+    for (int at = 0; at + 1 < tags.size(); ++at) {
+        if (tags.code(at) == 102 && tags.trimmed(at) == kExtension && tags.code(at + 1) == 360) {
+            tags.setValue(at + 1, QByteArray::number(dictionary, 16).toUpper());
+            return tags.bytes();
+        }
     }
-    const EditPlace place{at, kSectionHead + ++m_data.state.objectsMade};
-    m_data.journal.insert(place.begin, place.order, bytes);
-    return place;
-}
-
-void ObjectEdits::addEntry(const ObjectPlace& dictionary, const QByteArray& key, quint64 handle)
-{
-    const TagStyle style = this->style();
-    TagList tags(m_data.journal.current(dictionary.begin, dictionary.end));
-    const int xdata = tags.find(1001, 0, tags.size());
-    const int at = xdata == TagList::kNone ? tags.size() : xdata;
-    tags.insert(at, 360, style.handle(360, handle));
-    tags.insert(at, 3, style.tag(3, key));
-    m_data.journal.replace(dictionary.begin, dictionary.end, tags.bytes());
+    const int own = tags.find(5, 0, tags.size());
+    const int at = own == TagList::kNone ? 1 : own + 1;
+    tags.insert(at, 102, style.tag(102, "}"));
+    tags.insert(at, 360, style.handle(360, dictionary));
+    tags.insert(at, 102, style.tag(102, kExtension));
+    return tags.bytes();
 }
 
 } // namespace drawing

@@ -1,32 +1,51 @@
 #pragma once
 
-#include "symboltables.h"
+#include "drawingdata.h"
 #include "tagtext.h"
 
 namespace drawing {
 
-/// A dictionary that owns its entries; `owner` 0 makes it a root.
-QByteArray newDictionary(
-    const TagStyle& style, quint64 handle, quint64 owner, const QByteArray& entries);
-
-/// What an XRECORD begins with, up to its data; handle 0 for one that lives outside of drawings.
-QByteArray newRecordHead(const TagStyle& style, quint64 handle, quint64 owner);
-
-/// Adds objects to the OBJECTS section, which is made where it is missing.
+/// Adds, changes and removes objects of the OBJECTS section, the file's own and new ones alike, by
+/// their handles. A missing section is made.
 class ObjectEdits
 {
 public:
     explicit ObjectEdits(DrawingData& data) : m_data(data) {}
 
-    /// How objects are to look.
+    /// How new objects are to look.
     TagStyle style() const;
-    /// Puts an object behind all others; returns its place.
-    EditPlace insert(const QByteArray& bytes);
-    /// Lists an object in a dictionary that owns it.
-    void addEntry(const ObjectPlace& dictionary, const QByteArray& key, quint64 handle);
+    /// The object as edited so far; empty when there is none (any more).
+    QByteArray bytes(quint64 handle) const;
+    /// Puts the object in its place; a handle just taken gets a new one.
+    void store(quint64 handle, const QByteArray& bytes);
+    void erase(quint64 handle);
+
+    /// A dictionary that owns what it lists; stored with a new handle, which is returned.
+    quint64 addDictionary(quint64 owner);
+    /// An XRECORD with this data; stored with a new handle, which is returned.
+    quint64 addRecord(quint64 owner, const QByteArray& data);
+    /// Handle of what a dictionary lists under `key`; 0 when there is no such entry.
+    quint64 entry(quint64 dictionary, std::string_view key) const;
+    void addEntry(quint64 dictionary, const QByteArray& key, quint64 object);
+    void removeEntry(quint64 dictionary, std::string_view key);
 
 private:
+    /// Where a new object with this handle stands.
+    EditPlace placeOfNew(quint64 handle) const;
+    bool isNew(quint64 handle) const;
+    void makeSection(qint64 at);
+
     DrawingData& m_data;
 };
+
+/// A dictionary that owns its entries; `owner` 0 makes it a root.
+QByteArray newDictionary(
+    const TagStyle& style, quint64 handle, quint64 owner, const QByteArray& entries);
+/// The head of an XRECORD up to its data; `handle` 0 leaves out what belongs to handles.
+QByteArray newRecordHead(const TagStyle& style, quint64 handle, quint64 owner);
+/// The XRECORD with other data between its own head and the data of applications.
+QByteArray withRecordData(const QByteArray& record, const QByteArray& data);
+/// The table record with the handle of its extension dictionary.
+QByteArray withExtension(const QByteArray& record, quint64 dictionary);
 
 } // namespace drawing

@@ -1,9 +1,10 @@
 #include "references.h"
 
 #include "entityeditsbytes.h"
-#include "handles.h"
 #include "layerobjects.h"
+#include "layeroverrides.h"
 #include "symboltables.h"
+#include "viewportlayers.h"
 
 #include <algorithm>
 
@@ -39,7 +40,7 @@ private:
     DrawingData& m_data;
     std::vector<Fate> m_fates; // By layer id.
     LayerRenames m_renames;
-    std::vector<ByteRange> m_removedRecords;
+    std::vector<quint64> m_removedExtensions; // Dictionaries of layers that go.
 };
 
 /// Finds out what changed; false when no place can be touched by it.
@@ -71,8 +72,7 @@ bool ReferenceUpdate::collect()
                 key, m_data.layers.entry(fate(removal->id).layer).layer.properties.name);
         if (before.handle != 0)
             m_renames.removedHandles.insert(before.handle);
-        if (before.hasRecord && before.place.order == EditPlace::kReplacement)
-            m_removedRecords.push_back({before.place.begin, before.end});
+        m_removedExtensions.push_back(layerExtension(m_data, before));
     }
     return true;
 }
@@ -171,26 +171,15 @@ void ReferenceUpdate::updateCurrentLayer()
 /// From R13 on viewports list the layers frozen in them by handle.
 void ReferenceUpdate::updateViewports()
 {
-    if (m_renames.removedHandles.isEmpty())
-        return;
-    for (const Entity& entity : m_data.index.entities) {
-        if (entity.kind != EntityKind::Viewport)
-            continue;
-        TagReader tags = m_data.tags({entity.begin, entity.end});
-        Tag tag;
-        while (tags.next(tag)) {
-            if ((tag.code == 331 || tag.code == 341) &&
-                m_renames.removedHandles.contains(tag.toHandle()))
-                m_data.journal.replace(tag.begin, tag.end, {});
-        }
-    }
+    if (!m_renames.removedHandles.isEmpty())
+        ViewportLayers(m_data).forget(m_renames.removedHandles);
 }
 
 void ReferenceUpdate::updateObjects()
 {
     updateLayerObjects(m_data, m_renames);
-    for (const ByteRange& record : m_removedRecords)
-        removeOwnedObjects(m_data, extensionDictionary(m_data.tags(record)));
+    for (const quint64 dictionary : m_removedExtensions)
+        removeOwnedObjects(m_data, dictionary);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "handles.h"
 #include "objectedits.h"
+#include "symboltables.h"
 
 #include <QCoreApplication>
 
@@ -71,7 +72,7 @@ SavedMappingList SavedMappings::read() const
 void SavedMappings::writeRecord(quint64 handle, quint64 owner, const QByteArray& data)
 {
     ObjectEdits objects(m_data);
-    objects.insert(newRecordHead(objects.style(), handle, owner) + data);
+    objects.store(handle, newRecordHead(objects.style(), handle, owner) + data);
 }
 
 Expected<void> SavedMappings::write(const SavedMappingList& list)
@@ -106,12 +107,9 @@ Expected<void> SavedMappings::write(const SavedMappingList& list)
         writeRecord(record, handle, data);
     }
     const QByteArray bytes = newDictionary(style, handle, root->handle, entries);
-    if (old) {
-        m_data.journal.replace(old->begin, old->end, bytes);
-        return {};
-    }
-    objects.addEntry(*root, kDictionaryKey, handle);
-    objects.insert(bytes);
+    objects.store(handle, bytes);
+    if (!old)
+        objects.addEntry(root->handle, kDictionaryKey, handle);
     return {};
 }
 

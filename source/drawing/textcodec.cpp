@@ -157,4 +157,30 @@ bool TextCodec::encodePoint(const QString& text, int at, int units, QByteArray& 
     return true;
 }
 
+bool TextCodec::canDecode(std::string_view bytes) const
+{
+    constexpr size_t kPiece = 1 << 20;
+    const QTextCodec* const codec = m_codec ? m_codec : QTextCodec::codecForName("UTF-8");
+    QTextCodec::ConverterState state;
+    for (size_t at = 0; at < bytes.size(); at += kPiece) {
+        const std::string_view piece = bytes.substr(at, kPiece);
+        const QString text = codec->toUnicode(piece.data(), static_cast<int>(piece.size()), &state);
+        // Not every codec counts what it replaces.
+        if (state.invalidChars != 0 || (m_codec && text.contains(QChar::ReplacementCharacter)))
+            return false;
+    }
+    return true;
+}
+
+bool TextCodec::isDoubleByte() const
+{
+    constexpr ushort kFirstIdeograph = 0x4e00;
+    return m_codec && m_codec->canEncode(QChar(kFirstIdeograph));
+}
+
+QString TextCodec::name() const
+{
+    return m_codec ? QString::fromLatin1(m_codec->name()) : QStringLiteral("UTF-8");
+}
+
 } // namespace drawing

@@ -25,6 +25,12 @@ public:
     /// which would end the line, become blanks.
     QByteArray encode(const QString& text) const;
 
+    /// Whether all of these bytes mean something in the code page; a double-byte one tells, in most
+    /// of the others nearly every byte does.
+    bool canDecode(std::string_view bytes) const;
+    bool isDoubleByte() const; ///< Of the Chinese, Japanese and Korean ones.
+    QString name() const;      ///< As its readers know it: `UTF-8`, `GBK`, `windows-1252`.
+
 private:
     bool encodePoint(const QString& text, int at, int units, QByteArray& bytes) const;
 

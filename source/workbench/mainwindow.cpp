@@ -156,7 +156,7 @@ void MainWindow::connectParts()
     connect(m_recent, &RecentFiles::chosen, this, &MainWindow::openFile);
     connect(m_canvas, &Canvas::cursorMoved, m_status, &StatusFields::showCursor);
     connect(m_canvas, &Canvas::selectionChanged, m_status, &StatusFields::showSelection);
-    connect(m_status, &StatusFields::spaceClicked, this, &MainWindow::switchSpace);
+    connect(m_status, &StatusFields::spaceChosen, this, &MainWindow::showSpace);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::runCommand);
 
     connect(m_session, &DrawingSession::said, m_commandLine, &CommandLine::say);
@@ -202,29 +202,39 @@ void MainWindow::showDrawing(const std::shared_ptr<const drawing::Geometry>& geo
     connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
     m_canvas->clearSelection();
     m_canvas->setScene(geometry);
-    m_showsModelSpace = drawing()->isModelSpace();
+    m_shownSpace = shownSpace();
     showLayers();
     m_canvas->zoomToExtents();
     m_recent->add(drawing()->path());
     emit fileOpened();
 }
 
-void MainWindow::switchSpace()
+int MainWindow::shownSpace() const
+{
+    return drawing()->isModelSpace() ? StatusFields::kModelSpace : drawing()->shownLayout();
+}
+
+void MainWindow::showSpace(int layout)
 {
     if (!drawing() || isBusy())
         return;
-    const bool toModel = !drawing()->isModelSpace();
+    const bool toModel = layout == StatusFields::kModelSpace;
     drawing()->beginStep(toModel ? tr("切换到模型空间") : tr("切换到布局"));
-    drawing()->setModelSpace(toModel);
+    if (toModel)
+        drawing()->setModelSpace(true);
+    else
+        drawing()->showLayout(layout);
     drawing()->commitStep();
+    m_status->showLayers(drawing()); // Also where the space shown was chosen again.
     m_canvas->zoomToExtents();
 }
 
 void MainWindow::showLayers()
 {
     // Undo and redo switch as well.
-    if (m_showsModelSpace != drawing()->isModelSpace()) {
-        m_showsModelSpace = drawing()->isModelSpace();
+    if (m_shownSpace != shownSpace()) {
+        m_shownSpace = shownSpace();
+        m_canvas->clearSelection();
         rebuildGeometry();
         return;
     }

@@ -64,7 +64,8 @@ private:
     CommandContext commandContext();
     void runLayerCommand(const CommandRow& row);
     void showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry);
-    void switchSpace();
+    void showSpace(int layout);
+    int shownSpace() const;
     void showLayers();
     void rebuildGeometry();
     void updateState();
@@ -77,5 +78,5 @@ private:
     RecentFiles* m_recent = nullptr;
     StatusFields* m_status = nullptr;
     bool m_commandRunning = false;
-    bool m_showsModelSpace = true;
+    int m_shownSpace = 0; ///< Of the scene on the canvas, as the status bar counts them.
 };

@@ -1,6 +1,7 @@
 #include "statusfields.h"
 
 #include <QLabel>
+#include <QMenu>
 #include <QProgressBar>
 #include <QToolButton>
 
@@ -15,10 +16,7 @@ StatusFields::StatusFields(QWidget* parent) : QStatusBar(parent)
     m_cancel->setToolTip(tr("停止正在进行的操作"));
     addPermanentWidget(m_bar);
     addPermanentWidget(m_cancel);
-    m_space = new QToolButton(this);
-    m_space->setObjectName(QStringLiteral("spaceSwitch"));
-    m_space->setToolTip(tr("在模型空间和布局之间切换"));
-    m_space->setAutoRaise(true);
+    m_space = makeSpaceSwitch();
     addPermanentWidget(m_space);
     m_cursor = addField(QStringLiteral("cursorField"), QStringLiteral("-000000.000, -000000.000"));
     m_selected = addField(QStringLiteral("selectionField"), {});
@@ -27,7 +25,53 @@ StatusFields::StatusFields(QWidget* parent) : QStatusBar(parent)
     hideWork();
     showLayers(nullptr);
     connect(m_cancel, &QToolButton::clicked, this, &StatusFields::cancelClicked);
-    connect(m_space, &QToolButton::clicked, this, &StatusFields::spaceClicked);
+}
+
+/// A click goes from model space to the layout and back; the menu has all layouts.
+QToolButton* StatusFields::makeSpaceSwitch()
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("spaceSwitch"));
+    button->setToolTip(tr("在模型空间和布局之间切换"));
+    button->setAutoRaise(true);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+    m_spaces = new QMenu(button);
+    m_spaces->setObjectName(QStringLiteral("spaceMenu"));
+    button->setMenu(m_spaces);
+    connect(button, &QToolButton::clicked, this, [this] { emit spaceChosen(m_otherSpace); });
+    // Queued: what is shown then makes the menu anew.
+    connect(
+        m_spaces, &QMenu::triggered, this,
+        [this](QAction* action) { emit spaceChosen(action->data().toInt()); },
+        Qt::QueuedConnection);
+    return button;
+}
+
+void StatusFields::showSpaces(const drawing::Drawing* drawing)
+{
+    m_spaces->clear();
+    m_space->setEnabled(drawing != nullptr);
+    m_space->setText(tr("模型"));
+    if (!drawing)
+        return;
+    const int shown = drawing->isModelSpace() ? kModelSpace : drawing->shownLayout();
+    m_otherSpace = drawing->isModelSpace() ? drawing->shownLayout() : kModelSpace;
+    addSpace(tr("模型"), kModelSpace, shown);
+    int index = 0;
+    for (const drawing::Layout& layout : drawing->layouts())
+        addSpace(layout.name.isEmpty() ? tr("布局") : layout.name, index++, shown);
+}
+
+void StatusFields::addSpace(const QString& title, int space, int shown)
+{
+    constexpr int kWidestName = 160;
+    const QString label = QString(title).replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAction* const action = m_spaces->addAction(label);
+    action->setData(space);
+    action->setCheckable(true);
+    action->setChecked(space == shown);
+    if (space == shown)
+        m_space->setText(m_space->fontMetrics().elidedText(label, Qt::ElideMiddle, kWidestName));
 }
 
 QLabel* StatusFields::addField(const QString& name, const QString& widest)
@@ -50,8 +94,7 @@ void StatusFields::showLayers(const drawing::Drawing* drawing)
                                        current->properties.name, Qt::ElideMiddle, kWidestName)
                                  : QString();
     m_current->setText(current ? tr("当前图层: %1").arg(name) : QString());
-    m_space->setText(!drawing || drawing->isModelSpace() ? tr("模型") : tr("布局"));
-    m_space->setEnabled(drawing != nullptr);
+    showSpaces(drawing);
     m_count->setText(drawing ? tr("%1 个图层").arg(drawing->layers().size()) : QString());
 }
 

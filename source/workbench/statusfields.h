@@ -6,16 +6,19 @@
 #include <QStatusBar>
 
 class QLabel;
+class QMenu;
 class QProgressBar;
 class QToolButton;
 
-/// The status bar: the switch between model space and layout, current layer, number of layers, cursor position, and the progress of long work
-/// with its cancel button.
+/// The status bar: the switch between model space and the layouts, current layer, number of layers,
+/// cursor position, and the progress of long work with its cancel button.
 class StatusFields : public QStatusBar
 {
     Q_OBJECT
 
 public:
+    static constexpr int kModelSpace = -1;
+
     explicit StatusFields(QWidget* parent = nullptr);
 
     void showLayers(const drawing::Drawing* drawing); ///< Null: no drawing is open.
@@ -27,12 +30,17 @@ public:
 
 signals:
     void cancelClicked();
-    void spaceClicked(); ///< The other of model space and layout is wanted.
+    void spaceChosen(int layout); ///< Index of the layout wanted; `kModelSpace` for model space.
 
 private:
+    QToolButton* makeSpaceSwitch();
+    void showSpaces(const drawing::Drawing* drawing);
+    void addSpace(const QString& title, int space, int shown);
     QLabel* addField(const QString& name, const QString& widest);
 
     QToolButton* m_space = nullptr;
+    QMenu* m_spaces = nullptr;
+    int m_otherSpace = kModelSpace; ///< What a click on the switch goes to.
     QLabel* m_current = nullptr;
     QLabel* m_count = nullptr;
     QLabel* m_selected = nullptr;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "layer.h"
+
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -16,13 +19,33 @@ inline bool isInstalled()
 }
 
 /// Layers, entities and audit errors; "failure" when the file cannot be read.
-inline QJsonObject seen(const QString& path)
+inline QJsonObject seen(
+    const QString& path, const QString& script = QStringLiteral(READBACK_SCRIPT))
 {
     QProcess reader;
-    reader.start(QStringLiteral("/usr/bin/python3"), {QStringLiteral(READBACK_SCRIPT), path});
+    reader.start(QStringLiteral("/usr/bin/python3"), {script, path});
     if (!reader.waitForFinished(120000) || reader.exitCode() != 0)
         return {{QStringLiteral("failure"), QString::fromUtf8(reader.readAllStandardError())}};
     return QJsonDocument::fromJson(reader.readAllStandardOutput()).object();
+}
+
+/// A layer as `seen` gives it.
+inline QJsonObject facts(const drawing::LayerProperties& p)
+{
+    return {{"name", p.name}, {"off", p.off}, {"frozen", p.frozen}, {"locked", p.locked},
+        {"newViewportFrozen", p.frozenInNewViewports}, {"plotted", p.plotted},
+        {"color", p.colorIndex}, {"trueColor", p.trueColor ? int(*p.trueColor) : -1},
+        {"linetype", p.linetype}, {"lineweight", p.lineweight}, {"transparency", p.transparency},
+        {"description", p.description}};
+}
+
+/// The layers seen, by name.
+inline QHash<QString, QJsonObject> layers(const QJsonObject& seen)
+{
+    QHash<QString, QJsonObject> layers;
+    for (const QJsonValue& value : seen.value(QLatin1String("layers")).toArray())
+        layers.insert(value.toObject().value("name").toString(), value.toObject());
+    return layers;
 }
 
 /// The audit errors that `after` has more of than `before`.

@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Prints as JSON the layer states an independent reader finds in a drawing, and its audit errors."""
+"""Prints as JSON what an independent reader finds in a drawing of layer states and of the layers in
+viewports, and its audit errors."""
 
 import json
 import sys
@@ -27,9 +28,30 @@ def main():
                 "tags": [[tag.code, str(tag.value)] for tag in record.tags],
             }
         )
+    viewports = [v for sheet in doc.layouts for v in sheet.query("VIEWPORT")]
+    overrides = {}
+    for layer in doc.layers:
+        own = layer.get_vp_overrides()
+        for handle in (v.dxf.handle for v in viewports):
+            if own.has_overrides(handle):
+                overrides[layer.dxf.name] = {
+                    "viewport": handle,
+                    "color": own.get_color(handle),
+                    "rgb": own.get_rgb(handle),
+                    "linetype": own.get_linetype(handle),
+                    "lineweight": own.get_lineweight(handle),
+                    "transparency": round(own.get_transparency(handle) * 100),
+                }
     layers = {layer.dxf.handle: layer.dxf.name for layer in doc.layers}
     errors = Counter(str(e.code) for e in auditor.errors + auditor.fixes)
-    json.dump({"states": states, "layers": layers, "errors": errors}, sys.stdout)
+    found = {
+        "states": states,
+        "layers": layers,
+        "overrides": overrides,
+        "frozen": {v.dxf.handle: sorted(v.frozen_layers) for v in viewports},
+        "errors": errors,
+    }
+    json.dump(found, sys.stdout)
 
 
 main()

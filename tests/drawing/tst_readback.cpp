@@ -80,19 +80,11 @@ void TestReadback::changeAll(Drawing& drawing)
 
 void TestReadback::compare(const Drawing& drawing, const QJsonObject& read)
 {
-    QHash<QString, QJsonObject> layers;
-    for (const QJsonValue& value : read.value("layers").toArray())
-        layers.insert(value.toObject().value("name").toString(), value.toObject());
+    QHash<QString, QJsonObject> layers = readback::layers(read);
     const QJsonObject counts = read.value("entities").toObject();
     for (const Layer& layer : drawing.layers()) {
         const LayerProperties& p = layer.properties;
-        const QJsonObject expected = {{"name", p.name}, {"off", p.off}, {"frozen", p.frozen},
-            {"locked", p.locked}, {"newViewportFrozen", p.frozenInNewViewports},
-            {"plotted", p.plotted}, {"color", p.colorIndex},
-            {"trueColor", p.trueColor ? int(*p.trueColor) : -1}, {"linetype", p.linetype},
-            {"lineweight", p.lineweight}, {"transparency", p.transparency},
-            {"description", p.description}};
-        QCOMPARE(layers.value(p.name), expected);
+        QCOMPARE(layers.value(p.name), readback::facts(p));
         QCOMPARE(counts.value(p.name.toLower()).toInt(), layer.entityCount);
         layers.remove(p.name);
     }

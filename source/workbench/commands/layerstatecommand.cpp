@@ -7,7 +7,6 @@
 #include "layerstatefile.h"
 #include "posing.h"
 #include "sysvars.h"
-#include "textcodec.h"
 #include "vnmessages.h"
 #include "vnproduct.h"
 #include "vnstrings.h"
@@ -334,14 +333,23 @@ void LayerStateCommand::restore(const VnJsonPtr& node)
     drawing().commitStep();
     drawing().beginStep(tr("图层状态"));
     m_current = state->name;
+    if (how.viewportOverrides && drawing().checkViewport())
+        m_context->say(tr("图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于布局“%2”的"
+                          "当前视口；画布不显示视口替代。")
+                           .arg(state->name, shownLayoutName()));
     report(tr("图层状态“%1”已恢复，但以下内容除外：").arg(state->name));
     node->SetDataB("LayerStateOKClose", true);
+}
+
+QString LayerStateCommand::shownLayoutName()
+{
+    return drawing().layouts()[static_cast<size_t>(drawing().shownLayout())].name;
 }
 
 std::vector<LayerState> LayerStateCommand::statesOf(const QString& path)
 {
     if (QFileInfo::exists(path) && drawing::isLayerStateFile(path)) {
-        auto file = drawing::readLayerStateFile(path, drawing::TextCodec("AC1018", "ANSI_936"));
+        auto file = drawing::readLayerStateFile(path, drawing().codec());
         if (file) {
             m_problems += file->notices;
             return std::move(file->states);

@@ -44,6 +44,7 @@ private:
     bool done(const drawing::Expected<void>& outcome, const QString& stepName);
     void tellWhereStatesAre();
     void report(const QString& title);
+    QString shownLayoutName();
 
     CommandContext* m_context = nullptr;
     vnsi::VnJsonPtr m_manager; ///< Element 1 of "LayerStateMgr".
