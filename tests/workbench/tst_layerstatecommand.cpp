@@ -1,16 +1,22 @@
+#include "canvas.h"
+#include "commandline.h"
 #include "drawing.h"
+#include "geometry.h"
 #include "layerstatefile.h"
 #include "mainwindow.h"
 #include "modaldriver.h"
 #include "modulefixture.h"
 #include "recordinghost.h"
+#include "sheets.h"
 #include "vnmessages.h"
 
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTableWidget>
+#include <QToolButton>
 #include <QtTest>
 
 using namespace drawing;
@@ -30,8 +36,11 @@ private slots:
     void importsFromDrawing();
     void asksBeforeReplacing_data();
     void asksBeforeReplacing();
+    void importedInPart();
     void exportRefused();
     void oldDrawing();
+    void showsChosenLayout();
+    void overridesInLayout();
 
 private:
     using Steps = std::function<void(QDialog& manager)>;
@@ -238,6 +247,26 @@ void LayerStateCommandTest::importRefusals()
     QVERIFY(!drawing().canUndo());
 }
 
+/// What can be used is, and all the rest is in one message.
+void LayerStateCommandTest::importedInPart()
+{
+    const QString path =
+        write("0\nLAYERSTATEDICTIONARY\n0\nLAYERSTATE\n1\n\xcb\xb5\xc3\xf7\n91\n4095\n"
+              "8\nA-DOOR\n90\n9\n62\n0\n77\nx\n8\nNowhere\n90\n1\n8\nA-WALL\n90\n",
+            QStringLiteral("in.las"));
+    run([&](QDialog& manager) {
+        answerFile(path);
+        m_host->answer(vnsi::kVnAnswerNo);
+        press(manager, "importButton");
+        QCOMPARE(states(manager).item(0, 0)->text(), QStringLiteral("说明"));
+    });
+    QCOMPARE(messages().size(), 2); // The other one asks whether to restore.
+    for (const char* part : {"GBK", "组码 77", "位 2048", "1 个颜色", "中中断", "Nowhere"})
+        QVERIFY2(
+            messages().first().contains(QString::fromUtf8(part)), qPrintable(messages().first()));
+    QCOMPARE(drawing().layerStates().front().layers.size(), size_t(1));
+}
+
 /// The file's ending says nothing: what it holds counts. Layers this drawing lacks are named.
 void LayerStateCommandTest::importsFromDrawing()
 {
@@ -324,6 +353,62 @@ void LayerStateCommandTest::oldDrawing()
     const auto again = Drawing::open(m_path);
     QCOMPARE((*again)->layerStateNames(), QStringList(QStringLiteral("旧")));
     QFile::remove(drawing().layerStatesPath());
+}
+
+/// The switch and its menu: the canvas shows the sheet that was chosen, undo the one before.
+void LayerStateCommandTest::showsChosenLayout()
+{
+    QFile(m_folder.filePath(QStringLiteral("sheets.dxf"))).remove();
+    load(write(sheetsDrawing(), QStringLiteral("sheets.dxf")));
+    auto* button = m_window->findChild<QToolButton*>(QStringLiteral("spaceSwitch"));
+    const auto shows = [&](const QString& title, double length) {
+        const Geometry geometry = *buildGeometry(drawing());
+        const double right = m_window->canvas()->view().visibleBox().maxX;
+        return button->text() == title && geometry.groups.size() == 1 &&
+               geometry.groups.front().bounds.maxX == length && right > length &&
+               right < 2 * length;
+    };
+    QVERIFY(shows(QStringLiteral("模型"), 100));
+    button->click();
+    QVERIFY(shows(QStringLiteral("A1"), 200));
+    QStringList titles;
+    for (QAction* action : button->menu()->actions())
+        titles += action->text();
+    QCOMPARE(titles, QStringList({QStringLiteral("模型"), "A0", "A1"}));
+    button->menu()->actions().at(1)->trigger();
+    QCoreApplication::processEvents();
+    QVERIFY(shows(QStringLiteral("A0"), 300));
+    run([&](QDialog& manager) {
+        create(manager, QStringLiteral("S"));
+        QCOMPARE(states(manager).item(0, 1)->text(), QStringLiteral("布局"));
+    });
+    button->click();
+    QVERIFY(shows(QStringLiteral("模型"), 100));
+    drawing().undo();
+    QCOMPARE(button->text(), QStringLiteral("A0"));
+}
+
+/// The box W in a layout: the layers keep their own, and what the canvas does not show is said.
+void LayerStateCommandTest::overridesInLayout()
+{
+    m_window->findChild<QToolButton*>(QStringLiteral("spaceSwitch"))->click();
+    run([&](QDialog& manager) { create(manager, QStringLiteral("S")); });
+    LayerProperties changed = layer("A-DOOR");
+    changed.colorIndex = changed.colorIndex % 255 + 1;
+    drawing().beginStep(QStringLiteral("colour"));
+    QVERIFY(drawing().setLayerProperties(drawing().findLayer(changed.name)->id, changed));
+    drawing().commitStep();
+    run([&](QDialog& manager) {
+        ModuleFixture::child<QAbstractButton>(&manager, "overrideBox")->setChecked(true);
+        press(manager, "restoreButton");
+    });
+    QCOMPARE(layer("A-DOOR").colorIndex, changed.colorIndex);
+    QVERIFY(m_window->findChild<CommandLine*>()->echo().contains(QStringLiteral("画布不显示")));
+    const QString saved = m_folder.filePath(QStringLiteral("saved.dxf"));
+    QVERIFY(drawing().save(saved));
+    QFile file(saved);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll().count("{ADSK_LYR_COLOR_OVERRIDE"), 1);
 }
 
 QTEST_MAIN(LayerStateCommandTest)
