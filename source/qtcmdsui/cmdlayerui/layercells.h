@@ -49,6 +49,26 @@ struct LayerColumn
     LayerIcon whenFalse = LayerIcon::Count; ///< Of toggles.
 };
 
+/// The columns that tables of layers share.
+namespace layercolumn {
+inline constexpr LayerColumn kOff{
+    QT_TR_NOOP("开"), LayerCell::Toggle, layerkey::kOff, LayerIcon::Off, LayerIcon::On};
+inline constexpr LayerColumn kLock{
+    QT_TR_NOOP("锁定"), LayerCell::Toggle, layerkey::kLock, LayerIcon::Lock, LayerIcon::Unlock};
+inline constexpr LayerColumn kColor{QT_TR_NOOP("颜色"), LayerCell::Color};
+inline constexpr LayerColumn kLinetype{QT_TR_NOOP("线型"), LayerCell::Text, layerkey::kLinetype};
+inline constexpr LayerColumn kLineWidth{
+    QT_TR_NOOP("线宽"), LayerCell::LineWidth, layerkey::kLineWidth};
+inline constexpr LayerColumn kTransparency{
+    QT_TR_NOOP("透明度"), LayerCell::Number, layerkey::kTransparency};
+inline constexpr LayerColumn kPlotStyle{
+    QT_TR_NOOP("打印样式"), LayerCell::Text, layerkey::kPlotStyle};
+inline constexpr LayerColumn kPrint{
+    QT_TR_NOOP("打印"), LayerCell::Toggle, layerkey::kPrint, LayerIcon::Print, LayerIcon::NoPrint};
+inline constexpr LayerColumn kVPortFrozen{QT_TR_NOOP("新视口冻结"), LayerCell::Toggle,
+    layerkey::kVPortFrozen, LayerIcon::AllFrozen, LayerIcon::AllThaw};
+} // namespace layercolumn
+
 /// Remembers the size of each look: laying out the same few texts for thousands of cells is most of
 /// what sizing the columns costs.
 class LayerCellDelegate : public QStyledItemDelegate

@@ -1,5 +1,8 @@
 #include "statetexts.h"
 
+#include "namerule.h"
+#include "vnstrings.h"
+
 namespace vnsi::layerstates {
 
 OdString badCharactersText()
@@ -11,6 +14,16 @@ OdString badCharactersText()
 VnJsonPtr element(const VnJsonPtr& tree, Element element)
 {
     return tree ? tree->GetDataJ(kManager)(element) : VnJsonPtr();
+}
+
+QString text(const VnJsonPtr& node, const char* key)
+{
+    return node ? vnutOdStringToQString(node->GetDataSW(key)) : QString();
+}
+
+bool isFromReference(const VnJsonPtr& state)
+{
+    return isSameName(text(state, kSpace), vnutOdStringToQString(kReferenceSpace));
 }
 
 int ask(const OdString& caption, const OdString& text,

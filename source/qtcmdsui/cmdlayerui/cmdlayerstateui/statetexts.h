@@ -2,6 +2,8 @@
 
 #include "vnmessages.h"
 
+#include <QString>
+
 /// Texts and keys that the dialogs of layer states share.
 namespace vnsi::layerstates {
 
@@ -23,6 +25,13 @@ OdString badCharactersText();
 
 /// The node of a tree that holds the data of `element`; empty when there is none.
 VnJsonPtr element(const VnJsonPtr& tree, Element element);
+
+/// The text under `key`; empty for an empty node.
+QString text(const VnJsonPtr& node, const char* key);
+/// What a state of an external reference has as its space.
+inline constexpr wchar_t kReferenceSpace[] = L"外部参照";
+/// Whether a record of a state says so, whatever the letter case.
+bool isFromReference(const VnJsonPtr& state);
 
 /// Shows a message with buttons of its own; the number of the button from 0, `fallback` when none
 /// was pressed.

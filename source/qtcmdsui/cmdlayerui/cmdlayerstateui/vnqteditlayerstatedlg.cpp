@@ -35,18 +35,17 @@ enum Column {
 
 constexpr LayerColumn kColumns[] = {
     {QT_TR_NOOP("名称"), LayerCell::MarkedName, layerkey::kName},
-    {QT_TR_NOOP("开"), LayerCell::Toggle, layerkey::kOff, LayerIcon::Off, LayerIcon::On},
+    layercolumn::kOff,
     {QT_TR_NOOP("在所有视口中冻结"), LayerCell::Toggle, layerkey::kFrozen, LayerIcon::Frozen,
         LayerIcon::Thaw},
-    {QT_TR_NOOP("锁定"), LayerCell::Toggle, layerkey::kLock, LayerIcon::Lock, LayerIcon::Unlock},
-    {QT_TR_NOOP("颜色"), LayerCell::Color},
-    {QT_TR_NOOP("线型"), LayerCell::Text, layerkey::kLinetype},
-    {QT_TR_NOOP("线宽"), LayerCell::LineWidth, layerkey::kLineWidth},
-    {QT_TR_NOOP("透明度"), LayerCell::Number, layerkey::kTransparency},
-    {QT_TR_NOOP("打印样式"), LayerCell::Text, layerkey::kPlotStyle},
-    {QT_TR_NOOP("打印"), LayerCell::Toggle, layerkey::kPrint, LayerIcon::Print, LayerIcon::NoPrint},
-    {QT_TR_NOOP("新视口冻结"), LayerCell::Toggle, layerkey::kVPortFrozen, LayerIcon::AllFrozen,
-        LayerIcon::AllThaw},
+    layercolumn::kLock,
+    layercolumn::kColor,
+    layercolumn::kLinetype,
+    layercolumn::kLineWidth,
+    layercolumn::kTransparency,
+    layercolumn::kPlotStyle,
+    layercolumn::kPrint,
+    layercolumn::kVPortFrozen,
 };
 static_assert(std::size(kColumns) == kColumnCount);
 

@@ -18,8 +18,6 @@ namespace vnsi {
 
 namespace {
 
-constexpr wchar_t kFromReference[] = L"外部参照";
-
 enum Replace { kClosed = -1, kReplace = 0, kKeep = 1 };
 
 } // namespace
@@ -84,8 +82,8 @@ void VnQtNewLayerStateDlg::fill()
     const VnJsonPtr list = states();
     for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
         const VnJsonPtr state = list(i);
-        m_name->addItem(vnutOdStringToQString(state->GetDataSW(layerstates::kName)),
-            vnutOdStringToQString(state->GetDataSW(layerstates::kDescription)));
+        m_name->addItem(layerstates::text(state, layerstates::kName),
+            layerstates::text(state, layerstates::kDescription));
     }
     // None is picked, so that picking the first one is a change too.
     m_name->setCurrentIndex(-1);
@@ -126,7 +124,7 @@ bool VnQtNewLayerStateDlg::acceptReplacing(const QString& name)
     const VnJsonPtr list = states();
     for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
         const VnJsonPtr state = list(i);
-        if (!isSameName(name, vnutOdStringToQString(state->GetDataSW(layerstates::kName))))
+        if (!isSameName(name, layerstates::text(state, layerstates::kName)))
             continue;
         const QString text = tr("%1 已经存在。是否替换?").arg(name);
         const int answer = layerstates::ask(
@@ -135,10 +133,7 @@ bool VnQtNewLayerStateDlg::acceptReplacing(const QString& name)
             correctName();
             return false;
         }
-        const bool isFixed =
-            isSameName(vnutOdStringToQString(state->GetDataSW(layerstates::kSpace)),
-                vnutOdStringToQString(kFromReference));
-        if (answer == kReplace && isFixed) {
+        if (answer == kReplace && layerstates::isFromReference(state)) {
             vnuiMessageBox(L"无法保存图层状态。", kProductName, kVnOk);
             return false;
         }

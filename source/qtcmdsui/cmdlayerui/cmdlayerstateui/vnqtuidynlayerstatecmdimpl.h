@@ -52,6 +52,12 @@ private slots:
     void slot_checkboxstateChangedRef(int state);
 
 private:
+    enum Column { kNameColumn, kSpaceColumn, kSameColumn, kDescriptionColumn, kColumnCount };
+    enum Select { kSelectAll, kClearAll };
+    /// The bits of the mask that not every space allows.
+    enum MaskBit { kOnOffBit = 1, kFreezeBit = 2, kViewportBit = 512 };
+    static constexpr int kLeastWidth = 645;
+
     struct SettingRow;
     static const SettingRow kSettings[];
 

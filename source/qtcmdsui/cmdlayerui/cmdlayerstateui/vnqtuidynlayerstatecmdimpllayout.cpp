@@ -1,0 +1,223 @@
+#include "vnqtuidynlayerstatecmdimpl.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+
+/// How the window looks, and what its widgets are connected to.
+namespace vnsi {
+
+namespace {
+
+constexpr const char* kHeaders[] = {
+    QT_TR_NOOP("名称"), QT_TR_NOOP("空间"), QT_TR_NOOP("与 DWG 相同"), QT_TR_NOOP("说明")};
+
+struct MaskRow
+{
+    const char* text;
+    int bit;
+};
+
+// The order on screen is not the bits' order, and two share the letter P; both are meant.
+constexpr MaskRow kMask[] = {
+    {QT_TR_NOOP("开/关(&O)"), 1},
+    {QT_TR_NOOP("冻结/解冻(&F)"), 2},
+    {QT_TR_NOOP("在当前视口中的可见性(&U)"), 512},
+    {QT_TR_NOOP("锁定/解锁(&K)"), 4},
+    {QT_TR_NOOP("打印/不打印(&P)"), 8},
+    {QT_TR_NOOP("颜色(&L)"), 32},
+    {QT_TR_NOOP("线型(&P)"), 64},
+    {QT_TR_NOOP("线宽(&G)"), 128},
+    {QT_TR_NOOP("透明度(&T)"), 1024},
+    {QT_TR_NOOP("打印样式(&V)"), 256},
+    {QT_TR_NOOP("新视口冻结/解冻(&Z)"), 16},
+};
+
+} // namespace
+
+bool VnQtUiDynLayerStateCmdImpl::initDialog()
+{
+    auto* layout = new QGridLayout(this);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(makeListPanel(), 0, 0);
+    layout->addWidget(makeMaskPanel(), 0, 1);
+    layout->addLayout(makeBottomRow(), 1, 0, 1, 2);
+    // The size constraint takes the place of the window's own minimum.
+    const QMargins margins = layout->contentsMargins();
+    layout->addItem(new QSpacerItem(kLeastWidth - margins.left() - margins.right(), 0), 2, 0, 1, 2);
+    m_maskPanel->hide();
+    return true;
+}
+
+QPushButton* VnQtUiDynLayerStateCmdImpl::makeButton(const char* text, const char* objectName)
+{
+    auto* button = new QPushButton(tr(text), this);
+    button->setObjectName(QLatin1String(objectName));
+    button->setAutoDefault(false);
+    return button;
+}
+
+QCheckBox* VnQtUiDynLayerStateCmdImpl::makeCheckBox(const char* text, const char* objectName)
+{
+    auto* box = new QCheckBox(tr(text), this);
+    box->setObjectName(QLatin1String(objectName));
+    return box;
+}
+
+QWidget* VnQtUiDynLayerStateCmdImpl::makeListPanel()
+{
+    auto* panel = new QWidget(this);
+    m_table = new QTableWidget(panel);
+    m_table->setObjectName(QStringLiteral("stateTable"));
+    m_table->setFixedWidth(360);
+    m_referenceBox = makeCheckBox(QT_TR_NOOP("不列出外部参照中的图层状态(&F)"), "referenceBox");
+    m_statusLabel = new QLabel(tr("当前图层状态: *未保存*"), panel);
+    m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
+    m_statusLabel->setTextFormat(Qt::PlainText);
+
+    auto* grid = new QGridLayout(panel);
+    grid->setMargin(0);
+    grid->setColumnStretch(2, 1);
+    grid->addWidget(new QLabel(tr("图层状态(E)"), panel), 0, 0);
+    grid->addWidget(m_table, 1, 0);
+    grid->addLayout(makeButtonColumn(), 1, 1);
+    grid->addWidget(m_referenceBox, 2, 0);
+    grid->addWidget(makeRestoreOptions(), 3, 0);
+    grid->addWidget(m_statusLabel, 4, 0);
+    return panel;
+}
+
+QBoxLayout* VnQtUiDynLayerStateCmdImpl::makeButtonColumn()
+{
+    m_newButton = makeButton(QT_TR_NOOP("新建(&N)..."), "newButton");
+    m_saveButton = makeButton(QT_TR_NOOP("保存(&V)"), "saveButton");
+    m_editButton = makeButton(QT_TR_NOOP("编辑(&I)..."), "editButton");
+    m_renameButton = makeButton(QT_TR_NOOP("重命名"), "renameButton");
+    m_deleteButton = makeButton(QT_TR_NOOP("删除(&D)"), "deleteButton");
+    m_importButton = makeButton(QT_TR_NOOP("输入(&M)..."), "importButton");
+    m_exportButton = makeButton(QT_TR_NOOP("输出(&X)..."), "exportButton");
+
+    auto* column = new QVBoxLayout;
+    for (QPushButton* button :
+        {m_newButton, m_saveButton, m_editButton, m_renameButton, m_deleteButton})
+        column->addWidget(button);
+    column->addStretch();
+    column->addWidget(m_importButton);
+    column->addWidget(m_exportButton);
+    return column;
+}
+
+QWidget* VnQtUiDynLayerStateCmdImpl::makeRestoreOptions()
+{
+    auto* group = new QGroupBox(tr("恢复选项"), this);
+    m_turnOffBox = makeCheckBox(QT_TR_NOOP("关闭未在图层状态中找到的图层(&T)"), "turnOffBox");
+    m_overrideBox = makeCheckBox(QT_TR_NOOP("将特性作为视口替代应用(&W)"), "overrideBox");
+    auto* layout = new QVBoxLayout(group);
+    layout->addWidget(m_turnOffBox);
+    layout->addWidget(m_overrideBox);
+    layout->addStretch();
+    return group;
+}
+
+QWidget* VnQtUiDynLayerStateCmdImpl::makeMaskPanel()
+{
+    m_maskPanel = new QWidget(this);
+    m_maskPanel->setObjectName(QStringLiteral("maskPanel"));
+    m_maskGroup = new QButtonGroup(this);
+    m_maskGroup->setExclusive(false);
+    auto* group = new QGroupBox(tr("要恢复的图层特性"), m_maskPanel);
+    auto* boxes = new QVBoxLayout(group);
+    for (const MaskRow& row : kMask) {
+        auto* box = new QCheckBox(tr(row.text), group);
+        box->setObjectName(QStringLiteral("maskBox%1").arg(row.bit));
+        m_maskGroup->addButton(box, row.bit);
+        boxes->addWidget(box);
+    }
+    m_selectGroup = new QButtonGroup(this);
+    m_selectGroup->addButton(makeButton(QT_TR_NOOP("全部选择(&S)"), "selectAllButton"), kSelectAll);
+    m_selectGroup->addButton(makeButton(QT_TR_NOOP("全部清除(&A)"), "clearAllButton"), kClearAll);
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, 10, 0, 0);
+    buttons->addWidget(m_selectGroup->button(kSelectAll));
+    buttons->addWidget(m_selectGroup->button(kClearAll));
+
+    auto* layout = new QVBoxLayout(m_maskPanel);
+    layout->setMargin(0);
+    layout->addWidget(group);
+    layout->addLayout(buttons);
+    layout->addStretch();
+    return m_maskPanel;
+}
+
+QBoxLayout* VnQtUiDynLayerStateCmdImpl::makeBottomRow()
+{
+    m_restoreButton = makeButton(QT_TR_NOOP("恢复(&R)"), "restoreButton");
+    m_closeButton = makeButton(QT_TR_NOOP("关闭(&C)"), "closeButton");
+    m_helpButton = makeButton(QT_TR_NOOP("帮助(&H)"), "helpButton");
+    m_extendButton = makeButton(QT_TR_NOOP("详情"), "extendButton");
+    m_extendButton->setCheckable(true);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    for (QPushButton* button : {m_restoreButton, m_closeButton, m_helpButton, m_extendButton})
+        row->addWidget(button);
+    return row;
+}
+
+void VnQtUiDynLayerStateCmdImpl::setUpTable()
+{
+    static_assert(std::size(kHeaders) == kColumnCount);
+    QStringList headers;
+    for (const char* header : kHeaders)
+        headers.append(tr(header));
+    m_table->setColumnCount(kColumnCount);
+    m_table->setHorizontalHeaderLabels(headers);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setSectionResizeMode(kDescriptionColumn, QHeaderView::Stretch);
+    constexpr int kWidths[] = {90, 66, 110};
+    for (int column = 0; column < kDescriptionColumn; ++column)
+        m_table->setColumnWidth(column, kWidths[column]);
+}
+
+void VnQtUiDynLayerStateCmdImpl::connectWidgets()
+{
+    using Self = VnQtUiDynLayerStateCmdImpl;
+    constexpr auto once = Qt::UniqueConnection;
+    const struct
+    {
+        QPushButton* button;
+        void (Self::*slot)(bool);
+    } clicks[] = {
+        {m_extendButton, &Self::slot_ExtendBtnClicked},
+        {m_restoreButton, &Self::slot_RestoreBtnBtnClicked},
+        {m_newButton, &Self::slot_NewBtnClicked},
+        {m_saveButton, &Self::slot_SaveBtnClicked},
+        {m_editButton, &Self::slot_EditBtnClicked},
+        {m_renameButton, &Self::slot_RenameBtnClicked},
+        {m_deleteButton, &Self::slot_DeleteBtnClicked},
+        {m_importButton, &Self::slot_ImportBtnClicked},
+        {m_exportButton, &Self::slot_ExportBtnClicked},
+        {m_helpButton, &Self::slot_HelpBtnClicked},
+    };
+    for (const auto& row : clicks)
+        connect(row.button, &QPushButton::clicked, this, row.slot, once);
+    connect(m_closeButton, &QPushButton::clicked, this, &Self::close, once);
+    connect(m_table, &QTableWidget::cellClicked, this, &Self::slot_TableCellClicked, once);
+    connect(m_table, &QTableWidget::itemSelectionChanged, this,
+        &Self::slot_TableitemSelectionChanged, once);
+    connect(
+        m_table, &QTableWidget::itemDoubleClicked, this, &Self::slot_tableitDoubleClicked, once);
+    connect(m_table, &QTableWidget::itemClicked, this, &Self::slot_tableitClickedDesc, once);
+    connect(
+        m_referenceBox, &QCheckBox::stateChanged, this, &Self::slot_checkboxstateChangedRef, once);
+    connect(m_selectGroup, &QButtonGroup::idClicked, this, &Self::slot_SelectBtnGroupClicked, once);
+}
+
+} // namespace vnsi
