@@ -4,6 +4,7 @@
 #include "sysvars.h"
 #include "trees.h"
 #include "vnsettings.h"
+#include "vnstrings.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -74,6 +75,20 @@ QString rowText(const QTableWidget& table, int row)
     return texts.join(QLatin1Char(','));
 }
 
+QString text(const VnJsonPtr& node, const char* key)
+{
+    return vnutOdStringToQString(node->GetDataSW(key));
+}
+
+/// What the objects of a list have under `key`, with blanks between.
+QString texts(const VnJsonPtr& list, const char* key)
+{
+    QStringList texts;
+    for (int i = 0; i < list.ArrayCount(); ++i)
+        texts += text(list(i), key);
+    return texts.join(QLatin1Char(' '));
+}
+
 VnJsonPtr elementOf(const VnJsonPtr& tree, int index)
 {
     return tree->GetDataJ("LayerStateMgr")(index);
@@ -108,7 +123,6 @@ private slots:
     void settings();
     void newDialog_data();
     void newDialog();
-    void newDialogPick();
     void editFilled();
     void editClicks_data();
     void editClicks();
@@ -116,7 +130,6 @@ private slots:
     void editSends();
     void addDialog_data();
     void addDialog();
-    void large();
 
 private:
     VnUiModeDialogBasePtr open(const char* name, const QString& json,
@@ -234,35 +247,32 @@ void TestLayerStates::enabled()
 void TestLayerStates::requests_data()
 {
     QTest::addColumn<QString>("button");
-    QTest::addColumn<QList<int>>("rows");
     QTest::addColumn<int>("answer");
     QTest::addColumn<QString>("asked");
     QTest::addColumn<QString>("sent");
-    const QList<int> first{0};
     const QString save = QStringLiteral("messageEx|图层 - 覆盖图层状态|是否要覆盖A?|4|1|64");
-    QTest::newRow("save") << "saveButton" << first << 6 << save
+    QTest::newRow("save") << "saveButton" << 6 << save
                           << R"(request|4|1|{"LayerStateMask":1057,"LayerStateSaveName":"A"})";
-    QTest::newRow("not saved") << "saveButton" << first << 7 << save << QString();
+    QTest::newRow("not saved") << "saveButton" << 7 << save << QString();
     const QString one = QStringLiteral("messageEx|图层 - 删除图层状态|是否确实要删除 A?|4|1|64");
-    QTest::newRow("delete") << "deleteButton" << first << 6 << one
+    QTest::newRow("delete") << "deleteButton" << 6 << one
                             << R"(request|2|1|{"DeleteNameOne":true,"LayerStateDeleteName":"A"})";
-    QTest::newRow("not deleted") << "deleteButton" << first << 7 << one << QString();
+    QTest::newRow("not deleted") << "deleteButton" << 7 << one << QString();
     QTest::newRow("restore")
-        << "restoreButton" << first << 0 << QString()
+        << "restoreButton" << 0 << QString()
         << R"(request|5|1|{"LStateRestoreName":"A","LStateTCheckBox":0,"LStateWCheckBox":false,"LayerStateMask":1057})";
 }
 
 void TestLayerStates::requests()
 {
     QFETCH(QString, button);
-    QFETCH(QList<int>, rows);
     QFETCH(int, answer);
     QFETCH(QString, asked);
     QFETCH(QString, sent);
     const auto dialog = open("Dialog/CmdLayerState", kTree, {},
         {"DeleteNameOne", "LayerStateDeleteName", "LayerStateSaveName", "LayerStateMask",
             "LStateRestoreName", "LStateTCheckBox", "LStateWCheckBox"});
-    select(states(dialog), rows);
+    select(states(dialog), {0});
     if (answer > 0)
         m_host->answer(answer);
     press(dialog, button.toUtf8().constData());
@@ -334,17 +344,9 @@ void TestLayerStates::deletedSeveral()
         QString line = QStringLiteral("request|%1|%2|")
                            .arg(node->GetDataI("marker"))
                            .arg(node->GetDataI("parameter"));
-        if (node->GetDataB("DeleteNameOne")) {
-            sent += line + "one " +
-                    QString::fromStdWString(
-                        std::wstring(node->GetDataSW("LayerStateDeleteName").view()));
-            return;
-        }
-        line += "all";
-        const VnJsonPtr names = node->GetDataJ("LayerStateDeleteNames");
-        for (int i = 0; i < names.ArrayCount(); ++i)
-            line += " " + QString::fromStdWString(
-                              std::wstring(names(i)->GetDataSW("LayerSDeleteName").view()));
+        line += node->GetDataB("DeleteNameOne")
+                    ? "one " + text(node, "LayerStateDeleteName")
+                    : "all " + texts(node->GetDataJ("LayerStateDeleteNames"), "LayerSDeleteName");
         sent += line;
     });
     select(states(dialog), {0, 1, 3});
@@ -413,7 +415,7 @@ void TestLayerStates::newState()
     select(states(dialog), {0});
     m_invoker->setAnswer([this](const VnJsonPtr& node) {
         QVERIFY(node == elementOf(m_tree, 2));
-        QCOMPARE(std::wstring(node->GetDataSW("selectItemName").view()), std::wstring(L"A"));
+        QCOMPARE(text(node, "selectItemName"), QStringLiteral("A"));
     });
     m_host->answer(0);
     press(dialog, "editButton");
@@ -510,26 +512,18 @@ void TestLayerStates::newDialog()
     QVERIFY(box.currentText().isEmpty() && !ok.isEnabled());
     box.setEditText(QStringLiteral("  "));
     QVERIFY(!ok.isEnabled());
+    box.setCurrentIndex(0); // Picked from the list; its description comes along.
+    QCOMPARE(child<QTextEdit>(dialog, "descriptionEdit").toPlainText(), QStringLiteral("old"));
+    QVERIFY(ok.isEnabled());
     box.setEditText(name);
-    child<QTextEdit>(dialog, "descriptionEdit").setPlainText(QStringLiteral("d"));
     if (answer != 9)
         m_host->answer(answer);
     ok.click();
     QTEST(m_host->log().join(QLatin1Char('&')), "asked");
-    QTEST(QString::fromStdWString(std::wstring(m_tree->GetDataSW("LayerStateNewName").view())),
-        "taken");
+    QTEST(text(m_tree, "LayerStateNewName"), "taken");
     const bool isTaken = m_tree->HasKey("LayerStateNewName");
     QCOMPARE(dialog->resultData()->GetDataI("result"), isTaken ? 1 : 0);
     QCOMPARE(m_tree->HasKey("desc"), isTaken);
-}
-
-void TestLayerStates::newDialogPick()
-{
-    const auto dialog = open("Dialog/CmdLayerStateNew",
-        QStringLiteral(R"({"LayerStateList":[{"LayerStateName":"A","desc":"old"}]})"));
-    child<QComboBox>(dialog, "nameBox").setCurrentIndex(0);
-    QCOMPARE(child<QTextEdit>(dialog, "descriptionEdit").toPlainText(), QStringLiteral("old"));
-    QVERIFY(child<QPushButton>(dialog, "okButton").isEnabled());
 }
 
 void TestLayerStates::editFilled()
@@ -614,13 +608,9 @@ void TestLayerStates::editAdds()
 {
     const auto dialog = open("Dialog/CmdLayerStateEdit", kEditTree);
     auto& table = child<QTableWidget>(dialog, "stateLayerTable");
-    QStringList offered;
+    QString offered;
     const auto choose = [&](const VnJsonPtr& node) {
-        const VnJsonPtr list = node->GetDataJ("NeedAddlayerList");
-        offered.clear();
-        for (int i = 0; i < list.ArrayCount(); ++i)
-            offered +=
-                QString::fromStdWString(std::wstring(list(i)->GetDataSW("LayerName").view()));
+        offered = texts(node->GetDataJ("NeedAddlayerList"), "LayerName");
         return 1;
     };
     select(table, {2});
@@ -628,7 +618,7 @@ void TestLayerStates::editAdds()
     QCOMPARE(table.rowCount(), 2);
     m_host->answer(choose);
     press(dialog, "newLayerButton");
-    QCOMPARE(offered, QStringList({"Door", "New", "gone"}));
+    QCOMPARE(offered, QStringLiteral("Door New gone"));
     QCOMPARE(table.rowCount(), 5);
     const VnJsonPtr list = elementOf(m_tree, 2)->GetDataJ("LayerStateList");
     QCOMPARE(list.ArrayCount(), 7);
@@ -679,44 +669,8 @@ void TestLayerStates::addDialog()
     QVERIFY(table.selectedItems().isEmpty());
     select(table, rows);
     press(dialog, "okButton");
-    QStringList kept;
-    const VnJsonPtr list = m_tree->GetDataJ("NeedAddlayerList");
-    for (int i = 0; i < list.ArrayCount(); ++i)
-        kept += QString::fromStdWString(std::wstring(list(i)->GetDataSW("LayerName").view()));
-    QTEST(kept.join(QLatin1Char(' ')), "kept");
+    QTEST(texts(m_tree->GetDataJ("NeedAddlayerList"), "LayerName"), "kept");
     QCOMPARE(dialog->resultData()->GetDataI("result"), 1);
-}
-
-/// Thousands of states and layers: all selected, removed and offered again.
-void TestLayerStates::large()
-{
-    constexpr int kStates = 5000;
-    constexpr int kLayers = 10000;
-    const auto dialog = open("Dialog/CmdLayerState", kTree);
-    const VnJsonPtr list = elementOf(m_tree, 1)->GetDataJ("LayerStateList");
-    list->Clear();
-    for (int i = 0; i < kStates; ++i) {
-        const VnJsonPtr state = ElementValue::createObject(1);
-        state->set("LayerStateName", OdString(std::to_wstring(i)));
-        list->Append(state);
-    }
-    child<QCheckBox>(dialog, "referenceBox").click();
-    states(dialog).selectAll();
-    m_host->answer(1);
-    press(dialog, "deleteButton");
-    QCOMPARE(elementOf(m_tree, 1)->GetDataJ("LayerStateDeleteNames").ArrayCount(), kStates);
-
-    m_tree = tree(kEditTree);
-    const VnJsonPtr layers = elementOf(m_tree, 2)->GetDataJ("LayerStateList");
-    for (int i = 0; i < kLayers; ++i) {
-        const VnJsonPtr layer = ElementValue::createObject(1);
-        layer->set("LayerName", OdString(L"L" + std::to_wstring(i)));
-        layers->Append(layer);
-    }
-    const auto edit = m_module.createDialog(QStringLiteral("Dialog/CmdLayerStateEdit"), m_tree);
-    child<QTableWidget>(edit, "stateLayerTable").selectAll();
-    press(edit, "deleteLayerButton");
-    QCOMPARE(child<QTableWidget>(edit, "stateLayerTable").rowCount(), 0);
 }
 
 QTEST_MAIN(TestLayerStates)
