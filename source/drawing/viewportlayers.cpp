@@ -110,9 +110,9 @@ Expected<void> ViewportLayers::check() const
         return refusal(tr("此图形的格式不能保存视口中的图层特性"));
     if (m_data.state.modelSpace)
         return refusal(tr("当前不在布局中"));
+    const QString& name = m_data.layouts[static_cast<size_t>(m_data.state.layout)].name;
     if (current() < 0)
-        return refusal(tr("布局“%1”中没有视口")
-                           .arg(m_data.layouts[static_cast<size_t>(m_data.state.layout)].name));
+        return refusal(tr("布局%1中没有视口").arg(name.isEmpty() ? name : tr("“%1”").arg(name)));
     return {};
 }
 

@@ -28,6 +28,7 @@ private slots:
     void visibility_data();
     void visibility();
     void forgetsLayers();
+    void forgetsViewports();
     void overridesSeenByOthers();
     void cannotOverride_data();
     void cannotOverride();
@@ -156,6 +157,29 @@ void TestViewportLayers::forgetsLayers()
     drawing->undo();
     QCOMPARE(names(*drawing, drawing->frozenInViewport()), QStringList("Door"));
     QVERIFY(saved(*drawing).contains("ADSK_XREC_LAYER_COLOR_OVR"));
+}
+
+/// A viewport that is deleted leaves no half of an override behind, which would be taken for
+/// another viewport's.
+void TestViewportLayers::forgetsViewports()
+{
+    QByteArray bytes = sheetsDrawing();
+    bytes.replace(tagged("5 52\n100 AcDbEntity\n67 1\n8 0\n"),
+        tagged("5 52\n100 AcDbEntity\n67 1\n8 Door\n"));
+    const auto drawing = opened(bytes);
+    step(*drawing, [&] {
+        drawing->showLayout(kNewest);
+        LayerProperties red = drawing->findLayer(QStringLiteral("Wall"))->properties;
+        red.colorIndex = 2;
+        const LayerId wall = drawing->findLayer(QStringLiteral("Wall"))->id;
+        QVERIFY(drawing->overrideInViewport({{wall, red}}, kStateColor));
+    });
+    const auto again = opened(saved(*drawing));
+    step(*again,
+        [&] { QVERIFY(again->deleteLayers({again->findLayer(QStringLiteral("Door"))->id})); });
+    const QByteArray without = saved(*again);
+    QVERIFY(without.contains("ADSK_XREC_LAYER_COLOR_OVR") && !without.contains("OVERRIDE"));
+    QVERIFY(!without.contains("420\n"));
 }
 
 /// The layers keep their own; what is so anyway is not overridden, and an override ends so.

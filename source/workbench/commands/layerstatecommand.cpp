@@ -334,8 +334,8 @@ void LayerStateCommand::restore(const VnJsonPtr& node)
     drawing().beginStep(tr("图层状态"));
     m_current = state->name;
     if (how.viewportOverrides && drawing().checkViewport())
-        m_context->say(tr("图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于布局“%2”的"
-                          "当前视口；画布不显示视口替代。")
+        m_context->say(tr("图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于“%2”的当前"
+                          "视口；画布不显示视口替代。")
                            .arg(state->name, shownLayoutName()));
     report(tr("图层状态“%1”已恢复，但以下内容除外：").arg(state->name));
     node->SetDataB("LayerStateOKClose", true);
@@ -343,7 +343,8 @@ void LayerStateCommand::restore(const VnJsonPtr& node)
 
 QString LayerStateCommand::shownLayoutName()
 {
-    return drawing().layouts()[static_cast<size_t>(drawing().shownLayout())].name;
+    const QString& name = drawing().layouts()[static_cast<size_t>(drawing().shownLayout())].name;
+    return name.isEmpty() ? tr("布局") : name;
 }
 
 std::vector<LayerState> LayerStateCommand::statesOf(const QString& path)
