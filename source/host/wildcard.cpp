@@ -4,6 +4,8 @@
 
 #include <QChar>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -15,9 +17,37 @@ wchar_t folded(wchar_t c, bool ignoreCase)
     return ignoreCase ? static_cast<wchar_t>(QChar::toCaseFolded(static_cast<uint>(c))) : c;
 }
 
-bool isBetween(const std::pair<wchar_t, wchar_t>& range, wchar_t c)
+std::wstring foldedText(std::wstring_view text, bool ignoreCase)
 {
-    return range.first <= c && c <= range.second;
+    std::wstring result(text);
+    for (wchar_t& c : result)
+        c = folded(c, ignoreCase);
+    return result;
+}
+
+using Ranges = std::vector<std::pair<wchar_t, wchar_t>>;
+
+/// The same characters in ranges that are ascending and apart.
+Ranges tidied(Ranges ranges)
+{
+    std::sort(ranges.begin(), ranges.end());
+    Ranges tidy;
+    for (const auto& [first, last] : ranges) {
+        if (first > last)
+            continue;
+        if (!tidy.empty() && first <= tidy.back().second)
+            tidy.back().second = std::max(tidy.back().second, last);
+        else
+            tidy.emplace_back(first, last);
+    }
+    return tidy;
+}
+
+bool holds(const Ranges& tidy, wchar_t c)
+{
+    const auto next = std::upper_bound(tidy.begin(), tidy.end(), c,
+        [](wchar_t wanted, const auto& range) { return wanted < range.first; });
+    return next != tidy.begin() && c <= std::prev(next)->second;
 }
 
 } // namespace
@@ -45,6 +75,7 @@ Wildcard::Element Wildcard::bracket(std::wstring_view content)
         element.ranges.emplace_back(first, isRange ? content[2] : first);
         content.remove_prefix(isRange ? 3 : 1);
     }
+    element.ranges = tidied(std::move(element.ranges));
     return element;
 }
 
@@ -88,12 +119,8 @@ bool Wildcard::fits(const Element& element, wchar_t c, bool ignoreCase)
     const auto isListed = [&] {
         const wchar_t lower = static_cast<wchar_t>(QChar::toLower(code));
         const wchar_t upper = static_cast<wchar_t>(QChar::toUpper(code));
-        for (const auto& range : element.ranges) {
-            if (isBetween(range, c) ||
-                (ignoreCase && (isBetween(range, lower) || isBetween(range, upper))))
-                return true;
-        }
-        return false;
+        return holds(element.ranges, c) ||
+               (ignoreCase && (holds(element.ranges, lower) || holds(element.ranges, upper)));
     };
     switch (element.kind) {
     case Kind::Character:
@@ -141,15 +168,52 @@ bool Wildcard::matches(std::wstring_view text, bool ignoreCase) const
     return (element == m_elements.size()) != m_isNegated;
 }
 
+bool Wildcard::isWord(std::wstring& word) const
+{
+    word.clear();
+    for (const Element& element : m_elements) {
+        if (element.kind != Kind::Character)
+            return false;
+        word += element.character;
+    }
+    return !m_isNegated;
+}
+
+WildcardPattern::WildcardPattern(std::wstring_view pattern, bool ignoreCase)
+    : m_ignoreCase(ignoreCase)
+{
+    bool isLast = false;
+    std::wstring word;
+    while (!isLast) {
+        Wildcard alternative = Wildcard::take(pattern, isLast);
+        if (alternative.isWord(word))
+            m_words.insert(foldedText(word, ignoreCase));
+        else
+            m_others.push_back(std::move(alternative));
+    }
+}
+
+bool WildcardPattern::matches(std::wstring_view text) const
+{
+    if (!m_words.empty() && m_words.count(foldedText(text, m_ignoreCase)) > 0)
+        return true;
+    return std::any_of(m_others.begin(), m_others.end(),
+        [&](const Wildcard& alternative) { return alternative.matches(text, m_ignoreCase); });
+}
+
 } // namespace host
 
 bool vnsi::vnsiutWcMatchEx(const OdString& text, const OdString& pattern, bool ignoreCase)
 {
-    std::wstring_view rest = pattern.view();
-    bool isLast = false;
-    while (!isLast) {
-        if (host::Wildcard::take(rest, isLast).matches(text.view(), ignoreCase))
-            return true;
-    }
-    return false;
+    // Callers try one pattern on name after name.
+    struct Latest
+    {
+        OdString pattern;
+        bool ignoreCase;
+        host::WildcardPattern ready;
+    };
+    thread_local Latest latest{{}, false, {{}, false}};
+    if (latest.ignoreCase != ignoreCase || latest.pattern != pattern)
+        latest = {pattern, ignoreCase, {pattern.view(), ignoreCase}};
+    return latest.ready.matches(text.view());
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -15,6 +17,8 @@ public:
     static Wildcard take(std::wstring_view& pattern, bool& isLast);
 
     bool matches(std::wstring_view text, bool ignoreCase) const;
+    /// Whether it matches one text alone, which is then in `word`.
+    bool isWord(std::wstring& word) const;
 
 private:
     enum class Kind { Character, Any, Digit, Letter, Other, OneOf, NoneOf, Run };
@@ -31,6 +35,21 @@ private:
 
     std::vector<Element> m_elements;
     bool m_isNegated = false;
+};
+
+/// A whole pattern, ready for many texts. Alternatives that are plain words are looked up and not
+/// tried one after the other: a pattern may name thousands.
+class WildcardPattern
+{
+public:
+    WildcardPattern(std::wstring_view pattern, bool ignoreCase);
+
+    bool matches(std::wstring_view text) const;
+
+private:
+    bool m_ignoreCase;
+    std::unordered_set<std::wstring> m_words; ///< Folded where case does not count.
+    std::vector<Wildcard> m_others;
 };
 
 } // namespace host

@@ -63,6 +63,7 @@ void TestWildcard::matches_data()
     row("A`", "A`", "A");
     row("`#`@`.`?`[", "#@.?[", "1a-x[");
     row("A,", "A", "B");
+    row("[c-ea-bdz-x]", "a b c d e", "f x y z");
 }
 
 void TestWildcard::matches()
@@ -76,6 +77,8 @@ void TestWildcard::matches()
         QVERIFY2(!doesMatch(text, pattern), qPrintable(text));
     QCOMPARE(doesMatch("wall", "W[A-B]LL", true), true);
     QCOMPARE(doesMatch(QString::fromUtf8("ДОМ"), QString::fromUtf8("дом*"), true), true);
+    QCOMPARE(doesMatch("WALL", "door,wall", true), true);
+    QCOMPARE(doesMatch("WALL", "door,wall", false), false); // The pattern before, in other words.
     QCOMPARE(doesMatch("", "*"), true);
     QCOMPARE(doesMatch("", ""), true);
     QCOMPARE(doesMatch("", "?"), false);
