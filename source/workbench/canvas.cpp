@@ -237,6 +237,20 @@ void Canvas::endWindow()
     update();
 }
 
+void Canvas::beginPick()
+{
+    clearSelection();
+    m_picking = true;
+    setCursor(Qt::PointingHandCursor);
+}
+
+void Canvas::endPick(bool accepted)
+{
+    m_picking = false;
+    setCursor(Qt::CrossCursor);
+    emit pickEnded(accepted);
+}
+
 void Canvas::resizeEvent(QResizeEvent*)
 {
     if (m_view.size() == size())
@@ -264,6 +278,8 @@ void Canvas::mousePressEvent(QMouseEvent* event)
         m_windowFrom = event->pos();
         return;
     }
+    if (event->button() == Qt::RightButton && m_picking)
+        return endPick(true);
     if (event->button() != Qt::MiddleButton)
         return QWidget::mousePressEvent(event);
     m_panning = true;
@@ -290,18 +306,24 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
 void Canvas::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && m_pressed) {
-        pick(m_windowFrom, event->pos(), event->modifiers() & Qt::ControlModifier);
+        pick(m_windowFrom, event->pos(), m_picking || event->modifiers() & Qt::ControlModifier);
         endWindow();
         return;
     }
     if (event->button() != Qt::MiddleButton)
         return QWidget::mouseReleaseEvent(event);
     m_panning = false;
-    setCursor(Qt::CrossCursor);
+    setCursor(m_picking ? Qt::PointingHandCursor : Qt::CrossCursor);
 }
 
 void Canvas::keyPressEvent(QKeyEvent* event)
 {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (m_picking && isEnter)
+        return endPick(true);
+    // While a window is drawn Esc only drops the window.
+    if (m_picking && event->key() == Qt::Key_Escape && !m_pressed)
+        return endPick(false);
     if (event->key() != Qt::Key_Escape)
         return QWidget::keyPressEvent(event);
     if (!m_pressed)

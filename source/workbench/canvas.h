@@ -46,12 +46,17 @@ public:
     void setSelection(std::vector<int> entities);
     void clearSelection() { setSelection({}); }
 
+    /// Starts a pick: from nothing selected, clicks and windows add what they hit, or take out what
+    /// is clicked again, until ENTER or the right button ends it, or Esc gives up.
+    void beginPick();
+
     QSize sizeHint() const override { return {900, 600}; }
 
 signals:
     void cursorMoved(const QPointF& point); ///< In drawing units.
     void backgroundChanged(bool dark);
     void selectionChanged(int count);
+    void pickEnded(bool accepted); ///< The pick is what is selected.
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -83,6 +88,7 @@ private:
     void pick(const QPoint& from, const QPoint& to, bool adds);
     std::vector<int> picked(const QPoint& from, const QPoint& to) const;
     void endWindow();
+    void endPick(bool accepted);
 
     std::shared_ptr<const drawing::Geometry> m_geometry;
     std::vector<drawing::Layer> m_layers;
@@ -100,6 +106,7 @@ private:
     QPoint m_windowTo;
     bool m_pressed = false; ///< The left button, to select.
     bool m_windowing = false;
+    bool m_picking = false; ///< Between `beginPick` and its end.
 
     Picture m_frame;
     Picture m_overlay; ///< The marks of what is selected.

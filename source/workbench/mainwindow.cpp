@@ -3,6 +3,7 @@
 #include "canvas.h"
 #include "commandline.h"
 #include "drawingsession.h"
+#include "entitypick.h"
 #include "messages.h"
 #include "recentfiles.h"
 #include "requests.h"
@@ -298,9 +299,21 @@ void MainWindow::runLayerCommand(const CommandRow& row)
 
 CommandContext MainWindow::commandContext()
 {
-    return {*drawing(), this, [this](const QString& text) { m_commandLine->say(text); },
-        [this] { showLayers(); }, m_canvas->selection(),
-        [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); }};
+    const auto refresh = [this] {
+        showLayers();
+        m_canvas->repaint();
+    };
+    const auto pick = [this] {
+        const QString prompt = tr("选择对象，按 ENTER 键或单击鼠标右键结束，按 ESC 键取消。");
+        m_commandLine->say(prompt);
+        m_status->showMessage(prompt);
+        const std::vector<int> picked = pickEntities(*m_canvas);
+        m_status->clearMessage();
+        return picked;
+    };
+    return {*drawing(), this, [this](const QString& text) { m_commandLine->say(text); }, refresh,
+        m_canvas->selection(),
+        [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); }, pick};
 }
 
 void MainWindow::pose(const LayerCommand::Camera& camera)

@@ -17,9 +17,13 @@ struct CommandContext
     drawing::Drawing& drawing;
     QWidget* parent = nullptr;               ///< For dialogs.
     std::function<void(const QString&)> say; ///< A line for the command line's echo.
-    std::function<void()> refresh;   ///< Shows the layers as they are now, within the open step.
+    std::function<void()>
+        refresh; ///< Draws the layers as they are now, within the open step, at once.
     std::vector<int> selection = {}; ///< Entities selected on the canvas, ascending.
     std::function<void(const QString&)> notice = {}; ///< A line for the status bar.
+    /// Lets the user pick entities on the canvas; none when the user gives up. No dialog may be in
+    /// the way meanwhile.
+    std::function<std::vector<int>()> pick = {};
 };
 
 /// One of the layer commands. A new object for every run.
