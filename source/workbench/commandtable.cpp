@@ -5,6 +5,7 @@
 #include "commands/layerstatecommand.h"
 #include "commands/laymchcommand.h"
 #include "commands/laymrgcommand.h"
+#include "commands/laywalkcommand.h"
 
 #include <algorithm>
 #include <iterator>
@@ -25,7 +26,7 @@ constexpr CommandRow kRows[] = {
     {"LAYMCH", QT_TRANSLATE_NOOP("Commands", "更改到图层"), "layer-change",
         make<LayerChangeCommand>},
     {"LAYMRG", QT_TRANSLATE_NOOP("Commands", "合并图层"), "layer-merge", make<LayerMergeCommand>},
-    {"LAYWALK", QT_TRANSLATE_NOOP("Commands", "图层漫游"), "layer-walk", nullptr},
+    {"LAYWALK", QT_TRANSLATE_NOOP("Commands", "图层漫游"), "layer-walk", make<LayerWalkCommand>},
     {"LAYTRANS", QT_TRANSLATE_NOOP("Commands", "图层转换器"), "layer-translate", nullptr},
 };
 

@@ -6,6 +6,7 @@
 #include "layerrecords.h"
 #include "layerstatefile.h"
 #include "posing.h"
+#include "statelist.h"
 #include "sysvars.h"
 #include "vnmessages.h"
 #include "vnproduct.h"
@@ -15,8 +16,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QMainWindow>
-#include <QStatusBar>
 
 using drawing::LayerState;
 using drawing::LayerStateLayer;
@@ -33,7 +32,6 @@ constexpr char kStates[] = "LayerStateList";
 constexpr char kMask[] = "LayerStateMask";
 constexpr char kDelete[] = "Delete";
 constexpr int kMostProblemsShown = 10;
-constexpr int kStateNoted = 8000; // Milliseconds.
 
 QString tr(const char* text)
 {
@@ -48,13 +46,6 @@ QString text(const VnJsonPtr& node, const char* key)
 OdString od(const QString& text)
 {
     return vnsi::vnutQStringToOdString(text);
-}
-
-QString spaceOf(const LayerState& state)
-{
-    if (state.isFromReference())
-        return tr("外部参照");
-    return state.fromLayout ? tr("布局") : tr("模型");
 }
 
 bool isSameName(const QString& a, const QString& b)
@@ -163,13 +154,8 @@ void LayerStateCommand::showStates(const std::vector<LayerState>& states)
         const bool isRemembered = isSameName(state.name, m_current);
         if (isSame && (isRemembered || current.isEmpty()))
             current = state.name;
-        const VnJsonPtr entry = ElementValue::createObject(6);
-        entry->set("LayerStateName", od(state.name))
-            .set("space", od(spaceOf(state)))
-            .set("isSame2DWG", isSame)
-            .set("desc", od(state.description))
-            .set("Selected", false)
-            .set("LayerStateMaskIs", state.mask);
+        const VnJsonPtr entry = statelist::makeEntry(state);
+        entry->set("isSame2DWG", isSame).set("Selected", false).set("LayerStateMaskIs", state.mask);
         list->Append(entry);
     }
     m_manager->SetDataJ(kStates, list);
@@ -208,21 +194,8 @@ bool LayerStateCommand::put(LayerState state)
     m_current = state.name;
     const bool isStored = done(drawing().putLayerStates({std::move(state)}), tr("图层状态"));
     if (isStored)
-        tellWhereStatesAre();
+        statelist::tellWhereStatesAre(*m_context);
     return isStored;
-}
-
-/// Formats without a place for layer states keep them in a file beside the drawing.
-void LayerStateCommand::tellWhereStatesAre()
-{
-    const QString path = drawing().layerStatesPath();
-    if (path.isEmpty())
-        return;
-    const QString note = tr("此图形的格式不能保存图层状态：它们随图形保存在旁边的文件“%1”中。")
-                             .arg(QFileInfo(path).fileName());
-    m_context->say(note);
-    if (auto* window = qobject_cast<QMainWindow*>(m_context->parent))
-        window->statusBar()->showMessage(note, kStateNoted);
 }
 
 void LayerStateCommand::prepareEdit(const VnJsonPtr& node)
@@ -452,7 +425,7 @@ void LayerStateCommand::importStates(const VnJsonPtr& node)
     report(chosen.empty() ? tr("没有输入图层状态：") : tr("图层状态已输入，但以下内容除外："));
     if (chosen.empty() || !done(drawing().putLayerStates(chosen), tr("图层状态")))
         return;
-    tellWhereStatesAre();
+    statelist::tellWhereStatesAre(*m_context);
     showStates(drawing().layerStates());
     node->SetDataJ("LayerStateListHaveRef", m_manager->GetDataJ(kStates));
     node->SetDataB("LayerStateListRefOK", true);

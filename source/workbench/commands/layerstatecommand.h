@@ -42,7 +42,6 @@ private:
     bool offersRestore(const std::vector<drawing::LayerState>& imported);
     bool put(drawing::LayerState state);
     bool done(const drawing::Expected<void>& outcome, const QString& stepName);
-    void tellWhereStatesAre();
     void report(const QString& title);
     QString shownLayoutName();
 

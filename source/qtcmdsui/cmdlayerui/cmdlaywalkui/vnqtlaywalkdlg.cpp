@@ -64,6 +64,12 @@ OdString filteredTitle(int shown, int all)
     return title;
 }
 
+bool asksToGoOn()
+{
+    return layerstates::ask(kCloseCaption, kCloseQuestion, {L"继续", L"取消"}, kNoAnswer,
+               kVnIconQuestion) == kGoOn;
+}
+
 } // namespace
 
 VnQtLayWalkDlg::VnQtLayWalkDlg(
@@ -175,6 +181,7 @@ bool VnQtLayWalkDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
     m_given = data ? data->GetDataJ(walkkey::kLayers) : VnJsonPtr();
     m_layers.take(m_given);
     m_kept = ElementValue::clone(m_layers.tree());
+    m_filtered.clear();
     loadSettings();
     fillAndSelectVisible();
     m_purge->setEnabled(false);
@@ -326,8 +333,7 @@ void VnQtLayWalkDlg::reject()
     saveSettings();
     if (m_restore->isChecked())
         restoreLayers();
-    else if (layerstates::ask(kCloseCaption, kCloseQuestion, {L"继续", L"取消"}, kNoAnswer) !=
-             kGoOn)
+    else if (!asksToGoOn())
         return;
     QDialog::reject();
 }

@@ -1,0 +1,265 @@
+#include "laywalkcommand.h"
+
+#include "commandinvoker.h"
+#include "drawing.h"
+#include "layerkeys.h"
+#include "layermarks.h"
+#include "layerrecords.h"
+#include "posing.h"
+#include "statelist.h"
+#include "vnstrings.h"
+#include "walkkeys.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+#include <algorithm>
+
+using drawing::Layer;
+using drawing::LayerId;
+using vnsi::VnJsonPtr;
+
+namespace {
+
+namespace key = vnsi::layerkey;
+namespace walkkey = vnsi::walkkey;
+
+constexpr wchar_t kService[] = L"Dialog/CmdLayer";
+constexpr wchar_t kDialog[] = L"Dialog/CmdLaywalk";
+constexpr wchar_t kVerifyDialog[] = L"Dialog/CmdLaywalk/Verify";
+constexpr int kMostProblemsShown = 10;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("LayerWalkCommand", text);
+}
+
+/// The records of the layer tree that a request carries.
+VnJsonPtr recordsOf(const VnJsonPtr& root)
+{
+    const VnJsonPtr layers = root->GetDataJ(walkkey::kParameter);
+    return layers ? layers->GetDataJ(key::kList) : VnJsonPtr();
+}
+
+QStringList namesToPurge(const VnJsonPtr& root)
+{
+    QStringList names;
+    const VnJsonPtr list = root->GetDataJ(walkkey::kPurgeSeveral);
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
+        names.append(vnsi::vnutOdStringToQString(list(i)->asSW()));
+    if (root->HasKey(walkkey::kPurgeOne))
+        names.append(vnsi::vnutOdStringToQString(root->GetDataSW(walkkey::kPurgeOne)));
+    return names;
+}
+
+} // namespace
+
+/// What answers a request.
+struct LayerWalkCommand::RequestRow
+{
+    int code;
+    void (LayerWalkCommand::*answer)(const VnJsonPtr& root);
+    const char* failure; ///< Above what could not be done.
+};
+
+const LayerWalkCommand::RequestRow LayerWalkCommand::kRequests[] = {
+    {vnsi::kWalkSaveState, &LayerWalkCommand::saveState,
+        QT_TRANSLATE_NOOP("LayerWalkCommand", "图层状态没有保存：")},
+    {vnsi::kWalkApply, &LayerWalkCommand::apply,
+        QT_TRANSLATE_NOOP("LayerWalkCommand", "有图层未能打开或关闭：")},
+    {vnsi::kWalkCount, &LayerWalkCommand::count, ""},
+    {vnsi::kWalkPurge, &LayerWalkCommand::purge,
+        QT_TRANSLATE_NOOP("LayerWalkCommand", "以下图层没有清除：")},
+    {vnsi::kWalkPick, &LayerWalkCommand::pick, ""},
+};
+
+void LayerWalkCommand::run(CommandContext& context)
+{
+    m_context = &context;
+    remember();
+    const VnJsonPtr tree = vnsi::ElementValue::createObject(8);
+    tree->SetDataJ(walkkey::kLayers, makeLayers());
+    const auto invoker = CommandInvoker::make([this](const VnJsonPtr& root) { answer(root); });
+    vnsi::vnuiShowModelDialogEx(kService, kDialog, tree, invoker, context.parent);
+}
+
+VnJsonPtr LayerWalkCommand::makeLayers()
+{
+    const VnJsonPtr list = layerrecords::makeList(drawing());
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
+        list(i)->SetDataB(walkkey::kAlwaysShow, false);
+    const VnJsonPtr layers = vnsi::ElementValue::createObject(4);
+    layers->SetDataJ(key::kList, list);
+    layers->SetDataJ(walkkey::kStates, statelist::make(drawing()));
+    return layers;
+}
+
+void LayerWalkCommand::remember()
+{
+    m_currentBefore = drawing().currentLayer();
+    for (const Layer& layer : drawing().layers())
+        m_before.push_back({layer.id, layer.properties.off});
+}
+
+bool LayerWalkCommand::isAsBefore()
+{
+    return !m_hasOtherEdits && drawing().currentLayer() == m_currentBefore &&
+           std::all_of(m_before.begin(), m_before.end(), [this](const Before& before) {
+               const Layer* layer = drawing().layer(before.layer);
+               return layer && layer->properties.off == before.off;
+           });
+}
+
+void LayerWalkCommand::note(const drawing::Expected<void>& outcome)
+{
+    if (!outcome)
+        m_problems.append(outcome.error().text);
+}
+
+void LayerWalkCommand::answer(const VnJsonPtr& root)
+{
+    const int code = root->GetDataI(walkkey::kRequestCode, -1);
+    const auto* const row = std::find_if(std::begin(kRequests), std::end(kRequests),
+        [code](const RequestRow& candidate) { return candidate.code == code; });
+    if (row == std::end(kRequests))
+        return;
+    (this->*row->answer)(root);
+    for (const QString& notice : drawing().takeNotices())
+        m_context->say(notice);
+    if (m_problems.isEmpty())
+        return;
+    QString text = tr(row->failure);
+    for (const QString& problem : m_problems.mid(0, kMostProblemsShown))
+        text += QLatin1Char('\n') + problem;
+    if (m_problems.size() > kMostProblemsShown)
+        text += tr("\n（共 %1 条）").arg(m_problems.size());
+    m_problems.clear();
+    layermarks::warn(text);
+}
+
+void LayerWalkCommand::apply(const VnJsonPtr& root)
+{
+    const VnJsonPtr list = recordsOf(root);
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
+        const VnJsonPtr record = list(i);
+        const LayerId id = layerrecords::idOf(record);
+        const Layer* layer = drawing().layer(id);
+        if (!layer)
+            continue; // Purged since.
+        const bool off = record->GetDataB(key::kOff);
+        if (layer->properties.off != off) {
+            drawing::LayerProperties properties = layer->properties;
+            properties.off = off;
+            note(drawing().setLayerProperties(id, properties));
+        }
+        if (record->GetDataI(key::kStatus, vnsi::kLayerOrdinary) == vnsi::kLayerCurrent)
+            note(drawing().setCurrentLayer(id));
+    }
+    if (isAsBefore()) {
+        // Layers that had no record of their own have one now; taking the step back leaves nothing.
+        drawing().rollbackStep();
+        drawing().beginStep(tr("图层漫游"));
+    }
+    m_context->refresh();
+}
+
+void LayerWalkCommand::count(const VnJsonPtr& root)
+{
+    int layers = 0;
+    int entities = 0;
+    const VnJsonPtr list = recordsOf(root);
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
+        const VnJsonPtr record = list(i);
+        const Layer* layer = drawing().layer(layerrecords::idOf(record));
+        if (!layer || !record->GetDataB(walkkey::kIsSelected))
+            continue;
+        ++layers;
+        entities += layer->entityCount;
+    }
+    root->SetDataI(walkkey::kLayerCount, static_cast<int>(drawing().layers().size()));
+    root->SetDataI(walkkey::kSelectedCount, layers);
+    root->SetDataI(walkkey::kSelectedEntities, entities);
+}
+
+void LayerWalkCommand::purge(const VnJsonPtr& root)
+{
+    int purged = 0;
+    for (const QString& name : namesToPurge(root)) {
+        const Layer* layer = drawing().findLayer(name);
+        if (!layer)
+            continue;
+        const auto removed = drawing().removeLayer(layer->id);
+        note(removed);
+        purged += removed ? 1 : 0;
+    }
+    m_hasOtherEdits = m_hasOtherEdits || purged > 0;
+
+    QSet<int> pinned;
+    const VnJsonPtr before = recordsOf(root);
+    for (int i = 0, count = before.ArrayCount(); i < count; ++i) {
+        if (before(i)->GetDataB(walkkey::kAlwaysShow))
+            pinned.insert(static_cast<int>(layerrecords::idOf(before(i))));
+    }
+    const VnJsonPtr layers = makeLayers();
+    const VnJsonPtr list = layers->GetDataJ(key::kList);
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
+        list(i)->SetDataB(
+            walkkey::kAlwaysShow, pinned.contains(static_cast<int>(layerrecords::idOf(list(i)))));
+    root->SetDataJ(walkkey::kLayers, layers);
+    m_context->say(tr("已清除 %1 个图层。").arg(purged));
+    m_context->refresh();
+}
+
+void LayerWalkCommand::saveState(const VnJsonPtr& root)
+{
+    const VnJsonPtr layers = root->GetDataJ(walkkey::kParameter);
+    if (!layers)
+        return;
+    drawing::LayerState state = captureLayerState(
+        drawing(), vnsi::vnutOdStringToQString(layers->GetDataSW(walkkey::kNewStateName)));
+    state.description = vnsi::vnutOdStringToQString(layers->GetDataSW(walkkey::kNewStateText));
+    if (state.name.isEmpty())
+        return;
+    const auto saved = drawing().putLayerStates({state});
+    note(saved);
+    if (!saved)
+        return;
+    m_hasOtherEdits = true;
+    layers->SetDataJ(walkkey::kStates, statelist::make(drawing()));
+    m_context->say(tr("图层状态“%1”已保存。").arg(state.name));
+    statelist::tellWhereStatesAre(*m_context);
+}
+
+void LayerWalkCommand::pick(const VnJsonPtr& root)
+{
+    if (!m_context->pick)
+        return;
+    QSet<int> seen;
+    const VnJsonPtr names = vnsi::ElementValue::createArray();
+    for (const int entity : m_context->pick()) {
+        const LayerId id = drawing().entities()[static_cast<std::size_t>(entity)].layer;
+        const Layer* layer = drawing().layer(id);
+        if (!layer || seen.contains(static_cast<int>(id)))
+            continue;
+        seen.insert(static_cast<int>(id));
+        names->AppendSW(vnsi::vnutQStringToOdString(layer->properties.name));
+    }
+    root->SetDataJ(walkkey::kPickedNames, names);
+}
+
+void LayerWalkCommand::pose(CommandContext& context, const Camera& camera)
+{
+    m_context = &context;
+    const VnJsonPtr tree = vnsi::ElementValue::createObject(8);
+    const VnJsonPtr layers = makeLayers();
+    tree->SetDataJ(walkkey::kLayers, layers);
+    const VnJsonPtr list = layers->GetDataJ(key::kList);
+    if (const VnJsonPtr second = list(1))
+        second->SetDataB(walkkey::kAlwaysShow, true);
+    posing::showDialog(kService, kDialog, tree, camera, QStringLiteral("layer-walk"));
+    for (int i = 0, count = list.ArrayCount(); i < count; i += 2)
+        list(i)->SetDataB(walkkey::kIsSelected, true);
+    tree->SetDataJ(walkkey::kParameter, layers);
+    count(tree);
+    posing::showDialog(kService, kVerifyDialog, tree, camera, QStringLiteral("layer-walk-verify"));
+}
