@@ -109,8 +109,8 @@ bool writeLines(const QString& path)
 {
     QByteArray text = "0\nSECTION\n2\nENTITIES\n";
     for (int i = 0; i < kDrawnEntities; ++i) {
-        const int x = i * 7919 % 10007;
-        const int y = i * 104729 % 10009;
+        const qint64 x = qint64(i) * 7919 % 10007;
+        const qint64 y = qint64(i) * 104729 % 10009;
         text += "0\nLINE\n8\nL" + QByteArray::number(i % kDrawnLayers) + "\n10\n" +
                 QByteArray::number(x) + "\n20\n" + QByteArray::number(y) + "\n11\n" +
                 QByteArray::number(x + 60) + "\n21\n" + QByteArray::number(y + i % 90) + "\n";

@@ -33,17 +33,19 @@ QString treeText(const QString& layers)
     return QStringLiteral(R"({"LayerStateMgr":{"LayerList":%1}})").arg(layers);
 }
 
-/// Each layer as on or off, with the star and the mark of the current one: "+0! +WALL -wall-2".
+/// Each layer by a sign: + on, - off, * starred and on, x starred and off, C current and on, c
+/// current and off.
 QString summary(const VnJsonPtr& layerTree)
 {
-    QStringList layers;
+    QString layers;
     for (const QJsonValue layer : toJsonObject(layerTree).value("LayerList").toArray()) {
         const QJsonObject record = layer.toObject();
-        layers.append(QString(record["Off"].toBool() ? "-" : "+") +
-                      (record["bAlwaysShow"].toBool() ? "*" : "") + record["LayerName"].toString() +
-                      (record["CurLayer"] == 0 ? "!" : ""));
+        const bool off = record["Off"].toBool();
+        layers += record["CurLayer"] == 0          ? (off ? 'c' : 'C')
+                  : record["bAlwaysShow"].toBool() ? (off ? 'x' : '*')
+                                                   : (off ? '-' : '+');
     }
-    return layers.join(' ');
+    return layers;
 }
 
 } // namespace
@@ -87,33 +89,56 @@ public:
         QVERIFY(asked->GetDataI("marker") != 4 || parameter->GetDataB("Modified"));
     }
     void trigger(const QString& action) { dialog->findChild<QAction*>(action)->trigger(); }
-    void click(int row, Qt::KeyboardModifiers modifiers = {}) const
+    void click(int row, Qt::KeyboardModifiers modifiers = {},
+        Qt::MouseButton button = Qt::LeftButton) const
     {
-        list->scrollToItem(list->item(row));
-        const QPoint place = list->visualItemRect(list->item(row)).center();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, place);
+        QTest::mouseClick(list->viewport(), button, modifiers, centre(row));
     }
-    void doubleClick(int row) const
+    void perform(const QString& act, const QString& what)
     {
-        click(row);
-        const QPoint place = list->visualItemRect(list->item(row)).center();
-        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, place);
+        const int row = what.toInt();
+        QWidget* const area = list->viewport();
+        if (act == "click" || act == "double")
+            click(row);
+        if (act == "double")
+            QTest::mouseDClick(area, Qt::LeftButton, {}, centre(row));
+        else if (act == "ctrl")
+            click(row, Qt::ControlModifier);
+        else if (act == "right")
+            click(row, {}, Qt::RightButton);
+        else if (act == "below")
+            QTest::mouseClick(area, Qt::LeftButton, {}, QPoint(5, area->height() - 3));
+        else if (act == "down")
+            QTest::keyClick(list, Qt::Key_Down);
+        else if (act == "type")
+            filters->lineEdit()->setText(what);
+        else if (act == "enter")
+            QTest::keyClick(filters, Qt::Key_Return);
+        else if (act == "box")
+            child<QCheckBox>("filterBox")->click();
+        else if (act.endsWith("Action"))
+            trigger(act);
     }
+    QPoint centre(int row) const { return list->visualItemRect(list->item(row)).center(); }
     void filter(const QString& pattern) const
     {
         filters->lineEdit()->setText(pattern);
         QTest::keyClick(filters, Qt::Key_Return);
     }
-    /// The rows as they stand, those selected in brackets.
+    /// # for a selected row, . for another.
     QString rows() const
     {
-        QStringList texts;
-        for (int row = 0; row < list->count(); ++row) {
-            const QListWidgetItem* item = list->item(row);
-            texts.append(item->isSelected() ? "[" + item->text() + "]" : item->text());
-        }
-        return texts.join('|');
+        QString signs;
+        for (int row = 0; row < list->count(); ++row)
+            signs += list->item(row)->isSelected() ? '#' : '.';
+        return signs;
+    }
+    QStringList texts() const
+    {
+        QStringList all;
+        for (int row = 0; row < list->count(); ++row)
+            all += list->item(row)->text();
+        return all;
     }
     bool mayPurge() const { return child<QPushButton>("purgeButton")->isEnabled(); }
 
@@ -126,9 +151,6 @@ public:
     QListWidget* list;
     QComboBox* filters;
 };
-
-using Act = void (*)(Walk&);
-Q_DECLARE_METATYPE(Act)
 
 class TestLaywalk : public QObject
 {
@@ -145,161 +167,77 @@ private slots:
     void opens()
     {
         Walk walk(m_module);
+        QCOMPARE(
+            walk.texts(), (QStringList{"  0", "  WALL", "  wall-2", "* door", "  ice", "  a*[1]"}));
+        QCOMPARE(walk.rows(), QStringLiteral("##.#.."));
         QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: 6"));
-        QCOMPARE(walk.rows(), QStringLiteral("[  0]|[  WALL]|  wall-2|[* door]|  ice|  a*[1]"));
         QVERIFY(!walk.mayPurge() && !walk.child<QCheckBox>("filterBox")->isEnabled());
         QCOMPARE(walk.child<QToolButton>("pickButton")->toolTip(),
             QStringLiteral("选择对象\n选择对象及其图层。"));
-        QVERIFY(walk.requests.isEmpty());
-        QVERIFY(!walk.root->HasKey("marker"));
+        QVERIFY(walk.requests.isEmpty() && !walk.root->HasKey("marker"));
     }
 
     void acts_data()
     {
-        QTest::addColumn<Act>("act");
+        QTest::addColumn<QStringList>("acts");
         QTest::addColumn<QStringList>("requests");
-        QTest::addColumn<QString>("rows");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<bool>("mayPurge");
-        const QString all = QStringLiteral("图层漫游 - 图层数: 6");
-        const auto filtered = [](int shown) {
-            return QStringLiteral("图层漫游 - 图层: 第 %1 层，共 6 层").arg(shown);
+        QTest::addColumn<QString>("rows"); // As many as pass the filter.
+        const auto row = [](const char* name, const QStringList& acts, const QStringList& requests,
+                             const char* rows) {
+            QTest::newRow(name) << acts << requests << QString::fromUtf8(rows);
         };
-        const auto row = [](const char* name, Act act, const QStringList& requests,
-                             const char* rows, const QString& title, bool mayPurge = true) {
-            QTest::newRow(name) << act << requests << QString::fromUtf8(rows) << title << mayPurge;
-        };
-        row(
-            "click leaves the star on", [](Walk& walk) { walk.click(2); },
-            {"4 0: -0 -WALL +wall-2 +*door -ice -a*[1]"},
-            "  0|  WALL|[  wall-2]|* door|  ice|  a*[1]", all);
-        row(
-            "back to the current layer",
-            [](Walk& walk) {
-                walk.click(1);
-                walk.click(0, Qt::ControlModifier);
-            },
-            {"4 0: -0 +WALL -wall-2 +*door -ice -a*[1]",
-                "4 0: +0! +WALL -wall-2 +*door -ice -a*[1]"},
-            "[  0]|[  WALL]|  wall-2|* door|  ice|  a*[1]", all);
-        row(
-            "keys walk too",
-            [](Walk& walk) {
-                walk.click(0);
-                QTest::keyClick(walk.list, Qt::Key_Down);
-            },
-            {"4 0: +0! -WALL -wall-2 +*door -ice -a*[1]",
-                "4 0: -0 +WALL -wall-2 +*door -ice -a*[1]"},
-            "  0|[  WALL]|  wall-2|* door|  ice|  a*[1]", all);
-        row(
-            "click below the rows only disables",
-            [](Walk& walk) {
-                QTest::mouseClick(walk.list->viewport(), Qt::LeftButton, {},
-                    QPoint(5, walk.list->viewport()->height() - 3));
-            },
-            {}, "  0|  WALL|  wall-2|* door|  ice|  a*[1]", all, false);
-        row(
-            "right button selects nothing",
-            [](Walk& walk) {
-                QTest::mouseClick(walk.list->viewport(), Qt::RightButton, {},
-                    walk.list->visualItemRect(walk.list->item(2)).center());
-            },
-            {}, "[  0]|[  WALL]|  wall-2|[* door]|  ice|  a*[1]", all, false);
-        row(
-            "double click stars and again releases",
-            [](Walk& walk) {
-                walk.doubleClick(1);
-                walk.doubleClick(1);
-            },
-            {"4 0: -0 +WALL -wall-2 +*door -ice -a*[1]", "4: -0 +*WALL -wall-2 +*door -ice -a*[1]",
-                "4 0: -0 +*WALL -wall-2 +*door -ice -a*[1]",
-                "4: -0 +WALL -wall-2 +*door -ice -a*[1]"},
-            "  0|[  WALL]|  wall-2|* door|  ice|  a*[1]", all);
-        row(
-            "release all turns off what is not selected",
-            [](Walk& walk) {
-                walk.click(1);
-                walk.trigger("releaseAllAction");
-            },
-            {"4 0: -0 +WALL -wall-2 +*door -ice -a*[1]", "4: -0 +WALL -wall-2 -door -ice -a*[1]"},
-            "  0|[  WALL]|  wall-2|  door|  ice|  a*[1]", all);
-        row(
-            "select all", [](Walk& walk) { walk.trigger("selectAllAction"); },
-            {"4: +0! +WALL +wall-2 +*door +ice +a*[1]"},
-            "[  0]|[  WALL]|[  wall-2]|[* door]|[  ice]|[  a*[1]]", all);
-        row(
-            "clear all leaves the star on", [](Walk& walk) { walk.trigger("clearAllAction"); },
-            {"4: -0! -WALL -wall-2 +*door -ice -a*[1]"}, "  0|  WALL|  wall-2|* door|  ice|  a*[1]",
-            all, false);
-        row(
-            "reverse", [](Walk& walk) { walk.trigger("reverseAction"); },
-            {"4: -0! -WALL +wall-2 +*door +ice +a*[1]"},
-            "  0|  WALL|[  wall-2]|* door|[  ice]|[  a*[1]]", all);
-        row(
-            "unreferenced are selected, not shown",
-            [](Walk& walk) { walk.trigger("selectUnusedAction"); }, {},
-            "  0|  WALL|[  wall-2]|* door|  ice|[  a*[1]]", all);
-        row(
-            "filter by ENTER, in any case", [](Walk& walk) { walk.filter("WALL*"); },
-            {"4: -0! +WALL +wall-2 +*door -ice -a*[1]"}, "[  WALL]|[  wall-2]", filtered(2));
-        row(
-            "filter that nothing passes", [](Walk& walk) { walk.filter("x"); },
-            {"4: -0! -WALL -wall-2 +*door -ice -a*[1]"}, "", filtered(0), false);
-        row(
-            "filter off by its box",
-            [](Walk& walk) {
-                walk.filter("WALL*");
-                walk.child<QCheckBox>("filterBox")->click();
-            },
-            {"4: -0! +WALL +wall-2 +*door -ice -a*[1]", "4: -0! +WALL +wall-2 +*door -ice -a*[1]"},
-            "  0|[  WALL]|[  wall-2]|[* door]|  ice|  a*[1]", all);
-        row(
-            "emptied pattern is no filter",
-            [](Walk& walk) {
-                walk.filter("ice");
-                walk.filters->lineEdit()->clear();
-            },
-            {"4: -0! -WALL -wall-2 +*door +ice -a*[1]", "4: -0! -WALL -wall-2 +*door +ice -a*[1]"},
-            "  0|  WALL|  wall-2|[* door]|  ice|  a*[1]", all);
-        row(
-            "a name like a pattern, copied, is itself alone",
-            [](Walk& walk) {
-                walk.click(5);
-                walk.trigger("copyAsFilterAction");
-                QCOMPARE(walk.filters->currentText(), QStringLiteral("a`*`[1`]"));
-                QTest::keyClick(walk.filters, Qt::Key_Return);
-            },
-            {"4 0: -0 -WALL -wall-2 +*door -ice +a*[1]", "4: -0 -WALL -wall-2 +*door -ice +a*[1]"},
-            "[  a*[1]]", filtered(1));
-        row(
-            "deleting the filter turns off what it let through",
-            [](Walk& walk) {
-                walk.filter("W*");
-                walk.trigger("saveFilterAction");
-                walk.trigger("saveFilterAction");
-                QCOMPARE(walk.filters->count(), 1);
-                walk.trigger("deleteFilterAction");
-                QCOMPARE(walk.filters->count(), 0);
-                QCOMPARE(walk.filters->currentText(), QString());
-            },
-            {"4: -0! +WALL +wall-2 +*door -ice -a*[1]", "4: -0! -WALL -wall-2 +*door -ice -a*[1]"},
-            "  0|  WALL|  wall-2|[* door]|  ice|  a*[1]", all);
+        row("click leaves the star on", {"click 2"}, {"4 0: --+*--"}, "..#...");
+        row("back to the current layer", {"click 1", "ctrl 0"}, {"4 0: -+-*--", "4 0: C+-*--"},
+            "##....");
+        row("keys walk too", {"click 0", "down"}, {"4 0: C--*--", "4 0: -+-*--"}, ".#....");
+        row("click below the rows only disables", {"below"}, {}, "......");
+        row("right button selects nothing", {"right 2"}, {}, "##.#..");
+        row("double click stars", {"double 1"}, {"4 0: -+-*--", "4: -*-*--"}, ".#....");
+        row("double click releases", {"double 3"}, {"4 0: ---*--", "4: ---+--"}, "...#..");
+        row("release all turns off what is not selected", {"click 1", "releaseAllAction"},
+            {"4 0: -+-*--", "4: -+----"}, ".#....");
+        row("select all", {"selectAllAction"}, {"4: C++*++"}, "######");
+        row("clear all leaves the star on", {"clearAllAction"}, {"4: c--*--"}, "......");
+        row("reverse", {"reverseAction"}, {"4: c-+*++"}, "..#.##");
+        row("unreferenced are selected, not shown", {"selectUnusedAction"}, {}, "..#..#");
+        row("filter by ENTER, in any case", {"type WALL*", "enter"}, {"4: c++*--"}, "##");
+        row("filter that nothing passes", {"type x", "enter"}, {"4: c--*--"}, "");
+        row("filter off by its box", {"type WALL*", "enter", "box"}, {"4: c++*--", "4: c++*--"},
+            ".###..");
+        row("emptied pattern is no filter", {"type ice", "enter", "type "},
+            {"4: c--*+-", "4: c--*+-"}, "...#..");
+        row("a name like a pattern, copied, is itself alone",
+            {"click 5", "copyAsFilterAction", "enter"}, {"4 0: ---*-+", "4: ---*-+"}, "#");
+        row("deleting the filter turns off what it let through",
+            {"type W*", "enter", "saveFilterAction", "saveFilterAction", "deleteFilterAction"},
+            {"4: c++*--", "4: c--*--"}, "...#..");
+        row("a filter that was not used turns nothing off",
+            {"type W*", "saveFilterAction", "deleteFilterAction"}, {"4: C+-*++"}, "##.#..");
     }
 
     void acts()
     {
-        QFETCH(Act, act);
-        QFETCH(bool, mayPurge);
+        QFETCH(QStringList, acts);
+        QFETCH(QString, rows);
         Walk walk(m_module);
         walk.dialog->show();
-        act(walk);
+        for (const QString& act : acts)
+            walk.perform(act.section(' ', 0, 0), act.section(' ', 1));
         QTEST(walk.requests, "requests");
-        QTEST(walk.rows(), "rows");
-        QTEST(walk.dialog->windowTitle(), "title");
-        QCOMPARE(walk.mayPurge(), mayPurge);
+        QCOMPARE(walk.rows(), rows);
+        QCOMPARE(walk.dialog->windowTitle(),
+            rows.size() == 6
+                ? QStringLiteral("图层漫游 - 图层数: 6")
+                : QStringLiteral("图层漫游 - 图层: 第 %1 层，共 6 层").arg(rows.size()));
+        if (!walk.requests.isEmpty())
+            QCOMPARE(walk.mayPurge(), rows.contains('#'));
+        for (int row = 0; row < walk.list->count(); ++row) // The star as the last request has it.
+            QVERIFY(rows.size() < 6 || walk.requests.isEmpty() ||
+                    walk.list->item(row)->text().startsWith('*') ==
+                        (walk.requests.last().right(6)[row] == '*'));
+        QCOMPARE(walk.filters->count(), 0);
         // The caller's tree is not the one worked on.
-        QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")),
-            QStringLiteral("+0! +WALL -wall-2 +*door +ice +a*[1]"));
+        QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")), QStringLiteral("C+-*++"));
     }
 
     void purges_data()
@@ -337,9 +275,10 @@ private slots:
         }
         // The current layer, hidden by the walk, is current again before.
         QCOMPARE(walk.requests.size(), 2);
-        QVERIFY(walk.requests[0].startsWith("4: ") && walk.requests[0].contains("-ice!"));
+        QVERIFY(walk.requests[0].startsWith("4: ") && walk.requests[0].at(7) == 'c');
         QVERIFY2(walk.requests[1].startsWith(request), qPrintable(walk.requests[1]));
-        QCOMPARE(walk.rows(), QStringLiteral("[  left]|  x"));
+        QCOMPARE(walk.texts(), (QStringList{"  left", "  x"}));
+        QCOMPARE(walk.rows(), QStringLiteral("#."));
         QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: 2"));
     }
 
@@ -427,25 +366,19 @@ private slots:
         QCOMPARE(shown, (QStringList{"60", "1200", "0"}));
     }
 
-    void savesState_data()
-    {
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QStringList>("requests");
-        QTest::newRow("named") << 1 << QStringList{"1: +0! +WALL -wall-2 +*door +ice +a*[1]"};
-        QTest::newRow("cancelled") << 2 << QStringList();
-    }
-
     void savesState()
     {
-        QFETCH(int, result);
         Walk walk(m_module);
         walk.answer = [](const VnJsonPtr& root) {
             QCOMPARE(toJsonObject(root->GetDataJ("parameter"))["LayerStateNewName"].toString(),
                 QStringLiteral("S"));
         };
-        walk.host.answer(result, R"({"LayerStateNewName":"S"})");
-        walk.trigger("saveStateAction");
-        QTEST(walk.requests, "requests");
+        for (const int result : {2, 1}) {
+            QVERIFY(walk.requests.isEmpty()); // Not when cancelled.
+            walk.host.answer(result, R"({"LayerStateNewName":"S"})");
+            walk.trigger("saveStateAction");
+        }
+        QCOMPARE(walk.requests, QStringList{"1: C+-*++"});
         QCOMPARE(walk.host.log().first(),
             QStringLiteral("dialog|Dialog/CmdLayer|Dialog/CmdLayerStateNew|"));
     }
@@ -493,7 +426,7 @@ private slots:
         QCOMPARE(asked.size(), restores ? 0 : 2);
         QCOMPARE(walk.requests.size(), restores ? 2 : 1);
         if (restores)
-            QCOMPARE(walk.requests[1], QStringLiteral("4: +0! +WALL -wall-2 +*door +ice +a*[1]"));
+            QCOMPARE(walk.requests[1], QStringLiteral("4: C+-*++"));
         else
             QVERIFY(asked.first().startsWith(
                 "messageEx|图层 - 图层状态更改|关闭对话框时某些图层状态可能会发生更改。希望执行什么"
@@ -506,37 +439,6 @@ private slots:
         QCOMPARE(again.filters->itemText(0), QStringLiteral("A*"));
         QCOMPARE(again.filters->currentIndex(), -1);
         QCOMPARE(again.filters->currentText(), QString());
-    }
-
-    void picks_data()
-    {
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("rows");
-        QTest::newRow("picked") << R"({"laywalkpickLNameS":["WALL-2","DOOR"]})"
-                                << "  0|  WALL|[  wall-2]|[* door]|  ice|  a*[1]";
-        QTest::newRow("cancelled, or not known")
-            << "{}"
-            << "[  0]|[  WALL]|  wall-2|[* door]|  ice|  a*[1]";
-    }
-
-    void picks()
-    {
-        QFETCH(QString, answer);
-        Walk walk(m_module);
-        walk.answer = [&](const VnJsonPtr& root) {
-            if (root->GetDataI("marker") != 13)
-                return;
-            QVERIFY(!walk.dialog->isVisible());
-            merge(root, answer);
-        };
-        ModalDriver user;
-        user.then([&](QDialog&) { walk.child<QToolButton>("pickButton")->click(); });
-        user.then([&](QDialog& shownAgain) {
-            QTEST(walk.rows(), "rows");
-            QCOMPARE(walk.requests.size(), answer == "{}" ? 1 : 2);
-            shownAgain.close();
-        });
-        QCOMPARE(walk.wrapper->doModal(), 2);
     }
 
     void badInput_data()
@@ -564,8 +466,10 @@ private slots:
         for (QAction* action : walk.dialog->findChild<QMenu*>()->actions())
             action->trigger();
         for (const QString& pattern : {QString(10000, '*') + "a[" + QString(10000, '?'),
-                 QStringLiteral("[a"), QString("~*,").repeated(5000)})
-            walk.filter(pattern);
+                 QStringLiteral("[a"), QString("~*,").repeated(5000)}) {
+            walk.perform("type", pattern);
+            walk.perform("enter", {});
+        }
         QVERIFY(walk.child<QPushButton>("closeButton")->isEnabled());
     }
 
@@ -574,7 +478,7 @@ private slots:
         Walk walk(m_module, treeText(R"([{"LayerName":"a"},{"LayerName":"b"},{"LayerName":"a"}])"));
         walk.dialog->show();
         walk.click(0);
-        QVERIFY(walk.requests.last().contains(": +a -b +a!"));
+        QVERIFY(walk.requests.last().contains(": +-C"));
     }
 
 private:
