@@ -16,6 +16,7 @@ void WalkLayers::take(const VnJsonPtr& layers)
     m_list = m_tree ? m_tree->GetDataJ(layerkey::kList) : VnJsonPtr();
     m_current = -1;
     const int count = m_list.ArrayCount();
+    m_names.assign(static_cast<std::size_t>(count), {});
     m_firstOfName.assign(static_cast<std::size_t>(count), 0);
     std::unordered_map<std::wstring, int> firsts;
     firsts.reserve(m_firstOfName.size());
@@ -23,8 +24,9 @@ void WalkLayers::take(const VnJsonPtr& layers)
         const LayerRecord layer = record(i);
         if (layer.isCurrent())
             m_current = i;
+        m_names[static_cast<std::size_t>(i)] = layer.name();
         m_firstOfName[static_cast<std::size_t>(i)] =
-            firsts.emplace(layer.name().view(), i).first->second;
+            firsts.emplace(name(i).view(), i).first->second;
     }
 }
 

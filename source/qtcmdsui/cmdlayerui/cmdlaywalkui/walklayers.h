@@ -23,7 +23,7 @@ public:
     const VnJsonPtr& tree() const { return m_tree; }
     int count() const { return static_cast<int>(m_firstOfName.size()); }
     LayerRecord record(int index) const { return LayerRecord(m_list(index)); }
-    OdString name(int index) const { return record(index).name(); }
+    const OdString& name(int index) const { return m_names[static_cast<std::size_t>(index)]; }
     /// Of the record that was the current layer's when the tree came; empty when there is none.
     OdString currentName() const;
     bool isPinned(int index) const;
@@ -50,6 +50,7 @@ private:
 
     VnJsonPtr m_tree;
     VnJsonPtr m_list;
+    std::vector<OdString> m_names;  ///< The walk changes none, and reads them often.
     std::vector<int> m_firstOfName; ///< For each record the first one of its name.
     int m_current = -1;
 };
