@@ -335,26 +335,8 @@ private slots:
         QTEST(enabled, "enabled");
     }
 
-    void verifies()
+    void verifyReportsOnly()
     {
-        Walk walk(m_module);
-        walk.host.setLogsTrees(true);
-        walk.list->selectAll();
-        walk.answer = [](const VnJsonPtr& root) {
-            QVERIFY(root->GetDataJ("parameter")->GetDataJ("LayerList")(5)->GetDataB("IsSelected"));
-            QVERIFY(!root->GetDataI("SelectLayerEntitys")); // An old answer is gone.
-            root->SetDataI("LayerCount", 60);
-            root->SetDataI("SelectLayerEntitys", 7);
-        };
-        walk.root->SetDataI("SelectLayerEntitys", 99);
-        walk.host.answer(2);
-        walk.trigger("verifyAction");
-        QCOMPARE(walk.requests.size(), 1);
-        const QString opened = walk.host.log().last();
-        QVERIFY(opened.startsWith("dialog|Dialog/CmdLayer|Dialog/CmdLaywalk/Verify|"));
-        QCOMPARE(opened.section('|', 3),
-            QStringLiteral(R"({"LayerCount":60,"SelectLayerCount":6,"SelectLayerEntitys":7})"));
-
         const auto report = m_module.createDialog(
             "Dialog/CmdLaywalk/Verify", tree(R"({"LayerCount":60,"SelectLayerCount":1200})"));
         QStringList shown;
@@ -364,23 +346,6 @@ private slots:
             QVERIFY(edit->isReadOnly());
         }
         QCOMPARE(shown, (QStringList{"60", "1200", "0"}));
-    }
-
-    void savesState()
-    {
-        Walk walk(m_module);
-        walk.answer = [](const VnJsonPtr& root) {
-            QCOMPARE(toJsonObject(root->GetDataJ("parameter"))["LayerStateNewName"].toString(),
-                QStringLiteral("S"));
-        };
-        for (const int result : {2, 1}) {
-            QVERIFY(walk.requests.isEmpty()); // Not when cancelled.
-            walk.host.answer(result, R"({"LayerStateNewName":"S"})");
-            walk.trigger("saveStateAction");
-        }
-        QCOMPARE(walk.requests, QStringList{"1: C+-*++"});
-        QCOMPARE(walk.host.log().first(),
-            QStringLiteral("dialog|Dialog/CmdLayer|Dialog/CmdLayerStateNew|"));
     }
 
     void closes_data()

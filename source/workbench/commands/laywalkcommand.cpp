@@ -254,8 +254,8 @@ void LayerWalkCommand::pose(CommandContext& context, const Camera& camera)
     const VnJsonPtr layers = makeLayers();
     tree->SetDataJ(walkkey::kLayers, layers);
     const VnJsonPtr list = layers->GetDataJ(key::kList);
-    if (const VnJsonPtr second = list(1))
-        second->SetDataB(walkkey::kAlwaysShow, true);
+    if (const VnJsonPtr pinned = list(2))
+        pinned->SetDataB(walkkey::kAlwaysShow, true);
     posing::showDialog(kService, kDialog, tree, camera, QStringLiteral("layer-walk"));
     for (int i = 0, count = list.ArrayCount(); i < count; i += 2)
         list(i)->SetDataB(walkkey::kIsSelected, true);
