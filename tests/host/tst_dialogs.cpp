@@ -5,6 +5,7 @@
 #include "modaldriver.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
+#include "rows.h"
 #include "trees.h"
 #include "vneditprimitive.h"
 #include "vnservicedict.h"
@@ -19,30 +20,6 @@
 using vnsi::VnJsonPtr;
 
 Q_DECLARE_METATYPE(OdString)
-
-class TestDialogs : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void givesZeroWithoutADialog_data();
-    void givesZeroWithoutADialog();
-    void reportsWhatADialogThrows();
-    void renames_data();
-    void renames();
-    void splitsFilters_data();
-    void splitsFilters();
-    void readsFileKeys_data();
-    void readsFileKeys();
-    void answersWithPaths();
-    void adoptsTheParent();
-    void helpBelongsToItsDialog();
-    void recordsInOrder();
-    void saysWhyAModuleCannotBeLoaded();
-
-private:
-    host::Host m_host;
-};
 
 namespace {
 
@@ -68,240 +45,234 @@ VnJsonPtr showFile(const QString& keys)
 
 } // namespace
 
-void TestDialogs::givesZeroWithoutADialog_data()
+class TestDialogs : public QObject
 {
-    QTest::addColumn<OdString>("service");
-    QTest::addColumn<OdString>("dialog");
-    QTest::newRow("no service") << OdString(L"No/Service") << OdString(L"ColorDialog");
-    QTest::newRow("no dialog service") << OdString(L"Core/DocMgr") << OdString(L"ColorDialog");
-    QTest::newRow("no dialog") << OdString(L"Dialog/Common") << OdString(L"NoDialog");
-    QTest::newRow("other service") << OdString(L"Dialog/CmdsUI") << OdString(L"ColorDialog");
-}
+    Q_OBJECT
 
-void TestDialogs::givesZeroWithoutADialog()
-{
-    QFETCH(OdString, service);
-    QFETCH(OdString, dialog);
-    const VnJsonPtr keys = tree("{\"result\":1}");
-    QVERIFY(vnsi::vnuiShowModelDialogEx(service, dialog, keys, {}, nullptr) == keys);
-    QCOMPARE(keys->GetDataI("result", -1), 0);
-    QCOMPARE(vnsi::vnuiShowModelDialog(service, dialog, {})->GetDataI("result", -1), 0);
-}
-
-void TestDialogs::reportsWhatADialogThrows()
-{
-    vnsi::vn_arbitDict_regservice(L"Test", OdRxObjectImpl<ThrowingService>::createObject());
-    RecordingHost user;
-    user.passThrough("X");
-    QCOMPARE(vnsi::vnuiShowModelDialog(L"Test", L"X", {})->GetDataI("result", -1), 0);
-    QCOMPARE(user.log().last(), QStringLiteral("message|对话框“X”出错: broken|Quenlith|48"));
-    vnsi::vn_arbitDict_clearservice(L"Test");
-}
-
-void TestDialogs::renames_data()
-{
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("accepts");
-    QTest::addColumn<QString>("labels");
-    QTest::addColumn<QString>("answers");
-    QTest::newRow("typed over") << "{\"DefaultName\":\"墙\"}"
-                                << "门" << true << "重命名|名称(&N):|墙"
-                                << "{\"DefaultName\":\"墙\",\"NewName\":\"门\",\"Success\":true,"
-                                   "\"result\":1}";
-    QTest::newRow("kept") << "{\"DefaultName\":\" a \"}"
-                          << "" << true << "重命名|名称(&N):| a "
-                          << "{\"DefaultName\":\" a \",\"NewName\":\" a \",\"Success\":true,"
-                             "\"result\":1}";
-    QTest::newRow("cancelled") << "{\"DefaultName\":\"a\"}"
-                               << "b" << false << "重命名|名称(&N):|a"
-                               << "{\"DefaultName\":\"a\",\"Success\":false,\"result\":2}";
-    QTest::newRow("description, nothing checked")
-        << "{\"Tip\":\"说明(&D):\"}"
-        << "<>/*" << true << "说明|说明(&D):|"
-        << "{\"NewName\":\"<>/*\",\"Success\":true,\"Tip\":\"说明(&D):\",\"result\":1}";
-}
-
-void TestDialogs::renames()
-{
-    QFETCH(QString, keys);
-    QFETCH(QString, typed);
-    QFETCH(bool, accepts);
-    QFETCH(QString, labels);
-    ModalDriver driver;
-    driver.then([&](QDialog& dialog) {
-        auto* const name = dialog.findChild<QLineEdit*>("name");
-        const QString tip = dialog.findChild<QLabel*>("tip")->text();
-        const QStringList seen{dialog.windowTitle(), tip, name->text()};
-        QCOMPARE(seen.join('|'), labels);
-        if (!typed.isEmpty())
-            name->insert(typed); // Replaces the text, which is selected.
-        QTest::keyClick(name, accepts ? Qt::Key_Return : Qt::Key_Escape);
-    });
-    QTEST(toText(showRename(tree(keys))), "answers");
-}
-
-void TestDialogs::splitsFilters_data()
-{
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QStringList>("entries");
-    QTest::addColumn<QString>("extension");
-    const auto row = [](const char* filter, const QStringList& entries, const char* extension) {
-        QTest::newRow(filter) << QString::fromUtf8(filter) << entries
-                              << QString::fromUtf8(extension);
-    };
-    row("图层状态(*.las)", {"图层状态(*.las)"}, "las");
-    row("A(*.a);;B(*.b)", {"A(*.a)", "B(*.b)"}, "a");
-    row("A(*.a)  B(*.b *.c)", {"A(*.a)", "B(*.b *.c)"}, "a");
-    row("A(*.a;*.b)|所有(*.*)", {"A(*.a *.b)", "所有(*.*)"}, "a");
-    row("所有(*.*)", {"所有(*.*)"}, "");
-    row("dwg dxf", {"*.dwg *.dxf"}, "dwg");
-    row(" ;; | ", {}, "");
-}
-
-void TestDialogs::splitsFilters()
-{
-    QFETCH(QString, filter);
-    const QStringList entries = host::splitFilters(filter);
-    QTEST(entries, "entries");
-    QTEST(host::firstExtension(entries.value(0)), "extension");
-}
-
-void TestDialogs::readsFileKeys_data()
-{
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>(
-        "seen"); // Title, for opening, several files, selected filter, suffix.
-    QTest::newRow("layer-state export")
-        << "{\"caption\":\"输出图层状态\",\"Open\":false,\"MutiFile\":false,"
-           "\"filter\":\"图层状态(*.las)\",\"defFilter\":\"图层状态(*.las)\"}"
-        << "输出图层状态|0|0|图层状态(*.las)|las";
-    QTest::newRow("title before caption") << "{\"title\":\"t\",\"caption\":\"c\"}"
-                                          << "t|1|0|所有文件 (*)|";
-    QTest::newRow("several to open")
-        << "{\"title\":\"t\",\"Open\":true,\"MutiFile\":true,\"filter\":\"A(*.a);;B(*.b)\","
-           "\"defFilter\":\"B(*.b)\"}"
-        << "t|1|1|B(*.b)|";
-    QTest::newRow("saved by flag") << "{\"title\":\"t\",\"flags\":1,\"filter\":\"A(*.a)\"}"
-                                   << "t|0|0|A(*.a)|a";
-    QTest::newRow("opened in spite of the flag")
-        << "{\"title\":\"t\",\"flags\":1,\"Open\":true,\"filter\":\"A(*.a)\"}"
-        << "t|1|0|A(*.a)|";
-    QTest::newRow("keys of other types") << "{\"title\":1,\"filter\":true,\"dir\":{},\"Open\":5}"
-                                         << "选择文件|1|0|所有文件 (*)|";
-}
-
-void TestDialogs::readsFileKeys()
-{
-    QFETCH(QString, keys);
-    QString seen;
-    ModalDriver driver;
-    driver.then([&](QDialog& dialog) {
-        const auto& files = dynamic_cast<QFileDialog&>(dialog);
-        seen = QStringList{files.windowTitle(),
-            QString::number(files.acceptMode() == QFileDialog::AcceptOpen),
-            QString::number(files.fileMode() == QFileDialog::ExistingFiles),
-            files.selectedNameFilter(), files.defaultSuffix()}
-                   .join('|');
-        dialog.reject();
-    });
-    const VnJsonPtr answer = showFile(keys);
-    QTEST(seen, "seen");
-    QCOMPARE(answer->GetDataI("result"), 2);
-    QVERIFY(!answer->HasKey("filePath"));
-}
-
-void TestDialogs::answersWithPaths()
-{
-    const QTemporaryDir folder;
-    const QString keys = QStringLiteral("{\"dir\":\"%1\",\"defawlt\":\"状态\",\"Open\":false,"
-                                        "\"filter\":\"S(*.las)\",\"filePaths\":[\"stale\"]}")
-                             .arg(folder.path());
-    ModalDriver driver;
-    driver.then([](QDialog& dialog) { dialog.accept(); });
-    VnJsonPtr answer = showFile(keys);
-    QCOMPARE(answer->GetDataI("result"), 1);
-    const QString path = folder.filePath("状态.las");
-    QCOMPARE(QString::fromUtf8(answer->GetDataS("filePath").c_str()), path);
-    QVERIFY(!answer->HasKey("filePaths"));
-
-    for (const char* name : {"a.dws", "b.dws"}) {
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+private slots:
+    void givesZeroWithoutADialog_data()
+    {
+        const Rows<OdString, OdString> row("service", "dialog");
+        row("no service", L"No/Service", L"ColorDialog");
+        row("no dialog service", L"Core/DocMgr", L"ColorDialog");
+        row("no dialog", L"Dialog/Common", L"NoDialog");
+        row("other service", L"Dialog/CmdsUI", L"ColorDialog");
     }
-    driver.then([](QDialog& dialog) {
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("\"a.dws\" \"b.dws\"");
-        dialog.accept();
-    });
-    answer = showFile(
-        QStringLiteral("{\"dir\":\"%1\",\"Open\":true,\"MutiFile\":true}").arg(folder.path()));
-    QCOMPARE(answer->GetDataJ("filePaths").ArrayCount(), 2);
-    QCOMPARE(QString::fromUtf8(answer->GetDataS("filePath").c_str()), folder.filePath("a.dws"));
-}
 
-void TestDialogs::adoptsTheParent()
-{
-    QWidget main, other;
-    host::setMainWindow(&main);
-    QVERIFY(vnsi::qt_windowHandle_to_widget(vnsi::vnuiCurTargetWindow()) == &main);
-    QVERIFY(!vnsi::qt_windowHandle_to_widget(nullptr));
-    ModalDriver driver;
-    driver.then([&](QDialog& dialog) {
-        QCOMPARE(dialog.parentWidget(), &other);
-        QVERIFY(vnsi::qt_windowHandle_to_widget(vnsi::vnuiCurTargetWindow()) == &dialog);
-        dialog.reject();
-    });
-    vnsi::vnuiShowModelDialogEx(L"Dialog/CmdsUI", L"Dialog/CmdsUI/ReNameDlg", {}, {}, &other);
-    QVERIFY(vnsi::qt_windowHandle_to_widget(vnsi::vnuiCurTargetWindow()) == &main);
-}
+    void givesZeroWithoutADialog()
+    {
+        QFETCH(OdString, service);
+        QFETCH(OdString, dialog);
+        const VnJsonPtr keys = tree("{\"result\":1}");
+        QVERIFY(vnsi::vnuiShowModelDialogEx(service, dialog, keys, {}, nullptr) == keys);
+        QCOMPARE(keys->GetDataI("result", -1), 0);
+        QCOMPARE(vnsi::vnuiShowModelDialog(service, dialog, {})->GetDataI("result", -1), 0);
+    }
 
-void TestDialogs::helpBelongsToItsDialog()
-{
-    ModalDriver driver;
-    driver.then([](QDialog& dialog) {
-        const auto server = vnsi::VnEditPrimitiveServer::cast(
-            vnsi::vn_arbitDict_getservice(L"Core/EditPrimitiveServer").get());
-        dialog.setObjectName("Dialog_CmdLaywalk");
-        server->help(0);
-        server->help(0);
-        const QList<QDialog*> windows = dialog.findChildren<QDialog*>("helpWindow");
-        QCOMPARE(windows.size(), 1);
-        QCOMPARE(windows.first()->windowTitle(), QStringLiteral("帮助 - 图层漫游"));
-        QVERIFY(!windows.first()->isModal());
-        const auto* const text = windows.first()->findChild<QTextBrowser*>("helpText");
-        QVERIFY(text->toPlainText().contains("通配符"));
-        dialog.reject();
-    });
-    showRename({});
-}
+    void reportsWhatADialogThrows()
+    {
+        vnsi::vn_arbitDict_regservice(L"Test", OdRxObjectImpl<ThrowingService>::createObject());
+        RecordingHost user;
+        user.passThrough("X");
+        QCOMPARE(vnsi::vnuiShowModelDialog(L"Test", L"X", {})->GetDataI("result", -1), 0);
+        QCOMPARE(user.log().last(), QStringLiteral("message|对话框“X”出错: broken|Quenlith|48"));
+        vnsi::vn_arbitDict_clearservice(L"Test");
+    }
 
-void TestDialogs::recordsInOrder()
-{
-    RecordingHost user;
-    user.answer(1, "{\"selectClr\":3,\"list\":[1]}");
-    const auto command = RecordingInvoker::create(
-        user, {"a"}, [](const VnJsonPtr& node) { node->SetDataB("IsExistBlock", true); });
-    const VnJsonPtr keys = tree("{\"a\":1,\"b\":2,\"marker\":6}");
-    command->invoke(keys);
-    const VnJsonPtr answer = vnsi::vnuiShowModelDialog(L"S", L"D", keys);
-    QCOMPARE(answer->GetDataI("selectClr"), 3);
-    QCOMPARE(answer->GetDataI("result"), 1);
-    QVERIFY(answer->GetDataB("IsExistBlock"));
-    QCOMPARE(
-        user.takeLog(), (QStringList{"request|6|-1|{\"a\":1}",
-                            "dialog|S|D|{\"IsExistBlock\":true,\"a\":1,\"b\":2,\"marker\":6}"}));
-}
+    void renames_data()
+    {
+        const Rows<QString, QString, bool, QString, QString> row(
+            "keys", "typed", "accepts", "labels", "answers");
+        row("typed over", "{\"DefaultName\":\"墙\"}", "门", true, "重命名|名称(&N):|墙",
+            "{\"DefaultName\":\"墙\",\"NewName\":\"门\",\"Success\":true,"
+            "\"result\":1}");
+        row("kept", "{\"DefaultName\":\" a \"}", "", true, "重命名|名称(&N):| a ",
+            "{\"DefaultName\":\" a \",\"NewName\":\" a \",\"Success\":true,"
+            "\"result\":1}");
+        row("cancelled", "{\"DefaultName\":\"a\"}", "b", false, "重命名|名称(&N):|a",
+            "{\"DefaultName\":\"a\",\"Success\":false,\"result\":2}");
+        row("description, nothing checked", "{\"Tip\":\"说明(&D):\"}", "<>/*", true,
+            "说明|说明(&D):|",
+            "{\"NewName\":\"<>/*\",\"Success\":true,\"Tip\":\"说明(&D):\",\"result\":1}");
+    }
 
-void TestDialogs::saysWhyAModuleCannotBeLoaded()
-{
-    const QTemporaryDir folder;
-    QVERIFY(m_host.loadModule(folder.filePath("none.so")).contains("文件不存在"));
-    QFile broken(folder.filePath("broken.so"));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no library") > 0);
-    broken.close();
-    QVERIFY(m_host.loadModule(broken.fileName()).startsWith("无法加载模块“"));
-    QVERIFY(!m_host.isModuleLoaded());
-}
+    void renames()
+    {
+        QFETCH(QString, keys);
+        QFETCH(QString, typed);
+        QFETCH(bool, accepts);
+        QFETCH(QString, labels);
+        ModalDriver driver;
+        driver.then([&](QDialog& dialog) {
+            auto* const name = dialog.findChild<QLineEdit*>("name");
+            const QString tip = dialog.findChild<QLabel*>("tip")->text();
+            const QStringList seen{dialog.windowTitle(), tip, name->text()};
+            QCOMPARE(seen.join('|'), labels);
+            if (!typed.isEmpty())
+                name->insert(typed); // Replaces the text, which is selected.
+            QTest::keyClick(name, accepts ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        QTEST(toText(showRename(tree(keys))), "answers");
+    }
+
+    void splitsFilters_data()
+    {
+        const Rows<QString, QStringList, QString> rows("filter", "entries", "extension");
+        const auto row = [&](const char* filter, const QStringList& entries,
+                             const char* extension) { rows(filter, filter, entries, extension); };
+        row("图层状态(*.las)", {"图层状态(*.las)"}, "las");
+        row("A(*.a);;B(*.b)", {"A(*.a)", "B(*.b)"}, "a");
+        row("A(*.a)  B(*.b *.c)", {"A(*.a)", "B(*.b *.c)"}, "a");
+        row("A(*.a;*.b)|所有(*.*)", {"A(*.a *.b)", "所有(*.*)"}, "a");
+        row("所有(*.*)", {"所有(*.*)"}, "");
+        row("dwg dxf", {"*.dwg *.dxf"}, "dwg");
+        row(" ;; | ", {}, "");
+    }
+
+    void splitsFilters()
+    {
+        QFETCH(QString, filter);
+        const QStringList entries = host::splitFilters(filter);
+        QTEST(entries, "entries");
+        QTEST(host::firstExtension(entries.value(0)), "extension");
+    }
+
+    void readsFileKeys_data()
+    {
+        // Seen are title, for opening, several files, selected filter, suffix.
+        const Rows<QString, QString> row("keys", "seen");
+        row("layer-state export",
+            "{\"caption\":\"输出图层状态\",\"Open\":false,\"MutiFile\":false,"
+            "\"filter\":\"图层状态(*.las)\",\"defFilter\":\"图层状态(*.las)\"}",
+            "输出图层状态|0|0|图层状态(*.las)|las");
+        row("title before caption", "{\"title\":\"t\",\"caption\":\"c\"}", "t|1|0|所有文件 (*)|");
+        row("several to open",
+            "{\"title\":\"t\",\"Open\":true,\"MutiFile\":true,\"filter\":\"A(*.a);;B(*.b)\","
+            "\"defFilter\":\"B(*.b)\"}",
+            "t|1|1|B(*.b)|");
+        row("saved by flag", "{\"title\":\"t\",\"flags\":1,\"filter\":\"A(*.a)\"}",
+            "t|0|0|A(*.a)|a");
+        row("opened in spite of the flag",
+            "{\"title\":\"t\",\"flags\":1,\"Open\":true,\"filter\":\"A(*.a)\"}", "t|1|0|A(*.a)|");
+        row("keys of other types", "{\"title\":1,\"filter\":true,\"dir\":{},\"Open\":5}",
+            "选择文件|1|0|所有文件 (*)|");
+    }
+
+    void readsFileKeys()
+    {
+        QFETCH(QString, keys);
+        QString seen;
+        ModalDriver driver;
+        driver.then([&](QDialog& dialog) {
+            const auto& files = dynamic_cast<QFileDialog&>(dialog);
+            seen = QStringList{files.windowTitle(),
+                QString::number(files.acceptMode() == QFileDialog::AcceptOpen),
+                QString::number(files.fileMode() == QFileDialog::ExistingFiles),
+                files.selectedNameFilter(), files.defaultSuffix()}
+                       .join('|');
+            dialog.reject();
+        });
+        const VnJsonPtr answer = showFile(keys);
+        QTEST(seen, "seen");
+        QCOMPARE(answer->GetDataI("result"), 2);
+        QVERIFY(!answer->HasKey("filePath"));
+    }
+
+    void answersWithPaths()
+    {
+        const QTemporaryDir folder;
+        const QString keys = QStringLiteral("{\"dir\":\"%1\",\"defawlt\":\"状态\",\"Open\":false,"
+                                            "\"filter\":\"S(*.las)\",\"filePaths\":[\"stale\"]}")
+                                 .arg(folder.path());
+        ModalDriver driver;
+        driver.then([](QDialog& dialog) { dialog.accept(); });
+        VnJsonPtr answer = showFile(keys);
+        QCOMPARE(answer->GetDataI("result"), 1);
+        const QString path = folder.filePath("状态.las");
+        QCOMPARE(QString::fromUtf8(answer->GetDataS("filePath").c_str()), path);
+        QVERIFY(!answer->HasKey("filePaths"));
+
+        for (const char* name : {"a.dws", "b.dws"}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        driver.then([](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText("\"a.dws\" \"b.dws\"");
+            dialog.accept();
+        });
+        answer = showFile(
+            QStringLiteral("{\"dir\":\"%1\",\"Open\":true,\"MutiFile\":true}").arg(folder.path()));
+        QCOMPARE(answer->GetDataJ("filePaths").ArrayCount(), 2);
+        QCOMPARE(QString::fromUtf8(answer->GetDataS("filePath").c_str()), folder.filePath("a.dws"));
+    }
+
+    void adoptsTheParent()
+    {
+        QWidget main, other;
+        host::setMainWindow(&main);
+        QVERIFY(vnsi::qt_windowHandle_to_widget(vnsi::vnuiCurTargetWindow()) == &main);
+        QVERIFY(!vnsi::qt_windowHandle_to_widget(nullptr));
+        ModalDriver driver;
+        driver.then([&](QDialog& dialog) {
+            QCOMPARE(dialog.parentWidget(), &other);
+            QVERIFY(vnsi::qt_windowHandle_to_widget(vnsi::vnuiCurTargetWindow()) == &dialog);
+            dialog.reject();
+        });
+        vnsi::vnuiShowModelDialogEx(L"Dialog/CmdsUI", L"Dialog/CmdsUI/ReNameDlg", {}, {}, &other);
+        QVERIFY(vnsi::qt_windowHandle_to_widget(vnsi::vnuiCurTargetWindow()) == &main);
+    }
+
+    void helpBelongsToItsDialog()
+    {
+        ModalDriver driver;
+        driver.then([](QDialog& dialog) {
+            const auto server = vnsi::VnEditPrimitiveServer::cast(
+                vnsi::vn_arbitDict_getservice(L"Core/EditPrimitiveServer").get());
+            dialog.setObjectName("Dialog_CmdLaywalk");
+            server->help(0);
+            server->help(0);
+            const QList<QDialog*> windows = dialog.findChildren<QDialog*>("helpWindow");
+            QCOMPARE(windows.size(), 1);
+            QCOMPARE(windows.first()->windowTitle(), QStringLiteral("帮助 - 图层漫游"));
+            QVERIFY(!windows.first()->isModal());
+            const auto* const text = windows.first()->findChild<QTextBrowser*>("helpText");
+            QVERIFY(text->toPlainText().contains("通配符"));
+            dialog.reject();
+        });
+        showRename({});
+    }
+
+    void recordsInOrder()
+    {
+        RecordingHost user;
+        user.answer(1, "{\"selectClr\":3,\"list\":[1]}");
+        const auto command = RecordingInvoker::create(
+            user, {"a"}, [](const VnJsonPtr& node) { node->SetDataB("IsExistBlock", true); });
+        const VnJsonPtr keys = tree("{\"a\":1,\"b\":2,\"marker\":6}");
+        command->invoke(keys);
+        const VnJsonPtr answer = vnsi::vnuiShowModelDialog(L"S", L"D", keys);
+        QCOMPARE(answer->GetDataI("selectClr"), 3);
+        QCOMPARE(answer->GetDataI("result"), 1);
+        QVERIFY(answer->GetDataB("IsExistBlock"));
+        QCOMPARE(user.takeLog(),
+            (QStringList{"request|6|-1|{\"a\":1}",
+                "dialog|S|D|{\"IsExistBlock\":true,\"a\":1,\"b\":2,\"marker\":6}"}));
+    }
+
+    void saysWhyAModuleCannotBeLoaded()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(m_host.loadModule(folder.filePath("none.so")).contains("文件不存在"));
+        QFile broken(folder.filePath("broken.so"));
+        QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no library") > 0);
+        broken.close();
+        QVERIFY(m_host.loadModule(broken.fileName()).startsWith("无法加载模块“"));
+        QVERIFY(!m_host.isModuleLoaded());
+    }
+
+private:
+    host::Host m_host;
+};
 
 QTEST_MAIN(TestDialogs)
 #include "tst_dialogs.moc"

@@ -2,6 +2,7 @@
 #include "documents.h"
 #include "hoststart.h"
 #include "requests.h"
+#include "rows.h"
 #include "vnservicedict.h"
 
 #include <QThread>
@@ -11,23 +12,6 @@
 #include <memory>
 
 using Request = OdRxObjectImpl<vnsi::VnsiRequest>;
-
-class TestRequests : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void runsOnTheInterfaceThread();
-    void refusesOtherObjects_data();
-    void refusesOtherObjects();
-    void endsWaitingWhenTheWorkThrows();
-    void knowsWhereItRuns();
-    void keepsServicesByName();
-    void namesTheCurrentDocument();
-
-private:
-    host::Host m_host;
-};
 
 namespace {
 
@@ -57,95 +41,105 @@ int postElsewhere(std::function<void()> work)
 
 } // namespace
 
-void TestRequests::runsOnTheInterfaceThread()
+class TestRequests : public QObject
 {
-    const QThread* ranOn = nullptr;
-    int marked = 0;
-    QCOMPARE(postElsewhere([&] {
-        ranOn = QThread::currentThread();
-        marked = host::markedScraps();
-    }),
-        static_cast<int>(vnsi::kVnRequestDone));
-    QCOMPARE(ranOn, QThread::currentThread());
-    QCOMPARE(marked, 1);
-    QCOMPARE(host::markedScraps(), 0);
+    Q_OBJECT
 
-    bool ranAtOnce = false;
-    const int status =
-        proxy()->post(L"proxyRequest", Request::createObject([&] { ranAtOnce = true; }));
-    QVERIFY(ranAtOnce);
-    QCOMPARE(status, static_cast<int>(vnsi::kVnRequestDone));
-    QCOMPARE(proxy()->serviceReply(), static_cast<int>(vnsi::kVnRequestDone));
-}
-
-void TestRequests::refusesOtherObjects_data()
-{
-    QTest::addColumn<bool>("isNull");
-    QTest::newRow("null") << true;
-    QTest::newRow("document") << false;
-}
-
-void TestRequests::refusesOtherObjects()
-{
-    QFETCH(bool, isNull);
-    const OdRxObjectPtr other = isNull ? OdRxObjectPtr() : OdRxObjectPtr(host::makeDocument());
-    QVERIFY_EXCEPTION_THROWN(proxy()->post(L"proxyRequest", other), OdError_NotThatKindOfClass);
-    QVERIFY_EXCEPTION_THROWN(proxy()->post(L"other", other), OdError);
-}
-
-void TestRequests::endsWaitingWhenTheWorkThrows()
-{
-    QCOMPARE(postElsewhere([] { throw std::runtime_error("broken"); }),
-        static_cast<int>(vnsi::kVnRequestDone));
-}
-
-void TestRequests::knowsWhereItRuns()
-{
-    QVERIFY(vnsi::vnedIsRunningInUI());
-    QVERIFY(!vnsi::vnedIsRunningInCommand());
+private slots:
+    void runsOnTheInterfaceThread()
     {
-        const host::CommandScope outer;
-        {
-            const host::CommandScope inner;
-        }
-        QVERIFY(vnsi::vnedIsRunningInCommand());
+        const QThread* ranOn = nullptr;
+        int marked = 0;
+        QCOMPARE(postElsewhere([&] {
+            ranOn = QThread::currentThread();
+            marked = host::markedScraps();
+        }),
+            static_cast<int>(vnsi::kVnRequestDone));
+        QCOMPARE(ranOn, QThread::currentThread());
+        QCOMPARE(marked, 1);
+        QCOMPARE(host::markedScraps(), 0);
+
+        bool ranAtOnce = false;
+        const int status =
+            proxy()->post(L"proxyRequest", Request::createObject([&] { ranAtOnce = true; }));
+        QVERIFY(ranAtOnce);
+        QCOMPARE(status, static_cast<int>(vnsi::kVnRequestDone));
+        QCOMPARE(proxy()->serviceReply(), static_cast<int>(vnsi::kVnRequestDone));
     }
-    QVERIFY(!vnsi::vnedIsRunningInCommand());
-    bool elsewhere = true;
-    std::unique_ptr<QThread> thread(
-        QThread::create([&] { elsewhere = vnsi::vnedIsRunningInUI(); }));
-    thread->start();
-    QVERIFY(thread->wait());
-    QVERIFY(!elsewhere);
-}
 
-void TestRequests::keepsServicesByName()
-{
-    const OdRxObjectPtr first = host::makeDocument(), second = host::makeDocument();
-    vnsi::vn_arbitDict_regservice(L"Test/A", first);
-    vnsi::vn_arbitDict_regservice(L"Test/A", second);
-    QVERIFY(vnsi::vn_arbitDict_getservice(L"Test/A") == second);
-    QCOMPARE(first->numRefs(), 1L);
-    QVERIFY(vnsi::vn_arbitDict_getservice(L"test/a").isNull());
-    vnsi::vn_arbitDict_clearservice(L"Test/A");
-    vnsi::vn_arbitDict_clearservice(L"Test/A");
-    QVERIFY(vnsi::vn_arbitDict_getservice(L"Test/A").isNull());
-    QCOMPARE(second->numRefs(), 1L);
-}
+    void refusesOtherObjects_data()
+    {
+        const Rows<bool> row("isNull");
+        row("null", true);
+        row("document", false);
+    }
 
-void TestRequests::namesTheCurrentDocument()
-{
-    const auto manager = vnsi::VnDocMgr::cast(vnsi::vn_arbitDict_getservice(L"Core/DocMgr").get());
-    QVERIFY(manager->currentDocument().isNull());
-    QVERIFY(!vnsi::grUIProxy({}));
-    const vnsi::VnDocumentPtr document = host::makeDocument();
-    host::setCurrentDocument(document);
-    QVERIFY(manager->currentDocument() == document);
-    QCOMPARE(document->colorTable().length(), 256U);
-    QCOMPARE(document->colorTable()[1], ODCOLORREF(0x0000FF));
-    host::setCurrentDocument({});
-    QCOMPARE(document->numRefs(), 1L);
-}
+    void refusesOtherObjects()
+    {
+        QFETCH(bool, isNull);
+        const OdRxObjectPtr other = isNull ? OdRxObjectPtr() : OdRxObjectPtr(host::makeDocument());
+        QVERIFY_EXCEPTION_THROWN(proxy()->post(L"proxyRequest", other), OdError_NotThatKindOfClass);
+        QVERIFY_EXCEPTION_THROWN(proxy()->post(L"other", other), OdError);
+    }
+
+    void endsWaitingWhenTheWorkThrows()
+    {
+        QCOMPARE(postElsewhere([] { throw std::runtime_error("broken"); }),
+            static_cast<int>(vnsi::kVnRequestDone));
+    }
+
+    void knowsWhereItRuns()
+    {
+        QVERIFY(vnsi::vnedIsRunningInUI());
+        QVERIFY(!vnsi::vnedIsRunningInCommand());
+        {
+            const host::CommandScope outer;
+            {
+                const host::CommandScope inner;
+            }
+            QVERIFY(vnsi::vnedIsRunningInCommand());
+        }
+        QVERIFY(!vnsi::vnedIsRunningInCommand());
+        bool elsewhere = true;
+        std::unique_ptr<QThread> thread(
+            QThread::create([&] { elsewhere = vnsi::vnedIsRunningInUI(); }));
+        thread->start();
+        QVERIFY(thread->wait());
+        QVERIFY(!elsewhere);
+    }
+
+    void keepsServicesByName()
+    {
+        const OdRxObjectPtr first = host::makeDocument(), second = host::makeDocument();
+        vnsi::vn_arbitDict_regservice(L"Test/A", first);
+        vnsi::vn_arbitDict_regservice(L"Test/A", second);
+        QVERIFY(vnsi::vn_arbitDict_getservice(L"Test/A") == second);
+        QCOMPARE(first->numRefs(), 1L);
+        QVERIFY(vnsi::vn_arbitDict_getservice(L"test/a").isNull());
+        vnsi::vn_arbitDict_clearservice(L"Test/A");
+        vnsi::vn_arbitDict_clearservice(L"Test/A");
+        QVERIFY(vnsi::vn_arbitDict_getservice(L"Test/A").isNull());
+        QCOMPARE(second->numRefs(), 1L);
+    }
+
+    void namesTheCurrentDocument()
+    {
+        const auto manager =
+            vnsi::VnDocMgr::cast(vnsi::vn_arbitDict_getservice(L"Core/DocMgr").get());
+        QVERIFY(manager->currentDocument().isNull());
+        QVERIFY(!vnsi::grUIProxy({}));
+        const vnsi::VnDocumentPtr document = host::makeDocument();
+        host::setCurrentDocument(document);
+        QVERIFY(manager->currentDocument() == document);
+        QCOMPARE(document->colorTable().length(), 256U);
+        QCOMPARE(document->colorTable()[1], ODCOLORREF(0x0000FF));
+        host::setCurrentDocument({});
+        QCOMPARE(document->numRefs(), 1L);
+    }
+
+private:
+    host::Host m_host;
+};
 
 QTEST_MAIN(TestRequests)
 #include "tst_requests.moc"

@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "settings.h"
 #include "sysvars.h"
 #include "trees.h"
@@ -7,27 +8,6 @@
 #include <QtTest>
 
 Q_DECLARE_METATYPE(OdString)
-
-class TestSettings : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init();
-    void cleanup();
-    void keepsWhatADialogWrote();
-    void setsUnreadableFilesAside_data();
-    void setsUnreadableFilesAside();
-    void staysInItsFolder_data();
-    void staysInItsFolder();
-    void refusesToWriteWhereItCannot();
-    void knowsSystemVariables();
-
-private:
-    QString path(const char* name) const { return m_folder->filePath(name); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-};
 
 namespace {
 
@@ -46,103 +26,110 @@ void write(const QString& path, const QByteArray& bytes)
 
 } // namespace
 
-void TestSettings::init()
+class TestSettings : public QObject
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    host::setSettingsFolder(m_folder->path());
-}
+    Q_OBJECT
 
-void TestSettings::cleanup()
-{
-    host::setSettingsFolder({});
-}
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        host::setSettingsFolder(m_folder->path());
+    }
 
-void TestSettings::keepsWhatADialogWrote()
-{
-    const vnsi::VnJsonPtr section = vnsi::vn_user_config(L"table_dialog");
-    QVERIFY(section == vnsi::vn_user_config(L"table_dialog"));
-    section->SetDataB("RecoverBoxChecked", true);
-    QCOMPARE(contents(path("table_dialog.json")), QByteArray("no file"));
-    vnsi::vnuiShowModelDialog(L"no such service", L"dialog", {});
-    QCOMPARE(contents(path("table_dialog.json")), QByteArray("{\"RecoverBoxChecked\":true}"));
+    void cleanup() { host::setSettingsFolder({}); }
 
-    host::setSettingsFolder(m_folder->path());
-    QVERIFY(vnsi::vn_user_config(L"table_dialog")->GetDataB("RecoverBoxChecked"));
-    // A section that did not change leaves its file alone.
-    write(path("table_dialog.json"), "{}");
-    QVERIFY(host::saveSettings());
-    QCOMPARE(contents(path("table_dialog.json")), QByteArray("{}"));
-}
+    void keepsWhatADialogWrote()
+    {
+        const vnsi::VnJsonPtr section = vnsi::vn_user_config(L"table_dialog");
+        QVERIFY(section == vnsi::vn_user_config(L"table_dialog"));
+        section->SetDataB("RecoverBoxChecked", true);
+        QCOMPARE(contents(path("table_dialog.json")), QByteArray("no file"));
+        vnsi::vnuiShowModelDialog(L"no such service", L"dialog", {});
+        QCOMPARE(contents(path("table_dialog.json")), QByteArray("{\"RecoverBoxChecked\":true}"));
 
-void TestSettings::setsUnreadableFilesAside_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("cut off") << QByteArray("{\"a\":1");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("no object") << QByteArray("[1]");
-    QTest::newRow("binary") << QByteArray("\x00\xFF\xFE", 3);
-}
+        host::setSettingsFolder(m_folder->path());
+        QVERIFY(vnsi::vn_user_config(L"table_dialog")->GetDataB("RecoverBoxChecked"));
+        // A section that did not change leaves its file alone.
+        write(path("table_dialog.json"), "{}");
+        QVERIFY(host::saveSettings());
+        QCOMPARE(contents(path("table_dialog.json")), QByteArray("{}"));
+    }
 
-void TestSettings::setsUnreadableFilesAside()
-{
-    QFETCH(QByteArray, bytes);
-    write(path("s.json.bad"), "older");
-    write(path("s.json"), bytes);
-    const vnsi::VnJsonPtr section = vnsi::vn_user_config(L"s");
-    QCOMPARE(toText(section), QStringLiteral("{}"));
-    QCOMPARE(contents(path("s.json.bad")), bytes);
-    section->SetDataI("a", 2);
-    QVERIFY(host::saveSettings());
-    QCOMPARE(contents(path("s.json")), QByteArray("{\"a\":2}"));
-    QCOMPARE(contents(path("s.json.bad")), bytes);
-}
+    void setsUnreadableFilesAside_data()
+    {
+        const Rows<QByteArray> row("bytes");
+        row("cut off", "{\"a\":1");
+        row("empty", QByteArray());
+        row("no object", "[1]");
+        row("binary", QByteArray("\x00\xFF\xFE", 3));
+    }
 
-void TestSettings::staysInItsFolder_data()
-{
-    QTest::addColumn<OdString>("first");
-    QTest::addColumn<OdString>("second");
-    QTest::newRow("parents") << OdString(L"../../x") << OdString(L"..");
-    QTest::newRow("folders") << OdString(L"a/b") << OdString(L"a\\b");
-    QTest::newRow("Chinese and empty") << OdString(L"设置") << OdString();
-    const std::wstring endless(5000, L'x');
-    QTest::newRow("endless") << OdString(endless.c_str()) << OdString((endless + L'y').c_str());
-    QTest::newRow("escapes") << OdString(L"a%2Eb") << OdString(L"a.b");
-}
+    void setsUnreadableFilesAside()
+    {
+        QFETCH(QByteArray, bytes);
+        write(path("s.json.bad"), "older");
+        write(path("s.json"), bytes);
+        const vnsi::VnJsonPtr section = vnsi::vn_user_config(L"s");
+        QCOMPARE(toText(section), QStringLiteral("{}"));
+        QCOMPARE(contents(path("s.json.bad")), bytes);
+        section->SetDataI("a", 2);
+        QVERIFY(host::saveSettings());
+        QCOMPARE(contents(path("s.json")), QByteArray("{\"a\":2}"));
+        QCOMPARE(contents(path("s.json.bad")), bytes);
+    }
 
-void TestSettings::staysInItsFolder()
-{
-    QFETCH(OdString, first);
-    QFETCH(OdString, second);
-    const QStringList before = QDir(m_folder->path() + "/..").entryList();
-    vnsi::vn_user_config(first)->SetDataI("n", 1);
-    vnsi::vn_user_config(second)->SetDataI("n", 2);
-    QVERIFY(host::saveSettings());
-    QCOMPARE(QDir(m_folder->path())
-                 .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
-                 .size(),
-        2);
-    host::setSettingsFolder(m_folder->path());
-    QCOMPARE(vnsi::vn_user_config(first)->GetDataI("n"), 1);
-    QCOMPARE(vnsi::vn_user_config(second)->GetDataI("n"), 2);
-}
+    void staysInItsFolder_data()
+    {
+        const Rows<OdString, OdString> row("first", "second");
+        row("parents", L"../../x", L"..");
+        row("folders", L"a/b", L"a\\b");
+        row("Chinese and empty", L"设置", OdString());
+        const std::wstring endless(5000, L'x');
+        row("endless", endless.c_str(), (endless + L'y').c_str());
+        row("escapes", L"a%2Eb", L"a.b");
+    }
 
-void TestSettings::refusesToWriteWhereItCannot()
-{
-    write(path("file"), "x");
-    host::setSettingsFolder(path("file"));
-    vnsi::vn_user_config(L"s")->SetDataI("a", 1);
-    QVERIFY(!host::saveSettings());
-    QCOMPARE(contents(path("file")), QByteArray("x"));
-}
+    void staysInItsFolder()
+    {
+        QFETCH(OdString, first);
+        QFETCH(OdString, second);
+        const QStringList before = QDir(m_folder->path() + "/..").entryList();
+        vnsi::vn_user_config(first)->SetDataI("n", 1);
+        vnsi::vn_user_config(second)->SetDataI("n", 2);
+        QVERIFY(host::saveSettings());
+        QCOMPARE(QDir(m_folder->path())
+                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
+                     .size(),
+            2);
+        host::setSettingsFolder(m_folder->path());
+        QCOMPARE(vnsi::vn_user_config(first)->GetDataI("n"), 1);
+        QCOMPARE(vnsi::vn_user_config(second)->GetDataI("n"), 2);
+    }
 
-void TestSettings::knowsSystemVariables()
-{
-    QCOMPARE(vnsi::getVar(L"tilemode", 5), OdInt16(1));
-    QCOMPARE(vnsi::getVar(L"NOSUCH", 5), OdInt16(5));
-    host::setVar(L"TileMode", 0);
-    QCOMPARE(vnsi::getVar(L"TILEMODE", 5), OdInt16(0));
-    host::setVar(L"TILEMODE", 1);
-}
+    void refusesToWriteWhereItCannot()
+    {
+        write(path("file"), "x");
+        host::setSettingsFolder(path("file"));
+        vnsi::vn_user_config(L"s")->SetDataI("a", 1);
+        QVERIFY(!host::saveSettings());
+        QCOMPARE(contents(path("file")), QByteArray("x"));
+    }
+
+    void knowsSystemVariables()
+    {
+        QCOMPARE(vnsi::getVar(L"tilemode", 5), OdInt16(1));
+        QCOMPARE(vnsi::getVar(L"NOSUCH", 5), OdInt16(5));
+        host::setVar(L"TileMode", 0);
+        QCOMPARE(vnsi::getVar(L"TILEMODE", 5), OdInt16(0));
+        host::setVar(L"TILEMODE", 1);
+    }
+
+private:
+    QString path(const char* name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
 
 QTEST_GUILESS_MAIN(TestSettings)
 #include "tst_settings.moc"

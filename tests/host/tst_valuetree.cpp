@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "trees.h"
 #include "vnstrings.h"
 
@@ -40,271 +41,253 @@ class TestValueTree : public QObject
     Q_OBJECT
 
 private slots:
-    void readsOnlyWhatWasWritten_data();
-    void readsOnlyWhatWasWritten();
-    void followsPaths();
-    void ignoresBrokenKeys_data();
-    void ignoresBrokenKeys();
-    void keepsArraysInOrder();
-    void refusesCycles();
-    void keepsOrderAndSpeedWithManyKeys();
-    void buildsListsOfHungRecords();
-    void survivesDepth();
-    void clonesShareNothing();
-    void roundTripsJson_data();
-    void roundTripsJson();
-    void keepsStrangeText_data();
-    void keepsStrangeText();
+    void readsOnlyWhatWasWritten_data()
+    {
+        const Rows<Setter, QString> rows("set", "expected");
+        const auto row = [&](const char* name, const char* expected, Setter set) {
+            rows(name, set, expected);
+        };
+        row("missing", "- - - - - -", [](auto&) {});
+        row("bool", "true - - - - -", [](auto& n) { n.SetDataB("k", true); });
+        row("chained bool", "false - - - - -", [](auto& n) { n.set("k", false); });
+        row("int", "- 5 5 - - -", [](auto& n) { n.SetDataI("k", 5); });
+        row("int 1 is no bool", "- 1 1 - - -", [](auto& n) { n.set("k", 1); });
+        row("long that fits", "- 5 5 - - -", [](auto& n) { n.SetDataL("k", 5); });
+        row("largest int", "- 2147483647 2147483647 - - -",
+            [](auto& n) { n.SetDataL("k", std::numeric_limits<OdInt32>::max()); });
+        row("first long", "- - 2147483648 - - -", [](auto& n) { n.SetDataL("k", 2147483648LL); });
+        row("last long below", "- - -2147483649 - - -",
+            [](auto& n) { n.SetDataL("k", -2147483649LL); });
+        row("wide", "- - 1099511627776 - - -", [](auto& n) { n.SetDataL("k", kWide); });
+        row("wide text", "- - - 墙 墙 -", [](auto& n) { n.SetDataSW("k", L"墙"); });
+        row("UTF-8 text", "- - - 墙 墙 -", [](auto& n) { n.SetDataS("k", "\xE5\xA2\x99"); });
+        row("digits are text", "- - - 5 5 -", [](auto& n) { n.SetDataSW("k", L"5"); });
+        row("node", "- - - - - node",
+            [](auto& n) { n.SetDataJ("k", ElementValue::createArray()); });
+        row("replaced", "- 2 2 - - -", [](auto& n) {
+            n.SetDataSW("k", L"1");
+            n.SetDataI("k", 2);
+        });
+        row("empty node removes", "- - - - - -", [](auto& n) {
+            n.SetDataI("k", 2);
+            n.SetDataJ("k", {});
+        });
+        row("scalar taken out of an array", "- 3 3 - - -", [](auto& n) {
+            const VnJsonPtr list = tree("[3]");
+            n.SetDataJ("k", list(0));
+        });
+    }
+
+    void readsOnlyWhatWasWritten()
+    {
+        QFETCH(Setter, set);
+        const VnJsonPtr node = ElementValue::createObject(0);
+        set(*node);
+        QTEST(readings(node), "expected");
+    }
+
+    void followsPaths()
+    {
+        const VnJsonPtr node = ElementValue::createObject(2);
+        node->SetDataL("Color/clrMethod", 195);
+        node->SetDataL("Color/selectClr", 3);
+        node->SetDataI("scalar", 1);
+        node->SetDataI("scalar/in/the/way", 2);
+        QCOMPARE(toText(node), QStringLiteral("{\"Color\":{\"clrMethod\":195,\"selectClr\":3},"
+                                              "\"scalar\":{\"in\":{\"the\":{\"way\":2}}}}"));
+        QCOMPARE(node->GetDataJ("Color")->GetDataI("selectClr"), 3);
+        QCOMPARE(node->GetDataI("Color/selectClr/deeper", 9), 9);
+        node->RemoveKey("Color/clrMethod");
+        QVERIFY(!node->HasKey("Color/clrMethod"));
+        QVERIFY(node->HasKey("Color/selectClr"));
+        QVERIFY(!tree("[{\"0\":1}]")->HasKey("0"));
+    }
+
+    void ignoresBrokenKeys_data()
+    {
+        const Rows<QByteArray> row("key");
+        for (const char* key : {"", "/", "//", "a//b", "/a", "a/"})
+            row(key, key);
+        row("null", QByteArray());
+    }
+
+    void ignoresBrokenKeys()
+    {
+        QFETCH(QByteArray, key);
+        const char* const text = key.isNull() ? nullptr : key.constData();
+        const VnJsonPtr node = tree("{\"a\":{\"b\":1}}");
+        node->SetDataI(text, 5);
+        node->SetDataJ(text, ElementValue::createObject(0));
+        node->RemoveKey(text);
+        QCOMPARE(node->GetDataI(text, 7), 7);
+        QVERIFY(!node->HasKey(text));
+        QCOMPARE(toText(node), QStringLiteral("{\"a\":{\"b\":1}}"));
+    }
+
+    void keepsArraysInOrder()
+    {
+        const VnJsonPtr list = ElementValue::createArray(-5);
+        list->AppendI(1);
+        list->AppendSW(L"二");
+        list->Insert(99, tree("{\"n\":3}"));
+        list->Insert(0, tree("[0]"));
+        list->Insert(-1, tree("[9]"));
+        list->Append({});
+        QCOMPARE(toText(list), QStringLiteral("[[0],1,\"二\",{\"n\":3},[9]]"));
+        list->Remove(1);
+        list->Remove(17);
+        list->Remove(-1);
+        QCOMPARE(list.ArrayCount(), 4);
+        QVERIFY(list(1)->asSW() == OdString(L"二"));
+        QCOMPARE(list(1)->asI(5), 5);
+        list(2)->SetDataI("n", 4); // Containers are shared, not copied.
+        QCOMPARE(list(2)->GetDataI("n"), 4);
+        for (const int outside : {-1, 4, std::numeric_limits<int>::max()})
+            QVERIFY(!list(outside));
+        list->SetDataI("key", 1);
+        list->Clear();
+        QCOMPARE(toText(list), QStringLiteral("[]"));
+        QCOMPARE(VnJsonPtr().ArrayCount(), 0);
+        QVERIFY(!VnJsonPtr()(0));
+    }
+
+    void refusesCycles()
+    {
+        const VnJsonPtr root = tree("{\"a\":{\"list\":[{}]},\"keep\":1}");
+        const VnJsonPtr inner = root->GetDataJ("a/list")(0);
+        root->SetDataJ("keep", root);
+        QVERIFY(!root->HasKey("keep"));
+        inner->SetDataJ("up", root);
+        inner->SetDataJ("deep/up", root->GetDataJ("a"));
+        root->GetDataJ("a/list")->Append(root);
+        root->GetDataJ("a/list")->Insert(0, root->GetDataJ("a"));
+        QCOMPARE(root->GetDataJ("a/list").ArrayCount(), 1);
+        QVERIFY(!inner->HasKey("up"));
+        QVERIFY(!inner->HasKey("deep/up"));
+        // The same node in two places is no cycle.
+        root->SetDataJ("b", root->GetDataJ("a"));
+        QVERIFY(root->GetDataJ("b") == root->GetDataJ("a"));
+        inner->SetDataJ("x", ElementValue::createObject(0));
+        QVERIFY(root->HasKey("b"));
+    }
+
+    void keepsOrderAndSpeedWithManyKeys()
+    {
+        constexpr int kKeys = 200000; // Minutes, were a look-up or a removal to walk all members.
+        const VnJsonPtr node = ElementValue::createObject(0);
+        for (int i = 0; i < kKeys; ++i)
+            node->SetDataI(QByteArray::number(i).constData(), i);
+        node->SetDataI("77", -77);
+        for (int i = 0; i < kKeys; i += 2)
+            node->RemoveKey(QByteArray::number(i).constData());
+        QCOMPARE(node->GetDataI("77"), -77);
+        QVERIFY(!node->HasKey("78"));
+        QCOMPARE(node->GetDataI("199999"), 199999);
+        for (int i = 21; i < kKeys; ++i)
+            node->RemoveKey(QByteArray::number(i).constData());
+        node->SetDataI("new", 1);
+        QCOMPARE(toJsonObject(node).size(), 11);
+        QCOMPARE(toJsonObject(ElementValue::clone(node)), toJsonObject(node));
+    }
+
+    void buildsListsOfHungRecords()
+    {
+        constexpr int kRecords = 100000; // Each append must not walk what is there already.
+        const VnJsonPtr root = ElementValue::createObject(1);
+        root->SetDataJ("LayerList", ElementValue::createArray(0));
+        const VnJsonPtr list = root->GetDataJ("LayerList");
+        for (int i = 0; i < kRecords; ++i) {
+            const VnJsonPtr record = ElementValue::createObject(20);
+            record->SetDataL("Color/selectClr", i);
+            list->Append(record);
+        }
+        QCOMPARE(list(kRecords - 1)->GetDataI("Color/selectClr"), kRecords - 1);
+    }
+
+    void survivesDepth()
+    {
+        constexpr int kDepth = 300000;
+        VnJsonPtr root = ElementValue::createObject(1);
+        VnJsonPtr deepest = root;
+        for (int i = 0; i < kDepth; ++i) {
+            const VnJsonPtr next = ElementValue::createObject(1);
+            deepest->SetDataJ("a", next);
+            deepest = next;
+        }
+        deepest->SetDataI("end", 1);
+        VnJsonPtr copy = ElementValue::clone(root);
+        root = {};
+        deepest = {};
+        for (int i = 0; i < kDepth; ++i)
+            copy = copy->GetDataJ("a");
+        QCOMPARE(copy->GetDataI("end"), 1);
+
+        VnJsonPtr list = ElementValue::createArray();
+        for (int i = 0; i < kDepth; ++i) {
+            const VnJsonPtr outer = ElementValue::createArray();
+            outer->Append(list);
+            list = outer;
+        }
+        QVERIFY(toText(list).size() > 1000);
+        const QByteArray deepText = QByteArray(kDepth, '[') + QByteArray(kDepth, ']');
+        QVERIFY(!ElementValue::fromJson(deepText.constData()));
+    }
+
+    void clonesShareNothing()
+    {
+        const VnJsonPtr original = tree("{\"a\":{\"b\":[1,{\"c\":2.5}]},\"t\":\"x\"}");
+        const VnJsonPtr copy = ElementValue::clone(original);
+        QCOMPARE(toText(copy), toText(original));
+        copy->GetDataJ("a/b")(1)->SetDataI("c", 3);
+        copy->SetDataI("t", 1);
+        QCOMPARE(toText(original), QStringLiteral("{\"a\":{\"b\":[1,{\"c\":2.5}]},\"t\":\"x\"}"));
+        QVERIFY(!ElementValue::clone({}));
+        QCOMPARE(ElementValue::clone(original->GetDataJ("a/b")(0))->asI(), 1);
+    }
+
+    void roundTripsJson_data()
+    {
+        const Rows<QString, QString> rows("json", "expected");
+        const auto row = [&](const char* json, const char* expected = nullptr) {
+            rows(json, json, expected ? expected : json);
+        };
+        row("{}");
+        row("[]");
+        row("[null,true,1,2.5,\"a\\\"b\\n\",[],{}]");
+        row("{\"wide\":-9007199254740991}");
+        row("[2147483648,-2147483649,1e300]", "[2147483648,-2147483649,1e+300]");
+        row("{\"键/斜\":\"墙\"}");
+        row(" [ 1 , 2 ] ", "[1,2]");
+        for (const char* broken : {"", "1", "\"a\"", "{", "[1,]", "{\"a\":}", "nonsense"})
+            row(broken, "null");
+    }
+
+    void roundTripsJson()
+    {
+        QFETCH(QString, json);
+        const QByteArray utf8 = json.toUtf8();
+        QTEST(toText(ElementValue::fromJson(utf8.constData())), "expected");
+    }
+
+    void keepsStrangeText_data()
+    {
+        const Rows<QString> row("text");
+        row("empty", QString());
+        row("beyond the first plane", "𠮷野");
+        row("lone high surrogate", QString(QChar(0xD842)) + "a");
+        row("lone low surrogate", "a" + QString(QChar(0xDFB7)));
+        row("null character", QString(QChar(0)) + "b");
+        row("long", QString(100000, QChar(0x5899)));
+    }
+
+    void keepsStrangeText()
+    {
+        QFETCH(QString, text);
+        const VnJsonPtr node = ElementValue::createObject(1);
+        node->SetDataSW("k", vnsi::vnutQStringToOdString(text));
+        QCOMPARE(vnsi::vnutOdStringToQString(node->GetDataSW("k")), text);
+    }
 };
-
-void TestValueTree::readsOnlyWhatWasWritten_data()
-{
-    QTest::addColumn<Setter>("set");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const char* expected, Setter set) {
-        QTest::newRow(name) << set << QString::fromUtf8(expected);
-    };
-    row("missing", "- - - - - -", [](auto&) {});
-    row("bool", "true - - - - -", [](auto& n) { n.SetDataB("k", true); });
-    row("chained bool", "false - - - - -", [](auto& n) { n.set("k", false); });
-    row("int", "- 5 5 - - -", [](auto& n) { n.SetDataI("k", 5); });
-    row("int 1 is no bool", "- 1 1 - - -", [](auto& n) { n.set("k", 1); });
-    row("long that fits", "- 5 5 - - -", [](auto& n) { n.SetDataL("k", 5); });
-    row("largest int", "- 2147483647 2147483647 - - -",
-        [](auto& n) { n.SetDataL("k", std::numeric_limits<OdInt32>::max()); });
-    row("first long", "- - 2147483648 - - -", [](auto& n) { n.SetDataL("k", 2147483648LL); });
-    row("last long below", "- - -2147483649 - - -",
-        [](auto& n) { n.SetDataL("k", -2147483649LL); });
-    row("wide", "- - 1099511627776 - - -", [](auto& n) { n.SetDataL("k", kWide); });
-    row("wide text", "- - - 墙 墙 -", [](auto& n) { n.SetDataSW("k", L"墙"); });
-    row("UTF-8 text", "- - - 墙 墙 -", [](auto& n) { n.SetDataS("k", "\xE5\xA2\x99"); });
-    row("digits are text", "- - - 5 5 -", [](auto& n) { n.SetDataSW("k", L"5"); });
-    row("node", "- - - - - node", [](auto& n) { n.SetDataJ("k", ElementValue::createArray()); });
-    row("replaced", "- 2 2 - - -", [](auto& n) {
-        n.SetDataSW("k", L"1");
-        n.SetDataI("k", 2);
-    });
-    row("empty node removes", "- - - - - -", [](auto& n) {
-        n.SetDataI("k", 2);
-        n.SetDataJ("k", {});
-    });
-    row("scalar taken out of an array", "- 3 3 - - -", [](auto& n) {
-        const VnJsonPtr list = tree("[3]");
-        n.SetDataJ("k", list(0));
-    });
-}
-
-void TestValueTree::readsOnlyWhatWasWritten()
-{
-    QFETCH(Setter, set);
-    const VnJsonPtr node = ElementValue::createObject(0);
-    set(*node);
-    QTEST(readings(node), "expected");
-}
-
-void TestValueTree::followsPaths()
-{
-    const VnJsonPtr node = ElementValue::createObject(2);
-    node->SetDataL("Color/clrMethod", 195);
-    node->SetDataL("Color/selectClr", 3);
-    node->SetDataI("scalar", 1);
-    node->SetDataI("scalar/in/the/way", 2);
-    QCOMPARE(toText(node), QStringLiteral("{\"Color\":{\"clrMethod\":195,\"selectClr\":3},"
-                                          "\"scalar\":{\"in\":{\"the\":{\"way\":2}}}}"));
-    QCOMPARE(node->GetDataJ("Color")->GetDataI("selectClr"), 3);
-    QCOMPARE(node->GetDataI("Color/selectClr/deeper", 9), 9);
-    node->RemoveKey("Color/clrMethod");
-    QVERIFY(!node->HasKey("Color/clrMethod"));
-    QVERIFY(node->HasKey("Color/selectClr"));
-    QVERIFY(!tree("[{\"0\":1}]")->HasKey("0"));
-}
-
-void TestValueTree::ignoresBrokenKeys_data()
-{
-    QTest::addColumn<QByteArray>("key");
-    for (const char* key : {"", "/", "//", "a//b", "/a", "a/"})
-        QTest::newRow(key) << QByteArray(key);
-    QTest::newRow("null") << QByteArray();
-}
-
-void TestValueTree::ignoresBrokenKeys()
-{
-    QFETCH(QByteArray, key);
-    const char* const text = key.isNull() ? nullptr : key.constData();
-    const VnJsonPtr node = tree("{\"a\":{\"b\":1}}");
-    node->SetDataI(text, 5);
-    node->SetDataJ(text, ElementValue::createObject(0));
-    node->RemoveKey(text);
-    QCOMPARE(node->GetDataI(text, 7), 7);
-    QVERIFY(!node->HasKey(text));
-    QCOMPARE(toText(node), QStringLiteral("{\"a\":{\"b\":1}}"));
-}
-
-void TestValueTree::keepsArraysInOrder()
-{
-    const VnJsonPtr list = ElementValue::createArray(-5);
-    list->AppendI(1);
-    list->AppendSW(L"二");
-    list->Insert(99, tree("{\"n\":3}"));
-    list->Insert(0, tree("[0]"));
-    list->Insert(-1, tree("[9]"));
-    list->Append({});
-    QCOMPARE(toText(list), QStringLiteral("[[0],1,\"二\",{\"n\":3},[9]]"));
-    list->Remove(1);
-    list->Remove(17);
-    list->Remove(-1);
-    QCOMPARE(list.ArrayCount(), 4);
-    QVERIFY(list(1)->asSW() == OdString(L"二"));
-    QCOMPARE(list(1)->asI(5), 5);
-    list(2)->SetDataI("n", 4); // Containers are shared, not copied.
-    QCOMPARE(list(2)->GetDataI("n"), 4);
-    for (const int outside : {-1, 4, std::numeric_limits<int>::max()})
-        QVERIFY(!list(outside));
-    list->SetDataI("key", 1);
-    list->Clear();
-    QCOMPARE(toText(list), QStringLiteral("[]"));
-    QCOMPARE(VnJsonPtr().ArrayCount(), 0);
-    QVERIFY(!VnJsonPtr()(0));
-}
-
-void TestValueTree::refusesCycles()
-{
-    const VnJsonPtr root = tree("{\"a\":{\"list\":[{}]},\"keep\":1}");
-    const VnJsonPtr inner = root->GetDataJ("a/list")(0);
-    root->SetDataJ("keep", root);
-    QVERIFY(!root->HasKey("keep"));
-    inner->SetDataJ("up", root);
-    inner->SetDataJ("deep/up", root->GetDataJ("a"));
-    root->GetDataJ("a/list")->Append(root);
-    root->GetDataJ("a/list")->Insert(0, root->GetDataJ("a"));
-    QCOMPARE(root->GetDataJ("a/list").ArrayCount(), 1);
-    QVERIFY(!inner->HasKey("up"));
-    QVERIFY(!inner->HasKey("deep/up"));
-    // The same node in two places is no cycle.
-    root->SetDataJ("b", root->GetDataJ("a"));
-    QVERIFY(root->GetDataJ("b") == root->GetDataJ("a"));
-    inner->SetDataJ("x", ElementValue::createObject(0));
-    QVERIFY(root->HasKey("b"));
-}
-
-void TestValueTree::keepsOrderAndSpeedWithManyKeys()
-{
-    constexpr int kKeys = 200000; // Minutes, were a look-up or a removal to walk all members.
-    const VnJsonPtr node = ElementValue::createObject(0);
-    for (int i = 0; i < kKeys; ++i)
-        node->SetDataI(QByteArray::number(i).constData(), i);
-    node->SetDataI("77", -77);
-    for (int i = 0; i < kKeys; i += 2)
-        node->RemoveKey(QByteArray::number(i).constData());
-    QCOMPARE(node->GetDataI("77"), -77);
-    QVERIFY(!node->HasKey("78"));
-    QCOMPARE(node->GetDataI("199999"), 199999);
-    for (int i = 21; i < kKeys; ++i)
-        node->RemoveKey(QByteArray::number(i).constData());
-    node->SetDataI("new", 1);
-    QCOMPARE(toJsonObject(node).size(), 11);
-    QCOMPARE(toJsonObject(ElementValue::clone(node)), toJsonObject(node));
-}
-
-void TestValueTree::buildsListsOfHungRecords()
-{
-    constexpr int kRecords = 100000; // Each append must not walk what is there already.
-    const VnJsonPtr root = ElementValue::createObject(1);
-    root->SetDataJ("LayerList", ElementValue::createArray(0));
-    const VnJsonPtr list = root->GetDataJ("LayerList");
-    for (int i = 0; i < kRecords; ++i) {
-        const VnJsonPtr record = ElementValue::createObject(20);
-        record->SetDataL("Color/selectClr", i);
-        list->Append(record);
-    }
-    QCOMPARE(list(kRecords - 1)->GetDataI("Color/selectClr"), kRecords - 1);
-}
-
-void TestValueTree::survivesDepth()
-{
-    constexpr int kDepth = 300000;
-    VnJsonPtr root = ElementValue::createObject(1);
-    VnJsonPtr deepest = root;
-    for (int i = 0; i < kDepth; ++i) {
-        const VnJsonPtr next = ElementValue::createObject(1);
-        deepest->SetDataJ("a", next);
-        deepest = next;
-    }
-    deepest->SetDataI("end", 1);
-    VnJsonPtr copy = ElementValue::clone(root);
-    root = {};
-    deepest = {};
-    for (int i = 0; i < kDepth; ++i)
-        copy = copy->GetDataJ("a");
-    QCOMPARE(copy->GetDataI("end"), 1);
-
-    VnJsonPtr list = ElementValue::createArray();
-    for (int i = 0; i < kDepth; ++i) {
-        const VnJsonPtr outer = ElementValue::createArray();
-        outer->Append(list);
-        list = outer;
-    }
-    QVERIFY(toText(list).size() > 1000);
-    const QByteArray deepText = QByteArray(kDepth, '[') + QByteArray(kDepth, ']');
-    QVERIFY(!ElementValue::fromJson(deepText.constData()));
-}
-
-void TestValueTree::clonesShareNothing()
-{
-    const VnJsonPtr original = tree("{\"a\":{\"b\":[1,{\"c\":2.5}]},\"t\":\"x\"}");
-    const VnJsonPtr copy = ElementValue::clone(original);
-    QCOMPARE(toText(copy), toText(original));
-    copy->GetDataJ("a/b")(1)->SetDataI("c", 3);
-    copy->SetDataI("t", 1);
-    QCOMPARE(toText(original), QStringLiteral("{\"a\":{\"b\":[1,{\"c\":2.5}]},\"t\":\"x\"}"));
-    QVERIFY(!ElementValue::clone({}));
-    QCOMPARE(ElementValue::clone(original->GetDataJ("a/b")(0))->asI(), 1);
-}
-
-void TestValueTree::roundTripsJson_data()
-{
-    QTest::addColumn<QString>("json");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* json, const char* expected = nullptr) {
-        QTest::newRow(json) << QString::fromUtf8(json)
-                            << QString::fromUtf8(expected ? expected : json);
-    };
-    row("{}");
-    row("[]");
-    row("[null,true,1,2.5,\"a\\\"b\\n\",[],{}]");
-    row("{\"wide\":-9007199254740991}");
-    row("[2147483648,-2147483649,1e300]", "[2147483648,-2147483649,1e+300]");
-    row("{\"键/斜\":\"墙\"}");
-    row(" [ 1 , 2 ] ", "[1,2]");
-    for (const char* broken : {"", "1", "\"a\"", "{", "[1,]", "{\"a\":}", "nonsense"})
-        row(broken, "null");
-}
-
-void TestValueTree::roundTripsJson()
-{
-    QFETCH(QString, json);
-    const QByteArray utf8 = json.toUtf8();
-    QTEST(toText(ElementValue::fromJson(utf8.constData())), "expected");
-}
-
-void TestValueTree::keepsStrangeText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("beyond the first plane") << QString::fromUtf8("𠮷野");
-    QTest::newRow("lone high surrogate") << QString(QChar(0xD842)) + "a";
-    QTest::newRow("lone low surrogate") << "a" + QString(QChar(0xDFB7));
-    QTest::newRow("null character") << QString(QChar(0)) + "b";
-    QTest::newRow("long") << QString(100000, QChar(0x5899));
-}
-
-void TestValueTree::keepsStrangeText()
-{
-    QFETCH(QString, text);
-    const VnJsonPtr node = ElementValue::createObject(1);
-    node->SetDataSW("k", vnsi::vnutQStringToOdString(text));
-    QCOMPARE(vnsi::vnutOdStringToQString(node->GetDataSW("k")), text);
-}
 
 QTEST_GUILESS_MAIN(TestValueTree)
 #include "tst_valuetree.moc"

@@ -1,5 +1,6 @@
 #include "hostfiledialog.h"
 #include "recordinghost.h"
+#include "rows.h"
 #include "trees.h"
 #include "vnstrings.h"
 
@@ -16,17 +17,11 @@ class TestFileDialog : public QObject
 private slots:
     void asksForOneName_data()
     {
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("chosen") << 1 << R"({"filePath":"/a/层.las"})"
-                                << "/a/层.las";
-        QTest::newRow("chosen without a path") << 1 << "{}"
-                                               << "";
-        QTest::newRow("cancelled, though a path is there") << 2 << R"({"filePath":"/a/b"})"
-                                                           << "untouched";
-        QTest::newRow("no such dialog") << 0 << "{}"
-                                        << "untouched";
+        const Rows<int, QString, QString> row("result", "answer", "path");
+        row("chosen", 1, R"({"filePath":"/a/层.las"})", "/a/层.las");
+        row("chosen without a path", 1, "{}", "");
+        row("cancelled, though a path is there", 2, R"({"filePath":"/a/b"})", "untouched");
+        row("no such dialog", 0, "{}", "untouched");
     }
 
     void asksForOneName()
@@ -46,23 +41,15 @@ private slots:
 
     void navigates_data()
     {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QStringList>("paths");
+        const Rows<int, QString, int, QString, QStringList> row(
+            "flags", "expected", "result", "answer", "paths");
         const QString several = R"({"filePath":"/a","filePaths":["/a","/b"]})";
-        QTest::newRow("open one") << 0 << R"("MutiFile":false,"Open":true)" << 1 << several
-                                  << QStringList{"/a"};
-        QTest::newRow("save") << 1 << R"("MutiFile":false,"Open":false)" << 1 << several
-                              << QStringList{"/a"};
-        QTest::newRow("several") << 0x1000 << R"("MutiFile":true,"Open":true)" << 1 << several
-                                 << QStringList{"/a", "/b"};
-        QTest::newRow("several allowed, one given")
-            << 0x1003 << R"("MutiFile":true,"Open":false)" << 1 << R"({"filePath":"/a"})"
-            << QStringList{"/a"};
-        QTest::newRow("other bits")
-            << 0x2ffe << R"("MutiFile":false,"Open":true)" << 2 << several << QStringList{};
+        row("open one", 0, R"("MutiFile":false,"Open":true)", 1, several, {"/a"});
+        row("save", 1, R"("MutiFile":false,"Open":false)", 1, several, {"/a"});
+        row("several", 0x1000, R"("MutiFile":true,"Open":true)", 1, several, {"/a", "/b"});
+        row("several allowed, one given", 0x1003, R"("MutiFile":true,"Open":false)", 1,
+            R"({"filePath":"/a"})", {"/a"});
+        row("other bits", 0x2ffe, R"("MutiFile":false,"Open":true)", 2, several, {});
     }
 
     void navigates()

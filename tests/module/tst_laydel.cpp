@@ -1,4 +1,5 @@
 #include "listdriver.h"
+#include "rows.h"
 
 #include <QBoxLayout>
 
@@ -19,27 +20,21 @@ class TestLaydel : public QObject
 private slots:
     void asksAndMarks_data()
     {
-        QTest::addColumn<QList<int>>("rows");
-        QTest::addColumn<bool>("inBlocks");
-        QTest::addColumn<QString>("question");
-        QTest::newRow("one")
-            << QList<int>{0} << false
-            << "图层 A%1 将被删除。\n\n此图层上的所有对象或参照此图层的所有对象都将被"
-               "删除。";
-        QTest::newRow("several")
-            << QList<int>{0, 1, 2} << false
-            << "3 图层将被删除。\n\n这些图层上的所有对象或参照这些图层的所有对象都将"
-               "被删除。";
-        QTest::newRow("one in blocks")
-            << QList<int>{0} << true
-            << "将要删除的图层“A%"
-               "1”，该图层在块中被参照。\n将要删除该图层上的所有对象并重定义已参照的"
-               "块。\n\n是否继续？";
-        QTest::newRow("several in blocks")
-            << QList<int>{0, 2} << true
-            << "将要删除 2 "
-               "个图层，其中某些图层在块中被参照。\n将要删除该图层上的所有对象并重定义已参照"
-               "的块。\n\n是否继续？";
+        const Rows<QList<int>, bool, QString> row("rows", "inBlocks", "question");
+        row("one", {0}, false,
+            "图层 A%1 将被删除。\n\n此图层上的所有对象或参照此图层的所有对象都将被"
+            "删除。");
+        row("several", {0, 1, 2}, false,
+            "3 图层将被删除。\n\n这些图层上的所有对象或参照这些图层的所有对象都将"
+            "被删除。");
+        row("one in blocks", {0}, true,
+            "将要删除的图层“A%"
+            "1”，该图层在块中被参照。\n将要删除该图层上的所有对象并重定义已参照的"
+            "块。\n\n是否继续？");
+        row("several in blocks", {0, 2}, true,
+            "将要删除 2 "
+            "个图层，其中某些图层在块中被参照。\n将要删除该图层上的所有对象并重定义已参照"
+            "的块。\n\n是否继续？");
     }
 
     void asksAndMarks()

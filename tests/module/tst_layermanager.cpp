@@ -1,4 +1,5 @@
 #include "managerdriver.h"
+#include "rows.h"
 
 #include <QDialog>
 #include <QSignalSpy>
@@ -54,27 +55,22 @@ private slots:
 
     void deletesSelected_data()
     {
-        QTest::addColumn<QStringList>("more"); // Members of the selected records.
-        QTest::addColumn<QStringList>("after");
-        QTest::addColumn<int>("refused");
+        // The names of the selected records and more of their members.
+        const Rows<QStringList, QStringList, int> row("more", "after", "refused");
         const QString marked = R"({"CurLayer":2,"LayerName":"%1","Modified":1,"Selected":true})";
         const QString kept = R"({"CurLayer":1,"LayerName":"%1","Selected":true})";
-        QTest::newRow("empty layer") << QStringList{"A|"} << QStringList{marked.arg("A")} << 0;
-        QTest::newRow("0, Defpoints and an empty one")
-            << QStringList{"0|", "dEFPOINTS|", "A|"}
-            << QStringList{kept.arg("0"), kept.arg("dEFPOINTS"), marked.arg("A")} << 2;
-        QTest::newRow("used") << QStringList{R"(A|,"Used":true)", "B|"}
-                              << QStringList{R"({"CurLayer":1,"LayerName":"A","Selected":true,)"
-                                             R"("Used":true})",
-                                     marked.arg("B")}
-                              << 1;
-        QTest::newRow("of a reference")
-            << QStringList{R"(x$A|,"bDepend":true)"}
-            << QStringList{R"({"CurLayer":1,"LayerName":"x$A","Selected":true,"bDepend":true})"}
-            << 1;
-        QTest::newRow("looks like 0") << QStringList{"00|"} << QStringList{marked.arg("00")} << 0;
-        QTest::newRow("deleted before, without a mark")
-            << QStringList{R"(A|,"CurLayer":2)"} << QStringList{kept.arg("A")} << 0;
+        row("empty layer", {"A|"}, {marked.arg("A")}, 0);
+        row("0, Defpoints and an empty one", {"0|", "dEFPOINTS|", "A|"},
+            {kept.arg("0"), kept.arg("dEFPOINTS"), marked.arg("A")}, 2);
+        row("used", {R"(A|,"Used":true)", "B|"},
+            {R"({"CurLayer":1,"LayerName":"A","Selected":true,)"
+             R"("Used":true})",
+                marked.arg("B")},
+            1);
+        row("of a reference", {R"(x$A|,"bDepend":true)"},
+            {R"({"CurLayer":1,"LayerName":"x$A","Selected":true,"bDepend":true})"}, 1);
+        row("looks like 0", {"00|"}, {marked.arg("00")}, 0);
+        row("deleted before, without a mark", {R"(A|,"CurLayer":2)"}, {kept.arg("A")}, 0);
     }
 
     void deletesSelected()
@@ -122,9 +118,9 @@ private slots:
 
     void deletesByKey_data()
     {
-        QTest::addColumn<QByteArray>("focused");
-        QTest::newRow("in the table") << QByteArray("layerTable");
-        QTest::newRow("on a button") << QByteArray("okButton");
+        const Rows<QByteArray> row("focused");
+        row("in the table", "layerTable");
+        row("on a button", "okButton");
     }
 
     void deletesByKey()
@@ -186,15 +182,9 @@ private slots:
 
     void setsCurrentByButton_data()
     {
-        QTest::addColumn<QString>("more");
-        QTest::addColumn<int>("answer"); // 0: nothing is asked.
-        QTest::addColumn<QString>("asked");
-        QTest::addColumn<bool>("isCurrent");
-        QTest::addColumn<bool>("isOff");
-        const auto row = [](const char* name, const char* more, int answer, const char* asked,
-                             bool isCurrent, bool isOff) {
-            QTest::newRow(name) << more << answer << asked << isCurrent << isOff;
-        };
+        // The answer is 0 where nothing is asked.
+        const Rows<QString, int, QString, bool, bool> row(
+            "more", "answer", "asked", "isCurrent", "isOff");
         row("plain", "{}", 0, "", true, false);
         row("frozen", R"({"Frozen":true,"Off":true})", 0, kNotCurrent, false, true);
         row("deleted", R"({"CurLayer":2})", 0, kNotCurrent, false, false);
@@ -233,11 +223,10 @@ private slots:
 
     void setsNothingCurrentUnlessOneIsSelected_data()
     {
-        QTest::addColumn<QList<int>>("rows");
-        QTest::addColumn<bool>("enables");
-        QTest::newRow("none") << QList<int>{} << false;
-        QTest::newRow("two") << QList<int>{1, 2} << false;
-        QTest::newRow("the current one") << QList<int>{0} << true;
+        const Rows<QList<int>, bool> row("rows", "enables");
+        row("none", {}, false);
+        row("two", {1, 2}, false);
+        row("the current one", {0}, true);
     }
 
     void setsNothingCurrentUnlessOneIsSelected()
@@ -254,21 +243,14 @@ private slots:
 
     void setsCurrentByDoubleClick_data()
     {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QString>("more");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("asked");
-        QTest::addColumn<bool>("changes");
-        QTest::addColumn<bool>("isOff");
-        QTest::newRow("plain") << 2 << "{}" << 0 << "" << true << false;
-        QTest::newRow("current already") << 0 << "{}" << 0 << "" << false << false;
-        QTest::newRow("frozen") << 2 << R"({"Frozen":true})" << 0 << kNotCurrent << false << false;
-        QTest::newRow("off, kept on")
-            << 2 << R"({"Off":true})" << 102 << kCurrentOffTask << true << false;
-        QTest::newRow("off, turned off")
-            << 2 << R"({"Off":true})" << 101 << kCurrentOffTask << true << true;
-        QTest::newRow("off, task dialog closed")
-            << 2 << R"({"Off":true})" << 2 << kCurrentOffTask << true << true;
+        const Rows<int, QString, int, QString, bool, bool> row(
+            "row", "more", "answer", "asked", "changes", "isOff");
+        row("plain", 2, "{}", 0, "", true, false);
+        row("current already", 0, "{}", 0, "", false, false);
+        row("frozen", 2, R"({"Frozen":true})", 0, kNotCurrent, false, false);
+        row("off, kept on", 2, R"({"Off":true})", 102, kCurrentOffTask, true, false);
+        row("off, turned off", 2, R"({"Off":true})", 101, kCurrentOffTask, true, true);
+        row("off, task dialog closed", 2, R"({"Off":true})", 2, kCurrentOffTask, true, true);
     }
 
     void setsCurrentByDoubleClick()
@@ -296,45 +278,30 @@ private slots:
 
     void renames_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("refused"); // The message; empty for none.
+        // Refused with this message; empty for none.
+        const Rows<QString, QString, QString> row("typed", "stored", "refused");
         const QString length = "message|名称 的长度必须至少为一个字符|图层 - 文字长度|64";
         const QString tooLong =
             "message|图层名无效。\n\n所允许的最大长度为 255 个字符\n|图层 - 文字长度|64";
         const QString forbidden = "message|图层名中包含无效的字符。\n\n图层名称中不得含有以下字符："
                                   "\n\\<>/\":;?*|,=`|Quenlith|64";
         const QString notUnique = "message|图层名无效。\n\n图层名必须唯一\n|Quenlith|64";
-        QTest::newRow("plain") << "墙 1"
-                               << "墙 1"
-                               << "";
-        QTest::newRow("blanks around") << " \t墙\n "
-                                       << "墙"
-                                       << "";
-        QTest::newRow("other case of itself") << "a"
-                                              << "a"
-                                              << "";
-        QTest::newRow("empty") << ""
-                               << "A" << length;
-        QTest::newRow("only blanks") << "  "
-                                     << "A" << length;
-        QTest::newRow("255 characters") << QString(255, L'墙') << QString(255, L'墙') << "";
-        QTest::newRow("255 and blanks") << QString(255, 'x') + "  " << QString(255, 'x') << "";
-        QTest::newRow("255 beyond sixteen bits")
-            << QString("\U0002070E").repeated(255) << QString("\U0002070E").repeated(255) << "";
-        QTest::newRow("256 characters") << QString(256, 'x') << "A" << tooLong;
-        QTest::newRow("256, one forbidden") << QString(255, 'x') + "<"
-                                            << "A" << tooLong;
+        row("plain", "墙 1", "墙 1", "");
+        row("blanks around", " \t墙\n ", "墙", "");
+        row("other case of itself", "a", "a", "");
+        row("empty", "", "A", length);
+        row("only blanks", "  ", "A", length);
+        row("255 characters", QString(255, L'墙'), QString(255, L'墙'), "");
+        row("255 and blanks", QString(255, 'x') + "  ", QString(255, 'x'), "");
+        row("255 beyond sixteen bits", QString("\U0002070E").repeated(255),
+            QString("\U0002070E").repeated(255), "");
+        row("256 characters", QString(256, 'x'), "A", tooLong);
+        row("256, one forbidden", QString(255, 'x') + "<", "A", tooLong);
         for (const QChar c : QStringLiteral("\\<>/\":;?*|,=`"))
-            QTest::newRow(qPrintable("forbidden " + QString(c)))
-                << QString("x") + c << "A" << forbidden;
-        QTest::newRow("allowed signs") << "x$-_'.%[]"
-                                       << "x$-_'.%[]"
-                                       << "";
-        QTest::newRow("taken in other case") << "LAYER1"
-                                             << "A" << notUnique;
-        QTest::newRow("taken, with blanks") << " Étage "
-                                            << "A" << notUnique;
+            row(qPrintable("forbidden " + QString(c)), QString("x") + c, "A", forbidden);
+        row("allowed signs", "x$-_'.%[]", "x$-_'.%[]", "");
+        row("taken in other case", "LAYER1", "A", notUnique);
+        row("taken, with blanks", " Étage ", "A", notUnique);
     }
 
     void renames()
@@ -371,12 +338,11 @@ private slots:
 
     void refusesToRename_data()
     {
-        QTest::addColumn<QString>("record");
-        QTest::addColumn<bool>("refused");
-        QTest::newRow("0") << layer("0") << true;
-        QTest::newRow("of a reference") << layer("x|A", 1, R"(,"bDepend":true)") << true;
-        QTest::newRow("looks like 0") << layer("0 ") << false;
-        QTest::newRow("Defpoints") << layer("Defpoints") << false;
+        const Rows<QString, bool> row("record", "refused");
+        row("0", layer("0"), true);
+        row("of a reference", layer("x|A", 1, R"(,"bDepend":true)"), true);
+        row("looks like 0", layer("0 "), false);
+        row("Defpoints", layer("Defpoints"), false);
     }
 
     void refusesToRename()
@@ -411,16 +377,10 @@ private slots:
 
     void closes_data()
     {
-        QTest::addColumn<QByteArray>("button"); // Empty for the Esc key.
-        QTest::addColumn<QString>("modified");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("log");
-        QTest::addColumn<int>("code");
+        // No button stands for the Esc key.
+        const Rows<QByteArray, QString, int, QString, int> row(
+            "button", "modified", "answer", "log", "code");
         const QString apply = request(4);
-        const auto row = [](const char* name, const char* button, const char* modified, int answer,
-                             const QString& log, int code) {
-            QTest::newRow(name) << QByteArray(button) << modified << answer << log << code;
-        };
         row("OK, nothing modified", "okButton", "{}", 0, apply, 1);
         row("OK, modified", "okButton", R"({"Modified":true})", 0, apply, 1);
         row("Cancel, nothing modified", "cancelButton", R"({"Modified":false})", 0, "", 0);
@@ -468,10 +428,9 @@ private slots:
 
     void worksWithoutCommandOrTree_data()
     {
-        QTest::addColumn<QString>("json");
-        QTest::newRow("no command")
-            << layerTree({layer("A", 0), layer("B", 1, R"(,"Modified":true)")});
-        QTest::newRow("no tree") << "";
+        const Rows<QString> row("json");
+        row("no command", layerTree({layer("A", 0), layer("B", 1, R"(,"Modified":true)")}));
+        row("no tree", "");
     }
 
     void worksWithoutCommandOrTree()

@@ -1,4 +1,5 @@
 #include "managerdriver.h"
+#include "rows.h"
 #include "vndocument.h"
 #include "vnstrings.h"
 
@@ -33,12 +34,7 @@ private slots:
 
     void showsIcon_data()
     {
-        QTest::addColumn<QString>("record");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QByteArray>("icon");
-        const auto row = [](const char* name, const QString& record, int column, const char* icon) {
-            QTest::newRow(name) << record << column << QByteArray(icon);
-        };
+        const Rows<QString, int, QByteArray> row("record", "column", "icon");
         row("current", R"({"CurLayer":0})", 0, "current");
         row("ordinary", R"({"CurLayer":1})", 0, "nocurrent");
         row("deleted", R"({"CurLayer":2,"Off":true})", 0, "deleted");
@@ -70,12 +66,7 @@ private slots:
 
     void showsText_data()
     {
-        QTest::addColumn<QString>("record");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char* name, const char* record, int column, const char* text) {
-            QTest::newRow(name) << record << column << QString(text);
-        };
+        const Rows<QString, int, QString> row("record", "column", "text");
         row("name", R"({"LayerName":"<b>墙&"})", 1, "<b>墙&");
         row("name of another type", R"({"LayerName":7})", 1, "");
         row("linetype", R"({"linetype":{"name":"DASHED"}})", 6, "DASHED");
@@ -103,16 +94,13 @@ private slots:
 
     void showsColor_data()
     {
-        QTest::addColumn<QString>("color");
-        QTest::addColumn<QColor>("swatch");
-        QTest::newRow("index") << R"({"clrMethod":195,"selectClr":1})" << QColor(255, 0, 0);
-        QTest::newRow("index, low bits count")
-            << R"({"clrMethod":195,"selectClr":131075})" << QColor(0, 255, 0);
-        QTest::newRow("true colour, red lowest")
-            << R"({"clrMethod":194,"selectClr":3351057})" << QColor(0x11, 0x22, 0x33);
-        QTest::newRow("unknown method")
-            << R"({"clrMethod":7,"selectClr":255})" << QColor(255, 0, 0);
-        QTest::newRow("missing") << "{}" << QColor(0, 0, 0);
+        const Rows<QString, QColor> row("color", "swatch");
+        row("index", R"({"clrMethod":195,"selectClr":1})", QColor(255, 0, 0));
+        row("index, low bits count", R"({"clrMethod":195,"selectClr":131075})", QColor(0, 255, 0));
+        row("true colour, red lowest", R"({"clrMethod":194,"selectClr":3351057})",
+            QColor(0x11, 0x22, 0x33));
+        row("unknown method", R"({"clrMethod":7,"selectClr":255})", QColor(255, 0, 0));
+        row("missing", "{}", QColor(0, 0, 0));
     }
 
     void showsColor()
@@ -134,27 +122,16 @@ private slots:
 
     void fillsLabels_data()
     {
-        QTest::addColumn<QString>("json");
-        QTest::addColumn<QString>("current");
-        QTest::addColumn<QString>("count");
-        QTest::newRow("layers") << layerTree({layer("A"), layer("<i>墙", 0)}) << "当前图层：<i>墙"
-                                << "全部：共2个图层";
-        QTest::newRow("last of two current ones")
-            << layerTree({layer("A", 0), layer("B", 0)}) << "当前图层：B"
-            << "全部：共2个图层";
-        QTest::newRow("none current") << layerTree({layer("A")}) << "当前图层："
-                                      << "全部：共1个图层";
-        QTest::newRow("empty list") << layerTree({}) << "当前图层："
-                                    << "全部：共0个图层";
-        QTest::newRow("no list") << "{}"
-                                 << "当前图层："
-                                 << "共  个图层";
-        QTest::newRow("list of another type") << R"({"LayerList":"A"})"
-                                              << "当前图层："
-                                              << "共  个图层";
-        QTest::newRow("no tree") << ""
-                                 << "当前图层："
-                                 << "共  个图层";
+        const Rows<QString, QString, QString> row("json", "current", "count");
+        row("layers", layerTree({layer("A"), layer("<i>墙", 0)}), "当前图层：<i>墙",
+            "全部：共2个图层");
+        row("last of two current ones", layerTree({layer("A", 0), layer("B", 0)}), "当前图层：B",
+            "全部：共2个图层");
+        row("none current", layerTree({layer("A")}), "当前图层：", "全部：共1个图层");
+        row("empty list", layerTree({}), "当前图层：", "全部：共0个图层");
+        row("no list", "{}", "当前图层：", "共  个图层");
+        row("list of another type", R"({"LayerList":"A"})", "当前图层：", "共  个图层");
+        row("no tree", "", "当前图层：", "共  个图层");
     }
 
     void fillsLabels()
@@ -167,15 +144,13 @@ private slots:
 
     void appliesColumnWidths_data()
     {
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QList<int>>("widths");
-        QTest::newRow("short") << "[90,120]" << QList<int>{90, 120, -1};
-        QTest::newRow("long") << "[90,80,70,60,50,60,70,80,90,80,70,60,50,99,98]"
-                              << QList<int>{90, 80, 70, 60, 50, 60, 70, 80, 90, 80, 70, 60, 50};
-        QTest::newRow("elements of other types")
-            << R"(["x",77,null,88])" << QList<int>{-1, 77, -1, 88};
-        QTest::newRow("no array") << R"({"0":90})" << QList<int>{-1, -1};
-        QTest::newRow("absurd") << "[2147483647,-5]" << QList<int>{-1, -1};
+        const Rows<QString, QList<int>> row("list", "widths");
+        row("short", "[90,120]", {90, 120, -1});
+        row("long", "[90,80,70,60,50,60,70,80,90,80,70,60,50,99,98]",
+            {90, 80, 70, 60, 50, 60, 70, 80, 90, 80, 70, 60, 50});
+        row("elements of other types", R"(["x",77,null,88])", {-1, 77, -1, 88});
+        row("no array", R"({"0":90})", {-1, -1});
+        row("absurd", "[2147483647,-5]", {-1, -1});
     }
 
     void appliesColumnWidths()
@@ -201,17 +176,9 @@ private slots:
 
     void clicksCell_data()
     {
-        QTest::addColumn<int>("row"); // 0 is the current layer.
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("asked");
-        QTest::addColumn<QString>("after"); // Empty where nothing changes.
-        QTest::addColumn<bool>("marks");
-        const auto row = [](const char* name, int r, int column, const char* before, int answer,
-                             const char* asked, const char* after, bool marks) {
-            QTest::newRow(name) << r << column << before << answer << asked << after << marks;
-        };
+        // Row 0 is the current layer; nothing after where nothing changes.
+        const Rows<int, int, QString, int, QString, QString, bool> row(
+            "row", "column", "before", "answer", "asked", "after", "marks");
         const char* const off =
             "message|当前图层将被关闭。\n是否要使当前图层保持打开状态?\n|Quenlith|68";
         const char* const frozen = "message|不能冻结当前图层\n|Quenlith|64";
@@ -277,31 +244,22 @@ private slots:
 
     void choosesColor_data()
     {
-        QTest::addColumn<QString>("color");
-        QTest::addColumn<QString>("asked");
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QColor>("swatch");
+        const Rows<QString, QString, int, QString, QString, QColor> row(
+            "color", "asked", "result", "answer", "stored", "swatch");
         const QString index = R"({"clrMethod":195,"selectClr":3})";
         const QString askedIndex =
             R"({"clrMethod":195,"isByBLockEnable":0,"isByLayerEnable":0,"selectClr":3})";
-        QTest::newRow("index to true colour")
-            << index << askedIndex << 1 << R"({"clrMethod":194,"selectClr":255})"
-            << R"({"clrMethod":194,"selectClr":255})" << QColor(255, 0, 0);
-        QTest::newRow("cancelled")
-            << index << askedIndex << 2 << R"({"selectClr":5})" << index << QColor(0, 255, 0);
-        QTest::newRow("answers nothing")
-            << index << askedIndex << 1 << R"({"selectClr":null,"clrMethod":null})"
-            << R"({"clrMethod":0,"selectClr":-1})" << QColor(255, 255, 255);
-        QTest::newRow("only the index of an index is handed on")
-            << R"({"clrMethod":195,"selectClr":65539})" << askedIndex << 2 << "{}"
-            << R"({"clrMethod":195,"selectClr":65539})" << QColor(0, 255, 0);
-        QTest::newRow("true colour to index")
-            << R"({"clrMethod":194,"selectClr":255})"
-            << R"({"clrMethod":194,"isByBLockEnable":0,"isByLayerEnable":0,"selectClr":255})" << 1
-            << R"({"clrMethod":195,"selectClr":5})"
-            << R"({"clrMethod":195,"selectClr":5})" << QColor(0, 0, 255);
+        row("index to true colour", index, askedIndex, 1, R"({"clrMethod":194,"selectClr":255})",
+            R"({"clrMethod":194,"selectClr":255})", QColor(255, 0, 0));
+        row("cancelled", index, askedIndex, 2, R"({"selectClr":5})", index, QColor(0, 255, 0));
+        row("answers nothing", index, askedIndex, 1, R"({"selectClr":null,"clrMethod":null})",
+            R"({"clrMethod":0,"selectClr":-1})", QColor(255, 255, 255));
+        row("only the index of an index is handed on", R"({"clrMethod":195,"selectClr":65539})",
+            askedIndex, 2, "{}", R"({"clrMethod":195,"selectClr":65539})", QColor(0, 255, 0));
+        row("true colour to index", R"({"clrMethod":194,"selectClr":255})",
+            R"({"clrMethod":194,"isByBLockEnable":0,"isByLayerEnable":0,"selectClr":255})", 1,
+            R"({"clrMethod":195,"selectClr":5})", R"({"clrMethod":195,"selectClr":5})",
+            QColor(0, 0, 255));
     }
 
     void choosesColor()

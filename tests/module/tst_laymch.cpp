@@ -1,4 +1,5 @@
 #include "listdriver.h"
+#include "rows.h"
 
 namespace {
 
@@ -15,35 +16,30 @@ class TestLaymch : public QObject
 private slots:
     void choosesTarget_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("answer"); // 0: nothing is asked.
-        QTest::addColumn<QString>("log");
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("after");
+        // The answer is 0 where nothing is asked.
+        const Rows<QString, int, QString, int, QString> row(
+            "typed", "answer", "log", "result", "after");
         const QString unsupported = "message|\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  "
                                     "\\<>/\":;?*|,=`|图层-不支持的字符|0";
         const QString empty = "message|\n图层名至少必须包含一个字符。|图层名无效|0";
         const QString create =
             "messageEx|是否创建图层？|\n图层\"新%1\"不存在。\n是否创建它？|4|1|32";
-        QTest::newRow("listed") << "Layer1" << 0 << "" << 1
-                                << R"([{"LayerName":"0"},{"CurLayer":4,"LayerName":"Layer1",)"
-                                   R"("Modified":1}])";
-        QTest::newRow("listed in other case") << "LAYER1" << 0 << "" << 1 << kUnchanged;
-        QTest::newRow("new") << "新%1" << 6 << create << 1
-                             << R"([{"LayerName":"0"},{"CurLayer":3,"LayerName":"Layer1",)"
-                                R"("Modified":1,"NewLayer":"新%1"}])";
-        QTest::newRow("new, declined") << "新%1" << 7 << create << 2 << kUnchanged;
-        QTest::newRow("empty") << "" << 0 << empty << 2 << kUnchanged;
-        QTest::newRow("only blanks") << " \t " << 0 << empty << 2 << kUnchanged;
-        QTest::newRow("blank inside") << "my layer" << 0 << unsupported << 2 << kUnchanged;
-        QTest::newRow("blank around a listed name")
-            << " Layer1" << 0 << unsupported << 2 << kUnchanged;
+        row("listed", "Layer1", 0, "", 1,
+            R"([{"LayerName":"0"},{"CurLayer":4,"LayerName":"Layer1",)"
+            R"("Modified":1}])");
+        row("listed in other case", "LAYER1", 0, "", 1, kUnchanged);
+        row("new", "新%1", 6, create, 1,
+            R"([{"LayerName":"0"},{"CurLayer":3,"LayerName":"Layer1",)"
+            R"("Modified":1,"NewLayer":"新%1"}])");
+        row("new, declined", "新%1", 7, create, 2, kUnchanged);
+        row("empty", "", 0, empty, 2, kUnchanged);
+        row("only blanks", " \t ", 0, empty, 2, kUnchanged);
+        row("blank inside", "my layer", 0, unsupported, 2, kUnchanged);
+        row("blank around a listed name", " Layer1", 0, unsupported, 2, kUnchanged);
         for (const QChar c : QStringLiteral("\\<>/\":;?*|,=`"))
-            QTest::newRow(qPrintable("forbidden " + QString(c)))
-                << QString(c) << 0 << unsupported << 2 << kUnchanged;
-        QTest::newRow("too long for a new layer")
-            << QString(256, 'x') << 0 << "message|\n图层名最多只能包含 255 个字符。|图层名无效|0"
-            << 2 << kUnchanged;
+            row(qPrintable("forbidden " + QString(c)), c, 0, unsupported, 2, kUnchanged);
+        row("too long for a new layer", QString(256, 'x'), 0,
+            "message|\n图层名最多只能包含 255 个字符。|图层名无效|0", 2, kUnchanged);
     }
 
     void choosesTarget()

@@ -1,4 +1,5 @@
 #include "listdriver.h"
+#include "rows.h"
 
 namespace {
 
@@ -58,18 +59,13 @@ private slots:
 
     void refusesTarget_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("log");
+        const Rows<QString, QString> row("typed", "log");
         const QString unsupported = "message|\n名称 包含不支持的字符。\n\n\n不支持以下字符:  "
                                     "\\<>/\":;?*|,=`|图层-不支持的字符|0";
-        QTest::newRow("forbidden, also unknown") << "x/y" << unsupported;
-        QTest::newRow("unknown") << "x"
-                                 << "message|图层名无效|Quenlith|0";
-        QTest::newRow("other case") << "a"
-                                    << "message|图层名无效|Quenlith|0";
-        QTest::newRow("listed, but empty")
-            << ""
-            << "message|\n\n图层名至少必须包含一个字符。|图层名无效。|0";
+        row("forbidden, also unknown", "x/y", unsupported);
+        row("unknown", "x", "message|图层名无效|Quenlith|0");
+        row("other case", "a", "message|图层名无效|Quenlith|0");
+        row("listed, but empty", "", "message|\n\n图层名至少必须包含一个字符。|图层名无效。|0");
     }
 
     void refusesTarget()
@@ -87,15 +83,13 @@ private slots:
 
     void confirmsTarget_data()
     {
-        QTest::addColumn<int>("sources");
-        QTest::addColumn<int>("blocks");
-        QTest::addColumn<QString>("question");
+        const Rows<int, int, QString> row("sources", "blocks", "question");
         const QString plain = "。\n\n是否继续？";
         const QString redefines = "。\n将重定义已合并图层中参照的所用块。\n\n是否继续？";
-        QTest::newRow("one") << 1 << 0 << "\n将要把图层 A 合并到图层 B" + plain;
-        QTest::newRow("none") << 0 << 1 << "\n将要把图层  合并到图层 B" + redefines;
-        QTest::newRow("two") << 2 << -1 << "\n将要把 2 个图层合并到图层 B" + plain;
-        QTest::newRow("three in blocks") << 3 << 2 << "\n将要把 3 个图层合并到图层 B" + redefines;
+        row("one", 1, 0, "\n将要把图层 A 合并到图层 B" + plain);
+        row("none", 0, 1, "\n将要把图层  合并到图层 B" + redefines);
+        row("two", 2, -1, "\n将要把 2 个图层合并到图层 B" + plain);
+        row("three in blocks", 3, 2, "\n将要把 3 个图层合并到图层 B" + redefines);
     }
 
     void confirmsTarget()

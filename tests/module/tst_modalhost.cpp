@@ -1,6 +1,7 @@
 #include "hoststart.h"
 #include "modaldriver.h"
 #include "requests.h"
+#include "rows.h"
 #include "vornqt.h"
 
 #include <QThread>
@@ -75,23 +76,23 @@ private slots:
         const auto own = [](QDialog& dialog) {
             static_cast<Probe&>(dialog).host().resultData()->SetDataI("result", 3);
         };
-        QTest::addColumn<Step>("step");
-        QTest::addColumn<int>("result");
-        QTest::newRow("close box") << Step([](QDialog& d) { d.close(); }) << 2;
-        QTest::newRow("escape") << Step([](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); })
-                                << 2;
-        QTest::newRow("accept") << Step([](QDialog& d) { d.accept(); }) << 1;
-        QTest::newRow("own result, then accept") << Step([own](QDialog& d) {
+        const Rows<Step, int> row("step", "result");
+        row("close box", Step([](QDialog& d) { d.close(); }), 2);
+        row("escape", Step([](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }), 2);
+        row("accept", Step([](QDialog& d) { d.accept(); }), 1);
+        row("own result, then accept", Step([own](QDialog& d) {
             own(d);
             d.accept();
-        }) << 3;
-        QTest::newRow("own result, then close box") << Step([own](QDialog& d) {
+        }),
+            3);
+        row("own result, then close box", Step([own](QDialog& d) {
             own(d);
             d.close();
-        }) << 3;
-        QTest::newRow("another exit code") << Step([](QDialog& d) { d.done(9); }) << -1;
-        QTest::newRow("ended though rejected")
-            << Step([](QDialog& d) { static_cast<Probe&>(d).endDialog(1); }) << 1;
+        }),
+            3);
+        row("another exit code", Step([](QDialog& d) { d.done(9); }), -1);
+        row("ended though rejected", Step([](QDialog& d) { static_cast<Probe&>(d).endDialog(1); }),
+            1);
     }
 
     void endsWithResult()

@@ -1,6 +1,7 @@
 #include "RxObjectImpl.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
+#include "rows.h"
 #include "trees.h"
 #include "vornqt.h"
 
@@ -72,10 +73,9 @@ private slots:
 
     void skipsWithoutPartner_data()
     {
-        QTest::addColumn<OdRxObjectPtr>("invoker");
-        QTest::newRow("none") << OdRxObjectPtr();
-        QTest::newRow("another kind of object")
-            << OdRxObjectPtr(OdRxObjectImpl<Bystander>::createObject());
+        const Rows<OdRxObjectPtr> row("invoker");
+        row("none", OdRxObjectPtr());
+        row("another kind of object", OdRxObjectPtr(OdRxObjectImpl<Bystander>::createObject()));
     }
 
     void skipsWithoutPartner()
@@ -106,14 +106,12 @@ private slots:
 
     void reportsWhatCommandThrows_data()
     {
-        QTest::addColumn<Answer>("fail");
-        QTest::addColumn<QString>("cause");
-        QTest::newRow("standard") << Answer([](const VnJsonPtr&) {
-            throw std::runtime_error("磁盘已满");
-        }) << "磁盘已满";
-        QTest::newRow("platform") << Answer([](const VnJsonPtr&) { throw OdError_InvalidIndex(); })
-                                  << "Index outside the array";
-        QTest::newRow("anything") << Answer([](const VnJsonPtr&) { throw 1; }) << "未知";
+        const Rows<Answer, QString> row("fail", "cause");
+        row("standard", Answer([](const VnJsonPtr&) { throw std::runtime_error("磁盘已满"); }),
+            "磁盘已满");
+        row("platform", Answer([](const VnJsonPtr&) { throw OdError_InvalidIndex(); }),
+            "Index outside the array");
+        row("anything", Answer([](const VnJsonPtr&) { throw 1; }), "未知");
     }
 
     void reportsWhatCommandThrows()

@@ -1,5 +1,6 @@
 #include "managerdriver.h"
 #include "modaldriver.h"
+#include "rows.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -12,18 +13,18 @@ class TestTransparency : public QObject
 private slots:
     void accepts_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("stored"); // -1 where the dialog stays open.
-        QTest::newRow("nothing typed") << "" << 35;
-        QTest::newRow("least") << "0" << 0;
-        QTest::newRow("most") << "90" << 90;
-        QTest::newRow("first digit of an offered value") << "5" << 5;
-        QTest::newRow("too much") << "91" << -1;
-        QTest::newRow("negative") << "-1" << -1;
-        QTest::newRow("most negative") << "-2147483648" << -1;
-        QTest::newRow("no number") << "abc" << 0;
-        QTest::newRow("beyond numbers") << "99999999999" << 0;
-        QTest::newRow("fraction") << "4.5" << 0;
+        // -1 is stored where the dialog stays open.
+        const Rows<QString, int> row("typed", "stored");
+        row("nothing typed", "", 35);
+        row("least", "0", 0);
+        row("most", "90", 90);
+        row("first digit of an offered value", "5", 5);
+        row("too much", "91", -1);
+        row("negative", "-1", -1);
+        row("most negative", "-2147483648", -1);
+        row("no number", "abc", 0);
+        row("beyond numbers", "99999999999", 0);
+        row("fraction", "4.5", 0);
     }
 
     void accepts()

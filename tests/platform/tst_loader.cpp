@@ -1,5 +1,6 @@
 #include "OdAnsiString.h"
 #include "RxModuleLoader.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -10,12 +11,10 @@ class TestLoader : public QObject
 private slots:
     void refusesWithCause_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("cause");
-        QTest::newRow("no such file") << "/nowhere/libnone.so"
-                                      << "/nowhere/libnone.so";
-        QTest::newRow("no entry points") << NOT_A_MODULE << "odrxGetAPIVersion";
-        QTest::newRow("another release") << OLD_MODULE << "another release";
+        const Rows<QString, QString> row("path", "cause");
+        row("no such file", "/nowhere/libnone.so", "/nowhere/libnone.so");
+        row("no entry points", NOT_A_MODULE, "odrxGetAPIVersion");
+        row("another release", OLD_MODULE, "another release");
     }
 
     void refusesWithCause()

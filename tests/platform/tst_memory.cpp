@@ -1,5 +1,6 @@
 #include "OdAlloc.h"
 #include "RxObjectImpl.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -52,14 +53,11 @@ private slots:
 
     void callsHandler_data()
     {
-        QTest::addColumn<int>("failures");
-        QTest::addColumn<bool>("givesUp");
-        QTest::addColumn<bool>("succeeds");
-        QTest::addColumn<int>("calls");
-        QTest::newRow("memory at once") << 0 << false << true << 0;
-        QTest::newRow("memory after one call") << 1 << false << true << 1;
-        QTest::newRow("tried again after every call") << 3 << false << true << 3;
-        QTest::newRow("handler takes itself away") << 5 << true << false << 1;
+        const Rows<int, bool, bool, int> row("failures", "givesUp", "succeeds", "calls");
+        row("memory at once", 0, false, true, 0);
+        row("memory after one call", 1, false, true, 1);
+        row("tried again after every call", 3, false, true, 3);
+        row("handler takes itself away", 5, true, false, 1);
     }
 
     void callsHandler()

@@ -1,6 +1,7 @@
 #include "CmColor.h"
 #include "OdAnsiString.h"
 #include "OdString.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -22,24 +23,14 @@ private slots:
 
     void compares_data()
     {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<int>("exact");
-        QTest::addColumn<int>("withoutCase");
-        QTest::newRow("same") << "Dialog"
-                              << "Dialog" << 0 << 0;
-        QTest::newRow("other case") << "Dialog"
-                                    << "dIALOG" << -1 << 0;
-        QTest::newRow("case beyond ASCII") << "\u00c9tage"
-                                           << "\u00e9tage" << -1 << 0;
-        QTest::newRow("prefix") << "CmdLayer"
-                                << "CmdLayerState" << -1 << -1;
-        QTest::newRow("both empty") << ""
-                                    << "" << 0 << 0;
-        QTest::newRow("one empty") << "a"
-                                   << "" << 1 << 1;
-        QTest::newRow("beyond sixteen bits") << "\U0001F600"
-                                             << "\uFFFD" << 1 << 1;
+        const Rows<QString, QString, int, int> row("first", "second", "exact", "withoutCase");
+        row("same", "Dialog", "Dialog", 0, 0);
+        row("other case", "Dialog", "dIALOG", -1, 0);
+        row("case beyond ASCII", "\u00c9tage", "\u00e9tage", -1, 0);
+        row("prefix", "CmdLayer", "CmdLayerState", -1, -1);
+        row("both empty", "", "", 0, 0);
+        row("one empty", "a", "", 1, 1);
+        row("beyond sixteen bits", "\U0001F600", "\uFFFD", 1, 1);
     }
 
     void compares()
@@ -63,22 +54,19 @@ private slots:
 
     void decodesUtf8_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("ASCII") << QByteArray("A-1") << "A-1";
-        QTest::newRow("two bytes") << QByteArray("\xc3\xa9") << "\u00e9";
-        QTest::newRow("three bytes") << QByteArray("\xe5\x9b\xbe") << "图";
-        QTest::newRow("four bytes") << QByteArray("\xf0\x9f\x98\x80") << "\U0001F600";
-        QTest::newRow("lone tail byte") << QByteArray("a\x80z") << "a\uFFFDz";
-        QTest::newRow("cut off") << QByteArray("a\xe5\x9b") << "a\uFFFD\uFFFD";
-        QTest::newRow("cut off by ASCII") << QByteArray("\xe5z") << "\uFFFDz";
-        QTest::newRow("too long a form") << QByteArray("\xc0\xaf") << "\uFFFD\uFFFD";
-        QTest::newRow("too long a form, three")
-            << QByteArray("\xe0\x80\xaf") << "\uFFFD\uFFFD\uFFFD";
-        QTest::newRow("surrogate") << QByteArray("\xed\xa0\x80") << "\uFFFD\uFFFD\uFFFD";
-        QTest::newRow("beyond Unicode")
-            << QByteArray("\xf4\x90\x80\x80") << "\uFFFD\uFFFD\uFFFD\uFFFD";
-        QTest::newRow("no lead byte") << QByteArray("\xff") << "\uFFFD";
+        const Rows<QByteArray, QString> row("bytes", "text");
+        row("ASCII", "A-1", "A-1");
+        row("two bytes", "\xc3\xa9", "\u00e9");
+        row("three bytes", "\xe5\x9b\xbe", "图");
+        row("four bytes", "\xf0\x9f\x98\x80", "\U0001F600");
+        row("lone tail byte", "a\x80z", "a\uFFFDz");
+        row("cut off", "a\xe5\x9b", "a\uFFFD\uFFFD");
+        row("cut off by ASCII", "\xe5z", "\uFFFDz");
+        row("too long a form", "\xc0\xaf", "\uFFFD\uFFFD");
+        row("too long a form, three", "\xe0\x80\xaf", "\uFFFD\uFFFD\uFFFD");
+        row("surrogate", "\xed\xa0\x80", "\uFFFD\uFFFD\uFFFD");
+        row("beyond Unicode", "\xf4\x90\x80\x80", "\uFFFD\uFFFD\uFFFD\uFFFD");
+        row("no lead byte", "\xff", "\uFFFD");
     }
 
     void decodesUtf8()
@@ -99,22 +87,21 @@ private slots:
 
     void knowsIndexColors_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<unsigned>("rgb");
-        QTest::newRow("red") << 1 << 0xFF0000u;
-        QTest::newRow("blue") << 5 << 0x0000FFu;
-        QTest::newRow("white") << 7 << 0xFFFFFFu;
-        QTest::newRow("dark grey") << 8 << 0x808080u;
-        QTest::newRow("half saturated") << 11 << 0xFF7F7Fu;
-        QTest::newRow("second brightness") << 12 << 0xA50000u;
-        QTest::newRow("darkest, half saturated") << 19 << 0x261313u;
-        QTest::newRow("first hue step") << 20 << 0xFF3F00u;
-        QTest::newRow("past green") << 110 << 0x00FF7Fu;
-        QTest::newRow("last hue") << 240 << 0xFF003Fu;
-        QTest::newRow("first grey") << 250 << 0x333333u;
-        QTest::newRow("last grey") << 255 << 0xFFFFFFu;
-        QTest::newRow("below the table") << -4 << 0xFFFFFFu;
-        QTest::newRow("beyond the table") << 300 << 0xFFFFFFu;
+        const Rows<int, unsigned> row("index", "rgb");
+        row("red", 1, 0xFF0000u);
+        row("blue", 5, 0x0000FFu);
+        row("white", 7, 0xFFFFFFu);
+        row("dark grey", 8, 0x808080u);
+        row("half saturated", 11, 0xFF7F7Fu);
+        row("second brightness", 12, 0xA50000u);
+        row("darkest, half saturated", 19, 0x261313u);
+        row("first hue step", 20, 0xFF3F00u);
+        row("past green", 110, 0x00FF7Fu);
+        row("last hue", 240, 0xFF003Fu);
+        row("first grey", 250, 0x333333u);
+        row("last grey", 255, 0xFFFFFFu);
+        row("below the table", -4, 0xFFFFFFu);
+        row("beyond the table", 300, 0xFFFFFFu);
     }
 
     void knowsIndexColors()

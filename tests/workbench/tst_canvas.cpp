@@ -1,5 +1,6 @@
 #include "../drawing/tst_geometrysketch.h"
 #include "canvas.h"
+#include "rows.h"
 
 #include <QSignalSpy>
 #include <QWheelEvent>
@@ -42,318 +43,280 @@ class CanvasTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void layersHideTheirPixels_data();
-    void layersHideTheirPixels();
-    void colors_data();
-    void colors();
-    void laterFillsCoverEarlierOnes_data();
-    void laterFillsCoverEarlierOnes();
-    void textStandsAtItsPoint_data();
-    void textStandsAtItsPoint();
-    void wheelKeepsThePointUnderTheCursor_data();
-    void wheelKeepsThePointUnderTheCursor();
-    void wheelHasEnds_data();
-    void wheelHasEnds();
-    void middleButtonDragsTheDrawing();
-    void extents_data();
-    void extents();
-    void resizingKeepsTheExtentsUntilMoved();
+    void init()
+    {
+        m_sketch = std::make_unique<Sketch>();
+        m_canvas = std::make_unique<Canvas>();
+        m_canvas->resize(400, 300);
+    }
+
+    void layersHideTheirPixels_data()
+    {
+        const Rows<QByteArray, bool, QVector<int>> row("name", "frozen", "hidden");
+        row("off hides what is on it, in blocks too", "A", false, {0, 40});
+        row("frozen hides the same", "A", true, {0, 40});
+        row("off leaves what a reference holds on other layers", "B", false, {20, 60});
+        row("frozen hides the whole reference", "B", true, {20, 40, 60});
+        row("layer 0 in a reference on another layer", "0", true, {80});
+    }
+
+    void layersHideTheirPixels()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(bool, frozen);
+        QFETCH(QVector<int>, hidden);
+        m_sketch->blocks = "0 BLOCK 8 0 2 U 70 0 10 0 20 0 " + fill("A", 40, 0, 10, 10) +
+                           fill("0", 60, 0, 10, 10) + "0 ENDBLK 8 0";
+        show(fill("A", 0, 0, 10, 10) + fill("B", 20, 0, 10, 10) + "0 INSERT 8 B 2 U 10 0 20 0 " +
+             fill("0", 80, 0, 10, 10));
+        const QImage before = picture();
+
+        (frozen ? layer(name).properties.frozen : layer(name).properties.off) = true;
+        m_canvas->setLayers(m_layers);
+        const QImage after = picture();
+        for (int y = 0; y < before.height(); ++y) {
+            for (int x = 0; x < before.width(); ++x) {
+                const bool changed = before.pixel(x, y) != after.pixel(x, y);
+                const bool expected = std::any_of(hidden.begin(), hidden.end(), [&](int left) {
+                    return onScreen(left, 0, 10, 10)
+                        .adjusted(1, 1, -1, -1)
+                        .contains(x + 0.5, y + 0.5);
+                });
+                const bool allowed = std::any_of(hidden.begin(), hidden.end(), [&](int left) {
+                    return onScreen(left, 0, 10, 10)
+                        .adjusted(-2, -2, 2, 2)
+                        .contains(x + 0.5, y + 0.5);
+                });
+                QVERIFY2(changed ? allowed : !expected,
+                    qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+            }
+        }
+        (frozen ? layer(name).properties.frozen : layer(name).properties.off) = false;
+        m_canvas->setLayers(m_layers);
+        QCOMPARE(picture(), before);
+    }
+
+    void colors_data()
+    {
+        const Rows<QByteArray, QByteArray, QColor, QColor> row(
+            "layers", "codes", "onBlack", "onWhite");
+        row("index 7 is the foreground", "A 62 7", QByteArray(), QColor(Qt::white),
+            QColor(Qt::black));
+        row("index of the layer", "A 62 1", QByteArray(), QColor(255, 0, 0), QColor(255, 0, 0));
+        row("its own index 7", "A 62 1", "62 7 ", QColor(Qt::white), QColor(Qt::black));
+        row("true white does not turn", "A 62 7 420 16777215", QByteArray(), QColor(Qt::white),
+            QColor(Qt::white));
+        row("red is the high byte", "A 62 7 420 16711680", QByteArray(), QColor(255, 0, 0),
+            QColor(255, 0, 0));
+        row("generated palette", "A 62 45", QByteArray(), QColor(127, 111, 63),
+            QColor(127, 111, 63));
+    }
+
+    void colors()
+    {
+        QFETCH(QByteArray, layers);
+        QFETCH(QByteArray, codes);
+        QFETCH(QColor, onBlack);
+        QFETCH(QColor, onWhite);
+        m_sketch->layers = layers;
+        show(fill("A", 0, 0, 10, 10) + codes);
+        QCOMPARE(colorAt(5, 5), onBlack);
+        QSignalSpy spy(m_canvas.get(), &Canvas::backgroundChanged);
+        m_canvas->setDark(false);
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(colorAt(5, 5), onWhite);
+        QCOMPARE(picture().pixelColor(2, 2), QColor(Qt::white));
+        layer("A").properties.transparency = 50;
+        m_canvas->setLayers(m_layers);
+        QVERIFY(std::abs(colorAt(5, 5).red() - (onWhite.red() + 255) / 2) <= 2);
+    }
+
+    void laterFillsCoverEarlierOnes_data()
+    {
+        const Rows<QByteArray, QByteArray, QColor> row("first", "second", "top");
+        row("B over A", "A", "B", QColor(0, 0, 255));
+        row("A over B", "B", "A", QColor(255, 0, 0));
+    }
+
+    void laterFillsCoverEarlierOnes()
+    {
+        QFETCH(QByteArray, first);
+        QFETCH(QByteArray, second);
+        QFETCH(QColor, top);
+        // Small ones first make both groups known in the same order.
+        show(fill("A", 0, 0, 1, 1) + fill("B", 2, 0, 1, 1) + fill(first, 0, 5, 10, 10) +
+             fill(second, 0, 5, 10, 10));
+        QCOMPARE(colorAt(5, 10), top);
+    }
+
+    void textStandsAtItsPoint_data()
+    {
+        // The ink has to be in here, in drawing units around 50,50.
+        const Rows<QByteArray, QRectF> row("codes", "ink");
+        row("to the right and above", QByteArray(), QRectF(50, 50, 50, 10));
+        row("right-aligned", "72 2 11 50 21 50", QRectF(0, 50, 50, 10));
+        row("centred, hanging", "72 1 73 3 11 50 21 50", QRectF(25, 40, 50, 10));
+        row("turned", "50 90", QRectF(40, 50, 10, 50));
+        row("squeezed", "72 5 11 60 21 50", QRectF(50, 50, 10, 10));
+    }
+
+    void textStandsAtItsPoint()
+    {
+        QFETCH(QByteArray, codes);
+        QFETCH(QRectF, ink);
+        m_sketch->layers = "A 62 1;FRAME 62 1";
+        show(fill("FRAME", 0, 0, 100, 1) + fill("FRAME", 0, 99, 100, 1) +
+             "0 TEXT 8 A 10 50 20 50 40 10 1 HHH " + codes);
+        layer("FRAME").properties.off = true;
+        m_canvas->setLayers(m_layers);
+        const QImage image = picture();
+        const QRectF allowed =
+            onScreen(ink.x(), ink.y(), ink.width(), ink.height()).adjusted(-2, -2, 2, 2);
+        int found = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const bool inked = image.pixelColor(x, y).red() > 128;
+                found += inked ? 1 : 0;
+                QVERIFY2(!inked || allowed.contains(x, y),
+                    qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+            }
+        }
+        QVERIFY(found > 50);
+    }
+
+    void wheelKeepsThePointUnderTheCursor_data()
+    {
+        const Rows<QPointF, int> row("at", "notches");
+        row("in at a corner", QPointF(3, 290), 4);
+        row("out off the centre", QPointF(250, 60), -7);
+    }
+
+    void wheelKeepsThePointUnderTheCursor()
+    {
+        QFETCH(QPointF, at);
+        QFETCH(int, notches);
+        show(fill("A", 1000000, 5, 10, 10));
+        const QPointF before = m_canvas->view().toDrawing(at);
+        const double scale = m_canvas->view().scale();
+        turnWheel(*m_canvas, at, notches);
+        QCOMPARE(m_canvas->view().scale() > scale, notches > 0);
+        const QPointF off = m_canvas->view().toScreen(before) - at;
+        QVERIFY(off.manhattanLength() < 1e-3);
+    }
+
+    void wheelHasEnds_data()
+    {
+        const Rows<int> row("notches");
+        row("in", 100000);
+        row("out", -100000);
+    }
+
+    void wheelHasEnds()
+    {
+        QFETCH(int, notches);
+        show(fill("A", 0, 0, 10, 10));
+        turnWheel(*m_canvas, {10, 10}, notches);
+        picture();
+        QVERIFY(m_canvas->view().scale() > 0 && std::isfinite(m_canvas->view().scale()));
+        m_canvas->zoomToExtents();
+        QCOMPARE(colorAt(5, 5), QColor(255, 0, 0));
+    }
+
+    void middleButtonDragsTheDrawing()
+    {
+        show(fill("A", 0, 0, 10, 10));
+        const QPointF before = m_canvas->view().toScreen({3, 4});
+        QSignalSpy spy(m_canvas.get(), &Canvas::cursorMoved);
+        QTest::mousePress(m_canvas.get(), Qt::MiddleButton, {}, {100, 100});
+        moveMouse(*m_canvas, {130, 80}, Qt::MiddleButton);
+        QTest::mouseRelease(m_canvas.get(), Qt::MiddleButton, {}, {130, 80});
+        moveMouse(*m_canvas, {200, 200}, Qt::NoButton);
+        const QPointF moved = m_canvas->view().toScreen({3, 4}) - before;
+        QVERIFY((moved - QPointF(30, -20)).manhattanLength() < 1e-6);
+        const QPointF reported = spy.last().first().toPointF();
+        QVERIFY((m_canvas->view().toScreen(reported) - QPointF(200, 200)).manhattanLength() < 1e-6);
+    }
+
+    void extents_data()
+    {
+        const Rows<QByteArray, QPointF, bool> row("entities", "center", "hideB");
+        row("all", fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10), QPointF(50, 5), false);
+        row("hidden layers do not count", fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10),
+            QPointF(5, 5), true);
+        row("unless nothing else is there", fill("B", 90, 0, 10, 10), QPointF(95, 5), true);
+        row("one upright line", "0 LINE 8 A 10 5 20 0 11 5 21 8", QPointF(5, 4), false);
+        row("one point", "0 POINT 8 A 10 7 20 8", QPointF(7, 8), false);
+        row("nothing", QByteArray(), QPointF(0, 0), false);
+    }
+
+    void extents()
+    {
+        QFETCH(QByteArray, entities);
+        QFETCH(QPointF, center);
+        QFETCH(bool, hideB);
+        show(entities);
+        layer("B").properties.off = hideB;
+        m_canvas->setLayers(m_layers);
+        m_canvas->zoomToExtents();
+        QCOMPARE(m_canvas->view().center(), center);
+        const drawing::Box seen = m_canvas->view().visibleBox();
+        const drawing::Box wanted = m_canvas->extents();
+        QVERIFY(wanted.isEmpty() ||
+                (seen.width() >= wanted.width() && seen.height() >= wanted.height()));
+        picture();
+    }
+
+    void resizingKeepsTheExtentsUntilMoved()
+    {
+        show(fill("A", 0, 0, 100, 10));
+        m_canvas->show();
+        const double scale = m_canvas->view().scale();
+        m_canvas->resize(800, 300);
+        QVERIFY(m_canvas->view().scale() > scale * 1.9);
+        turnWheel(*m_canvas, {10, 10}, 3);
+        const CanvasView moved = m_canvas->view();
+        m_canvas->resize(500, 300);
+        QCOMPARE(m_canvas->view().scale(), moved.scale());
+        QCOMPARE(m_canvas->view().center(), moved.center());
+    }
 
 private:
     /// Shows the drawing in the canvas and lets go of it: from here on only layers change.
-    void show(const QByteArray& entities);
-    Layer& layer(const QByteArray& name);
+    void show(const QByteArray& entities)
+    {
+        const auto drawing = m_sketch->open(entities);
+        QVERIFY(drawing);
+        m_layers = drawing->layers();
+        m_canvas->setScene(
+            std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*drawing).value()));
+        m_canvas->setLayers(m_layers);
+        m_canvas->zoomToExtents();
+    }
+
+    Layer& layer(const QByteArray& name)
+    {
+        return *std::find_if(m_layers.begin(), m_layers.end(), [&name](const Layer& candidate) {
+            return candidate.properties.name == QString::fromUtf8(name);
+        });
+    }
+
     QImage picture() { return m_canvas->grab().toImage().convertToFormat(QImage::Format_RGB32); }
-    QColor colorAt(double x, double y);
-    QRectF onScreen(double x, double y, double width, double height) const;
+    QColor colorAt(double x, double y)
+    {
+        return picture().pixelColor(m_canvas->view().toScreen({x, y}).toPoint());
+    }
+
+    QRectF onScreen(double x, double y, double width, double height) const
+    {
+        return QRectF(
+            m_canvas->view().toScreen({x, y}), m_canvas->view().toScreen({x + width, y + height}))
+            .normalized();
+    }
 
     std::unique_ptr<Sketch> m_sketch;
     std::unique_ptr<Canvas> m_canvas;
     std::vector<Layer> m_layers;
 };
-
-void CanvasTest::init()
-{
-    m_sketch = std::make_unique<Sketch>();
-    m_canvas = std::make_unique<Canvas>();
-    m_canvas->resize(400, 300);
-}
-
-void CanvasTest::show(const QByteArray& entities)
-{
-    const auto drawing = m_sketch->open(entities);
-    QVERIFY(drawing);
-    m_layers = drawing->layers();
-    m_canvas->setScene(
-        std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*drawing).value()));
-    m_canvas->setLayers(m_layers);
-    m_canvas->zoomToExtents();
-}
-
-Layer& CanvasTest::layer(const QByteArray& name)
-{
-    return *std::find_if(m_layers.begin(), m_layers.end(), [&name](const Layer& candidate) {
-        return candidate.properties.name == QString::fromUtf8(name);
-    });
-}
-
-QColor CanvasTest::colorAt(double x, double y)
-{
-    return picture().pixelColor(m_canvas->view().toScreen({x, y}).toPoint());
-}
-
-QRectF CanvasTest::onScreen(double x, double y, double width, double height) const
-{
-    return QRectF(
-        m_canvas->view().toScreen({x, y}), m_canvas->view().toScreen({x + width, y + height}))
-        .normalized();
-}
-
-void CanvasTest::layersHideTheirPixels_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<bool>("frozen"); // Or else off.
-    QTest::addColumn<QVector<int>>("hidden");
-    QTest::newRow("off hides what is on it, in blocks too")
-        << QByteArray("A") << false << QVector<int>{0, 40};
-    QTest::newRow("frozen hides the same") << QByteArray("A") << true << QVector<int>{0, 40};
-    QTest::newRow("off leaves what a reference holds on other layers")
-        << QByteArray("B") << false << QVector<int>{20, 60};
-    QTest::newRow("frozen hides the whole reference")
-        << QByteArray("B") << true << QVector<int>{20, 40, 60};
-    QTest::newRow("layer 0 in a reference on another layer")
-        << QByteArray("0") << true << QVector<int>{80};
-}
-
-void CanvasTest::layersHideTheirPixels()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(bool, frozen);
-    QFETCH(QVector<int>, hidden);
-    m_sketch->blocks = "0 BLOCK 8 0 2 U 70 0 10 0 20 0 " + fill("A", 40, 0, 10, 10) +
-                       fill("0", 60, 0, 10, 10) + "0 ENDBLK 8 0";
-    show(fill("A", 0, 0, 10, 10) + fill("B", 20, 0, 10, 10) + "0 INSERT 8 B 2 U 10 0 20 0 " +
-         fill("0", 80, 0, 10, 10));
-    const QImage before = picture();
-
-    (frozen ? layer(name).properties.frozen : layer(name).properties.off) = true;
-    m_canvas->setLayers(m_layers);
-    const QImage after = picture();
-    for (int y = 0; y < before.height(); ++y) {
-        for (int x = 0; x < before.width(); ++x) {
-            const bool changed = before.pixel(x, y) != after.pixel(x, y);
-            const bool expected = std::any_of(hidden.begin(), hidden.end(), [&](int left) {
-                return onScreen(left, 0, 10, 10).adjusted(1, 1, -1, -1).contains(x + 0.5, y + 0.5);
-            });
-            const bool allowed = std::any_of(hidden.begin(), hidden.end(), [&](int left) {
-                return onScreen(left, 0, 10, 10).adjusted(-2, -2, 2, 2).contains(x + 0.5, y + 0.5);
-            });
-            QVERIFY2(
-                changed ? allowed : !expected, qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
-        }
-    }
-    (frozen ? layer(name).properties.frozen : layer(name).properties.off) = false;
-    m_canvas->setLayers(m_layers);
-    QCOMPARE(picture(), before);
-}
-
-void CanvasTest::colors_data()
-{
-    QTest::addColumn<QByteArray>("layers");
-    QTest::addColumn<QByteArray>("codes");
-    QTest::addColumn<QColor>("onBlack");
-    QTest::addColumn<QColor>("onWhite");
-    QTest::newRow("index 7 is the foreground")
-        << QByteArray("A 62 7") << QByteArray() << QColor(Qt::white) << QColor(Qt::black);
-    QTest::newRow("index of the layer")
-        << QByteArray("A 62 1") << QByteArray() << QColor(255, 0, 0) << QColor(255, 0, 0);
-    QTest::newRow("its own index 7")
-        << QByteArray("A 62 1") << QByteArray("62 7 ") << QColor(Qt::white) << QColor(Qt::black);
-    QTest::newRow("true white does not turn") << QByteArray("A 62 7 420 16777215") << QByteArray()
-                                              << QColor(Qt::white) << QColor(Qt::white);
-    QTest::newRow("red is the high byte") << QByteArray("A 62 7 420 16711680") << QByteArray()
-                                          << QColor(255, 0, 0) << QColor(255, 0, 0);
-    QTest::newRow("generated palette")
-        << QByteArray("A 62 45") << QByteArray() << QColor(127, 111, 63) << QColor(127, 111, 63);
-}
-
-void CanvasTest::colors()
-{
-    QFETCH(QByteArray, layers);
-    QFETCH(QByteArray, codes);
-    QFETCH(QColor, onBlack);
-    QFETCH(QColor, onWhite);
-    m_sketch->layers = layers;
-    show(fill("A", 0, 0, 10, 10) + codes);
-    QCOMPARE(colorAt(5, 5), onBlack);
-    QSignalSpy spy(m_canvas.get(), &Canvas::backgroundChanged);
-    m_canvas->setDark(false);
-    QCOMPARE(spy.size(), 1);
-    QCOMPARE(colorAt(5, 5), onWhite);
-    QCOMPARE(picture().pixelColor(2, 2), QColor(Qt::white));
-    layer("A").properties.transparency = 50;
-    m_canvas->setLayers(m_layers);
-    QVERIFY(std::abs(colorAt(5, 5).red() - (onWhite.red() + 255) / 2) <= 2);
-}
-
-void CanvasTest::laterFillsCoverEarlierOnes_data()
-{
-    QTest::addColumn<QByteArray>("first");
-    QTest::addColumn<QByteArray>("second");
-    QTest::addColumn<QColor>("top");
-    QTest::newRow("B over A") << QByteArray("A") << QByteArray("B") << QColor(0, 0, 255);
-    QTest::newRow("A over B") << QByteArray("B") << QByteArray("A") << QColor(255, 0, 0);
-}
-
-void CanvasTest::laterFillsCoverEarlierOnes()
-{
-    QFETCH(QByteArray, first);
-    QFETCH(QByteArray, second);
-    QFETCH(QColor, top);
-    // Small ones first make both groups known in the same order.
-    show(fill("A", 0, 0, 1, 1) + fill("B", 2, 0, 1, 1) + fill(first, 0, 5, 10, 10) +
-         fill(second, 0, 5, 10, 10));
-    QCOMPARE(colorAt(5, 10), top);
-}
-
-void CanvasTest::textStandsAtItsPoint_data()
-{
-    QTest::addColumn<QByteArray>("codes");
-    QTest::addColumn<QRectF>("ink"); // Where all of it has to be, in drawing units around 50,50.
-    QTest::newRow("to the right and above") << QByteArray() << QRectF(50, 50, 50, 10);
-    QTest::newRow("right-aligned") << QByteArray("72 2 11 50 21 50") << QRectF(0, 50, 50, 10);
-    QTest::newRow("centred, hanging")
-        << QByteArray("72 1 73 3 11 50 21 50") << QRectF(25, 40, 50, 10);
-    QTest::newRow("turned") << QByteArray("50 90") << QRectF(40, 50, 10, 50);
-    QTest::newRow("squeezed") << QByteArray("72 5 11 60 21 50") << QRectF(50, 50, 10, 10);
-}
-
-void CanvasTest::textStandsAtItsPoint()
-{
-    QFETCH(QByteArray, codes);
-    QFETCH(QRectF, ink);
-    m_sketch->layers = "A 62 1;FRAME 62 1";
-    show(fill("FRAME", 0, 0, 100, 1) + fill("FRAME", 0, 99, 100, 1) +
-         "0 TEXT 8 A 10 50 20 50 40 10 1 HHH " + codes);
-    layer("FRAME").properties.off = true;
-    m_canvas->setLayers(m_layers);
-    const QImage image = picture();
-    const QRectF allowed =
-        onScreen(ink.x(), ink.y(), ink.width(), ink.height()).adjusted(-2, -2, 2, 2);
-    int found = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const bool inked = image.pixelColor(x, y).red() > 128;
-            found += inked ? 1 : 0;
-            QVERIFY2(!inked || allowed.contains(x, y),
-                qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
-        }
-    }
-    QVERIFY(found > 50);
-}
-
-void CanvasTest::wheelKeepsThePointUnderTheCursor_data()
-{
-    QTest::addColumn<QPointF>("at");
-    QTest::addColumn<int>("notches");
-    QTest::newRow("in at a corner") << QPointF(3, 290) << 4;
-    QTest::newRow("out off the centre") << QPointF(250, 60) << -7;
-}
-
-void CanvasTest::wheelKeepsThePointUnderTheCursor()
-{
-    QFETCH(QPointF, at);
-    QFETCH(int, notches);
-    show(fill("A", 1000000, 5, 10, 10));
-    const QPointF before = m_canvas->view().toDrawing(at);
-    const double scale = m_canvas->view().scale();
-    turnWheel(*m_canvas, at, notches);
-    QCOMPARE(m_canvas->view().scale() > scale, notches > 0);
-    const QPointF off = m_canvas->view().toScreen(before) - at;
-    QVERIFY(off.manhattanLength() < 1e-3);
-}
-
-void CanvasTest::wheelHasEnds_data()
-{
-    QTest::addColumn<int>("notches");
-    QTest::newRow("in") << 100000;
-    QTest::newRow("out") << -100000;
-}
-
-void CanvasTest::wheelHasEnds()
-{
-    QFETCH(int, notches);
-    show(fill("A", 0, 0, 10, 10));
-    turnWheel(*m_canvas, {10, 10}, notches);
-    picture();
-    QVERIFY(m_canvas->view().scale() > 0 && std::isfinite(m_canvas->view().scale()));
-    m_canvas->zoomToExtents();
-    QCOMPARE(colorAt(5, 5), QColor(255, 0, 0));
-}
-
-void CanvasTest::middleButtonDragsTheDrawing()
-{
-    show(fill("A", 0, 0, 10, 10));
-    const QPointF before = m_canvas->view().toScreen({3, 4});
-    QSignalSpy spy(m_canvas.get(), &Canvas::cursorMoved);
-    QTest::mousePress(m_canvas.get(), Qt::MiddleButton, {}, {100, 100});
-    moveMouse(*m_canvas, {130, 80}, Qt::MiddleButton);
-    QTest::mouseRelease(m_canvas.get(), Qt::MiddleButton, {}, {130, 80});
-    moveMouse(*m_canvas, {200, 200}, Qt::NoButton);
-    const QPointF moved = m_canvas->view().toScreen({3, 4}) - before;
-    QVERIFY((moved - QPointF(30, -20)).manhattanLength() < 1e-6);
-    const QPointF reported = spy.last().first().toPointF();
-    QVERIFY((m_canvas->view().toScreen(reported) - QPointF(200, 200)).manhattanLength() < 1e-6);
-}
-
-void CanvasTest::extents_data()
-{
-    QTest::addColumn<QByteArray>("entities");
-    QTest::addColumn<QPointF>("center");
-    QTest::addColumn<bool>("hideB");
-    QTest::newRow("all") << QByteArray(fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10))
-                         << QPointF(50, 5) << false;
-    QTest::newRow("hidden layers do not count")
-        << QByteArray(fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10)) << QPointF(5, 5) << true;
-    QTest::newRow("unless nothing else is there")
-        << fill("B", 90, 0, 10, 10) << QPointF(95, 5) << true;
-    QTest::newRow("one upright line")
-        << QByteArray("0 LINE 8 A 10 5 20 0 11 5 21 8") << QPointF(5, 4) << false;
-    QTest::newRow("one point") << QByteArray("0 POINT 8 A 10 7 20 8") << QPointF(7, 8) << false;
-    QTest::newRow("nothing") << QByteArray() << QPointF(0, 0) << false;
-}
-
-void CanvasTest::extents()
-{
-    QFETCH(QByteArray, entities);
-    QFETCH(QPointF, center);
-    QFETCH(bool, hideB);
-    show(entities);
-    layer("B").properties.off = hideB;
-    m_canvas->setLayers(m_layers);
-    m_canvas->zoomToExtents();
-    QCOMPARE(m_canvas->view().center(), center);
-    const drawing::Box seen = m_canvas->view().visibleBox();
-    const drawing::Box wanted = m_canvas->extents();
-    QVERIFY(
-        wanted.isEmpty() || (seen.width() >= wanted.width() && seen.height() >= wanted.height()));
-    picture();
-}
-
-void CanvasTest::resizingKeepsTheExtentsUntilMoved()
-{
-    show(fill("A", 0, 0, 100, 10));
-    m_canvas->show();
-    const double scale = m_canvas->view().scale();
-    m_canvas->resize(800, 300);
-    QVERIFY(m_canvas->view().scale() > scale * 1.9);
-    turnWheel(*m_canvas, {10, 10}, 3);
-    const CanvasView moved = m_canvas->view();
-    m_canvas->resize(500, 300);
-    QCOMPARE(m_canvas->view().scale(), moved.scale());
-    QCOMPARE(m_canvas->view().center(), moved.center());
-}
 
 QTEST_MAIN(CanvasTest)
 #include "tst_canvas.moc"

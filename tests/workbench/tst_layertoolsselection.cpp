@@ -1,5 +1,6 @@
 #include "../drawing/tst_geometrysketch.h"
 #include "canvas.h"
+#include "rows.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -35,15 +36,136 @@ class SelectionTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void clicks_data();
-    void clicks();
-    void windows_data();
-    void windows();
-    void modifiers();
-    void escape();
-    void marksFollowTheView();
-    void prunedWithWhatIsShown();
+    void init()
+    {
+        m_sketch.blocks = kBlock;
+        const auto drawing = m_sketch.open(kEntities);
+        QVERIFY(drawing);
+        m_layers = drawing->layers();
+        m_canvas = std::make_unique<Canvas>();
+        m_canvas->resize(400, 300);
+        m_canvas->setScene(
+            std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*drawing).value()));
+        m_canvas->setLayers(m_layers);
+        m_canvas->zoomToExtents();
+    }
+
+    void clicks_data()
+    {
+        const Rows<QPointF, int, QString, Selection> row("point", "pixelsUp", "change", "selected");
+        row("within reach", {20, 0}, 3, "", {kLow});
+        row("out of reach", {20, 0}, 6, "", {});
+        row("beyond the end of a line", {100, 0}, 0, "", {kLow});
+        row("a line of a block, by its own layer", {50, 30}, 0, "", {kReference});
+        row("another line of the same block", {50, 40}, 0, "", {kReference});
+        row("inside a block's bounds but on none of its lines", {50, 35}, 0, "", {});
+        row("fill", {72, 33}, 0, "", {kFill});
+        row("line on a fill", {80, 40}, 2, "", {kOnFill});
+        row("text", {4, 55}, 0, "", {kText});
+        row("layer off", {20, 0}, 0, "A off", {});
+        row("the reference's layer off leaves its other lines", {50, 30}, 0, "A off", {kReference});
+        row("the reference's layer frozen takes them along", {50, 30}, 0, "A frozen", {});
+        row("locked", {20, 0}, 0, "A locked", {kLow});
+    }
+
+    void clicks()
+    {
+        QFETCH(QPointF, point);
+        QFETCH(int, pixelsUp);
+        QFETCH(QString, change);
+        QFETCH(Selection, selected);
+        changeLayer(change);
+        click(at(point.x(), point.y()) - QPoint(0, pixelsUp));
+        QCOMPARE(m_canvas->selection(), selected);
+    }
+
+    void windows_data()
+    {
+        const Rows<QPointF, QPointF, QString, Selection> row("from", "to", "change", "selected");
+        row("to the right: only what lies in it", {-2, 20}, {95, -2}, "", {});
+        row("to the left: what reaches into it", {95, -2}, {-2, 20}, "", {kLow, kHigh});
+        row("whole lines, upwards", {-2, -2}, {102, 20}, "", {kLow, kHigh});
+        row("half a reference", {35, 25}, {65, 35}, "", {});
+        row("half a reference, to the left", {65, 35}, {35, 25}, "", {kReference});
+        row("what does not show does not count", {35, 25}, {65, 35}, "0 off", {});
+        row("half a reference, its other half hidden", {35, 25}, {65, 35}, "A off", {kReference});
+        row("between the lines of a reference", {58, 38}, {42, 32}, "", {});
+        row("within a fill, to the left", {74, 36}, {71, 32}, "", {kFill});
+        row("text", {-2, 50}, {40, 62}, "", {kText});
+        row("everything", {-3, -3}, {103, 63}, "B off", {kLow, kReference, kFill, kOnFill, kText});
+    }
+
+    void windows()
+    {
+        QFETCH(QPointF, from);
+        QFETCH(QPointF, to);
+        QFETCH(QString, change);
+        QFETCH(Selection, selected);
+        changeLayer(change);
+        drag(at(from.x(), from.y()), at(to.x(), to.y()));
+        QCOMPARE(m_canvas->selection(), selected);
+    }
+
+    void modifiers()
+    {
+        QSignalSpy changed(m_canvas.get(), &Canvas::selectionChanged);
+        click(at(20, 0));
+        click(at(20, 10));
+        QCOMPARE(m_canvas->selection(), Selection{kHigh});
+        click(at(20, 0), kAdds);
+        QCOMPARE(m_canvas->selection(), (Selection{kLow, kHigh}));
+        QCOMPARE(changed.last().value(0).toInt(), 2);
+        click(at(20, 10), kAdds);
+        QCOMPARE(m_canvas->selection(), Selection{kLow});
+        // A window takes nothing out.
+        drag(at(-2, -2), at(102, 20), kAdds);
+        QCOMPARE(m_canvas->selection(), (Selection{kLow, kHigh}));
+        click(at(30, 20), kAdds);
+        QCOMPARE(m_canvas->selection().size(), std::size_t(2));
+        click(at(30, 20));
+        QVERIFY(m_canvas->selection().empty());
+        const int count = changed.size();
+        click(at(30, 20));
+        QCOMPARE(changed.size(), count);
+    }
+
+    void escape()
+    {
+        click(at(20, 0));
+        QTest::mousePress(m_canvas.get(), Qt::LeftButton, kNone, at(-2, 20));
+        move(at(95, -2));
+        QTest::keyClick(m_canvas.get(), Qt::Key_Escape);
+        QTest::mouseRelease(m_canvas.get(), Qt::LeftButton, kNone, at(95, -2));
+        QCOMPARE(m_canvas->selection(), Selection{kLow});
+        QTest::keyClick(m_canvas.get(), Qt::Key_Escape);
+        QVERIFY(m_canvas->selection().empty());
+    }
+
+    void marksFollowTheView()
+    {
+        const QImage plain = picture();
+        m_canvas->setSelection({kFill, kLow, kFill, 99});
+        QCOMPARE(m_canvas->selection(), (Selection{kLow, kFill}));
+        const QImage marked = picture();
+        QVERIFY(plain != marked);
+        m_canvas->setDark(false);
+        QVERIFY(picture() != marked);
+        m_canvas->setDark(true);
+        QCOMPARE(picture(), marked);
+        m_canvas->clearSelection();
+        QCOMPARE(picture(), plain);
+    }
+
+    void prunedWithWhatIsShown()
+    {
+        m_canvas->setSelection({kLow, kHigh});
+        QSignalSpy changed(m_canvas.get(), &Canvas::selectionChanged);
+        changeLayer("A off");
+        QCOMPARE(m_canvas->selection(), Selection{kHigh});
+        QCOMPARE(changed.size(), 1);
+        m_canvas->setScene(nullptr);
+        QVERIFY(m_canvas->selection().empty());
+    }
 
 private:
     QPoint at(double x, double y) const { return m_canvas->view().toScreen({x, y}).toPoint(); }
@@ -68,170 +190,25 @@ private:
             [&name](const Layer& candidate) { return candidate.properties.name == name; });
     }
     /// "A off", "B frozen", "A locked"; empty for nothing.
-    void changeLayer(const QString& change);
+    void changeLayer(const QString& change)
+    {
+        const QString what = change.section(QLatin1Char(' '), 1);
+        if (what.isEmpty())
+            return;
+        drawing::LayerProperties& properties =
+            layer(change.section(QLatin1Char(' '), 0, 0)).properties;
+        properties.off = what == QLatin1String("off");
+        properties.frozen = what == QLatin1String("frozen");
+        properties.locked = what == QLatin1String("locked");
+        m_canvas->setLayers(m_layers);
+    }
+
     QImage picture() { return m_canvas->grab().toImage(); }
 
     Sketch m_sketch;
     std::unique_ptr<Canvas> m_canvas;
     std::vector<Layer> m_layers;
 };
-
-void SelectionTest::init()
-{
-    m_sketch.blocks = kBlock;
-    const auto drawing = m_sketch.open(kEntities);
-    QVERIFY(drawing);
-    m_layers = drawing->layers();
-    m_canvas = std::make_unique<Canvas>();
-    m_canvas->resize(400, 300);
-    m_canvas->setScene(
-        std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*drawing).value()));
-    m_canvas->setLayers(m_layers);
-    m_canvas->zoomToExtents();
-}
-
-void SelectionTest::changeLayer(const QString& change)
-{
-    const QString what = change.section(QLatin1Char(' '), 1);
-    if (what.isEmpty())
-        return;
-    drawing::LayerProperties& properties = layer(change.section(QLatin1Char(' '), 0, 0)).properties;
-    properties.off = what == QLatin1String("off");
-    properties.frozen = what == QLatin1String("frozen");
-    properties.locked = what == QLatin1String("locked");
-    m_canvas->setLayers(m_layers);
-}
-
-void SelectionTest::clicks_data()
-{
-    QTest::addColumn<QPointF>("point");
-    QTest::addColumn<int>("pixelsUp");
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<Selection>("selected");
-    const auto row = [](const char* name, const QPointF& point, int up, const char* change,
-                         const Selection& selected) {
-        QTest::newRow(name) << point << up << QString::fromLatin1(change) << selected;
-    };
-    row("within reach", {20, 0}, 3, "", {kLow});
-    row("out of reach", {20, 0}, 6, "", {});
-    row("beyond the end of a line", {100, 0}, 0, "", {kLow});
-    row("a line of a block, by its own layer", {50, 30}, 0, "", {kReference});
-    row("another line of the same block", {50, 40}, 0, "", {kReference});
-    row("inside a block's bounds but on none of its lines", {50, 35}, 0, "", {});
-    row("fill", {72, 33}, 0, "", {kFill});
-    row("line on a fill", {80, 40}, 2, "", {kOnFill});
-    row("text", {4, 55}, 0, "", {kText});
-    row("layer off", {20, 0}, 0, "A off", {});
-    row("the reference's layer off leaves its other lines", {50, 30}, 0, "A off", {kReference});
-    row("the reference's layer frozen takes them along", {50, 30}, 0, "A frozen", {});
-    row("locked", {20, 0}, 0, "A locked", {kLow});
-}
-
-void SelectionTest::clicks()
-{
-    QFETCH(QPointF, point);
-    QFETCH(int, pixelsUp);
-    QFETCH(QString, change);
-    QFETCH(Selection, selected);
-    changeLayer(change);
-    click(at(point.x(), point.y()) - QPoint(0, pixelsUp));
-    QCOMPARE(m_canvas->selection(), selected);
-}
-
-void SelectionTest::windows_data()
-{
-    QTest::addColumn<QPointF>("from");
-    QTest::addColumn<QPointF>("to");
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<Selection>("selected");
-    const auto row = [](const char* name, const QPointF& from, const QPointF& to,
-                         const char* change, const Selection& selected) {
-        QTest::newRow(name) << from << to << QString::fromLatin1(change) << selected;
-    };
-    row("to the right: only what lies in it", {-2, 20}, {95, -2}, "", {});
-    row("to the left: what reaches into it", {95, -2}, {-2, 20}, "", {kLow, kHigh});
-    row("whole lines, upwards", {-2, -2}, {102, 20}, "", {kLow, kHigh});
-    row("half a reference", {35, 25}, {65, 35}, "", {});
-    row("half a reference, to the left", {65, 35}, {35, 25}, "", {kReference});
-    row("what does not show does not count", {35, 25}, {65, 35}, "0 off", {});
-    row("half a reference, its other half hidden", {35, 25}, {65, 35}, "A off", {kReference});
-    row("between the lines of a reference", {58, 38}, {42, 32}, "", {});
-    row("within a fill, to the left", {74, 36}, {71, 32}, "", {kFill});
-    row("text", {-2, 50}, {40, 62}, "", {kText});
-    row("everything", {-3, -3}, {103, 63}, "B off", {kLow, kReference, kFill, kOnFill, kText});
-}
-
-void SelectionTest::windows()
-{
-    QFETCH(QPointF, from);
-    QFETCH(QPointF, to);
-    QFETCH(QString, change);
-    QFETCH(Selection, selected);
-    changeLayer(change);
-    drag(at(from.x(), from.y()), at(to.x(), to.y()));
-    QCOMPARE(m_canvas->selection(), selected);
-}
-
-void SelectionTest::modifiers()
-{
-    QSignalSpy changed(m_canvas.get(), &Canvas::selectionChanged);
-    click(at(20, 0));
-    click(at(20, 10));
-    QCOMPARE(m_canvas->selection(), Selection{kHigh});
-    click(at(20, 0), kAdds);
-    QCOMPARE(m_canvas->selection(), (Selection{kLow, kHigh}));
-    QCOMPARE(changed.last().value(0).toInt(), 2);
-    click(at(20, 10), kAdds);
-    QCOMPARE(m_canvas->selection(), Selection{kLow});
-    // A window takes nothing out.
-    drag(at(-2, -2), at(102, 20), kAdds);
-    QCOMPARE(m_canvas->selection(), (Selection{kLow, kHigh}));
-    click(at(30, 20), kAdds);
-    QCOMPARE(m_canvas->selection().size(), std::size_t(2));
-    click(at(30, 20));
-    QVERIFY(m_canvas->selection().empty());
-    const int count = changed.size();
-    click(at(30, 20));
-    QCOMPARE(changed.size(), count);
-}
-
-void SelectionTest::escape()
-{
-    click(at(20, 0));
-    QTest::mousePress(m_canvas.get(), Qt::LeftButton, kNone, at(-2, 20));
-    move(at(95, -2));
-    QTest::keyClick(m_canvas.get(), Qt::Key_Escape);
-    QTest::mouseRelease(m_canvas.get(), Qt::LeftButton, kNone, at(95, -2));
-    QCOMPARE(m_canvas->selection(), Selection{kLow});
-    QTest::keyClick(m_canvas.get(), Qt::Key_Escape);
-    QVERIFY(m_canvas->selection().empty());
-}
-
-void SelectionTest::marksFollowTheView()
-{
-    const QImage plain = picture();
-    m_canvas->setSelection({kFill, kLow, kFill, 99});
-    QCOMPARE(m_canvas->selection(), (Selection{kLow, kFill}));
-    const QImage marked = picture();
-    QVERIFY(plain != marked);
-    m_canvas->setDark(false);
-    QVERIFY(picture() != marked);
-    m_canvas->setDark(true);
-    QCOMPARE(picture(), marked);
-    m_canvas->clearSelection();
-    QCOMPARE(picture(), plain);
-}
-
-void SelectionTest::prunedWithWhatIsShown()
-{
-    m_canvas->setSelection({kLow, kHigh});
-    QSignalSpy changed(m_canvas.get(), &Canvas::selectionChanged);
-    changeLayer(QStringLiteral("A off"));
-    QCOMPARE(m_canvas->selection(), Selection{kHigh});
-    QCOMPARE(changed.size(), 1);
-    m_canvas->setScene(nullptr);
-    QVERIFY(m_canvas->selection().empty());
-}
 
 QTEST_MAIN(SelectionTest)
 #include "tst_layertoolsselection.moc"

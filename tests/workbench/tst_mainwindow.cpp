@@ -4,6 +4,7 @@
 #include "commandline.h"
 #include "mainwindow.h"
 #include "recentfiles.h"
+#include "rows.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -33,29 +34,268 @@ class MainWindowTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void typedWords_data();
-    void typedWords();
-    void completionOffersButDoesNotChoose();
-    void historyWalks_data();
-    void historyWalks();
-    void openingShowsTheDrawing();
-    void badFileIsNamedAndTheDrawingStays_data();
-    void badFileIsNamedAndTheDrawingStays();
-    void cancelledOpeningLeavesNothing();
-    void droppedFileOpens();
-    void recentFilesComeLatestFirst();
-    void undoNamesItsStep();
-    void layerChangeReachesTheCanvas();
-    void closingAsks_data();
-    void closingAsks();
-    void openingAnotherAsks();
-    void failedSaveKeepsTheDrawing();
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName(QStringLiteral("layerbench"));
+        QCoreApplication::setApplicationName(QStringLiteral("test"));
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+    }
+
+    void init()
+    {
+        QSettings().clear();
+        m_window.reset();
+        m_sketch = std::make_unique<Sketch>();
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
+    }
+
+    void typedWords_data()
+    {
+        const Rows<QString, QString> row("typed", "answer");
+        row("unknown", "frobnicate", "未知命令“frobnicate”");
+        row("part of a name is no name", "LAYE", "未知命令“LAYE”");
+        row("any case, blanks around", "  LayDel ", "请先打开一个图形");
+        row("the window's own, not now", "save", "命令“SAVE”现在不可用");
+    }
+
+    void typedWords()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, answer);
+        QTest::keyClicks(input(), typed);
+        QTest::keyClick(input(), Qt::Key_Return);
+        QVERIFY2(echo().section('\n', -1).contains(answer), qPrintable(echo()));
+        QVERIFY(input()->text().isEmpty());
+    }
+
+    void completionOffersButDoesNotChoose()
+    {
+        QSignalSpy entered(m_window->findChild<CommandLine*>(), &CommandLine::entered);
+        QTest::keyClicks(input(), "layer");
+        QCompleter* const completer = input()->completer();
+        QStringList offered;
+        for (int i = 0; completer->setCurrentRow(i); ++i)
+            offered.append(completer->currentCompletion());
+        QCOMPARE(offered, QStringList({"LAYER", "LAYERSTATE"}));
+        QTest::keyClick(input(), Qt::Key_Return);
+        QCOMPARE(entered.value(0).value(0).toString(), QStringLiteral("layer"));
+    }
+
+    void historyWalks_data()
+    {
+        const Rows<QVector<int>, QString> row("keys", "shown");
+        row("last one first", {Qt::Key_Up}, "two");
+        row("stops at the first", {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up}, "one");
+        row("and back to the empty line",
+            {Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}, "");
+        row("escape clears", {Qt::Key_Up, Qt::Key_Escape}, "");
+    }
+
+    void historyWalks()
+    {
+        QFETCH(QVector<int>, keys);
+        QFETCH(QString, shown);
+        for (const char* word : {"one", "two", "two"}) {
+            QTest::keyClicks(input(), QLatin1String(word));
+            QTest::keyClick(input(), Qt::Key_Return);
+        }
+        for (const int key : keys)
+            QTest::keyClick(input(), static_cast<Qt::Key>(key));
+        QCOMPARE(input()->text(), shown);
+    }
+
+    void openingShowsTheDrawing()
+    {
+        QVERIFY(open(kLine));
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("图层工作台 - sketch.dxf[*]"));
+        QCOMPARE(find<QLabel>("layerCountField")->text(), QStringLiteral("3 个图层"));
+        QCOMPARE(find<QLabel>("currentLayerField")->text(), QStringLiteral("当前图层: 0"));
+        QVERIFY(!find<QToolButton>("workCancel")->isVisible());
+        QVERIFY(!action("SAVE")->isEnabled());
+        QVERIFY(action("SAVEAS")->isEnabled());
+        QVERIFY(!m_window->canvas()->extents().isEmpty());
+    }
+
+    void badFileIsNamedAndTheDrawingStays_data()
+    {
+        const Rows<QByteArray> row("content");
+        row("no DXF", "hello\n");
+        row("DWG", QByteArray("AC1032\0\0\0\0\0", 11));
+        row("broken group code", "0\nSECTION\n2\nHEADER\nxx\n$ACADVER\n0\nENDSEC\n0\nEOF\n");
+    }
+
+    void badFileIsNamedAndTheDrawingStays()
+    {
+        QFETCH(QByteArray, content);
+        QVERIFY(open(kLine));
+        const QString path = m_sketch->path("broken.dxf");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+
+        BoxAnswerer answerer({QStringLiteral("确定")});
+        m_window->openFile(path);
+        QVERIFY(answerer.waitForAll());
+        QVERIFY(answerer.texts()[0].contains("broken.dxf"));
+        QVERIFY(answerer.texts()[0].contains(QRegularExpression(QStringLiteral("第 \\d+ 行"))));
+        QVERIFY(m_window->drawing()->path().endsWith(QLatin1String("sketch.dxf")));
+        QCOMPARE(contentOf(path), content);
+        QVERIFY(action("OPEN")->isEnabled());
+    }
+
+    void cancelledOpeningLeavesNothing()
+    {
+        QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
+        m_window->openFile(m_sketch->write(kLine.repeated(20000)));
+        QVERIFY(find<QToolButton>("workCancel")->isVisible());
+        QVERIFY(!action("OPEN")->isEnabled());
+        find<QToolButton>("workCancel")->click();
+        QTRY_VERIFY(echo().contains("已取消"));
+        QVERIFY(!m_window->drawing());
+        QVERIFY(opened.isEmpty());
+        QVERIFY(m_window->findChild<RecentFiles*>()->paths().isEmpty());
+        QVERIFY(action("OPEN")->isEnabled());
+    }
+
+    void droppedFileOpens()
+    {
+        QMimeData data;
+        data.setUrls({QUrl(QStringLiteral("https://example.org/a.dxf")),
+            QUrl::fromLocalFile(m_sketch->write(kLine))});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
+        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window.get(), &drop);
+        QVERIFY(opened.wait());
+
+        QMimeData text;
+        text.setText("no file");
+        QDragEnterEvent other({5, 5}, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+        other.ignore();
+        QCoreApplication::sendEvent(m_window.get(), &other);
+        QVERIFY(!other.isAccepted());
+    }
+
+    void recentFilesComeLatestFirst()
+    {
+        auto* const recent = m_window->findChild<RecentFiles*>();
+        for (int i = 0; i < 12; ++i)
+            recent->add(m_sketch->path(QStringLiteral("%1.dxf").arg(i)));
+        recent->add(m_sketch->path("5.dxf"));
+        QCOMPARE(recent->paths().size(), 9);
+        QCOMPARE(recent->paths()[0], m_sketch->path("5.dxf"));
+        QCOMPARE(recent->paths().count(m_sketch->path("5.dxf")), 1);
+        QCOMPARE(RecentFiles().paths(), recent->paths());
+
+        // The first is not there: it is reported and forgotten.
+        BoxAnswerer answerer({QStringLiteral("确定")});
+        recent->actions().first()->trigger();
+        QVERIFY(answerer.waitForAll());
+        QVERIFY(!recent->paths().contains(m_sketch->path("5.dxf")));
+    }
+
+    void undoNamesItsStep()
+    {
+        QVERIFY(open(kLine));
+        turnOff("A", "图层特性");
+        QVERIFY(m_window->isWindowModified());
+        QVERIFY(action("UNDO")->text().startsWith("撤销 图层特性"));
+        QVERIFY(!action("REDO")->isEnabled());
+        action("UNDO")->trigger();
+        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(action("REDO")->text().startsWith("重做 图层特性"));
+        QVERIFY(!m_window->drawing()->findLayer("A")->properties.off);
+    }
+
+    void layerChangeReachesTheCanvas()
+    {
+        QVERIFY(open("0 SOLID 8 A 10 0 20 0 11 9 21 0 12 0 22 9 13 9 23 9 "));
+        Canvas* const canvas = m_window->canvas();
+        const auto pixel = [canvas] {
+            return canvas->grab().toImage().pixelColor(canvas->view().toScreen({4, 4}).toPoint());
+        };
+        QCOMPARE(pixel(), QColor(255, 0, 0));
+        turnOff("A", "x");
+        QCOMPARE(pixel(), QColor(Qt::black));
+        action("UNDO")->trigger();
+        QCOMPARE(pixel(), QColor(255, 0, 0));
+    }
+
+    void closingAsks_data()
+    {
+        // An empty answer is Esc.
+        const Rows<QString, bool, bool> row("answer", "closes", "writes");
+        row("save", "保存", true, true);
+        row("discard", "不保存", true, false);
+        row("cancel", "取消", false, false);
+        row("escape", "", false, false);
+    }
+
+    void closingAsks()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, closes);
+        QFETCH(bool, writes);
+        QVERIFY(open(kLine));
+        const QString path = m_window->drawing()->path();
+        const QByteArray before = contentOf(path);
+        turnOff("A", "x");
+        BoxAnswerer answerer({answer});
+        QCOMPARE(m_window->close(), closes);
+        QVERIFY(answerer.waitForAll());
+        QVERIFY(answerer.texts()[0].contains("sketch.dxf"));
+        QCOMPARE(contentOf(path) != before, writes);
+        QCOMPARE(m_window->isWindowModified(), !writes);
+    }
+
+    void openingAnotherAsks()
+    {
+        QVERIFY(open(kLine));
+        turnOff("A", "x");
+        BoxAnswerer answerer({QStringLiteral("取消")});
+        m_window->openFile(m_sketch->write(kLine, "other.dxf"));
+        QVERIFY(answerer.waitForAll());
+        QVERIFY(m_window->isWindowModified());
+        QVERIFY(action("OPEN")->isEnabled());
+    }
+
+    void failedSaveKeepsTheDrawing()
+    {
+        QVERIFY(open(kLine));
+        turnOff("A", "x");
+        QDir folder = QFileInfo(m_window->drawing()->path()).dir();
+        QVERIFY(folder.removeRecursively());
+        // Closing with "save" must not close over a failure.
+        BoxAnswerer answerer({QStringLiteral("保存"), QStringLiteral("确定")});
+        QVERIFY(!m_window->close());
+        QVERIFY(answerer.waitForAll());
+        QVERIFY(answerer.texts()[1].contains("sketch.dxf"));
+        QVERIFY(m_window->isWindowModified());
+        QVERIFY(m_window->drawing()->findLayer("A")->properties.off);
+        QVERIFY(action("SAVE")->isEnabled());
+    }
 
 private:
-    bool open(const QByteArray& entities);
-    void turnOff(const QString& layer, const QString& step);
+    bool open(const QByteArray& entities)
+    {
+        QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
+        m_window->openFile(m_sketch->write(entities));
+        return opened.wait();
+    }
+
+    void turnOff(const QString& layer, const QString& step)
+    {
+        drawing::Drawing& drawing = *m_window->drawing();
+        drawing.beginStep(step);
+        drawing::LayerProperties properties = drawing.findLayer(layer)->properties;
+        properties.off = true;
+        QVERIFY(drawing.setLayerProperties(drawing.findLayer(layer)->id, properties));
+        drawing.commitStep();
+    }
+
     QString echo() const { return m_window->findChild<CommandLine*>()->echo(); }
     QLineEdit* input() const { return find<QLineEdit>("commandInput"); }
     QAction* action(const char* name) const { return find<QAction>(name); }
@@ -69,276 +309,6 @@ private:
     std::unique_ptr<Sketch> m_sketch;
     std::unique_ptr<MainWindow> m_window;
 };
-
-void MainWindowTest::initTestCase()
-{
-    QCoreApplication::setOrganizationName(QStringLiteral("layerbench"));
-    QCoreApplication::setApplicationName(QStringLiteral("test"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
-}
-
-void MainWindowTest::init()
-{
-    QSettings().clear();
-    m_window.reset();
-    m_sketch = std::make_unique<Sketch>();
-    m_window = std::make_unique<MainWindow>();
-    m_window->show();
-}
-
-bool MainWindowTest::open(const QByteArray& entities)
-{
-    QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
-    m_window->openFile(m_sketch->write(entities));
-    return opened.wait();
-}
-
-void MainWindowTest::turnOff(const QString& layer, const QString& step)
-{
-    drawing::Drawing& drawing = *m_window->drawing();
-    drawing.beginStep(step);
-    drawing::LayerProperties properties = drawing.findLayer(layer)->properties;
-    properties.off = true;
-    QVERIFY(drawing.setLayerProperties(drawing.findLayer(layer)->id, properties));
-    drawing.commitStep();
-}
-
-void MainWindowTest::typedWords_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("answer");
-    QTest::newRow("unknown") << "frobnicate"
-                             << "未知命令“frobnicate”";
-    QTest::newRow("part of a name is no name") << "LAYE"
-                                               << "未知命令“LAYE”";
-    QTest::newRow("any case, blanks around") << "  LayDel "
-                                             << "请先打开一个图形";
-    QTest::newRow("the window's own, not now") << "save"
-                                               << "命令“SAVE”现在不可用";
-}
-
-void MainWindowTest::typedWords()
-{
-    QFETCH(QString, typed);
-    QFETCH(QString, answer);
-    QTest::keyClicks(input(), typed);
-    QTest::keyClick(input(), Qt::Key_Return);
-    QVERIFY2(echo().section('\n', -1).contains(answer), qPrintable(echo()));
-    QVERIFY(input()->text().isEmpty());
-}
-
-void MainWindowTest::completionOffersButDoesNotChoose()
-{
-    QSignalSpy entered(m_window->findChild<CommandLine*>(), &CommandLine::entered);
-    QTest::keyClicks(input(), QStringLiteral("layer"));
-    QCompleter* const completer = input()->completer();
-    QStringList offered;
-    for (int i = 0; completer->setCurrentRow(i); ++i)
-        offered.append(completer->currentCompletion());
-    QCOMPARE(offered, QStringList({"LAYER", "LAYERSTATE"}));
-    QTest::keyClick(input(), Qt::Key_Return);
-    QCOMPARE(entered.value(0).value(0).toString(), QStringLiteral("layer"));
-}
-
-void MainWindowTest::historyWalks_data()
-{
-    QTest::addColumn<QVector<int>>("keys");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("last one first") << QVector<int>{Qt::Key_Up} << "two";
-    QTest::newRow("stops at the first")
-        << QVector<int>{Qt::Key_Up, Qt::Key_Up, Qt::Key_Up} << "one";
-    QTest::newRow("and back to the empty line")
-        << QVector<int>{Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down} << "";
-    QTest::newRow("escape clears") << QVector<int>{Qt::Key_Up, Qt::Key_Escape} << "";
-}
-
-void MainWindowTest::historyWalks()
-{
-    QFETCH(QVector<int>, keys);
-    QFETCH(QString, shown);
-    for (const char* word : {"one", "two", "two"}) {
-        QTest::keyClicks(input(), QLatin1String(word));
-        QTest::keyClick(input(), Qt::Key_Return);
-    }
-    for (const int key : keys)
-        QTest::keyClick(input(), static_cast<Qt::Key>(key));
-    QCOMPARE(input()->text(), shown);
-}
-
-void MainWindowTest::openingShowsTheDrawing()
-{
-    QVERIFY(open(kLine));
-    QCOMPARE(m_window->windowTitle(), QStringLiteral("图层工作台 - sketch.dxf[*]"));
-    QCOMPARE(find<QLabel>("layerCountField")->text(), QStringLiteral("3 个图层"));
-    QCOMPARE(find<QLabel>("currentLayerField")->text(), QStringLiteral("当前图层: 0"));
-    QVERIFY(!find<QToolButton>("workCancel")->isVisible());
-    QVERIFY(!action("SAVE")->isEnabled());
-    QVERIFY(action("SAVEAS")->isEnabled());
-    QVERIFY(!m_window->canvas()->extents().isEmpty());
-}
-
-void MainWindowTest::badFileIsNamedAndTheDrawingStays_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("no DXF") << QByteArray("hello\n");
-    QTest::newRow("DWG") << QByteArray("AC1032\0\0\0\0\0", 11);
-    QTest::newRow("broken group code")
-        << QByteArray("0\nSECTION\n2\nHEADER\nxx\n$ACADVER\n0\nENDSEC\n0\nEOF\n");
-}
-
-void MainWindowTest::badFileIsNamedAndTheDrawingStays()
-{
-    QFETCH(QByteArray, content);
-    QVERIFY(open(kLine));
-    const QString path = m_sketch->path(QStringLiteral("broken.dxf"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    file.close();
-
-    BoxAnswerer answerer({QStringLiteral("确定")});
-    m_window->openFile(path);
-    QVERIFY(answerer.waitForAll());
-    QVERIFY(answerer.texts()[0].contains(QStringLiteral("broken.dxf")));
-    QVERIFY(answerer.texts()[0].contains(QRegularExpression(QStringLiteral("第 \\d+ 行"))));
-    QVERIFY(m_window->drawing()->path().endsWith(QLatin1String("sketch.dxf")));
-    QCOMPARE(contentOf(path), content);
-    QVERIFY(action("OPEN")->isEnabled());
-}
-
-void MainWindowTest::cancelledOpeningLeavesNothing()
-{
-    QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
-    m_window->openFile(m_sketch->write(kLine.repeated(20000)));
-    QVERIFY(find<QToolButton>("workCancel")->isVisible());
-    QVERIFY(!action("OPEN")->isEnabled());
-    find<QToolButton>("workCancel")->click();
-    QTRY_VERIFY(echo().contains(QStringLiteral("已取消")));
-    QVERIFY(!m_window->drawing());
-    QVERIFY(opened.isEmpty());
-    QVERIFY(m_window->findChild<RecentFiles*>()->paths().isEmpty());
-    QVERIFY(action("OPEN")->isEnabled());
-}
-
-void MainWindowTest::droppedFileOpens()
-{
-    QMimeData data;
-    data.setUrls({QUrl(QStringLiteral("https://example.org/a.dxf")),
-        QUrl::fromLocalFile(m_sketch->write(kLine))});
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_window.get(), &enter);
-    QVERIFY(enter.isAccepted());
-    QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
-    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_window.get(), &drop);
-    QVERIFY(opened.wait());
-
-    QMimeData text;
-    text.setText(QStringLiteral("no file"));
-    QDragEnterEvent other({5, 5}, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
-    other.ignore();
-    QCoreApplication::sendEvent(m_window.get(), &other);
-    QVERIFY(!other.isAccepted());
-}
-
-void MainWindowTest::recentFilesComeLatestFirst()
-{
-    auto* const recent = m_window->findChild<RecentFiles*>();
-    for (int i = 0; i < 12; ++i)
-        recent->add(m_sketch->path(QStringLiteral("%1.dxf").arg(i)));
-    recent->add(m_sketch->path(QStringLiteral("5.dxf")));
-    QCOMPARE(recent->paths().size(), 9);
-    QCOMPARE(recent->paths()[0], m_sketch->path(QStringLiteral("5.dxf")));
-    QCOMPARE(recent->paths().count(m_sketch->path(QStringLiteral("5.dxf"))), 1);
-    QCOMPARE(RecentFiles().paths(), recent->paths());
-
-    // The first is not there: it is reported and forgotten.
-    BoxAnswerer answerer({QStringLiteral("确定")});
-    recent->actions().first()->trigger();
-    QVERIFY(answerer.waitForAll());
-    QVERIFY(!recent->paths().contains(m_sketch->path(QStringLiteral("5.dxf"))));
-}
-
-void MainWindowTest::undoNamesItsStep()
-{
-    QVERIFY(open(kLine));
-    turnOff(QStringLiteral("A"), QStringLiteral("图层特性"));
-    QVERIFY(m_window->isWindowModified());
-    QVERIFY(action("UNDO")->text().startsWith(QStringLiteral("撤销 图层特性")));
-    QVERIFY(!action("REDO")->isEnabled());
-    action("UNDO")->trigger();
-    QVERIFY(!m_window->isWindowModified());
-    QVERIFY(action("REDO")->text().startsWith(QStringLiteral("重做 图层特性")));
-    QVERIFY(!m_window->drawing()->findLayer(QStringLiteral("A"))->properties.off);
-}
-
-void MainWindowTest::layerChangeReachesTheCanvas()
-{
-    QVERIFY(open("0 SOLID 8 A 10 0 20 0 11 9 21 0 12 0 22 9 13 9 23 9 "));
-    Canvas* const canvas = m_window->canvas();
-    const auto pixel = [canvas] {
-        return canvas->grab().toImage().pixelColor(canvas->view().toScreen({4, 4}).toPoint());
-    };
-    QCOMPARE(pixel(), QColor(255, 0, 0));
-    turnOff(QStringLiteral("A"), QStringLiteral("x"));
-    QCOMPARE(pixel(), QColor(Qt::black));
-    action("UNDO")->trigger();
-    QCOMPARE(pixel(), QColor(255, 0, 0));
-}
-
-void MainWindowTest::closingAsks_data()
-{
-    QTest::addColumn<QString>("answer"); // Empty: Esc.
-    QTest::addColumn<bool>("closes");
-    QTest::addColumn<bool>("writes");
-    QTest::newRow("save") << "保存" << true << true;
-    QTest::newRow("discard") << "不保存" << true << false;
-    QTest::newRow("cancel") << "取消" << false << false;
-    QTest::newRow("escape") << "" << false << false;
-}
-
-void MainWindowTest::closingAsks()
-{
-    QFETCH(QString, answer);
-    QFETCH(bool, closes);
-    QFETCH(bool, writes);
-    QVERIFY(open(kLine));
-    const QString path = m_window->drawing()->path();
-    const QByteArray before = contentOf(path);
-    turnOff(QStringLiteral("A"), QStringLiteral("x"));
-    BoxAnswerer answerer({answer});
-    QCOMPARE(m_window->close(), closes);
-    QVERIFY(answerer.waitForAll());
-    QVERIFY(answerer.texts()[0].contains(QStringLiteral("sketch.dxf")));
-    QCOMPARE(contentOf(path) != before, writes);
-    QCOMPARE(m_window->isWindowModified(), !writes);
-}
-
-void MainWindowTest::openingAnotherAsks()
-{
-    QVERIFY(open(kLine));
-    turnOff(QStringLiteral("A"), QStringLiteral("x"));
-    BoxAnswerer answerer({QStringLiteral("取消")});
-    m_window->openFile(m_sketch->write(kLine, QStringLiteral("other.dxf")));
-    QVERIFY(answerer.waitForAll());
-    QVERIFY(m_window->isWindowModified());
-    QVERIFY(action("OPEN")->isEnabled());
-}
-
-void MainWindowTest::failedSaveKeepsTheDrawing()
-{
-    QVERIFY(open(kLine));
-    turnOff(QStringLiteral("A"), QStringLiteral("x"));
-    QDir folder = QFileInfo(m_window->drawing()->path()).dir();
-    QVERIFY(folder.removeRecursively());
-    // Closing with "save" must not close over a failure.
-    BoxAnswerer answerer({QStringLiteral("保存"), QStringLiteral("确定")});
-    QVERIFY(!m_window->close());
-    QVERIFY(answerer.waitForAll());
-    QVERIFY(answerer.texts()[1].contains(QStringLiteral("sketch.dxf")));
-    QVERIFY(m_window->isWindowModified());
-    QVERIFY(m_window->drawing()->findLayer(QStringLiteral("A"))->properties.off);
-    QVERIFY(action("SAVE")->isEnabled());
-}
 
 QTEST_MAIN(MainWindowTest)
 #include "tst_mainwindow.moc"

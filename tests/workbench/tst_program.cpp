@@ -1,4 +1,5 @@
 #include "../drawing/tst_geometrysketch.h"
+#include "rows.h"
 
 #include <QImage>
 #include <QJsonArray>
@@ -38,82 +39,77 @@ class ProgramTest : public QObject
     Q_OBJECT
 
 private slots:
-    void exitCodes_data();
-    void exitCodes();
-    void listTellsTheLayers();
-    void pictures();
+    void exitCodes_data()
+    {
+        // Said on standard output with code 0, else on standard error.
+        const Rows<QStringList, int, QString> row("arguments", "code", "said");
+        const QString missing = m_sketch.path("missing.dxf");
+        const QString drawing = m_sketch.write("0 LINE 8 A 10 0 20 0 11 1 21 0");
+        row("help", {"--help"}, 0, "--gallery");
+        row("version", {"--version"}, 0, "layerbench 1.");
+        row("unknown option", {"--frobnicate"}, 2, "frobnicate");
+        row("two drawings", {drawing, drawing}, 2, "一次只能");
+        row("unknown command", {"--command", "LAYZ"}, 2, "LAYZ");
+        row("a list of nothing", {"--list"}, 2, "--list");
+        row("list of a missing file", {"--list", missing}, 1, "missing.dxf");
+        row("picture of a missing file", {"--screenshot", m_sketch.path("x.png"), missing}, 1,
+            "missing.dxf");
+        row("picture that cannot be written", {"--screenshot", "/dev/null/x.png", drawing}, 1,
+            "x.png");
+        row("no display", {drawing}, 1, "显示");
+    }
+
+    void exitCodes()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        QFETCH(QString, said);
+        const Run result = run(arguments);
+        QCOMPARE(result.code, code);
+        QVERIFY2(
+            (code == 0 ? result.output : result.error).contains(said), qPrintable(result.error));
+    }
+
+    void listTellsTheLayers()
+    {
+        m_sketch.layers = "A 62 -3;墙 62 5 420 66051";
+        const QString path =
+            m_sketch.write("0 LINE 8 A 10 0 20 0 11 1 21 0 0 LINE 8 A 10 0 20 0 11 1 21 0");
+        const Run result = run({"--list", path});
+        QCOMPARE(result.code, 0);
+        const QJsonArray layers =
+            QJsonDocument::fromJson(result.output.toUtf8()).object()["layers"].toArray();
+        QCOMPARE(layers.size(), 3);
+        QVERIFY(layers[0].toObject()["current"].toBool());
+        QCOMPARE(layers[1].toObject()["color"].toInt(), 3);
+        QVERIFY(layers[1].toObject()["off"].toBool());
+        QCOMPARE(layers[1].toObject()["entities"].toInt(), 2);
+        QCOMPARE(layers[2].toObject()["name"].toString(), QStringLiteral("墙"));
+        QCOMPARE(layers[2].toObject()["trueColor"].toString(), QStringLiteral("#010203"));
+    }
+
+    void pictures()
+    {
+        m_sketch.layers = "A 62 1";
+        const QString path = m_sketch.write("0 SOLID 8 A 10 0 20 0 11 9 21 0 12 0 22 9 13 9 23 9");
+        const QString file = m_sketch.path("new/folder/window.png");
+        const QString folder = m_sketch.path("gallery");
+        QCOMPARE(run({"--screenshot", file, "--gallery", folder, path}).code, 0);
+        for (const QString& picture : {file, folder + QStringLiteral("/workbench.png")}) {
+            const QImage image(picture);
+            QVERIFY(!image.isNull());
+            int red = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    red += image.pixel(x, y) == qRgb(255, 0, 0) ? 1 : 0;
+            }
+            QVERIFY(red > 10000);
+        }
+    }
 
 private:
     Sketch m_sketch;
 };
-
-void ProgramTest::exitCodes_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("said"); // On standard output for 0, else on standard error.
-    const QString missing = m_sketch.path(QStringLiteral("missing.dxf"));
-    const QString drawing = m_sketch.write("0 LINE 8 A 10 0 20 0 11 1 21 0");
-    QTest::newRow("help") << QStringList{"--help"} << 0 << "--gallery";
-    QTest::newRow("version") << QStringList{"--version"} << 0 << "layerbench 1.";
-    QTest::newRow("unknown option") << QStringList{"--frobnicate"} << 2 << "frobnicate";
-    QTest::newRow("two drawings") << QStringList{drawing, drawing} << 2 << "一次只能";
-    QTest::newRow("unknown command") << QStringList{"--command", "LAYZ"} << 2 << "LAYZ";
-    QTest::newRow("a list of nothing") << QStringList{"--list"} << 2 << "--list";
-    QTest::newRow("list of a missing file") << QStringList{"--list", missing} << 1 << "missing.dxf";
-    QTest::newRow("picture of a missing file")
-        << QStringList{"--screenshot", m_sketch.path("x.png"), missing} << 1 << "missing.dxf";
-    QTest::newRow("picture that cannot be written")
-        << QStringList{"--screenshot", "/dev/null/x.png", drawing} << 1 << "x.png";
-    QTest::newRow("no display") << QStringList{drawing} << 1 << "显示";
-}
-
-void ProgramTest::exitCodes()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, code);
-    QFETCH(QString, said);
-    const Run result = run(arguments);
-    QCOMPARE(result.code, code);
-    QVERIFY2((code == 0 ? result.output : result.error).contains(said), qPrintable(result.error));
-}
-
-void ProgramTest::listTellsTheLayers()
-{
-    m_sketch.layers = "A 62 -3;墙 62 5 420 66051";
-    const QString path =
-        m_sketch.write("0 LINE 8 A 10 0 20 0 11 1 21 0 0 LINE 8 A 10 0 20 0 11 1 21 0");
-    const Run result = run({"--list", path});
-    QCOMPARE(result.code, 0);
-    const QJsonArray layers =
-        QJsonDocument::fromJson(result.output.toUtf8()).object()["layers"].toArray();
-    QCOMPARE(layers.size(), 3);
-    QVERIFY(layers[0].toObject()["current"].toBool());
-    QCOMPARE(layers[1].toObject()["color"].toInt(), 3);
-    QVERIFY(layers[1].toObject()["off"].toBool());
-    QCOMPARE(layers[1].toObject()["entities"].toInt(), 2);
-    QCOMPARE(layers[2].toObject()["name"].toString(), QStringLiteral("墙"));
-    QCOMPARE(layers[2].toObject()["trueColor"].toString(), QStringLiteral("#010203"));
-}
-
-void ProgramTest::pictures()
-{
-    m_sketch.layers = "A 62 1";
-    const QString path = m_sketch.write("0 SOLID 8 A 10 0 20 0 11 9 21 0 12 0 22 9 13 9 23 9");
-    const QString file = m_sketch.path(QStringLiteral("new/folder/window.png"));
-    const QString folder = m_sketch.path(QStringLiteral("gallery"));
-    QCOMPARE(run({"--screenshot", file, "--gallery", folder, path}).code, 0);
-    for (const QString& picture : {file, folder + QStringLiteral("/workbench.png")}) {
-        const QImage image(picture);
-        QVERIFY(!image.isNull());
-        int red = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
-                red += image.pixel(x, y) == qRgb(255, 0, 0) ? 1 : 0;
-        }
-        QVERIFY(red > 10000);
-    }
-}
 
 QTEST_GUILESS_MAIN(ProgramTest)
 #include "tst_program.moc"
