@@ -2,6 +2,7 @@
 
 #include "drawing.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -33,169 +34,72 @@ struct House
     QByteArray lineEnd = "\n";
 
     /// A drawing in which all kinds of places name the wall's layer.
-    QByteArray bytes() const { return filledIn(kLines); }
+    QByteArray bytes() const { return filledIn(lines()); }
 
-    QByteArray filledIn(QByteArray lines) const
+    QByteArray filledIn(QByteArray text) const
     {
-        lines.replace("@version", version).replace("@wallRecord", wallRecord);
-        lines.replace("@wall", wall).replace("@current", current).replace("@seed", seed);
-        lines.replace("@layerCount", layerCount).replace("@moreLayers\n", moreLayers);
-        lines.replace("@appIdCount", appIdCount).replace("@appIds\n", appIds);
-        return tagged(lines, lineEnd);
+        text.replace("@version", version).replace("@wallRecord", wallRecord);
+        text.replace("@wall", wall).replace("@current", current).replace("@seed", seed);
+        text.replace("@layerCount", layerCount).replace("@moreLayers\n", moreLayers);
+        text.replace("@appIdCount", appIdCount).replace("@appIds\n", appIds);
+        return tagged(text, lineEnd);
     }
 
-    static constexpr char kLines[] = R"(0 SECTION
-2 HEADER
-9 $ACADVER
-1 @version
-9 $DWGCODEPAGE
-3 ANSI_936
-9 $CLAYER
-8 @current
-9 $HANDSEED
-5 @seed
+    /// The house, a tag a line.
+    static QByteArray lines() { return QByteArray(kRecords).replace(" | ", "\n"); }
+
+    static constexpr char kRecords[] = R"(0 SECTION | 2 HEADER
+9 $ACADVER | 1 @version
+9 $DWGCODEPAGE | 3 ANSI_936
+9 $CLAYER | 8 @current
+9 $HANDSEED | 5 @seed
 0 ENDSEC
-0 SECTION
-2 TABLES
-0 TABLE
-2 LTYPE
-5 3
-70 2
-0 LTYPE
-5 30
-2 Continuous
-0 LTYPE
-5 31
-2 Dashed
+0 SECTION | 2 TABLES
+0 TABLE | 2 LTYPE | 5 3 | 70 2
+0 LTYPE | 5 30 | 2 Continuous
+0 LTYPE | 5 31 | 2 Dashed
 0 ENDTAB
-0 TABLE
-2 LAYER
-5 2
-102 {ACAD_XDICTIONARY
-360 A0
-102 }
-100 AcDbSymbolTable
+0 TABLE | 2 LAYER | 5 2 | 102 {ACAD_XDICTIONARY | 360 A0 | 102 } | 100 AcDbSymbolTable
 70 @layerCount
-0 LAYER
-5 10
-330 2
-100 AcDbSymbolTableRecord
-100 AcDbLayerTableRecord
-2 0
-70 0
-62 7
-6 Continuous
-370 -3
-390 F
-347 47
-0 LAYER
-5 11
-330 2
-100 AcDbSymbolTableRecord
-100 AcDbLayerTableRecord
-2 @wall
+0 LAYER | 5 10 | 330 2 | 100 AcDbSymbolTableRecord | 100 AcDbLayerTableRecord | 2 0 | 70 0 | 62 7
+6 Continuous | 370 -3 | 390 F | 347 47
+0 LAYER | 5 11 | 330 2 | 100 AcDbSymbolTableRecord | 100 AcDbLayerTableRecord | 2 @wall
 @wallRecord
-0 LAYER
-5 12
-102 {ACAD_XDICTIONARY
-360 B0
-102 }
-330 2
-100 AcDbSymbolTableRecord
-100 AcDbLayerTableRecord
-2 Empty
-70 0
-62 1
-6 Continuous
+0 LAYER | 5 12 | 102 {ACAD_XDICTIONARY | 360 B0 | 102 } | 330 2 | 100 AcDbSymbolTableRecord
+100 AcDbLayerTableRecord | 2 Empty | 70 0 | 62 1 | 6 Continuous
 @moreLayers
 0 ENDTAB
-0 TABLE
-2 APPID
-5 9
-70 @appIdCount
-0 APPID
-5 90
-2 ACAD
+0 TABLE | 2 APPID | 5 9 | 70 @appIdCount
+0 APPID | 5 90 | 2 ACAD
 @appIds
 0 ENDTAB
 0 ENDSEC
-0 SECTION
-2 BLOCKS
-0 BLOCK
-8 @wall
-2 DOOR
-10 1.5
-20 2.5
-0 LINE
-8 @wall
-0 POLYLINE
-8 Implicit
-0 VERTEX
-8 @wall
-0 SEQEND
-8 @wall
-0 ENDBLK
-8 @wall
-0 BLOCK
-8 Empty
-2 *Model_Space
-0 ENDBLK
-8 Empty
+0 SECTION | 2 BLOCKS
+0 BLOCK | 8 @wall | 2 DOOR | 10 1.5 | 20 2.5
+0 LINE | 8 @wall
+0 POLYLINE | 8 Implicit
+0 VERTEX | 8 @wall
+0 SEQEND | 8 @wall
+0 ENDBLK | 8 @wall
+0 BLOCK | 8 Empty | 2 *Model_Space
+0 ENDBLK | 8 Empty
 0 ENDSEC
-0 SECTION
-2 ENTITIES
-0 LINE
-8 @wall
-1001 ACAD
-1003 @wall
-1003 Gone
-0 INSERT
-8 0
-66 1
-2 DOOR
-0 ATTRIB
-8 @wall
-0 SEQEND
-8 0
-0 VIEWPORT
-67 1
-8 0
-331 11
-331 12
+0 SECTION | 2 ENTITIES
+0 LINE | 8 @wall | 1001 ACAD | 1003 @wall | 1003 Gone
+0 INSERT | 8 0 | 66 1 | 2 DOOR
+0 ATTRIB | 8 @wall
+0 SEQEND | 8 0
+0 VIEWPORT | 67 1 | 8 0 | 331 11 | 331 12
 0 ENDSEC
-0 SECTION
-2 OBJECTS
-0 DICTIONARY
-5 C
-0 DICTIONARY
-5 A0
-3 ACAD_LAYERSTATES
-360 A1
-0 DICTIONARY
-5 A1
-3 State
-360 A2
-0 XRECORD
-5 A2
-330 A1
-100 AcDbXrecord
-91 2047
-302 @wall
-330 11
-90 8
-330 12
-90 9
-8 @wall
-90 10
-0 LAYER_FILTER
-5 A3
-8 @wall
-0 DICTIONARY
-5 B0
-3 NOTE
-360 B1
-0 XRECORD
-5 B1
+0 SECTION | 2 OBJECTS
+0 DICTIONARY | 5 C
+0 DICTIONARY | 5 A0 | 3 ACAD_LAYERSTATES | 360 A1
+0 DICTIONARY | 5 A1 | 3 State | 360 A2
+0 XRECORD | 5 A2 | 330 A1 | 100 AcDbXrecord | 91 2047 | 302 @wall | 330 11 | 90 8 | 330 12 | 90 9
+8 @wall | 90 10
+0 LAYER_FILTER | 5 A3 | 8 @wall
+0 DICTIONARY | 5 B0 | 3 NOTE | 360 B1
+0 XRECORD | 5 B1
 0 ENDSEC
 0 EOF
 )";
@@ -246,6 +150,41 @@ protected:
         const auto result = drawing.setLayerProperties(found->id, properties);
         drawing.commitStep();
         return result ? QString() : result.error().text;
+    }
+
+    static drawing::LayerId id(const drawing::Drawing& drawing, const QString& layer)
+    {
+        return drawing.findLayer(layer)->id;
+    }
+
+    /// Does `act` as a step of its own; whether it succeeded.
+    template <class Act>
+    static bool inStep(drawing::Drawing& drawing, Act act)
+    {
+        drawing.beginStep(QStringLiteral("step"));
+        const bool succeeded = act().has_value();
+        drawing.commitStep();
+        return succeeded;
+    }
+
+    /// Undoes the last step and does it again: the bytes must be those before it and these.
+    void checkUndo(drawing::Drawing& drawing, const QByteArray& before)
+    {
+        const QByteArray after = saved(drawing);
+        drawing.undo();
+        QCOMPARE(saved(drawing), before);
+        drawing.redo();
+        QCOMPARE(saved(drawing), after);
+    }
+
+    /// A row with the path of every drawing that is at hand.
+    static void everyDrawing()
+    {
+        QTest::addColumn<QString>("path");
+        for (const char* folder : {SAMPLES_DIR, SHARED_DRAWINGS_DIR}) {
+            for (const QFileInfo& file : QDir(QString::fromUtf8(folder)).entryInfoList({"*.dxf"}))
+                QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+        }
     }
 
     QTemporaryDir m_folder;

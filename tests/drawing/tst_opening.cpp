@@ -1,4 +1,5 @@
 #include "fixture.h"
+#include "rows.h"
 
 using namespace drawing;
 
@@ -8,249 +9,231 @@ class TestOpening : public Fixture
     Q_OBJECT
 
 private slots:
-    void badFiles_data();
-    void badFiles();
-    void unreadable_data();
-    void unreadable();
-    void cancelled();
-    void layers();
-    void entities();
-    void minimalFiles_data();
-    void minimalFiles();
-    void colors_data();
-    void colors();
-    void plotStyles();
+    void badFiles_data()
+    {
+        const Rows<QByteArray, QString, qint64> row("bytes", "word", "line");
+
+        const QByteArray house = House().bytes();
+        const auto cut = [&house](const char* at) { return house.left(house.indexOf(at)); };
+        const auto broken = [&house](const char* from, const char* to) {
+            return QByteArray(house).replace(from, to);
+        };
+        const auto lines = [](const QByteArray& bytes) { return qint64(bytes.count('\n') + 1); };
+        row("empty", "", "空", 1);
+        row("text", "Hello\nworld\n", "不是 DXF", 1);
+        row("numbers", "0\n1\n2\n3\n", "不是 DXF", 1);
+        row("zeros", QByteArray(5000, '\0'), "不是 DXF", 1);
+        row("DWG", "AC1032\0\0\0\0", "DWG", 1);
+        row("binary DXF", "Program Binary DXF\r\n\x1a", "二进制", 1);
+        row("cut in the entities", cut("  0\nVIEWPORT"), "ENTITIES", lines(cut("  0\nVIEWPORT")));
+        row("cut within a line", cut("WPORT"), "ENTITIES", lines(cut("WPORT")));
+        row("cut behind a code", cut("VIEWPORT"), "ENTITIES", lines(cut("VIEWPORT")));
+        row("cut in the layer table", cut("Empty"), "TABLES", lines(cut("Empty")));
+        row("cut between sections", cut("  0\nEOF"), "EOF", lines(cut("  0\nEOF")));
+        row("no ENDSEC at the end", broken("  0\nENDSEC\n  0\nEOF\n", "  0\nEOF\n"), "OBJECTS",
+            lines(broken("  0\nENDSEC\n  0\nEOF\n", "").replace("EOF", "")));
+        row("a line too many", broken("  0\nVIEWPORT", "x\n  0\nVIEWPORT"), "组码“x”",
+            lines(cut("  0\nVIEWPORT")));
+        row("no layer table", broken("LAYER\n  5\n2\n", "UCS\n  5\n2\n"), "图层表",
+            lines(broken("LAYER\n  5\n2\n", "UCS\n  5\n2\n")
+                      .left(house.indexOf("  0\nSECTION\n  2\nBLOCKS") - 10)));
+    }
+
+    void badFiles()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, word);
+        const QString path = write(bytes, "坏 %1.dxf");
+        const auto drawing = Drawing::open(path);
+        QVERIFY(!drawing);
+        const Error& error = drawing.error();
+        QVERIFY2(error.text.contains(word), qPrintable(error.text));
+        QVERIFY2(error.text.contains(path), qPrintable(error.text));
+        QTEST(error.line, "line");
+        QVERIFY2(error.text.contains(QString::number(error.line)), qPrintable(error.text));
+        QVERIFY(!error.cancelled);
+        QCOMPARE(read(path), bytes);
+    }
+
+    void unreadable_data()
+    {
+        const Rows<QString, QString> row("path", "word");
+        row("missing", "/no/such.dxf", "不存在");
+        row("folder", m_folder.path(), "文件夹");
+        row("device", "/dev/zero", "不是普通文件");
+    }
+
+    void unreadable()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, word);
+        const auto drawing = Drawing::open(path);
+        QVERIFY(!drawing);
+        QVERIFY2(drawing.error().text.contains(word), qPrintable(drawing.error().text));
+    }
+
+    void cancelled()
+    {
+        Progress progress;
+        progress.cancelled = true;
+        const auto drawing = Drawing::open(write(House().bytes()), &progress);
+        QVERIFY(!drawing);
+        QVERIFY(drawing.error().cancelled);
+    }
+
+    void layers()
+    {
+        House house;
+        house.wall = "\xc7\xbd"; // In GBK.
+        house.current = "\xc7\xbd";
+        house.wallRecord = "62 -30\n420 16711680\n6 DASHED\n290 0\n370 50\n1001 AcCmTransparency\n"
+                           "1071 33554559\n1001 AcAecLayerStandard\n1000 \n1000 \\U+5899 !";
+        house.layerCount = "999999999999"; // Lies.
+        house.moreLayers =
+            "0 LAYER\n2 plan|A\n70 39\n0 LAYER\n2 PlanB\n70 16\n0 LAYER\n2 DEFPOINTS\n";
+        const auto drawing = opened(house.bytes());
+
+        QStringList names;
+        for (const Layer& layer : drawing->layers())
+            names += layer.properties.name;
+        QCOMPARE(
+            names, QStringList({"0", "墙", "Empty", "plan|A", "PlanB", "DEFPOINTS", "Implicit"}));
+        const Layer* wall = drawing->findLayer("墙");
+        LayerProperties expected;
+        expected.name = QStringLiteral("墙");
+        expected.off = true;
+        expected.plotted = false;
+        expected.colorIndex = 30;
+        expected.trueColor = 0xff0000;
+        expected.linetype = QStringLiteral("DASHED");
+        expected.lineweight = 50;
+        expected.transparency = 50;
+        expected.plotStyle = QStringLiteral("Color_30");
+        expected.description = QStringLiteral("墙 !");
+        QVERIFY(wall->properties == expected);
+        QCOMPARE(drawing->currentLayer(), wall->id);
+
+        const Layer* reference = drawing->findLayer("PLAN|a");
+        QVERIFY(reference->dependsOnReference);
+        QVERIFY(reference->properties.frozen && reference->properties.frozenInNewViewports &&
+                reference->properties.locked);
+        QVERIFY(drawing->findLayer("planb")->dependsOnReference);
+        QVERIFY(!wall->dependsOnReference);
+        QVERIFY(!drawing->findLayer("defpoints")->properties.plotted);
+    }
+
+    void entities()
+    {
+        const auto drawing = opened(House().bytes());
+        const auto count = [&drawing](const char* name) {
+            return drawing->findLayer(QString::fromLatin1(name))->entityCount;
+        };
+        // Block heads and what follows an owner do not count.
+        QCOMPARE(count("wall"), 2);
+        QCOMPARE(count("0"), 2);
+        QCOMPARE(count("Empty"), 0);
+        QCOMPARE(count("implicit"), 1);
+
+        const Block* door = drawing->findBlock("door");
+        QCOMPARE(door->count, 4);
+        QCOMPARE(door->baseX, 1.5);
+        QCOMPARE(door->baseY, 2.5);
+        QVERIFY(!door->layout && drawing->findBlock("*MODEL_SPACE")->layout);
+        const std::vector<Entity>& entities = drawing->entities();
+        QCOMPARE(entities.size(), size_t(9));
+        const Entity& vertex = entities[static_cast<size_t>(door->first) + 2];
+        QVERIFY(vertex.kind == EntityKind::Vertex && vertex.subEntity && vertex.block == 0);
+        const Entity& viewport = entities.back();
+        QVERIFY(
+            viewport.kind == EntityKind::Viewport && viewport.paperSpace && viewport.block == -1);
+        TagReader tags = drawing->tags(viewport);
+        Tag tag;
+        int last = -1;
+        while (tags.next(tag))
+            last = tag.code == 331 ? static_cast<int>(tag.toHandle()) : -1;
+        QCOMPARE(last, 0x12);
+        QCOMPARE(tags.offset(), viewport.end);
+    }
+
+    void minimalFiles_data()
+    {
+        const Rows<QByteArray, QStringList> row("bytes", "layers");
+        const QByteArray line = "0 LINE\n8 A\n0 LINE\n0 LINE\n8 a \n0 LINE\n8 \n";
+        const QByteArray entities = "0 SECTION\n2 ENTITIES\n" + line + "0 ENDSEC\n0 EOF";
+        const QStringList layers = {"0", "A"};
+        row("entities only", tagged(entities), layers);
+        row("no line end at the end", tagged(entities).trimmed(), layers);
+        row("CR LF", tagged(entities, "\r\n"), layers);
+        row("codes not aligned", tagged(entities).replace("  ", ""), layers);
+        row("byte order mark", QByteArray("\xef\xbb\xbf") + tagged(entities), layers);
+        row("comments", tagged("999 made by hand\n" + entities), layers);
+        row("text behind EOF", tagged(entities) + "\x1a\ngarbage\n", layers);
+        row("no sections but one that nobody knows",
+            tagged("0 SECTION\n2 FOO\n1 x\n0 ENDSEC\n0 EOF"), QStringList("0"));
+        row("a block in itself",
+            tagged(
+                "0 SECTION\n2 BLOCKS\n0 BLOCK\n2 A\n0 INSERT\n8 A\n2 A\n0 ENDBLK\n0 ENDSEC\n0 EOF"),
+            layers);
+    }
+
+    void minimalFiles()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QStringList, layers);
+        const auto drawing = opened(bytes);
+        QStringList names;
+        for (const Layer& layer : drawing->layers())
+            names += layer.properties.name;
+        QCOMPARE(names, layers);
+        QCOMPARE(drawing->layer(drawing->currentLayer())->properties.name, QStringLiteral("0"));
+        QCOMPARE(saved(*drawing), bytes);
+    }
+
+    void colors_data()
+    {
+        const Rows<QByteArray, int, bool> row("group", "index", "off");
+        row("plain", "62      5", 5, false);
+        row("off", "62 -255", 255, true);
+        row("by block", "62 0", 7, false);
+        row("by layer", "62 256", 7, false);
+        row("far off", "62 -32767", 7, true);
+        row("lowest there is", "62 -9223372036854775808", 7, true);
+        row("no number", "62 red", 7, false);
+        row("none", "6 Continuous", 7, false);
+    }
+
+    void colors()
+    {
+        House house;
+        QFETCH(QByteArray, group);
+        house.wallRecord = group;
+        const auto drawing = opened(house.bytes());
+        const LayerProperties& wall = drawing->findLayer("Wall")->properties;
+        QTEST(wall.colorIndex, "index");
+        QTEST(wall.off, "off");
+    }
+
+    void plotStyles()
+    {
+        House house;
+        house.wallRecord = "62 5\n390 E1";
+        const QByteArray named =
+            house.bytes()
+                .replace("  9\n$CLAYER", "  9\n$PSTYLEMODE\n290\n     0\n  9\n$CLAYER")
+                .replace("DICTIONARY\n  5\nC\n",
+                    tagged(
+                        "0 DICTIONARY\n5 C\n3 ACAD_PLOTSTYLENAME\n350 E0\n"
+                        "0 ACDBDICTIONARYWDFLT\n5 E0\n3 Normal\n350 F\n3 \\U+534A\\U+8272\n350 E1")
+                        .mid(4));
+        const auto drawing = opened(named);
+        const auto style = [&](const char* name) {
+            return drawing->findLayer(QString::fromLatin1(name))->properties.plotStyle;
+        };
+        QCOMPARE(style("0"), QStringLiteral("Normal"));
+        QCOMPARE(style("Wall"), QStringLiteral("半色"));
+        QCOMPARE(style("Empty"), QString());
+    }
 };
-
-void TestOpening::badFiles_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<qint64>("line");
-
-    const QByteArray house = House().bytes();
-    const auto cut = [&house](const char* at) { return house.left(house.indexOf(at)); };
-    const auto broken = [&house](const char* from, const char* to) {
-        return QByteArray(house).replace(from, to);
-    };
-    const auto lines = [](const QByteArray& bytes) { return qint64(bytes.count('\n') + 1); };
-    const auto row = [](const char* name, const QByteArray& bytes, const char* word, qint64 line) {
-        QTest::newRow(name) << bytes << QString::fromUtf8(word) << line;
-    };
-    row("empty", "", "空", 1);
-    row("text", "Hello\nworld\n", "不是 DXF", 1);
-    row("numbers", "0\n1\n2\n3\n", "不是 DXF", 1);
-    row("zeros", QByteArray(5000, '\0'), "不是 DXF", 1);
-    row("DWG", "AC1032\0\0\0\0", "DWG", 1);
-    row("binary DXF", "Program Binary DXF\r\n\x1a", "二进制", 1);
-    row("cut in the entities", cut("  0\nVIEWPORT"), "ENTITIES", lines(cut("  0\nVIEWPORT")));
-    row("cut within a line", cut("WPORT"), "ENTITIES", lines(cut("WPORT")));
-    row("cut behind a code", cut("VIEWPORT"), "ENTITIES", lines(cut("VIEWPORT")));
-    row("cut in the layer table", cut("Empty"), "TABLES", lines(cut("Empty")));
-    row("cut between sections", cut("  0\nEOF"), "EOF", lines(cut("  0\nEOF")));
-    row("no ENDSEC at the end", broken("  0\nENDSEC\n  0\nEOF\n", "  0\nEOF\n"), "OBJECTS",
-        lines(broken("  0\nENDSEC\n  0\nEOF\n", "").replace("EOF", "")));
-    row("a line too many", broken("  0\nVIEWPORT", "x\n  0\nVIEWPORT"), "组码“x”",
-        lines(cut("  0\nVIEWPORT")));
-    row("no layer table", broken("LAYER\n  5\n2\n", "UCS\n  5\n2\n"), "图层表",
-        lines(broken("LAYER\n  5\n2\n", "UCS\n  5\n2\n")
-                  .left(house.indexOf("  0\nSECTION\n  2\nBLOCKS") - 10)));
-}
-
-void TestOpening::badFiles()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, word);
-    const QString path = write(bytes, QStringLiteral("坏 %1.dxf"));
-    const auto drawing = Drawing::open(path);
-    QVERIFY(!drawing);
-    const Error& error = drawing.error();
-    QVERIFY2(error.text.contains(word), qPrintable(error.text));
-    QVERIFY2(error.text.contains(path), qPrintable(error.text));
-    QTEST(error.line, "line");
-    QVERIFY2(error.text.contains(QString::number(error.line)), qPrintable(error.text));
-    QVERIFY(!error.cancelled);
-    QCOMPARE(read(path), bytes);
-}
-
-void TestOpening::unreadable_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("word");
-    QTest::newRow("missing") << QStringLiteral("/no/such.dxf") << QStringLiteral("不存在");
-    QTest::newRow("folder") << m_folder.path() << QStringLiteral("文件夹");
-    QTest::newRow("device") << QStringLiteral("/dev/zero") << QStringLiteral("不是普通文件");
-}
-
-void TestOpening::unreadable()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, word);
-    const auto drawing = Drawing::open(path);
-    QVERIFY(!drawing);
-    QVERIFY2(drawing.error().text.contains(word), qPrintable(drawing.error().text));
-}
-
-void TestOpening::cancelled()
-{
-    Progress progress;
-    progress.cancelled = true;
-    const auto drawing = Drawing::open(write(House().bytes()), &progress);
-    QVERIFY(!drawing);
-    QVERIFY(drawing.error().cancelled);
-}
-
-void TestOpening::layers()
-{
-    House house;
-    house.wall = "\xc7\xbd"; // In GBK.
-    house.current = "\xc7\xbd";
-    house.wallRecord = "62 -30\n420 16711680\n6 DASHED\n290 0\n370 50\n1001 AcCmTransparency\n"
-                       "1071 33554559\n1001 AcAecLayerStandard\n1000 \n1000 \\U+5899 !";
-    house.layerCount = "999999999999"; // Lies.
-    house.moreLayers = "0 LAYER\n2 plan|A\n70 39\n0 LAYER\n2 PlanB\n70 16\n0 LAYER\n2 DEFPOINTS\n";
-    const auto drawing = opened(house.bytes());
-
-    QStringList names;
-    for (const Layer& layer : drawing->layers())
-        names += layer.properties.name;
-    QCOMPARE(names, QStringList({"0", "墙", "Empty", "plan|A", "PlanB", "DEFPOINTS", "Implicit"}));
-    const Layer* wall = drawing->findLayer(QStringLiteral("墙"));
-    LayerProperties expected;
-    expected.name = QStringLiteral("墙");
-    expected.off = true;
-    expected.plotted = false;
-    expected.colorIndex = 30;
-    expected.trueColor = 0xff0000;
-    expected.linetype = QStringLiteral("DASHED");
-    expected.lineweight = 50;
-    expected.transparency = 50;
-    expected.plotStyle = QStringLiteral("Color_30");
-    expected.description = QStringLiteral("墙 !");
-    QVERIFY(wall->properties == expected);
-    QCOMPARE(drawing->currentLayer(), wall->id);
-
-    const Layer* reference = drawing->findLayer(QStringLiteral("PLAN|a"));
-    QVERIFY(reference->dependsOnReference);
-    QVERIFY(reference->properties.frozen && reference->properties.frozenInNewViewports &&
-            reference->properties.locked);
-    QVERIFY(drawing->findLayer(QStringLiteral("planb"))->dependsOnReference);
-    QVERIFY(!wall->dependsOnReference);
-    QVERIFY(!drawing->findLayer(QStringLiteral("defpoints"))->properties.plotted);
-}
-
-void TestOpening::entities()
-{
-    const auto drawing = opened(House().bytes());
-    const auto count = [&drawing](const char* name) {
-        return drawing->findLayer(QString::fromLatin1(name))->entityCount;
-    };
-    // Block heads and what follows an owner do not count.
-    QCOMPARE(count("wall"), 2);
-    QCOMPARE(count("0"), 2);
-    QCOMPARE(count("Empty"), 0);
-    QCOMPARE(count("implicit"), 1);
-
-    const Block* door = drawing->findBlock(QStringLiteral("door"));
-    QCOMPARE(door->count, 4);
-    QCOMPARE(door->baseX, 1.5);
-    QCOMPARE(door->baseY, 2.5);
-    QVERIFY(!door->layout && drawing->findBlock(QStringLiteral("*MODEL_SPACE"))->layout);
-    const std::vector<Entity>& entities = drawing->entities();
-    QCOMPARE(entities.size(), size_t(9));
-    const Entity& vertex = entities[static_cast<size_t>(door->first) + 2];
-    QVERIFY(vertex.kind == EntityKind::Vertex && vertex.subEntity && vertex.block == 0);
-    const Entity& viewport = entities.back();
-    QVERIFY(viewport.kind == EntityKind::Viewport && viewport.paperSpace && viewport.block == -1);
-    TagReader tags = drawing->tags(viewport);
-    Tag tag;
-    int last = -1;
-    while (tags.next(tag))
-        last = tag.code == 331 ? static_cast<int>(tag.toHandle()) : -1;
-    QCOMPARE(last, 0x12);
-    QCOMPARE(tags.offset(), viewport.end);
-}
-
-void TestOpening::minimalFiles_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QStringList>("layers");
-    const QByteArray line = "0 LINE\n8 A\n0 LINE\n0 LINE\n8 a \n0 LINE\n8 \n";
-    const QByteArray entities = "0 SECTION\n2 ENTITIES\n" + line + "0 ENDSEC\n0 EOF";
-    const QStringList layers = {"0", "A"};
-    QTest::newRow("entities only") << tagged(entities) << layers;
-    QTest::newRow("no line end at the end") << tagged(entities).trimmed() << layers;
-    QTest::newRow("CR LF") << tagged(entities, "\r\n") << layers;
-    QTest::newRow("codes not aligned") << tagged(entities).replace("  ", "") << layers;
-    QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbf") + tagged(entities) << layers;
-    QTest::newRow("comments") << tagged("999 made by hand\n" + entities) << layers;
-    QTest::newRow("text behind EOF") << tagged(entities) + "\x1a\ngarbage\n" << layers;
-    QTest::newRow("no sections but one that nobody knows")
-        << tagged("0 SECTION\n2 FOO\n1 x\n0 ENDSEC\n0 EOF") << QStringList("0");
-    QTest::newRow("a block in itself")
-        << tagged(
-               "0 SECTION\n2 BLOCKS\n0 BLOCK\n2 A\n0 INSERT\n8 A\n2 A\n0 ENDBLK\n0 ENDSEC\n0 EOF")
-        << layers;
-}
-
-void TestOpening::minimalFiles()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QStringList, layers);
-    const auto drawing = opened(bytes);
-    QStringList names;
-    for (const Layer& layer : drawing->layers())
-        names += layer.properties.name;
-    QCOMPARE(names, layers);
-    QCOMPARE(drawing->layer(drawing->currentLayer())->properties.name, QStringLiteral("0"));
-    QCOMPARE(saved(*drawing), bytes);
-}
-
-void TestOpening::colors_data()
-{
-    QTest::addColumn<QByteArray>("group");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("off");
-    QTest::newRow("plain") << QByteArray("62      5") << 5 << false;
-    QTest::newRow("off") << QByteArray("62 -255") << 255 << true;
-    QTest::newRow("by block") << QByteArray("62 0") << 7 << false;
-    QTest::newRow("by layer") << QByteArray("62 256") << 7 << false;
-    QTest::newRow("far off") << QByteArray("62 -32767") << 7 << true;
-    QTest::newRow("lowest there is") << QByteArray("62 -9223372036854775808") << 7 << true;
-    QTest::newRow("no number") << QByteArray("62 red") << 7 << false;
-    QTest::newRow("none") << QByteArray("6 Continuous") << 7 << false;
-}
-
-void TestOpening::colors()
-{
-    House house;
-    QFETCH(QByteArray, group);
-    house.wallRecord = group;
-    const auto drawing = opened(house.bytes());
-    const LayerProperties& wall = drawing->findLayer(QStringLiteral("Wall"))->properties;
-    QTEST(wall.colorIndex, "index");
-    QTEST(wall.off, "off");
-}
-
-void TestOpening::plotStyles()
-{
-    House house;
-    house.wallRecord = "62 5\n390 E1";
-    const QByteArray named =
-        house.bytes()
-            .replace("  9\n$CLAYER", "  9\n$PSTYLEMODE\n290\n     0\n  9\n$CLAYER")
-            .replace("DICTIONARY\n  5\nC\n",
-                tagged("0 DICTIONARY\n5 C\n3 ACAD_PLOTSTYLENAME\n350 E0\n"
-                       "0 ACDBDICTIONARYWDFLT\n5 E0\n3 Normal\n350 F\n3 \\U+534A\\U+8272\n350 E1")
-                    .mid(4));
-    const auto drawing = opened(named);
-    const auto style = [&](const char* name) {
-        return drawing->findLayer(QString::fromLatin1(name))->properties.plotStyle;
-    };
-    QCOMPARE(style("0"), QStringLiteral("Normal"));
-    QCOMPARE(style("Wall"), QStringLiteral("半色"));
-    QCOMPARE(style("Empty"), QString());
-}
 
 QTEST_APPLESS_MAIN(TestOpening)
 #include "tst_opening.moc"
