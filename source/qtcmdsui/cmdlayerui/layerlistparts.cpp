@@ -1,6 +1,7 @@
 #include "layerlistparts.h"
 
 #include "layerrecord.h"
+#include "vnmessages.h"
 #include "vnstrings.h"
 
 #include <QDialog>
@@ -52,6 +53,11 @@ QSet<QString> selectedNames(const QListWidget& list)
     return names;
 }
 
+VnJsonPtr records(const VnJsonPtr& tree)
+{
+    return tree ? tree->GetDataJ(layerkey::kList) : VnJsonPtr();
+}
+
 void mark(const VnJsonPtr& layers, const QSet<QString>& names, int status)
 {
     for (int i = 0, count = layers.ArrayCount(); i < count; ++i) {
@@ -61,6 +67,19 @@ void mark(const VnJsonPtr& layers, const QSet<QString>& names, int status)
         record.setStatus(status);
         record.markModifiedByAction();
     }
+}
+
+bool refuse(const wchar_t* text, const wchar_t* caption)
+{
+    vnuiMessageBox(text, caption, kVnOk);
+    return false;
+}
+
+bool confirm(const wchar_t* caption, const QString& text, int buttons, int consent)
+{
+    const VnJsonPtr answer = vnuiMessageBoxEx(caption, vnutQStringToOdString(text),
+        ElementValue::createObject(2), buttons, 1, kVnIconQuestion);
+    return answer->GetDataI("ControlBtn") == consent;
 }
 
 } // namespace vnsi::layerlist

@@ -21,9 +21,16 @@ QLineEdit* makeNameEdit(QDialog& dialog);
 void fill(QListWidget& list, const VnJsonPtr& layers);
 void copyText(const QListWidgetItem* item, QLineEdit* edit);
 QSet<QString> selectedNames(const QListWidget& list);
+/// The records of a dialog's tree; null where there are none.
+VnJsonPtr records(const VnJsonPtr& tree);
 
 /// Writes the action `status` and the mark of a change into every record that `names` holds,
 /// exactly as written.
 void mark(const VnJsonPtr& layers, const QSet<QString>& names, int status);
+
+/// Shows why a name will not do; false, for the caller to hand on.
+bool refuse(const wchar_t* text, const wchar_t* caption);
+/// Asks with these buttons; whether the answer is `consent`.
+bool confirm(const wchar_t* caption, const QString& text, int buttons, int consent);
 
 } // namespace vnsi::layerlist

@@ -68,13 +68,8 @@ bool VnQtLaydelLayerDlg::initDialog()
 bool VnQtLaydelLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 {
     VnQtModeDialogImpl::setData(data, invoker);
-    layerlist::fill(*m_list, canRequest() ? layers() : VnJsonPtr());
+    layerlist::fill(*m_list, canRequest() ? layerlist::records(data) : VnJsonPtr());
     return true;
-}
-
-VnJsonPtr VnQtLaydelLayerDlg::layers() const
-{
-    return data() ? data()->GetDataJ(layerkey::kList) : VnJsonPtr();
 }
 
 bool VnQtLaydelLayerDlg::isReferencedInBlocks(const QSet<QString>& names)
@@ -110,11 +105,9 @@ void VnQtLaydelLayerDlg::slot_SureBtnClicked(bool)
     const QSet<QString> names = layerlist::selectedNames(*m_list);
     const bool inBlocks = isReferencedInBlocks(names);
     const QString text = question(inBlocks, items.size(), items.first()->text());
-    const VnJsonPtr answer = vnuiMessageBoxEx(L"图层删除 - 删除确认", vnutQStringToOdString(text),
-        ElementValue::createObject(2), kVnOkCancel, 1, kVnIconQuestion);
-    if (answer->GetDataI("ControlBtn") != kVnAnswerOk)
+    if (!layerlist::confirm(L"图层删除 - 删除确认", text, kVnOkCancel, kVnAnswerOk))
         return;
-    layerlist::mark(layers(), names, kLayerDelete);
+    layerlist::mark(layerlist::records(data()), names, kLayerDelete);
     endDialog(1);
 }
 

@@ -24,7 +24,6 @@ private slots:
     void slot_HelpBtnClicked(bool checked);
 
 private:
-    VnJsonPtr layers() const;
     bool isReferencedInBlocks(const QSet<QString>& names);
     /// The question about `count` layers; `single` names the layer where it is only one.
     QString question(bool inBlocks, int count, const QString& single) const;

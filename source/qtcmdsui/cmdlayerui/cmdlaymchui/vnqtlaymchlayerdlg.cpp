@@ -20,27 +20,23 @@ namespace vnsi {
 
 namespace {
 
-bool refuse(const wchar_t* text, const wchar_t* caption)
-{
-    vnuiMessageBox(text, caption, kVnOk);
-    return false;
-}
-
 bool acceptName(const QString& name)
 {
     const auto isSpace = [](QChar c) { return c.isSpace(); };
     if (std::all_of(name.begin(), name.end(), isSpace))
-        return refuse(L"\n图层名至少必须包含一个字符。", L"图层名无效");
+        return layerlist::refuse(L"\n图层名至少必须包含一个字符。", L"图层名无效");
     // A blank is refused like the thirteen characters, though the message does not list it.
     if (std::any_of(name.begin(), name.end(), isSpace) || holdsForbiddenCharacter(name))
-        return refuse(L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  \\<>/\":;?*|,=`",
+        return layerlist::refuse(
+            L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  \\<>/\":;?*|,=`",
             L"图层-不支持的字符");
     return true;
 }
 
 bool acceptNewName(const QString& name)
 {
-    return !isTooLongForName(name) || refuse(L"\n图层名最多只能包含 255 个字符。", L"图层名无效");
+    return !isTooLongForName(name) ||
+           layerlist::refuse(L"\n图层名最多只能包含 255 个字符。", L"图层名无效");
 }
 
 } // namespace
@@ -81,14 +77,9 @@ bool VnQtLaymchLayerDlg::initDialog()
 bool VnQtLaymchLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 {
     VnQtModeDialogImpl::setData(data, invoker);
-    layerlist::fill(*m_list, canRequest() ? layers() : VnJsonPtr());
+    layerlist::fill(*m_list, canRequest() ? layerlist::records(data) : VnJsonPtr());
     layerlist::copyText(m_list->item(0), m_nameEdit);
     return true;
-}
-
-VnJsonPtr VnQtLaymchLayerDlg::layers() const
-{
-    return data() ? data()->GetDataJ(layerkey::kList) : VnJsonPtr();
 }
 
 void VnQtLaymchLayerDlg::slot_LayerListItemClicked(QListWidgetItem* item)
@@ -109,7 +100,7 @@ void VnQtLaymchLayerDlg::slot_SureBtnClicked(bool)
         return;
     if (isKnown(name)) {
         // The look-up ignores letter case and the marking does not; this is intended.
-        layerlist::mark(layers(), {name}, kLayerTarget);
+        layerlist::mark(layerlist::records(data()), {name}, kLayerTarget);
     } else {
         if (!acceptNewName(name) || !confirmNewLayer(name))
             return;
@@ -120,7 +111,7 @@ void VnQtLaymchLayerDlg::slot_SureBtnClicked(bool)
 
 bool VnQtLaymchLayerDlg::isKnown(const QString& name) const
 {
-    const VnJsonPtr list = layers();
+    const VnJsonPtr list = layerlist::records(data());
     for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
         if (isSameName(vnutOdStringToQString(LayerRecord(list(i)).name()), name))
             return true;
@@ -132,15 +123,13 @@ bool VnQtLaymchLayerDlg::confirmNewLayer(const QString& name) const
 {
     const QString text =
         QStringLiteral("\n图层\"") + name + QStringLiteral("\"不存在。\n是否创建它？");
-    const VnJsonPtr answer = vnuiMessageBoxEx(L"是否创建图层？", vnutQStringToOdString(text),
-        ElementValue::createObject(2), kVnYesNo, 1, kVnIconQuestion);
-    return answer->GetDataI("ControlBtn") == kVnAnswerYes;
+    return layerlist::confirm(L"是否创建图层？", text, kVnYesNo, kVnAnswerYes);
 }
 
 /// The request for a new layer rides on the last record of the list, as commands expect it.
 void VnQtLaymchLayerDlg::markNewLayer(const QString& name)
 {
-    const VnJsonPtr list = layers();
+    const VnJsonPtr list = layerlist::records(data());
     LayerRecord last(list(list.ArrayCount() - 1));
     if (last.isNull() || vnutOdStringToQString(last.name()) == name)
         return;

@@ -26,7 +26,6 @@ private slots:
     void slot_HelpBtnClicked(bool checked);
 
 private:
-    VnJsonPtr layers() const;
     bool isKnown(const QString& name) const;
     bool confirmNewLayer(const QString& name) const;
     void markNewLayer(const QString& name);

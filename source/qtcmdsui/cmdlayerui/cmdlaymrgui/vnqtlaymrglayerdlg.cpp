@@ -17,16 +17,6 @@
 
 namespace vnsi {
 
-namespace {
-
-bool refuse(const wchar_t* text, const wchar_t* caption)
-{
-    vnuiMessageBox(text, caption, kVnOk);
-    return false;
-}
-
-} // namespace
-
 VnQtLaymrgLayerDlg::VnQtLaymrgLayerDlg(
     VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags)
     : VnQtModeDialogImpl(wrapper, parent, flags)
@@ -44,14 +34,9 @@ bool VnQtLaymrgLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
     return true;
 }
 
-VnJsonPtr VnQtLaymrgLayerDlg::layers() const
-{
-    return data() ? data()->GetDataJ(layerkey::kList) : VnJsonPtr();
-}
-
 void VnQtLaymrgLayerDlg::readTree()
 {
-    const VnJsonPtr list = layers();
+    const VnJsonPtr list = layerlist::records(data());
     const LayerRecord first(list(0));
     if (!m_list) // The layout stands for one of the modes, so the first tree decides.
         m_sourceMode = first.flag("IsFrom");
@@ -118,7 +103,7 @@ void VnQtLaymrgLayerDlg::slot_SureBtnClicked(bool)
     if (selected.isEmpty())
         return;
     if (m_sourceMode) {
-        layerlist::mark(layers(), selected, kLayerMergeSource);
+        layerlist::mark(layerlist::records(data()), selected, kLayerMergeSource);
     } else {
         const QString target = m_targetEdit->text();
         if (!acceptTarget(target))
@@ -134,18 +119,18 @@ void VnQtLaymrgLayerDlg::slot_SureBtnClicked(bool)
 bool VnQtLaymrgLayerDlg::acceptTarget(const QString& target) const
 {
     if (holdsForbiddenCharacter(target))
-        return refuse(L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:  \\<>/\":;?*|,=`",
+        return layerlist::refuse(L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:  \\<>/\":;?*|,=`",
             L"图层-不支持的字符");
     if (!m_names.contains(target))
-        return refuse(L"图层名无效", kProductName);
+        return layerlist::refuse(L"图层名无效", kProductName);
     if (target.isEmpty())
-        return refuse(L"\n\n图层名至少必须包含一个字符。", L"图层名无效。");
+        return layerlist::refuse(L"\n\n图层名至少必须包含一个字符。", L"图层名无效。");
     return true;
 }
 
 void VnQtLaymrgLayerDlg::markTarget(const QString& target)
 {
-    LayerRecord record(layers()(m_names.indexOf(target)));
+    LayerRecord record(layerlist::records(data())(m_names.indexOf(target)));
     record.setStatus(kLayerMergeTarget);
     record.markModifiedByAction();
 }
@@ -158,10 +143,8 @@ bool VnQtLaymrgLayerDlg::confirm(const QString& target) const
     const QString ending = m_blockReferences < 1
                                ? tr("。\n\n是否继续？")
                                : tr("。\n将重定义已合并图层中参照的所用块。\n\n是否继续？");
-    const VnJsonPtr answer = vnuiMessageBoxEx(L"合并到图层",
-        vnutQStringToOdString(what + QLatin1Char(' ') + target + ending),
-        ElementValue::createObject(2), kVnYesNo, 1, kVnIconQuestion);
-    return answer->GetDataI("ControlBtn") == kVnAnswerYes;
+    const QString text = what + QLatin1Char(' ') + target + ending;
+    return layerlist::confirm(L"合并到图层", text, kVnYesNo, kVnAnswerYes);
 }
 
 void VnQtLaymrgLayerDlg::slot_HelpBtnClicked(bool)

@@ -31,7 +31,6 @@ private:
     void readTree();
     void buildLayout();
     void fill();
-    VnJsonPtr layers() const;
     bool acceptTarget(const QString& target) const;
     void markTarget(const QString& target);
     bool confirm(const QString& target) const;
