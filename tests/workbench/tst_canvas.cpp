@@ -1,14 +1,10 @@
-#include "../drawing/tst_geometrysketch.h"
-#include "canvas.h"
+#include "canvasfixture.h"
 #include "rows.h"
 
 #include <QSignalSpy>
 #include <QWheelEvent>
-#include <QtTest>
 
 #include <cmath>
-
-using drawing::Layer;
 
 namespace {
 
@@ -38,21 +34,16 @@ void moveMouse(QWidget& widget, const QPointF& to, Qt::MouseButtons buttons)
 
 } // namespace
 
-class CanvasTest : public QObject
+class CanvasTest : public CanvasFixture
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_sketch = std::make_unique<Sketch>();
-        m_canvas = std::make_unique<Canvas>();
-        m_canvas->resize(400, 300);
-    }
+    void init() { start(); }
 
     void layersHideTheirPixels_data()
     {
-        const Rows<QByteArray, bool, QVector<int>> row("name", "frozen", "hidden");
+        const Rows<QString, bool, QVector<int>> row("name", "frozen", "hidden");
         row("off hides what is on it, in blocks too", "A", false, {0, 40});
         row("frozen hides the same", "A", true, {0, 40});
         row("off leaves what a reference holds on other layers", "B", false, {20, 60});
@@ -62,7 +53,7 @@ private slots:
 
     void layersHideTheirPixels()
     {
-        QFETCH(QByteArray, name);
+        QFETCH(QString, name);
         QFETCH(bool, frozen);
         QFETCH(QVector<int>, hidden);
         m_sketch->blocks = "0 BLOCK 8 0 2 U 70 0 10 0 20 0 " + fill("A", 40, 0, 10, 10) +
@@ -71,7 +62,7 @@ private slots:
              fill("0", 80, 0, 10, 10));
         const QImage before = picture();
 
-        (frozen ? layer(name).properties.frozen : layer(name).properties.off) = true;
+        (frozen ? layer(name).frozen : layer(name).off) = true;
         m_canvas->setLayers(m_layers);
         const QImage after = picture();
         for (int y = 0; y < before.height(); ++y) {
@@ -91,7 +82,7 @@ private slots:
                     qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
             }
         }
-        (frozen ? layer(name).properties.frozen : layer(name).properties.off) = false;
+        (frozen ? layer(name).frozen : layer(name).off) = false;
         m_canvas->setLayers(m_layers);
         QCOMPARE(picture(), before);
     }
@@ -100,16 +91,12 @@ private slots:
     {
         const Rows<QByteArray, QByteArray, QColor, QColor> row(
             "layers", "codes", "onBlack", "onWhite");
-        row("index 7 is the foreground", "A 62 7", QByteArray(), QColor(Qt::white),
-            QColor(Qt::black));
-        row("index of the layer", "A 62 1", QByteArray(), QColor(255, 0, 0), QColor(255, 0, 0));
-        row("its own index 7", "A 62 1", "62 7 ", QColor(Qt::white), QColor(Qt::black));
-        row("true white does not turn", "A 62 7 420 16777215", QByteArray(), QColor(Qt::white),
-            QColor(Qt::white));
-        row("red is the high byte", "A 62 7 420 16711680", QByteArray(), QColor(255, 0, 0),
-            QColor(255, 0, 0));
-        row("generated palette", "A 62 45", QByteArray(), QColor(127, 111, 63),
-            QColor(127, 111, 63));
+        row("index 7 is the foreground", "A 62 7", "", Qt::white, Qt::black);
+        row("index of the layer", "A 62 1", "", {255, 0, 0}, {255, 0, 0});
+        row("its own index 7", "A 62 1", "62 7 ", Qt::white, Qt::black);
+        row("true white does not turn", "A 62 7 420 16777215", "", Qt::white, Qt::white);
+        row("red is the high byte", "A 62 7 420 16711680", "", {255, 0, 0}, {255, 0, 0});
+        row("generated palette", "A 62 45", "", {127, 111, 63}, {127, 111, 63});
     }
 
     void colors()
@@ -126,38 +113,31 @@ private slots:
         QCOMPARE(spy.size(), 1);
         QCOMPARE(colorAt(5, 5), onWhite);
         QCOMPARE(picture().pixelColor(2, 2), QColor(Qt::white));
-        layer("A").properties.transparency = 50;
+        layer("A").transparency = 50;
         m_canvas->setLayers(m_layers);
         QVERIFY(std::abs(colorAt(5, 5).red() - (onWhite.red() + 255) / 2) <= 2);
     }
 
-    void laterFillsCoverEarlierOnes_data()
-    {
-        const Rows<QByteArray, QByteArray, QColor> row("first", "second", "top");
-        row("B over A", "A", "B", QColor(0, 0, 255));
-        row("A over B", "B", "A", QColor(255, 0, 0));
-    }
-
     void laterFillsCoverEarlierOnes()
     {
-        QFETCH(QByteArray, first);
-        QFETCH(QByteArray, second);
-        QFETCH(QColor, top);
         // Small ones first make both groups known in the same order.
-        show(fill("A", 0, 0, 1, 1) + fill("B", 2, 0, 1, 1) + fill(first, 0, 5, 10, 10) +
-             fill(second, 0, 5, 10, 10));
-        QCOMPARE(colorAt(5, 10), top);
+        const QByteArray small = fill("A", 0, 0, 1, 1) + fill("B", 2, 0, 1, 1);
+        const QByteArray a = fill("A", 0, 5, 10, 10), b = fill("B", 0, 5, 10, 10);
+        show(small + a + b);
+        QCOMPARE(colorAt(5, 10), QColor(0, 0, 255));
+        show(small + b + a);
+        QCOMPARE(colorAt(5, 10), QColor(255, 0, 0));
     }
 
     void textStandsAtItsPoint_data()
     {
         // The ink has to be in here, in drawing units around 50,50.
         const Rows<QByteArray, QRectF> row("codes", "ink");
-        row("to the right and above", QByteArray(), QRectF(50, 50, 50, 10));
-        row("right-aligned", "72 2 11 50 21 50", QRectF(0, 50, 50, 10));
-        row("centred, hanging", "72 1 73 3 11 50 21 50", QRectF(25, 40, 50, 10));
-        row("turned", "50 90", QRectF(40, 50, 10, 50));
-        row("squeezed", "72 5 11 60 21 50", QRectF(50, 50, 10, 10));
+        row("to the right and above", "", {50, 50, 50, 10});
+        row("right-aligned", "72 2 11 50 21 50", {0, 50, 50, 10});
+        row("centred, hanging", "72 1 73 3 11 50 21 50", {25, 40, 50, 10});
+        row("turned", "50 90", {40, 50, 10, 50});
+        row("squeezed", "72 5 11 60 21 50", {50, 50, 10, 10});
     }
 
     void textStandsAtItsPoint()
@@ -167,7 +147,7 @@ private slots:
         m_sketch->layers = "A 62 1;FRAME 62 1";
         show(fill("FRAME", 0, 0, 100, 1) + fill("FRAME", 0, 99, 100, 1) +
              "0 TEXT 8 A 10 50 20 50 40 10 1 HHH " + codes);
-        layer("FRAME").properties.off = true;
+        layer("FRAME").off = true;
         m_canvas->setLayers(m_layers);
         const QImage image = picture();
         const QRectF allowed =
@@ -184,42 +164,29 @@ private slots:
         QVERIFY(found > 50);
     }
 
-    void wheelKeepsThePointUnderTheCursor_data()
-    {
-        const Rows<QPointF, int> row("at", "notches");
-        row("in at a corner", QPointF(3, 290), 4);
-        row("out off the centre", QPointF(250, 60), -7);
-    }
-
     void wheelKeepsThePointUnderTheCursor()
     {
-        QFETCH(QPointF, at);
-        QFETCH(int, notches);
         show(fill("A", 1000000, 5, 10, 10));
-        const QPointF before = m_canvas->view().toDrawing(at);
-        const double scale = m_canvas->view().scale();
-        turnWheel(*m_canvas, at, notches);
-        QCOMPARE(m_canvas->view().scale() > scale, notches > 0);
-        const QPointF off = m_canvas->view().toScreen(before) - at;
-        QVERIFY(off.manhattanLength() < 1e-3);
-    }
-
-    void wheelHasEnds_data()
-    {
-        const Rows<int> row("notches");
-        row("in", 100000);
-        row("out", -100000);
+        const std::pair<QPointF, int> turns[] = {{{3, 290}, 4}, {{250, 60}, -7}};
+        for (const auto& [at, notches] : turns) {
+            const QPointF before = m_canvas->view().toDrawing(at);
+            const double scale = m_canvas->view().scale();
+            turnWheel(*m_canvas, at, notches);
+            QCOMPARE(m_canvas->view().scale() > scale, notches > 0);
+            QVERIFY((m_canvas->view().toScreen(before) - at).manhattanLength() < 1e-3);
+        }
     }
 
     void wheelHasEnds()
     {
-        QFETCH(int, notches);
         show(fill("A", 0, 0, 10, 10));
-        turnWheel(*m_canvas, {10, 10}, notches);
-        picture();
-        QVERIFY(m_canvas->view().scale() > 0 && std::isfinite(m_canvas->view().scale()));
-        m_canvas->zoomToExtents();
-        QCOMPARE(colorAt(5, 5), QColor(255, 0, 0));
+        for (const int notches : {100000, -100000}) {
+            turnWheel(*m_canvas, {10, 10}, notches);
+            picture();
+            QVERIFY(m_canvas->view().scale() > 0 && std::isfinite(m_canvas->view().scale()));
+            m_canvas->zoomToExtents();
+            QCOMPARE(colorAt(5, 5), QColor(255, 0, 0));
+        }
     }
 
     void middleButtonDragsTheDrawing()
@@ -240,13 +207,13 @@ private slots:
     void extents_data()
     {
         const Rows<QByteArray, QPointF, bool> row("entities", "center", "hideB");
-        row("all", fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10), QPointF(50, 5), false);
+        row("all", fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10), {50, 5}, false);
         row("hidden layers do not count", fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10),
-            QPointF(5, 5), true);
-        row("unless nothing else is there", fill("B", 90, 0, 10, 10), QPointF(95, 5), true);
-        row("one upright line", "0 LINE 8 A 10 5 20 0 11 5 21 8", QPointF(5, 4), false);
-        row("one point", "0 POINT 8 A 10 7 20 8", QPointF(7, 8), false);
-        row("nothing", QByteArray(), QPointF(0, 0), false);
+            {5, 5}, true);
+        row("unless nothing else is there", fill("B", 90, 0, 10, 10), {95, 5}, true);
+        row("one upright line", "0 LINE 8 A 10 5 20 0 11 5 21 8", {5, 4}, false);
+        row("one point", "0 POINT 8 A 10 7 20 8", {7, 8}, false);
+        row("nothing", "", {0, 0}, false);
     }
 
     void extents()
@@ -255,7 +222,7 @@ private slots:
         QFETCH(QPointF, center);
         QFETCH(bool, hideB);
         show(entities);
-        layer("B").properties.off = hideB;
+        layer("B").off = hideB;
         m_canvas->setLayers(m_layers);
         m_canvas->zoomToExtents();
         QCOMPARE(m_canvas->view().center(), center);
@@ -281,26 +248,6 @@ private slots:
     }
 
 private:
-    /// Shows the drawing in the canvas and lets go of it: from here on only layers change.
-    void show(const QByteArray& entities)
-    {
-        const auto drawing = m_sketch->open(entities);
-        QVERIFY(drawing);
-        m_layers = drawing->layers();
-        m_canvas->setScene(
-            std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*drawing).value()));
-        m_canvas->setLayers(m_layers);
-        m_canvas->zoomToExtents();
-    }
-
-    Layer& layer(const QByteArray& name)
-    {
-        return *std::find_if(m_layers.begin(), m_layers.end(), [&name](const Layer& candidate) {
-            return candidate.properties.name == QString::fromUtf8(name);
-        });
-    }
-
-    QImage picture() { return m_canvas->grab().toImage().convertToFormat(QImage::Format_RGB32); }
     QColor colorAt(double x, double y)
     {
         return picture().pixelColor(m_canvas->view().toScreen({x, y}).toPoint());
@@ -312,10 +259,6 @@ private:
             m_canvas->view().toScreen({x, y}), m_canvas->view().toScreen({x + width, y + height}))
             .normalized();
     }
-
-    std::unique_ptr<Sketch> m_sketch;
-    std::unique_ptr<Canvas> m_canvas;
-    std::vector<Layer> m_layers;
 };
 
 QTEST_MAIN(CanvasTest)

@@ -1,12 +1,9 @@
-#include "../drawing/tst_geometrysketch.h"
-#include "canvas.h"
+#include "canvasfixture.h"
 #include "rows.h"
 
 #include <QSignalSpy>
-#include <QtTest>
 
 using Selection = std::vector<int>;
-using drawing::Layer;
 
 Q_DECLARE_METATYPE(Selection)
 
@@ -31,23 +28,16 @@ enum Index { kLow = 2, kHigh, kReference, kFill, kOnFill, kText };
 } // namespace
 
 /// What clicks and windows on the canvas select.
-class SelectionTest : public QObject
+class SelectionTest : public CanvasFixture
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_sketch.blocks = kBlock;
-        const auto drawing = m_sketch.open(kEntities);
-        QVERIFY(drawing);
-        m_layers = drawing->layers();
-        m_canvas = std::make_unique<Canvas>();
-        m_canvas->resize(400, 300);
-        m_canvas->setScene(
-            std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*drawing).value()));
-        m_canvas->setLayers(m_layers);
-        m_canvas->zoomToExtents();
+        start();
+        m_sketch->blocks = kBlock;
+        show(kEntities);
     }
 
     void clicks_data()
@@ -184,30 +174,18 @@ private:
         move(to);
         QTest::mouseRelease(m_canvas.get(), Qt::LeftButton, modifier, to);
     }
-    Layer& layer(const QString& name)
-    {
-        return *std::find_if(m_layers.begin(), m_layers.end(),
-            [&name](const Layer& candidate) { return candidate.properties.name == name; });
-    }
     /// "A off", "B frozen", "A locked"; empty for nothing.
     void changeLayer(const QString& change)
     {
         const QString what = change.section(QLatin1Char(' '), 1);
         if (what.isEmpty())
             return;
-        drawing::LayerProperties& properties =
-            layer(change.section(QLatin1Char(' '), 0, 0)).properties;
+        drawing::LayerProperties& properties = layer(change.section(QLatin1Char(' '), 0, 0));
         properties.off = what == QLatin1String("off");
         properties.frozen = what == QLatin1String("frozen");
         properties.locked = what == QLatin1String("locked");
         m_canvas->setLayers(m_layers);
     }
-
-    QImage picture() { return m_canvas->grab().toImage(); }
-
-    Sketch m_sketch;
-    std::unique_ptr<Canvas> m_canvas;
-    std::vector<Layer> m_layers;
 };
 
 QTEST_MAIN(SelectionTest)

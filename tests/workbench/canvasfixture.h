@@ -1,0 +1,46 @@
+#pragma once
+
+#include "../drawing/tst_geometrysketch.h"
+#include "canvas.h"
+
+#include <QtTest>
+
+#include <algorithm>
+#include <memory>
+
+/// A canvas of 400 by 300 pixels and what is sketched for it.
+class CanvasFixture : public QObject
+{
+protected:
+    void start()
+    {
+        m_sketch = std::make_unique<Sketch>();
+        m_canvas = std::make_unique<Canvas>();
+        m_canvas->resize(400, 300);
+    }
+
+    /// Shows the drawing in the canvas and lets go of it: from here on only layers change.
+    void show(const QByteArray& entities)
+    {
+        const auto drawing = m_sketch->open(entities);
+        QVERIFY(drawing);
+        m_layers = drawing->layers();
+        m_canvas->setScene(
+            std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*drawing).value()));
+        m_canvas->setLayers(m_layers);
+        m_canvas->zoomToExtents();
+    }
+
+    drawing::LayerProperties& layer(const QString& name)
+    {
+        return std::find_if(m_layers.begin(), m_layers.end(), [&name](const auto& candidate) {
+            return candidate.properties.name == name;
+        })->properties;
+    }
+
+    QImage picture() { return m_canvas->grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+    std::unique_ptr<Sketch> m_sketch;
+    std::unique_ptr<Canvas> m_canvas;
+    std::vector<drawing::Layer> m_layers;
+};
