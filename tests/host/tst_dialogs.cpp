@@ -4,7 +4,6 @@
 #include "hostwindows.h"
 #include "modaldriver.h"
 #include "recordinghost.h"
-#include "recordinginvoker.h"
 #include "rows.h"
 #include "trees.h"
 #include "vneditprimitive.h"
@@ -63,7 +62,7 @@ private slots:
     {
         QFETCH(OdString, service);
         QFETCH(OdString, dialog);
-        const VnJsonPtr keys = tree("{\"result\":1}");
+        const VnJsonPtr keys = tree(R"({"result":1})");
         QVERIFY(vnsi::vnuiShowModelDialogEx(service, dialog, keys, {}, nullptr) == keys);
         QCOMPARE(keys->GetDataI("result", -1), 0);
         QCOMPARE(vnsi::vnuiShowModelDialog(service, dialog, {})->GetDataI("result", -1), 0);
@@ -83,17 +82,16 @@ private slots:
     {
         const Rows<QString, QString, bool, QString, QString> row(
             "keys", "typed", "accepts", "labels", "answers");
-        row("typed over", "{\"DefaultName\":\"墙\"}", "门", true, "重命名|名称(&N):|墙",
-            "{\"DefaultName\":\"墙\",\"NewName\":\"门\",\"Success\":true,"
-            "\"result\":1}");
-        row("kept", "{\"DefaultName\":\" a \"}", "", true, "重命名|名称(&N):| a ",
-            "{\"DefaultName\":\" a \",\"NewName\":\" a \",\"Success\":true,"
-            "\"result\":1}");
-        row("cancelled", "{\"DefaultName\":\"a\"}", "b", false, "重命名|名称(&N):|a",
-            "{\"DefaultName\":\"a\",\"Success\":false,\"result\":2}");
-        row("description, nothing checked", "{\"Tip\":\"说明(&D):\"}", "<>/*", true,
-            "说明|说明(&D):|",
-            "{\"NewName\":\"<>/*\",\"Success\":true,\"Tip\":\"说明(&D):\",\"result\":1}");
+        row("typed over", R"({"DefaultName":"墙"})", "门", true, "重命名|名称(&N):|墙",
+            R"({"DefaultName":"墙","NewName":"门","Success":true,)"
+            R"("result":1})");
+        row("kept", R"({"DefaultName":" a "})", "", true, "重命名|名称(&N):| a ",
+            R"({"DefaultName":" a ","NewName":" a ","Success":true,)"
+            R"("result":1})");
+        row("cancelled", R"({"DefaultName":"a"})", "b", false, "重命名|名称(&N):|a",
+            R"({"DefaultName":"a","Success":false,"result":2})");
+        row("description, nothing checked", R"({"Tip":"说明(&D):"})", "<>|*", true,
+            "说明|说明(&D):|", R"({"NewName":"<>|*","Success":true,"Tip":"说明(&D):","result":1})");
     }
 
     void renames()
@@ -142,10 +140,10 @@ private slots:
         // Seen are title, for opening, several files, selected filter, suffix.
         const Rows<QString, QString> row("keys", "seen");
         row("layer-state export",
-            "{\"caption\":\"输出图层状态\",\"Open\":false,\"MutiFile\":false,"
+            R"({"caption":"输出图层状态","Open":false,"MutiFile":false,)"
             "\"filter\":\"图层状态(*.las)\",\"defFilter\":\"图层状态(*.las)\"}",
             "输出图层状态|0|0|图层状态(*.las)|las");
-        row("title before caption", "{\"title\":\"t\",\"caption\":\"c\"}", "t|1|0|所有文件 (*)|");
+        row("title before caption", R"({"title":"t","caption":"c"})", "t|1|0|所有文件 (*)|");
         row("several to open",
             "{\"title\":\"t\",\"Open\":true,\"MutiFile\":true,\"filter\":\"A(*.a);;B(*.b)\","
             "\"defFilter\":\"B(*.b)\"}",
@@ -154,7 +152,7 @@ private slots:
             "t|0|0|A(*.a)|a");
         row("opened in spite of the flag",
             "{\"title\":\"t\",\"flags\":1,\"Open\":true,\"filter\":\"A(*.a)\"}", "t|1|0|A(*.a)|");
-        row("keys of other types", "{\"title\":1,\"filter\":true,\"dir\":{},\"Open\":5}",
+        row("keys of other types", R"({"title":1,"filter":true,"dir":{},"Open":5})",
             "选择文件|1|0|所有文件 (*)|");
     }
 
@@ -181,7 +179,7 @@ private slots:
     void answersWithPaths()
     {
         const QTemporaryDir folder;
-        const QString keys = QStringLiteral("{\"dir\":\"%1\",\"defawlt\":\"状态\",\"Open\":false,"
+        const QString keys = QStringLiteral(R"({"dir":"%1","defawlt":"状态","Open":false,)"
                                             "\"filter\":\"S(*.las)\",\"filePaths\":[\"stale\"]}")
                                  .arg(folder.path());
         ModalDriver driver;
@@ -201,7 +199,7 @@ private slots:
             dialog.accept();
         });
         answer = showFile(
-            QStringLiteral("{\"dir\":\"%1\",\"Open\":true,\"MutiFile\":true}").arg(folder.path()));
+            QStringLiteral(R"({"dir":"%1","Open":true,"MutiFile":true})").arg(folder.path()));
         QCOMPARE(answer->GetDataJ("filePaths").ArrayCount(), 2);
         QCOMPARE(QString::fromUtf8(answer->GetDataS("filePath").c_str()), folder.filePath("a.dws"));
     }
@@ -240,23 +238,6 @@ private slots:
             dialog.reject();
         });
         showRename({});
-    }
-
-    void recordsInOrder()
-    {
-        RecordingHost user;
-        user.answer(1, "{\"selectClr\":3,\"list\":[1]}");
-        const auto command = RecordingInvoker::create(
-            user, {"a"}, [](const VnJsonPtr& node) { node->SetDataB("IsExistBlock", true); });
-        const VnJsonPtr keys = tree("{\"a\":1,\"b\":2,\"marker\":6}");
-        command->invoke(keys);
-        const VnJsonPtr answer = vnsi::vnuiShowModelDialog(L"S", L"D", keys);
-        QCOMPARE(answer->GetDataI("selectClr"), 3);
-        QCOMPARE(answer->GetDataI("result"), 1);
-        QVERIFY(answer->GetDataB("IsExistBlock"));
-        QCOMPARE(user.takeLog(),
-            (QStringList{"request|6|-1|{\"a\":1}",
-                "dialog|S|D|{\"IsExistBlock\":true,\"a\":1,\"b\":2,\"marker\":6}"}));
     }
 
     void saysWhyAModuleCannotBeLoaded()

@@ -56,8 +56,8 @@ private slots:
         const Rows<int, QString, int, QStringList, QList<int>> row(
             "style", "options", "icon", "buttons", "answers");
         const QString none = "{}";
-        const QString four = QString::fromUtf8(
-            "{\"btnText\":{\"0\":\"是\",\"1\":\"全部删除\",\"2\":\"否\",\"3\":\"取消\"}}");
+        const QString four =
+            QString::fromUtf8(R"({"btnText":{"0":"是","1":"全部删除","2":"否","3":"取消"}})");
         const QString close = QString::fromUtf8("{\"btnText\":{\"0\":\"关闭(&C)\"}}");
         const QStringList ok{"确定"}, okCancel{"确定", "取消"}, yesNo{"是(&Y)", "否(&N)"};
         row("plain", 0, none, QMessageBox::NoIcon, ok, {1, 1});

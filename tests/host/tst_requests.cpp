@@ -67,19 +67,13 @@ private slots:
         QCOMPARE(proxy()->serviceReply(), static_cast<int>(vnsi::kVnRequestDone));
     }
 
-    void refusesOtherObjects_data()
-    {
-        const Rows<bool> row("isNull");
-        row("null", true);
-        row("document", false);
-    }
-
     void refusesOtherObjects()
     {
-        QFETCH(bool, isNull);
-        const OdRxObjectPtr other = isNull ? OdRxObjectPtr() : OdRxObjectPtr(host::makeDocument());
-        QVERIFY_EXCEPTION_THROWN(proxy()->post(L"proxyRequest", other), OdError_NotThatKindOfClass);
-        QVERIFY_EXCEPTION_THROWN(proxy()->post(L"other", other), OdError);
+        for (const OdRxObjectPtr& other : {OdRxObjectPtr(), OdRxObjectPtr(host::makeDocument())}) {
+            QVERIFY_EXCEPTION_THROWN(
+                proxy()->post(L"proxyRequest", other), OdError_NotThatKindOfClass);
+            QVERIFY_EXCEPTION_THROWN(proxy()->post(L"other", other), OdError);
+        }
     }
 
     void endsWaitingWhenTheWorkThrows()

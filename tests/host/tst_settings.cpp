@@ -46,7 +46,7 @@ private slots:
         section->SetDataB("RecoverBoxChecked", true);
         QCOMPARE(contents(path("table_dialog.json")), QByteArray("no file"));
         vnsi::vnuiShowModelDialog(L"no such service", L"dialog", {});
-        QCOMPARE(contents(path("table_dialog.json")), QByteArray("{\"RecoverBoxChecked\":true}"));
+        QCOMPARE(contents(path("table_dialog.json")), QByteArray(R"({"RecoverBoxChecked":true})"));
 
         host::setSettingsFolder(m_folder->path());
         QVERIFY(vnsi::vn_user_config(L"table_dialog")->GetDataB("RecoverBoxChecked"));
@@ -59,8 +59,8 @@ private slots:
     void setsUnreadableFilesAside_data()
     {
         const Rows<QByteArray> row("bytes");
-        row("cut off", "{\"a\":1");
-        row("empty", QByteArray());
+        row("cut off", R"({"a":1)");
+        row("empty", "");
         row("no object", "[1]");
         row("binary", QByteArray("\x00\xFF\xFE", 3));
     }
@@ -75,7 +75,7 @@ private slots:
         QCOMPARE(contents(path("s.json.bad")), bytes);
         section->SetDataI("a", 2);
         QVERIFY(host::saveSettings());
-        QCOMPARE(contents(path("s.json")), QByteArray("{\"a\":2}"));
+        QCOMPARE(contents(path("s.json")), QByteArray(R"({"a":2})"));
         QCOMPARE(contents(path("s.json.bad")), bytes);
     }
 

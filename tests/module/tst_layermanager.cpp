@@ -63,14 +63,13 @@ private slots:
         row("0, Defpoints and an empty one", {"0|", "dEFPOINTS|", "A|"},
             {kept.arg("0"), kept.arg("dEFPOINTS"), marked.arg("A")}, 2);
         row("used", {R"(A|,"Used":true)", "B|"},
-            {R"({"CurLayer":1,"LayerName":"A","Selected":true,)"
-             R"("Used":true})",
-                marked.arg("B")},
-            1);
+            {R"({"CurLayer":1,"LayerName":"A","Selected":true,"Used":true})", marked.arg("B")}, 1);
         row("of a reference", {R"(x$A|,"bDepend":true)"},
             {R"({"CurLayer":1,"LayerName":"x$A","Selected":true,"bDepend":true})"}, 1);
         row("looks like 0", {"00|"}, {marked.arg("00")}, 0);
         row("deleted before, without a mark", {R"(A|,"CurLayer":2)"}, {kept.arg("A")}, 0);
+        row("deleted before", {R"(A|,"CurLayer":2,"Modified":1)"},
+            {R"({"CurLayer":1,"LayerName":"A","Modified":1,"Selected":true})"}, 0);
     }
 
     void deletesSelected()
@@ -103,37 +102,18 @@ private slots:
         QCOMPARE(manager.selectedRows(), rows);
     }
 
-    void deletingTwiceRestores()
-    {
-        ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
-        manager.select({1});
-        manager.press("deleteLayerButton");
-        manager.press("deleteLayerButton");
-        QCOMPARE(manager.recordText(1),
-            QStringLiteral(R"({"CurLayer":1,"LayerName":"A","Modified":1,"Selected":true})"));
-        manager.host.answer(7);
-        manager.press("cancelButton"); // The mark as a number counts as a change.
-        QCOMPARE(manager.host.log(), (QStringList{request(1), request(1), kSave}));
-    }
-
-    void deletesByKey_data()
-    {
-        const Rows<QByteArray> row("focused");
-        row("in the table", "layerTable");
-        row("on a button", "okButton");
-    }
-
     void deletesByKey()
     {
-        QFETCH(QByteArray, focused);
-        ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
-        manager.select({0, 1});
-        auto* const widget = ModuleFixture::child<QWidget>(manager.dialog, focused.constData());
-        widget->setFocus();
-        typeKey(widget, Qt::Key_Delete, "\x7f");
-        QCOMPARE(manager.host.log(), (QStringList{refusal(1, 2), request(1)}));
-        QVERIFY(manager.shows(1, 0, "deleted"));
-        QCOMPARE(manager.table->currentRow(), 1); // The keyboard goes on from here.
+        for (const char* focused : {"layerTable", "okButton"}) {
+            ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
+            manager.select({0, 1});
+            auto* const widget = ModuleFixture::child<QWidget>(manager.dialog, focused);
+            widget->setFocus();
+            typeKey(widget, Qt::Key_Delete, "\x7f");
+            QCOMPARE(manager.host.log(), (QStringList{refusal(1, 2), request(1)}));
+            QVERIFY(manager.shows(1, 0, "deleted"));
+            QCOMPARE(manager.table->currentRow(), 1); // The keyboard goes on from here.
+        }
     }
 
     void deletesNothingUnselected()
@@ -386,6 +366,7 @@ private slots:
         row("Cancel, nothing modified", "cancelButton", R"({"Modified":false})", 0, "", 0);
         row("Cancel, mark of another type", "cancelButton", R"({"Modified":"x"})", 0, "", 0);
         row("Cancel, saved", "cancelButton", R"({"Modified":true})", 6, kSave + ("#" + apply), 0);
+        row("Cancel, mark as a number", "cancelButton", R"({"Modified":1})", 7, kSave, 0);
         row("Cancel, not saved", "cancelButton", R"({"Modified":true})", 7, kSave, 0);
         row("Esc", "", R"({"Modified":true})", 0, "", 0);
     }

@@ -77,15 +77,6 @@ private slots:
         QCOMPARE(driver.root->GetDataJ("LayerList")(0)->GetDataI("CurLayer"), 4);
     }
 
-    void isLaidOut()
-    {
-        const ListDriver driver(m_module, kName, kLayers);
-        QCOMPARE(driver.dialog->widget()->windowTitle(), QStringLiteral("更改到图层"));
-        QCOMPARE(driver.dialog->widget()->minimumWidth(), 400);
-        QCOMPARE(driver.edit()->focusPolicy(), Qt::ClickFocus);
-        QCOMPARE(driver.list->selectionMode(), QAbstractItemView::SingleSelection);
-    }
-
     void createsWithoutAnyRecord()
     {
         ListDriver driver(m_module, kName, R"({"LayerList":[]})");

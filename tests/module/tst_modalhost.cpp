@@ -46,10 +46,16 @@ public:
     void endDialog(int code) override { VnQtModeDialog<T>::endDialog(code + 20); }
 };
 
-template <class Wrapper>
+template <class Wrapper = VnQtModeDialog<Probe>>
+VnUiModeDialogBasePtr makeUnbuilt()
+{
+    return VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
+}
+
+template <class Wrapper = VnQtModeDialog<Probe>>
 VnUiModeDialogBasePtr make()
 {
-    VnUiModeDialogBasePtr made = VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
+    VnUiModeDialogBasePtr made = makeUnbuilt<Wrapper>();
     made->createDialog(nullptr, 0, "probe");
     return made;
 }
@@ -98,7 +104,7 @@ private slots:
     void endsWithResult()
     {
         QFETCH(ModalDriver::Step, step);
-        const auto dialog = make<VnQtModeDialog<Probe>>();
+        const auto dialog = make();
         for (int run = 0; run < 2; ++run) { // What the first run left must not count.
             ModalDriver user;
             user.then(step);
@@ -120,7 +126,7 @@ private slots:
 
     void showsAgain()
     {
-        const auto dialog = make<VnQtModeDialog<Probe>>();
+        const auto dialog = make();
         ModalDriver user;
         const auto again = [](QDialog& d) {
             static_cast<Probe&>(d).host().reshow();
@@ -134,8 +140,7 @@ private slots:
 
     void buildsOnce()
     {
-        const VnUiModeDialogBasePtr dialog =
-            VnQtRxObjectImpl<VnQtModeDialog<Probe>, VnQtModeDialog<Probe>>::createObject();
+        const VnUiModeDialogBasePtr dialog = makeUnbuilt();
         QCOMPARE(dialog->doModal(), -1); // Nothing to run yet.
         QCOMPARE(dialog->setData(ElementValue::createObject(2), {}), 0);
         QVERIFY(dialog->createDialog(nullptr, 0, "first"));
@@ -154,16 +159,14 @@ private slots:
     void failsWhenItCannotBeBuilt()
     {
         canBuild = false;
-        const VnUiModeDialogBasePtr dialog =
-            VnQtRxObjectImpl<VnQtModeDialog<Probe>, VnQtModeDialog<Probe>>::createObject();
+        const VnUiModeDialogBasePtr dialog = makeUnbuilt();
         QVERIFY(!dialog->createDialog(nullptr, 0, nullptr));
     }
 
     void survivesItsParent()
     {
         auto parent = std::make_unique<QWidget>();
-        VnUiModeDialogBasePtr dialog =
-            VnQtRxObjectImpl<VnQtModeDialog<Probe>, VnQtModeDialog<Probe>>::createObject();
+        VnUiModeDialogBasePtr dialog = makeUnbuilt();
         dialog->createDialog(parent.get(), 0, "child");
         parent.reset();
         QVERIFY(!dialog->widget());
@@ -173,7 +176,7 @@ private slots:
 
     void isDeletedOnUiThread()
     {
-        auto dialog = make<VnQtModeDialog<Probe>>();
+        auto dialog = make();
         auto second = dialog;
         dialog = {};
         QVERIFY(!deletedOn);
@@ -184,7 +187,7 @@ private slots:
     void isDeletedOnUiThreadFromCommand()
     {
         const host::CommandScope command;
-        VnUiModeDialogBase* const dialog = make<VnQtModeDialog<Probe>>().detach();
+        VnUiModeDialogBase* const dialog = make().detach();
         bool isGoneAfterwards = false;
         const std::unique_ptr<QThread> thread(QThread::create([&] {
             dialog->release();
@@ -199,7 +202,7 @@ private slots:
 
     void isLeftAliveWithoutCommand()
     {
-        VnUiModeDialogBase* const dialog = make<VnQtModeDialog<Probe>>().detach();
+        VnUiModeDialogBase* const dialog = make().detach();
         const std::unique_ptr<QThread> thread(QThread::create([&] { dialog->release(); }));
         thread->start();
         QVERIFY(thread->wait());

@@ -34,9 +34,6 @@ private slots:
         ManagerDriver manager(m_module, layerTree({layer("0", 0, R"(,"Transparency":35)")}));
         ModalDriver user;
         user.then([&](QDialog& dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("图层透明度"));
-            QCOMPARE(dialog.minimumWidth(), 265);
-            QVERIFY(!dialog.parent());
             auto* const value = ModuleFixture::child<QComboBox>(&dialog, "transparencyValue");
             QCOMPARE(value->currentText(), QStringLiteral("35"));
             value->lineEdit()->selectAll();
@@ -44,9 +41,12 @@ private slots:
                 QTest::keyClicks(value->lineEdit(), typed);
             QTest::keyClick(value->lineEdit(), Qt::Key_Return);
             QCOMPARE(dialog.isVisible(), stored < 0);
-            QCOMPARE(value->count(), 10); // What is typed is not offered.
+            QStringList offered; // What is typed is not.
+            for (int i = 0; i < value->count(); ++i)
+                offered.append(value->itemText(i));
+            QCOMPARE(offered.join(' '), QString("0 10 20 30 40 50 60 70 80 90"));
             if (stored < 0)
-                dialog.reject();
+                ModuleFixture::child<QPushButton>(&dialog, "cancelButton")->click();
         });
         manager.click(0, 8);
 
@@ -58,23 +58,6 @@ private slots:
         QCOMPARE(manager.text(0, 8), QString::number(stored < 0 ? 35 : stored));
         QVERIFY(manager.record(0)->GetDataB("Modified")); // Also when cancelled.
         QVERIFY(manager.isApplyEnabled());
-    }
-
-    void offersTensAndCancels()
-    {
-        ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
-        ModalDriver user;
-        user.then([](QDialog& dialog) {
-            auto* const value = ModuleFixture::child<QComboBox>(&dialog, "transparencyValue");
-            QStringList offered;
-            for (int i = 0; i < value->count(); ++i)
-                offered.append(value->itemText(i));
-            QCOMPARE(offered.join(' '), QStringLiteral("0 10 20 30 40 50 60 70 80 90"));
-            value->setEditText("50");
-            ModuleFixture::child<QPushButton>(&dialog, "cancelButton")->click();
-        });
-        manager.click(0, 8);
-        QVERIFY(!manager.record(0)->HasKey("Transparency"));
     }
 
 private:
