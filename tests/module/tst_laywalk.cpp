@@ -197,6 +197,8 @@ private slots:
         row("release all turns off what is not selected", {"click 1", "releaseAllAction"},
             {"4 0: -+-*--", "4: -+----"}, ".#....");
         row("select all", {"selectAllAction"}, {"4: C++*++"}, "######");
+        row("select all, beyond the filter", {"type ice", "enter", "selectAllAction"},
+            {"4: c--*+-", "4: C++*++"}, "#");
         row("clear all leaves the star on", {"clearAllAction"}, {"4: c--*--"}, "......");
         row("reverse", {"reverseAction"}, {"4: c-+*++"}, "..#.##");
         row("unreferenced are selected, not shown", {"selectUnusedAction"}, {}, "..#..#");

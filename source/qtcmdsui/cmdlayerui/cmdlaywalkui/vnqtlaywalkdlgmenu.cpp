@@ -143,12 +143,12 @@ void VnQtLayWalkDlg::slot_ReleaseSelAllActionTriggered()
     apply();
 }
 
-/// The rows are all layers, or those that the filter lets through.
+/// Turns every layer on, also those that a filter keeps out of the list.
 void VnQtLayWalkDlg::slot_SelAllActionTriggered()
 {
     m_list->selectRows(Rows(m_rows.size(), true));
-    for (const int index : m_rows)
-        m_layers.setOff(index, false);
+    for (int i = 0; i < m_layers.count(); ++i)
+        m_layers.setOff(i, false);
     apply();
 }
 
