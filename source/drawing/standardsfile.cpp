@@ -83,6 +83,9 @@ Expected<void> StandardWriter::putTarget(const TargetLayer& target)
         return {};
     }
     m_put.insert(key, target);
+    if (isNamedPlotStyle(target.plotStyle) && !m_drawing.hasNamedPlotStyles())
+        m_notices += tr("文件中的打印样式由颜色决定：没有保存图层“%1”的打印样式“%2”。")
+                         .arg(target.name, target.plotStyle);
     if (const Layer* layer = m_drawing.findLayer(target.name.trimmed()))
         return m_layers.change(layer->id, target);
     return m_layers.add(target, {}).map([](LayerId) {});
@@ -138,8 +141,8 @@ Expected<Standard> readStandard(const QString& path)
             standard.layers.end());
     if (std::all_of(standard.layers.begin(), standard.layers.end(), isEverywhere) &&
         standard.mappings.empty())
-        return tl::make_unexpected(Error{
-            tr("文件“%1”除图层 0 外没有图层，不能作为图层标准。").arg(QDir::toNativeSeparators(path)),
+        return tl::make_unexpected(Error{tr("文件“%1”除图层 0 外没有图层，不能作为图层标准。")
+                                             .arg(QDir::toNativeSeparators(path)),
             0, false});
     return standard;
 }

@@ -13,13 +13,12 @@ QString tr(const char* text)
     return QCoreApplication::translate("drawing", text);
 }
 
-/// Styles that follow from the colour are no names to look for.
+} // namespace
+
 bool isNamedPlotStyle(const QString& style)
 {
     return !style.isEmpty() && !style.startsWith(QLatin1String("Color_"), Qt::CaseInsensitive);
 }
-
-} // namespace
 
 QString nameKey(const QString& name)
 {

@@ -33,6 +33,9 @@ private:
 /// A key for names of layers and linetypes, which compare without regard to letter case.
 QString nameKey(const QString& name);
 
+/// False for styles that follow from the colour: these are no names to look for.
+bool isNamedPlotStyle(const QString& style);
+
 /// Whether two targets of one name say the same of it.
 bool isSameTarget(const TargetLayer& a, const TargetLayer& b);
 

@@ -92,6 +92,7 @@ QStringList totalsTable(const Outcomes& outcomes)
         {tr("已转换"), totals.translated},
         {tr("已跳过"), totals.skipped},
         {tr("失败"), totals.failed},
+        {tr("因中断未处理"), totals.cancelled},
         {tr("已执行的映射"), totals.applied},
         {tr("未执行的映射"), totals.leftOut},
         {tr("已转换的对象"), totals.moved},

@@ -9,7 +9,9 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLibraryInfo>
 #include <QTextCodec>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -33,10 +35,10 @@ int finish(const Outcomes& outcomes, const QString& report)
     say({});
     for (const QString& line : totalsTable(outcomes))
         say(line);
-    int code = Totals::of(outcomes).failed > 0 ? SomeFailed : Fine;
+    const int code = Totals::of(outcomes).isComplete() ? Fine : SomeFailed;
     if (report.isEmpty())
         return code;
-    if (const auto written = writeReport(report, outcomes); !written)
+    if (const auto written = writeReport(report, withEarlier(outcomes, report)); !written)
         return fail(SomeFailed, written.error());
     return code;
 }
@@ -100,6 +102,10 @@ int main(int argc, char** argv)
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication::setApplicationName(QStringLiteral("layertrans"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LAYERTRANS_VERSION));
+    QTranslator translator;
+    if (translator.load(
+            QStringLiteral("qtbase_zh_CN"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
     const auto options = parseOptions(QCoreApplication::arguments());
     if (!options) {
         const QByteArray text = options.error().text.toUtf8();

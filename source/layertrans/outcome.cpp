@@ -114,11 +114,12 @@ Totals Totals::of(const Outcomes& outcomes)
         ++totals.drawings;
         totals.translated += outcome.status == Outcome::Status::Translated ? 1 : 0;
         totals.skipped += outcome.status == Outcome::Status::Skipped ? 1 : 0;
+        totals.failed += outcome.status == Outcome::Status::Failed ? 1 : 0;
+        totals.cancelled += outcome.status == Outcome::Status::Cancelled ? 1 : 0;
         totals.applied += outcome.applied;
         totals.leftOut += outcome.leftOut;
         totals.moved += outcome.moved;
         totals.untouched += outcome.untouched;
     }
-    totals.failed = totals.drawings - totals.translated - totals.skipped;
     return totals;
 }

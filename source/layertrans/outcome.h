@@ -50,11 +50,13 @@ struct Totals
     int drawings = 0;
     int translated = 0;
     int skipped = 0;
-    int failed = 0; ///< Those cut short by an interruption included.
+    int failed = 0;
+    int cancelled = 0; ///< An interruption came before or while they were done.
     qint64 applied = 0;
     qint64 leftOut = 0;
     qint64 moved = 0;
     qint64 untouched = 0;
 
     static Totals of(const Outcomes& outcomes);
+    bool isComplete() const { return failed == 0 && cancelled == 0; }
 };

@@ -110,6 +110,21 @@ tl::expected<Outcomes, QString> readReport(const QString& path)
     return outcomes;
 }
 
+Outcomes withEarlier(Outcomes outcomes, const QString& path)
+{
+    const auto earlier = readReport(path);
+    QHash<QString, Outcome> translated; // By output.
+    for (const Outcome& outcome : earlier.value_or(Outcomes())) {
+        if (outcome.status == Outcome::Status::Translated)
+            translated.insert(outcome.output, outcome);
+    }
+    for (Outcome& outcome : outcomes) {
+        if (outcome.status == Outcome::Status::Skipped)
+            outcome = translated.value(outcome.output, outcome);
+    }
+    return outcomes;
+}
+
 Outcomes merged(const std::vector<Outcomes>& reports)
 {
     Outcomes all;

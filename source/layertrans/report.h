@@ -12,6 +12,10 @@ tl::expected<void, QString> writeReport(const QString& path, const Outcomes& out
 
 tl::expected<Outcomes, QString> readReport(const QString& path);
 
+/// These outcomes, but of drawings that were only skipped what the report at `path` says, where
+/// there is one: a run that is repeated finds most of them done.
+Outcomes withEarlier(Outcomes outcomes, const QString& path);
+
 /// Puts reports together, a row a drawing. Of several the later one counts, but a drawing that was
 /// only skipped keeps what an earlier report says of it.
 Outcomes merged(const std::vector<Outcomes>& reports);

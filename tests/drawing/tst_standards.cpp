@@ -115,9 +115,11 @@ void TestStandards::savedAgain()
     QCOMPARE(names(*standard).join(QLatin1Char(' ')), QStringLiteral("A B2 a>A b>B2"));
 
     // An edited mapping replaces; what is not saved any more goes, its layer stays.
-    const auto notices = saveStandard(path, {{QStringLiteral("A"), plain(QStringLiteral("0"), 6)}});
-    QCOMPARE(
-        notices->join(QString()), QStringLiteral("文件中原有的 1 条其他映射已被现在的映射取代。"));
+    TargetLayer zero = plain(QStringLiteral("0"), 6);
+    zero.plotStyle = QStringLiteral("Half");
+    const auto notices = saveStandard(path, {{QStringLiteral("A"), zero}});
+    QCOMPARE(*notices, QStringList({"文件中的打印样式由颜色决定：没有保存图层“0”的打印样式“Half”。",
+                           "文件中原有的 1 条其他映射已被现在的映射取代。"}));
     standard = readStandard(path);
     QCOMPARE(names(*standard).join(QLatin1Char(' ')), QStringLiteral("0 A B2 A>0"));
     QCOMPARE(standard->layers.at(0).colorIndex, 6);
