@@ -209,8 +209,14 @@ QByteArray DrawingWriter::write(qint64 size)
 
 bool writeDrawing(const QString& path, int megabytes)
 {
-    constexpr qint64 kMegabyte = 1000000;
-    const QByteArray text = DrawingWriter().write(megabytes * kMegabyte);
+    constexpr int kKilobytes = 1000;
+    return writeSmallDrawing(path, megabytes * kKilobytes);
+}
+
+bool writeSmallDrawing(const QString& path, int kilobytes)
+{
+    constexpr qint64 kKilobyte = 1000;
+    const QByteArray text = DrawingWriter().write(kilobytes * kKilobyte);
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }

@@ -16,6 +16,8 @@ std::vector<Row> dialogRows();
 std::vector<Row> deleteDialogRows();
 /// Mapping layers of the same name in the layer translator.
 std::vector<Row> translatorRows();
+/// Translating many drawings, which are generated in `folder`, with the batch program.
+std::vector<Row> batchRows(const QString& folder);
 /// Clicking and filtering in the layer walk, and the canvas that follows; the drawing for it is
 /// generated in `folder`.
 std::vector<Row> walkRows(const QString& folder);
