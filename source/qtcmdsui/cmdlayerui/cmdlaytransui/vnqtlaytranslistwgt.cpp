@@ -28,10 +28,10 @@ struct MappingColumn
 constexpr MappingColumn kColumns[] = {
     {QT_TR_NOOP("旧图层名"), 150, nullptr},
     {QT_TR_NOOP("新图层名"), 150, &TargetRecord::name},
-    {QT_TR_NOOP("颜色"), 120, &TargetRecord::colorText},
-    {QT_TR_NOOP("线型"), 100, &TargetRecord::linetype},
-    {QT_TR_NOOP("线宽"), 80, &TargetRecord::lineWidthText},
-    {QT_TR_NOOP("透明度"), 60, &TargetRecord::transparencyText},
+    {QT_TR_NOOP("颜色"), 150, &TargetRecord::colorText},
+    {QT_TR_NOOP("线型"), 120, &TargetRecord::linetype},
+    {QT_TR_NOOP("线宽"), 95, &TargetRecord::lineWidthText},
+    {QT_TR_NOOP("透明度"), 70, &TargetRecord::transparencyText},
     {QT_TR_NOOP("打印样式"), 90, &TargetRecord::plotStyle},
 };
 
@@ -132,6 +132,7 @@ VnQtLaytransQTableWgt::VnQtLaytransQTableWgt(QWidget* parent) : QTableWidget(par
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false); // Tab goes on to the buttons.
+    setWordWrap(false);
     setContextMenuPolicy(Qt::CustomContextMenu);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);

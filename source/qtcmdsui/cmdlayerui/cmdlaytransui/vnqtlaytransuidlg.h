@@ -74,6 +74,7 @@ private:
     QWidget* makeToGroup();
     QWidget* makeMapGroup();
     QBoxLayout* makeBottomRow();
+    void orderTabs();
     template <std::size_t count>
     void addActions(QMenu& menu, const ActionRow (&rows)[count]);
     void connectWidgets();

@@ -45,7 +45,6 @@ struct VnQtUiLaytransCmd::ActionRow
     void (VnQtUiLaytransCmd::*slot)();
 };
 
-// In the order in which the tabulator visits them.
 const VnQtUiLaytransCmd::ButtonRow VnQtUiLaytransCmd::kButtons[] = {
     {&VnQtUiLaytransCmd::m_selectButton, "selectButton", QT_TR_NOOP("选择(&C)"),
         QT_TR_NOOP("选择在“选择过滤器”中指定的图层。"),
@@ -125,8 +124,9 @@ bool VnQtUiLaytransCmd::initDialog()
     layout->addLayout(lists, 3);
     layout->addWidget(makeMapGroup(), 2);
     layout->addLayout(makeBottomRow());
+    orderTabs();
     connectWidgets();
-    resize(820, 620);
+    resize(900, 680);
     return true;
 }
 
@@ -234,6 +234,16 @@ QBoxLayout* VnQtUiLaytransCmd::makeBottomRow()
     for (QPushButton* button : {m_translateButton, m_cancelButton, m_helpButton})
         row->addWidget(button);
     return row;
+}
+
+/// From group to group as the eye goes.
+void VnQtUiLaytransCmd::orderTabs()
+{
+    QWidget* const order[] = {m_fromList, m_filterEdit, m_selectButton, m_mapButton,
+        m_mapSameButton, m_toList, m_loadButton, m_newButton, m_table, m_editButton, m_deleteButton,
+        m_saveButton, m_settingButton, m_translateButton, m_cancelButton, m_helpButton};
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 void VnQtUiLaytransCmd::connectWidgets()
