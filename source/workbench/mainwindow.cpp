@@ -18,6 +18,8 @@
 #include <QSettings>
 #include <QToolBar>
 
+#include <utility>
+
 namespace {
 
 constexpr int kNoticeMilliseconds = 15000;
@@ -294,7 +296,28 @@ void MainWindow::runLayerCommand(const CommandRow& row)
         messages::showCommandFailure(this, row.displayTitle(), QString::fromUtf8(error.what()));
     }
     m_commandRunning = false;
+    endShowingOnly(context.selection);
     updateState();
+}
+
+void MainWindow::showOnly(drawing::LayerId id)
+{
+    std::vector<drawing::Layer> layers = drawing()->layers();
+    for (drawing::Layer& layer : layers) {
+        layer.properties.off = layer.id != id;
+        layer.properties.frozen = false;
+    }
+    m_showsOnly = true;
+    m_canvas->setLayers(layers);
+}
+
+/// What was hidden meanwhile could not stay selected.
+void MainWindow::endShowingOnly(const std::vector<int>& selection)
+{
+    if (!std::exchange(m_showsOnly, false))
+        return;
+    showLayers();
+    m_canvas->setSelection(selection);
 }
 
 CommandContext MainWindow::commandContext()
@@ -313,7 +336,8 @@ CommandContext MainWindow::commandContext()
     };
     return {*drawing(), this, [this](const QString& text) { m_commandLine->say(text); }, refresh,
         m_canvas->selection(),
-        [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); }, pick};
+        [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); }, pick,
+        [this](drawing::LayerId layer) { showOnly(layer); }};
 }
 
 void MainWindow::pose(const LayerCommand::Camera& camera)

@@ -67,6 +67,8 @@ private:
     void showSpace(int layout);
     int shownSpace() const;
     void showLayers();
+    void showOnly(drawing::LayerId id);
+    void endShowingOnly(const std::vector<int>& selection);
     void rebuildGeometry();
     void updateState();
     bool isBusy() const;
@@ -78,5 +80,6 @@ private:
     RecentFiles* m_recent = nullptr;
     StatusFields* m_status = nullptr;
     bool m_commandRunning = false;
-    int m_shownSpace = 0; ///< Of the scene on the canvas, as the status bar counts them.
+    int m_shownSpace = 0;     ///< Of the scene on the canvas, as the status bar counts them.
+    bool m_showsOnly = false; ///< One layer, for a command.
 };
