@@ -58,12 +58,6 @@ constexpr TextRow kTexts[] = {
     {key::kDescription, &LayerProperties::description},
 };
 
-/// Files keep red in the high byte, records in the low one.
-quint32 swapRedAndBlue(quint32 color)
-{
-    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
-}
-
 void writeColor(IElementValueBase& record, const LayerProperties& properties)
 {
     const bool isTrue = properties.trueColor.has_value();
@@ -122,6 +116,11 @@ std::vector<const drawing::Layer*> sortedByName(const std::vector<drawing::Layer
 }
 
 } // namespace
+
+quint32 swapRedAndBlue(quint32 color)
+{
+    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
+}
 
 VnJsonPtr make(const drawing::Layer& layer, bool current)
 {

@@ -19,6 +19,9 @@ void refresh(const vnsi::VnJsonPtr& record, const drawing::Layer& layer, bool cu
 /// The records of all layers in the order people look names up: by name, numbers by their value.
 vnsi::VnJsonPtr makeList(const drawing::Drawing& drawing);
 
+/// A true colour as files keep it, red in the high byte, as records do, in the low one; and back.
+quint32 swapRedAndBlue(quint32 color);
+
 /// The layer a record was made of; `None` for a record that has none yet.
 drawing::LayerId idOf(const vnsi::VnJsonPtr& record);
 void setId(const vnsi::VnJsonPtr& record, drawing::LayerId id);
