@@ -5,6 +5,7 @@
 #include "commands/layerstatecommand.h"
 #include "commands/laymchcommand.h"
 #include "commands/laymrgcommand.h"
+#include "commands/laytranscommand.h"
 #include "commands/laywalkcommand.h"
 
 #include <algorithm>
@@ -27,7 +28,8 @@ constexpr CommandRow kRows[] = {
         make<LayerChangeCommand>},
     {"LAYMRG", QT_TRANSLATE_NOOP("Commands", "合并图层"), "layer-merge", make<LayerMergeCommand>},
     {"LAYWALK", QT_TRANSLATE_NOOP("Commands", "图层漫游"), "layer-walk", make<LayerWalkCommand>},
-    {"LAYTRANS", QT_TRANSLATE_NOOP("Commands", "图层转换器"), "layer-translate", nullptr},
+    {"LAYTRANS", QT_TRANSLATE_NOOP("Commands", "图层转换器"), "layer-translate",
+        make<LayerTranslateCommand>},
 };
 
 } // namespace

@@ -11,14 +11,18 @@ namespace posing {
 
 void showDialog(const OdString& service, const OdString& dialog, const vnsi::VnJsonPtr& tree,
     const LayerCommand::Camera& camera, const QString& name,
-    const std::function<void(QWidget& window)>& more)
+    const std::function<void(QWidget& window)>& more,
+    const std::function<void(const vnsi::VnJsonPtr& tree)>& answer)
 {
     const auto dialogs =
         OdSmartPtr<vnsi::VnUiService>::castFrom(vnsi::vn_arbitDict_getservice(service).get());
     const auto made = dialogs ? dialogs->createDialog(dialog) : vnsi::VnUiModeDialogBasePtr();
     if (made.isNull() || !made->widget())
         return;
-    made->setData(tree, CommandInvoker::make([](const vnsi::VnJsonPtr&) {}));
+    made->setData(tree, CommandInvoker::make([answer](const vnsi::VnJsonPtr& asked) {
+        if (answer)
+            answer(asked);
+    }));
     QWidget& window = *made->widget();
     window.show();
     QCoreApplication::processEvents();

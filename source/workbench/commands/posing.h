@@ -7,10 +7,11 @@
 namespace posing {
 
 /// Makes a dialog through its service, fills it from `tree`, pictures it as `name` and lets `more`
-/// go on with its window.
+/// go on with its window. `answer` answers its requests meanwhile.
 void showDialog(const OdString& service, const OdString& dialog, const vnsi::VnJsonPtr& tree,
     const LayerCommand::Camera& camera, const QString& name,
-    const std::function<void(QWidget& window)>& more = {});
+    const std::function<void(QWidget& window)>& more = {},
+    const std::function<void(const vnsi::VnJsonPtr& tree)>& answer = {});
 
 /// Calls the slot `method(row, column)` of `window`, pictures the modal dialog that it opens, and
 /// cancels that.

@@ -29,7 +29,7 @@ OdString od(const QString& text)
 /// Six options, none of them chosen.
 VnJsonPtr makeSettings()
 {
-    const VnJsonPtr settings = ElementValue::createArray(kTranslatorOptionCount);
+    VnJsonPtr settings = ElementValue::createArray(kTranslatorOptionCount);
     for (int option = 0; option < kTranslatorOptionCount; ++option) {
         const VnJsonPtr setting = ElementValue::createObject(1);
         setting->SetDataB(transkey::kSetting, false);

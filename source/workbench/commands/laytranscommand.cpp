@@ -1,0 +1,322 @@
+#include "laytranscommand.h"
+
+#include "drawing.h"
+#include "layermarks.h"
+#include "standardsfile.h"
+#include "translationlog.h"
+#include "translatorkeys.h"
+#include "vndialogs.h"
+#include "vnsettings.h"
+#include "vnstrings.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using drawing::LayerMapping;
+using drawing::TargetLayer;
+using vnsi::ElementValue;
+using vnsi::VnJsonPtr;
+
+namespace {
+
+using namespace vnsi::transkey;
+
+constexpr wchar_t kService[] = L"Dialog/CmdLayer";
+constexpr wchar_t kDialog[] = L"Dialog/CmdLaytrans";
+constexpr wchar_t kSettingsDialog[] = L"Dialog/CmdLaytransSetting";
+constexpr int kMostProblemsShown = 10;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("LayerTranslateCommand", text);
+}
+
+QString text(const VnJsonPtr& node, const char* key)
+{
+    return vnsi::vnutOdStringToQString(node->GetDataSW(key));
+}
+
+QString shown(const QString& path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+QString nameKey(const QString& name)
+{
+    return name.toCaseFolded();
+}
+
+/// The drawing's path without its ending, as which a standards file is proposed.
+OdString proposedName(const drawing::Drawing& drawing)
+{
+    const QFileInfo file(drawing.path());
+    return vnsi::vnutQStringToOdString(file.absoluteDir().filePath(file.completeBaseName()));
+}
+
+VnJsonPtr keptSettings()
+{
+    const VnJsonPtr config = vnsi::vn_user_config(kConfigSection);
+    return config ? config->GetDataJ(kConfigSettings) : VnJsonPtr();
+}
+
+} // namespace
+
+/// What answers a request, by its code.
+struct LayerTranslateCommand::RequestRow
+{
+    int code;
+    void (LayerTranslateCommand::*answer)(const VnJsonPtr& tree);
+};
+
+const LayerTranslateCommand::RequestRow LayerTranslateCommand::kRequests[] = {
+    {vnsi::kTranslatorSave, &LayerTranslateCommand::save},
+    {vnsi::kTranslatorLoad, &LayerTranslateCommand::load},
+    {vnsi::kTranslatorPurge, &LayerTranslateCommand::purge},
+    {vnsi::kTranslatorNew, &LayerTranslateCommand::addTarget},
+    {vnsi::kTranslatorSettings, &LayerTranslateCommand::showSettings},
+    {vnsi::kTranslatorTranslate, &LayerTranslateCommand::translate},
+    {vnsi::kTranslatorClicked, &LayerTranslateCommand::showClicked},
+};
+
+void LayerTranslateCommand::run(CommandContext& context)
+{
+    m_context = &context;
+    m_targets = ElementValue::createArray();
+    m_showsSelection = TranslationRecords::options(keptSettings()).showSelection;
+    m_records.offerLinetypes(drawing());
+    layermarks::show(context, kDialog, makeTree(), [this](const VnJsonPtr& tree) { answer(tree); });
+}
+
+VnJsonPtr LayerTranslateCommand::makeTree() const
+{
+    VnJsonPtr tree = ElementValue::createObject(24);
+    tree->SetDataSW(kDrawingName, proposedName(drawing()));
+    tree->SetDataJ(kTheme, TranslationRecords::sources(drawing()));
+    return tree;
+}
+
+void LayerTranslateCommand::answer(const VnJsonPtr& tree)
+{
+    const int code = tree->GetDataI(kRequestCode, -1);
+    for (const RequestRow& row : kRequests) {
+        if (row.code == code)
+            (this->*row.answer)(tree);
+    }
+}
+
+void LayerTranslateCommand::tellProblems(const QString& title)
+{
+    if (m_problems.isEmpty())
+        return;
+    QString message = title + QLatin1Char('\n') +
+                      QStringList(m_problems.mid(0, kMostProblemsShown)).join(QLatin1Char('\n'));
+    if (m_problems.size() > kMostProblemsShown)
+        message += tr("\n（共 %1 条）").arg(m_problems.size());
+    m_problems.clear();
+    layermarks::warn(message);
+}
+
+void LayerTranslateCommand::save(const VnJsonPtr& tree)
+{
+    const VnJsonPtr answer = tree->GetDataJ(kSaveAnswer);
+    const QString path = answer ? text(answer, "filePath") : QString();
+    const std::vector<LayerMapping> mappings = m_records.mappings(tree->GetDataJ(kSaveMappings));
+    if (path.isEmpty())
+        return;
+    if (mappings.empty()) {
+        layermarks::warn(tr("还没有图层映射，没有写入文件“%1”。").arg(shown(path)));
+        return;
+    }
+    if (QFileInfo(path) == QFileInfo(drawing().path())) {
+        layermarks::warn(tr("“%1”是正在转换的图形，图层映射要保存到另一个文件。").arg(shown(path)));
+        return;
+    }
+    const auto saved = drawing::saveStandard(path, mappings);
+    if (!saved) {
+        layermarks::warn(saved.error().text);
+        return;
+    }
+    tree->set(kSaveOutcome, 1);
+    say(tr("已将 %1 个图层映射保存到“%2”。").arg(mappings.size()).arg(shown(path)));
+    m_problems = *saved;
+    tellProblems(tr("图层映射已保存，但以下内容除外："));
+}
+
+void LayerTranslateCommand::load(const VnJsonPtr& tree)
+{
+    const bool isFirst = tree->GetDataB(kLoadIsFirst);
+    const VnJsonPtr present = isFirst ? VnJsonPtr() : tree->GetDataJ(kLoadTargets);
+    m_targets = present ? present : ElementValue::createArray();
+    const VnJsonPtr mappings = ElementValue::createArray();
+    const VnJsonPtr paths = tree->GetDataJ(kLoadPaths);
+    const int before = m_targets.ArrayCount();
+    for (int i = 0, count = paths.ArrayCount(); i < count; ++i)
+        loadFile(vnsi::vnutOdStringToQString(paths(i)->asSW()), mappings);
+    m_records.offerLinetypes(drawing());
+    tree->SetDataJ(kLoadedTargets, m_targets);
+    tree->SetDataJ(kLoadedMappings, mappings);
+    say(tr("已加载 %1 个目标图层。").arg(m_targets.ArrayCount() - before));
+    sayLoaded(mappings);
+    tellProblems(tr("以下内容没有加载："));
+}
+
+void LayerTranslateCommand::loadFile(const QString& path, const VnJsonPtr& mappings)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    if (!canonical.isEmpty() && m_loadedFiles.contains(canonical)) {
+        say(tr("文件“%1”已经加载过。").arg(shown(path)));
+        return;
+    }
+    const auto standard = drawing::readStandard(path);
+    if (!standard) {
+        m_problems += standard.error().text;
+        return;
+    }
+    m_loadedFiles.insert(canonical);
+    addTargets(standard->layers, path);
+    for (const LayerMapping& mapping : standard->mappings)
+        mappings->Append(m_records.mapping(mapping));
+    m_problems += standard->notices;
+}
+
+/// A layer that is in the list already stays as it is there.
+void LayerTranslateCommand::addTargets(const std::vector<TargetLayer>& targets, const QString& path)
+{
+    QSet<QString> known;
+    for (int i = 0, count = m_targets.ArrayCount(); i < count; ++i)
+        known.insert(nameKey(text(m_targets(i), kToName)));
+    int skipped = 0;
+    for (const TargetLayer& target : targets) {
+        if (known.contains(nameKey(target.name))) {
+            ++skipped;
+            continue;
+        }
+        known.insert(nameKey(target.name));
+        m_targets->Append(m_records.target(target, false));
+    }
+    if (skipped > 0)
+        say(tr("文件“%1”：%2 个图层与列表中的图层同名，保留列表中的。")
+                .arg(shown(path))
+                .arg(skipped));
+}
+
+void LayerTranslateCommand::sayLoaded(const VnJsonPtr& mappings) const
+{
+    const int count = mappings.ArrayCount();
+    if (count == 0)
+        return;
+    int missing = 0;
+    for (int i = 0; i < count; ++i) {
+        const QString name = text(mappings(i)->GetDataJ(kFrom), kFromName);
+        missing += drawing().findLayer(name) ? 0 : 1;
+    }
+    say(tr("文件中有 %1 个图层映射，其中 %2 个的图层不在此图形中。").arg(count).arg(missing));
+}
+
+void LayerTranslateCommand::purge(const VnJsonPtr& tree)
+{
+    std::vector<drawing::LayerId> unreferenced;
+    for (const drawing::Layer& layer : drawing().layers()) {
+        if (!layer.used() && layermarks::mayGo(drawing(), layer))
+            unreferenced.push_back(layer.id);
+    }
+    int gone = 0;
+    for (const drawing::LayerId id : unreferenced) {
+        if (const auto removed = drawing().removeLayer(id); removed)
+            ++gone;
+        else
+            m_problems += removed.error().text;
+    }
+    drawing().publishStep();
+    tree->SetDataJ(kTheme, TranslationRecords::sources(drawing()));
+    say(tr("已清理 %1 个图层。").arg(gone));
+    tellProblems(tr("以下图层没有清理："));
+}
+
+void LayerTranslateCommand::addTarget(const VnJsonPtr& tree)
+{
+    const VnJsonPtr result = tree->GetDataJ(kNewTarget);
+    if (!result)
+        return;
+    const VnJsonPtr record = ElementValue::createObject(12);
+    copyResultToTarget(*result, *record);
+    record->SetDataB(kToUsed, false);
+    m_targets->Append(record);
+    tree->SetDataJ(kLoadedTargets, m_targets);
+}
+
+void LayerTranslateCommand::showSettings(const VnJsonPtr& tree)
+{
+    const VnJsonPtr settings = tree->GetDataJ(kSettingsAsked);
+    if (!TranslationRecords::isComplete(settings))
+        layermarks::warn(tr("保存的转换设置不是六项，现按全部未选显示。"));
+    const VnJsonPtr question = ElementValue::createObject(3);
+    question->SetDataJ(kSettingsIn, settings);
+    const VnJsonPtr answer =
+        vnsi::vnuiShowModelDialogEx(kService, kSettingsDialog, question, {}, m_context->parent);
+    const VnJsonPtr chosen = answer->GetDataJ(kSettingsOut);
+    if (answer->GetDataI("result") != 1 || !chosen)
+        return;
+    tree->SetDataJ(kSettingsAnswered, chosen);
+    m_showsSelection = TranslationRecords::options(chosen).showSelection;
+    if (!m_showsSelection)
+        m_context->refresh();
+}
+
+void LayerTranslateCommand::translate(const VnJsonPtr& tree)
+{
+    const std::vector<LayerMapping> mappings = m_records.mappings(tree->GetDataJ(kMappings));
+    if (mappings.empty()) {
+        layermarks::warn(tr("还没有图层映射。请先将“转换自”中的图层映射到“转换为”中的图层。"));
+        return;
+    }
+    const VnJsonPtr settings = tree->GetDataJ(kSettingsToUse);
+    if (!TranslationRecords::isComplete(settings))
+        layermarks::warn(tr("保存的转换设置不是六项，现按全部未选转换。"));
+    const drawing::TranslationOptions options = TranslationRecords::options(settings);
+    const auto translated = drawing::translateLayers(drawing(), mappings, options);
+    if (!translated) {
+        layermarks::warn(translated.error().text);
+        return;
+    }
+    if (options.writeLog)
+        writeLog(*translated, options);
+    report(*translated);
+    // With nothing translated the user can put the mappings right and try again.
+    tree->SetDataB(kCloses, translated->appliedCount() > 0);
+    if (!tree->GetDataB(kIsSaved))
+        say(tr("这些图层映射没有保存到标准文件。"));
+}
+
+void LayerTranslateCommand::writeLog(
+    const drawing::TranslationReport& report, const drawing::TranslationOptions& options)
+{
+    const QString path = drawing::translationLogPath(drawing().path());
+    const QString log = drawing::translationLog(drawing().path(), report, options);
+    if (const auto written = drawing::writeTranslationLog(path, log); written)
+        say(tr("转换日志：“%1”。").arg(shown(path)));
+    else
+        m_problems += written.error().text;
+}
+
+void LayerTranslateCommand::report(const drawing::TranslationReport& report)
+{
+    say(tr("已转换 %1 个图层映射，%2 个对象。")
+            .arg(report.appliedCount())
+            .arg(report.translatedCount()));
+    for (const drawing::MappingResult& mapping : report.mappings) {
+        if (!mapping.isApplied())
+            m_problems += mapping.cause;
+        m_problems += mapping.notices;
+    }
+    m_problems += report.notices;
+    tellProblems(tr("图层转换中有以下问题："));
+}
+
+void LayerTranslateCommand::showClicked(const VnJsonPtr& tree)
+{
+    const drawing::Layer* layer = drawing().findLayer(text(tree, kClickedName));
+    if (m_showsSelection && layer)
+        m_context->showOnly(layer->id);
+}

@@ -1,0 +1,213 @@
+#include "translationrecords.h"
+
+#include "CmColor.h"
+#include "layerkeys.h"
+#include "layermarks.h"
+#include "layerrecords.h"
+#include "linetypes.h"
+#include "translatorkeys.h"
+#include "vnstrings.h"
+
+#include <QCoreApplication>
+
+using drawing::LayerMapping;
+using drawing::TargetLayer;
+using vnsi::ElementValue;
+using vnsi::VnJsonPtr;
+
+namespace {
+
+using namespace vnsi::transkey;
+
+// The command's own keys, which the dialogs carry along: what targets have and dialogs do not show.
+constexpr char kColorIndex[] = "transToColorIndex";
+constexpr char kPlotted[] = "transToPlotted";
+
+/// A plot style in the dialogs' words and in the files'. A layer's own cannot be that of a layer or
+/// of a block: it stays as it is then.
+struct PlotStyleRow
+{
+    const char* shown;
+    const char* filed;
+};
+
+constexpr PlotStyleRow kPlotStyles[] = {{"普通", "Normal"}, {"ByLayer", ""}, {"ByBlock", ""}};
+
+struct OptionRow
+{
+    vnsi::TranslatorOption option;
+    bool drawing::TranslationOptions::*member;
+};
+
+constexpr OptionRow kOptions[] = {
+    {vnsi::kForceColor, &drawing::TranslationOptions::colorByLayer},
+    {vnsi::kForceLinetype, &drawing::TranslationOptions::linetypeByLayer},
+    {vnsi::kForceTransparency, &drawing::TranslationOptions::transparencyByLayer},
+    {vnsi::kInsideBlocks, &drawing::TranslationOptions::inBlocks},
+    {vnsi::kWriteLog, &drawing::TranslationOptions::writeLog},
+    {vnsi::kShowSelected, &drawing::TranslationOptions::showSelection},
+};
+
+QString text(const VnJsonPtr& record, const char* key)
+{
+    return vnsi::vnutOdStringToQString(record->GetDataSW(key));
+}
+
+OdString od(const QString& text)
+{
+    return vnsi::vnutQStringToOdString(text);
+}
+
+/// As the host's lineweight picker words it.
+QString lineWidthText(int weight)
+{
+    return weight < 0 ? QCoreApplication::translate("TranslationRecords", "默认")
+                      : QStringLiteral("%1 mm").arg(weight / 100.0, 0, 'f', 2);
+}
+
+QString shownPlotStyle(const QString& style)
+{
+    return style == QLatin1String(kPlotStyles[0].filed) ? QString::fromUtf8(kPlotStyles[0].shown)
+                                                        : style;
+}
+
+QString filedPlotStyle(const QString& style)
+{
+    for (const PlotStyleRow& row : kPlotStyles) {
+        if (style == QString::fromUtf8(row.shown))
+            return QString::fromLatin1(row.filed);
+    }
+    return style;
+}
+
+} // namespace
+
+VnJsonPtr TranslationRecords::sources(const drawing::Drawing& drawing)
+{
+    const VnJsonPtr layers = layermarks::makeTree(drawing, [](const drawing::Layer& layer) {
+        return !layer.dependsOnReference;
+    })->GetDataJ(vnsi::layerkey::kList);
+    VnJsonPtr records = ElementValue::createArray(layers.ArrayCount());
+    for (int i = 0, count = layers.ArrayCount(); i < count; ++i) {
+        const VnJsonPtr record = ElementValue::createObject(2);
+        record->SetDataSW(kFromName, od(layerrecords::nameOf(layers(i))));
+        record->SetDataB(kFromUsed, layers(i)->GetDataB(vnsi::layerkey::kUsed));
+        records->Append(record);
+    }
+    return records;
+}
+
+OdInt64 TranslationRecords::numberOf(const drawing::LinetypePointer& definition)
+{
+    if (!definition)
+        return 0;
+    const QString name = definition->name.toCaseFolded();
+    for (const OdInt64 number : m_numbers.values(name)) {
+        if (linetype(number)->tags == definition->tags)
+            return number;
+    }
+    m_linetypes.push_back(definition);
+    const auto number = static_cast<OdInt64>(m_linetypes.size());
+    m_numbers.insert(name, number);
+    return number;
+}
+
+/// The definition of that number if it is of this name: a name that was picked anew counts more
+/// than a number that stayed behind.
+drawing::LinetypePointer TranslationRecords::definition(OdInt64 number, const QString& name) const
+{
+    const QList<OdInt64> numbers = m_numbers.values(name.toCaseFolded());
+    if (numbers.isEmpty())
+        return nullptr;
+    return linetype(numbers.contains(number) ? number : numbers.constLast());
+}
+
+VnJsonPtr TranslationRecords::target(const TargetLayer& target, bool used)
+{
+    const bool isTrue = target.trueColor.has_value();
+    VnJsonPtr record = ElementValue::createObject(12);
+    record->SetDataSW(kToName, od(target.name));
+    record->SetDataL(kToColorMethod, isTrue ? OdCmEntityColor::kByColor : OdCmEntityColor::kByACI);
+    record->SetDataL(kToColorValue,
+        isTrue ? layerrecords::swapRedAndBlue(*target.trueColor) : OdInt64{target.colorIndex});
+    record->SetDataL(kToLinetypeId, numberOf(target.linetypeDefinition));
+    record->SetDataSW(kToLinetype, od(target.linetype));
+    record->SetDataI(kToLineWidth, target.lineweight);
+    record->SetDataSW(kToLineWidthText, od(lineWidthText(target.lineweight)));
+    record->SetDataI(kToTransparency, target.transparency);
+    record->SetDataSW(kToPlotStyle, od(shownPlotStyle(target.plotStyle)));
+    record->SetDataB(kToUsed, used);
+    record->SetDataI(kColorIndex, target.colorIndex);
+    if (target.plotted)
+        record->SetDataB(kPlotted, *target.plotted);
+    return record;
+}
+
+TargetLayer TranslationRecords::target(const VnJsonPtr& record) const
+{
+    TargetLayer target;
+    target.name = text(record, kToName);
+    const OdInt64 color = record->GetDataL(kToColorValue);
+    if (record->GetDataL(kToColorMethod) == OdCmEntityColor::kByACI) {
+        target.colorIndex = static_cast<OdInt16>(color);
+    } else {
+        target.colorIndex = record->GetDataI(kColorIndex, target.colorIndex);
+        target.trueColor = layerrecords::swapRedAndBlue(static_cast<quint32>(color));
+    }
+    target.linetype = text(record, kToLinetype);
+    target.linetypeDefinition = definition(record->GetDataL(kToLinetypeId), target.linetype);
+    target.lineweight = record->GetDataI(kToLineWidth, target.lineweight);
+    target.transparency = record->GetDataI(kToTransparency);
+    target.plotStyle = filedPlotStyle(text(record, kToPlotStyle));
+    if (record->HasKey(kPlotted))
+        target.plotted = record->GetDataB(kPlotted);
+    return target;
+}
+
+VnJsonPtr TranslationRecords::mapping(const LayerMapping& mapping)
+{
+    const VnJsonPtr from = ElementValue::createObject(2);
+    from->SetDataSW(kFromName, od(mapping.from));
+    VnJsonPtr record = ElementValue::createObject(2);
+    record->SetDataJ(kFrom, from);
+    record->SetDataJ(kTo, target(mapping.to, false));
+    return record;
+}
+
+std::vector<LayerMapping> TranslationRecords::mappings(const VnJsonPtr& array) const
+{
+    std::vector<LayerMapping> mappings;
+    for (int i = 0, count = array.ArrayCount(); i < count; ++i) {
+        const VnJsonPtr from = array(i)->GetDataJ(kFrom);
+        const VnJsonPtr to = array(i)->GetDataJ(kTo);
+        if (from && to)
+            mappings.push_back({text(from, kFromName), target(to)});
+    }
+    return mappings;
+}
+
+void TranslationRecords::offerLinetypes(const drawing::Drawing& drawing) const
+{
+    std::vector<host::LineType> offered;
+    for (const QString& name : drawing.linetypes())
+        offered.push_back({od(name), {}});
+    std::uint64_t number = 0;
+    for (const drawing::LinetypePointer& definition : m_linetypes)
+        offered.push_back({od(definition->name), OdDbObjectId(++number)});
+    host::setLineTypes(std::move(offered));
+}
+
+bool TranslationRecords::isComplete(const VnJsonPtr& settings)
+{
+    return settings.ArrayCount() == vnsi::kTranslatorOptionCount;
+}
+
+drawing::TranslationOptions TranslationRecords::options(const VnJsonPtr& settings)
+{
+    drawing::TranslationOptions options;
+    if (!isComplete(settings))
+        return options;
+    for (const OptionRow& row : kOptions)
+        options.*row.member = settings(row.option)->GetDataB(kSetting);
+    return options;
+}

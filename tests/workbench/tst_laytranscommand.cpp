@@ -1,0 +1,211 @@
+#include "../drawing/readback.h"
+#include "canvas.h"
+#include "commandfixture.h"
+#include "standardsfile.h"
+#include "vnsettings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QJsonArray>
+#include <QListWidget>
+#include <QTableWidget>
+
+namespace {
+
+const QString kStandard = QStringLiteral(SAMPLES "/office-standard.dxf");
+
+QListWidget& list(QDialog& dialog, const char* name)
+{
+    return *ModuleFixture::child<QListWidget>(&dialog, name);
+}
+
+QTableWidget& table(QDialog& dialog)
+{
+    return *ModuleFixture::child<QTableWidget>(&dialog, "mapTable");
+}
+
+/// A step that closes what a failure in it left open.
+ModalDriver::Step closing(const ModalDriver::Step& acts)
+{
+    return [acts](QDialog& dialog) {
+        acts(dialog);
+        dialog.close();
+    };
+}
+
+void selectLayers(QDialog& dialog, const QStringList& names)
+{
+    list(dialog, "fromList").clearSelection();
+    for (const QString& name : names)
+        list(dialog, "fromList").findItems(name, Qt::MatchExactly).first()->setSelected(true);
+}
+
+} // namespace
+
+/// LAYTRANS through the real windows, down to the saved file.
+class LayerTranslateCommandTest : public CommandFixture
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { stop(); }
+    void everythingInOneRun();
+    void refusals();
+    void purgesInOneStep();
+
+private:
+    void load(QDialog& dialog, const QStringList& files);
+    QString inFolder(const QString& name) const { return m_folder.filePath(name); }
+};
+
+void LayerTranslateCommandTest::init()
+{
+    start({"Dialog/CmdLaytrans", "Dialog/CmdLaytransNewEdit", "Dialog/CmdLaytransSetting"});
+    vnsi::vn_user_config(L"layertransset_dialog")->RemoveKey("LtransSettingDates");
+    QFile::remove(inFolder("floor.dxf"));
+    QVERIFY(QFile::copy(m_path, inFolder("floor.dxf"))); // The log goes beside it.
+    open(inFolder("floor.dxf"));
+}
+
+void LayerTranslateCommandTest::load(QDialog& dialog, const QStringList& files)
+{
+    const QJsonObject answer{{"filePaths", QJsonArray::fromStringList(files)}};
+    m_host->answer(1, QString::fromUtf8(QJsonDocument(answer).toJson()));
+    press(dialog, "loadButton");
+}
+
+void LayerTranslateCommandTest::everythingInOneRun()
+{
+    const QImage whole = m_window->canvas()->grab().toImage();
+    QHash<QString, QString> targets; // By source, in small letters.
+    const auto setOptions = [](QDialog& settings) {
+        for (const char* option : {"optionBox0", "optionBox3", "optionBox4", "optionBox5"})
+            ModuleFixture::child<QCheckBox>(&settings, option)->setChecked(true);
+        press(settings, "okButton");
+    };
+    const auto editLayer = [](QDialog& layer) {
+        QCOMPARE(ModuleFixture::child<QComboBox>(&layer, "linetypeBox")->currentText(),
+            QStringLiteral("FIRE_MAIN"));
+        ModuleFixture::child<QComboBox>(&layer, "transparencyBox")->setEditText("35");
+        press(layer, "okButton");
+    };
+    const auto translate = [&](QDialog& dialog) {
+        press(dialog, "settingButton");
+        load(dialog, {kStandard, kStandard});
+        QCOMPARE(list(dialog, "toList").count(), 22);
+        QCOMPARE(table(dialog).rowCount(), 18); // Those saved in the file.
+        press(dialog, "mapSameButton");
+        QCOMPARE(table(dialog).rowCount(), 26);
+        selectLayers(dialog, {"家具-办公桌", "家具-座椅"});
+        list(dialog, "toList")
+            .setCurrentItem(list(dialog, "toList").findItems("A-FURN", Qt::MatchExactly).first());
+        press(dialog, "mapButton");
+
+        auto& from = list(dialog, "fromList");
+        emit from.itemClicked(from.findItems("A-EQPM", Qt::MatchExactly).first());
+        const QImage one = m_window->canvas()->grab().toImage();
+        emit from.itemClicked(from.findItems("备用-1", Qt::MatchExactly).first());
+        QVERIFY(one != whole && one != m_window->canvas()->grab().toImage());
+
+        table(dialog).selectRow(
+            table(dialog).findItems("消防-喷淋", Qt::MatchExactly).first()->row());
+        press(dialog, "editButton");
+        for (int row = 0; row < table(dialog).rowCount(); ++row)
+            targets.insert(table(dialog).item(row, 0)->text().toLower(),
+                table(dialog).item(row, 1)->text().toLower());
+        m_host->answer(1, R"({"filePath":")" + inFolder("saved.dws") + "\"}");
+        press(dialog, "saveButton");
+        QVERIFY(!ModuleFixture::child<QPushButton>(&dialog, "saveButton")->isEnabled());
+        press(dialog, "translateButton");
+        QVERIFY(!dialog.isVisible());
+    };
+    run("laytrans", {closing(translate), setOptions, closing(editLayer)});
+    for (const QString& line : m_host->log())
+        QVERIFY2(!line.startsWith("message"), qPrintable(line));
+    const auto saved = drawing::readStandard(inFolder("saved.dws"));
+    QVERIFY(saved && saved->mappings.size() == static_cast<std::size_t>(targets.size()));
+    QFile log(inFolder("floor.log"));
+    QVERIFY(log.open(QIODevice::ReadOnly) && log.readAll().contains("墙体-隔墙"));
+
+    const QByteArray translated = savedBytes("translated.dxf");
+    if (readback::isInstalled()) {
+        const QJsonObject before = readback::seen(inFolder("floor.dxf"));
+        const QJsonObject after = readback::seen(inFolder("translated.dxf"));
+        QCOMPARE(readback::newErrors(before, after), QStringList());
+        QHash<QString, int> expected;
+        const QJsonObject counts = before.value("entities").toObject();
+        for (const QString& layer : counts.keys())
+            expected[targets.value(layer, layer)] += counts.value(layer).toInt();
+        const QJsonObject found = after.value("entities").toObject();
+        for (auto layer = expected.cbegin(); layer != expected.cend(); ++layer)
+            QVERIFY2(found.value(layer.key()).toInt() == layer.value(), qPrintable(layer.key()));
+        QCOMPARE(found.size(), expected.size());
+        for (const QJsonValue layer : after.value("layers").toArray()) {
+            if (layer["name"].toString() != "F-SPRN")
+                continue;
+            QCOMPARE(layer["linetype"].toString(), QStringLiteral("FIRE_MAIN"));
+            QCOMPARE(layer["transparency"].toInt(), 35);
+        }
+    }
+    drawing().undo();
+    QVERIFY(!drawing().canUndo());
+    QVERIFY(savedBytes("undone.dxf") == m_original && translated != m_original);
+    QCOMPARE(m_window->canvas()->grab().toImage(), whole);
+}
+
+/// Each says what cannot be done and why, and the dialog stays.
+void LayerTranslateCommandTest::refusals()
+{
+    QFile noDrawing(inFolder("text.dws"));
+    QVERIFY(noDrawing.open(QIODevice::WriteOnly) && noDrawing.write("text") == 4);
+    noDrawing.close();
+    const auto config = vnsi::vn_user_config(L"layertransset_dialog");
+    config->SetDataJ("LtransSettingDates", vnsi::ElementValue::createArray());
+    const auto message = [&] { return m_host->takeLog().filter("message|").join('\n'); };
+    const auto acts = [&](QDialog& dialog) {
+        load(dialog, {inFolder("text.dws"), kStandard, inFolder("missing.dwg")});
+        const QString unread = message();
+        QVERIFY(unread.contains("text.dws") && unread.contains("missing.dwg"));
+        QCOMPARE(list(dialog, "toList").count(), 22); // The rest is loaded.
+        press(dialog, "settingButton");
+        QVERIFY(message().contains("不是六项"));
+        const auto save = [&](const QString& path) {
+            m_host->answer(1, R"({"filePath":")" + path + "\"}");
+            press(dialog, "saveButton");
+        };
+        save(inFolder("floor.dxf"));
+        QVERIFY(message().contains("正在转换的图形"));
+        save(inFolder("text.dws"));
+        QVERIFY(message().contains("text.dws"));
+        QMetaObject::invokeMethod(&dialog, "slot_MenuMapListAllDelete");
+        save(inFolder("new.dws"));
+        QVERIFY(message().contains("还没有图层映射") && !QFile::exists(inFolder("new.dws")));
+        press(dialog, "translateButton");
+        QVERIFY(message().contains("还没有图层映射"));
+        QVERIFY(dialog.isVisible());
+    };
+    run("laytrans", {closing(acts), [](QDialog& settings) { press(settings, "cancelButton"); }});
+    QVERIFY(!drawing().canUndo());
+    config->RemoveKey("LtransSettingDates");
+}
+
+void LayerTranslateCommandTest::purgesInOneStep()
+{
+    const auto purge = [&](QDialog& dialog) {
+        const int before = list(dialog, "fromList").count();
+        QMetaObject::invokeMethod(&dialog, "slot_FromListMenuActionCleanlayer");
+        QVERIFY(list(dialog, "fromList").count() < before);
+        for (const char* name : {"备用-1", "备用-2"})
+            QVERIFY(list(dialog, "fromList").findItems(name, Qt::MatchExactly).isEmpty());
+        press(dialog, "cancelButton");
+    };
+    run("laytrans", {closing(purge)});
+    QVERIFY(!drawing().findLayer("备用-1"));
+    drawing().undo();
+    QVERIFY(drawing().findLayer("备用-1") && !drawing().canUndo());
+}
+
+QTEST_MAIN(LayerTranslateCommandTest)
+
+#include "tst_laytranscommand.moc"
