@@ -10,10 +10,10 @@
 /// A layer command as menu, tool bar and command line know it.
 struct CommandRow
 {
-    const char* name;                          ///< As typed, in any case.
-    const char* title;                         ///< As shown; also the name of the undo step.
-    const char* icon;                          ///< File under ":/workbench/" without ".png".
-    std::unique_ptr<LayerCommand> (*create)(); ///< Null while the command is not there yet.
+    const char* name;  ///< As typed, in any case.
+    const char* title; ///< As shown; also the name of the undo step.
+    const char* icon;  ///< File under ":/workbench/" without ".png".
+    std::unique_ptr<LayerCommand> (*create)();
 
     QString displayTitle() const { return QCoreApplication::translate("Commands", title); }
 };

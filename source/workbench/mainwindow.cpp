@@ -278,11 +278,6 @@ void MainWindow::runLayerCommand(const CommandRow& row)
         m_commandLine->say(drawing() ? tr("请等待当前操作结束。") : tr("请先打开一个图形。"));
         return;
     }
-    if (!row.create) {
-        m_commandLine->say(
-            tr("命令 %1（%2）尚不可用。").arg(QLatin1String(row.name), row.displayTitle()));
-        return;
-    }
     CommandContext context = commandContext();
     m_commandRunning = true;
     updateState();
@@ -346,10 +341,8 @@ void MainWindow::pose(const LayerCommand::Camera& camera)
     if (!drawing())
         return;
     CommandContext context = commandContext();
-    for (const CommandRow& row : CommandTable()) {
-        if (row.create)
-            row.create()->pose(context, camera);
-    }
+    for (const CommandRow& row : CommandTable())
+        row.create()->pose(context, camera);
 }
 
 void MainWindow::chooseFile()
@@ -430,7 +423,7 @@ void MainWindow::updateState()
     action("ZOOM")->setEnabled(drawing() != nullptr);
     action("BACKGROUND")->setChecked(!m_canvas->isDark());
     for (const CommandRow& row : CommandTable())
-        action(row.name)->setEnabled(idle && row.create);
+        action(row.name)->setEnabled(idle);
     if (m_session->isBusy())
         return; // The saving thread has the drawing to itself; this runs again when it is done.
     const QString file = drawing() ? QFileInfo(drawing()->path()).fileName() : tr("无图形");
