@@ -1,6 +1,7 @@
 #include "standardsfile.h"
 
 #include "drawingprivate.h"
+#include "plotstyles.h"
 #include "savedmappings.h"
 #include "targetlayers.h"
 
@@ -48,6 +49,23 @@ bool isZero(const TargetLayer& target)
 bool isEverywhere(const TargetLayer& target)
 {
     return isZero(target) || isNeverPlotted(target.name);
+}
+
+/// The plot styles that targets have by name.
+QStringList namedPlotStyles(
+    const std::vector<LayerMapping>& mappings, const std::vector<TargetLayer>& targets)
+{
+    QHash<QString, QString> names; // By folded name.
+    const auto add = [&names](const TargetLayer& target) {
+        if (isNamedPlotStyle(target.plotStyle))
+            names.insert(nameKey(target.plotStyle), target.plotStyle);
+    };
+    for (const LayerMapping& mapping : mappings)
+        add(mapping.to);
+    std::for_each(targets.begin(), targets.end(), add);
+    QStringList sorted = names.values();
+    sorted.sort();
+    return sorted;
 }
 
 /// Puts targets and mappings into a drawing, in its open step.
@@ -159,6 +177,8 @@ Expected<QStringList> saveStandard(const QString& path, const std::vector<LayerM
     Drawing& drawing = **opened;
     StandardWriter writer(drawing);
     drawing.beginStep({});
+    if (const QStringList styles = namedPlotStyles(mappings, targets); isNew && !styles.isEmpty())
+        makePlotStyles(DrawingAccess::data(drawing), styles);
     Expected<void> done;
     for (auto mapping = mappings.begin(); done && mapping != mappings.end(); ++mapping)
         done = writer.putTarget(mapping->to);

@@ -28,6 +28,7 @@ TargetLayer wall()
     layer.lineweight = 50;
     layer.transparency = 40;
     layer.plotted = false;
+    layer.plotStyle = QStringLiteral("半色调");
     return layer;
 }
 
@@ -88,6 +89,8 @@ void TestStandards::newFile()
     QCOMPARE(read.transparency, given.transparency);
     QCOMPARE(read.lineweight, given.lineweight);
     QCOMPARE(read.plotted, given.plotted);
+    QCOMPARE(read.plotStyle, given.plotStyle);
+    QCOMPARE(standard->layers.at(1).plotStyle, QStringLiteral("Normal"));
     QVERIFY(read.linetypeDefinition->tags == given.linetypeDefinition->tags);
     QVERIFY(read.linetypeDefinition->styles.at(0).tags == given.linetypeDefinition->styles[0].tags);
 
