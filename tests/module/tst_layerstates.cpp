@@ -665,6 +665,7 @@ void TestLayerStates::addDialog()
         QStringLiteral(R"({"NeedAddlayerList":[{"LayerName":"Wall","Description":"d"},
             {"LayerName":"wall","Selected":true},{"LayerName":"Door"}]})"));
     auto& table = child<QTableWidget>(dialog, "candidateTable");
+    QVERIFY(table.itemDelegate()); // Else the rows are there, but nothing of them is painted.
     QCOMPARE(rowText(table, 0), QStringLiteral("Wall,d"));
     QVERIFY(table.selectedItems().isEmpty());
     select(table, rows);

@@ -87,6 +87,17 @@ QItemSelection selectedRows(const QTableWidget& table, const std::vector<LayerRe
     return selection;
 }
 
+/// The table owns its delegate, so it outlives whoever fills it.
+void prepareDelegate(QTableWidget& table)
+{
+    auto* delegate = qobject_cast<LayerCellDelegate*>(table.itemDelegate());
+    if (!delegate) {
+        delegate = new LayerCellDelegate(&table);
+        table.setItemDelegate(delegate);
+    }
+    delegate->forgetSizes();
+}
+
 } // namespace
 
 QString lineWidthText(int lineWidth)
@@ -201,8 +212,7 @@ void LayerCells::fill(QTableWidget& table, const std::vector<LayerRecord>& recor
     const LayerColumn* columns, int columnCount)
 {
     m_document = currentDocument();
-    m_delegate.forgetSizes();
-    table.setItemDelegate(&m_delegate);
+    prepareDelegate(table);
     table.setUpdatesEnabled(false);
     table.clearContents();
     table.setRowCount(0);

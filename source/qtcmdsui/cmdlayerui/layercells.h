@@ -73,7 +73,11 @@ inline constexpr LayerColumn kVPortFrozen{QT_TR_NOOP("新视口冻结"), LayerCe
 /// what sizing the columns costs.
 class LayerCellDelegate : public QStyledItemDelegate
 {
+    Q_OBJECT
+
 public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     /// To be called when fonts or looks may have changed.
     void forgetSizes() { m_sizes.clear(); }
@@ -116,7 +120,6 @@ private:
     std::array<QIcon, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
     QHash<QPair<qint64, qint64>, Swatch> m_swatches;
     QHash<QPair<int, int>, QString> m_numberTexts; ///< By the cell's kind and the number.
-    LayerCellDelegate m_delegate;
     VnDocumentPtr m_document;
 };
 
