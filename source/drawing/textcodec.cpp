@@ -125,9 +125,9 @@ QByteArray TextCodec::encode(const QString& text) const
         const bool pair =
             c.isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
         const int units = pair ? 2 : 1;
-        if (c.unicode() < 0x80)
-            bytes += c.unicode() < 0x20 || c.unicode() == 0x7f ? ' ' : c.toLatin1();
-        else if (!encodePoint(text, at, units, bytes))
+        if (c.unicode() >= 0x20 && c.unicode() < 0x7f)
+            bytes += c.toLatin1();
+        else if (c.unicode() < 0x80 || !encodePoint(text, at, units, bytes))
             for (int i = 0; i < units; ++i)
                 bytes += escaped(text.at(at + i).unicode());
         at += units;

@@ -21,8 +21,8 @@ public:
 
     /// The text of a value, `\U+XXXX` escapes (UTF-16 code units) resolved.
     QString decode(std::string_view value) const;
-    /// The bytes of a text; what the code page lacks goes out as `\U+XXXX`. Control characters,
-    /// which would end the line, become blanks.
+    /// The bytes of a text; what the code page lacks goes out as `\U+XXXX`, and so do control
+    /// characters, which would end the line.
     QByteArray encode(const QString& text) const;
 
     /// Whether all of these bytes mean something in the code page; a double-byte one tells, in most

@@ -55,7 +55,7 @@ private slots:
             "\xc7\xbd\\U+D83D\\U+DE00");
         row("not in 1252", "AC1015", "ANSI_1252", "é墙", "\xe9\\U+5899");
         row("half a pair", "AC1021", "", QString(QChar(0xd83d)), "\\U+D83D");
-        row("line end", "AC1021", "", "a\r\nb", "a  b");
+        row("line end", "AC1021", "", "a\r\nb", "a\\U+000D\\U+000Ab");
     }
 
     void encode()
