@@ -162,6 +162,9 @@ void Loader::loadLayerRecords()
     m_data.layers.reserve(m_data.index.table(TableKind::Layer).records.size());
     for (const ByteRange& range : m_data.index.table(TableKind::Layer).records) {
         const LayerRecord record = reader.read(m_data.tags(range));
+        // Nothing can be on it: entities that name no layer are on layer 0.
+        if (record.properties.name.isEmpty())
+            continue;
         LayerEntry entry;
         entry.layer.properties = record.properties;
         LayerProperties& p = entry.layer.properties;

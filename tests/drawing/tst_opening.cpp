@@ -90,7 +90,8 @@ private slots:
                            "1071 33554559\n1001 AcAecLayerStandard\n1000 \n1000 \\U+5899 !";
         house.layerCount = "999999999999"; // Lies.
         house.moreLayers =
-            "0 LAYER\n2 plan|A\n70 39\n0 LAYER\n2 PlanB\n70 16\n0 LAYER\n2 DEFPOINTS\n";
+            "0 LAYER\n2 plan|A\n70 39\n0 LAYER\n2 PlanB\n70 16\n0 LAYER\n2 DEFPOINTS\n"
+            "0 LAYER\n2  \n70 0\n"; // Without a name, it is none.
         const auto drawing = opened(house.bytes());
 
         QStringList names;
