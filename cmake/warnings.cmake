@@ -9,3 +9,7 @@ if(VN_SANITIZE)
     add_compile_options(-fsanitize=${VN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${VN_SANITIZE})
 endif()
+if(VN_FUZZ)
+    # The counters that lead the fuzzer; its main function comes with each target.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Configures and builds a preset: release, debug or asan.
+# Configures and builds a preset: release, debug, asan, tsan or fuzz.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 preset=${1:-release}

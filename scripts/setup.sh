@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs, from Debian, what building and running needs and is missing; --tests adds what tests need.
+# Installs, from Debian, what building and running needs and is missing; --tests adds what tests need,
+# --fuzz what fuzzing needs.
 set -euo pipefail
 
 packages=(
@@ -9,6 +10,8 @@ packages=(
 )
 if [ "${1:-}" = "--tests" ]; then
     packages+=(python3-ezdxf)
+elif [ "${1:-}" = "--fuzz" ]; then
+    packages+=(clang libclang-rt-dev python3)
 fi
 
 missing=()

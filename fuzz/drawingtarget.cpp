@@ -1,0 +1,192 @@
+#include "drawingedits.h"
+#include "dxftags.h"
+#include "fuzzing.h"
+#include "geometry.h"
+
+#include <QFile>
+
+#include <set>
+
+using namespace drawing;
+using fuzz::require;
+
+namespace {
+
+constexpr int kMostEdits = 4;
+
+/// An entity as its file holds it.
+struct Snapshot
+{
+    EntityKind kind;
+    QString layer;
+    QByteArray bytes;
+};
+
+std::vector<Snapshot> snapshots(const Drawing& drawing, const QByteArray& file)
+{
+    std::vector<Snapshot> all;
+    for (const Entity& entity : drawing.entities()) {
+        const Layer* const layer = drawing.layer(entity.layer);
+        all.push_back({entity.kind, layer ? layer->properties.name : QString(),
+            file.mid(static_cast<int>(entity.begin), static_cast<int>(entity.end - entity.begin))});
+    }
+    return all;
+}
+
+/// Where the layer tables stand, how many records they hold and what is a name in them.
+struct LayerTables
+{
+    qint64 begin = -1;
+    qint64 end = -1;
+    int records = 0;
+    std::vector<std::string_view> names;
+};
+
+LayerTables findLayerTables(const QByteArray& file)
+{
+    LayerTables found;
+    TagReader reader({file.constData(), static_cast<std::size_t>(file.size())});
+    Tag tag, last;
+    std::string_view section;
+    bool isInside = false, isLayer = false;
+    for (; reader.next(tag); last = tag) {
+        const std::string_view opened =
+            tag.code == 2 && last.code == 0 ? last.trimmed() : std::string_view();
+        if (opened == "SECTION")
+            section = tag.trimmed();
+        if (opened == "TABLE" && tag.trimmed() == "LAYER" && section == "TABLES") {
+            isInside = true;
+            found.begin = found.begin < 0 ? last.begin : found.begin;
+        }
+        if (!isInside)
+            continue;
+        found.end = tag.end;
+        if (tag.code == 0)
+            isLayer = tag.trimmed() == "LAYER";
+        if (tag.code == 2 && isLayer)
+            found.names.push_back(tag.value);
+        found.records += tag.code == 0 && isLayer;
+        isInside = tag.code != 0 || tag.trimmed() != "ENDTAB";
+    }
+    return found;
+}
+
+void requireOnlyLayersDiffer(const QByteArray& before, const QByteArray& after)
+{
+    const LayerTables old = findLayerTables(before);
+    const LayerTables now = findLayerTables(after);
+    if (old.begin < 0 || old.records != now.records)
+        return; // The edited layer had no record: it got one, with a handle from the header.
+    require(before.left(static_cast<int>(old.begin)) == after.left(static_cast<int>(now.begin)) &&
+                before.mid(static_cast<int>(old.end)) == after.mid(static_cast<int>(now.end)),
+        "a layer's flag changes nothing outside the layer table");
+}
+
+/// What did not come to another layer and refers to none is what it was, byte for byte.
+void requireEntitiesKept(
+    const Drawing& drawing, const std::vector<Snapshot>& before, const std::vector<Snapshot>& after)
+{
+    std::size_t at = 0;
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        const Entity& entity = drawing.entities()[i];
+        if (entity.removed)
+            continue;
+        require(at < after.size(), "no entity is lost");
+        const Snapshot& now = after[at++];
+        const Layer* const layer = drawing.layer(entity.layer);
+        require(now.kind == before[i].kind, "entities keep their kind and order");
+        require(!layer || now.layer.compare(layer->properties.name, Qt::CaseInsensitive) == 0,
+            "entities are saved on the layer they are on");
+        const bool mayFollow = now.kind == EntityKind::Viewport || before[i].bytes.contains("1003");
+        require(mayFollow || now.layer != before[i].layer || now.bytes == before[i].bytes,
+            "an entity that was not edited keeps its bytes");
+    }
+    require(at == after.size(), "no entity comes from nowhere");
+}
+
+using Names = std::set<QString>;
+
+/// The layers that have no record: they come and go with what names them.
+Names impliedLayers(const Drawing& drawing, const LayerTables& tables)
+{
+    Names names;
+    for (const Layer& layer : drawing.layers())
+        names.insert(layer.properties.name.toCaseFolded());
+    for (const std::string_view name : tables.names)
+        names.erase(drawing.decoded(trimmedView(name)).toCaseFolded());
+    return names;
+}
+
+/// The names and flags of all other layers; a file may name one twice.
+std::multiset<std::pair<QString, int>> layersOf(const Drawing& drawing, const Names& leftOut)
+{
+    std::multiset<std::pair<QString, int>> all;
+    for (const Layer& layer : drawing.layers()) {
+        const LayerProperties& properties = layer.properties;
+        const QString name = properties.name.toCaseFolded();
+        if (leftOut.count(name) == 0)
+            all.emplace(name, properties.off + 2 * properties.frozen + 4 * properties.locked);
+    }
+    return all;
+}
+
+QByteArray saved(Drawing& drawing)
+{
+    const QString path = fuzz::scratchFolder() + QStringLiteral("/out.dxf");
+    require(drawing.save(path).has_value(), "a drawing that was opened can be saved");
+    return fuzz::readFile(path);
+}
+
+/// The farthest that one of the edits of a step reached.
+fuzz::EditReach editInStep(Drawing& drawing, FuzzedDataProvider& bytes)
+{
+    fuzz::EditReach reach = fuzz::EditReach::Nothing;
+    drawing.beginStep(QStringLiteral("step"));
+    for (int i = bytes.ConsumeIntegralInRange(1, kMostEdits); i > 0; --i)
+        reach = std::max(reach, fuzz::editDrawing(drawing, bytes));
+    if (bytes.ConsumeBool()) {
+        drawing.commitStep();
+        return reach;
+    }
+    drawing.rollbackStep();
+    return fuzz::EditReach::Nothing;
+}
+
+} // namespace
+
+/// A drawing of any bytes: opened, shown, edited, saved and opened again.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const QByteArray file(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    QFile::remove(fuzz::scratchFolder() + QStringLiteral("/out.las"));
+    const QString path = fuzz::writeScratch("in.dxf", file);
+    const auto opened = Drawing::open(path);
+    if (!opened) {
+        require(opened.error().text.contains(path), "a refusal names the file");
+        return 0;
+    }
+    Drawing& drawing = **opened;
+    require(buildGeometry(drawing).has_value(), "every drawing can be shown");
+
+    // The integers come from the end of the bytes: past the drawing's own end, as a rule.
+    FuzzedDataProvider bytes(data, size);
+    const std::vector<Snapshot> before = snapshots(drawing, file);
+    const Names implied = impliedLayers(drawing, findLayerTables(file));
+    const fuzz::EditReach reach = editInStep(drawing, bytes);
+    const QByteArray result = saved(drawing);
+    if (reach == fuzz::EditReach::Nothing)
+        require(result == file, "what is not edited comes out the same");
+    if (reach == fuzz::EditReach::LayerRecord)
+        requireOnlyLayersDiffer(file, result);
+
+    const auto again = Drawing::open(drawing.path());
+    require(again.has_value(), "what was saved can be opened");
+    requireEntitiesKept(drawing, before, snapshots(**again, result));
+    require(layersOf(drawing, implied) == layersOf(**again, implied),
+        "layers and their flags are kept");
+
+    while (drawing.canUndo())
+        drawing.undo();
+    require(saved(drawing) == file, "undone edits leave no trace");
+    return 0;
+}

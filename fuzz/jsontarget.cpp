@@ -1,0 +1,72 @@
+#include "fuzzing.h"
+#include "vnjson.h"
+
+using namespace vnsi;
+
+namespace {
+
+void readEverything(const VnJsonPtr& node, const char* key)
+{
+    node->GetDataB(key);
+    node->GetDataI(key);
+    node->GetDataL(key);
+    node->GetDataS(key);
+    node->GetDataSW(key);
+    fuzz::require(node->HasKey(key) || !node->GetDataJ(key), "only what is there can be read");
+}
+
+void change(const VnJsonPtr& tree, FuzzedDataProvider& bytes)
+{
+    const std::string key = bytes.ConsumeRandomLengthString(12);
+    readEverything(tree, key.c_str());
+    const VnJsonPtr element = (*tree)(bytes.ConsumeIntegralInRange<int>(-1, 4));
+    const VnJsonPtr& target = element && bytes.ConsumeBool() ? element : tree;
+    switch (bytes.ConsumeIntegralInRange(0, 8)) {
+    case 0:
+        target->SetDataI(key.c_str(), bytes.ConsumeIntegral<int>());
+        break;
+    case 1:
+        target->SetDataS(key.c_str(), OdAnsiString(bytes.ConsumeRandomLengthString(12)));
+        break;
+    case 2:
+        target->SetDataJ(key.c_str(), tree); // Where it would hang in itself it must be refused.
+        break;
+    case 3:
+        target->SetDataJ(key.c_str(), ElementValue::createObject(1));
+        break;
+    case 4:
+        target->RemoveKey(key.c_str());
+        break;
+    case 5:
+        target->Append(bytes.ConsumeBool() ? tree : ElementValue::createArray());
+        break;
+    case 6:
+        target->Insert(bytes.ConsumeIntegral<int>(), ElementValue::createObject(0));
+        break;
+    case 7:
+        target->Remove(bytes.ConsumeIntegral<int>());
+        break;
+    default:
+        target->Clear();
+    }
+}
+
+} // namespace
+
+/// JSON texts to value trees, changes of any kind to them, and back to text.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    FuzzedDataProvider bytes(data, size);
+    const int changes = bytes.ConsumeIntegralInRange(0, 12);
+    std::string rest = bytes.ConsumeRandomLengthString(size);
+    const VnJsonPtr tree = ElementValue::fromJson(OdAnsiString(rest));
+    if (!tree)
+        return 0;
+    for (int i = 0; i < changes; ++i)
+        change(tree, bytes);
+    const OdAnsiString text = ElementValue::toJson(tree);
+    fuzz::require(ElementValue::toJson(ElementValue::clone(tree)) == text, "a copy is the same");
+    const VnJsonPtr again = ElementValue::fromJson(text);
+    fuzz::require(again && ElementValue::toJson(again) == text, "what is written can be read");
+    return 0;
+}

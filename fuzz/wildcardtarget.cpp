@@ -1,0 +1,50 @@
+#include "fuzzing.h"
+#include "vnstrings.h"
+
+#include <string>
+
+namespace {
+
+constexpr std::size_t kLongest = 400;
+constexpr std::size_t kMostRepeats = 64;
+
+std::wstring repeated(const std::wstring& text, std::size_t times)
+{
+    std::wstring all;
+    for (std::size_t i = 0; i < times; ++i)
+        all += text;
+    return all;
+}
+
+/// A pattern that stands for the text and nothing else.
+std::wstring escaped(const std::wstring& text)
+{
+    std::wstring pattern;
+    for (const wchar_t c : text)
+        pattern += {L'`', c};
+    return pattern;
+}
+
+} // namespace
+
+/// Patterns and texts, also very long ones: what is worse than text times pattern runs into the
+/// time limit.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    FuzzedDataProvider bytes(data, size);
+    const bool ignoreCase = bytes.ConsumeBool();
+    const std::size_t textTimes = bytes.ConsumeIntegralInRange<std::size_t>(1, kMostRepeats);
+    const std::size_t patternTimes = bytes.ConsumeIntegralInRange<std::size_t>(1, kMostRepeats);
+    const std::wstring text = repeated(fuzz::takeText(bytes, kLongest).toStdWString(), textTimes);
+    const std::wstring pattern =
+        repeated(fuzz::takeText(bytes, kLongest).toStdWString(), patternTimes);
+
+    const OdString name(text);
+    const bool matches = vnsi::vnsiutWcMatchEx(name, OdString(pattern), ignoreCase);
+    if (pattern.find_first_of(L",~`") == std::wstring::npos)
+        fuzz::require(vnsi::vnsiutWcMatchEx(name, OdString(L'~' + pattern), ignoreCase) != matches,
+            "a pattern and its negation exclude each other");
+    fuzz::require(vnsi::vnsiutWcMatchEx(name, OdString(escaped(text)), ignoreCase),
+        "an escaped text matches itself");
+    return 0;
+}

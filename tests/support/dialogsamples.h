@@ -1,0 +1,28 @@
+#pragma once
+
+#include "vnjson.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+/// A dialog of the module with a tree that lets it do all it can.
+struct DialogSample
+{
+    QString name;
+    QString tree;        ///< As JSON.
+    bool asksItsCommand; ///< Some of its buttons send requests.
+};
+
+/// All dialogs of the module; those that differ by their tree come once for each way.
+const std::vector<DialogSample>& dialogSamples();
+
+/// What a dialog of the host or of the module answers when it is left with OK, as JSON; an empty
+/// object where it only says so.
+QString answerOfDialog(const QString& name);
+
+/// The node itself and all containers in it.
+std::vector<vnsi::VnJsonPtr> containersIn(const vnsi::VnJsonPtr& node);
+/// The keys of an object's members.
+QStringList keysOf(const vnsi::VnJsonPtr& node);
