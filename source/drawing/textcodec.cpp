@@ -88,6 +88,15 @@ QString withEscapesResolved(const QString& text)
     }
 }
 
+/// Half a character at the end would be left out without a word: the line end behind it makes it
+/// one that cannot be read.
+QString decodePage(const QTextCodec& codec, QByteArray bytes)
+{
+    QString text = codec.toUnicode(bytes.append('\n'));
+    text.chop(1);
+    return text;
+}
+
 QByteArray escaped(ushort unit)
 {
     return "\\U+" + QByteArray::number(unit, 16).toUpper().rightJustified(4, '0');
@@ -111,7 +120,7 @@ QString TextCodec::decode(std::string_view value) const
     else if (!m_codec)
         text = QString::fromUtf8(value.data(), size);
     else
-        text = m_codec->toUnicode(value.data(), size);
+        text = decodePage(*m_codec, {value.data(), size});
     // Only now: in some code pages a backslash is also the second byte of a character.
     return text.contains(QLatin1Char('\\')) ? withEscapesResolved(text) : text;
 }

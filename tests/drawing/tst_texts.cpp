@@ -25,6 +25,7 @@ private slots:
         row("Big5", "AC1015", "ANSI_950", "\xa5\x5c", "功");
         row("Big5, backslash byte before U+", "AC1015", "ANSI_950", "\xa5\x5cU+58991", "功U+58991");
         row("Shift-JIS, backslash byte", "AC1015", "ANSI_932", "\x95\x5c", "表");
+        row("half a character", "AC1015", "ANSI_936", "A \xa0", QString("A ") + QChar(0xfffd));
         row("none named", "AC1009", "", "\xe9", "é");
         row("unknown one", "AC1009", "MARTIAN", "\xe9", "é");
         row("escape", "AC1015", "ANSI_1252", "a\\U+5899b", "a墙b");
