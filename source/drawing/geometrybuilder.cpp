@@ -175,8 +175,11 @@ void GeometryBuilder::emitDefinition(
             return;
         noteEndless(line, place, context);
     }
-    for (const Definition::Reference& reference : definition.references)
+    for (const Definition::Reference& reference : definition.references) {
+        if (isFull())
+            return;
         emitReference(reference, place, context, depth);
+    }
 }
 
 void GeometryBuilder::emitShape(const Definition& definition, const Definition::Shape& shape,
@@ -269,11 +272,13 @@ void GeometryBuilder::emitReference(const Definition::Reference& reference, cons
     const Context& context, int depth)
 {
     const auto block = static_cast<std::size_t>(reference.block);
-    if (depth >= kMaxDepth || m_active[block])
+    const bool isShown =
+        depth < kMaxDepth && !m_active[block] && !definitionOf(reference.block).isEmpty();
+    if (!isShown) {
+        ++m_instances; // Looking at one that shows nothing takes time, too.
         return;
+    }
     const Definition& definition = definitionOf(reference.block);
-    if (definition.isEmpty())
-        return;
     Context inner;
     inner.layer = layerOf(reference.style, context);
     inner.color = colorOf(reference.style, context);
