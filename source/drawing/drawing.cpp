@@ -100,8 +100,12 @@ Expected<std::unique_ptr<Drawing>> Drawing::open(
     std::unique_ptr<Drawing> drawing(new Drawing);
     if (const auto mapped = drawing->d->map(path); !mapped)
         return tl::make_unexpected(mapped.error());
-    if (const auto loaded = loadDrawing(drawing->d->data, path, progress); !loaded)
-        return tl::make_unexpected(loaded.error());
+    try {
+        if (const auto loaded = loadDrawing(drawing->d->data, path, progress); !loaded)
+            return tl::make_unexpected(loaded.error());
+    } catch (const std::bad_alloc&) {
+        return tl::make_unexpected(Error{tr("无法打开文件“%1”：内存不足。").arg(path), 0, false});
+    }
     if (owner) {
         drawing->d->file.moveToThread(owner);
         drawing->moveToThread(owner);

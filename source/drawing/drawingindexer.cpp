@@ -63,6 +63,8 @@ bool DrawingIndexer::next()
         return true;
     case ScanResult::BadCode:
         return fail(IndexFaultKind::BadCode, m_next - m_begin);
+    case ScanResult::TooLong:
+        return fail(IndexFaultKind::TooLong, m_tag.value - m_begin);
     default:
         return fail(IndexFaultKind::CutOff, m_end - m_begin);
     }

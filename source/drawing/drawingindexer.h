@@ -9,7 +9,7 @@ namespace drawing {
 
 struct Progress;
 
-enum class IndexFaultKind { NotTagged, BadCode, CutOff, SectionNotEnded, Cancelled };
+enum class IndexFaultKind { NotTagged, BadCode, TooLong, CutOff, SectionNotEnded, Cancelled };
 
 /// Why a file cannot be indexed, and where.
 struct IndexFault

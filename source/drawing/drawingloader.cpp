@@ -46,6 +46,11 @@ Error faultError(const DrawingData& data, const IndexFault& fault, const QString
         error.text = tr("文件“%1”第 %2 行的组码“%3”不是数字。")
                          .arg(fileName, line, shown(data.lineAt(fault.offset)));
         break;
+    case IndexFaultKind::TooLong:
+        error.text = tr("文件“%1”第 %2 行太长，超过 %3 MB，不能读取。")
+                         .arg(fileName, line)
+                         .arg(kLongestLine >> 20);
+        break;
     case IndexFaultKind::SectionNotEnded:
         error.text =
             tr("文件“%1”不完整：%3 段到第 %2 行仍没有 ENDSEC。").arg(fileName, line, section);

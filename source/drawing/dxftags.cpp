@@ -60,7 +60,7 @@ bool TagReader::next(Tag& tag)
     const char* const begin = m_bytes.data();
     RawTag raw;
     const ScanResult result = scanTag(begin + m_position, begin + m_bytes.size(), raw);
-    m_broken = result == ScanResult::CutOff || result == ScanResult::BadCode;
+    m_broken = result != ScanResult::Tag && result != ScanResult::End;
     if (result != ScanResult::Tag)
         return false;
     tag.code = raw.code;

@@ -9,7 +9,10 @@
 
 namespace drawing {
 
-enum class ScanResult { Tag, End, CutOff, BadCode };
+/// A longer line is refused: no text could hold the longest, and nothing that is meant needs it.
+constexpr std::ptrdiff_t kLongestLine = 1 << 24;
+
+enum class ScanResult { Tag, End, TooLong, CutOff, BadCode };
 
 /// One pair of lines as pointers into the bytes scanned; the fastest form of a tag.
 struct RawTag
@@ -73,6 +76,8 @@ inline ScanResult scanTag(const char* p, const char* end, RawTag& tag)
     tag.code = negative ? -code : code;
     tag.value = p;
     const char* const lineEnd = findLineEnd(p, end);
+    if (lineEnd - p > kLongestLine)
+        return ScanResult::TooLong;
     tag.after = lineEnd == end ? end : lineEnd + 1;
     tag.valueEnd = lineEnd != p && lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
     return ScanResult::Tag;
