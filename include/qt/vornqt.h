@@ -12,8 +12,8 @@
 namespace vnsi {
 
 /// Runs `work` on the user-interface thread and waits for it: at once when the caller is there,
-/// through the request service while a command runs elsewhere. Returns false when neither holds;
-/// `work` is then dropped.
+/// through the request service while a command runs elsewhere. Returns false when neither holds and
+/// when the service fails; `work` is then dropped.
 bool vnqtRunOnUiThread(const std::function<void()>& work);
 
 /// One question of a dialog to the running command.

@@ -62,6 +62,34 @@ void writeEnvelope(IElementValueBase& node, const VnQtRequest& request)
     node.SetDataI(request.codeKey, request.code);
 }
 
+/// Marks what the interface does for this thread while it lives.
+class ScrapMark
+{
+public:
+    explicit ScrapMark(int id) : m_id(id) { vnedPushUIScrap(id); }
+    ~ScrapMark() { vnedPopUIScrap(m_id); }
+    ScrapMark(const ScrapMark&) = delete;
+    ScrapMark& operator=(const ScrapMark&) = delete;
+
+private:
+    int m_id;
+};
+
+/// False where there is nobody to post to.
+bool postAndWait(const std::function<void()>& work)
+{
+    const auto server =
+        OdSmartPtr<VnRequestSvr>::castFrom(vn_arbitDict_getservice(L"Core/RequestSvr").get());
+    VnUiProxy* const proxy = server ? grUIProxy(server->currentDocument()) : nullptr;
+    if (!proxy)
+        return false;
+    const ScrapMark mark(proxy->scrapId());
+    int status = proxy->post(L"proxyRequest", OdRxObjectImpl<VnsiRequest>::createObject(work));
+    while (status != kVnRequestDone)
+        status = proxy->serviceReply();
+    return true;
+}
+
 } // namespace
 
 bool vnqtSendRequest(const VnJsonPtr& root, const OdRxObjectPtr& invoker,
@@ -95,21 +123,11 @@ bool vnqtRunOnUiThread(const std::function<void()>& work)
         work();
         return true;
     }
-    if (!vnedIsRunningInCommand())
-        return false;
-    const auto server =
-        OdSmartPtr<VnRequestSvr>::castFrom(vn_arbitDict_getservice(L"Core/RequestSvr").get());
-    VnUiProxy* proxy = server ? grUIProxy(server->currentDocument()) : nullptr;
-    if (!proxy)
-        return false;
-
-    const int scrap = proxy->scrapId();
-    vnedPushUIScrap(scrap);
-    int status = proxy->post(L"proxyRequest", OdRxObjectImpl<VnsiRequest>::createObject(work));
-    while (status != kVnRequestDone)
-        status = proxy->serviceReply();
-    vnedPopUIScrap(scrap);
-    return true;
+    try {
+        return vnedIsRunningInCommand() && postAndWait(work);
+    } catch (...) {
+        return false; // The caller may be a destructor, which nothing may leave.
+    }
 }
 
 VnQtUIModeDialogBase::VnQtUIModeDialogBase() : m_result(ElementValue::createObject(2)) {}
