@@ -205,7 +205,8 @@ QTableWidgetItem* LayerCells::makeItem(const LayerRecord& record, const LayerCol
 void LayerCells::refresh(QTableWidget& table, int row, int column, const LayerRecord& record,
     const LayerColumn& description)
 {
-    table.setItem(row, column, makeItem(record, description));
+    if (row < table.rowCount()) // Else the table would not take it.
+        table.setItem(row, column, makeItem(record, description));
 }
 
 void LayerCells::fill(QTableWidget& table, const std::vector<LayerRecord>& records,

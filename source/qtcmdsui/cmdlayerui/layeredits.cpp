@@ -24,7 +24,7 @@ void refuseToFreezeCurrent()
     vnuiMessageBox(L"不能冻结当前图层\n", kProductName, kVnIconInformation);
 }
 
-bool editColor(LayerRecord& record, const VnJsonPtr& question, QWidget* parent)
+bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent)
 {
     const LayerColor color = record.color();
     question->SetDataL("selectClr", color.chosenValue());
@@ -39,7 +39,7 @@ bool editColor(LayerRecord& record, const VnJsonPtr& question, QWidget* parent)
     return true;
 }
 
-bool editTransparency(LayerRecord& record)
+bool editTransparency(LayerRecord record)
 {
     VnJsonPtr tree = ElementValue::createObject(2);
     tree->SetDataI("transparency", record.number(layerkey::kTransparency));

@@ -13,8 +13,8 @@ bool asksToKeepCurrentOn();
 void refuseToFreezeCurrent();
 /// Lets the user choose another colour in the host's dialog, whose tree is `question`; true when
 /// the record holds a new one.
-bool editColor(LayerRecord& record, const VnJsonPtr& question, QWidget* parent);
+bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent);
 /// Lets the user choose another transparency; true when the record holds a new one.
-bool editTransparency(LayerRecord& record);
+bool editTransparency(LayerRecord record);
 
 } // namespace vnsi::layeredits

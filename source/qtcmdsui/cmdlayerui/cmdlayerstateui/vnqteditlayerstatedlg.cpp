@@ -174,16 +174,24 @@ void VnQtEditLayerStateDlg::applyColumnWidths()
         m_table->setColumnWidth(column, widths(column)->asI());
 }
 
+/// Rows may have gone while a question was open.
+bool VnQtEditLayerStateDlg::isRow(int row) const
+{
+    return row >= 0 && row < static_cast<int>(m_rows.size());
+}
+
 void VnQtEditLayerStateDlg::showCell(int row, int column)
 {
+    if (!isRow(row))
+        return;
     m_cells.refresh(*m_table, row, column, m_rows[static_cast<std::size_t>(row)], kColumns[column]);
 }
 
 void VnQtEditLayerStateDlg::slot_TableCellClicked(int row, int column)
 {
-    if (row < 0 || row >= static_cast<int>(m_rows.size()))
+    if (!isRow(row))
         return;
-    LayerRecord& clicked = m_rows[static_cast<std::size_t>(row)];
+    const LayerRecord clicked = m_rows[static_cast<std::size_t>(row)];
     switch (column) {
     case kName:
         makeCurrent(row);
@@ -193,7 +201,7 @@ void VnQtEditLayerStateDlg::slot_TableCellClicked(int row, int column)
     case kLock:
     case kPrint:
     case kVPortFrozen:
-        if (mayToggle(row, column))
+        if (mayToggle(row, column) && isRow(row))
             toggle(row, column);
         break;
     case kColor: {

@@ -43,6 +43,7 @@ private:
     void makeCurrent(int row);
     bool mayToggle(int row, int column) const;
     void toggle(int row, int column);
+    bool isRow(int row) const;
     void showCell(int row, int column);
     VnJsonPtr missingLayers() const;
     void send(int code);
