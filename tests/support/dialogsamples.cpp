@@ -2,6 +2,8 @@
 
 #include "trees.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 using namespace vnsi;
@@ -128,16 +130,20 @@ QString answerOfDialog(const QString& name)
 std::vector<VnJsonPtr> containersIn(const VnJsonPtr& node)
 {
     std::vector<VnJsonPtr> all;
-    if (node)
-        all.push_back(node);
+    QSet<IElementValueBase*> known; // Nodes may hang in several places.
+    const auto add = [&](const VnJsonPtr& each) {
+        if (each && !known.contains(each.get())) {
+            known.insert(each.get());
+            all.push_back(each);
+        }
+    };
+    add(node);
     for (std::size_t at = 0; at < all.size(); ++at) {
         const VnJsonPtr each = all[at];
         for (int i = 0, count = each.ArrayCount(); i < count; ++i)
-            all.push_back(each(i));
-        for (const QString& key : keysOf(each)) {
-            if (const VnJsonPtr child = each->GetDataJ(key.toUtf8().constData()))
-                all.push_back(child);
-        }
+            add(each(i));
+        for (const QString& key : keysOf(each))
+            add(each->GetDataJ(key.toUtf8().constData()));
     }
     return all;
 }

@@ -2,6 +2,7 @@
 
 #include "vnjson.h"
 
+#include <QMetaType>
 #include <QStringList>
 
 #include <functional>
@@ -14,6 +15,8 @@ struct DialogSample
     QString tree;        ///< As JSON.
     bool asksItsCommand; ///< Some of its buttons send requests.
 };
+
+Q_DECLARE_METATYPE(DialogSample)
 
 /// All dialogs of the module; those that differ by their tree come once for each way.
 const std::vector<DialogSample>& dialogSamples();
