@@ -17,6 +17,9 @@
 #include <QToolButton>
 #include <QtTest>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace {
 
 const QByteArray kLine = "0 LINE 8 A 10 0 20 0 11 1 21 0 ";
@@ -254,20 +257,38 @@ private slots:
         QVERIFY(action("OPEN")->isEnabled());
     }
 
+    void failedSaveKeepsTheDrawing_data()
+    {
+        const Rows<bool> row("isFull");
+        row("folder gone", false);
+        row("no room", true);
+    }
+
     void failedSaveKeepsTheDrawing()
     {
+        QFETCH(bool, isFull);
         QVERIFY(open(kLine));
         turnOff("A", "x");
-        QDir folder = QFileInfo(m_window->drawing()->path()).dir();
-        QVERIFY(folder.removeRecursively());
+        const QString path = m_window->drawing()->path();
+        const QByteArray content = contentOf(path);
+        QVERIFY(isFull || QFileInfo(path).dir().removeRecursively());
+        // A limit on file sizes fails a write half-way, as a full disk does.
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit usual{};
+        getrlimit(RLIMIT_FSIZE, &usual);
+        const rlimit low{isFull ? 10 : usual.rlim_cur, usual.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &low);
         // Closing with "save" must not close over a failure.
         BoxAnswerer answerer({QStringLiteral("保存"), QStringLiteral("确定")});
-        QVERIFY(!m_window->close());
-        QVERIFY(answerer.waitForAll());
+        const bool isClosed = m_window->close();
+        const bool isAnswered = answerer.waitForAll();
+        setrlimit(RLIMIT_FSIZE, &usual);
+        QVERIFY(!isClosed && isAnswered);
         QVERIFY(answerer.texts()[1].contains("sketch.dxf"));
         QVERIFY(m_window->isWindowModified());
         QVERIFY(m_window->drawing()->findLayer("A")->properties.off);
         QVERIFY(action("SAVE")->isEnabled());
+        QVERIFY(!isFull || contentOf(path) == content);
     }
 
 private:

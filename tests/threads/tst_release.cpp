@@ -1,0 +1,217 @@
+#include "RxObjectImpl.h"
+#include "documents.h"
+#include "hoststart.h"
+#include "requests.h"
+#include "vnjson.h"
+#include "vnservicedict.h"
+#include "vornqt.h"
+
+#include <QApplication>
+#include <QThread>
+#include <QtTest>
+
+#include <atomic>
+#include <dlfcn.h>
+#include <thread>
+#include <vector>
+
+#ifdef __SANITIZE_THREAD__
+extern "C" {
+void __tsan_acquire(void* address);
+void __tsan_release(void* address);
+}
+#else
+static void __tsan_acquire(void*) {}
+static void __tsan_release(void*) {}
+#endif
+
+namespace {
+
+int posted = 0; // Stands for the queue of events, whose locks the sanitizer does not see in Qt.
+
+} // namespace
+
+/// In place of Qt's, through which functions are posted to another thread: tells the sanitizer that
+/// what was written before is seen where the function is run.
+bool QMetaObject::invokeMethodImpl(
+    QObject* object, QtPrivate::QSlotObjectBase* slot, Qt::ConnectionType type, void* result)
+{
+    using Function = bool (*)(QObject*, QtPrivate::QSlotObjectBase*, Qt::ConnectionType, void*);
+    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT,
+        "_ZN11QMetaObject16invokeMethodImplEP7QObjectPN9QtPrivate15QSlotObjectBaseEN2Qt"
+        "14ConnectionTypeEPv"));
+    __tsan_release(&posted);
+    return original(object, slot, type, result);
+}
+
+using namespace vnsi;
+
+namespace {
+
+/// A way to the interface that breaks down when something is posted.
+class BrokenProxy : public VnUiProxy
+{
+public:
+    int scrapId() const override { return 1; }
+    int post(const OdString&, const OdRxObjectPtr&) override { throw OdError_InvalidIndex(); }
+    int serviceReply() override { return kVnRequestDone; }
+};
+
+VnUiProxy* brokenProxy = nullptr;
+
+} // namespace
+
+/// In place of the host's, so that it can be broken.
+VnUiProxy* vnsi::grUIProxy(const VnDocumentPtr& document)
+{
+    using Function = VnUiProxy* (*)(const VnDocumentPtr&);
+    static const auto original = reinterpret_cast<Function>(
+        dlsym(RTLD_NEXT, "_ZN4vnsi9grUIProxyERK10OdSmartPtrINS_10VnDocumentEE"));
+    return brokenProxy ? brokenProxy : original(document);
+}
+
+namespace {
+
+constexpr int kThreads = 4;
+constexpr int kDialogs = 50; ///< Of each thread.
+
+class Application : public QApplication
+{
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        if (event->type() == QEvent::MetaCall)
+            __tsan_acquire(&posted);
+        return QApplication::notify(receiver, event);
+    }
+};
+
+std::atomic<int> made{0};
+std::atomic<int> deletedElsewhere{0};
+
+class Probe : public VnQtModeDialogImpl<Probe, QDialog>
+{
+public:
+    Probe(VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags)
+        : VnQtModeDialogImpl(wrapper, parent, flags)
+    {
+        ++made;
+    }
+    ~Probe() override
+    {
+        deletedElsewhere += QThread::currentThread() != qApp->thread();
+        --made;
+    }
+};
+
+using Wrapper = VnQtModeDialog<Probe>;
+
+VnUiModeDialogBasePtr makeDialog()
+{
+    VnUiModeDialogBasePtr dialog = VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
+    dialog->createDialog(nullptr, 0, "probe");
+    return dialog;
+}
+
+/// Runs `work` on threads of their own while the interface goes on, until all are done.
+void runOnThreads(const std::function<void(int thread)>& work)
+{
+    std::atomic<int> running{kThreads};
+    std::vector<std::thread> threads;
+    for (int i = 0; i < kThreads; ++i)
+        threads.emplace_back([&, i] {
+            work(i);
+            --running;
+        });
+    while (running > 0)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    for (std::thread& thread : threads)
+        thread.join();
+}
+
+} // namespace
+
+class TestRelease : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void deletesOnInterfaceThread()
+    {
+        const host::CommandScope command;
+        std::vector<std::vector<VnUiModeDialogBasePtr>> dialogs(kThreads);
+        for (auto& own : dialogs) {
+            for (int i = 0; i < kDialogs; ++i)
+                own.push_back(makeDialog());
+        }
+        runOnThreads([&](int thread) { dialogs[static_cast<std::size_t>(thread)].clear(); });
+        QCOMPARE(made.load(), 0);
+        QCOMPARE(deletedElsewhere.load(), 0);
+        QCOMPARE(host::markedScraps(), 0);
+    }
+
+    /// All threads drop the same dialogs: whoever is last has it deleted, once.
+    void sharesReferences()
+    {
+        const host::CommandScope command;
+        std::vector<VnUiModeDialogBasePtr> dialogs;
+        for (int i = 0; i < kDialogs; ++i)
+            dialogs.push_back(makeDialog());
+        std::vector<std::vector<VnUiModeDialogBasePtr>> shares(kThreads, dialogs);
+        dialogs.clear();
+        runOnThreads([&](int thread) {
+            for (VnUiModeDialogBasePtr& dialog : shares[static_cast<std::size_t>(thread)]) {
+                const VnUiModeDialogBasePtr other = dialog;
+                dialog = {};
+            }
+        });
+        QCOMPARE(made.load(), 0);
+        QCOMPARE(deletedElsewhere.load(), 0);
+    }
+
+    void sharesTreesAndObjects()
+    {
+        VnJsonPtr tree = ElementValue::createObject(2);
+        tree->SetDataJ("LayerList", ElementValue::createArray());
+        const std::vector<VnJsonPtr> trees(kThreads, tree);
+        const OdRxObjectPtr object = host::makeDocument();
+        runOnThreads([&](int thread) {
+            for (int i = 0; i < 1000; ++i) {
+                const VnJsonPtr copy = trees[static_cast<std::size_t>(thread)];
+                const VnJsonPtr list = copy->GetDataJ("LayerList");
+                const OdRxObjectPtr other = object;
+                const OdRxObjectPtr service = vn_arbitDict_getservice(L"Core/RequestSvr");
+            }
+        });
+        QCOMPARE(object->numRefs(), 1L);
+    }
+
+    void keepsDialogWhenPostingFails()
+    {
+        const host::CommandScope command;
+        VnUiModeDialogBase* const dialog = makeDialog().detach();
+        BrokenProxy broken;
+        brokenProxy = &broken;
+        runOnThreads([&](int thread) {
+            if (thread == 0)
+                dialog->release();
+        });
+        brokenProxy = nullptr;
+        QCOMPARE(made.load(), 1);
+        QCOMPARE(host::markedScraps(), 0);
+        delete dialog;
+    }
+
+private:
+    host::Host m_host;
+};
+
+int main(int count, char** arguments)
+{
+    Application application(count, arguments);
+    TestRelease test;
+    return QTest::qExec(&test, count, arguments);
+}
+
+#include "tst_release.moc"
