@@ -5,6 +5,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <set>
 
 using namespace drawing;
@@ -82,9 +83,19 @@ void requireOnlyLayersDiffer(const QByteArray& before, const QByteArray& after)
         "a layer's flag changes nothing outside the layer table");
 }
 
+/// Whether handles may point to nothing now, and are cleared wherever they stand.
+bool hasRemovals(const Drawing& drawing, const std::vector<Layer>& layersBefore)
+{
+    const auto& entities = drawing.entities();
+    return std::any_of(entities.begin(), entities.end(),
+               [](const Entity& entity) { return entity.removed; }) ||
+           std::any_of(layersBefore.begin(), layersBefore.end(),
+               [&](const Layer& layer) { return !drawing.layer(layer.id); });
+}
+
 /// What did not come to another layer and refers to none is what it was, byte for byte.
-void requireEntitiesKept(
-    const Drawing& drawing, const std::vector<Snapshot>& before, const std::vector<Snapshot>& after)
+void requireEntitiesKept(const Drawing& drawing, const std::vector<Snapshot>& before,
+    const std::vector<Snapshot>& after, bool areHandlesCleared)
 {
     std::size_t at = 0;
     for (std::size_t i = 0; i < before.size(); ++i) {
@@ -172,6 +183,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzedDataProvider bytes(data, size);
     const std::vector<Snapshot> before = snapshots(drawing, file);
     const Names implied = impliedLayers(drawing, findLayerTables(file));
+    const std::vector<Layer> layersBefore = drawing.layers();
     const fuzz::EditReach reach = editInStep(drawing, bytes);
     const QByteArray result = saved(drawing);
     if (reach == fuzz::EditReach::Nothing)
@@ -181,7 +193,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const auto again = Drawing::open(drawing.path());
     require(again.has_value(), "what was saved can be opened");
-    requireEntitiesKept(drawing, before, snapshots(**again, result));
+    requireEntitiesKept(
+        drawing, before, snapshots(**again, result), hasRemovals(drawing, layersBefore));
     require(layersOf(drawing, implied) == layersOf(**again, implied),
         "layers and their flags are kept");
 

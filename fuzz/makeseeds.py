@@ -59,6 +59,7 @@ def main():
         small = cut_down(drawing.read_bytes())
         for number in range(8):
             write("drawing", f"{drawing.stem}-{number}", small + chance.randbytes(24))
+        write("standards", drawing.stem, small)
     for kind in handmade.iterdir():
         for seed in kind.iterdir():
             write(kind.name, seed.name, seed.read_bytes())
