@@ -18,7 +18,7 @@ using Rows = VnQtLayWalkListWgt::Rows;
 /// A pattern that only this name matches.
 QString literally(const QString& name)
 {
-    constexpr QLatin1String kSigns("#@.*?~[]-,`");
+    const QLatin1String kSigns("#@.*?~[]-,`");
     QString pattern;
     for (const QChar c : name) {
         if (QString(kSigns).contains(c))
