@@ -17,22 +17,24 @@ namespace vnsi {
 
 namespace {
 
+constexpr int kCellMargin = 16;
+
 struct MappingColumn
 {
     const char* header;
-    int width;
+    const char* widest; ///< A text that fits into the column in whatever font.
     /// What the column shows of a target; null for the layer that is mapped.
     QString (TargetRecord::*text)() const;
 };
 
 constexpr MappingColumn kColumns[] = {
-    {QT_TR_NOOP("旧图层名"), 150, nullptr},
-    {QT_TR_NOOP("新图层名"), 150, &TargetRecord::name},
-    {QT_TR_NOOP("颜色"), 150, &TargetRecord::colorText},
-    {QT_TR_NOOP("线型"), 120, &TargetRecord::linetype},
-    {QT_TR_NOOP("线宽"), 95, &TargetRecord::lineWidthText},
-    {QT_TR_NOOP("透明度"), 70, &TargetRecord::transparencyText},
-    {QT_TR_NOOP("打印样式"), 90, &TargetRecord::plotStyle},
+    {QT_TR_NOOP("旧图层名"), "A-FLOR-PATT", nullptr},
+    {QT_TR_NOOP("新图层名"), "A-FLOR-PATT", &TargetRecord::name},
+    {QT_TR_NOOP("颜色"), "RGB:255,255,255", &TargetRecord::colorText},
+    {QT_TR_NOOP("线型"), "Continuous", &TargetRecord::linetype},
+    {QT_TR_NOOP("线宽"), "0.25 mm", &TargetRecord::lineWidthText},
+    {QT_TR_NOOP("透明度"), "透明度", &TargetRecord::transparencyText},
+    {QT_TR_NOOP("打印样式"), "Color_255", &TargetRecord::plotStyle},
 };
 
 QString mappedName(const VnJsonPtr& mapping)
@@ -124,7 +126,8 @@ VnQtLaytransQTableWgt::VnQtLaytransQTableWgt(QWidget* parent) : QTableWidget(par
     setColumnCount(static_cast<int>(std::size(kColumns)));
     QStringList headers;
     for (const MappingColumn& column : kColumns) {
-        setColumnWidth(headers.size(), column.width);
+        const int text = fontMetrics().horizontalAdvance(QString::fromUtf8(column.widest));
+        setColumnWidth(headers.size(), text + kCellMargin);
         headers.append(tr(column.header));
     }
     setHorizontalHeaderLabels(headers);
