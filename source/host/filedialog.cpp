@@ -55,8 +55,11 @@ void FileDialog::readKeys(const vnsi::VnJsonPtr& tree)
     setLabelText(Accept, isOpening ? tr("打开(&O)") : tr("保存(&S)"));
     setLabelText(Reject, tr("取消"));
 
-    const QStringList filters = splitFilters(text(tree, "filter"));
-    setNameFilters(filters.isEmpty() ? QStringList{tr("所有文件 (*)")} : filters);
+    QStringList filters = splitFilters(text(tree, "filter"));
+    // Drawings come under many endings; one that the caller did not think of must be found, too.
+    if (filters.isEmpty() || (isOpening && !filters.join(QString()).contains(QLatin1String("(*)"))))
+        filters.append(tr("所有文件 (*)"));
+    setNameFilters(filters);
     const QString folder = text(tree, "dir");
     // Who saves may give the name to start from in the folder's place.
     const bool isName = !isOpening && !folder.isEmpty() && !QFileInfo(folder).isDir();

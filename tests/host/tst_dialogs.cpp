@@ -137,23 +137,23 @@ private slots:
 
     void readsFileKeys_data()
     {
-        // Seen are title, for opening, several files, selected filter, suffix.
+        // Seen are title, for opening, several files, selected filter, suffix, number of filters.
         const Rows<QString, QString> row("keys", "seen");
         row("layer-state export",
             R"({"caption":"输出图层状态","Open":false,"MutiFile":false,)"
             "\"filter\":\"图层状态(*.las)\",\"defFilter\":\"图层状态(*.las)\"}",
-            "输出图层状态|0|0|图层状态(*.las)|las");
-        row("title before caption", R"({"title":"t","caption":"c"})", "t|1|0|所有文件 (*)|");
+            "输出图层状态|0|0|图层状态(*.las)|las|1");
+        row("title before caption", R"({"title":"t","caption":"c"})", "t|1|0|所有文件 (*)||1");
         row("several to open",
             "{\"title\":\"t\",\"Open\":true,\"MutiFile\":true,\"filter\":\"A(*.a);;B(*.b)\","
             "\"defFilter\":\"B(*.b)\"}",
-            "t|1|1|B(*.b)|");
+            "t|1|1|B(*.b)||3");
         row("saved by flag", "{\"title\":\"t\",\"flags\":1,\"filter\":\"A(*.a)\"}",
-            "t|0|0|A(*.a)|a");
+            "t|0|0|A(*.a)|a|1");
         row("opened in spite of the flag",
-            "{\"title\":\"t\",\"flags\":1,\"Open\":true,\"filter\":\"A(*.a)\"}", "t|1|0|A(*.a)|");
+            "{\"title\":\"t\",\"flags\":1,\"Open\":true,\"filter\":\"A(*.a)\"}", "t|1|0|A(*.a)||2");
         row("keys of other types", R"({"title":1,"filter":true,"dir":{},"Open":5})",
-            "选择文件|1|0|所有文件 (*)|");
+            "选择文件|1|0|所有文件 (*)||1");
     }
 
     void readsFileKeys()
@@ -166,7 +166,8 @@ private slots:
             seen = QStringList{files.windowTitle(),
                 QString::number(files.acceptMode() == QFileDialog::AcceptOpen),
                 QString::number(files.fileMode() == QFileDialog::ExistingFiles),
-                files.selectedNameFilter(), files.defaultSuffix()}
+                files.selectedNameFilter(), files.defaultSuffix(),
+                QString::number(files.nameFilters().size())}
                        .join('|');
             dialog.reject();
         });
