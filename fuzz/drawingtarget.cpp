@@ -52,10 +52,10 @@ LayerTables findLayerTables(const QByteArray& file)
     bool isInside = false, isLayer = false;
     for (; reader.next(tag); last = tag) {
         const std::string_view opened =
-            tag.code == 2 && last.code == 0 ? last.trimmed() : std::string_view();
+            tag.code == 2 && last.code == 0 ? last.value : std::string_view();
         if (opened == "SECTION")
-            section = tag.trimmed();
-        if (opened == "TABLE" && tag.trimmed() == "LAYER" && section == "TABLES") {
+            section = tag.value;
+        if (opened == "TABLE" && tag.value == "LAYER" && section == "TABLES") {
             isInside = true;
             found.begin = found.begin < 0 ? last.begin : found.begin;
         }
@@ -63,11 +63,11 @@ LayerTables findLayerTables(const QByteArray& file)
             continue;
         found.end = tag.end;
         if (tag.code == 0)
-            isLayer = tag.trimmed() == "LAYER";
+            isLayer = tag.value == "LAYER";
         if (tag.code == 2 && isLayer)
             found.names.push_back(tag.value);
         found.records += tag.code == 0 && isLayer;
-        isInside = tag.code != 0 || tag.trimmed() != "ENDTAB";
+        isInside = tag.code != 0 || tag.value != "ENDTAB";
     }
     return found;
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets and runs each for a while: fuzz.sh [seconds] [target...]
 # Seeds, what was learnt and faults found are kept in build/fuzz/run. Fails when a fault was found.
+# FUZZ_SEED=1 makes a first run take the same way each time.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-30}
@@ -26,7 +27,7 @@ fuzz_one() {
     [ "$target" = dialog ] && extra=(-detect_leaks=0)
     if nice "$bin/fuzz_$target" "$run/corpus/$target" "$run/seeds/$target" "${extra[@]}" \
         -max_total_time="$seconds" -timeout=20 -rss_limit_mb=2048 -max_len=40000 \
-        -print_final_stats=1 -artifact_prefix="$run/faults/$target-" >"$run/$target.log" 2>&1; then
+        -seed="${FUZZ_SEED:-0}" -print_final_stats=1 -artifact_prefix="$run/faults/$target-" >"$run/$target.log" 2>&1; then
         echo "$target: $(executions) executions, no fault"
     else
         echo "$target: $(executions) executions, FAULT, see $run/$target.log"
