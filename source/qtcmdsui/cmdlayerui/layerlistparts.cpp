@@ -1,5 +1,6 @@
 #include "layerlistparts.h"
 
+#include "layernamedelegate.h"
 #include "layerrecord.h"
 #include "vnmessages.h"
 #include "vnstrings.h"
@@ -13,6 +14,7 @@ namespace vnsi::layerlist {
 QListWidget* makeList(QDialog& dialog)
 {
     auto* list = new QListWidget(&dialog);
+    list->setItemDelegate(new LayerNameDelegate(list));
     list->setObjectName(QStringLiteral("layerList"));
     return list;
 }

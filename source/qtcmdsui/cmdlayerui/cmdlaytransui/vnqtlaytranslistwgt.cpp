@@ -1,6 +1,7 @@
 #include "vnqtlaytranslistwgt.h"
 
 #include "layercells.h"
+#include "layernamedelegate.h"
 #include "targetrecord.h"
 #include "translatorkeys.h"
 #include "vnstrings.h"
@@ -49,6 +50,7 @@ VnQtLaytransListWgt::VnQtLaytransListWgt(QWidget* parent)
     : QListWidget(parent),
       m_menu(new QMenu(this))
 {
+    setItemDelegate(new LayerNameDelegate(this));
 }
 
 void VnQtLaytransListWgt::contextMenuEvent(QContextMenuEvent* event)

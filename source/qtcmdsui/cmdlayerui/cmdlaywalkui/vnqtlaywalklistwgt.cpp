@@ -1,5 +1,7 @@
 #include "vnqtlaywalklistwgt.h"
 
+#include "layernamedelegate.h"
+
 #include <QMouseEvent>
 
 #include <utility>
@@ -8,6 +10,7 @@ namespace vnsi {
 
 VnQtLayWalkListWgt::VnQtLayWalkListWgt(QWidget* parent) : QListWidget(parent)
 {
+    setItemDelegate(new LayerNameDelegate(this));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, &QListWidget::itemClicked, this, [this] { m_isEdited = false; });
