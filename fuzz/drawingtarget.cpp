@@ -43,6 +43,13 @@ struct LayerTables
     std::vector<std::string_view> names;
 };
 
+/// A table that is not closed ends where the next one, its section or the file does.
+bool endsTable(std::string_view kind)
+{
+    constexpr std::string_view kEnds[] = {"ENDTAB", "TABLE", "ENDSEC", "SECTION", "EOF"};
+    return std::find(std::begin(kEnds), std::end(kEnds), kind) != std::end(kEnds);
+}
+
 LayerTables findLayerTables(const QByteArray& file)
 {
     LayerTables found;
@@ -67,7 +74,7 @@ LayerTables findLayerTables(const QByteArray& file)
         if (tag.code == 2 && isLayer)
             found.names.push_back(tag.value);
         found.records += tag.code == 0 && isLayer;
-        isInside = tag.code != 0 || tag.value != "ENDTAB";
+        isInside = tag.code != 0 || !endsTable(tag.value);
     }
     return found;
 }
