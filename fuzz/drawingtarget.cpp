@@ -71,9 +71,12 @@ LayerTables findLayerTables(const QByteArray& file)
         found.end = tag.end;
         if (tag.code == 0)
             isLayer = tag.value == "LAYER";
+        if (tag.code == 0 && isLayer) {
+            ++found.records;
+            found.names.emplace_back();
+        }
         if (tag.code == 2 && isLayer)
-            found.names.push_back(tag.value);
-        found.records += tag.code == 0 && isLayer;
+            found.names.back() = tag.value; // Of several the last one counts.
         isInside = tag.code != 0 || !endsTable(tag.value);
     }
     return found;
