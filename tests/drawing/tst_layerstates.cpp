@@ -11,7 +11,7 @@ namespace {
 LayerState everything(const Drawing& drawing, const QString& name)
 {
     LayerState state = captureLayerState(drawing, name);
-    state.description = QStringLiteral("说明\n第二行");
+    state.description = QStringLiteral("说明 ^J 2^ 3\n\t第二行^");
     return state;
 }
 

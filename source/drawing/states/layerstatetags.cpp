@@ -30,15 +30,52 @@ enum Flag { kOff = 1, kFrozen = 2, kLocked = 4, kPlotted = 8, kNewFrozen = 16, k
 constexpr qint64 kByTrueColor = 0xc2;
 constexpr int kLastColorIndex = 255;
 
-/// A value is one line: line ends within a description are written as other programs do.
-QString onOneLine(const QString& text)
+/// How far a control character is from the letter that stands for it behind a caret.
+constexpr ushort kCaretShift = '@';
+
+bool isControl(QChar character)
 {
-    return QString(text).replace(QLatin1Char('\n'), QLatin1String("^J"));
+    return character.unicode() > 0 && character.unicode() < ' ';
 }
 
-QString onSeveralLines(const QString& text)
+/// A value is one line: line ends and other control characters are written as a caret and a letter,
+/// and a caret with a blank behind it, so that a text with "^J" in it is not taken for a line end.
+QString onOneLine(const QString& text)
 {
-    return QString(text).replace(QLatin1String("^J"), QLatin1String("\n"));
+    QString line;
+    line.reserve(text.size());
+    for (const QChar character : text) {
+        if (isControl(character))
+            line += QLatin1Char('^') + QChar(character.unicode() + kCaretShift);
+        else if (character == QLatin1Char('^'))
+            line += QLatin1String("^ ");
+        else
+            line += character;
+    }
+    return line;
+}
+
+/// What the two characters of an escape stand for; null when they are none.
+QChar escaped(const QString& line, int at)
+{
+    if (line.at(at) != QLatin1Char('^') || at + 1 == line.size())
+        return {};
+    if (line.at(at + 1) == QLatin1Char(' '))
+        return line.at(at);
+    const QChar meant(static_cast<ushort>(line.at(at + 1).unicode() - kCaretShift));
+    return isControl(meant) ? meant : QChar();
+}
+
+QString onSeveralLines(const QString& line)
+{
+    QString text;
+    text.reserve(line.size());
+    for (int at = 0; at < line.size(); ++at) {
+        const QChar meant = escaped(line, at);
+        text += meant.isNull() ? line.at(at) : meant;
+        at += meant.isNull() ? 0 : 1;
+    }
+    return text;
 }
 
 void readFlags(qint64 flags, LayerStateLayer& layer)
