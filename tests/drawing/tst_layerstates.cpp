@@ -1,6 +1,7 @@
 #include "fixture.h"
 #include "layerstatefile.h"
 #include "readback.h"
+#include "rows.h"
 
 #include <QDirIterator>
 
@@ -79,6 +80,8 @@ private slots:
     void restored_data();
     void restored();
     void restoredWithCurrent();
+    void keepsCurrent_data();
+    void keepsCurrent();
     void namedPlotStyles();
 
 private:
@@ -505,6 +508,42 @@ void TestLayerStates::restoredWithCurrent()
     drawing->commitStep();
     restore(*drawing, state, {});
     QVERIFY(!drawing->findLayer(QStringLiteral("0"))->properties.frozen);
+}
+
+void TestLayerStates::keepsCurrent_data()
+{
+    const Rows<bool, bool, int, bool> row("frozenNow", "frozenSaved", "mask", "isKept");
+    row("thawed by the state", true, false, kStateEverything, false);
+    row("stays frozen", true, false, kStateEverything & ~kStateFreeze, true);
+    row("is frozen by the state", false, true, kStateEverything, true);
+    row("would be frozen by the state", false, true, kStateColor, false);
+}
+
+/// A layer that ends up frozen never becomes current, nor is it thawed to become so.
+void TestLayerStates::keepsCurrent()
+{
+    QFETCH(bool, frozenNow);
+    QFETCH(bool, frozenSaved);
+    QFETCH(int, mask);
+    QFETCH(bool, isKept);
+    const auto drawing = opened(House().bytes());
+    const QString before = drawing->layer(drawing->currentLayer())->properties.name;
+    const QString wanted = QStringLiteral("Empty");
+    QVERIFY(before != wanted);
+    QVERIFY(edit(*drawing, wanted, [&](LayerProperties& p) { p.frozen = frozenNow; }).isEmpty());
+    LayerState state = captureLayerState(*drawing, QStringLiteral("S"));
+    state.currentLayer = wanted;
+    for (LayerStateLayer& layer : state.layers)
+        layer.properties.frozen = frozenSaved && layer.properties.name == wanted;
+    LayerStateRestore how;
+    how.mask = mask;
+    const QStringList notices = restore(*drawing, state, how);
+    const Layer* current = drawing->layer(drawing->currentLayer());
+    QCOMPARE(current->properties.name, isKept ? before : wanted);
+    QVERIFY(!current->properties.frozen);
+    QCOMPARE(drawing->findLayer(wanted)->properties.frozen, isKept);
+    QCOMPARE(notices.size(), isKept ? 1 : 0);
+    QVERIFY(!isKept || (notices.first().contains(wanted) && notices.first().contains(before)));
 }
 
 /// Plot styles come back by name where the drawing has them, and leave nothing else changed.

@@ -101,6 +101,7 @@ public:
 
 private:
     void makeCurrent();
+    bool willBeFrozen(const Layer& layer) const;
     void overrideLayers();
     void noteUnheldStyles(const std::vector<LayerInViewport>& layers);
     void restoreVisibility();
@@ -138,11 +139,31 @@ QStringList Restoring::run()
     return m_notices;
 }
 
+/// A frozen layer cannot be current, and none is thawed for it: whether the state's will be frozen
+/// is looked up before the layers change, as the present one is then free to be frozen.
 void Restoring::makeCurrent()
 {
-    const Layer* current = m_drawing.findLayer(m_state.currentLayer);
-    if (current && !current->dependsOnReference)
-        m_drawing.setCurrentLayer(current->id);
+    const Layer* wanted = m_drawing.findLayer(m_state.currentLayer);
+    const LayerId present = m_drawing.currentLayer();
+    if (!wanted || wanted->id == present || wanted->dependsOnReference)
+        return;
+    if (willBeFrozen(*wanted))
+        m_notices += tr("图层“%1”恢复后是冻结的，不能置为当前；当前图层仍为“%2”。")
+                         .arg(wanted->properties.name, nameOf(m_drawing, present));
+    else if (const auto done = m_drawing.setCurrentLayer(wanted->id); !done)
+        m_notices += done.error().text;
+}
+
+bool Restoring::willBeFrozen(const Layer& layer) const
+{
+    bool isFrozen = layer.properties.frozen;
+    if ((m_how.mask & kStateFreeze) == 0)
+        return isFrozen;
+    for (const LayerStateLayer& saved : m_state.layers) {
+        if (m_drawing.findLayer(saved.properties.name) == &layer)
+            isFrozen = saved.properties.frozen;
+    }
+    return isFrozen;
 }
 
 /// The layers themselves keep what is overridden, also where that cannot be done.
