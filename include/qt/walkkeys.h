@@ -1,5 +1,7 @@
 #pragma once
 
+#include "layerkeys.h"
+
 namespace vnsi {
 
 /// The keys that the layer walk's dialogs and the command share, besides those of the records.
@@ -8,14 +10,14 @@ namespace walkkey {
 /// The layer tree: what the dialog is given, what the command hands back when it made it anew.
 /// Requests carry the dialog's own copy of it under "parameter".
 inline constexpr char kLayers[] = "LayerStateMgr";
-inline constexpr char kParameter[] = "parameter";
-inline constexpr char kRequestCode[] = "marker";
+using requestkey::kParameter;
+using requestkey::kRequestCode;
 /// 0 where the command refused; what it leaves alone counts as done.
 inline constexpr char kResult[] = "result";
 
 // In a record.
 inline constexpr char kAlwaysShow[] = "bAlwaysShow";
-inline constexpr char kIsSelected[] = "IsSelected";
+using layerkey::kIsSelected;
 
 // On the root: what a request needs to know.
 inline constexpr char kOldCurrent[] = "oldlaywalkLName";

@@ -1,9 +1,9 @@
 #include "layercells.h"
 
+#include "lineweighttext.h"
 #include "vnservicedict.h"
 #include "vnstrings.h"
 
-#include <QCoreApplication>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QPixmap>
@@ -99,20 +99,6 @@ void prepareDelegate(QTableWidget& table)
 }
 
 } // namespace
-
-QString lineWidthText(int lineWidth)
-{
-    switch (lineWidth) {
-    case -3:
-        return QCoreApplication::translate("vnsi::LayerCells", "默认");
-    case -1:
-        return QStringLiteral("ByLayer");
-    case -2:
-        return QStringLiteral("ByBlock");
-    default:
-        return QStringLiteral("%1 mm").arg(lineWidth / 100.0, 0, 'f', 2);
-    }
-}
 
 QSize LayerCellDelegate::sizeHint(
     const QStyleOptionViewItem& option, const QModelIndex& index) const

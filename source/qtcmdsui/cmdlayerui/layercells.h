@@ -123,7 +123,4 @@ private:
     VnDocumentPtr m_document;
 };
 
-/// The text of a lineweight in hundredths of a millimetre, or of its codes -1, -2 and -3.
-QString lineWidthText(int lineWidth);
-
 } // namespace vnsi

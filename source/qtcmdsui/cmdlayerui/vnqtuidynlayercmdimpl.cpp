@@ -22,8 +22,6 @@ namespace vnsi {
 
 namespace {
 
-enum Request { kRequestNewLayer = 0, kRequestDelete = 1, kRequestApply = 4 };
-
 enum Controller { kNewLayer, kDeleteLayer, kSetCurrent };
 
 enum Column {
@@ -73,7 +71,6 @@ constexpr ControllerButton kControllers[] = {
     {LayerIcon::SetCurrent, "setCurrentButton", QT_TR_NOOP("置为当前")},
 };
 
-constexpr char kColumnWidthList[] = "ColumnWidthList";
 constexpr int kTurnOff = 101;
 constexpr int kKeepOn = 102;
 constexpr int kWarningStyle = 80;
@@ -248,7 +245,7 @@ void VnQtUiDynLayerCmdImpl::moveCursor(int row)
 
 void VnQtUiDynLayerCmdImpl::applyColumnWidths()
 {
-    const VnJsonPtr widths = data() ? data()->GetDataJ(kColumnWidthList) : VnJsonPtr();
+    const VnJsonPtr widths = data() ? data()->GetDataJ(managerkey::kColumnWidths) : VnJsonPtr();
     const int count = std::min(widths.ArrayCount(), static_cast<int>(kColumnCount));
     for (int column = 0; column < count; ++column)
         m_table->setColumnWidth(column, widths(column)->asI(m_table->columnWidth(column)));
@@ -258,10 +255,10 @@ void VnQtUiDynLayerCmdImpl::writeColumnWidths()
 {
     if (!data())
         return;
-    VnJsonPtr widths = data()->GetDataJ(kColumnWidthList);
+    VnJsonPtr widths = data()->GetDataJ(managerkey::kColumnWidths);
     if (!widths || widths->kind() != IElementValueBase::Kind::Array) {
         widths = ElementValue::createArray(kColumnCount);
-        data()->SetDataJ(kColumnWidthList, widths);
+        data()->SetDataJ(managerkey::kColumnWidths, widths);
     }
     widths->Clear();
     for (int column = 0; column < kColumnCount; ++column)
@@ -294,10 +291,10 @@ void VnQtUiDynLayerCmdImpl::writeSelection()
     }
     if (!data())
         return;
-    data()->SetDataI("SelectCount", selectedCount);
+    data()->SetDataI(managerkey::kSelectCount, selectedCount);
     if (selectedCount > 0) {
-        data()->SetDataI("LastSelectedIndex", lastSelected);
-        data()->SetDataI("LastIndex", last);
+        data()->SetDataI(managerkey::kLastSelectedIndex, lastSelected);
+        data()->SetDataI(managerkey::kLastIndex, last);
     }
 }
 
@@ -401,7 +398,7 @@ void VnQtUiDynLayerCmdImpl::slot_BtnLayerControllerGroupClicked(int id)
     case kNewLayer:
         writeSelection();
         writeColumnWidths();
-        sendRequest({kRequestNewLayer});
+        sendRequest({kManagerNewLayer});
         m_applyButton->setEnabled(true);
         break;
     case kDeleteLayer:
@@ -419,7 +416,7 @@ void VnQtUiDynLayerCmdImpl::slot_BtnLayerControllerGroupClicked(int id)
 void VnQtUiDynLayerCmdImpl::deleteSelected()
 {
     writeSelection();
-    const int selectedCount = data() ? data()->GetDataI("SelectCount") : 0;
+    const int selectedCount = data() ? data()->GetDataI(managerkey::kSelectCount) : 0;
     if (selectedCount == 0)
         return;
 
@@ -448,7 +445,7 @@ void VnQtUiDynLayerCmdImpl::deleteSelected()
             vnutQStringToOdString(text.arg(refused).arg(selectedCount)), L"提示", kWarningStyle);
     }
     writeColumnWidths();
-    sendRequest({kRequestDelete});
+    sendRequest({kManagerDelete});
     m_applyButton->setEnabled(true);
 }
 
@@ -498,9 +495,9 @@ void VnQtUiDynLayerCmdImpl::setSelectedCurrent()
 {
     writeColumnWidths();
     writeSelection();
-    if (!data() || data()->GetDataI("SelectCount") != 1)
+    if (!data() || data()->GetDataI(managerkey::kSelectCount) != 1)
         return;
-    const int row = data()->GetDataI("LastSelectedIndex");
+    const int row = data()->GetDataI(managerkey::kLastSelectedIndex);
     if (row >= recordCount())
         return;
     if (canBeCurrent(row, Ask::Yes) && row != m_currentRow)
@@ -619,14 +616,14 @@ bool VnQtUiDynLayerCmdImpl::acceptName(int row, QString& name) const
 void VnQtUiDynLayerCmdImpl::slot_BtnOkClicked(bool)
 {
     m_okButton->setFocus();
-    sendRequest({kRequestApply});
+    sendRequest({kManagerApply});
     accept();
 }
 
 void VnQtUiDynLayerCmdImpl::slot_BtnApplyClicked(bool)
 {
     m_applyButton->setFocus();
-    sendRequest({kRequestApply});
+    sendRequest({kManagerApply});
     fill();
     m_applyButton->setEnabled(false);
 }
@@ -640,7 +637,7 @@ void VnQtUiDynLayerCmdImpl::slot_BtnCancelClicked(bool)
             modified = LayerRecord(layers(row)).isModified();
         if (modified &&
             vnuiMessageBox(L"是否保存对图层设置的修改？", L"提示", kVnYesNo) == kVnAnswerYes)
-            sendRequest({kRequestApply});
+            sendRequest({kManagerApply});
     }
     reject();
 }

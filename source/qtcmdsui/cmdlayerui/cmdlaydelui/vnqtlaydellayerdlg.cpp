@@ -4,6 +4,7 @@
 #include "dialoghelp.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
+#include "layertoolkeys.h"
 #include "vnmessages.h"
 #include "vnstrings.h"
 
@@ -15,10 +16,6 @@
 namespace vnsi {
 
 namespace {
-
-constexpr int kAskBlocks = 6;
-constexpr char kIsSelected[] = "IsSelected";
-constexpr char kIsExistBlock[] = "IsExistBlock";
 
 /// By whether a layer is referenced in blocks, then by whether there are several.
 constexpr const char* kQuestions[2][2] = {
@@ -78,12 +75,13 @@ bool VnQtLaydelLayerDlg::isReferencedInBlocks(const QSet<QString>& names)
         const VnJsonPtr list = tree.GetDataJ(layerkey::kList);
         for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
             LayerRecord record(list(i));
-            record.setFlag(kIsSelected, names.contains(vnutOdStringToQString(record.name())));
+            record.setFlag(
+                layerkey::kIsSelected, names.contains(vnutOdStringToQString(record.name())));
         }
     };
     // Nobody to ask: what an earlier answer left in the tree does not count.
-    return sendRequest({kAskBlocks, {kIsExistBlock}}, markSelected) &&
-           data()->GetDataB(kIsExistBlock);
+    return sendRequest({kDeleteAskBlocks, {layertoolkey::kIsExistBlock}}, markSelected) &&
+           data()->GetDataB(layertoolkey::kIsExistBlock);
 }
 
 QString VnQtLaydelLayerDlg::question(bool inBlocks, int count, const QString& single) const

@@ -4,6 +4,7 @@
 #include "dialoghelp.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
+#include "layertoolkeys.h"
 #include "namerule.h"
 #include "vnmessages.h"
 #include "vnstrings.h"
@@ -134,7 +135,7 @@ void VnQtLaymchLayerDlg::markNewLayer(const QString& name)
     if (last.isNull() || vnutOdStringToQString(last.name()) == name)
         return;
     last.setStatus(kLayerNewTarget);
-    last.setText("NewLayer", vnutQStringToOdString(name));
+    last.setText(layertoolkey::kNewLayer, vnutQStringToOdString(name));
     last.markModifiedByAction();
 }
 

@@ -4,6 +4,7 @@
 #include "dialoghelp.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
+#include "layertoolkeys.h"
 #include "namerule.h"
 #include "vnmessages.h"
 #include "vnproduct.h"
@@ -39,14 +40,14 @@ void VnQtLaymrgLayerDlg::readTree()
     const VnJsonPtr list = layerlist::records(data());
     const LayerRecord first(list(0));
     if (!m_list) // The layout stands for one of the modes, so the first tree decides.
-        m_sourceMode = first.flag("IsFrom");
-    m_blockReferences = first.number("blockrefcout"); // The key's agreed spelling.
+        m_sourceMode = first.flag(layertoolkey::kIsFrom);
+    m_blockReferences = first.number(layertoolkey::kBlockReferences);
     m_names.clear();
     m_sources.clear();
     for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
         const LayerRecord record(list(i));
         m_names.append(vnutOdStringToQString(record.name()));
-        if (!m_sourceMode && record.flag("SoucLayer")) // The key's agreed spelling.
+        if (!m_sourceMode && record.flag(layertoolkey::kSourceLayer))
             m_sources.append(m_names.last());
     }
 }

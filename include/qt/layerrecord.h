@@ -1,28 +1,22 @@
 #pragma once
 
-#include "CmColor.h"
+#include "layercolor.h"
 #include "layerkeys.h"
 #include "vnjson.h"
 
+#include <utility>
+
 namespace vnsi {
 
-/// A colour as records hold it: 195 and an index, or 194 and red, green, blue from the lowest byte
-/// up.
-struct LayerColor
-{
-    OdInt64 method = 0;
-    OdInt64 value = 0;
-    OdCmColor resolved() const;
-    /// The value alone: of an index its low 16 bits, which are the ones that count.
-    OdInt64 chosenValue() const;
-};
-
-/// A view of one layer record. It shares the node, so what is written through it is in the list.
+/// A view of one layer record, for dialogs and commands. It shares the node, so what is written
+/// through it is in the list. Without a node it reads as a record without members and writes
+/// nothing.
 class LayerRecord
 {
 public:
     explicit LayerRecord(VnJsonPtr node) : m_node(std::move(node)) {}
     bool isNull() const { return m_node.isNull(); }
+    const VnJsonPtr& node() const { return m_node; }
 
     bool flag(const char* key) const { return m_node && m_node->GetDataB(key); }
     void setFlag(const char* key, bool value)
@@ -30,7 +24,10 @@ public:
         if (m_node)
             m_node->SetDataB(key, value);
     }
-    int number(const char* key) const { return m_node ? m_node->GetDataI(key) : 0; }
+    int number(const char* key, int fallback = 0) const
+    {
+        return m_node ? m_node->GetDataI(key, fallback) : fallback;
+    }
     void setNumber(const char* key, int value)
     {
         if (m_node)
@@ -44,6 +41,9 @@ public:
     }
 
     OdString name() const { return text(layerkey::kName); }
+    void setName(const OdString& name) { setText(layerkey::kName, name); }
+    /// What the record says or asks for, a `LayerStatus`. A record that says nothing reads as the
+    /// current layer's.
     int status() const { return number(layerkey::kStatus); }
     void setStatus(int status) { setNumber(layerkey::kStatus, status); }
     bool isCurrent() const { return status() == kLayerCurrent; }
@@ -51,17 +51,35 @@ public:
     bool isCurrentOfState() const { return status() == 1; }
     void setCurrentOfState(bool current) { setStatus(current ? 1 : 0); }
     bool isOff() const { return flag(layerkey::kOff); }
+    bool isFrozen() const { return flag(layerkey::kFrozen); }
+    bool isUsed() const { return flag(layerkey::kUsed); }
+    bool isSelected() const { return flag(layerkey::kSelected); }
+    void setSelected(bool selected) { setFlag(layerkey::kSelected, selected); }
     bool dependsOnReference() const { return flag(layerkey::kDepend); }
-    LayerColor color() const;
-    void setColor(const LayerColor& color);
+
+    LayerColor color() const
+    {
+        return m_node ? LayerColor::read(*m_node, layerkey::kColorMethod, layerkey::kColorValue)
+                      : LayerColor{};
+    }
+    void setColor(const LayerColor& color)
+    {
+        if (m_node)
+            color.write(*m_node, layerkey::kColorMethod, layerkey::kColorValue);
+    }
 
     /// Whether the record was changed. The mark is a bool but for the actions that write it as the
     /// number 1 (`markModifiedByAction`); both count.
-    bool isModified() const;
+    bool isModified() const
+    {
+        return flag(layerkey::kModified) || number(layerkey::kModified) == 1;
+    }
     void markModified() { setFlag(layerkey::kModified, true); }
     /// The mark of the actions that go with a status code: the number 1, which commands tell from a
     /// changed property.
     void markModifiedByAction() { setNumber(layerkey::kModified, 1); }
+    /// Whether a dialog asked for the action `status` on this layer.
+    bool asksFor(LayerStatus action) const { return status() == action && isModified(); }
 
 private:
     VnJsonPtr m_node;
