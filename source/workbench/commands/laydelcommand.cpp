@@ -1,9 +1,9 @@
 #include "laydelcommand.h"
 
 #include "drawing.h"
-#include "layerkeys.h"
 #include "layermarks.h"
 #include "layerrecords.h"
+#include "layertoolkeys.h"
 #include "posing.h"
 
 #include <QCoreApplication>
@@ -16,7 +16,6 @@ namespace key = vnsi::layerkey;
 
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaydel";
-constexpr int kBlockQuery = 6;
 
 QString tr(const char* text)
 {
@@ -52,16 +51,16 @@ void LayerDeleteCommand::run(CommandContext& context)
 /// Whether any of the selected layers is used inside a block definition.
 void LayerDeleteCommand::answer(const drawing::Drawing& drawing, const VnJsonPtr& tree)
 {
-    if (tree->GetDataI("marker", -1) != kBlockQuery)
+    if (tree->GetDataI(vnsi::requestkey::kRequestCode, -1) != vnsi::kDeleteAskBlocks)
         return;
     std::vector<drawing::LayerId> selected;
     const VnJsonPtr list = tree->GetDataJ(key::kList);
     for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
         const VnJsonPtr record = list(i);
-        if (record && record->GetDataB("IsSelected"))
+        if (record && record->GetDataB(key::kIsSelected))
             selected.push_back(layerrecords::idOf(record));
     }
-    tree->SetDataB("IsExistBlock", drawing.isReferencedInBlocks(selected));
+    tree->SetDataB(vnsi::layertoolkey::kIsExistBlock, drawing.isReferencedInBlocks(selected));
 }
 
 void LayerDeleteCommand::pose(CommandContext& context, const Camera& camera)

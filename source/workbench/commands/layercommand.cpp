@@ -23,8 +23,6 @@ constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLayer";
 constexpr int kMostRefusalsShown = 10;
 
-enum Request { kNewLayer = 0, kDelete = 1, kApply = 4 };
-
 QString tr(const char* text)
 {
     return QCoreApplication::translate("LayerPropertiesCommand", text);
@@ -102,13 +100,13 @@ void LayerPropertiesCommand::run(CommandContext& context)
 
 void LayerPropertiesCommand::answer(CommandContext& context, const VnJsonPtr& tree)
 {
-    switch (tree->GetDataI("marker", -1)) {
-    case kNewLayer:
+    switch (tree->GetDataI(vnsi::requestkey::kRequestCode, -1)) {
+    case vnsi::kManagerNewLayer:
         appendLayer(context.drawing, tree);
         break;
-    case kDelete: // The marks are carried out with "apply".
+    case vnsi::kManagerDelete: // The marks are carried out with "apply".
         break;
-    case kApply:
+    case vnsi::kManagerApply:
         apply(context, tree);
         break;
     default:
@@ -122,8 +120,8 @@ void LayerPropertiesCommand::appendLayer(const drawing::Drawing& drawing, const 
     if (!list)
         return;
     drawing::Layer layer;
-    if (tree->GetDataI("SelectCount") > 0) {
-        const VnJsonPtr pattern = list(tree->GetDataI("LastSelectedIndex", -1));
+    if (tree->GetDataI(vnsi::managerkey::kSelectCount) > 0) {
+        const VnJsonPtr pattern = list(tree->GetDataI(vnsi::managerkey::kLastSelectedIndex, -1));
         if (pattern)
             layer.properties = layerrecords::properties(pattern, layer.properties);
     }
@@ -156,7 +154,8 @@ void LayerPropertiesCommand::apply(CommandContext& context, const VnJsonPtr& tre
     applyDeletions(drawing, list);
     for (const VnJsonPtr& record : records) {
         if (const drawing::Layer* layer = drawing.layer(layerrecords::idOf(record)))
-            layerrecords::refresh(record, *layer, layer->id == drawing.currentLayer());
+            layerrecords::Provider::full().refresh(
+                vnsi::LayerRecord(record), *layer, layer->id == drawing.currentLayer());
     }
     drawing.publishStep();
     for (const QString& notice : drawing.takeNotices())

@@ -1,8 +1,6 @@
 #include "layermarks.h"
 
 #include "commandinvoker.h"
-#include "layerkeys.h"
-#include "layerrecords.h"
 #include "vnmessages.h"
 #include "vnproduct.h"
 #include "vnstrings.h"
@@ -22,18 +20,10 @@ constexpr int kMostNamesShown = 5;
 
 } // namespace
 
-VnJsonPtr makeTree(const drawing::Drawing& drawing, const Filter& passes)
+VnJsonPtr makeTree(const drawing::Drawing& drawing, const layerrecords::Filter& passes)
 {
-    const VnJsonPtr all = layerrecords::makeList(drawing);
-    const VnJsonPtr list = vnsi::ElementValue::createArray(all.ArrayCount());
-    for (int i = 0, count = all.ArrayCount(); i < count; ++i) {
-        const drawing::Layer* layer = drawing.layer(layerrecords::idOf(all(i)));
-        if (layer && passes(*layer))
-            list->Append(all(i));
-    }
-    VnJsonPtr tree = vnsi::ElementValue::createObject(8);
-    tree->SetDataJ(key::kList, list);
-    return tree;
+    static const layerrecords::Provider names({key::kName});
+    return names.tree(drawing, passes);
 }
 
 bool mayGo(const drawing::Drawing& drawing, const drawing::Layer& layer)
@@ -54,13 +44,13 @@ bool show(CommandContext& context, const OdString& dialog, const VnJsonPtr& tree
     return outcome && outcome->GetDataI("result") == 1;
 }
 
-std::vector<Marked> marked(const VnJsonPtr& tree, int status)
+std::vector<Marked> marked(const VnJsonPtr& tree, vnsi::LayerStatus status)
 {
     std::vector<Marked> layers;
     const VnJsonPtr list = tree->GetDataJ(key::kList);
     for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
         const VnJsonPtr record = list(i);
-        if (record && record->GetDataI(key::kStatus) == status && layerrecords::isModified(record))
+        if (vnsi::LayerRecord(record).asksFor(status))
             layers.push_back({layerrecords::idOf(record), layerrecords::nameOf(record)});
     }
     return layers;

@@ -2,6 +2,7 @@
 
 #include "command.h"
 #include "drawing.h"
+#include "layerrecords.h"
 #include "vnjson.h"
 
 /// What the commands share that offer layers in a list and carry out what a dialog marked there.
@@ -14,10 +15,8 @@ struct Marked
     QString name;
 };
 
-using Filter = std::function<bool(const drawing::Layer& layer)>;
-
-/// A tree whose list has the records of the layers that pass, by name.
-vnsi::VnJsonPtr makeTree(const drawing::Drawing& drawing, const Filter& passes);
+/// A tree whose list names the layers that pass.
+vnsi::VnJsonPtr makeTree(const drawing::Drawing& drawing, const layerrecords::Filter& passes);
 /// Whether a layer may be taken out of the drawing: not 0, not current, not of a reference.
 bool mayGo(const drawing::Drawing& drawing, const drawing::Layer& layer);
 
@@ -26,7 +25,7 @@ bool show(CommandContext& context, const OdString& dialog, const vnsi::VnJsonPtr
     std::function<void(const vnsi::VnJsonPtr& tree)> answer = {});
 
 /// The layers whose records carry the action `status`, in their order.
-std::vector<Marked> marked(const vnsi::VnJsonPtr& tree, int status);
+std::vector<Marked> marked(const vnsi::VnJsonPtr& tree, vnsi::LayerStatus status);
 /// The ids of those that are still there; the others are named to the user.
 std::vector<drawing::LayerId> present(CommandContext& context, const std::vector<Marked>& layers);
 

@@ -1,114 +1,156 @@
 #include "layerrecords.h"
 
-#include "CmColor.h"
 #include "drawing.h"
-#include "layerkeys.h"
 #include "vnstrings.h"
 
 #include <QCollator>
 
 #include <algorithm>
+#include <cstring>
 
 namespace layerrecords {
 
-namespace {
-
 namespace key = vnsi::layerkey;
+using drawing::Layer;
 using drawing::LayerProperties;
-using vnsi::IElementValueBase;
+using vnsi::LayerColor;
+using vnsi::LayerRecord;
 using vnsi::VnJsonPtr;
+
+/// A member of a record: how it is written and, where dialogs change it, read back.
+struct Field
+{
+    const char* key;
+    void (*write)(LayerRecord& record, const char* key, const Layer& layer, bool current);
+    void (*read)(const LayerRecord& record, const char* key, LayerProperties& properties) = nullptr;
+};
+
+namespace {
 
 /// The command's own key, which dialogs carry along.
 constexpr char kId[] = "LayerId";
 
-struct FlagRow
+void put(LayerRecord& record, const char* key, bool value)
 {
-    const char* key;
-    bool LayerProperties::*member;
-};
-
-constexpr FlagRow kFlags[] = {
-    {key::kOff, &LayerProperties::off},
-    {key::kFrozen, &LayerProperties::frozen},
-    {key::kLock, &LayerProperties::locked},
-    {key::kPrint, &LayerProperties::plotted},
-    {key::kVPortFrozen, &LayerProperties::frozenInNewViewports},
-};
-
-struct NumberRow
-{
-    const char* key;
-    int LayerProperties::*member;
-};
-
-constexpr NumberRow kNumbers[] = {
-    {key::kLineWidth, &LayerProperties::lineweight},
-    {key::kTransparency, &LayerProperties::transparency},
-};
-
-struct TextRow
-{
-    const char* key;
-    QString LayerProperties::*member;
-};
-
-constexpr TextRow kTexts[] = {
-    {key::kName, &LayerProperties::name},
-    {key::kLinetype, &LayerProperties::linetype},
-    {key::kDescription, &LayerProperties::description},
-};
-
-void writeColor(IElementValueBase& record, const LayerProperties& properties)
-{
-    const bool isTrue = properties.trueColor.has_value();
-    record.SetDataL(
-        key::kColorMethod, isTrue ? OdCmEntityColor::kByColor : OdCmEntityColor::kByACI);
-    record.SetDataL(key::kColorValue,
-        isTrue ? swapRedAndBlue(*properties.trueColor) : OdInt64{properties.colorIndex});
+    record.setFlag(key, value);
 }
 
-void readColor(const IElementValueBase& record, LayerProperties& properties)
+void put(LayerRecord& record, const char* key, int value)
 {
-    const OdInt64 value = record.GetDataL(key::kColorValue);
-    if (record.GetDataL(key::kColorMethod) == OdCmEntityColor::kByACI) {
-        properties.colorIndex = static_cast<OdInt16>(value);
-        properties.trueColor.reset();
-    } else {
-        properties.trueColor = swapRedAndBlue(static_cast<quint32>(value));
-    }
+    record.setNumber(key, value);
 }
 
-void write(IElementValueBase& record, const drawing::Layer& layer, bool current)
+void put(LayerRecord& record, const char* key, const QString& value)
+{
+    record.setText(key, vnsi::vnutQStringToOdString(value));
+}
+
+void get(const LayerRecord& record, const char* key, bool& value)
+{
+    value = record.flag(key);
+}
+
+void get(const LayerRecord& record, const char* key, int& value)
+{
+    value = record.number(key);
+}
+
+void get(const LayerRecord& record, const char* key, QString& value)
+{
+    value = vnsi::vnutOdStringToQString(record.text(key));
+}
+
+template <auto Member>
+void writeProperty(LayerRecord& record, const char* key, const Layer& layer, bool)
+{
+    put(record, key, layer.properties.*Member);
+}
+
+template <auto Member>
+void readProperty(const LayerRecord& record, const char* key, LayerProperties& properties)
+{
+    get(record, key, properties.*Member);
+}
+
+template <auto Member>
+constexpr Field property(const char* key)
+{
+    return {key, &writeProperty<Member>, &readProperty<Member>};
+}
+
+void writeNo(LayerRecord& record, const char* key, const Layer&, bool)
+{
+    record.setFlag(key, false);
+}
+
+void writeStatus(LayerRecord& record, const char*, const Layer&, bool current)
+{
+    record.setStatus(current ? vnsi::kLayerCurrent : vnsi::kLayerOrdinary);
+}
+
+void writeColor(LayerRecord& record, const char*, const Layer& layer, bool)
 {
     const LayerProperties& properties = layer.properties;
-    for (const TextRow& row : kTexts)
-        record.SetDataSW(row.key, vnsi::vnutQStringToOdString(properties.*row.member));
-    record.SetDataI(key::kStatus, current ? vnsi::kLayerCurrent : vnsi::kLayerOrdinary);
-    for (const FlagRow& row : kFlags)
-        record.SetDataB(row.key, properties.*row.member);
-    for (const NumberRow& row : kNumbers)
-        record.SetDataI(row.key, properties.*row.member);
-    writeColor(record, properties);
-    record.SetDataSW(key::kPlotStyle, vnsi::vnutQStringToOdString(properties.plotStyle));
-    record.SetDataB(key::kDepend, layer.dependsOnReference);
-    record.SetDataB(key::kUsed, layer.used());
-    record.SetDataB(key::kModified, false);
-    record.SetDataI(kId, static_cast<int>(layer.id));
+    record.setColor(properties.trueColor ? LayerColor::ofRgb(*properties.trueColor)
+                                         : LayerColor::ofIndex(properties.colorIndex));
 }
 
-std::vector<const drawing::Layer*> sortedByName(const std::vector<drawing::Layer>& layers)
+void readColor(const LayerRecord& record, const char*, LayerProperties& properties)
+{
+    const LayerColor color = record.color();
+    properties.trueColor.reset();
+    if (color.isIndex())
+        properties.colorIndex = color.index();
+    else
+        properties.trueColor = color.rgb();
+}
+
+void writeDepend(LayerRecord& record, const char* key, const Layer& layer, bool)
+{
+    record.setFlag(key, layer.dependsOnReference);
+}
+
+void writeUsed(LayerRecord& record, const char* key, const Layer& layer, bool)
+{
+    record.setFlag(key, layer.used());
+}
+
+constexpr Field kFields[] = {
+    property<&LayerProperties::name>(key::kName),
+    {key::kStatus, writeStatus},
+    property<&LayerProperties::off>(key::kOff),
+    property<&LayerProperties::frozen>(key::kFrozen),
+    property<&LayerProperties::locked>(key::kLock),
+    {key::kColor, writeColor, readColor},
+    property<&LayerProperties::linetype>(key::kLinetype),
+    property<&LayerProperties::lineweight>(key::kLineWidth),
+    property<&LayerProperties::transparency>(key::kTransparency),
+    // Shown only: no dialog of layers changes it.
+    {key::kPlotStyle, &writeProperty<&LayerProperties::plotStyle>},
+    property<&LayerProperties::plotted>(key::kPrint),
+    property<&LayerProperties::frozenInNewViewports>(key::kVPortFrozen),
+    property<&LayerProperties::description>(key::kDescription),
+    {key::kDepend, writeDepend},
+    {key::kUsed, writeUsed},
+    {key::kSelected, writeNo},
+    {key::kModified, writeNo},
+};
+
+std::vector<const Layer*> sortedByName(const std::vector<Layer>& layers, const Filter& passes)
 {
     QCollator collator;
     collator.setNumericMode(true);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
-    std::vector<std::pair<QCollatorSortKey, const drawing::Layer*>> keyed;
+    std::vector<std::pair<QCollatorSortKey, const Layer*>> keyed;
     keyed.reserve(layers.size());
-    for (const drawing::Layer& layer : layers)
-        keyed.emplace_back(collator.sortKey(layer.properties.name), &layer);
+    for (const Layer& layer : layers) {
+        if (!passes || passes(layer))
+            keyed.emplace_back(collator.sortKey(layer.properties.name), &layer);
+    }
     std::stable_sort(keyed.begin(), keyed.end(),
         [](const auto& a, const auto& b) { return a.first.compare(b.first) < 0; });
 
-    std::vector<const drawing::Layer*> sorted;
+    std::vector<const Layer*> sorted;
     sorted.reserve(keyed.size());
     for (const auto& entry : keyed)
         sorted.push_back(entry.second);
@@ -117,64 +159,113 @@ std::vector<const drawing::Layer*> sortedByName(const std::vector<drawing::Layer
 
 } // namespace
 
+Provider::Provider(std::initializer_list<const char*> keys)
+{
+    for (const char* wanted : keys) {
+        const auto* const field = std::find_if(std::begin(kFields), std::end(kFields),
+            [wanted](const Field& candidate) { return std::strcmp(candidate.key, wanted) == 0; });
+        Q_ASSERT_X(field != std::end(kFields), "layerrecords::Provider", wanted);
+        if (field != std::end(kFields))
+            m_fields.push_back(field);
+    }
+}
+
+const Provider& Provider::full()
+{
+    static const Provider all(
+        {key::kName, key::kStatus, key::kOff, key::kFrozen, key::kLock, key::kColor, key::kLinetype,
+            key::kLineWidth, key::kTransparency, key::kPlotStyle, key::kPrint, key::kVPortFrozen,
+            key::kDescription, key::kDepend, key::kUsed, key::kSelected, key::kModified});
+    return all;
+}
+
+VnJsonPtr Provider::make(const Layer& layer, bool current) const
+{
+    const VnJsonPtr node = vnsi::ElementValue::createObject(static_cast<int>(m_fields.size()) + 1);
+    LayerRecord record(node);
+    write(record, layer, current);
+    return node;
+}
+
+void Provider::refresh(LayerRecord record, const Layer& layer, bool current) const
+{
+    const bool selected = record.isSelected();
+    write(record, layer, current);
+    record.setSelected(selected);
+}
+
+void Provider::write(LayerRecord& record, const Layer& layer, bool current) const
+{
+    for (const Field* field : m_fields)
+        field->write(record, field->key, layer, current);
+    setId(record.node(), layer.id);
+}
+
+VnJsonPtr Provider::list(const drawing::Drawing& drawing, const Filter& passes) const
+{
+    const std::vector<const Layer*> layers = sortedByName(drawing.layers(), passes);
+    VnJsonPtr list = vnsi::ElementValue::createArray(static_cast<int>(layers.size()));
+    for (const Layer* layer : layers)
+        list->Append(make(*layer, layer->id == drawing.currentLayer()));
+    return list;
+}
+
+VnJsonPtr Provider::tree(const drawing::Drawing& drawing, const Filter& passes) const
+{
+    VnJsonPtr tree = vnsi::ElementValue::createObject(8);
+    tree->SetDataJ(key::kList, list(drawing, passes));
+    return tree;
+}
+
+LayerProperties Provider::read(const VnJsonPtr& record, const LayerProperties& base) const
+{
+    LayerProperties properties = base;
+    for (const Field* field : m_fields) {
+        if (field->read)
+            field->read(LayerRecord(record), field->key, properties);
+    }
+    return properties;
+}
+
+VnJsonPtr make(const Layer& layer, bool current)
+{
+    return Provider::full().make(layer, current);
+}
+
+VnJsonPtr makeList(const drawing::Drawing& drawing)
+{
+    return Provider::full().list(drawing);
+}
+
+LayerProperties properties(const VnJsonPtr& record, const LayerProperties& base)
+{
+    return Provider::full().read(record, base);
+}
+
 quint32 swapRedAndBlue(quint32 color)
 {
     return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
 }
 
-VnJsonPtr make(const drawing::Layer& layer, bool current)
-{
-    VnJsonPtr record = vnsi::ElementValue::createObject(20);
-    write(*record, layer, current);
-    record->SetDataB(key::kSelected, false);
-    return record;
-}
-
-void refresh(const VnJsonPtr& record, const drawing::Layer& layer, bool current)
-{
-    write(*record, layer, current);
-}
-
-VnJsonPtr makeList(const drawing::Drawing& drawing)
-{
-    const auto& layers = drawing.layers();
-    VnJsonPtr list = vnsi::ElementValue::createArray(static_cast<int>(layers.size()));
-    for (const drawing::Layer* layer : sortedByName(layers))
-        list->Append(make(*layer, layer->id == drawing.currentLayer()));
-    return list;
-}
-
 drawing::LayerId idOf(const VnJsonPtr& record)
 {
-    return drawing::LayerId{record->GetDataI(kId, static_cast<int>(drawing::LayerId::None))};
+    return drawing::LayerId{
+        LayerRecord(record).number(kId, static_cast<int>(drawing::LayerId::None))};
 }
 
 void setId(const VnJsonPtr& record, drawing::LayerId id)
 {
-    record->SetDataI(kId, static_cast<int>(id));
+    LayerRecord(record).setNumber(kId, static_cast<int>(id));
 }
 
 QString nameOf(const VnJsonPtr& record)
 {
-    return vnsi::vnutOdStringToQString(record->GetDataSW(key::kName));
+    return vnsi::vnutOdStringToQString(LayerRecord(record).name());
 }
 
 bool isModified(const VnJsonPtr& record)
 {
-    return record->GetDataB(key::kModified) || record->GetDataI(key::kModified) == 1;
-}
-
-LayerProperties properties(const VnJsonPtr& record, const LayerProperties& base)
-{
-    LayerProperties read = base;
-    for (const TextRow& row : kTexts)
-        read.*row.member = vnsi::vnutOdStringToQString(record->GetDataSW(row.key));
-    for (const FlagRow& row : kFlags)
-        read.*row.member = record->GetDataB(row.key);
-    for (const NumberRow& row : kNumbers)
-        read.*row.member = record->GetDataI(row.key);
-    readColor(*record, read);
-    return read;
+    return LayerRecord(record).isModified();
 }
 
 } // namespace layerrecords

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "layer.h"
-#include "vnjson.h"
+#include "layerrecord.h"
 
+#include <functional>
+#include <initializer_list>
 #include <vector>
 
 namespace drawing {
@@ -10,14 +12,55 @@ class Drawing;
 }
 
 /// Layers as the records that dialogs work on, and back.
+///
+/// A command says once which members its dialog reads, and gets its trees from there:
+///
+///     const layerrecords::Provider kRecords({key::kName, key::kOff, key::kUsed});
+///     tree->SetDataJ(key::kList, kRecords.list(drawing));
+///
+/// The keys are those of `layerkey`; `kColor` stands for both parts of a colour. Besides them every
+/// record keeps the layer's id, by which `idOf` finds the layer again whatever it is called by
+/// then.
 namespace layerrecords {
 
-/// The record of a layer. Besides what dialogs read it keeps the layer's id.
+/// Which layers get a record.
+using Filter = std::function<bool(const drawing::Layer& layer)>;
+
+struct Field;
+
+/// Makes and reads records with certain members.
+class Provider
+{
+public:
+    explicit Provider(std::initializer_list<const char*> keys);
+    /// All that drawings know of layers, for dialogs that edit it.
+    static const Provider& full();
+
+    vnsi::VnJsonPtr make(const drawing::Layer& layer, bool current) const;
+    /// Writes what the drawing says now into a record; "Selected" stays as it is.
+    void refresh(vnsi::LayerRecord record, const drawing::Layer& layer, bool current) const;
+    /// The records of the layers that pass, of all without a filter, in the order people look names
+    /// up: by name, numbers by their value.
+    vnsi::VnJsonPtr list(const drawing::Drawing& drawing, const Filter& passes = {}) const;
+    /// A tree with `list` under "LayerList".
+    vnsi::VnJsonPtr tree(const drawing::Drawing& drawing, const Filter& passes = {}) const;
+    /// The properties in a record; those that the keys leave out are taken from `base`.
+    drawing::LayerProperties read(
+        const vnsi::VnJsonPtr& record, const drawing::LayerProperties& base) const;
+
+private:
+    void write(vnsi::LayerRecord& record, const drawing::Layer& layer, bool current) const;
+
+    std::vector<const Field*> m_fields;
+};
+
+/// The record of a layer with all its members.
 vnsi::VnJsonPtr make(const drawing::Layer& layer, bool current);
-/// Writes what the drawing says now into a record; "Selected" stays as it is.
-void refresh(const vnsi::VnJsonPtr& record, const drawing::Layer& layer, bool current);
-/// The records of all layers in the order people look names up: by name, numbers by their value.
+/// Those of all layers.
 vnsi::VnJsonPtr makeList(const drawing::Drawing& drawing);
+/// The properties in such a record.
+drawing::LayerProperties properties(
+    const vnsi::VnJsonPtr& record, const drawing::LayerProperties& base);
 
 /// A true colour as files keep it, red in the high byte, as records do, in the low one; and back.
 quint32 swapRedAndBlue(quint32 color);
@@ -28,8 +71,5 @@ void setId(const vnsi::VnJsonPtr& record, drawing::LayerId id);
 QString nameOf(const vnsi::VnJsonPtr& record);
 /// Whether a dialog marked the record, as a flag or as the number 1.
 bool isModified(const vnsi::VnJsonPtr& record);
-/// The properties in a record; what it has no place for is taken from `base`.
-drawing::LayerProperties properties(
-    const vnsi::VnJsonPtr& record, const drawing::LayerProperties& base);
 
 } // namespace layerrecords

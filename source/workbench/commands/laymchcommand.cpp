@@ -1,9 +1,9 @@
 #include "laymchcommand.h"
 
 #include "drawing.h"
-#include "layerkeys.h"
 #include "layermarks.h"
 #include "layerrecords.h"
+#include "layertoolkeys.h"
 #include "posing.h"
 #include "vnstrings.h"
 
@@ -30,7 +30,7 @@ QString newLayerName(const VnJsonPtr& tree)
     const VnJsonPtr last = list(list.ArrayCount() - 1);
     if (!last || last->GetDataI(key::kStatus) != vnsi::kLayerNewTarget)
         return {};
-    return vnsi::vnutOdStringToQString(last->GetDataSW("NewLayer"));
+    return vnsi::vnutOdStringToQString(last->GetDataSW(vnsi::layertoolkey::kNewLayer));
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "laymrgcommand.h"
 
 #include "drawing.h"
-#include "layerkeys.h"
 #include "layerrecords.h"
+#include "layertoolkeys.h"
 #include "posing.h"
 #include "vnstrings.h"
 #include "vntaskdialog.h"
@@ -16,6 +16,7 @@ using vnsi::VnJsonPtr;
 namespace {
 
 namespace key = vnsi::layerkey;
+namespace toolkey = vnsi::layertoolkey;
 
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaymrg";
@@ -48,7 +49,7 @@ VnJsonPtr LayerMergeCommand::makeSourceTree(const drawing::Drawing& drawing)
     const VnJsonPtr tree = layermarks::makeTree(drawing,
         [&drawing](const drawing::Layer& layer) { return layermarks::mayGo(drawing, layer); });
     if (const VnJsonPtr first = tree->GetDataJ(key::kList)(0))
-        first->SetDataB("IsFrom", true);
+        first->SetDataB(toolkey::kIsFrom, true);
     return tree;
 }
 
@@ -66,15 +67,14 @@ VnJsonPtr LayerMergeCommand::makeTargetTree(const drawing::Drawing& drawing, con
             const VnJsonPtr record = all(i);
             if (std::binary_search(ids.begin(), ids.end(), layerrecords::idOf(record)) != isSource)
                 continue;
-            record->SetDataB("SoucLayer", isSource); // The key's agreed spelling.
+            record->SetDataB(toolkey::kSourceLayer, isSource);
             list->Append(record);
         }
     }
     tree->SetDataJ(key::kList, list);
     if (const VnJsonPtr first = list(0)) {
-        first->SetDataB("IsFrom", false);
-        // The key's agreed spelling.
-        first->SetDataI("blockrefcout", drawing.countBlockReferences(ids));
+        first->SetDataB(toolkey::kIsFrom, false);
+        first->SetDataI(toolkey::kBlockReferences, drawing.countBlockReferences(ids));
     }
     return tree;
 }

@@ -1,8 +1,8 @@
 #include "translationrecords.h"
 
 #include "CmColor.h"
+#include "drawing.h"
 #include "layerkeys.h"
-#include "layermarks.h"
 #include "layerrecords.h"
 #include "linetypes.h"
 #include "translatorkeys.h"
@@ -84,9 +84,9 @@ QString filedPlotStyle(const QString& style)
 
 VnJsonPtr TranslationRecords::sources(const drawing::Drawing& drawing)
 {
-    const VnJsonPtr layers = layermarks::makeTree(drawing, [](const drawing::Layer& layer) {
-        return !layer.dependsOnReference;
-    })->GetDataJ(vnsi::layerkey::kList);
+    static const layerrecords::Provider names({vnsi::layerkey::kName, vnsi::layerkey::kUsed});
+    const VnJsonPtr layers =
+        names.list(drawing, [](const drawing::Layer& layer) { return !layer.dependsOnReference; });
     VnJsonPtr records = ElementValue::createArray(layers.ArrayCount());
     for (int i = 0, count = layers.ArrayCount(); i < count; ++i) {
         const VnJsonPtr record = ElementValue::createObject(2);
