@@ -1,7 +1,7 @@
 #include "drawingedits.h"
-#include "dxftags.h"
 #include "fuzzing.h"
 #include "geometry.h"
+#include "tagreader.h"
 
 #include <QFile>
 
@@ -60,25 +60,25 @@ LayerTables findLayerTables(const QByteArray& file)
     bool isInside = false, isLayer = false;
     for (; reader.next(tag); last = tag) {
         const std::string_view opened =
-            tag.code == 2 && last.code == 0 ? last.value : std::string_view();
+            tag.code == 2 && last.code == 0 ? last.text() : std::string_view();
         if (opened == "SECTION")
-            section = tag.value;
-        if (opened == "TABLE" && tag.value == "LAYER" && section == "TABLES") {
+            section = tag.text();
+        if (opened == "TABLE" && tag.text() == "LAYER" && section == "TABLES") {
             isInside = true;
-            found.begin = found.begin < 0 ? last.begin : found.begin;
+            found.begin = found.begin < 0 ? last.begin() : found.begin;
         }
         if (!isInside)
             continue;
-        found.end = tag.end;
+        found.end = tag.end();
         if (tag.code == 0)
-            isLayer = tag.value == "LAYER";
+            isLayer = tag.text() == "LAYER";
         if (tag.code == 0 && isLayer) {
             ++found.records;
             found.names.emplace_back();
         }
         if (tag.code == 2 && isLayer)
-            found.names.back() = tag.value; // Of several the last one counts.
-        isInside = tag.code != 0 || !endsTable(tag.value);
+            found.names.back() = tag.text(); // Of several the last one counts.
+        isInside = tag.code != 0 || !endsTable(tag.text());
     }
     return found;
 }

@@ -183,7 +183,7 @@ const Block* Drawing::findBlock(const QString& name) const
 
 TagReader Drawing::tags(const Entity& entity) const
 {
-    return d->data.tags({entity.begin, entity.end});
+    return d->data.tags(entity.range());
 }
 
 QString Drawing::decoded(std::string_view value) const

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "dxftags.h"
 #include "entities.h"
 #include "error.h"
 #include "layer.h"
 #include "layerstate.h"
 #include "layouts.h"
 #include "linetypedefinition.h"
+#include "tagreader.h"
 #include "textcodec.h"
 #include "viewportlayers.h"
 

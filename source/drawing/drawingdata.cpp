@@ -1,7 +1,5 @@
 #include "drawingdata.h"
 
-#include "tagscan.h"
-
 #include <QCoreApplication>
 
 namespace drawing {
@@ -41,13 +39,21 @@ QStringList LeftOut::sentences() const
     return sentences;
 }
 
-std::string_view DrawingData::lineAt(qint64 offset) const
+TagReader DrawingData::allTags() const
+{
+    constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
+    const bool isMarked = bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark;
+    const size_t from = isMarked ? kByteOrderMark.size() : 0;
+    return TagReader(bytes.substr(from), static_cast<qint64>(from), spelling);
+}
+
+ByteRange DrawingData::valueRange(qint64 offset) const
 {
     const char* const begin = bytes.data() + offset;
     const char* end = findLineEnd(begin, bytes.data() + bytes.size());
     if (end != begin && end[-1] == '\r')
         --end;
-    return {begin, static_cast<size_t>(end - begin)};
+    return {offset, end - bytes.data()};
 }
 
 void DrawingData::changeEntity(size_t entity, LayerId layer, bool removed)

@@ -8,6 +8,8 @@
 #include "layertable.h"
 #include "layouts.h"
 #include "linetypedefinition.h"
+#include "taglist.h"
+#include "tagreader.h"
 #include "textcodec.h"
 
 #include <QSet>
@@ -97,6 +99,7 @@ struct StyleIndex
 struct DrawingData
 {
     std::string_view bytes; ///< The file as mapped.
+    Spelling spelling = Spelling::Text;
     DrawingIndex index;
     TextCodec codec;
     LayerRecordLimits limits;
@@ -129,10 +132,14 @@ struct DrawingData
     }
     TagReader tags(const ByteRange& range) const
     {
-        return TagReader(view(range), range.isNull() ? 0 : range.begin);
+        return TagReader(view(range), range.isNull() ? 0 : range.begin, spelling);
     }
-    /// The line that begins at this offset, without its line end.
-    std::string_view lineAt(qint64 offset) const;
+    TagReader allTags() const;
+    TagList tagList(const QByteArray& tags) const { return TagList(tags, spelling); }
+    /// How the tags there are written.
+    TagStyle styleOf(const ByteRange& range) const { return TagStyle::of(view(range), spelling); }
+    /// The range of the text value that begins at this offset.
+    ByteRange valueRange(qint64 offset) const;
     /// Puts an entity on `layer`, or marks it as gone, as part of the open step.
     void changeEntity(size_t entity, LayerId layer, bool removed);
     /// Marks an entity as having the colour of its layer, as part of the open step.

@@ -61,15 +61,16 @@ private slots:
         QVector<QByteArray> states = {original};
         QVector<std::vector<EditChange>> changes;
         for (const JournalOp& op : ops) {
-            const bool isAccepted = op.begin == op.end ? journal.insert(op.begin, op.order, op.text)
-                                                       : journal.replace(op.begin, op.end, op.text);
+            const bool isAccepted = op.begin == op.end
+                                        ? journal.insert(op.begin, op.order, op.text)
+                                        : journal.replace({op.begin, op.end}, op.text);
             QCOMPARE(isAccepted, op.accepted);
             changes.append(journal.takeChanges());
             states.append(text(journal));
         }
         QCOMPARE(states.last(), expected);
-        QCOMPARE(
-            journal.current(0, 10), ops.isEmpty() || ops.first().begin < 10 ? expected : original);
+        QCOMPARE(journal.current({0, 10}),
+            ops.isEmpty() || ops.first().begin < 10 ? expected : original);
         for (int i = changes.size() - 1; i >= 0; --i) {
             journal.apply(changes.at(i), false);
             QCOMPARE(text(journal), states.at(i));
@@ -83,10 +84,10 @@ private slots:
     {
         const QByteArray original = "0123456789";
         EditJournal journal({original.constData(), 10});
-        journal.replace(6, 7, "x");
-        journal.replace(2, 3, "a");
-        journal.replace(2, 3, "b");
-        journal.replace(6, 7, "6"); // Back to what it was: no change at all.
+        journal.replace({6, 7}, "x");
+        journal.replace({2, 3}, "a");
+        journal.replace({2, 3}, "b");
+        journal.replace({6, 7}, "6"); // Back to what it was: no change at all.
         const auto changes = journal.takeChanges();
         QCOMPARE(changes.size(), size_t(1));
         QVERIFY(changes.front().before.isNull());

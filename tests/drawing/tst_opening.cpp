@@ -151,7 +151,7 @@ private slots:
         Tag tag;
         int last = -1;
         while (tags.next(tag))
-            last = tag.code == 331 ? static_cast<int>(tag.toHandle()) : -1;
+            last = tag.code == 331 ? static_cast<int>(tag.handle()) : -1;
         QCOMPARE(last, 0x12);
         QCOMPARE(tags.offset(), viewport.end);
     }

@@ -1,6 +1,6 @@
-#include "dxftags.h"
 #include "layer.h"
 #include "rows.h"
+#include "tagreader.h"
 #include "textcodec.h"
 
 #include <QtTest>
@@ -70,20 +70,20 @@ private slots:
 
     void numbers()
     {
-        const auto tag = [](const char* value) {
-            Tag made;
-            made.value = value;
-            return made;
+        const auto tag = [](const char* bytes) {
+            Tag read;
+            TagReader(std::string_view(bytes)).next(read);
+            return read;
         };
-        QCOMPARE(tag("    -7").toInteger(), qint64(-7));
-        QCOMPARE(tag("+12 ").toInteger(), qint64(12));
-        QCOMPARE(tag("3.0").toInteger(), qint64(3));
-        QCOMPARE(tag("7seven").toInteger(), qint64(0));
-        QCOMPARE(tag("99999999999999999999").toInteger(), qint64(0));
-        QCOMPARE(tag(" -1.5E+3").toDouble(), -1500.0);
-        QCOMPARE(tag("1,5").toDouble(), 0.0);
-        QCOMPARE(tag("1aF").toHandle(), quint64(0x1af));
-        QCOMPARE(tag("XYZ").toHandle(), quint64(0));
+        QCOMPARE(tag("70\n    -7\n").integer(), qint64(-7));
+        QCOMPARE(tag("70\n+12 \n").integer(), qint64(12));
+        QCOMPARE(tag("70\n3.0\n").integer(), qint64(3));
+        QCOMPARE(tag("70\n7seven\n").integer(), qint64(0));
+        QCOMPARE(tag("70\n99999999999999999999\n").integer(), qint64(0));
+        QCOMPARE(tag("40\n -1.5E+3\n").real(), -1500.0);
+        QCOMPARE(tag("40\n1,5\n").real(), 0.0);
+        QCOMPARE(tag("5\n1aF\n").handle(), quint64(0x1af));
+        QCOMPARE(tag("5\nXYZ\n").handle(), quint64(0));
     }
 
     void readerStops_data()
@@ -107,8 +107,8 @@ private slots:
         int count = 0;
         qint64 last = 100;
         while (reader.next(tag)) {
-            QCOMPARE(tag.begin, last);
-            last = tag.end;
+            QCOMPARE(tag.begin(), last);
+            last = tag.end();
             ++count;
         }
         QTEST(count, "tags");

@@ -63,7 +63,7 @@ void TestViewportLayers::layouts()
             Tag tag;
             while (drawing->isShown(entity) && tags.next(tag)) {
                 if (tag.code == 11)
-                    ends.append(tag.value.data(), int(tag.value.size()));
+                    ends.append(tag.value, int(tag.raw().size()));
             }
         }
         return ends;

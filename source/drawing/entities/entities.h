@@ -1,6 +1,7 @@
 #pragma once
 
 #include "layer.h"
+#include "tag.h"
 
 #include <QString>
 
@@ -47,6 +48,8 @@ struct Entity
     bool subEntity = false;  ///< Follows an owner; does not count as an entity of its own.
     bool removed = false; ///< Deleted; it keeps its place, so that indices of entities stay good.
     bool colorByLayer = false; ///< Lost the colour of its own that its tags tell of.
+
+    ByteRange range() const { return {begin, end}; }
 };
 
 /// A block definition: its entities are `entities[first .. first + count)`.

@@ -239,7 +239,7 @@ int EntityEdits::countBlockReferences(const std::vector<LayerId>& layers) const
     for (const Entity& entity : m_data.index.entities) {
         if (entity.kind != EntityKind::Insert || entity.removed)
             continue;
-        TagReader tags = m_data.tags({entity.begin, entity.end});
+        TagReader tags = m_data.tags(entity.range());
         Tag tag;
         while (tags.next(tag) && tag.code != 2) {
         }

@@ -1,7 +1,7 @@
 #include "entityeditsbytes.h"
 
 #include "layerrecord.h"
-#include "tagtext.h"
+#include "taglist.h"
 
 #include <algorithm>
 
@@ -14,14 +14,14 @@ constexpr quint32 kInsertion = 0;
 /// Where the layer's group belongs: behind the marker of the common data, which old formats lack.
 qint64 layerGroupPlace(const DrawingData& data, const Entity& entity)
 {
-    TagReader tags = data.tags({entity.begin, entity.end});
+    TagReader tags = data.tags(entity.range());
     Tag tag;
     qint64 behindType = entity.end;
     if (tags.next(tag))
-        behindType = tag.end;
+        behindType = tag.end();
     while (tags.next(tag)) {
         if (tag.code == 100 && tag.trimmed() == "AcDbEntity")
-            return tag.end;
+            return tag.end();
     }
     return behindType;
 }
@@ -64,7 +64,7 @@ void forceByLayer(DrawingData& data, size_t entity, const ByLayerGroups& groups)
     if (!groups.color && !groups.linetype && !groups.transparency)
         return;
     const Entity& place = data.index.entities[entity];
-    TagReader tags = data.tags({place.begin, place.end});
+    TagReader tags = data.tags(place.range());
     bool isCommon = true;
     bool inGroup = false;
     Tag tag;
@@ -75,7 +75,7 @@ void forceByLayer(DrawingData& data, size_t entity, const ByLayerGroups& groups)
             inGroup = opensGroup(tag.code, tag.trimmed());
         if (!isCommon || inGroup || !isOwn(tag, groups))
             continue;
-        data.journal.replace(tag.begin, tag.end, {});
+        data.journal.replace(tag.range(), {});
         if (tag.code == 62 || tag.code == 420)
             data.dropColor(entity);
     }
@@ -86,17 +86,13 @@ void writeLayerName(DrawingData& data, size_t entity, const QByteArray& name)
     const Entity& place = data.index.entities[entity];
     const quint32 nameAt = data.index.layerNameAt[entity];
     if (nameAt == 0) {
-        const TagStyle style = TagStyle::of(data.view({place.begin, place.end}));
+        const TagStyle style = data.styleOf(place.range());
         data.journal.insert(layerGroupPlace(data, place), kInsertion, style.tag(8, name));
         return;
     }
     const qint64 value = place.begin + nameAt;
-    const auto length = static_cast<qint64>(data.lineAt(value).size());
     // Refused within an entity that was taken out.
-    if (length == 0)
-        data.journal.insert(value, kInsertion, name);
-    else
-        data.journal.replace(value, value + length, name);
+    data.journal.overwrite(data.valueRange(value), kInsertion, name);
 }
 
 void removeEntityBytes(DrawingData& data, size_t entity)
@@ -105,7 +101,7 @@ void removeEntityBytes(DrawingData& data, size_t entity)
     // Behind an entity of a single group its insertion stands outside of it.
     if (data.index.layerNameAt[entity] == 0)
         data.journal.removeInsertion(layerGroupPlace(data, place), kInsertion);
-    data.journal.replace(place.begin, place.end, {});
+    data.journal.replace(place.range(), {});
 }
 
 } // namespace drawing

@@ -60,15 +60,15 @@ const PointerRemoval::Flag PointerRemoval::kFlags[] = {
 void PointerRemoval::addEntity(size_t entity)
 {
     const Entity& place = m_data.index.entities[entity];
-    TagReader tags = m_data.tags({place.begin, place.end});
+    TagReader tags = m_data.tags(place.range());
     Tag tag;
     while (tags.next(tag) && tag.code != 5) {
     }
-    if (tag.code != 5 || tag.toHandle() == 0)
+    if (tag.code != 5 || tag.handle() == 0)
         return;
-    m_gone.insert(tag.toHandle());
-    m_open.push_back(tag.toHandle());
-    addOwned({place.begin, place.end}, false);
+    m_gone.insert(tag.handle());
+    m_open.push_back(tag.handle());
+    addOwned(place.range(), false);
 }
 
 void PointerRemoval::addOwned(const ByteRange& range, bool isDictionary)
@@ -77,7 +77,7 @@ void PointerRemoval::addOwned(const ByteRange& range, bool isDictionary)
     Tag tag;
     while (tags.next(tag)) {
         if (tag.code == 360 || (tag.code == 350 && isDictionary))
-            addObject(m_data.objectByHandle(tag.toHandle()));
+            addObject(m_data.objectByHandle(tag.handle()));
     }
 }
 
@@ -94,7 +94,7 @@ void PointerRemoval::addObject(const ObjectPlace* object)
 void PointerRemoval::findDependents()
 {
     for (const ObjectPlace& object : m_data.index.objects) {
-        TagReader tags = m_data.tags({object.begin, object.end});
+        TagReader tags = m_data.tags(object.range);
         Tag tag;
         const bool isTie = tags.next(tag) && tag.trimmed() == "DIMASSOC";
         bool inGroup = false;
@@ -103,7 +103,7 @@ void PointerRemoval::findDependents()
                 inGroup = tag.trimmed() != "}";
             const bool isOwner = tag.code == 330;
             if (!inGroup && (isOwner || (isTie && (tag.code == 331 || tag.code == 332))))
-                m_dependents.emplace(tag.toHandle(), &object);
+                m_dependents.emplace(tag.handle(), &object);
         }
     }
 }
@@ -114,7 +114,7 @@ void PointerRemoval::addDependents()
         const quint64 handle = m_open.back();
         m_open.pop_back();
         if (const ObjectPlace* object = m_data.objectByHandle(handle))
-            addOwned({object->begin, object->end}, object->kind == ObjectKind::Dictionary);
+            addOwned(object->range, object->kind == ObjectKind::Dictionary);
         const auto [from, to] = m_dependents.equal_range(handle);
         for (auto dependent = from; dependent != to; ++dependent)
             addObject(dependent->second);
@@ -130,7 +130,7 @@ void PointerRemoval::run()
     addDependents();
     for (const Entity& entity : m_data.index.entities) {
         if (!entity.removed)
-            clean({entity.begin, entity.end});
+            clean(entity.range());
     }
     for (const TablePlace& table : m_data.index.tables) {
         for (const ByteRange& record : table.records)
@@ -139,15 +139,15 @@ void PointerRemoval::run()
     for (size_t i = 0; i < m_objectGoes.size(); ++i) {
         const ObjectPlace& object = m_data.index.objects[i];
         if (m_objectGoes[i])
-            m_data.journal.replace(object.begin, object.end, {});
+            m_data.journal.replace(object.range, {});
         else
-            clean({object.begin, object.end});
+            clean(object.range);
     }
 }
 
 bool PointerRemoval::pointsAtGone(const Tag& tag) const
 {
-    return isPointer(tag.code) && m_gone.count(tag.toHandle()) != 0;
+    return isPointer(tag.code) && m_gone.count(tag.handle()) != 0;
 }
 
 bool PointerRemoval::touches(const ByteRange& range) const
@@ -211,7 +211,7 @@ void PointerRemoval::drop(size_t at)
         else if (rule->with == Rule::TagBehind && at + 1 < m_tags.size())
             erase(at + 1);
     } else if (!dropCounted(at)) {
-        write(m_tags[at], "0");
+        m_data.journal.replace(m_tags[at].valueRange(), "0");
     }
     settleFlags(code);
 }
@@ -250,7 +250,7 @@ bool PointerRemoval::dropCounted(size_t at)
         ++end;
     const bool isCounted = first > 0 &&
                            (m_tags[first - 1].code == 97 || m_tags[first - 1].code == 90) &&
-                           m_tags[first - 1].toInteger() == static_cast<qint64>(end - first);
+                           m_tags[first - 1].integer() == static_cast<qint64>(end - first);
     if (!isCounted)
         return false;
     int dropped = 0;
@@ -267,9 +267,8 @@ bool PointerRemoval::dropCounted(size_t at)
 void PointerRemoval::settleCount(size_t at, int dropped)
 {
     const Tag& count = m_tags[at];
-    const auto end = count.valueBegin + static_cast<qint64>(count.value.size());
-    const qint64 old = m_data.journal.current(count.valueBegin, end).trimmed().toLongLong();
-    write(count, QByteArray::number(old - dropped));
+    const TagList now = m_data.tagList(m_data.journal.current(count.range()));
+    m_data.journal.replace(count.valueRange(), numberInPlace(count, now.integer(0) - dropped));
 }
 
 void PointerRemoval::settleFlags(int code)
@@ -280,27 +279,19 @@ void PointerRemoval::settleFlags(int code)
         const auto tag = std::find_if(m_tags.begin(), m_tags.end(),
             [&flag](const Tag& candidate) { return candidate.code == flag.code; });
         if (tag != m_tags.end())
-            write(*tag, QByteArray::number((tag->toInteger() & flag.kept) | flag.set));
+            m_data.journal.replace(
+                tag->valueRange(), numberInPlace(*tag, (tag->integer() & flag.kept) | flag.set));
     }
 }
 
 void PointerRemoval::erase(size_t at)
 {
-    m_data.journal.replace(m_tags[at].begin, m_tags[at].end, {});
-}
-
-/// Keeps the width of a number it replaces.
-void PointerRemoval::write(const Tag& tag, QByteArray value)
-{
-    if (!tag.value.empty() && tag.value.front() == ' ')
-        value = value.rightJustified(static_cast<int>(tag.value.size()));
-    m_data.journal.replace(
-        tag.valueBegin, tag.valueBegin + static_cast<qint64>(tag.value.size()), value);
+    m_data.journal.replace(m_tags[at].range(), {});
 }
 
 bool PointerRemoval::isErased(const Tag& tag) const
 {
-    return m_data.journal.current(tag.begin, tag.end).isEmpty();
+    return m_data.journal.current(tag.range()).isEmpty();
 }
 
 } // namespace drawing

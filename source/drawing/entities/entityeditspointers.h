@@ -38,7 +38,6 @@ private:
     void settleCount(size_t at, int dropped);
     void settleFlags(int code);
     void erase(size_t at);
-    void write(const Tag& tag, QByteArray value);
     bool isErased(const Tag& tag) const;
 
     DrawingData& m_data;

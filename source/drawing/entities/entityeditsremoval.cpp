@@ -10,11 +10,11 @@ bool EntityRemoval::isSheetViewport(const Entity& entity) const
 {
     if (entity.kind != EntityKind::Viewport)
         return false;
-    TagReader tags = m_data.tags({entity.begin, entity.end});
+    TagReader tags = m_data.tags(entity.range());
     Tag tag;
     while (tags.next(tag)) {
         if (tag.code == 69)
-            return tag.toInteger() == 1;
+            return tag.integer() == 1;
     }
     return false;
 }
@@ -74,11 +74,11 @@ void EntityRemoval::chooseParts(size_t owner, size_t end, const std::vector<char
 void EntityRemoval::forgetAttributes(size_t reference)
 {
     const Entity& entity = m_data.index.entities[reference];
-    TagReader tags = m_data.tags({entity.begin, entity.end});
+    TagReader tags = m_data.tags(entity.range());
     Tag tag;
     while (tags.next(tag)) {
         if (tag.code == 66)
-            m_data.journal.replace(tag.begin, tag.end, {});
+            m_data.journal.replace(tag.range(), {});
     }
 }
 

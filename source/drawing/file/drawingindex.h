@@ -2,24 +2,12 @@
 
 #include "entities.h"
 #include "nameinterner.h"
-
-#include <QByteArray>
+#include "tag.h"
 
 #include <array>
-#include <string_view>
 #include <vector>
 
 namespace drawing {
-
-/// A range of file offsets; null when there is none.
-struct ByteRange
-{
-    qint64 begin = -1;
-    qint64 end = -1;
-
-    bool isNull() const { return begin < 0; }
-    bool contains(qint64 offset) const { return offset >= begin && offset < end; }
-};
 
 enum class HeaderVariable {
     Version,
@@ -49,13 +37,12 @@ enum class ObjectKind : quint8 { Other, Dictionary, XRecord, LayerList, Layout }
 /// An object of the OBJECTS section. `LayerList` objects name layers in their 8 groups.
 struct ObjectPlace
 {
-    qint64 begin = 0;
-    qint64 end = 0;
+    ByteRange range;
     quint64 handle = 0;
     ObjectKind kind = ObjectKind::Other;
 };
 
-/// A place outside the entities where a layer is named: `value` up to its line end.
+/// A place outside the entities where a layer is named: where the value begins.
 struct LayerNamePlace
 {
     qint64 value = 0;
@@ -66,15 +53,15 @@ struct LayerNamePlace
 /// the layers are known, a `LayerId` here is the number of a spelling.
 struct DrawingIndex
 {
-    std::array<ByteRange, static_cast<size_t>(HeaderVariable::Count)> header; ///< Value lines.
+    std::array<Tag, static_cast<size_t>(HeaderVariable::Count)> header; ///< Their values.
     std::array<TablePlace, static_cast<size_t>(TableKind::Count)> tables;
     std::vector<Block> blocks; ///< Names are filled in when the code page is known.
-    std::vector<ByteRange> blockNames;
+    std::vector<Tag> blockNames;
     std::vector<Entity> entities;
     /// For each entity where its layer name stands, counted from its begin; 0 when it names none.
     std::vector<quint32> layerNameAt;
     std::vector<LayerNamePlace> blockLayers; ///< Of BLOCK and ENDBLK.
-    std::vector<qint64> xdataNames;          ///< Value lines of the 1003 groups.
+    std::vector<qint64> xdataNames;          ///< Where the values of the 1003 groups begin.
     std::vector<ObjectPlace> objects;
     NameInterner layerSpellings;
 
@@ -85,10 +72,7 @@ struct DrawingIndex
     qint64 firstSection = -1; ///< `0 SECTION` of the first section.
     qint64 firstBody = -1;    ///< Of the first section that must follow TABLES; else `0 EOF`.
 
-    const ByteRange& variable(HeaderVariable which) const
-    {
-        return header[static_cast<size_t>(which)];
-    }
+    const Tag& variable(HeaderVariable which) const { return header[static_cast<size_t>(which)]; }
     const TablePlace& table(TableKind which) const { return tables[static_cast<size_t>(which)]; }
 };
 

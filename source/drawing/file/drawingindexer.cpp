@@ -2,9 +2,6 @@
 
 #include "drawing.h"
 #include "dxfnames.h"
-#include "dxftags.h"
-
-#include <charconv>
 
 namespace drawing {
 
@@ -12,35 +9,7 @@ namespace {
 
 constexpr qint64 kReportEvery = 1 << 20;
 
-quint64 handleOf(std::string_view value)
-{
-    const std::string_view text = trimmedView(value);
-    quint64 handle = 0;
-    std::from_chars(text.data(), text.data() + text.size(), handle, 16);
-    return handle;
-}
-
-double number(const RawTag& tag)
-{
-    const std::string_view text = trimmedView(tag.text());
-    double value = 0;
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
-}
-
 } // namespace
-
-DrawingIndexer::DrawingIndexer(std::string_view bytes, Progress* progress)
-    : m_begin(bytes.data()),
-      m_end(bytes.data() + bytes.size()),
-      m_next(m_begin),
-      m_nextReport(m_begin),
-      m_progress(progress)
-{
-    constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
-    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark)
-        m_next += kByteOrderMark.size();
-}
 
 std::optional<IndexFault> DrawingIndexer::run(DrawingIndex& index)
 {
@@ -55,25 +24,30 @@ bool DrawingIndexer::fail(IndexFaultKind kind, qint64 offset)
     return false;
 }
 
+/// Notes why there is no further tag.
+bool DrawingIndexer::failed(ScanResult result)
+{
+    const qint64 at = m_tags.offset();
+    switch (result) {
+    case ScanResult::BadCode:
+        return fail(IndexFaultKind::BadCode, at);
+    case ScanResult::TooLong:
+        return fail(IndexFaultKind::TooLong, at);
+    default:
+        return fail(IndexFaultKind::CutOff, m_tags.end());
+    }
+}
+
 bool DrawingIndexer::next()
 {
-    switch (scanTag(m_next, m_end, m_tag)) {
-    case ScanResult::Tag:
-        m_next = m_tag.after;
-        return true;
-    case ScanResult::BadCode:
-        return fail(IndexFaultKind::BadCode, m_next - m_begin);
-    case ScanResult::TooLong:
-        return fail(IndexFaultKind::TooLong, m_tag.value - m_begin);
-    default:
-        return fail(IndexFaultKind::CutOff, m_end - m_begin);
-    }
+    const ScanResult result = m_tags.read(m_tag);
+    return result == ScanResult::Tag || failed(result);
 }
 
 /// Tells whether the section goes on at the `0` group just read.
 bool DrawingIndexer::goesOn()
 {
-    if (m_tag.begin >= m_nextReport)
+    if (m_tag.begin() >= m_nextReport)
         report();
     if (m_fault)
         return false;
@@ -81,33 +55,31 @@ bool DrawingIndexer::goesOn()
     if (name == "ENDSEC")
         return false;
     if (name == "SECTION" || name == "EOF")
-        return fail(IndexFaultKind::SectionNotEnded, at());
+        return fail(IndexFaultKind::SectionNotEnded, m_tag.begin());
     return true;
 }
 
 void DrawingIndexer::report()
 {
-    m_nextReport = m_tag.begin + kReportEvery;
+    m_nextReport = m_tag.begin() + kReportEvery;
     if (!m_progress)
         return;
     if (m_progress->report)
-        m_progress->report(static_cast<int>((m_tag.begin - m_begin) * 100 / (m_end - m_begin)));
+        m_progress->report(static_cast<int>(m_tag.begin() * 100 / m_tags.end()));
     if (m_progress->cancelled)
-        fail(IndexFaultKind::Cancelled, at());
+        fail(IndexFaultKind::Cancelled, m_tag.begin());
 }
 
 bool DrawingIndexer::readSections()
 {
     constexpr int kComment = 999;
     do {
-        const ScanResult result = scanTag(m_next, m_end, m_tag);
-        if (result != ScanResult::Tag)
+        if (!m_tags.next(m_tag))
             return fail(IndexFaultKind::NotTagged, 0);
-        m_next = m_tag.after;
     } while (m_tag.code == kComment);
     if (m_tag.code != 0 || m_tag.text() != "SECTION")
         return fail(IndexFaultKind::NotTagged, 0);
-    m_index->firstSection = at();
+    m_index->firstSection = m_tag.begin();
     while (m_tag.code != 0 || m_tag.text() != "EOF") {
         const bool isSection = m_tag.code == 0 && m_tag.text() == "SECTION";
         if (isSection && !readSection())
@@ -116,16 +88,16 @@ bool DrawingIndexer::readSections()
         if (!next())
             return false;
     }
-    m_index->eof = at();
+    m_index->eof = m_tag.begin();
     if (m_index->firstBody < 0)
-        m_index->firstBody = at();
+        m_index->firstBody = m_tag.begin();
     return true;
 }
 
 /// Reads a section up to its ENDSEC.
 bool DrawingIndexer::readSection()
 {
-    const qint64 begin = at();
+    const qint64 begin = m_tag.begin();
     if (!next())
         return false;
     if (m_tag.code == 2)
@@ -148,11 +120,11 @@ bool DrawingIndexer::readSection()
     if (m_fault)
         return false;
     if (m_section == "HEADER")
-        m_index->headerEnd = at();
+        m_index->headerEnd = m_tag.begin();
     if (m_section == "TABLES")
-        m_index->tablesEnd = at();
+        m_index->tablesEnd = m_tag.begin();
     if (m_section == "OBJECTS")
-        m_index->objectsEnd = at();
+        m_index->objectsEnd = m_tag.begin();
     return true;
 }
 
@@ -167,7 +139,7 @@ bool DrawingIndexer::skipRest()
 
 bool DrawingIndexer::readHeader()
 {
-    ByteRange* value = nullptr;
+    Tag* value = nullptr;
     while (next()) {
         if (m_tag.code == 0 && !goesOn())
             break;
@@ -176,7 +148,7 @@ bool DrawingIndexer::readHeader()
             value = which == HeaderVariable::Count ? nullptr
                                                    : &m_index->header[static_cast<size_t>(which)];
         } else if (value) {
-            *value = valueRange();
+            *value = m_tag;
             value = nullptr;
         }
     }
@@ -201,26 +173,26 @@ bool DrawingIndexer::readTables()
 bool DrawingIndexer::readTable()
 {
     TablePlace read;
-    read.head.begin = at();
+    read.head.begin = m_tag.begin();
     std::string_view name;
     bool isRecord = false;
     while (next()) {
         if (m_tag.code == 1003)
-            m_index->xdataNames.push_back(m_tag.value - m_begin);
+            m_index->xdataNames.push_back(m_tag.valueRange().begin);
         if (m_tag.code == 2 && name.empty() && read.endTab < 0)
             name = m_tag.text();
         if (m_tag.code != 0)
             continue;
         if (isRecord)
-            read.records.back().end = at();
+            read.records.back().end = m_tag.begin();
         if (read.endTab < 0)
-            read.head.end = at();
-        read.endTab = at();
+            read.head.end = m_tag.begin();
+        read.endTab = m_tag.begin();
         if (!goesOn() || m_tag.text() == "ENDTAB" || m_tag.text() == "TABLE")
             break;
         isRecord = m_tag.text() == name;
         if (isRecord)
-            read.records.push_back({at(), at()});
+            read.records.push_back({m_tag.begin(), m_tag.begin()});
     }
     const TableKind kind = tableKind(name);
     TablePlace& place = m_index->tables[static_cast<size_t>(kind)];
@@ -263,27 +235,27 @@ bool DrawingIndexer::readBlockHead()
     const bool isHead = m_tag.text() == "BLOCK";
     Block block;
     block.first = static_cast<int>(m_index->entities.size());
-    ByteRange name;
+    Tag name;
     bool onLayer = false;
     while (next() && m_tag.code != 0) {
         switch (m_tag.code) {
         case 2:
-            name = name.isNull() ? valueRange() : name;
+            name = name.isNull() ? m_tag : name;
             break;
         case 8:
             if (!onLayer)
-                m_index->blockLayers.push_back({m_tag.value - m_begin,
+                m_index->blockLayers.push_back({m_tag.valueRange().begin,
                     static_cast<LayerId>(m_index->layerSpellings.intern(m_tag.text()))});
             onLayer = true;
             break;
         case 10:
-            block.baseX = number(m_tag);
+            block.baseX = m_tag.real();
             break;
         case 20:
-            block.baseY = number(m_tag);
+            block.baseY = m_tag.real();
             break;
         case 1003:
-            m_index->xdataNames.push_back(m_tag.value - m_begin);
+            m_index->xdataNames.push_back(m_tag.valueRange().begin);
             break;
         default:
             break;
@@ -315,27 +287,28 @@ bool DrawingIndexer::readEntities()
 bool DrawingIndexer::readEntity(int block)
 {
     Entity entity;
-    entity.begin = at();
+    entity.begin = m_tag.begin();
     entity.kind = kindOf(m_tag.text());
     entity.block = block;
     entity.subEntity = isSubEntity(entity.kind);
     quint32 nameAt = 0;
-    RawTag tag = m_tag;
+    TagReader tags = m_tags; // A copy, which needs no memory of its own.
+    Tag tag;
     ScanResult result = ScanResult::Tag;
-    while ((result = scanTag(tag.after, m_end, tag)) == ScanResult::Tag && tag.code != 0) {
+    while ((result = tags.read(tag)) == ScanResult::Tag && tag.code != 0) {
         if (tag.code == 8 && nameAt == 0) {
-            nameAt = static_cast<quint32>(tag.value - m_begin - entity.begin);
+            nameAt = static_cast<quint32>(tag.value - m_tag.first);
             entity.layer = static_cast<LayerId>(m_index->layerSpellings.intern(tag.text()));
         } else if (tag.code == 67) {
-            entity.paperSpace = trimmedView(tag.text()) == "1";
+            entity.paperSpace = tag.integer() == 1;
         } else if (tag.code == 1003) {
-            m_index->xdataNames.push_back(tag.value - m_begin);
+            m_index->xdataNames.push_back(tag.valueRange().begin);
         }
     }
-    // What ended the loop is read again the common way, which knows the faults.
-    m_next = result == ScanResult::Tag ? tag.begin : tag.after;
-    const bool isWhole = next();
-    entity.end = isWhole ? at() : m_end - m_begin;
+    m_tags = tags;
+    m_tag = tag;
+    const bool isWhole = result == ScanResult::Tag || failed(result);
+    entity.end = isWhole ? m_tag.begin() : m_tags.end();
     m_index->entities.push_back(entity);
     m_index->layerNameAt.push_back(nameAt);
     return isWhole;
@@ -358,15 +331,15 @@ bool DrawingIndexer::readObjects()
         if (m_tag.code == 0 && !goesOn())
             break;
         ObjectPlace object;
-        object.begin = at();
+        object.range.begin = m_tag.begin();
         object.kind = objectKind(m_tag.text());
         while (next() && m_tag.code != 0) {
             if (m_tag.code == 5 && object.handle == 0)
-                object.handle = handleOf(m_tag.text());
+                object.handle = m_tag.handle();
             else if (m_tag.code == 1003)
-                m_index->xdataNames.push_back(m_tag.value - m_begin);
+                m_index->xdataNames.push_back(m_tag.valueRange().begin);
         }
-        object.end = at();
+        object.range.end = m_tag.begin();
         m_index->objects.push_back(object);
     }
     return !m_fault;

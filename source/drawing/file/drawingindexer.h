@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawingindex.h"
-#include "tagscan.h"
+#include "tagreader.h"
 
 #include <optional>
 
@@ -19,12 +19,14 @@ struct IndexFault
     std::string_view section; ///< The section it was found in; may be empty.
 };
 
-/// Makes the index in one pass over the bytes.
+/// Makes the index in one pass over the tags.
 class DrawingIndexer
 {
 public:
-    /// `bytes` must outlive the index made. `progress` may be null.
-    DrawingIndexer(std::string_view bytes, Progress* progress);
+    /// The bytes of `tags` must outlive the index made. `progress` may be null.
+    DrawingIndexer(const TagReader& tags, Progress* progress) : m_tags(tags), m_progress(progress)
+    {
+    }
 
     /// Fills `index`; the fault that stopped it, if any.
     std::optional<IndexFault> run(DrawingIndex& index);
@@ -32,11 +34,10 @@ public:
 private:
     bool next();
     bool fail(IndexFaultKind kind, qint64 offset);
+    bool failed(ScanResult result);
     bool goesOn();
     bool skipRest();
     void report();
-    qint64 at() const { return m_tag.begin - m_begin; }
-    ByteRange valueRange() const { return {m_tag.value - m_begin, m_tag.valueEnd - m_begin}; }
 
     bool readSections();
     bool readSection();
@@ -50,12 +51,10 @@ private:
     bool readObjects();
     EntityKind kindOf(std::string_view name);
 
-    const char* m_begin = nullptr;
-    const char* m_end = nullptr;
-    const char* m_next = nullptr;
-    const char* m_nextReport = nullptr;
+    TagReader m_tags;
+    qint64 m_nextReport = 0;
     Progress* m_progress = nullptr;
-    RawTag m_tag;
+    Tag m_tag;
     DrawingIndex* m_index = nullptr;
     std::string_view m_section;
     std::string_view m_lastKindName;

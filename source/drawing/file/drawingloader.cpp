@@ -31,7 +31,8 @@ QString shown(std::string_view text)
 Error faultError(const DrawingData& data, const IndexFault& fault, const QString& fileName)
 {
     Error error;
-    error.line = lineOf(data.bytes, fault.offset);
+    // Of a line that is too long it is known where its group begins, a line above.
+    error.line = lineOf(data.bytes, fault.offset) + (fault.kind == IndexFaultKind::TooLong ? 1 : 0);
     const QString line = QString::number(error.line);
     const QString section = shown(fault.section);
     switch (fault.kind) {
@@ -44,7 +45,7 @@ Error faultError(const DrawingData& data, const IndexFault& fault, const QString
         break;
     case IndexFaultKind::BadCode:
         error.text = tr("文件“%1”第 %2 行的组码“%3”不是数字。")
-                         .arg(fileName, line, shown(data.lineAt(fault.offset)));
+                         .arg(fileName, line, shown(data.view(data.valueRange(fault.offset))));
         break;
     case IndexFaultKind::TooLong:
         error.text = tr("文件“%1”第 %2 行太长，超过 %3 MB，不能读取。")
@@ -99,7 +100,7 @@ public:
 private:
     std::string_view variable(HeaderVariable which) const
     {
-        return trimmedView(m_data.view(m_data.index.variable(which)));
+        return m_data.index.variable(which).trimmed();
     }
     QString symbolName(const ByteRange& record) const;
     LayerId layerNamed(std::string_view spelling);
@@ -150,14 +151,14 @@ void Loader::loadPlotStyles()
     const ObjectPlace* names = dictionaryEntry(m_data, root, "ACAD_PLOTSTYLENAME");
     if (!names)
         return;
-    TagReader tags = m_data.tags({names->begin, names->end});
+    TagReader tags = m_data.tags(names->range);
     std::string_view name;
     Tag tag;
     while (tags.next(tag)) {
         if (tag.code == 3)
-            name = tag.value;
+            name = tag.text();
         else if (tag.code == 350 || tag.code == 360)
-            m_data.plotStyles.insert(tag.toHandle(), m_data.codec.decode(name));
+            m_data.plotStyles.insert(tag.handle(), m_data.codec.decode(name));
     }
 }
 
@@ -227,7 +228,8 @@ void Loader::resolveEntities()
         m_data.namePlaces.push_back({place.value, layerOf(place.layer)});
     // XDATA may name layers that are no more; it brings none about.
     for (const qint64 value : m_data.index.xdataNames) {
-        const QString name = m_data.codec.decode(trimmedView(m_data.lineAt(value)));
+        const QString name =
+            m_data.codec.decode(trimmedView(m_data.view(m_data.valueRange(value))));
         if (const Layer* layer = m_data.layers.find(name))
             m_data.namePlaces.push_back({value, layer->id});
     }
@@ -240,7 +242,7 @@ void Loader::nameBlocks()
     DrawingIndex& index = m_data.index;
     for (size_t i = 0; i < index.blocks.size(); ++i) {
         Block& block = index.blocks[i];
-        block.name = m_data.codec.decode(trimmedView(m_data.view(index.blockNames[i])));
+        block.name = m_data.codec.decode(index.blockNames[i].trimmed());
         const QString name = block.name.toCaseFolded();
         m_data.blockByName.insert(name, static_cast<int>(i));
         block.layout = name.startsWith(QLatin1String("*model_space")) ||
@@ -266,7 +268,7 @@ Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress*
 {
     if (auto known = checkFormat(data.bytes, fileName); !known)
         return known;
-    DrawingIndexer indexer(data.bytes, progress);
+    DrawingIndexer indexer(data.allTags(), progress);
     if (const auto fault = indexer.run(data.index))
         return tl::make_unexpected(faultError(data, *fault, fileName));
     Loader loader(data);

@@ -18,37 +18,49 @@ bool byPlace(const EditChange& a, const EditChange& b)
 
 } // namespace
 
-std::string_view EditJournal::originalBytes(qint64 begin, qint64 end) const
+std::string_view EditJournal::originalBytes(const ByteRange& range) const
 {
-    return m_original.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
+    return m_original.substr(
+        static_cast<size_t>(range.begin), static_cast<size_t>(range.end - range.begin));
 }
 
 /// True when no replacement reaches over an edge of the range.
-bool EditJournal::isFree(qint64 begin, qint64 end) const
+bool EditJournal::isFree(const ByteRange& range) const
 {
-    const auto first = m_edits.lower_bound({begin, 0});
-    if (first != m_edits.begin() && std::prev(first)->second.end > begin)
+    const auto first = m_edits.lower_bound({range.begin, 0});
+    if (first != m_edits.begin() && std::prev(first)->second.end > range.begin)
         return false;
-    const auto behind = m_edits.lower_bound({end, 0});
-    return behind == m_edits.begin() || std::prev(behind)->second.end <= end;
+    const auto behind = m_edits.lower_bound({range.end, 0});
+    return behind == m_edits.begin() || std::prev(behind)->second.end <= range.end;
 }
 
-bool EditJournal::replace(qint64 begin, qint64 end, const QByteArray& text)
+bool EditJournal::replace(const ByteRange& range, const QByteArray& text)
 {
-    const EditPlace place{begin};
+    const EditPlace place{range.begin};
     auto inner = m_edits.lower_bound(place);
     const bool sameRange =
-        inner != m_edits.end() && inner->first == place && inner->second.end == end;
-    if (begin >= end || (!sameRange && !isFree(begin, end)))
+        inner != m_edits.end() && inner->first == place && inner->second.end == range.end;
+    if (range.begin >= range.end || (!sameRange && !isFree(range)))
         return false;
     if (sameRange)
         ++inner;
-    while (inner != m_edits.end() && inner->first.begin < end) {
+    while (inner != m_edits.end() && inner->first.begin < range.end) {
         m_changes.push_back({inner->first, inner->second, {}});
         inner = m_edits.erase(inner);
     }
-    put(place, view(text) == originalBytes(begin, end) ? Edit{} : Edit{end, text});
+    put(place, view(text) == originalBytes(range) ? Edit{} : Edit{range.end, text});
     return true;
+}
+
+bool EditJournal::restore(const ByteRange& range)
+{
+    const std::string_view original = originalBytes(range);
+    return replace(range, {original.data(), static_cast<int>(original.size())});
+}
+
+bool EditJournal::overwrite(const ByteRange& range, quint32 order, const QByteArray& text)
+{
+    return range.begin < range.end ? replace(range, text) : insert(range.begin, order, text);
 }
 
 bool EditJournal::insert(qint64 at, quint32 order, const QByteArray& text)
@@ -81,20 +93,20 @@ void EditJournal::put(const EditPlace& place, const Edit& edit)
         m_edits.emplace_hint(at, place, edit);
 }
 
-QByteArray EditJournal::current(qint64 begin, qint64 end) const
+QByteArray EditJournal::current(const ByteRange& range) const
 {
     QByteArray bytes;
     const auto append = [&bytes](std::string_view piece) {
         bytes.append(piece.data(), static_cast<int>(piece.size()));
     };
-    qint64 from = begin;
-    const auto first = m_edits.lower_bound({begin});
-    for (auto at = first; at != m_edits.end() && at->first.begin < end; ++at) {
-        append(originalBytes(from, at->first.begin));
+    qint64 from = range.begin;
+    const auto first = m_edits.lower_bound({range.begin});
+    for (auto at = first; at != m_edits.end() && at->first.begin < range.end; ++at) {
+        append(originalBytes({from, at->first.begin}));
         bytes += at->second.text;
         from = at->second.end;
     }
-    append(originalBytes(from, end));
+    append(originalBytes({from, range.end}));
     return bytes;
 }
 
@@ -108,7 +120,7 @@ bool EditJournal::stream(const Sink& sink) const
 {
     qint64 from = 0;
     for (const auto& [place, edit] : m_edits) {
-        const std::string_view untouched = originalBytes(from, place.begin);
+        const std::string_view untouched = originalBytes({from, place.begin});
         if (!untouched.empty() && !sink(untouched))
             return false;
         if (!edit.text.isEmpty() && !sink(view(edit.text)))

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "tag.h"
+
 #include <QByteArray>
-#include <QtGlobal>
 
 #include <functional>
 #include <map>
-#include <string_view>
 #include <tuple>
 #include <vector>
 
@@ -61,18 +61,22 @@ public:
 
     explicit EditJournal(std::string_view original = {}) : m_original(original) {}
 
-    /// Puts `text` instead of the original's bytes [begin, end), begin < end. Putting the
+    /// Puts `text` instead of the original's bytes in a range, which is not empty. Putting the
     /// original's own bytes back takes the edit away. Refuses (false, nothing changed) a range that
     /// reaches over the edge of an earlier replacement, or lies within a larger one.
-    bool replace(qint64 begin, qint64 end, const QByteArray& text);
+    bool replace(const ByteRange& range, const QByteArray& text);
+    /// Takes back what was done to the range.
+    bool restore(const ByteRange& range);
+    /// Puts `text` instead of the range, which may be empty.
+    bool overwrite(const ByteRange& range, quint32 order, const QByteArray& text);
     /// Puts `text` in before the byte at `at`, instead of what stood at this very order. Refuses
     /// (false) a place within a replaced range.
     bool insert(qint64 at, quint32 order, const QByteArray& text);
     void removeInsertion(qint64 at, quint32 order);
 
-    /// The bytes [begin, end) as edited: insertions at `begin` left out, replacements must not
+    /// The bytes of a range as edited: insertions at its begin left out, replacements must not
     /// reach over the edges.
-    QByteArray current(qint64 begin, qint64 end) const;
+    QByteArray current(const ByteRange& range) const;
     /// The text inserted at this place; null when there is none.
     QByteArray inserted(qint64 at, quint32 order) const;
     /// Hands out the whole edited file piece by piece, until `sink` refuses.
@@ -89,8 +93,8 @@ public:
 private:
     using Edits = std::map<EditPlace, Edit>;
 
-    std::string_view originalBytes(qint64 begin, qint64 end) const;
-    bool isFree(qint64 begin, qint64 end) const;
+    std::string_view originalBytes(const ByteRange& range) const;
+    bool isFree(const ByteRange& range) const;
     void put(const EditPlace& place, const Edit& edit);
 
     std::string_view m_original;

@@ -11,14 +11,14 @@ void visitEntries(DrawingData& data, const ObjectPlace* dictionary, Visit visit)
 {
     if (!dictionary)
         return;
-    TagReader tags = data.tags({dictionary->begin, dictionary->end});
+    TagReader tags = data.tags(dictionary->range);
     std::string_view key;
     Tag tag;
     while (tags.next(tag)) {
         if (tag.code == 3)
             key = tag.trimmed();
         else if ((tag.code == 350 || tag.code == 360) && !key.empty())
-            visit(key, data.objectByHandle(tag.toHandle()));
+            visit(key, data.objectByHandle(tag.handle()));
     }
 }
 
@@ -62,7 +62,7 @@ quint64 extensionDictionary(TagReader tags)
         if (tag.code == 102)
             inGroup = tag.trimmed() == "{ACAD_XDICTIONARY";
         else if (inGroup && tag.code == 360)
-            return tag.toHandle();
+            return tag.handle();
     }
     return 0;
 }
@@ -72,7 +72,7 @@ quint64 ownHandle(TagReader tags)
     Tag tag;
     while (tags.next(tag)) {
         if (tag.code == 5)
-            return tag.toHandle();
+            return tag.handle();
     }
     return 0;
 }
@@ -87,7 +87,7 @@ QHash<quint64, QString> linetypeNames(const DrawingData& data)
         Tag tag;
         while (tags.next(tag) && name.isNull()) {
             if (tag.code == 5)
-                handle = tag.toHandle();
+                handle = tag.handle();
             else if (tag.code == 2)
                 name = data.codec.decode(tag.trimmed());
         }
@@ -100,17 +100,15 @@ QHash<quint64, QString> linetypeNames(const DrawingData& data)
 quint64 firstFreeHandle(const DrawingData& data)
 {
     constexpr quint64 kHighest = quint64(1) << 62;
-    const ByteRange& variable = data.index.variable(HeaderVariable::HandleSeed);
-    Tag seed;
-    seed.value = data.view(variable);
-    quint64 free = std::max<quint64>(seed.toHandle(), 1);
+    const Tag& seed = data.index.variable(HeaderVariable::HandleSeed);
+    quint64 free = std::max<quint64>(seed.handle(), 1);
     // Some programs write a seed that is already in use.
-    TagReader tags(data.bytes);
+    TagReader tags = data.allTags();
     Tag tag;
     while (tags.next(tag)) {
-        if ((tag.code != 5 && tag.code != 105) || tag.valueBegin == variable.begin)
+        if ((tag.code != 5 && tag.code != 105) || tag.value == seed.value)
             continue;
-        const quint64 handle = tag.toHandle();
+        const quint64 handle = tag.handle();
         if (handle >= free && handle < kHighest)
             free = handle + 1;
     }

@@ -38,8 +38,9 @@ const TableNames& namesOf(TableKind kind)
 
 TagStyle styleAt(const DrawingData& data, qint64 offset)
 {
-    constexpr size_t kSample = 400;
-    return TagStyle::of(data.bytes.substr(static_cast<size_t>(offset), kSample));
+    constexpr qint64 kSample = 400;
+    const auto end = static_cast<qint64>(data.bytes.size());
+    return data.styleOf({offset, std::min(offset + kSample, end)});
 }
 
 } // namespace
@@ -64,7 +65,7 @@ SymbolTables::Spot SymbolTables::spot(TableKind kind) const
     spot.hasSection = index.tablesEnd >= 0;
     if (spot.hasTable) {
         spot.at = table.endTab;
-        spot.style = TagStyle::of(m_data.view(table.head));
+        spot.style = m_data.styleOf(table.head);
     } else {
         spot.at = spot.hasSection ? index.tablesEnd : index.firstBody;
         spot.style = styleAt(m_data, index.firstSection);
@@ -79,7 +80,7 @@ quint64 SymbolTables::tableHandle(TableKind kind) const
     Tag tag;
     while (tags.next(tag)) {
         if (tag.code == 5)
-            return tag.toHandle();
+            return tag.handle();
     }
     return 0;
 }
@@ -91,8 +92,7 @@ quint64 SymbolTables::takeHandle()
     if (m_data.freeHandle == 0)
         m_data.freeHandle = firstFreeHandle(m_data);
     const quint64 handle = m_data.freeHandle + m_data.state.handlesTaken++;
-    writeHeader(
-        "$HANDSEED", HeaderVariable::HandleSeed, 5, QByteArray::number(handle + 1, 16).toUpper());
+    writeHeader("$HANDSEED", HeaderVariable::HandleSeed, 5, handleText(handle + 1));
     return handle;
 }
 
@@ -100,17 +100,13 @@ void SymbolTables::writeHeader(
     std::string_view name, HeaderVariable which, int code, const QByteArray& text)
 {
     const DrawingIndex& index = m_data.index;
-    const ByteRange& value = index.variable(which);
-    if (!value.isNull() && value.begin < value.end) {
-        m_data.journal.replace(value.begin, value.end, text);
-        return;
-    }
+    const Tag& old = index.variable(which);
     const auto order = kSectionHead + 1 + static_cast<quint32>(which);
-    if (!value.isNull()) {
-        m_data.journal.insert(value.begin, order, text);
+    const TagStyle style = styleAt(m_data, index.firstSection);
+    if (!old.isNull()) {
+        m_data.journal.overwrite(old.valueRange(), order, style.value(old.code, text));
         return;
     }
-    const TagStyle style = styleAt(m_data, index.firstSection);
     const QByteArray variable =
         style.tag(9, QByteArray(name.data(), static_cast<int>(name.size()))) +
         style.tag(code, text);
@@ -132,11 +128,9 @@ void SymbolTables::writeCurrentLayer()
 
 void SymbolTables::writeTileMode()
 {
-    const QByteArray value = m_data.state.modelSpace ? "1" : "0";
-    const auto& old = m_data.view(m_data.index.variable(HeaderVariable::TileMode));
-    const bool isAligned = !old.empty() && old.front() == ' ';
+    const Tag& old = m_data.index.variable(HeaderVariable::TileMode);
     writeHeader("$TILEMODE", HeaderVariable::TileMode, 70,
-        isAligned ? value.rightJustified(static_cast<int>(old.size())) : value);
+        numberInPlace(old, m_data.state.modelSpace ? 1 : 0));
 }
 
 /// Sets the count of a table to what the file says plus `added`.
@@ -152,16 +146,13 @@ void SymbolTables::countRecords(const Spot& spot, TableKind kind, int added)
         if (tag.code == 70)
             break;
     }
-    if (tag.code != 70 || tag.value.empty())
+    if (tag.code != 70 || tag.raw().empty())
         return;
-    const qint64 count = tag.toInteger();
+    const qint64 count = tag.integer();
     if (count < 0 || count > std::numeric_limits<int>::max() - std::abs(added))
         return; // A count that lies; it tells nobody anything.
-    QByteArray text = QByteArray::number(std::max<qint64>(0, count + added));
-    if (tag.value.front() == ' ')
-        text = text.rightJustified(static_cast<int>(tag.value.size()));
     m_data.journal.replace(
-        tag.valueBegin, tag.valueBegin + static_cast<qint64>(tag.value.size()), text);
+        tag.valueRange(), numberInPlace(tag, std::max<qint64>(0, count + added)));
 }
 
 /// Makes a missing table around its records, and a missing TABLES section around the table.
@@ -181,7 +172,7 @@ void SymbolTables::makeFrame(const Spot& spot, TableKind kind, int records)
                     style.tag(100, "AcDbSymbolTable");
         head += style.number(70, 0);
     }
-    TagList tags(head);
+    TagList tags = m_data.tagList(head);
     tags.setInteger(tags.find(70, 0, tags.size()), records);
     journal.insert(spot.at, spot.first, tags.bytes());
     journal.insert(spot.at, spot.first + kTableSpan - 1, style.tag(0, "ENDTAB"));
@@ -199,8 +190,7 @@ void SymbolTables::addLayerRecord(LayerEntry& entry)
     // What layer 0 has of these is what the drawing's other layers have.
     const LayerEntry& model = m_data.layers.entry(m_data.layers.find(QStringLiteral("0"))->id);
     if (model.hasRecord && model.place.order == EditPlace::kReplacement) {
-        const LayerRecord zero =
-            LayerRecordReader(m_data.codec).read(m_data.tags({model.place.begin, model.end}));
+        const LayerRecord zero = LayerRecordReader(m_data.codec).read(m_data.tags(model.range()));
         plan.plotStyle = zero.plotStyle;
         plan.material = zero.material;
     }
@@ -218,7 +208,7 @@ void SymbolTables::removeLayerRecord(const LayerEntry& entry)
     if (!entry.hasRecord)
         return;
     if (entry.place.order == EditPlace::kReplacement)
-        m_data.journal.replace(entry.place.begin, entry.end, {});
+        m_data.journal.replace(entry.range(), {});
     else
         m_data.journal.removeInsertion(entry.place.begin, entry.place.order);
     countRecords(spot(TableKind::Layer), TableKind::Layer, --m_data.state.layerRecordsAdded);
@@ -227,14 +217,14 @@ void SymbolTables::removeLayerRecord(const LayerEntry& entry)
 QByteArray SymbolTables::layerRecord(const LayerEntry& entry) const
 {
     return entry.place.order == EditPlace::kReplacement
-               ? m_data.journal.current(entry.place.begin, entry.end)
+               ? m_data.journal.current(entry.range())
                : m_data.journal.inserted(entry.place.begin, entry.place.order);
 }
 
 void SymbolTables::setLayerRecord(const LayerEntry& entry, const QByteArray& record)
 {
     if (entry.place.order == EditPlace::kReplacement)
-        m_data.journal.replace(entry.place.begin, entry.end, record);
+        m_data.journal.replace(entry.range(), record);
     else
         m_data.journal.insert(entry.place.begin, entry.place.order, record);
 }

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tag.h"
+
 #include <cstring>
-#include <string_view>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -13,18 +14,6 @@ namespace drawing {
 constexpr std::ptrdiff_t kLongestLine = 1 << 24;
 
 enum class ScanResult { Tag, End, TooLong, CutOff, BadCode };
-
-/// One pair of lines as pointers into the bytes scanned; the fastest form of a tag.
-struct RawTag
-{
-    int code = -1;
-    const char* begin = nullptr;    ///< The group code line.
-    const char* value = nullptr;    ///< The value line.
-    const char* valueEnd = nullptr; ///< Before the value's line end, CR LF or LF.
-    const char* after = nullptr;    ///< Behind the value's line end.
-
-    std::string_view text() const { return {value, static_cast<size_t>(valueEnd - value)}; }
-};
 
 /// The next LF from `p` on, or `end`.
 inline const char* findLineEnd(const char* p, const char* end)
@@ -45,13 +34,14 @@ inline const char* findLineEnd(const char* p, const char* end)
     return hit ? static_cast<const char*>(hit) : end;
 }
 
-/// Reads the pair of lines at `p`. A value line without a line end counts when it ends the bytes.
-inline ScanResult scanTag(const char* p, const char* end, RawTag& tag)
+/// Reads the pair of lines at `p`; `tag` is left alone unless there is one. A value line without a
+/// line end counts when it ends the bytes.
+inline ScanResult scanText(const char* p, const char* end, Tag& tag)
 {
     constexpr int kMostDigits = 5;
     if (p == end)
         return ScanResult::End;
-    tag.begin = p;
+    const char* const first = p;
     while (p != end && (*p == ' ' || *p == '\t'))
         ++p;
     const bool negative = p != end && *p == '-';
@@ -73,13 +63,14 @@ inline ScanResult scanTag(const char* p, const char* end, RawTag& tag)
         return ScanResult::BadCode;
     if (++p == end)
         return ScanResult::CutOff;
-    tag.code = negative ? -code : code;
-    tag.value = p;
     const char* const lineEnd = findLineEnd(p, end);
     if (lineEnd - p > kLongestLine)
         return ScanResult::TooLong;
-    tag.after = lineEnd == end ? end : lineEnd + 1;
+    tag.code = negative ? -code : code;
+    tag.first = first;
+    tag.value = p;
     tag.valueEnd = lineEnd != p && lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
+    tag.after = lineEnd == end ? end : lineEnd + 1;
     return ScanResult::Tag;
 }
 

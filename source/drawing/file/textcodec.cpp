@@ -1,6 +1,6 @@
 #include "textcodec.h"
 
-#include "dxftags.h"
+#include "tagreader.h"
 
 #include <QTextCodec>
 

@@ -14,7 +14,7 @@ void HatchReader::take(const Tag& tag)
 {
     if (tag.code == 92 && m_part != Part::Tail && m_part != Part::Pattern) {
         finishLoop();
-        m_part = tag.toInteger() & kPolylineLoop ? Part::PolylineLoop : Part::EdgeLoop;
+        m_part = tag.integer() & kPolylineLoop ? Part::PolylineLoop : Part::EdgeLoop;
         return;
     }
     if (tag.code == 75 && m_part != Part::Tail) {
@@ -43,17 +43,17 @@ void HatchReader::finish()
 void HatchReader::takeHead(const Tag& tag)
 {
     if (tag.code == 70)
-        m_solid = tag.toInteger() == 1;
+        m_solid = tag.integer() == 1;
 }
 
 void HatchReader::takePolyline(const Tag& tag)
 {
     if (tag.code == 10)
-        m_vertices.push_back({{tag.toDouble(), 0, 0}, 0});
+        m_vertices.push_back({{tag.real(), 0, 0}, 0});
     else if (tag.code == 20 && !m_vertices.empty())
-        m_vertices.back().point.y = tag.toDouble();
+        m_vertices.back().point.y = tag.real();
     else if (tag.code == 42 && !m_vertices.empty())
-        m_vertices.back().bulge = tag.toDouble();
+        m_vertices.back().bulge = tag.real();
 }
 
 void HatchReader::takeEdge(const Tag& tag)
@@ -61,28 +61,28 @@ void HatchReader::takeEdge(const Tag& tag)
     switch (tag.code) {
     case 72: {
         finishEdge();
-        const qint64 kind = tag.toInteger();
+        const qint64 kind = tag.integer();
         m_edge.kind = kind >= 1 && kind <= 4 ? static_cast<EdgeKind>(kind) : EdgeKind::None;
         return;
     }
     case 10:
-        m_edge.points.push_back({tag.toDouble(), 0, 0});
+        m_edge.points.push_back({tag.real(), 0, 0});
         return;
     case 11:
-        m_edge.seconds.push_back({tag.toDouble(), 0, 0});
+        m_edge.seconds.push_back({tag.real(), 0, 0});
         return;
     case 20:
     case 21: {
         Path& path = tag.code == 20 ? m_edge.points : m_edge.seconds;
         if (!path.empty())
-            path.back().y = tag.toDouble();
+            path.back().y = tag.real();
         return;
     }
     case 50:
-        m_edge.start = tag.toDouble() * kPi / 180;
+        m_edge.start = tag.real() * kPi / 180;
         return;
     case 51:
-        m_edge.end = tag.toDouble() * kPi / 180;
+        m_edge.end = tag.real() * kPi / 180;
         return;
     default:
         takeSpline(tag);
@@ -94,15 +94,15 @@ void HatchReader::takeSpline(const Tag& tag)
 {
     const bool spline = m_edge.kind == EdgeKind::Spline;
     if (tag.code == 40 && spline)
-        m_edge.spline.knots.push_back(tag.toDouble());
+        m_edge.spline.knots.push_back(tag.real());
     else if (tag.code == 40)
-        m_edge.size = tag.toDouble();
+        m_edge.size = tag.real();
     else if (tag.code == 42 && spline)
-        m_edge.spline.weights.push_back(tag.toDouble());
+        m_edge.spline.weights.push_back(tag.real());
     else if (tag.code == 73 && !spline)
-        m_edge.forward = tag.toInteger() != 0;
+        m_edge.forward = tag.integer() != 0;
     else if (tag.code == 94)
-        m_edge.spline.degree = static_cast<int>(std::clamp<qint64>(tag.toInteger(), 0, 100));
+        m_edge.spline.degree = static_cast<int>(std::clamp<qint64>(tag.integer(), 0, 100));
 }
 
 void HatchReader::takePattern(const Tag& tag)
@@ -110,30 +110,30 @@ void HatchReader::takePattern(const Tag& tag)
     // Seed points and the gradient follow the pattern.
     if (tag.code == 98)
         m_part = Part::Tail;
-    if (tag.code == 450 && tag.toInteger() == 1)
+    if (tag.code == 450 && tag.integer() == 1)
         m_solid = true;
     if (m_part == Part::Tail)
         return;
     if (tag.code == 53)
-        m_pattern.push_back({tag.toDouble(), {}, {}, {}});
+        m_pattern.push_back({tag.real(), {}, {}, {}});
     if (m_pattern.empty())
         return;
     PatternLine& line = m_pattern.back();
     switch (tag.code) {
     case 43:
-        line.base.x = tag.toDouble();
+        line.base.x = tag.real();
         return;
     case 44:
-        line.base.y = tag.toDouble();
+        line.base.y = tag.real();
         return;
     case 45:
-        line.offset.x = tag.toDouble();
+        line.offset.x = tag.real();
         return;
     case 46:
-        line.offset.y = tag.toDouble();
+        line.offset.y = tag.real();
         return;
     case 49:
-        line.dashes.push_back(tag.toDouble());
+        line.dashes.push_back(tag.real());
         return;
     default:
         return;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dxftags.h"
 #include "geometryhatch.h"
+#include "tagreader.h"
 
 namespace drawing {
 

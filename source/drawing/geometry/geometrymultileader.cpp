@@ -10,11 +10,11 @@ namespace {
 bool takeCoordinate(const Tag& tag, int first, Vec3& point)
 {
     if (tag.code == first)
-        point.x = tag.toDouble();
+        point.x = tag.real();
     else if (tag.code == first + 10)
-        point.y = tag.toDouble();
+        point.y = tag.real();
     else if (tag.code == first + 20)
-        point.z = tag.toDouble();
+        point.z = tag.real();
     else
         return false;
     return true;
@@ -49,19 +49,19 @@ void MultiLeader::takeContext(const Tag& tag)
         return;
     switch (tag.code) {
     case 41:
-        m_textHeight = tag.toDouble();
+        m_textHeight = tag.real();
         return;
     case 43:
-        m_textWidth = tag.toDouble();
+        m_textWidth = tag.real();
         return;
     case 140:
-        m_arrowSize = tag.toDouble();
+        m_arrowSize = tag.real();
         return;
     case 171:
-        m_textColumn = static_cast<int>(std::clamp<qint64>(tag.toInteger(), 1, 3)) - 1;
+        m_textColumn = static_cast<int>(std::clamp<qint64>(tag.integer(), 1, 3)) - 1;
         return;
     case 290:
-        m_hasText = tag.toInteger() != 0;
+        m_hasText = tag.integer() != 0;
         return;
     case 301:
         m_part = Part::Outside;
@@ -71,7 +71,7 @@ void MultiLeader::takeContext(const Tag& tag)
         m_firstLine = m_lines.size();
         return;
     case 304:
-        m_text = tag.value;
+        m_text = tag.text();
         return;
     default:
         return;
@@ -83,7 +83,7 @@ void MultiLeader::takeLeader(const Tag& tag)
     if (takeCoordinate(tag, 10, m_landing) || takeCoordinate(tag, 11, m_doglegDirection))
         return;
     if (tag.code == 40)
-        m_doglegLength = tag.toDouble();
+        m_doglegLength = tag.real();
     else if (tag.code == 303)
         finishLeader();
     if (tag.code != 304)

@@ -129,13 +129,13 @@ Path meshEdges(const EntityTags& mesh)
         if (tag.code == 93 || tag.code == 94)
             inFaces = tag.code == 93;
         else if (tag.code == 90 && inFaces)
-            list.push_back(static_cast<std::size_t>(std::max<qint64>(0, tag.toInteger())));
+            list.push_back(static_cast<std::size_t>(std::max<qint64>(0, tag.integer())));
         else if (tag.code == 10)
-            points.push_back({tag.toDouble(), 0, 0});
+            points.push_back({tag.real(), 0, 0});
         else if (tag.code == 20 && !points.empty())
-            points.back().y = tag.toDouble();
+            points.back().y = tag.real();
         else if (tag.code == 30 && !points.empty())
-            points.back().z = tag.toDouble();
+            points.back().z = tag.real();
     }
     Path path;
     for (std::size_t face = 0; face < list.size(); face += list[face] + 1) {

@@ -91,7 +91,7 @@ EntityStyle EntityReader::style() const
         return style;
     if (const Tag* color = m_tags.find(420)) {
         style.color = EntityStyle::Color::True;
-        style.value = static_cast<quint32>(color->toInteger()) & 0xffffff;
+        style.value = static_cast<quint32>(color->integer()) & 0xffffff;
         return style;
     }
     const qint64 index = std::abs(m_tags.integer(62, 256));
@@ -134,11 +134,11 @@ void EntityReader::lwPolyline()
     const double elevation = m_tags.number(38);
     for (const Tag& tag : m_tags) {
         if (tag.code == 10)
-            vertices.push_back({{tag.toDouble(), 0, elevation}, 0});
+            vertices.push_back({{tag.real(), 0, elevation}, 0});
         else if (tag.code == 20 && !vertices.empty())
-            vertices.back().point.y = tag.toDouble();
+            vertices.back().point.y = tag.real();
         else if (tag.code == 42 && !vertices.empty())
-            vertices.back().bulge = tag.toDouble();
+            vertices.back().bulge = tag.real();
     }
     Path path;
     appendBulges(path, vertices, m_tags.integer(70) & kClosed);
@@ -216,15 +216,15 @@ void EntityReader::spline()
     for (const Tag& tag : m_tags) {
         Path& path = tag.code % 10 == 0 ? spline.controls : spline.fitPoints;
         if (tag.code == 40)
-            spline.knots.push_back(tag.toDouble());
+            spline.knots.push_back(tag.real());
         else if (tag.code == 41)
-            spline.weights.push_back(tag.toDouble());
+            spline.weights.push_back(tag.real());
         else if (tag.code == 10 || tag.code == 11)
-            path.push_back({tag.toDouble(), 0, 0});
+            path.push_back({tag.real(), 0, 0});
         else if ((tag.code == 20 || tag.code == 21) && !path.empty())
-            path.back().y = tag.toDouble();
+            path.back().y = tag.real();
         else if ((tag.code == 30 || tag.code == 31) && !path.empty())
-            path.back().z = tag.toDouble();
+            path.back().z = tag.real();
     }
     Path path;
     appendSpline(path, spline);
@@ -289,11 +289,11 @@ void EntityReader::leader()
     Path path;
     for (const Tag& tag : m_tags) {
         if (tag.code == 10)
-            path.push_back({tag.toDouble(), 0, 0});
+            path.push_back({tag.real(), 0, 0});
         else if (tag.code == 20 && !path.empty())
-            path.back().y = tag.toDouble();
+            path.back().y = tag.real();
         else if (tag.code == 30 && !path.empty())
-            path.back().z = tag.toDouble();
+            path.back().z = tag.real();
     }
     addShape(Primitive::Shape::Lines, path);
     // The arrow is as long as the annotation's text is high, as dimension styles agree.
@@ -343,7 +343,7 @@ void EntityReader::image()
 void EntityReader::text()
 {
     const Tag* value = m_tags.find(1);
-    addText(value ? m_drawing.decoded(value->value) : QString(),
+    addText(value ? m_drawing.decoded(value->text()) : QString(),
         static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(73), 0, 3)));
 }
 
@@ -352,7 +352,7 @@ void EntityReader::attribute()
     constexpr int kInvisible = 1;
     const Tag* value = m_tags.find(1);
     if (value && !(m_tags.integer(70) & kInvisible))
-        addText(m_drawing.decoded(value->value),
+        addText(m_drawing.decoded(value->text()),
             static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(74), 0, 3)));
 }
 
@@ -365,7 +365,7 @@ void EntityReader::attributeDefinition()
         return;
     const Tag* value = m_tags.find(flags & kConstant ? 1 : 2);
     if (value)
-        addText(m_drawing.decoded(value->value),
+        addText(m_drawing.decoded(value->text()),
             static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(74), 0, 3)));
 }
 
@@ -420,9 +420,9 @@ void EntityReader::mtext()
     QString value;
     for (const Tag& tag : m_tags) {
         if (tag.code == 3)
-            value += m_drawing.decoded(tag.value);
+            value += m_drawing.decoded(tag.text());
         else if (tag.code == 1)
-            chunk = tag.value;
+            chunk = tag.text();
     }
     value += m_drawing.decoded(chunk);
 
@@ -433,7 +433,7 @@ void EntityReader::mtext()
     const Tag* direction = m_tags.find(11);
     const Tag* angle = m_tags.find(50);
     Transform3 place = plane() * Transform3::rotation(m_tags.number(50));
-    if (direction && (!angle || angle->begin < direction->begin)) {
+    if (direction && (!angle || angle->first < direction->first)) {
         const Vec3 x = m_tags.point(11).normalized();
         const Vec3 z = m_tags.extrusion().normalized();
         place = Transform3(x, Vec3::cross(z, x), z, {});

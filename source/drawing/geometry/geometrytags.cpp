@@ -29,13 +29,13 @@ const Tag* EntityTags::find(int code) const
 double EntityTags::number(int code, double otherwise) const
 {
     const Tag* tag = find(code);
-    return tag ? tag->toDouble() : otherwise;
+    return tag ? tag->real() : otherwise;
 }
 
 qint64 EntityTags::integer(int code, qint64 otherwise) const
 {
     const Tag* tag = find(code);
-    return tag ? tag->toInteger() : otherwise;
+    return tag ? tag->integer() : otherwise;
 }
 
 Vec3 EntityTags::point(int code) const

@@ -183,9 +183,10 @@ Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& prop
         tables.addLayerRecord(entry);
     } else {
         const QByteArray record = editedLayerRecord(
-            tables.layerRecord(entry), stored(before, after), after, m_data.codec);
-        tables.setLayerRecord(
-            entry, entry.plotStyle == oldStyle ? record : withPlotStyle(record, entry.plotStyle));
+            m_data.tagList(tables.layerRecord(entry)), stored(before, after), after, m_data.codec);
+        tables.setLayerRecord(entry, entry.plotStyle == oldStyle
+                                         ? record
+                                         : withPlotStyle(m_data.tagList(record), entry.plotStyle));
     }
     m_data.layers.change(id, entry);
     return {};

@@ -4,7 +4,7 @@
 #include "handles.h"
 #include "layerstates.h"
 #include "objectedits.h"
-#include "tagtext.h"
+#include "taglist.h"
 
 #include <unordered_set>
 
@@ -72,12 +72,12 @@ void ObjectUpdate::rewriteAll(const ObjectPlace* dictionary, Rewrite how) const
 
 void ObjectUpdate::rewrite(const ObjectPlace& object, Rewrite how) const
 {
-    const QByteArray before = m_data.journal.current(object.begin, object.end);
-    TagList tags(before);
+    const QByteArray before = m_data.journal.current(object.range);
+    TagList tags = m_data.tagList(before);
     (this->*how)(tags);
     const QByteArray after = tags.bytes();
     if (after != before)
-        m_data.journal.replace(object.begin, object.end, after);
+        m_data.journal.replace(object.range, after);
 }
 
 /// The name at this tag as a key.
@@ -91,7 +91,7 @@ bool ObjectUpdate::renameAt(TagList& tags, int at) const
     const auto renamed = m_renames.newNames.constFind(keyAt(tags, at));
     if (renamed == m_renames.newNames.constEnd())
         return false;
-    tags.setValue(at, m_data.codec.encode(*renamed));
+    tags.setText(at, m_data.codec.encode(*renamed));
     return true;
 }
 
@@ -100,7 +100,7 @@ void ObjectUpdate::forgetAt(TagList& tags, int at) const
 {
     const QString key = keyAt(tags, at);
     if (m_renames.removedNames.contains(key))
-        tags.setValue(at, m_data.codec.encode(m_renames.heirs.value(key, QStringLiteral("0"))));
+        tags.setText(at, m_data.codec.encode(m_renames.heirs.value(key, QStringLiteral("0"))));
 }
 
 /// The new name of a layer as a pattern, where `pattern` is a name and that layer got a new one or
@@ -186,7 +186,7 @@ void ObjectUpdate::rewriteFilter(TagList& tags) const
         return;
     const QString renamed = renamedPattern(m_data.codec.decode(tags.trimmed(pattern)));
     if (!renamed.isEmpty())
-        tags.setValue(pattern, m_data.codec.encode(renamed));
+        tags.setText(pattern, m_data.codec.encode(renamed));
 }
 
 /// A filter of the newer kind: a group lists handles, a filter compares names in its
@@ -200,14 +200,14 @@ void ObjectUpdate::rewriteGroup(TagList& tags) const
             keep.push_back(at);
         if (at < begin || tags.code(at) != 301)
             continue;
-        QString expression = m_data.codec.decode(tags.value(at));
+        QString expression = m_data.codec.decode(tags.text(at));
         const int name = expression.indexOf(QLatin1String("NAME==\""), 0, Qt::CaseInsensitive);
         const int from = name + 7;
         const int to = name < 0 ? -1 : expression.indexOf(QLatin1Char('"'), from);
         const QString renamed =
             to < 0 ? QString() : renamedPattern(expression.mid(from, to - from));
         if (!renamed.isEmpty())
-            tags.setValue(at, m_data.codec.encode(expression.replace(from, to - from, renamed)));
+            tags.setText(at, m_data.codec.encode(expression.replace(from, to - from, renamed)));
     }
     tags.keepOnly(keep);
 }
@@ -227,7 +227,7 @@ void removeOwnedObjects(DrawingData& data, quint64 handle)
     while (!open.empty()) {
         const quint64 next = open.back();
         open.pop_back();
-        const TagList tags(next != 0 ? objects.bytes(next) : QByteArray());
+        const TagList tags = data.tagList(next != 0 ? objects.bytes(next) : QByteArray());
         if (tags.size() == 0 || !seen.insert(next).second)
             continue;
         const bool isDictionary = objectKind(tags.trimmed(0)) == ObjectKind::Dictionary;

@@ -3,7 +3,7 @@
 #include "handles.h"
 #include "objectedits.h"
 #include "symboltables.h"
-#include "tagtext.h"
+#include "taglist.h"
 
 namespace drawing {
 
@@ -15,9 +15,8 @@ constexpr quint32 kByTrueColor = 0xc2000000;
 constexpr quint32 kByIndex = 0xc3000000;
 
 /// The record's data without the group of this viewport.
-QByteArray dataWithout(const QByteArray& record, quint64 viewport)
+QByteArray dataWithout(TagList tags, quint64 viewport)
 {
-    TagList tags(record);
     const int marker = tags.find(100, 0, tags.size());
     int begin = marker == TagList::kNone ? tags.size() : marker + 1;
     if (begin < tags.size() && tags.code(begin) == 280)
@@ -58,7 +57,7 @@ quint64 layerExtension(DrawingData& data, const LayerEntry& entry)
 {
     if (entry.extension != 0 || !entry.hasRecord || entry.place.order != EditPlace::kReplacement)
         return entry.extension;
-    const quint64 handle = extensionDictionary(data.tags({entry.place.begin, entry.end}));
+    const quint64 handle = extensionDictionary(data.tags(entry.range()));
     return data.objectByHandle(handle) ? handle : 0;
 }
 
@@ -71,7 +70,8 @@ quint64 LayerOverrides::madeExtension(LayerId layer)
     if (!entry.hasRecord)
         tables.addLayerRecord(entry);
     entry.extension = ObjectEdits(m_data).addDictionary(entry.handle);
-    tables.setLayerRecord(entry, withExtension(tables.layerRecord(entry), entry.extension));
+    tables.setLayerRecord(
+        entry, withExtension(m_data.tagList(tables.layerRecord(entry)), entry.extension));
     m_data.layers.change(layer, entry);
     return entry.extension;
 }
@@ -98,7 +98,7 @@ QByteArray LayerOverrides::value(int property, const LayerProperties& shown)
     }
     case kStateLinetype: {
         const quint64 handle = linetypeHandle(shown.linetype);
-        return handle == 0 ? QByteArray() : QByteArray::number(handle, 16).toUpper();
+        return handle == 0 ? QByteArray() : handleText(handle);
     }
     case kStateLineweight:
         return QByteArray::number(shown.lineweight);
@@ -136,7 +136,8 @@ void LayerOverrides::write(LayerId layer, const Row& row, quint64 viewport, cons
     const quint64 record = objects.entry(dictionary, row.key);
     const QByteArray before = objects.bytes(record);
     const TagStyle style = objects.style();
-    QByteArray data = before.isEmpty() ? QByteArray() : dataWithout(before, viewport);
+    QByteArray data =
+        before.isEmpty() ? QByteArray() : dataWithout(m_data.tagList(before), viewport);
     if (!value.isNull())
         data += style.tag(102, row.group) + style.handle(kViewportCode, viewport) +
                 style.tag(row.code, value) + style.tag(102, "}");
@@ -147,7 +148,7 @@ void LayerOverrides::write(LayerId layer, const Row& row, quint64 viewport, cons
         objects.removeEntry(dictionary, row.key);
         objects.erase(record);
     } else if (!before.isEmpty()) {
-        objects.store(record, withRecordData(before, data));
+        objects.store(record, withRecordData(m_data.tagList(before), data));
     }
 }
 

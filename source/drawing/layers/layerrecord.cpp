@@ -51,7 +51,7 @@ void LayerRecordReader::readTag(const Tag& tag, LayerRecord& record)
         p.name = m_codec.decode(tag.trimmed());
         break;
     case 5:
-        record.handle = tag.toHandle();
+        record.handle = tag.handle();
         break;
     case 6:
         if (tag.trimmed() != m_linetypeBytes) {
@@ -61,29 +61,29 @@ void LayerRecordReader::readTag(const Tag& tag, LayerRecord& record)
         p.linetype = m_linetype;
         break;
     case 62:
-        p.off = tag.toInteger() < 0;
-        p.colorIndex = colorOf(tag.toInteger());
+        p.off = tag.integer() < 0;
+        p.colorIndex = colorOf(tag.integer());
         break;
     case 70:
-        p.frozen = (tag.toInteger() & kLayerFrozen) != 0;
-        p.frozenInNewViewports = (tag.toInteger() & kLayerFrozenInNewViewports) != 0;
-        p.locked = (tag.toInteger() & kLayerLocked) != 0;
-        record.dependsOnReference = (tag.toInteger() & kLayerFromReference) != 0;
+        p.frozen = (tag.integer() & kLayerFrozen) != 0;
+        p.frozenInNewViewports = (tag.integer() & kLayerFrozenInNewViewports) != 0;
+        p.locked = (tag.integer() & kLayerLocked) != 0;
+        record.dependsOnReference = (tag.integer() & kLayerFromReference) != 0;
         break;
     case 290:
-        p.plotted = tag.toInteger() != 0;
+        p.plotted = tag.integer() != 0;
         break;
     case 347:
-        record.material = tag.toHandle();
+        record.material = tag.handle();
         break;
     case 370:
-        p.lineweight = static_cast<int>(tag.toInteger());
+        p.lineweight = static_cast<int>(tag.integer());
         break;
     case 390:
-        record.plotStyle = tag.toHandle();
+        record.plotStyle = tag.handle();
         break;
     case 420:
-        p.trueColor = static_cast<quint32>(tag.toInteger() & 0xffffff);
+        p.trueColor = static_cast<quint32>(tag.integer() & 0xffffff);
         break;
     default:
         break;
@@ -93,12 +93,12 @@ void LayerRecordReader::readTag(const Tag& tag, LayerRecord& record)
 void LayerRecordReader::readXdata(const Tag& tag, LayerRecord& record)
 {
     if (tag.code == 1071 && m_application == kTransparencyApp)
-        record.properties.transparency = transparencyPercent(tag.toInteger());
+        record.properties.transparency = transparencyPercent(tag.integer());
     if (tag.code != 1000 || m_application != kStandardApp)
         return;
     // The second string is the description.
     if (++m_strings == 2)
-        record.properties.description = m_codec.decode(tag.value);
+        record.properties.description = m_codec.decode(tag.text());
 }
 
 LayerRecordLimits LayerRecordLimits::of(std::string_view version)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dxftags.h"
 #include "layer.h"
+#include "tagreader.h"
 #include "textcodec.h"
 
 namespace drawing {

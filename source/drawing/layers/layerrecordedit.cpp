@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace drawing {
 
@@ -11,7 +12,7 @@ namespace {
 class RecordEditor
 {
 public:
-    explicit RecordEditor(const QByteArray& record) : m_tags(record) { findBody(); }
+    explicit RecordEditor(TagList record) : m_tags(std::move(record)) { findBody(); }
 
     void setColor(const LayerProperties& before, const LayerProperties& after);
     void setTrueColor(std::optional<quint32> color);
@@ -67,7 +68,7 @@ void RecordEditor::insert(int code, const QByteArray& tag)
     int at = m_bodyBegin;
     for (const int* other = std::begin(kOrder); other != own; ++other)
         at = std::max(at, find(*other) + 1);
-    m_tags.insert(at, code, tag);
+    m_tags.insert(at, tag);
     ++m_bodyEnd;
 }
 
@@ -95,7 +96,7 @@ void RecordEditor::setText(int code, const QByteArray& value)
     if (at == TagList::kNone)
         insert(code, m_tags.style().tag(code, value));
     else
-        m_tags.setValue(at, value);
+        m_tags.setText(at, value);
 }
 
 void RecordEditor::setColor(const LayerProperties& before, const LayerProperties& after)
@@ -158,12 +159,12 @@ void RecordEditor::setTransparency(int percent)
     const TagStyle& style = m_tags.style();
     if (at == TagList::kNone) {
         at = m_tags.size();
-        m_tags.insert(at, 1001, style.tag(1001, kTransparencyApp));
+        m_tags.insert(at, style.tag(1001, kTransparencyApp));
         end = at + 1;
     }
     const int value = m_tags.find(1071, at, end);
     if (value == TagList::kNone)
-        m_tags.insert(at + 1, 1071, style.number(1071, storedTransparency(percent)));
+        m_tags.insert(at + 1, style.number(1071, storedTransparency(percent)));
     else
         m_tags.setInteger(value, storedTransparency(percent));
 }
@@ -175,28 +176,28 @@ void RecordEditor::setDescription(const QByteArray& text)
     const TagStyle& style = m_tags.style();
     if (at == TagList::kNone) {
         at = m_tags.size();
-        m_tags.insert(at, 1001, style.tag(1001, kStandardApp));
+        m_tags.insert(at, style.tag(1001, kStandardApp));
         end = at + 1;
     }
     const int first = m_tags.find(1000, at, end);
     if (first == TagList::kNone) {
-        m_tags.insert(at + 1, 1000, style.tag(1000, {}));
-        m_tags.insert(at + 2, 1000, style.tag(1000, text));
+        m_tags.insert(at + 1, style.tag(1000, {}));
+        m_tags.insert(at + 2, style.tag(1000, text));
         return;
     }
     const int second = m_tags.find(1000, first + 1, end);
     if (second == TagList::kNone)
-        m_tags.insert(first + 1, 1000, style.tag(1000, text));
+        m_tags.insert(first + 1, style.tag(1000, text));
     else
-        m_tags.setValue(second, text);
+        m_tags.setText(second, text);
 }
 
 } // namespace
 
-QByteArray editedLayerRecord(const QByteArray& record, const LayerProperties& before,
+QByteArray editedLayerRecord(TagList record, const LayerProperties& before,
     const LayerProperties& after, const TextCodec& codec)
 {
-    RecordEditor editor(record);
+    RecordEditor editor(std::move(record));
     if (before.name != after.name)
         editor.setText(2, codec.encode(after.name));
     if (before.frozen != after.frozen || before.locked != after.locked ||
@@ -219,10 +220,10 @@ QByteArray editedLayerRecord(const QByteArray& record, const LayerProperties& be
     return editor.bytes();
 }
 
-QByteArray withPlotStyle(const QByteArray& record, quint64 handle)
+QByteArray withPlotStyle(TagList record, quint64 handle)
 {
-    RecordEditor editor(record);
-    editor.setText(390, QByteArray::number(handle, 16).toUpper());
+    RecordEditor editor(std::move(record));
+    editor.setText(390, handleText(handle));
     return editor.bytes();
 }
 
@@ -247,7 +248,7 @@ QByteArray newLayerRecord(
         record += style.handle(390, plan.plotStyle);
     if (plan.material != 0)
         record += style.handle(347, plan.material);
-    return editedLayerRecord(record, plain, properties, codec);
+    return editedLayerRecord(TagList(record, style.spelling), plain, properties, codec);
 }
 
 } // namespace drawing

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "layerrecord.h"
-#include "tagtext.h"
+#include "taglist.h"
 
 namespace drawing {
 
@@ -17,11 +17,11 @@ struct NewLayerRecord
 };
 
 /// The record with only those groups changed in which `after` differs from `before`.
-QByteArray editedLayerRecord(const QByteArray& record, const LayerProperties& before,
+QByteArray editedLayerRecord(TagList record, const LayerProperties& before,
     const LayerProperties& after, const TextCodec& codec);
 
 /// The record with another plot style name object.
-QByteArray withPlotStyle(const QByteArray& record, quint64 handle);
+QByteArray withPlotStyle(TagList record, quint64 handle);
 
 QByteArray newLayerRecord(
     const NewLayerRecord& plan, const LayerProperties& properties, const TextCodec& codec);

@@ -23,6 +23,8 @@ struct LayerEntry
     LayerId heir = LayerId::None;
     bool hasRecord = false; ///< Layers that only entities name have none.
     bool present = false;   ///< False when deleted, or not added yet.
+
+    ByteRange range() const { return {place.begin, end}; }
 };
 
 struct LayerChange

@@ -21,7 +21,7 @@ struct LayoutRecord
 LayoutRecord readRecord(const DrawingData& data, const ObjectPlace& object)
 {
     LayoutRecord record;
-    TagReader tags = data.tags({object.begin, object.end});
+    TagReader tags = data.tags(object.range);
     bool isOwn = false; // What stands before belongs to the plot settings.
     Tag tag;
     while (tags.next(tag) && tag.code < 1000) {
@@ -30,13 +30,13 @@ LayoutRecord readRecord(const DrawingData& data, const ObjectPlace& object)
         if (!isOwn)
             continue;
         if (tag.code == 1)
-            record.layout.name = data.codec.decode(tag.value);
+            record.layout.name = data.codec.decode(tag.text());
         else if (tag.code == 71)
-            record.tab = tag.toInteger();
+            record.tab = tag.integer();
         else if (tag.code == 330)
-            record.block = tag.toHandle();
+            record.block = tag.handle();
         else if (tag.code == 331)
-            record.viewport = tag.toHandle();
+            record.viewport = tag.handle();
     }
     return record;
 }
@@ -61,13 +61,13 @@ bool isSheetsOwn(const DrawingData& data, const Entity& viewport)
 {
     constexpr int kCodes[] = {10, 20, 41, 12, 22, 45}; // Place and height, then those of the view.
     std::map<int, double> values;
-    TagReader tags = data.tags({viewport.begin, viewport.end});
+    TagReader tags = data.tags(viewport.range());
     Tag tag;
     while (tags.next(tag) && tag.code < 1000) {
-        if (tag.code == 69 && tag.toInteger() == 1)
+        if (tag.code == 69 && tag.integer() == 1)
             return true;
         if (std::find(std::begin(kCodes), std::end(kCodes), tag.code) != std::end(kCodes))
-            values.emplace(tag.code, tag.toDouble());
+            values.emplace(tag.code, tag.real());
     }
     return values.size() == std::size(kCodes) && values[10] == values[12] &&
            values[20] == values[22] && values[41] == values[45];
@@ -84,8 +84,7 @@ void findViewports(const DrawingData& data, std::vector<LayoutRecord>& records)
             if (!holds(record.layout, entity))
                 continue;
             const bool isLastActive =
-                record.viewport != 0 &&
-                ownHandle(data.tags({entity.begin, entity.end})) == record.viewport;
+                record.viewport != 0 && ownHandle(data.tags(entity.range())) == record.viewport;
             viewports.insert(
                 isLastActive ? viewports.begin() : viewports.end(), static_cast<int>(i));
         }

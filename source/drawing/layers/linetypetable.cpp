@@ -59,7 +59,7 @@ LinetypeStyle readStyle(const DrawingData& data, const ByteRange& record)
             style.name = data.codec.decode(tag.trimmed());
         else if (tag.code == kFlags)
             style.tags.push_back(
-                {kFlags, QString::number(tag.toInteger() & (kShapeFile | kVertical))});
+                {kFlags, QString::number(tag.integer() & (kShapeFile | kVertical))});
         else if (isOneOf(kStyleGroups, tag.code))
             style.tags.push_back({tag.code, data.codec.decode(tag.trimmed())});
     });
@@ -138,7 +138,7 @@ const StyleIndex& LinetypeTable::styles() const
         quint64 handle = 0;
         visitOwnTags(m_data.tags(record), [&handle](const Tag& tag) {
             if (tag.code == 5)
-                handle = tag.toHandle();
+                handle = tag.handle();
         });
         if (handle == 0)
             continue;
@@ -158,7 +158,7 @@ LinetypePointer LinetypeTable::read(const LinetypeEntry& entry) const
     visitOwnTags(m_data.tags(entry.record), [&](const Tag& tag) {
         QString value = m_data.codec.decode(tag.trimmed());
         if (tag.code == kStyle) {
-            const quint64 handle = tag.toHandle();
+            const quint64 handle = tag.handle();
             const ByteRange record = styles().records.value(handle);
             definition->isSimplified = definition->isSimplified || record.isNull();
             if (!styleAt.contains(handle)) {

@@ -36,7 +36,7 @@ int findEntry(const TagList& tags, std::string_view key)
 
 TagStyle ObjectEdits::style() const
 {
-    return TagStyle::of(m_data.view(m_data.index.table(TableKind::Layer).head));
+    return m_data.styleOf(m_data.index.table(TableKind::Layer).head);
 }
 
 bool ObjectEdits::isNew(quint64 handle) const
@@ -54,7 +54,7 @@ EditPlace ObjectEdits::placeOfNew(quint64 handle) const
 QByteArray ObjectEdits::bytes(quint64 handle) const
 {
     if (const ObjectPlace* object = m_data.objectByHandle(handle))
-        return m_data.journal.current(object->begin, object->end);
+        return m_data.journal.current(object->range);
     const EditPlace place = placeOfNew(handle);
     return isNew(handle) ? m_data.journal.inserted(place.begin, place.order) : QByteArray();
 }
@@ -73,7 +73,7 @@ void ObjectEdits::makeSection(qint64 at)
 void ObjectEdits::store(quint64 handle, const QByteArray& bytes)
 {
     if (const ObjectPlace* object = m_data.objectByHandle(handle)) {
-        m_data.journal.replace(object->begin, object->end, bytes);
+        m_data.journal.replace(object->range, bytes);
         return;
     }
     const EditPlace place = placeOfNew(handle);
@@ -85,7 +85,7 @@ void ObjectEdits::erase(quint64 handle)
 {
     const EditPlace place = placeOfNew(handle);
     if (const ObjectPlace* object = m_data.objectByHandle(handle))
-        m_data.journal.replace(object->begin, object->end, {});
+        m_data.journal.replace(object->range, {});
     else if (isNew(handle))
         m_data.journal.removeInsertion(place.begin, place.order);
 }
@@ -106,7 +106,7 @@ quint64 ObjectEdits::addRecord(quint64 owner, const QByteArray& data)
 
 quint64 ObjectEdits::entry(quint64 dictionary, std::string_view key) const
 {
-    const TagList tags(bytes(dictionary));
+    const TagList tags = m_data.tagList(bytes(dictionary));
     const int at = findEntry(tags, key);
     return at == TagList::kNone ? 0 : tags.handle(at + 1);
 }
@@ -114,17 +114,17 @@ quint64 ObjectEdits::entry(quint64 dictionary, std::string_view key) const
 void ObjectEdits::addEntry(quint64 dictionary, const QByteArray& key, quint64 object)
 {
     const TagStyle style = this->style();
-    TagList tags(bytes(dictionary));
+    TagList tags = m_data.tagList(bytes(dictionary));
     const int xdata = tags.find(1001, 0, tags.size());
     const int at = xdata == TagList::kNone ? tags.size() : xdata;
-    tags.insert(at, 360, style.handle(360, object));
-    tags.insert(at, 3, style.tag(3, key));
+    tags.insert(at, style.handle(360, object));
+    tags.insert(at, style.tag(3, key));
     store(dictionary, tags.bytes());
 }
 
 void ObjectEdits::removeEntry(quint64 dictionary, std::string_view key)
 {
-    TagList tags(bytes(dictionary));
+    TagList tags = m_data.tagList(bytes(dictionary));
     const int at = findEntry(tags, key);
     if (at == TagList::kNone)
         return;
@@ -148,10 +148,10 @@ QByteArray newRecordHead(const TagStyle& style, quint64 handle, quint64 owner)
     return head + style.tag(100, "AcDbXrecord") + style.number(280, 1);
 }
 
-QByteArray withRecordData(const QByteArray& record, const QByteArray& data)
+QByteArray withRecordData(const TagList& record, const QByteArray& data)
 {
-    TagList head(record);
-    TagList tail(record);
+    TagList head = record;
+    TagList tail = record;
     const int marker = head.find(100, 0, head.size());
     int begin = marker == TagList::kNone ? head.size() : marker + 1;
     if (begin < head.size() && head.code(begin) == 280)
@@ -163,21 +163,20 @@ QByteArray withRecordData(const QByteArray& record, const QByteArray& data)
     return head.bytes() + data + tail.bytes();
 }
 
-QByteArray withExtension(const QByteArray& record, quint64 dictionary)
+QByteArray withExtension(TagList tags, quint64 dictionary)
 {
-    TagList tags(record);
     const TagStyle style = tags.style();
     for (int at = 0; at + 1 < tags.size(); ++at) {
         if (tags.code(at) == 102 && tags.trimmed(at) == kExtension && tags.code(at + 1) == 360) {
-            tags.setValue(at + 1, QByteArray::number(dictionary, 16).toUpper());
+            tags.setHandle(at + 1, dictionary);
             return tags.bytes();
         }
     }
     const int own = tags.find(5, 0, tags.size());
     const int at = own == TagList::kNone ? 1 : own + 1;
-    tags.insert(at, 102, style.tag(102, "}"));
-    tags.insert(at, 360, style.handle(360, dictionary));
-    tags.insert(at, 102, style.tag(102, kExtension));
+    tags.insert(at, style.tag(102, "}"));
+    tags.insert(at, style.handle(360, dictionary));
+    tags.insert(at, style.tag(102, kExtension));
     return tags.bytes();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawingdata.h"
-#include "tagtext.h"
+#include "taglist.h"
 
 namespace drawing {
 
@@ -44,8 +44,8 @@ QByteArray newDictionary(
 /// The head of an XRECORD up to its data; `handle` 0 leaves out what belongs to handles.
 QByteArray newRecordHead(const TagStyle& style, quint64 handle, quint64 owner);
 /// The XRECORD with other data between its own head and the data of applications.
-QByteArray withRecordData(const QByteArray& record, const QByteArray& data);
+QByteArray withRecordData(const TagList& record, const QByteArray& data);
 /// The table record with the handle of its extension dictionary.
-QByteArray withExtension(const QByteArray& record, quint64 dictionary);
+QByteArray withExtension(TagList record, quint64 dictionary);
 
 } // namespace drawing

@@ -110,9 +110,8 @@ void ReferenceUpdate::follow(const std::vector<char>& changed)
 
 void ReferenceUpdate::rename(qint64 value, const QByteArray& name)
 {
-    const auto length = static_cast<qint64>(m_data.lineAt(value).size());
     // Refused within a range removed or rewritten as a whole, where there is nothing to rename.
-    m_data.journal.replace(value, value + length, name);
+    m_data.journal.replace(m_data.valueRange(value), name);
 }
 
 void ReferenceUpdate::updateEntities()
@@ -139,7 +138,7 @@ void ReferenceUpdate::updateNamePlaces()
         if (listed.isNull())
             rename(place.value, name);
         else
-            m_data.journal.replace(listed.begin, listed.end, {});
+            m_data.journal.replace(listed, {});
     }
 }
 
@@ -153,11 +152,11 @@ ByteRange ReferenceUpdate::viewportTag(qint64 value) const
     if (next == entities.begin() || std::prev(next)->end <= value ||
         std::prev(next)->kind != EntityKind::Viewport)
         return {};
-    TagReader tags = m_data.tags({std::prev(next)->begin, std::prev(next)->end});
+    TagReader tags = m_data.tags(std::prev(next)->range());
     Tag tag;
     while (tags.next(tag)) {
-        if (tag.valueBegin == value)
-            return {tag.begin, tag.end};
+        if (tag.valueRange().begin == value)
+            return tag.range();
     }
     return {};
 }

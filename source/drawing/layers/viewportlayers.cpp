@@ -4,7 +4,7 @@
 #include "handles.h"
 #include "layeroverrides.h"
 #include "symboltables.h"
-#include "tagtext.h"
+#include "taglist.h"
 
 #include <QCoreApplication>
 
@@ -55,10 +55,10 @@ ViewportLayers::FrozenList ViewportLayers::list(int viewport) const
 {
     const Entity& entity = m_data.index.entities[static_cast<size_t>(viewport)];
     FrozenList list;
-    list.style = TagStyle::of(m_data.view({entity.begin, entity.end}));
+    list.style = m_data.styleOf(entity.range());
     list.code = m_data.limits.softPointers ? 331 : 341;
     list.at = entity.end;
-    TagReader tags = m_data.tags({entity.begin, entity.end});
+    TagReader tags = m_data.tags(entity.range());
     bool isOwn = true; // Old files have no markers.
     Tag tag;
     while (tags.next(tag) && tag.code < 1000) {
@@ -71,9 +71,9 @@ ViewportLayers::FrozenList ViewportLayers::list(int viewport) const
             list.tags.push_back(tag);
         }
         if (list.at == entity.end && (isFrozenCode(tag.code) || tag.code == 90))
-            list.at = tag.begin;
+            list.at = tag.begin();
     }
-    const TagList inserted(m_data.journal.inserted(list.at, kAddedHandles));
+    const TagList inserted = m_data.tagList(m_data.journal.inserted(list.at, kAddedHandles));
     for (int i = 0; i < inserted.size(); ++i)
         list.added.push_back(inserted.handle(i));
     return list;
@@ -124,8 +124,8 @@ std::vector<LayerId> ViewportLayers::frozen() const
     const FrozenList list = this->list(current());
     std::vector<quint64> handles = list.added;
     for (const Tag& tag : list.tags) {
-        if (!m_data.journal.current(tag.begin, tag.end).isEmpty())
-            handles.push_back(tag.toHandle());
+        if (!m_data.journal.current(tag.range()).isEmpty())
+            handles.push_back(tag.handle());
     }
     if (handles.empty())
         return frozen;
@@ -158,10 +158,11 @@ Expected<void> ViewportLayers::setFrozen(const std::vector<LayerId>& layers)
     const QHash<quint64, LayerId> known = layersByHandle(m_data);
     for (const Tag& tag : list.tags) {
         // What is no layer of ours is not ours to drop.
-        const bool isKept = missing.remove(tag.toHandle()) || !known.contains(tag.toHandle());
-        const std::string_view bytes = m_data.view({tag.begin, tag.end});
-        m_data.journal.replace(tag.begin, tag.end,
-            isKept ? QByteArray(bytes.data(), static_cast<int>(bytes.size())) : QByteArray());
+        const bool isKept = missing.remove(tag.handle()) || !known.contains(tag.handle());
+        if (isKept)
+            m_data.journal.restore(tag.range());
+        else
+            m_data.journal.replace(tag.range(), {});
     }
     handles.erase(std::remove_if(handles.begin(), handles.end(),
                       [&](quint64 handle) { return !missing.contains(handle); }),
@@ -176,7 +177,7 @@ Expected<std::vector<LayerId>> ViewportLayers::override(
     if (const auto checked = check(); !checked)
         return tl::make_unexpected(checked.error());
     const Entity& entity = m_data.index.entities[static_cast<size_t>(current())];
-    const quint64 viewport = ownHandle(m_data.tags({entity.begin, entity.end}));
+    const quint64 viewport = ownHandle(m_data.tags(entity.range()));
     LayerOverrides overrides(m_data);
     std::vector<LayerId> incomplete;
     for (const LayerInViewport& layer : layers) {
@@ -194,8 +195,8 @@ void ViewportLayers::forget(const QSet<quint64>& handles)
             continue;
         const FrozenList list = this->list(static_cast<int>(i));
         for (const Tag& tag : list.tags) {
-            if (handles.contains(tag.toHandle()))
-                m_data.journal.replace(tag.begin, tag.end, {});
+            if (handles.contains(tag.handle()))
+                m_data.journal.replace(tag.range(), {});
         }
         std::vector<quint64> kept = list.added;
         kept.erase(std::remove_if(kept.begin(), kept.end(),

@@ -1,7 +1,7 @@
 #include "layerstatefile.h"
 
 #include "layerstatetags.h"
-#include "tagscan.h"
+#include "tagreader.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -90,10 +90,7 @@ qint64 FileReader::run()
         }
     }
     if (tags.broken()) {
-        const auto offset = static_cast<size_t>(tags.offset());
-        RawTag rest;
-        if (scanTag(m_bytes.data() + offset, m_bytes.data() + m_bytes.size(), rest) !=
-            ScanResult::CutOff)
+        if (!tags.isCutOff())
             return tags.offset();
         reader.dropOpenLayer();
     }

@@ -52,7 +52,8 @@ LayerStateTable LayerStates::load() const
             m_data.statesFault = file.error().text;
             return table;
         }
-        const TagStyle plain;
+        TagStyle plain;
+        plain.spelling = m_data.spelling;
         for (const LayerState& state : file->states) {
             LayerStateEntry entry;
             entry.name = state.name;
@@ -111,7 +112,7 @@ LayerStateHandles LayerStates::handlesByName() const
 LayerState LayerStates::read(const LayerStateEntry& entry, const LayerStateNames& names) const
 {
     const QByteArray record = bytes(entry);
-    TagReader tags(std::string_view(record.constData(), static_cast<size_t>(record.size())));
+    TagReader tags(record, m_data.spelling);
     LayerStateReader reader(m_data.codec, names);
     bool isData = false; // What stands before the marker belongs to the object.
     Tag tag;
@@ -177,13 +178,11 @@ void LayerStates::linkExtension(quint64 handle)
         if (tag.code == 102)
             inGroup = tag.trimmed() == kExtension;
         if (inGroup && tag.code == 360) {
-            m_data.journal.replace(tag.valueBegin,
-                tag.valueBegin + static_cast<qint64>(tag.value.size()),
-                QByteArray::number(handle, 16).toUpper());
+            m_data.journal.replace(tag.valueRange(), style.value(tag.code, handleText(handle)));
             return;
         }
         if (tag.code == 5 || (tag.code == 2 && behind < 0))
-            behind = tag.end;
+            behind = tag.end();
     }
     m_data.journal.insert(
         behind, 1, style.tag(102, kExtension) + style.handle(360, handle) + style.tag(102, "}"));
@@ -203,7 +202,7 @@ void LayerStates::writeDictionary(const LayerStateTable& table, const std::vecto
     if (!liveInDrawing())
         return;
     ObjectEdits objects(m_data);
-    TagList tags(objects.bytes(table.dictionary));
+    TagList tags = m_data.tagList(objects.bytes(table.dictionary));
     std::unordered_set<quint64> ours(gone.begin(), gone.end());
     for (const LayerStateEntry& entry : table.entries)
         ours.insert(entry.handle);
@@ -256,7 +255,7 @@ Expected<void> LayerStates::put(const std::vector<LayerState>& states)
         const auto known = byName.constFind(state.name.toCaseFolded());
         if (known != byName.constEnd()) {
             LayerStateEntry& entry = table.entries[*known];
-            store(entry, withRecordData(bytes(entry), data));
+            store(entry, withRecordData(m_data.tagList(bytes(entry)), data));
             continue;
         }
         LayerStateEntry entry;
@@ -328,7 +327,7 @@ void LayerStates::rewrite(const std::function<void(TagList&)>& change)
     const LayerStateTable& table = this->table();
     for (size_t i = 0; i < table.entries.size(); ++i) {
         const QByteArray before = bytes(table.entries[i]);
-        TagList tags(before);
+        TagList tags = m_data.tagList(before);
         change(tags);
         const QByteArray after = tags.bytes();
         if (after == before)

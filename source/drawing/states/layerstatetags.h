@@ -1,7 +1,7 @@
 #pragma once
 
 #include "layerstate.h"
-#include "tagtext.h"
+#include "taglist.h"
 #include "textcodec.h"
 
 #include <QHash>

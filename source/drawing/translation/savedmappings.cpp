@@ -52,7 +52,7 @@ SavedMappingList SavedMappings::read() const
             continue;
         SavedMapping mapping;
         QString known;
-        TagReader tags = m_data.tags({entry.object->begin, entry.object->end});
+        TagReader tags = m_data.tags(entry.object->range);
         Tag tag;
         while (tags.next(tag)) {
             if (tag.code == kFrom)
@@ -60,7 +60,7 @@ SavedMappingList SavedMappings::read() const
             else if (tag.code == kTo)
                 mapping.to = m_data.codec.decode(tag.trimmed());
             else if (tag.code == kToHandle)
-                known = names.value(tag.toHandle());
+                known = names.value(tag.handle());
         }
         if (!known.isEmpty())
             mapping.to = known;
@@ -88,7 +88,7 @@ Expected<void> SavedMappings::write(const SavedMappingList& list)
     const TagStyle style = objects.style();
     const ObjectPlace* old = dictionary();
     for (const ObjectPlace* record : dictionaryObjects(m_data, old))
-        m_data.journal.replace(record->begin, record->end, {});
+        m_data.journal.replace(record->range, {});
     const quint64 handle = old ? old->handle : tables.takeHandle();
     QByteArray entries;
     if (list.isZeroIdle) {

@@ -1,6 +1,4 @@
-#include "dxftags.h"
-
-#include "tagscan.h"
+#include "tag.h"
 
 #include <charconv>
 
@@ -33,43 +31,24 @@ std::string_view trimmedView(std::string_view text)
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-double Tag::toDouble() const
+double Tag::real() const
 {
     return parsed<double>(trimmed(), false, std::chars_format::general);
 }
 
-qint64 Tag::toInteger() const
+qint64 Tag::integer() const
 {
     return parsed<qint64>(trimmed(), true, 10);
 }
 
-quint64 Tag::toHandle() const
+quint64 Tag::handle() const
 {
     return parsed<quint64>(trimmed(), false, 16);
 }
 
 std::string_view Tag::trimmed() const
 {
-    return trimmedView(value);
-}
-
-TagReader::TagReader(std::string_view bytes, qint64 base) : m_bytes(bytes), m_base(base) {}
-
-bool TagReader::next(Tag& tag)
-{
-    const char* const begin = m_bytes.data();
-    RawTag raw;
-    const ScanResult result = scanTag(begin + m_position, begin + m_bytes.size(), raw);
-    m_broken = result != ScanResult::Tag && result != ScanResult::End;
-    if (result != ScanResult::Tag)
-        return false;
-    tag.code = raw.code;
-    tag.value = raw.text();
-    tag.begin = offset();
-    tag.valueBegin = m_base + (raw.value - begin);
-    m_position = raw.after - begin;
-    tag.end = offset();
-    return true;
+    return trimmedView(text());
 }
 
 } // namespace drawing
