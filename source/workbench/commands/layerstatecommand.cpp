@@ -2,36 +2,61 @@
 
 #include "commandinvoker.h"
 #include "drawing.h"
-#include "layerkeys.h"
 #include "layerrecords.h"
 #include "layerstatefile.h"
-#include "posing.h"
+#include "layerstateimport.h"
+#include "namerule.h"
+#include "statekeys.h"
 #include "statelist.h"
+#include "staterecords.h"
 #include "sysvars.h"
 #include "vnmessages.h"
 #include "vnproduct.h"
 #include "vnstrings.h"
 
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
+#include <utility>
+
 using drawing::LayerState;
-using drawing::LayerStateLayer;
 using vnsi::ElementValue;
 using vnsi::VnJsonPtr;
 
 namespace {
 
-namespace key = vnsi::layerkey;
+namespace key = vnsi::statekey;
 
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
-constexpr wchar_t kManagerDialog[] = L"Dialog/CmdLayerState";
-constexpr char kStates[] = "LayerStateList";
-constexpr char kMask[] = "LayerStateMask";
-constexpr char kDelete[] = "Delete";
 constexpr int kMostProblemsShown = 10;
+
+constexpr std::pair<int, int> kMaskBits[] = {
+    {vnsi::kMaskOnOff, drawing::kStateOnOff},
+    {vnsi::kMaskFreeze, drawing::kStateFreeze},
+    {vnsi::kMaskLock, drawing::kStateLock},
+    {vnsi::kMaskPlot, drawing::kStatePlot},
+    {vnsi::kMaskNewViewportFreeze, drawing::kStateNewViewportFreeze},
+    {vnsi::kMaskColor, drawing::kStateColor},
+    {vnsi::kMaskLinetype, drawing::kStateLinetype},
+    {vnsi::kMaskLineweight, drawing::kStateLineweight},
+    {vnsi::kMaskPlotStyle, drawing::kStatePlotStyle},
+    {vnsi::kMaskCurrentViewport, drawing::kStateCurrentViewport},
+    {vnsi::kMaskTransparency, drawing::kStateTransparency},
+};
+
+constexpr bool masksAgree()
+{
+    int bits = 0;
+    for (const auto& [dialogs, drawings] : kMaskBits) {
+        if (dialogs != drawings)
+            return false;
+        bits |= drawings;
+    }
+    return bits == drawing::kStateEverything;
+}
+
+static_assert(masksAgree(), "masks are handed on as they are");
 
 QString tr(const char* text)
 {
@@ -40,7 +65,7 @@ QString tr(const char* text)
 
 QString text(const VnJsonPtr& node, const char* key)
 {
-    return vnsi::vnutOdStringToQString(node->GetDataSW(key));
+    return node ? vnsi::vnutOdStringToQString(node->GetDataSW(key)) : QString();
 }
 
 OdString od(const QString& text)
@@ -48,40 +73,9 @@ OdString od(const QString& text)
     return vnsi::vnutQStringToOdString(text);
 }
 
-bool isSameName(const QString& a, const QString& b)
+int maskIn(const VnJsonPtr& node)
 {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
-
-bool answersYes(const QString& question)
-{
-    return vnsi::vnuiMessageBox(od(question), vnsi::kProductName,
-               vnsi::kVnYesNo | vnsi::kVnIconQuestion) == vnsi::kVnAnswerYes;
-}
-
-VnJsonPtr recordOf(const LayerStateLayer& layer, bool current)
-{
-    drawing::Layer shown;
-    shown.properties = layer.properties;
-    const VnJsonPtr record = layerrecords::make(shown, false);
-    record->SetDataI(key::kStatus, current ? 1 : 0); // In a state 1 is the current layer.
-    return record;
-}
-
-VnJsonPtr recordsOf(const LayerState& state)
-{
-    const VnJsonPtr list = ElementValue::createArray(static_cast<int>(state.layers.size()));
-    for (const LayerStateLayer& layer : state.layers)
-        list->Append(recordOf(layer, isSameName(layer.properties.name, state.currentLayer)));
-    return list;
-}
-
-/// The first few of the names and how many there are.
-QString shortList(const QStringList& names)
-{
-    constexpr int kMost = 5;
-    const QString first = QStringList(names.mid(0, kMost)).join(tr("、"));
-    return names.size() > kMost ? tr("%1等 %2 个").arg(first).arg(names.size()) : first;
+    return node->GetDataI(key::kMask) & drawing::kStateEverything;
 }
 
 } // namespace
@@ -95,17 +89,17 @@ struct LayerStateCommand::RequestRow
 };
 
 const LayerStateCommand::RequestRow LayerStateCommand::kRequests[] = {
-    {2, 0, &LayerStateCommand::prepareEdit},
-    {2, 1, &LayerStateCommand::storeEdited},
-    {2, 2, &LayerStateCommand::removeMarked},
-    {1, 1, &LayerStateCommand::create},
-    {1, 2, &LayerStateCommand::remove},
-    {1, 3, &LayerStateCommand::rename},
-    {1, 4, &LayerStateCommand::overwrite},
-    {1, 5, &LayerStateCommand::restore},
-    {1, 6, &LayerStateCommand::importStates},
-    {1, 7, &LayerStateCommand::exportState},
-    {1, 8, &LayerStateCommand::describe},
+    {vnsi::kStateEditor, vnsi::kStateEditPrepare, &LayerStateCommand::prepareEdit},
+    {vnsi::kStateEditor, vnsi::kStateEditStore, &LayerStateCommand::storeEdited},
+    {vnsi::kStateEditor, vnsi::kStateEditRemove, &LayerStateCommand::removeMarked},
+    {vnsi::kStateManager, vnsi::kStateCreate, &LayerStateCommand::create},
+    {vnsi::kStateManager, vnsi::kStateDelete, &LayerStateCommand::remove},
+    {vnsi::kStateManager, vnsi::kStateRename, &LayerStateCommand::rename},
+    {vnsi::kStateManager, vnsi::kStateSave, &LayerStateCommand::overwrite},
+    {vnsi::kStateManager, vnsi::kStateRestore, &LayerStateCommand::restore},
+    {vnsi::kStateManager, vnsi::kStateImport, &LayerStateCommand::importStates},
+    {vnsi::kStateManager, vnsi::kStateExport, &LayerStateCommand::exportState},
+    {vnsi::kStateManager, vnsi::kStateDescribe, &LayerStateCommand::describe},
 };
 
 void LayerStateCommand::run(CommandContext& context)
@@ -113,27 +107,27 @@ void LayerStateCommand::run(CommandContext& context)
     m_context = &context;
     host::setVar(L"TILEMODE", drawing().isModelSpace() ? 1 : 0);
     const auto invoker = CommandInvoker::make([this](const VnJsonPtr& node) { answer(node); });
-    vnsi::vnuiShowModelDialogEx(kService, kManagerDialog, makeTree(), invoker, context.parent);
+    vnsi::vnuiShowModelDialogEx(
+        kService, vnsi::statedialog::kManager, makeTree(), invoker, context.parent);
 }
 
 VnJsonPtr LayerStateCommand::makeTree()
 {
-    m_manager = ElementValue::createObject(8);
-    m_edited = ElementValue::createObject(8);
-    const VnJsonPtr elements = ElementValue::createArray(3);
-    elements->Append(ElementValue::createObject(1));
-    elements->Append(m_manager);
-    elements->Append(m_edited);
+    const VnJsonPtr elements = ElementValue::createArray(vnsi::kStateElementCount);
+    for (int i = 0; i < vnsi::kStateElementCount; ++i)
+        elements->Append(ElementValue::createObject(8));
+    m_manager = elements(vnsi::kStateManager);
+    m_editor = elements(vnsi::kStateEditor);
     const VnJsonPtr tree = ElementValue::createObject(2);
-    tree->SetDataJ("LayerStateMgr", elements);
+    tree->SetDataJ(key::kElements, elements);
     showStates(drawing().layerStates());
     return tree;
 }
 
 void LayerStateCommand::answer(const VnJsonPtr& node)
 {
-    const int element = node->GetDataI("parameter");
-    const int code = node->GetDataI("marker", -1);
+    const int element = node->GetDataI(vnsi::requestkey::kParameter);
+    const int code = node->GetDataI(vnsi::requestkey::kRequestCode, -1);
     for (const RequestRow& row : kRequests) {
         if (row.element != element || row.code != code)
             continue;
@@ -151,29 +145,53 @@ void LayerStateCommand::showStates(const std::vector<LayerState>& states)
     QString current;
     for (const LayerState& state : states) {
         const bool isSame = drawing::isSameAsDrawing(state, drawing());
-        const bool isRemembered = isSameName(state.name, m_current);
-        if (isSame && (isRemembered || current.isEmpty()))
+        if (isSame && (vnsi::isSameName(state.name, m_current) || current.isEmpty()))
             current = state.name;
         const VnJsonPtr entry = statelist::makeEntry(state);
-        entry->set("isSame2DWG", isSame).set("Selected", false).set("LayerStateMaskIs", state.mask);
+        entry->SetDataB(key::kIsSameAsDrawing, isSame);
         list->Append(entry);
     }
-    m_manager->SetDataJ(kStates, list);
-    m_manager->set("currentLState", od(current.isEmpty() ? tr("*未保存*") : current));
+    m_manager->SetDataJ(key::kList, list);
+    m_manager->SetDataSW(key::kCurrent, od(current.isEmpty() ? tr("*未保存*") : current));
+}
+
+/// The state that a request names. One that is gone is told.
+std::optional<LayerState> LayerStateCommand::named(const VnJsonPtr& node, const char* key)
+{
+    const QString name = text(node, key);
+    auto state = drawing().layerState(name);
+    if (!state) {
+        m_problems += tr("图形中没有图层状态“%1”。").arg(name);
+        report(tr("图层状态没有改动："));
+    }
+    return state;
+}
+
+/// What follows is a step of its own.
+void LayerStateCommand::nextStep()
+{
+    drawing().commitStep();
+    drawing().beginStep(tr("图层状态"));
 }
 
 /// Closes the step of a request that was carried out; takes back what one that was refused did.
-bool LayerStateCommand::done(const drawing::Expected<void>& outcome, const QString& stepName)
+bool LayerStateCommand::done(const drawing::Expected<void>& outcome)
 {
-    if (outcome) {
-        drawing().commitStep();
-    } else {
+    if (!outcome) {
         drawing().rollbackStep();
         m_problems += outcome.error().text;
     }
-    drawing().beginStep(stepName);
+    nextStep();
     report(tr("图层状态没有改动："));
     return outcome.has_value();
+}
+
+bool LayerStateCommand::put(const std::vector<LayerState>& states)
+{
+    const bool areStored = done(drawing().putLayerStates(states));
+    if (areStored)
+        statelist::tellWhereStatesAre(*m_context);
+    return areStored;
 }
 
 void LayerStateCommand::report(const QString& title)
@@ -189,253 +207,149 @@ void LayerStateCommand::report(const QString& title)
     vnsi::vnuiMessageBox(od(message), vnsi::kProductName, vnsi::kVnIconWarning);
 }
 
-bool LayerStateCommand::put(LayerState state)
+void LayerStateCommand::fillEditor(const VnJsonPtr& node, const LayerState& state)
 {
-    m_current = state.name;
-    const bool isStored = done(drawing().putLayerStates({std::move(state)}), tr("图层状态"));
-    if (isStored)
-        statelist::tellWhereStatesAre(*m_context);
-    return isStored;
+    node->SetDataJ(key::kList, staterecords::make(state));
+    node->SetDataJ(vnsi::layerkey::kList, layerrecords::makeList(drawing()));
 }
 
 void LayerStateCommand::prepareEdit(const VnJsonPtr& node)
 {
-    const auto state = drawing().layerState(text(node, "selectItemName"));
-    node->SetDataJ(kStates, state ? recordsOf(*state) : ElementValue::createArray());
-    node->SetDataJ(key::kList, layerrecords::makeList(drawing()));
+    fillEditor(node, named(node, key::kEditedName).value_or(LayerState()));
 }
 
 void LayerStateCommand::removeMarked(const VnJsonPtr& node)
 {
-    auto state = drawing().layerState(text(node, "selectItemName"));
-    if (!state)
-        return;
-    QSet<QString> gone;
-    const VnJsonPtr list = node->GetDataJ(kStates);
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        if (list(i)->GetDataB(kDelete))
-            gone.insert(layerrecords::nameOf(list(i)).toCaseFolded());
+    if (auto state = named(node, key::kEditedName)) {
+        staterecords::takeRemoved(*state, node->GetDataJ(key::kList));
+        put({*state});
     }
-    auto& layers = state->layers;
-    layers.erase(std::remove_if(layers.begin(), layers.end(),
-                     [&](const LayerStateLayer& layer) {
-                         return gone.contains(layer.properties.name.toCaseFolded());
-                     }),
-        layers.end());
-    put(*state);
 }
 
 void LayerStateCommand::storeEdited(const VnJsonPtr& node)
 {
-    auto state = drawing().layerState(text(node, "selectItemName"));
-    if (!state)
-        return;
-    QHash<QString, LayerStateLayer> before;
-    for (const LayerStateLayer& layer : state->layers)
-        before.insert(layer.properties.name.toCaseFolded(), layer);
-    state->layers.clear();
-    const VnJsonPtr list = node->GetDataJ(kStates);
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr record = list(i);
-        if (record->GetDataB(kDelete))
-            continue;
-        const QString name = layerrecords::nameOf(record);
-        LayerStateLayer layer = before.value(name.toCaseFolded());
-        if (const drawing::Layer* known = drawing().findLayer(name);
-            known && layer.properties.name.isEmpty())
-            layer.properties = known->properties;
-        layer.properties = layerrecords::properties(record, layer.properties);
-        layer.properties.description.clear();
-        if (record->GetDataI(key::kStatus) == 1)
-            state->currentLayer = name;
-        state->layers.push_back(layer);
+    if (auto state = named(node, key::kEditedName)) {
+        staterecords::takeEdited(*state, node->GetDataJ(key::kList), drawing());
+        put({*state});
     }
-    put(*state);
 }
 
 void LayerStateCommand::create(const VnJsonPtr& node)
 {
-    LayerState state = captureLayerState(drawing(), text(node, "LayerStateNewName"));
+    LayerState state = captureLayerState(drawing(), text(node, key::kNewName));
     if (state.name.isEmpty())
         return;
-    state.description = text(node, "desc");
-    put(std::move(state));
+    state.description = text(node, key::kDescription);
+    if (put({state}))
+        m_current = state.name;
 }
 
 void LayerStateCommand::remove(const VnJsonPtr& node)
 {
     QStringList names;
-    if (node->GetDataB("DeleteNameOne"))
-        names += text(node, "LayerStateDeleteName");
-    const VnJsonPtr list = names.isEmpty() ? node->GetDataJ("LayerStateDeleteNames") : VnJsonPtr();
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
-        names += text(list(i), "LayerSDeleteName");
-    done(drawing().removeLayerStates(names), tr("图层状态"));
+    if (node->GetDataB(key::kDeletesOne)) {
+        names += text(node, key::kDeletedName);
+    } else {
+        const VnJsonPtr list = node->GetDataJ(key::kDeletedNames);
+        for (int i = 0, count = list.ArrayCount(); i < count; ++i)
+            names += text(list(i), key::kNameInDeleted);
+    }
+    done(drawing().removeLayerStates(names));
 }
 
 void LayerStateCommand::rename(const VnJsonPtr& node)
 {
-    const QString name = text(node, "OldName");
-    const QString newName = text(node, "NewName");
-    if (done(drawing().renameLayerState(name, newName), tr("图层状态")) &&
-        isSameName(m_current, name))
+    const QString name = text(node, key::kOldName);
+    const QString newName = text(node, key::kRenamedTo);
+    if (done(drawing().renameLayerState(name, newName)) && vnsi::isSameName(m_current, name))
         m_current = newName;
 }
 
 void LayerStateCommand::overwrite(const VnJsonPtr& node)
 {
-    const auto before = drawing().layerState(text(node, "LayerStateSaveName"));
+    const auto before = named(node, key::kSavedName);
     if (!before)
         return;
     LayerState state = captureLayerState(drawing(), before->name);
     state.description = before->description;
-    state.mask = node->GetDataI(kMask) & drawing::kStateEverything;
-    put(std::move(state));
+    state.mask = maskIn(node);
+    if (put({state}))
+        m_current = state.name;
+}
+
+void LayerStateCommand::describe(const VnJsonPtr& node)
+{
+    if (auto state = named(node, key::kOldName)) {
+        state->description = text(node, key::kDescribedAs);
+        put({*state});
+    }
 }
 
 void LayerStateCommand::restore(const VnJsonPtr& node)
 {
-    const auto state = drawing().layerState(text(node, "LStateRestoreName"));
+    const auto state = named(node, key::kRestoredName);
     if (!state)
         return;
     drawing::LayerStateRestore how;
-    how.mask = node->GetDataI(kMask) & drawing::kStateEverything;
-    how.turnOthersOff = node->GetDataI("LStateTCheckBox") == 1;
-    how.viewportOverrides = node->GetDataB("LStateWCheckBox");
+    how.mask = maskIn(node);
+    how.turnOthersOff = node->GetDataI(key::kTurnsOthersOff) == 1;
+    how.viewportOverrides = node->GetDataB(key::kOverridesViewport);
     m_problems = restoreLayerState(drawing(), *state, how);
-    drawing().commitStep();
-    drawing().beginStep(tr("图层状态"));
+    nextStep();
     m_current = state->name;
-    if (how.viewportOverrides && drawing().checkViewport())
-        m_context->say(tr("图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于“%2”的当前"
-                          "视口；画布不显示视口替代。")
-                           .arg(state->name, shownLayoutName()));
+    if (how.viewportOverrides)
+        tellOfOverrides(*state);
     report(tr("图层状态“%1”已恢复，但以下内容除外：").arg(state->name));
-    node->SetDataB("LayerStateOKClose", true);
+    node->SetDataB(key::kRestoreCloses, true);
 }
 
-QString LayerStateCommand::shownLayoutName()
+/// What the canvas does not show.
+void LayerStateCommand::tellOfOverrides(const LayerState& state)
 {
-    const QString& name = drawing().layouts()[static_cast<size_t>(drawing().shownLayout())].name;
-    return name.isEmpty() ? tr("布局") : name;
+    if (!drawing().checkViewport())
+        return;
+    const QString& layout = drawing().layouts()[static_cast<size_t>(drawing().shownLayout())].name;
+    m_context->say(tr("图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于“%2”的当前"
+                      "视口；画布不显示视口替代。")
+                       .arg(state.name, layout.isEmpty() ? tr("布局") : layout));
 }
 
-std::vector<LayerState> LayerStateCommand::statesOf(const QString& path)
+void LayerStateCommand::importStates(const VnJsonPtr& node)
 {
-    if (QFileInfo::exists(path) && drawing::isLayerStateFile(path)) {
-        auto file = drawing::readLayerStateFile(path, drawing().codec());
-        if (file) {
-            m_problems += file->notices;
-            return std::move(file->states);
-        }
-        m_problems += file.error().text;
-        return {};
-    }
-    const auto other = drawing::Drawing::open(path);
-    if (!other) {
-        m_problems += other.error().text;
-        return {};
-    }
-    auto states = (*other)->layerStates();
-    if (states.empty())
-        m_problems += tr("文件“%1”中没有图层状态。").arg(QDir::toNativeSeparators(path));
-    return states;
-}
-
-/// Asks before a state of the same name goes.
-bool LayerStateCommand::mayReplace(const QString& name, bool& all, bool& stop)
-{
-    enum Answer { kReplace, kReplaceAll, kKeep, kCancel };
-    constexpr const char* kTexts[] = {
-        QT_TRANSLATE_NOOP("LayerStateCommand", "覆盖"),
-        QT_TRANSLATE_NOOP("LayerStateCommand", "全部覆盖"),
-        QT_TRANSLATE_NOOP("LayerStateCommand", "跳过"),
-        QT_TRANSLATE_NOOP("LayerStateCommand", "取消"),
-    };
-    if (all)
-        return true;
-    const VnJsonPtr options = ElementValue::createObject(2);
-    for (int i = 0; i <= kCancel; ++i)
-        options->SetDataSW(
-            QByteArray("btnText/" + QByteArray::number(i)).constData(), od(tr(kTexts[i])));
-    const QString question = tr("图层状态“%1”已存在。是否覆盖?").arg(name);
-    const int answer = vnsi::vnuiMessageBoxEx(
-        L"图层状态 - 输入", od(question), options, vnsi::kVnCustomButtons, 1, vnsi::kVnIconQuestion)
-                           ->GetDataI("ControlBtn", kCancel);
-    all = answer == kReplaceAll;
-    stop = answer == kCancel;
-    return answer == kReplace || answer == kReplaceAll;
-}
-
-/// Those of the states read that can and shall be taken in.
-std::vector<LayerState> LayerStateCommand::chosenOf(std::vector<LayerState> states)
-{
-    QSet<QString> known;
-    for (const QString& name : drawing().layerStateNames())
-        known.insert(name.toCaseFolded());
-    QStringList unknownLayers;
-    std::vector<LayerState> chosen;
-    bool all = false;
-    bool stop = false;
-    for (LayerState& state : states) {
-        unknownLayers += dropUnknownLayers(state, drawing());
-        if (state.layers.empty()) {
-            m_problems += tr("图层状态“%1”中没有此图形的图层，没有输入。").arg(state.name);
-            continue;
-        }
-        const bool isKnown = known.contains(state.name.toCaseFolded());
-        if (isKnown && !mayReplace(state.name, all, stop) && !stop)
-            continue;
-        if (stop)
-            return {};
-        known.insert(state.name.toCaseFolded());
-        chosen.push_back(std::move(state));
-    }
-    unknownLayers.removeDuplicates();
-    if (!unknownLayers.isEmpty())
-        m_problems +=
-            tr("此图形没有图层 %1，状态中的这些图层没有输入。").arg(shortList(unknownLayers));
-    return chosen;
+    LayerStateImport import(drawing());
+    const VnJsonPtr paths = node->GetDataJ(key::kImportPaths);
+    for (int i = 0, count = paths.ArrayCount(); i < count; ++i)
+        import.read(vnsi::vnutOdStringToQString(paths(i)->asSW()),
+            node->GetDataB(key::kImportSkipsReferences));
+    const std::vector<LayerState> chosen = import.choose();
+    m_problems += import.problems();
+    report(chosen.empty() ? tr("没有输入图层状态：") : tr("图层状态已输入，但以下内容除外："));
+    if (chosen.empty() || !put(chosen))
+        return;
+    showStates(drawing().layerStates());
+    node->SetDataJ(key::kImportedList, m_manager->GetDataJ(key::kList));
+    node->SetDataB(key::kImportSucceeded, true);
+    node->SetDataB(key::kImportRestores, offersRestore(chosen));
 }
 
 /// The dialog restores the state listed last.
 bool LayerStateCommand::offersRestore(const std::vector<LayerState>& imported)
 {
     const QString last = drawing().layerStateNames().constLast();
-    if (!isSameName(imported.back().name, last))
+    if (!vnsi::isSameName(imported.back().name, last))
         return false;
-    return answersYes(
+    const QString question =
         imported.size() == 1
             ? tr("已输入图层状态“%1”。是否立即恢复?").arg(last)
-            : tr("已输入 %1 个图层状态。是否立即恢复“%2”?").arg(imported.size()).arg(last));
-}
-
-void LayerStateCommand::importStates(const VnJsonPtr& node)
-{
-    std::vector<LayerState> read;
-    const bool leavesOutReferences = node->GetDataB("LStateRefLayer");
-    const VnJsonPtr paths = node->GetDataJ("LStatefilePaths");
-    for (int i = 0, count = paths.ArrayCount(); i < count; ++i) {
-        for (LayerState& state : statesOf(vnsi::vnutOdStringToQString(paths(i)->asSW()))) {
-            if (!leavesOutReferences || !state.isFromReference())
-                read.push_back(std::move(state));
-        }
-    }
-    const std::vector<LayerState> chosen = chosenOf(std::move(read));
-    report(chosen.empty() ? tr("没有输入图层状态：") : tr("图层状态已输入，但以下内容除外："));
-    if (chosen.empty() || !done(drawing().putLayerStates(chosen), tr("图层状态")))
-        return;
-    statelist::tellWhereStatesAre(*m_context);
-    showStates(drawing().layerStates());
-    node->SetDataJ("LayerStateListHaveRef", m_manager->GetDataJ(kStates));
-    node->SetDataB("LayerStateListRefOK", true);
-    node->SetDataB("LayerStateYesNoRestore", offersRestore(chosen));
+            : tr("已输入 %1 个图层状态。是否立即恢复“%2”?").arg(imported.size()).arg(last);
+    return vnsi::vnuiMessageBox(od(question), vnsi::kProductName,
+               vnsi::kVnYesNo | vnsi::kVnIconQuestion) == vnsi::kVnAnswerYes;
 }
 
 void LayerStateCommand::exportState(const VnJsonPtr& node)
 {
-    QString path = text(node, "LStatefilePathsSW");
-    const auto state = drawing().layerState(text(node, "LStateName"));
+    const auto state = named(node, key::kExportName);
+    QString path = text(node, key::kExportPath);
     if (!state || path.isEmpty())
         return;
     if (QFileInfo(path).suffix().isEmpty())
@@ -446,58 +360,4 @@ void LayerStateCommand::exportState(const VnJsonPtr& node)
     else
         m_problems += written.error().text;
     report(tr("图层状态没有输出："));
-}
-
-void LayerStateCommand::describe(const VnJsonPtr& node)
-{
-    auto state = drawing().layerState(text(node, "OldName"));
-    if (!state)
-        return;
-    state->description = text(node, "NewDescName");
-    const QString current = m_current;
-    put(*state);
-    m_current = current;
-}
-
-void LayerStateCommand::pose(CommandContext& context, const Camera& camera)
-{
-    m_context = &context;
-    const VnJsonPtr tree = makeTree();
-    std::vector<LayerState> states = drawing().layerStates();
-    const char* const samples[][2] = {
-        {QT_TRANSLATE_NOOP("LayerStateCommand", "全部打开"),
-            QT_TRANSLATE_NOOP("LayerStateCommand", "交底用")},
-        {QT_TRANSLATE_NOOP("LayerStateCommand", "打印布局"),
-            QT_TRANSLATE_NOOP("LayerStateCommand", "标注与家具冻结")},
-        {QT_TRANSLATE_NOOP("LayerStateCommand", "结构"), ""},
-    };
-    bool isFirst = true;
-    for (const auto& sample : samples) {
-        LayerState state = captureLayerState(drawing(), tr(sample[0]));
-        state.description = tr(sample[1]);
-        state.fromLayout = !isFirst;
-        for (LayerStateLayer& layer : state.layers)
-            layer.properties.locked = layer.properties.locked != !isFirst;
-        isFirst = false;
-        states.push_back(state);
-    }
-    showStates(states);
-    m_edited->SetDataSW("selectItemName", od(states.back().name));
-    m_edited->SetDataJ(kStates, recordsOf(states.back()));
-    m_edited->SetDataJ(key::kList, layerrecords::makeList(drawing()));
-    m_edited->SetDataJ("NeedAddlayerList", layerrecords::makeList(drawing()));
-    posing::showDialog(kService, kManagerDialog, tree, camera, QStringLiteral("layer-states"),
-        [&camera](QWidget& window) {
-            window.findChild<QAbstractButton*>(QStringLiteral("extendButton"))->setChecked(false);
-            window.findChild<QAbstractButton*>(QStringLiteral("extendButton"))->click();
-            QCoreApplication::processEvents();
-            camera(QStringLiteral("layer-states-unfolded"), window);
-            window.findChild<QAbstractButton*>(QStringLiteral("extendButton"))->click();
-        });
-    posing::showDialog(
-        kService, L"Dialog/CmdLayerStateNew", m_manager, camera, QStringLiteral("layer-state-new"));
-    posing::showDialog(
-        kService, L"Dialog/CmdLayerStateEdit", tree, camera, QStringLiteral("layer-state-edit"));
-    posing::showDialog(kService, L"Dialog/CmdLayerStateAddNewLayer", m_edited, camera,
-        QStringLiteral("layer-state-add"));
 }

@@ -5,8 +5,9 @@
 #include "layerstate.h"
 #include "vnjson.h"
 
-#include <QSet>
 #include <QStringList>
+
+#include <optional>
 
 /// LAYERSTATE: shows the Layer State Manager and does what it asks for. Each request that changes
 /// the drawing is a step of its own, as the dialog stays open between them.
@@ -35,19 +36,19 @@ private:
 
     drawing::Drawing& drawing() { return m_context->drawing; }
     vnsi::VnJsonPtr makeTree();
+    void fillEditor(const vnsi::VnJsonPtr& node, const drawing::LayerState& state);
     void showStates(const std::vector<drawing::LayerState>& states);
-    std::vector<drawing::LayerState> statesOf(const QString& path);
-    bool mayReplace(const QString& name, bool& all, bool& stop);
-    std::vector<drawing::LayerState> chosenOf(std::vector<drawing::LayerState> states);
+    std::optional<drawing::LayerState> named(const vnsi::VnJsonPtr& node, const char* key);
     bool offersRestore(const std::vector<drawing::LayerState>& imported);
-    bool put(drawing::LayerState state);
-    bool done(const drawing::Expected<void>& outcome, const QString& stepName);
+    bool put(const std::vector<drawing::LayerState>& states);
+    bool done(const drawing::Expected<void>& outcome);
+    void nextStep();
+    void tellOfOverrides(const drawing::LayerState& state);
     void report(const QString& title);
-    QString shownLayoutName();
 
     CommandContext* m_context = nullptr;
-    vnsi::VnJsonPtr m_manager; ///< Element 1 of "LayerStateMgr".
-    vnsi::VnJsonPtr m_edited;  ///< Element 2.
-    QString m_current;         ///< The state restored, made or overwritten last.
-    QStringList m_problems;    ///< What of a request could not be done.
+    vnsi::VnJsonPtr m_manager; ///< The elements that requests are sent on.
+    vnsi::VnJsonPtr m_editor;
+    QString m_current;      ///< The state restored, made or overwritten last.
+    QStringList m_problems; ///< What of a request could not be done.
 };

@@ -1,6 +1,8 @@
 #include "statelist.h"
 
 #include "drawing.h"
+#include "layerkeys.h"
+#include "statekeys.h"
 #include "vnstrings.h"
 
 #include <QCoreApplication>
@@ -12,16 +14,18 @@ namespace statelist {
 
 namespace {
 
+namespace key = vnsi::statekey;
+
 QString tr(const char* text)
 {
     return QCoreApplication::translate("LayerStateCommand", text);
 }
 
-QString spaceOf(const drawing::LayerState& state)
+OdString spaceOf(const drawing::LayerState& state)
 {
     if (state.isFromReference())
-        return tr("外部参照");
-    return state.fromLayout ? tr("布局") : tr("模型");
+        return key::kReferenceSpace;
+    return vnsi::vnutQStringToOdString(state.fromLayout ? tr("布局") : tr("模型"));
 }
 
 } // namespace
@@ -29,9 +33,11 @@ QString spaceOf(const drawing::LayerState& state)
 VnJsonPtr makeEntry(const drawing::LayerState& state)
 {
     const VnJsonPtr entry = vnsi::ElementValue::createObject(6);
-    entry->set("LayerStateName", vnsi::vnutQStringToOdString(state.name))
-        .set("space", vnsi::vnutQStringToOdString(spaceOf(state)))
-        .set("desc", vnsi::vnutQStringToOdString(state.description));
+    entry->SetDataSW(key::kName, vnsi::vnutQStringToOdString(state.name));
+    entry->SetDataSW(key::kSpace, spaceOf(state));
+    entry->SetDataSW(key::kDescription, vnsi::vnutQStringToOdString(state.description));
+    entry->SetDataI(key::kOwnMask, state.mask);
+    entry->SetDataB(vnsi::layerkey::kSelected, false);
     return entry;
 }
 

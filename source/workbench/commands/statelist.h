@@ -7,7 +7,7 @@
 /// What the commands share that show and save layer states.
 namespace statelist {
 
-/// The entry of a state: its name, description and where it was saved.
+/// The entry of a state: all but whether the drawing is in it.
 vnsi::VnJsonPtr makeEntry(const drawing::LayerState& state);
 /// The entries of the drawing's states.
 vnsi::VnJsonPtr make(const drawing::Drawing& drawing);
