@@ -1,7 +1,5 @@
 #pragma once
 
-#include "vnjson.h"
-
 namespace vnsi {
 
 /// The keys that the layer translator's dialogs and the command share. Where their spellings differ
@@ -101,23 +99,5 @@ enum TranslatorOption {
     kShowSelected,
     kTranslatorOptionCount
 };
-
-/// Copies what the new/edit dialog answered, field by field, into a target record.
-inline void copyResultToTarget(const IElementValueBase& result, IElementValueBase& target)
-{
-    using namespace transkey;
-    constexpr const char* kTexts[][2] = {{kResultName, kToName}, {kResultLinetype, kToLinetype},
-        {kResultLineWidthText, kToLineWidthText}, {kResultPlotStyle, kToPlotStyle}};
-    constexpr const char* kLongs[][2] = {{kResultColorMethod, kToColorMethod},
-        {kResultColorValue, kToColorValue}, {kResultLinetypeId, kToLinetypeId}};
-    constexpr const char* kNumbers[][2] = {
-        {kResultLineWidth, kToLineWidth}, {kResultTransparency, kToTransparency}};
-    for (const auto& [from, to] : kTexts)
-        target.SetDataSW(to, result.GetDataSW(from));
-    for (const auto& [from, to] : kLongs)
-        target.SetDataL(to, result.GetDataL(from));
-    for (const auto& [from, to] : kNumbers)
-        target.SetDataI(to, result.GetDataI(from));
-}
 
 } // namespace vnsi

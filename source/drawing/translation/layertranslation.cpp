@@ -281,7 +281,7 @@ std::vector<TargetLayer> targetLayers(const Drawing& drawing)
         if (definition == definitions.end())
             definition = definitions.insert(p.linetype, drawing.linetype(p.linetype));
         targets.push_back({p.name, p.colorIndex, p.trueColor, p.linetype, *definition, p.lineweight,
-            p.transparency, p.plotStyle, p.plotted});
+            p.transparency, p.plotStyle, p.plotted, layer.used()});
     }
     return targets;
 }

@@ -26,6 +26,7 @@ struct TargetLayer
     int transparency = 0;        ///< Percent, 0..90.
     QString plotStyle;           ///< Empty: the layer's own stays.
     std::optional<bool> plotted; ///< Without a value the layer's own stays.
+    bool used = false;           ///< Objects of the file it came from are on it.
 };
 
 /// A layer of the drawing, by name without regard to letter case, and what it is brought to.

@@ -242,11 +242,6 @@ LayerProperties properties(const VnJsonPtr& record, const LayerProperties& base)
     return Provider::full().read(record, base);
 }
 
-quint32 swapRedAndBlue(quint32 color)
-{
-    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
-}
-
 drawing::LayerId idOf(const VnJsonPtr& record)
 {
     return drawing::LayerId{

@@ -62,9 +62,6 @@ vnsi::VnJsonPtr makeList(const drawing::Drawing& drawing);
 drawing::LayerProperties properties(
     const vnsi::VnJsonPtr& record, const drawing::LayerProperties& base);
 
-/// A true colour as files keep it, red in the high byte, as records do, in the low one; and back.
-quint32 swapRedAndBlue(quint32 color);
-
 /// The layer a record was made of; `None` for a record that has none yet.
 drawing::LayerId idOf(const vnsi::VnJsonPtr& record);
 void setId(const vnsi::VnJsonPtr& record, drawing::LayerId id);

@@ -1,18 +1,16 @@
 #include "translationrecords.h"
 
-#include "CmColor.h"
 #include "drawing.h"
-#include "layerkeys.h"
 #include "layerrecords.h"
 #include "linetypes.h"
-#include "translatorkeys.h"
-#include "vnstrings.h"
-
-#include <QCoreApplication>
+#include "lineweighttext.h"
+#include "targetrecord.h"
 
 using drawing::LayerMapping;
 using drawing::TargetLayer;
 using vnsi::ElementValue;
+using vnsi::LayerColor;
+using vnsi::TargetRecord;
 using vnsi::VnJsonPtr;
 
 namespace {
@@ -56,13 +54,6 @@ QString text(const VnJsonPtr& record, const char* key)
 OdString od(const QString& text)
 {
     return vnsi::vnutQStringToOdString(text);
-}
-
-/// As the host's lineweight picker words it.
-QString lineWidthText(int weight)
-{
-    return weight < 0 ? QCoreApplication::translate("TranslationRecords", "默认")
-                      : QStringLiteral("%1 mm").arg(weight / 100.0, 0, 'f', 2);
 }
 
 QString shownPlotStyle(const QString& style)
@@ -122,45 +113,43 @@ drawing::LinetypePointer TranslationRecords::definition(OdInt64 number, const QS
     return linetype(numbers.contains(number) ? number : numbers.constLast());
 }
 
-VnJsonPtr TranslationRecords::target(const TargetLayer& target, bool used)
+VnJsonPtr TranslationRecords::target(const TargetLayer& target)
 {
-    const bool isTrue = target.trueColor.has_value();
-    VnJsonPtr record = ElementValue::createObject(12);
-    record->SetDataSW(kToName, od(target.name));
-    record->SetDataL(kToColorMethod, isTrue ? OdCmEntityColor::kByColor : OdCmEntityColor::kByACI);
-    record->SetDataL(kToColorValue,
-        isTrue ? layerrecords::swapRedAndBlue(*target.trueColor) : OdInt64{target.colorIndex});
-    record->SetDataL(kToLinetypeId, numberOf(target.linetypeDefinition));
-    record->SetDataSW(kToLinetype, od(target.linetype));
-    record->SetDataI(kToLineWidth, target.lineweight);
-    record->SetDataSW(kToLineWidthText, od(lineWidthText(target.lineweight)));
-    record->SetDataI(kToTransparency, target.transparency);
-    record->SetDataSW(kToPlotStyle, od(shownPlotStyle(target.plotStyle)));
-    record->SetDataB(kToUsed, used);
-    record->SetDataI(kColorIndex, target.colorIndex);
+    TargetRecord record(ElementValue::createObject(12));
+    record.setName(target.name);
+    record.setColor(target.trueColor ? LayerColor::ofRgb(*target.trueColor)
+                                     : LayerColor::ofIndex(target.colorIndex));
+    record.setLinetype(target.linetype, numberOf(target.linetypeDefinition));
+    record.setLineWidth(target.lineweight, vnsi::lineWidthText(target.lineweight));
+    record.setTransparency(target.transparency);
+    record.setPlotStyle(shownPlotStyle(target.plotStyle));
+    record.setUsed(target.used);
+    record.node()->SetDataI(kColorIndex, target.colorIndex);
     if (target.plotted)
-        record->SetDataB(kPlotted, *target.plotted);
-    return record;
+        record.node()->SetDataB(kPlotted, *target.plotted);
+    return record.node();
 }
 
-TargetLayer TranslationRecords::target(const VnJsonPtr& record) const
+TargetLayer TranslationRecords::target(const VnJsonPtr& node) const
 {
+    const TargetRecord record(node);
+    const LayerColor color = record.color();
     TargetLayer target;
-    target.name = text(record, kToName);
-    const OdInt64 color = record->GetDataL(kToColorValue);
-    if (record->GetDataL(kToColorMethod) == OdCmEntityColor::kByACI) {
-        target.colorIndex = static_cast<OdInt16>(color);
+    target.name = record.name();
+    if (color.isIndex()) {
+        target.colorIndex = color.index();
     } else {
-        target.colorIndex = record->GetDataI(kColorIndex, target.colorIndex);
-        target.trueColor = layerrecords::swapRedAndBlue(static_cast<quint32>(color));
+        target.colorIndex = node->GetDataI(kColorIndex, target.colorIndex);
+        target.trueColor = color.rgb();
     }
-    target.linetype = text(record, kToLinetype);
-    target.linetypeDefinition = definition(record->GetDataL(kToLinetypeId), target.linetype);
-    target.lineweight = record->GetDataI(kToLineWidth, target.lineweight);
-    target.transparency = record->GetDataI(kToTransparency);
-    target.plotStyle = filedPlotStyle(text(record, kToPlotStyle));
-    if (record->HasKey(kPlotted))
-        target.plotted = record->GetDataB(kPlotted);
+    target.linetype = record.linetype();
+    target.linetypeDefinition = definition(record.linetypeId(), target.linetype);
+    target.lineweight = record.lineWidth();
+    target.transparency = record.transparency();
+    target.plotStyle = filedPlotStyle(record.plotStyle());
+    if (node->HasKey(kPlotted))
+        target.plotted = node->GetDataB(kPlotted);
+    target.used = record.isUsed();
     return target;
 }
 
@@ -170,7 +159,7 @@ VnJsonPtr TranslationRecords::mapping(const LayerMapping& mapping)
     from->SetDataSW(kFromName, od(mapping.from));
     VnJsonPtr record = ElementValue::createObject(2);
     record->SetDataJ(kFrom, from);
-    record->SetDataJ(kTo, target(mapping.to, false));
+    record->SetDataJ(kTo, target(mapping.to));
     return record;
 }
 

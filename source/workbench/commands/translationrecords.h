@@ -18,8 +18,8 @@ public:
 
     /// The record of a target. Its linetype gets a number here, by which its definition is found
     /// again; a record goes back only to whom it came from.
-    vnsi::VnJsonPtr target(const drawing::TargetLayer& target, bool used);
-    drawing::TargetLayer target(const vnsi::VnJsonPtr& record) const;
+    vnsi::VnJsonPtr target(const drawing::TargetLayer& target);
+    drawing::TargetLayer target(const vnsi::VnJsonPtr& node) const;
 
     vnsi::VnJsonPtr mapping(const drawing::LayerMapping& mapping);
     /// The mappings of an array, in its order.

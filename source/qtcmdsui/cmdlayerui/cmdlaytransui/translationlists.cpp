@@ -1,180 +1,215 @@
 #include "translationlists.h"
 
 #include "namerule.h"
-#include "translatorkeys.h"
-#include "vnstrings.h"
-
-#include <QSet>
 
 #include <algorithm>
-#include <vector>
+#include <optional>
 
 namespace vnsi {
 
 namespace {
 
-QString foldedText(const VnJsonPtr& record, const char* key)
+QString sourceName(const VnJsonPtr& record)
 {
-    return record ? foldedName(vnutOdStringToQString(record->GetDataSW(key))) : QString();
+    return record ? vnutOdStringToQString(record->GetDataSW(transkey::kFromName)) : QString();
 }
 
-/// By folded name; the first of several.
-QHash<QString, int> rowsOf(const VnJsonPtr& records, const char* key)
+std::vector<TranslationLists::Source> copiedSources(const VnJsonPtr& records)
 {
-    QHash<QString, int> rows;
+    std::vector<TranslationLists::Source> sources;
     for (int i = 0, count = records.ArrayCount(); i < count; ++i) {
-        const QString name = foldedText(records(i), key);
-        if (!rows.contains(name))
-            rows.insert(name, i);
+        const VnJsonPtr record = records(i);
+        const QString name = sourceName(record);
+        if (!name.isEmpty())
+            sources.push_back({name, ElementValue::clone(record), i});
     }
-    return rows;
+    return sources;
 }
 
-/// Folded.
-QString mappedName(const VnJsonPtr& mapping)
+TargetRecord copied(const TargetRecord& target)
 {
-    return foldedText(mapping->GetDataJ(transkey::kFrom), transkey::kFromName);
+    return TargetRecord(ElementValue::clone(target.node()));
+}
+
+/// Gives the rows of layers out, each once.
+class FreeRows
+{
+public:
+    explicit FreeRows(const std::vector<TranslationLists::Source>& sources) : m_sources(sources)
+    {
+        for (std::size_t row = sources.size(); row-- > 0;)
+            m_rows[foldedName(sources[row].name)].push_back(row);
+    }
+
+    /// The row of a layer of that name, which is then no longer free; none where there is none
+    /// left.
+    std::optional<std::size_t> take(const QString& name)
+    {
+        const auto found = m_rows.find(foldedName(name));
+        if (found == m_rows.end() || found->empty())
+            return {};
+        std::vector<std::size_t>& rows = *found;
+        const auto alike = std::find_if(rows.rbegin(), rows.rend(),
+            [&](std::size_t row) { return m_sources[row].name == name; });
+        const auto best = alike == rows.rend() ? rows.end() - 1 : alike.base() - 1;
+        const std::size_t row = *best;
+        rows.erase(best);
+        return row;
+    }
+
+private:
+    const std::vector<TranslationLists::Source>& m_sources;
+    QHash<QString, std::vector<std::size_t>> m_rows; ///< By folded name, the first at the end.
+};
+
+bool standsBefore(const TranslationLists::Source& a, const TranslationLists::Source& b)
+{
+    return a.place < b.place;
 }
 
 } // namespace
 
-TranslationLists::TranslationLists()
-    : m_sources(ElementValue::createArray()),
-      m_targets(ElementValue::createArray()),
-      m_mappings(ElementValue::createArray())
+VnJsonPtr TranslationLists::sourceArray() const
 {
+    VnJsonPtr array = ElementValue::createArray(static_cast<int>(m_sources.size()));
+    for (const Source& source : m_sources)
+        array->Append(ElementValue::clone(source.record));
+    return array;
 }
 
-void TranslationLists::setSources(const VnJsonPtr& records)
+VnJsonPtr TranslationLists::targetArray() const
 {
-    m_places = rowsOf(records, transkey::kFromName);
-    QSet<QString> mapped;
-    for (int i = 0, count = m_mappings.ArrayCount(); i < count; ++i)
-        mapped.insert(mappedName(m_mappings(i)));
-    m_sources = ElementValue::createArray(records.ArrayCount());
-    for (int i = 0, count = records.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr record = records(i);
-        if (record && !mapped.contains(foldedText(record, transkey::kFromName)))
-            m_sources->Append(record);
+    VnJsonPtr array = ElementValue::createArray(static_cast<int>(m_targets.size()));
+    for (const TargetRecord& target : m_targets)
+        array->Append(ElementValue::clone(target.node()));
+    return array;
+}
+
+VnJsonPtr TranslationLists::mappingArray() const
+{
+    VnJsonPtr array = ElementValue::createArray(static_cast<int>(m_mappings.size()));
+    for (const Mapping& mapping : m_mappings) {
+        const VnJsonPtr entry = ElementValue::createObject(2);
+        entry->SetDataJ(transkey::kFrom, ElementValue::clone(mapping.source.record));
+        entry->SetDataJ(transkey::kTo, ElementValue::clone(mapping.target.node()));
+        array->Append(entry);
     }
+    return array;
+}
+
+bool TranslationLists::setSources(const VnJsonPtr& records)
+{
+    const std::vector<Source> all = copiedSources(records);
+    FreeRows free(all);
+    std::vector<char> isMapped(all.size());
+    std::vector<Mapping> kept;
+    for (const Mapping& mapping : m_mappings) {
+        if (const auto row = free.take(mapping.source.name)) {
+            isMapped[*row] = true;
+            kept.push_back({all[*row], mapping.target});
+        }
+    }
+    const bool isAnyGone = kept.size() < m_mappings.size();
+    m_mappings.swap(kept);
+    m_sources.clear();
+    for (std::size_t row = 0; row < all.size(); ++row) {
+        if (!isMapped[row])
+            m_sources.push_back(all[row]);
+    }
+    return isAnyGone;
 }
 
 void TranslationLists::setTargets(const VnJsonPtr& records)
 {
-    m_targets = records ? records : ElementValue::createArray();
-    m_targetRows = rowsOf(m_targets, transkey::kToName);
-}
-
-VnJsonPtr TranslationLists::target(const QString& name) const
-{
-    const auto row = m_targetRows.constFind(foldedName(name));
-    return row == m_targetRows.constEnd() ? VnJsonPtr() : m_targets(*row);
-}
-
-QStringList TranslationLists::targetNames() const
-{
-    QStringList names;
-    for (int i = 0, count = m_targets.ArrayCount(); i < count; ++i)
-        names.append(vnutOdStringToQString(m_targets(i)->GetDataSW(transkey::kToName)));
-    return names;
-}
-
-/// Moves the layers for which `targetOf` (by folded name) gives a target into mappings, in one
-/// pass.
-template <class TargetOf>
-bool TranslationLists::moveMapped(TargetOf&& targetOf)
-{
-    const VnJsonPtr kept = ElementValue::createArray(m_sources.ArrayCount());
-    bool hasMoved = false;
-    for (int i = 0, count = m_sources.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr record = m_sources(i);
-        const VnJsonPtr target = targetOf(foldedText(record, transkey::kFromName));
-        if (!target) {
-            kept->Append(record);
+    m_targets.clear();
+    m_targetRows.clear();
+    for (int i = 0, count = records.ArrayCount(); i < count; ++i) {
+        const TargetRecord target(records(i));
+        const QString name = foldedName(target.name());
+        if (name.isEmpty())
             continue;
-        }
-        const VnJsonPtr mapping = ElementValue::createObject(2);
-        mapping->SetDataJ(transkey::kFrom, record);
-        mapping->SetDataJ(transkey::kTo, ElementValue::clone(target));
-        m_mappings->Append(mapping);
-        hasMoved = true;
+        if (!m_targetRows.contains(name))
+            m_targetRows.insert(name, static_cast<int>(m_targets.size()));
+        m_targets.push_back(copied(target));
     }
-    m_sources = kept;
+}
+
+/// Moves the layers of the rows that have a target into mappings.
+bool TranslationLists::moveMapped(const std::vector<TargetRecord>& targetsByRow)
+{
+    std::vector<Source> kept;
+    for (std::size_t row = 0; row < m_sources.size(); ++row) {
+        if (targetsByRow[row].isNull())
+            kept.push_back(m_sources[row]);
+        else
+            m_mappings.push_back({m_sources[row], copied(targetsByRow[row])});
+    }
+    const bool hasMoved = kept.size() < m_sources.size();
+    m_sources.swap(kept);
     return hasMoved;
 }
 
-void TranslationLists::map(const QStringList& names, const VnJsonPtr& target)
+void TranslationLists::map(const std::vector<int>& rows, const TargetRecord& target)
 {
-    QSet<QString> wanted;
-    for (const QString& name : names)
-        wanted.insert(foldedName(name));
-    moveMapped([&](const QString& name) { return wanted.remove(name) ? target : VnJsonPtr(); });
+    std::vector<TargetRecord> targets(m_sources.size(), TargetRecord({}));
+    for (const int row : rows)
+        targets.at(static_cast<std::size_t>(row)) = target;
+    moveMapped(targets);
 }
 
-bool TranslationLists::mapSame(bool doIt)
+const TargetRecord* TranslationLists::sameTarget(const Source& source) const
 {
-    const auto isTarget = [this](const QString& name) { return m_targetRows.contains(name); };
-    if (doIt) {
-        return moveMapped([&](const QString& name) {
-            return isTarget(name) ? m_targets(m_targetRows.value(name)) : VnJsonPtr();
-        });
+    const auto row = m_targetRows.constFind(foldedName(source.name));
+    return row == m_targetRows.constEnd() ? nullptr : &m_targets[static_cast<std::size_t>(*row)];
+}
+
+bool TranslationLists::hasSame() const
+{
+    return std::any_of(m_sources.begin(), m_sources.end(),
+        [this](const Source& source) { return sameTarget(source); });
+}
+
+void TranslationLists::mapSame()
+{
+    std::vector<TargetRecord> targets;
+    for (const Source& source : m_sources) {
+        const TargetRecord* const target = sameTarget(source);
+        targets.push_back(target ? *target : TargetRecord({}));
     }
-    for (int i = 0, count = m_sources.ArrayCount(); i < count; ++i) {
-        if (isTarget(foldedText(m_sources(i), transkey::kFromName)))
-            return true;
-    }
-    return false;
+    moveMapped(targets);
 }
 
 bool TranslationLists::applyLoaded(const VnJsonPtr& mappings)
 {
-    QHash<QString, VnJsonPtr> targets;
+    FreeRows free(m_sources);
+    std::vector<TargetRecord> targets(m_sources.size(), TargetRecord({}));
     for (int i = 0, count = mappings.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr target = mappings(i)->GetDataJ(transkey::kTo);
-        const QString name = mappedName(mappings(i));
-        if (target && !targets.contains(name)) // Files count in the order of their choice.
-            targets.insert(name, target);
+        const VnJsonPtr entry = mappings(i);
+        const TargetRecord target(entry ? entry->GetDataJ(transkey::kTo) : VnJsonPtr());
+        if (target.isNull())
+            continue;
+        // Files count in the order of their choice: a later one finds the layer taken.
+        if (const auto row = free.take(sourceName(entry->GetDataJ(transkey::kFrom))))
+            targets[*row] = target;
     }
-    return moveMapped([&](const QString& name) { return targets.take(name); });
+    return moveMapped(targets);
 }
 
 void TranslationLists::unmap(int index)
 {
-    const VnJsonPtr mapping = m_mappings(index);
-    if (!mapping)
-        return;
-    const VnJsonPtr gone = ElementValue::createArray(1);
-    gone->Append(mapping);
-    m_mappings->Remove(index);
-    giveBack(gone);
+    const auto mapping = m_mappings.begin() + index;
+    const Source source = mapping->source;
+    m_mappings.erase(mapping);
+    m_sources.insert(
+        std::upper_bound(m_sources.begin(), m_sources.end(), source, standsBefore), source);
 }
 
 void TranslationLists::unmapAll()
 {
-    const VnJsonPtr gone = m_mappings;
-    m_mappings = ElementValue::createArray();
-    giveBack(gone);
-}
-
-void TranslationLists::giveBack(const VnJsonPtr& mappings)
-{
-    const QHash<QString, int> present = rowsOf(m_sources, transkey::kFromName);
-    std::vector<std::pair<int, VnJsonPtr>> records;
-    const auto add = [&](const VnJsonPtr& record) {
-        const QString name = foldedText(record, transkey::kFromName);
-        records.emplace_back(m_places.value(name, m_places.size()), record);
-    };
-    for (int i = 0, count = m_sources.ArrayCount(); i < count; ++i)
-        add(m_sources(i));
-    for (int i = 0, count = mappings.ArrayCount(); i < count; ++i) {
-        if (!present.contains(mappedName(mappings(i))))
-            add(mappings(i)->GetDataJ(transkey::kFrom));
-    }
-    std::stable_sort(records.begin(), records.end(),
-        [](const auto& a, const auto& b) { return a.first < b.first; });
-    m_sources = ElementValue::createArray(static_cast<int>(records.size()));
-    for (const auto& [place, record] : records)
-        m_sources->Append(record);
+    for (const Mapping& mapping : m_mappings)
+        m_sources.push_back(mapping.source);
+    m_mappings.clear();
+    std::sort(m_sources.begin(), m_sources.end(), standsBefore);
 }
 
 } // namespace vnsi

@@ -1,35 +1,57 @@
 #pragma once
 
-#include "vnjson.h"
+#include "targetrecord.h"
 
 #include <QHash>
-#include <QStringList>
+
+#include <vector>
 
 namespace vnsi {
 
 /// The translator's three lists: the drawing's layers that are not mapped yet, the target layers,
-/// and the mappings. Names are looked up without regard to case, through an index.
+/// and the mappings. They are the dialog's own: records are copied on their way in and out, so
+/// nothing that a command does to a tree reaches them. What has no name is no layer and is left
+/// out.
+///
+/// Names pair without regard to case; of several layers that pair, the one of the same letters goes
+/// first.
 class TranslationLists
 {
 public:
-    TranslationLists();
+    /// A layer of the drawing.
+    struct Source
+    {
+        QString name;
+        VnJsonPtr record;
+        int place; ///< In the drawing's list, where it goes back to.
+        bool isUsed() const { return record->GetDataB(transkey::kFromUsed); }
+    };
+    /// Both halves are always there.
+    struct Mapping
+    {
+        Source source;
+        TargetRecord target;
+    };
 
-    const VnJsonPtr& sources() const { return m_sources; }
-    const VnJsonPtr& targets() const { return m_targets; }
-    const VnJsonPtr& mappings() const { return m_mappings; }
+    /// In the order of their places.
+    const std::vector<Source>& sources() const { return m_sources; }
+    const std::vector<TargetRecord>& targets() const { return m_targets; }
+    const std::vector<Mapping>& mappings() const { return m_mappings; }
+    VnJsonPtr sourceArray() const;
+    VnJsonPtr targetArray() const;
+    VnJsonPtr mappingArray() const;
 
-    /// The drawing's layers; those that are mapped are left out. An empty handle is no layer.
-    void setSources(const VnJsonPtr& records);
+    /// The drawing's layers as they are now: those that are mapped are not listed, and mappings of
+    /// layers that are gone go, too. False when there were none such.
+    bool setSources(const VnJsonPtr& records);
     void setTargets(const VnJsonPtr& records);
-    /// The target of that name; empty when there is none.
-    VnJsonPtr target(const QString& name) const;
-    QStringList targetNames() const;
 
-    /// Maps the layers of those names onto a copy of the target.
-    void map(const QStringList& names, const VnJsonPtr& target);
-    /// Maps every layer that has a target of its own name. With `doIt` false nothing changes and
-    /// the result only says whether there is such a layer.
-    bool mapSame(bool doIt);
+    /// Maps the layers in those rows of the sources onto a copy of the target.
+    void map(const std::vector<int>& rows, const TargetRecord& target);
+    /// Whether some layer has a target of its own name.
+    bool hasSame() const;
+    /// Maps every layer that has one.
+    void mapSame();
     /// Takes in mappings that files brought, for the layers that are there and not mapped yet;
     /// those of other layers are left out. False when there were none to take in.
     bool applyLoaded(const VnJsonPtr& mappings);
@@ -38,15 +60,13 @@ public:
     void unmapAll();
 
 private:
-    template <class TargetOf>
-    bool moveMapped(TargetOf&& targetOf);
-    void giveBack(const VnJsonPtr& mappings);
+    const TargetRecord* sameTarget(const Source& source) const;
+    bool moveMapped(const std::vector<TargetRecord>& targetsByRow);
 
-    VnJsonPtr m_sources;
-    VnJsonPtr m_targets;
-    VnJsonPtr m_mappings;
+    std::vector<Source> m_sources;
+    std::vector<TargetRecord> m_targets;
+    std::vector<Mapping> m_mappings;
     QHash<QString, int> m_targetRows; ///< By folded name; the first of several.
-    QHash<QString, int> m_places;     ///< Of the drawing's layers, by folded name.
 };
 
 } // namespace vnsi

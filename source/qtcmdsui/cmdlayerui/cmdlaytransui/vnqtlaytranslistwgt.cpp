@@ -2,9 +2,6 @@
 
 #include "layercells.h"
 #include "layernamedelegate.h"
-#include "targetrecord.h"
-#include "translatorkeys.h"
-#include "vnstrings.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -38,12 +35,6 @@ constexpr MappingColumn kColumns[] = {
     {QT_TR_NOOP("打印样式"), "Color_255", &TargetRecord::plotStyle},
 };
 
-QString mappedName(const VnJsonPtr& mapping)
-{
-    const VnJsonPtr from = mapping->GetDataJ(transkey::kFrom);
-    return from ? vnutOdStringToQString(from->GetDataSW(transkey::kFromName)) : QString();
-}
-
 } // namespace
 
 VnQtLaytransListWgt::VnQtLaytransListWgt(QWidget* parent)
@@ -59,24 +50,42 @@ void VnQtLaytransListWgt::contextMenuEvent(QContextMenuEvent* event)
 }
 
 void VnQtLaytransListWgt::fill(
-    const VnJsonPtr& records, const char* nameKey, const char* usedKey, LayerCells& cells)
+    const std::vector<TranslationLists::Source>& layers, LayerCells& cells)
+{
+    QStringList names;
+    std::vector<bool> marks;
+    for (const TranslationLists::Source& layer : layers) {
+        names.append(layer.name);
+        marks.push_back(layer.isUsed());
+    }
+    fill(names, marks, cells);
+}
+
+void VnQtLaytransListWgt::fill(const std::vector<TargetRecord>& layers, LayerCells& cells)
+{
+    QStringList names;
+    std::vector<bool> marks;
+    for (const TargetRecord& layer : layers) {
+        names.append(layer.name());
+        marks.push_back(layer.isUsed());
+    }
+    fill(names, marks, cells);
+}
+
+void VnQtLaytransListWgt::fill(
+    const QStringList& names, const std::vector<bool>& marks, LayerCells& cells)
 {
     const QStringList selected = selectedNames();
     const QString current = currentItem() ? currentItem()->text() : QString();
     setUpdatesEnabled(false);
     clear();
-    const int rows = records.ArrayCount();
-    QStringList names;
-    names.reserve(rows);
-    for (int row = 0; row < rows; ++row)
-        names.append(vnutOdStringToQString(records(row)->GetDataSW(nameKey)));
     addItems(names);
     {
         // One change of the whole list instead of two an item.
         const QSignalBlocker quiet(model());
-        for (int row = 0; row < rows; ++row) {
+        for (int row = 0; row < names.size(); ++row) {
             item(row)->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-            item(row)->setIcon(cells.stateIcon(records(row)->GetDataB(usedKey)));
+            item(row)->setIcon(cells.stateIcon(marks[static_cast<std::size_t>(row)]));
         }
     }
     selectNames(selected, current);
@@ -100,13 +109,20 @@ void VnQtLaytransListWgt::selectNames(const QStringList& names, const QString& c
     selectionModel()->select(selection, QItemSelectionModel::Select);
 }
 
+std::vector<int> VnQtLaytransListWgt::selectedRows() const
+{
+    std::vector<int> rows;
+    for (const QModelIndex& index : selectionModel()->selectedIndexes())
+        rows.push_back(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
 QStringList VnQtLaytransListWgt::selectedNames() const
 {
-    QModelIndexList indexes = selectionModel()->selectedIndexes();
-    std::sort(indexes.begin(), indexes.end());
     QStringList names;
-    for (const QModelIndex& index : qAsConst(indexes))
-        names.append(index.data().toString());
+    for (const int row : selectedRows())
+        names.append(item(row)->text());
     return names;
 }
 
@@ -144,26 +160,25 @@ VnQtLaytransQTableWgt::VnQtLaytransQTableWgt(QWidget* parent) : QTableWidget(par
     verticalHeader()->hide();
 }
 
-void VnQtLaytransQTableWgt::fill(const VnJsonPtr& mappings)
+void VnQtLaytransQTableWgt::fill(const std::vector<TranslationLists::Mapping>& mappings)
 {
-    const int rows = mappings.ArrayCount();
     setUpdatesEnabled(false);
     clearContents();
     setRowCount(0);
-    setRowCount(rows);
+    setRowCount(static_cast<int>(mappings.size()));
     {
         // One change of the whole table instead of one a cell.
         const QSignalBlocker quiet(model());
-        for (int row = 0; row < rows; ++row) {
-            const VnJsonPtr mapping = mappings(row);
-            const TargetRecord target(mapping->GetDataJ(transkey::kTo));
+        int row = 0;
+        for (const auto& [source, target] : mappings) {
             int column = 0;
             for (const MappingColumn& shown : kColumns) {
-                const QString text = shown.text ? (target.*shown.text)() : mappedName(mapping);
-                auto* cell = new QTableWidgetItem(text);
+                auto* cell =
+                    new QTableWidgetItem(shown.text ? (target.*shown.text)() : source.name);
                 cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
                 setItem(row, column++, cell);
             }
+            ++row;
         }
     }
     setUpdatesEnabled(true);

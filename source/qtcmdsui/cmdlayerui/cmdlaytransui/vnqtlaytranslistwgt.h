@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vnjson.h"
+#include "translationlists.h"
 
 #include <QListWidget>
 #include <QTableWidget>
@@ -20,12 +20,12 @@ public:
     explicit VnQtLaytransListWgt(QWidget* parent = nullptr);
 
     QMenu& menu() const { return *m_menu; }
-    /// One item for each record, named and marked by what it has under the keys, in one go. What
-    /// was selected or current stays so as long as it is listed.
-    void fill(
-        const VnJsonPtr& records, const char* nameKey, const char* usedKey, LayerCells& cells);
-    /// The names of the selected items, from top to bottom.
-    QStringList selectedNames() const;
+    /// One item for each layer, in one go. What was selected or current stays so as long as it is
+    /// listed.
+    void fill(const std::vector<TranslationLists::Source>& layers, LayerCells& cells);
+    void fill(const std::vector<TargetRecord>& layers, LayerCells& cells);
+    /// From top to bottom.
+    std::vector<int> selectedRows() const;
     /// Adds every item whose text is `name`, letter case apart, to the selection.
     void addToSelection(const QString& name);
 
@@ -33,6 +33,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void fill(const QStringList& names, const std::vector<bool>& marks, LayerCells& cells);
+    QStringList selectedNames() const;
     void selectNames(const QStringList& names, const QString& current);
 
     QMenu* m_menu;
@@ -47,7 +49,7 @@ public:
     explicit VnQtLaytransQTableWgt(QWidget* parent = nullptr);
 
     /// One row for each mapping, in one go.
-    void fill(const VnJsonPtr& mappings);
+    void fill(const std::vector<TranslationLists::Mapping>& mappings);
     /// The selected row; -1 when none is.
     int selectedRow() const;
 };

@@ -3,7 +3,6 @@
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
 #include "namerule.h"
-#include "translatorkeys.h"
 #include "vnmessages.h"
 #include "vnpickers.h"
 #include "vnstrings.h"
@@ -25,11 +24,12 @@ constexpr int kTransparencyStep = 10;
 constexpr int kFirstLineWidth = 6;
 constexpr int kFirstColor = 1;
 constexpr const char* kPlotStyles[] = {QT_TR_NOOP("普通"), "ByLayer", "ByBlock"};
-
-QString text(const VnJsonPtr& record, const char* key)
-{
-    return vnutOdStringToQString(record->GetDataSW(key));
-}
+/// The lineweight picker's codes for the weight of a layer and of a block, and for the usual one.
+constexpr int kWeightOfLayer = -1;
+constexpr int kWeightOfBlock = -2;
+constexpr int kUsualWeight = -3;
+/// Likewise, as colour indices.
+constexpr OdInt16 kColorsOfOthers[] = {256, 0};
 
 bool refuse(const QString& message)
 {
@@ -37,19 +37,54 @@ bool refuse(const QString& message)
     return false;
 }
 
-void removeEntry(QComboBox& box, const QString& entry)
+void removeEntries(QComboBox& box, const QString& entry)
 {
-    const int row = box.findText(entry);
-    if (row >= 0)
-        box.removeItem(row);
+    for (int row = box.count() - 1; row >= 0; --row) {
+        if (box.itemText(row).compare(entry, Qt::CaseInsensitive) == 0)
+            box.removeItem(row);
+    }
 }
 
 /// Adds what the list lacks, so that what a record says is not lost by looking at it.
 void showText(QComboBox& box, const QString& entry)
 {
-    if (!entry.isEmpty() && box.findText(entry) < 0)
+    if (entry.isEmpty())
+        return;
+    int row = box.findText(entry, Qt::MatchFixedString);
+    if (row < 0) {
+        row = box.count();
         box.addItem(entry);
-    box.setCurrentText(entry);
+    }
+    box.setCurrentIndex(row);
+}
+
+/// Shows the weight if it is offered. A picker tells the weight of the row that it shows alone.
+bool showWeight(VnLineWidthComboBox& box, int weight)
+{
+    const int before = box.currentIndex();
+    for (int row = 0; row < box.count(); ++row) {
+        box.setCurrentIndex(row);
+        if (box.GetCurrentLineWeight() == weight)
+            return true;
+    }
+    box.setCurrentIndex(before);
+    return false;
+}
+
+/// Also where the picker speaks another language.
+void removeWeight(VnLineWidthComboBox& box, int weight, const QString& entry)
+{
+    removeEntries(box, entry);
+    while (showWeight(box, weight))
+        box.removeItem(box.currentIndex());
+}
+
+void removeColor(VnColorComboBox& box, OdInt16 index)
+{
+    OdCmColor color;
+    color.setColorIndex(index);
+    if (const int row = box.FindColor(color); row >= 0)
+        box.removeItem(row);
 }
 
 /// None for text that is no whole number from 0 to the most.
@@ -128,20 +163,21 @@ bool VnQtLaytransNewEditWgt::setData(VnJsonPtr data, OdRxObjectPtr invoker)
     m_namesInUse = data && !isEdit ? data->GetDataJ(transkey::kNamesInUse) : VnJsonPtr();
     prepareCombos();
     if (const VnJsonPtr record = data ? data->GetDataJ(transkey::kInitRecord) : VnJsonPtr())
-        prefill(record);
+        prefill(TargetRecord(record));
     return true;
 }
 
 /// A layer's own properties cannot be those of a layer or a block.
 void VnQtLaytransNewEditWgt::prepareCombos()
 {
-    removeEntry(*m_linetype, QStringLiteral("ByLayer"));
-    removeEntry(*m_linetype, QStringLiteral("ByBlock"));
-    removeEntry(*m_lineWidth, QStringLiteral("随层"));
-    removeEntry(*m_lineWidth, QStringLiteral("随块"));
+    removeEntries(*m_linetype, QStringLiteral("ByLayer"));
+    removeEntries(*m_linetype, QStringLiteral("ByBlock"));
+    removeWeight(*m_lineWidth, kWeightOfLayer, QStringLiteral("随层"));
+    removeWeight(*m_lineWidth, kWeightOfBlock, QStringLiteral("随块"));
     if (m_lineWidth->count() > kFirstLineWidth + 1)
         m_lineWidth->setCurrentIndex(kFirstLineWidth);
-    m_color->setLogicalColorsEnabled(false);
+    for (const OdInt16 index : kColorsOfOthers)
+        removeColor(*m_color, index);
     if (m_color->count() > kFirstColor + 1)
         m_color->setCurrentIndex(kFirstColor);
 
@@ -160,21 +196,39 @@ void VnQtLaytransNewEditWgt::prepareCombos()
     m_plotStyle->setEnabled(false);
 }
 
-void VnQtLaytransNewEditWgt::prefill(const VnJsonPtr& record)
+void VnQtLaytransNewEditWgt::prefill(const TargetRecord& record)
 {
-    m_name->setText(text(record, transkey::kToName));
-    const OdString linetype = record->GetDataSW(transkey::kToLinetype);
-    if (!linetype.isEmpty())
-        m_linetype->setLineType(linetype);
-    const int lineWidth = m_lineWidth->findText(text(record, transkey::kToLineWidthText));
-    if (lineWidth >= 0)
-        m_lineWidth->setCurrentIndex(lineWidth);
-    else if (record->HasKey(transkey::kToLineWidth))
-        m_lineWidth->setLineWidth(record->GetDataI(transkey::kToLineWidth));
-    m_transparency->setCurrentText(QString::number(record->GetDataI(transkey::kToTransparency, 0)));
-    showText(*m_plotStyle, text(record, transkey::kToPlotStyle));
-    showColor(
-        {record->GetDataL(transkey::kToColorMethod), record->GetDataL(transkey::kToColorValue)});
+    m_name->setText(record.name());
+    showLinetype(record.linetype(), record.linetypeId());
+    showLineWidth(record);
+    m_transparency->setCurrentText(record.transparencyText());
+    showText(*m_plotStyle, record.plotStyle());
+    showColor(record.color());
+}
+
+/// Of several linetypes of one name the one that the record means.
+void VnQtLaytransNewEditWgt::showLinetype(const QString& name, OdInt64 id)
+{
+    showText(*m_linetype, name);
+    const int first = m_linetype->currentIndex();
+    for (int row = first; row < m_linetype->count(); ++row) {
+        if (m_linetype->itemText(row).compare(name, Qt::CaseInsensitive) != 0)
+            continue;
+        m_linetype->setCurrentIndex(row);
+        if (static_cast<OdInt64>(m_linetype->getCurrentLineType().getHandle()) == id)
+            return;
+    }
+    m_linetype->setCurrentIndex(first);
+}
+
+/// By its text, else by its weight; a weight that cannot be chosen shows as the usual one.
+void VnQtLaytransNewEditWgt::showLineWidth(const TargetRecord& record)
+{
+    const int row = m_lineWidth->findText(record.lineWidthText());
+    if (row >= 0)
+        m_lineWidth->setCurrentIndex(row);
+    else if (record.hasLineWidth() && !showWeight(*m_lineWidth, record.lineWidth()))
+        showWeight(*m_lineWidth, kUsualWeight);
 }
 
 void VnQtLaytransNewEditWgt::showColor(const LayerColor& color)
@@ -192,8 +246,7 @@ bool VnQtLaytransNewEditWgt::acceptName(const QString& name) const
 {
     if (name.isEmpty())
         return refuse(tr("名称必须赋值。"));
-    if (name.front().isSpace() || name.back().isSpace() || holdsForbiddenCharacter(name) ||
-        isTooLongForName(name))
+    if (name.front().isSpace() || name.back().isSpace() || nameFaults(name))
         return refuse(tr("名称不是有效符号名。"));
     if (isInUse(name))
         return refuse(
@@ -204,7 +257,8 @@ bool VnQtLaytransNewEditWgt::acceptName(const QString& name) const
 bool VnQtLaytransNewEditWgt::isInUse(const QString& name) const
 {
     for (int i = 0, count = m_namesInUse.ArrayCount(); i < count; ++i) {
-        if (isSameName(vnutOdStringToQString(m_namesInUse(i)->asSW()), name))
+        const VnJsonPtr used = m_namesInUse(i);
+        if (used && isSameName(vnutOdStringToQString(used->asSW()), name))
             return true;
     }
     return false;

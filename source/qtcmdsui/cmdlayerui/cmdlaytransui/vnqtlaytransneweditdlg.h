@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layerrecord.h"
+#include "targetrecord.h"
 #include "vornqt.h"
 
 class QComboBox;
@@ -31,7 +31,9 @@ private slots:
 private:
     QFormLayout* makeForm();
     void prepareCombos();
-    void prefill(const VnJsonPtr& record);
+    void prefill(const TargetRecord& record);
+    void showLinetype(const QString& name, OdInt64 id);
+    void showLineWidth(const TargetRecord& record);
     void showColor(const LayerColor& color);
     bool acceptName(const QString& name) const;
     bool isInUse(const QString& name) const;

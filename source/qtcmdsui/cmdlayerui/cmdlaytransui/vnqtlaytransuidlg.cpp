@@ -1,8 +1,6 @@
 #include "vnqtlaytransuidlg.h"
 
 #include "dialoghelp.h"
-#include "targetrecord.h"
-#include "translatorkeys.h"
 #include "vnqtlaytranslistwgt.h"
 #include "vnsettings.h"
 #include "vnstrings.h"
@@ -24,6 +22,32 @@ constexpr wchar_t kSaveFilters[] = L"图形(*.dwg);;标准(*.dws)";
 OdString od(const QString& text)
 {
     return vnutQStringToOdString(text);
+}
+
+/// An answer that is no array is none.
+bool isList(const VnJsonPtr& answer)
+{
+    return answer && answer->kind() == IElementValueBase::Kind::Array;
+}
+
+VnJsonPtr textArray(const QStringList& texts)
+{
+    VnJsonPtr array = ElementValue::createArray(texts.size());
+    for (const QString& text : texts)
+        array->AppendSW(od(text));
+    return array;
+}
+
+QStringList textsIn(const VnJsonPtr& array)
+{
+    QStringList texts;
+    for (int i = 0, count = array.ArrayCount(); i < count; ++i) {
+        const VnJsonPtr element = array(i);
+        const QString text = element ? vnutOdStringToQString(element->asSW()) : QString();
+        if (!text.isEmpty())
+            texts.append(text);
+    }
+    return texts;
 }
 
 /// Six options, none of them chosen.
@@ -63,14 +87,14 @@ bool VnQtUiLaytransCmd::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 
 void VnQtUiLaytransCmd::fillFrom()
 {
-    m_fromList->fill(m_lists.sources(), transkey::kFromName, transkey::kFromUsed, m_cells);
-    m_mapSameButton->setEnabled(m_lists.mapSame(false));
+    m_fromList->fill(m_lists.sources(), m_cells);
+    m_mapSameButton->setEnabled(m_lists.hasSame());
 }
 
 void VnQtUiLaytransCmd::fillTo()
 {
-    m_toList->fill(m_lists.targets(), transkey::kToName, transkey::kToUsed, m_cells);
-    m_mapSameButton->setEnabled(m_lists.mapSame(false));
+    m_toList->fill(m_lists.targets(), m_cells);
+    m_mapSameButton->setEnabled(m_lists.hasSame());
 }
 
 void VnQtUiLaytransCmd::fillTable()
@@ -91,14 +115,15 @@ void VnQtUiLaytransCmd::setSaved(bool isSaved)
     m_saveButton->setEnabled(!isSaved);
 }
 
-bool VnQtUiLaytransCmd::send(
+VnJsonPtr VnQtUiLaytransCmd::send(
     int code, const VnQtArgumentWriter& writeArguments, std::vector<const char*> answers)
 {
     VnQtRequest request;
     request.code = code;
     request.codeKey = transkey::kRequestCode;
     request.answers = std::move(answers);
-    return sendRequest(request, writeArguments);
+    const VnJsonPtr asked = data();
+    return sendRequest(request, writeArguments) ? asked : VnJsonPtr();
 }
 
 void VnQtUiLaytransCmd::slot_LineEditTextChanged(const QString& text)
@@ -129,25 +154,25 @@ VnJsonPtr VnQtUiLaytransCmd::askForFile(const wchar_t* caption, const wchar_t* f
 
 void VnQtUiLaytransCmd::slot_m_pbLoadClicked()
 {
-    const QString last =
-        m_loadedFiles ? vnutOdStringToQString(m_loadedFiles(0)->asSW()) : QString();
-    const QString folder = last.isEmpty() ? QString() : QFileInfo(last).absolutePath();
-    const VnJsonPtr answer =
+    const QString folder =
+        m_loadedFiles.isEmpty() ? QString() : QFileInfo(m_loadedFiles.first()).absolutePath();
+    const VnJsonPtr chosen =
         askForFile(L"选择图形文件", kLoadFilters, kDrawingFilter, true, folder);
-    const VnJsonPtr paths = answer ? answer->GetDataJ("filePaths") : VnJsonPtr();
-    if (paths.ArrayCount() == 0)
+    const QStringList paths = textsIn(chosen ? chosen->GetDataJ("filePaths") : VnJsonPtr());
+    if (paths.isEmpty())
         return;
     m_loadedFiles = paths;
     const auto arguments = [&](IElementValueBase& tree) {
-        tree.SetDataJ(transkey::kLoadPaths, m_loadedFiles);
-        tree.SetDataB(transkey::kLoadIsFirst, m_lists.targets().ArrayCount() == 0);
-        tree.SetDataJ(transkey::kLoadTargets, m_lists.targets());
+        tree.SetDataJ(transkey::kLoadPaths, textArray(m_loadedFiles));
+        tree.SetDataB(transkey::kLoadIsFirst, m_lists.targets().empty());
+        tree.SetDataJ(transkey::kLoadTargets, m_lists.targetArray());
     };
-    if (!send(kTranslatorLoad, arguments, {transkey::kLoadedTargets, transkey::kLoadedMappings}))
+    const VnJsonPtr answer =
+        send(kTranslatorLoad, arguments, {transkey::kLoadedTargets, transkey::kLoadedMappings});
+    if (!answer)
         return;
-    if (const VnJsonPtr targets = data()->GetDataJ(transkey::kLoadedTargets))
-        m_lists.setTargets(targets);
-    const bool hasMapped = m_lists.applyLoaded(data()->GetDataJ(transkey::kLoadedMappings));
+    takeTargets(answer);
+    const bool hasMapped = m_lists.applyLoaded(answer->GetDataJ(transkey::kLoadedMappings));
     fillTo();
     fillFrom();
     fillTable();
@@ -155,24 +180,30 @@ void VnQtUiLaytransCmd::slot_m_pbLoadClicked()
         setSaved(false);
 }
 
-VnJsonPtr VnQtUiLaytransCmd::askForLayer(bool isEdit, const VnJsonPtr& initial)
+void VnQtUiLaytransCmd::takeTargets(const VnJsonPtr& answer)
 {
-    const VnJsonPtr names = ElementValue::createArray();
-    for (const QString& name : m_lists.targetNames())
-        names->AppendSW(od(name));
+    if (const VnJsonPtr targets = answer->GetDataJ(transkey::kLoadedTargets); isList(targets))
+        m_lists.setTargets(targets);
+}
+
+VnJsonPtr VnQtUiLaytransCmd::askForLayer(bool isEdit, const TargetRecord& initial)
+{
+    QStringList names;
+    for (const TargetRecord& target : m_lists.targets())
+        names.append(target.name());
     const VnJsonPtr question = ElementValue::createObject(4);
     question->SetDataB(transkey::kIsEdit, isEdit);
-    question->SetDataJ(transkey::kInitRecord, initial);
-    question->SetDataJ(transkey::kNamesInUse, names);
+    question->SetDataJ(transkey::kInitRecord, ElementValue::clone(initial.node()));
+    question->SetDataJ(transkey::kNamesInUse, textArray(names));
     const VnJsonPtr answer =
         vnuiShowModelDialogEx(L"Dialog/CmdLayer", L"Dialog/CmdLaytransNewEdit", question, {}, this);
     return answer->GetDataI("result") == 1 ? answer->GetDataJ(transkey::kResult) : VnJsonPtr();
 }
 
-VnJsonPtr VnQtUiLaytransCmd::currentTarget() const
+TargetRecord VnQtUiLaytransCmd::currentTarget() const
 {
-    const QListWidgetItem* item = m_toList->currentItem();
-    return item ? m_lists.target(item->text()) : VnJsonPtr();
+    const int row = m_toList->currentRow();
+    return row < 0 ? TargetRecord({}) : m_lists.targets().at(static_cast<std::size_t>(row));
 }
 
 void VnQtUiLaytransCmd::slot_m_pbNewClicked()
@@ -183,18 +214,18 @@ void VnQtUiLaytransCmd::slot_m_pbNewClicked()
     const auto arguments = [&](IElementValueBase& tree) {
         tree.SetDataJ(transkey::kNewTarget, layer);
     };
-    if (!send(kTranslatorNew, arguments, {transkey::kLoadedTargets}))
+    const VnJsonPtr answer = send(kTranslatorNew, arguments, {transkey::kLoadedTargets});
+    if (!answer)
         return;
-    if (const VnJsonPtr targets = data()->GetDataJ(transkey::kLoadedTargets))
-        m_lists.setTargets(targets);
+    takeTargets(answer);
     fillTo();
 }
 
 void VnQtUiLaytransCmd::slot_m_pbMapClicked()
 {
-    const VnJsonPtr target = currentTarget();
-    const QStringList layers = m_fromList->selectedNames();
-    if (!target || layers.isEmpty())
+    const TargetRecord target = currentTarget();
+    const std::vector<int> layers = m_fromList->selectedRows();
+    if (target.isNull() || layers.empty())
         return;
     m_lists.map(layers, target);
     showChangedMappings();
@@ -202,8 +233,8 @@ void VnQtUiLaytransCmd::slot_m_pbMapClicked()
 
 void VnQtUiLaytransCmd::slot_m_pbMapSameClicked()
 {
-    if (m_lists.mapSame(true))
-        showChangedMappings();
+    m_lists.mapSame();
+    showChangedMappings();
 }
 
 void VnQtUiLaytransCmd::sendClicked(const QString& layer, bool inTable)
@@ -211,8 +242,8 @@ void VnQtUiLaytransCmd::sendClicked(const QString& layer, bool inTable)
     send(kTranslatorClicked, [&](IElementValueBase& tree) {
         tree.SetDataB(transkey::kClickedInTable, inTable);
         tree.SetDataSW(transkey::kClickedName, od(layer));
-        tree.SetDataJ(transkey::kMappings, m_lists.mappings());
-        tree.SetDataJ(transkey::kSources, m_lists.sources());
+        tree.SetDataJ(transkey::kMappings, m_lists.mappingArray());
+        tree.SetDataJ(transkey::kSources, m_lists.sourceArray());
     });
 }
 
@@ -242,14 +273,14 @@ void VnQtUiLaytransCmd::onListWidgeToDoubleClicked(QListWidgetItem*)
 void VnQtUiLaytransCmd::slot_m_pbMapListEdit()
 {
     const int row = m_table->selectedRow();
-    const VnJsonPtr mapping = m_lists.mappings()(row);
-    if (!mapping)
+    if (row < 0)
         return;
-    const VnJsonPtr target = mapping->GetDataJ(transkey::kTo);
+    TargetRecord target = m_lists.mappings().at(static_cast<std::size_t>(row)).target;
     const VnJsonPtr edited = askForLayer(true, target);
     if (!edited)
         return;
-    TargetRecord(target).takeEdited(edited);
+    target.takeResult(*edited);
+    target.setUsed(true);
     fillTable();
     m_table->selectRow(row);
     setSaved(false);
@@ -266,16 +297,18 @@ void VnQtUiLaytransCmd::slot_m_pbMapListDelete()
 
 void VnQtUiLaytransCmd::slot_m_pbMapListSave()
 {
-    const VnJsonPtr answer = askForFile(L"保存图层映射", kSaveFilters, kStandardFilter, false,
+    const VnJsonPtr chosen = askForFile(L"保存图层映射", kSaveFilters, kStandardFilter, false,
         m_drawingName + QStringLiteral(".dws"));
-    if (!answer)
+    if (!chosen)
         return;
     const auto arguments = [&](IElementValueBase& tree) {
-        tree.SetDataJ(transkey::kSaveAnswer, answer);
-        tree.SetDataJ(transkey::kSaveMappings, m_lists.mappings());
+        tree.SetDataJ(transkey::kSaveAnswer, chosen);
+        tree.SetDataJ(transkey::kSaveMappings, m_lists.mappingArray());
     };
-    setSaved(send(kTranslatorSave, arguments, {transkey::kSaveOutcome}) &&
-             data()->GetDataI(transkey::kSaveOutcome) == 1);
+    const VnJsonPtr answer = send(kTranslatorSave, arguments, {transkey::kSaveOutcome});
+    setSaved(answer && answer->GetDataI(transkey::kSaveOutcome) == 1);
+    if (answer) // The dialog's own outcome goes by the same key.
+        answer->set(transkey::kSaveOutcome, false);
 }
 
 void VnQtUiLaytransCmd::slot_MapListItemClicked()
@@ -291,24 +324,21 @@ void VnQtUiLaytransCmd::slot_MapListDoubleClicked(QTableWidgetItem*)
 
 void VnQtUiLaytransCmd::slot_LtransBtnSettingClicked()
 {
-    const QStringList selected = m_fromList->selectedNames();
+    QStringList selected;
+    for (const int row : m_fromList->selectedRows())
+        selected.append(m_lists.sources().at(static_cast<std::size_t>(row)).name);
     const auto arguments = [&](IElementValueBase& tree) {
         tree.RemoveKey(transkey::kSelectedName);
         tree.RemoveKey(transkey::kSelectedNames);
         if (selected.size() == 1)
             tree.SetDataSW(transkey::kSelectedName, od(selected.first()));
-        if (selected.size() > 1) {
-            const VnJsonPtr names = ElementValue::createArray(selected.size());
-            for (const QString& name : selected)
-                names->AppendSW(od(name));
-            tree.SetDataJ(transkey::kSelectedNames, names);
-        }
+        if (selected.size() > 1)
+            tree.SetDataJ(transkey::kSelectedNames, textArray(selected));
         tree.SetDataJ(transkey::kSettingsAsked, ElementValue::clone(m_settings));
     };
-    if (!send(kTranslatorSettings, arguments, {transkey::kSettingsAnswered}))
-        return;
-    const VnJsonPtr settings = data()->GetDataJ(transkey::kSettingsAnswered);
-    if (!settings)
+    const VnJsonPtr answer = send(kTranslatorSettings, arguments, {transkey::kSettingsAnswered});
+    const VnJsonPtr settings = answer ? answer->GetDataJ(transkey::kSettingsAnswered) : VnJsonPtr();
+    if (settings.ArrayCount() != kTranslatorOptionCount)
         return;
     m_settings = ElementValue::clone(settings);
     if (m_config)
@@ -319,14 +349,14 @@ void VnQtUiLaytransCmd::slot_LtransBtnOkClicked()
 {
     const int rows = m_table->rowCount();
     const auto arguments = [&](IElementValueBase& tree) {
-        tree.SetDataJ(transkey::kSources, m_lists.sources());
-        tree.SetDataJ(transkey::kMappings, rows > 0 ? m_lists.mappings() : VnJsonPtr());
+        tree.SetDataJ(transkey::kSources, m_lists.sourceArray());
+        tree.SetDataJ(transkey::kMappings, rows > 0 ? m_lists.mappingArray() : VnJsonPtr());
         tree.SetDataI(transkey::kMappingCount, rows);
         tree.SetDataB(transkey::kIsSaved, m_isSaved);
         tree.SetDataJ(transkey::kSettingsToUse, ElementValue::clone(m_settings));
     };
-    if (send(kTranslatorTranslate, arguments, {transkey::kCloses}) &&
-        data()->GetDataB(transkey::kCloses))
+    const VnJsonPtr answer = send(kTranslatorTranslate, arguments, {transkey::kCloses});
+    if (answer && answer->GetDataB(transkey::kCloses))
         endDialog(1);
 }
 
@@ -353,12 +383,14 @@ void VnQtUiLaytransCmd::slot_FromListMenuActionAllNoSelect()
 
 void VnQtUiLaytransCmd::slot_FromListMenuActionCleanlayer()
 {
-    if (!send(kTranslatorPurge, {}, {transkey::kTheme}))
+    const VnJsonPtr answer = send(kTranslatorPurge, {}, {transkey::kTheme});
+    const VnJsonPtr layers = answer ? answer->GetDataJ(transkey::kTheme) : VnJsonPtr();
+    if (!isList(layers))
         return;
-    if (const VnJsonPtr layers = data()->GetDataJ(transkey::kTheme)) {
-        m_lists.setSources(layers);
+    if (m_lists.setSources(layers))
+        showChangedMappings();
+    else
         fillFrom();
-    }
 }
 
 void VnQtUiLaytransCmd::slot_ToListMenuActionload()

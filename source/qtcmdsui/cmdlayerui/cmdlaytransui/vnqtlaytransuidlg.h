@@ -86,14 +86,18 @@ private:
     void showChangedMappings();
     void setSaved(bool isSaved);
 
-    bool send(int code, const VnQtArgumentWriter& writeArguments = {},
+    /// Asks the command; the node that has its answers, which is empty when it could not answer.
+    VnJsonPtr send(int code, const VnQtArgumentWriter& writeArguments = {},
         std::vector<const char*> answers = {});
+    /// Replaces the targets by those the command answered, if it did.
+    void takeTargets(const VnJsonPtr& answer);
     void sendClicked(const QString& layer, bool inTable);
     /// The layer as the user defines it, from `initial` on; empty when cancelled.
-    VnJsonPtr askForLayer(bool isEdit, const VnJsonPtr& initial);
+    VnJsonPtr askForLayer(bool isEdit, const TargetRecord& initial);
     VnJsonPtr askForFile(const wchar_t* caption, const wchar_t* filter, const wchar_t* firstFilter,
         bool open, const QString& place);
-    VnJsonPtr currentTarget() const;
+    /// Without a node when none is.
+    TargetRecord currentTarget() const;
 
     VnQtLaytransListWgt* m_fromList = nullptr;
     VnQtLaytransListWgt* m_toList = nullptr;
@@ -115,7 +119,7 @@ private:
 
     LayerCells m_cells;
     TranslationLists m_lists;
-    VnJsonPtr m_loadedFiles; ///< Those of the last load.
+    QStringList m_loadedFiles; ///< Those of the last load.
     VnJsonPtr m_config;
     VnJsonPtr m_settings;
     QString m_drawingName;
