@@ -9,36 +9,26 @@
 
 namespace vnsi {
 
-/// Chooses a colour: the named index colours with swatches, ByLayer and ByBlock where allowed, and
-/// an entry that opens the host's colour dialog.
+/// Chooses a colour: ByLayer, ByBlock, the named index colours with swatches, and an entry that
+/// opens the host's colour dialog. The dialog allows ByLayer and ByBlock as long as the list has
+/// them.
 class VNSI_EXPORT VnColorComboBox : public QComboBox
 {
     Q_OBJECT
 
 public:
     explicit VnColorComboBox(QWidget* parent = nullptr);
-    /// Whether ByLayer and ByBlock are offered; they are at first.
-    void setLogicalColorsEnabled(bool enabled);
-    OdCmColor color() const;
-    /// Shows `color`; one that the list lacks is added to it.
-    void setColor(const OdCmColor& color);
-
-    /// As `color`.
-    OdCmColor GetCurrentColorEx() const { return color(); }
+    /// The colour that is shown.
+    OdCmColor GetCurrentColorEx() const { return m_color; }
     /// The row that shows `color`; -1 where none does.
     int FindColor(const OdCmColor& color) const;
     /// Adds a row for `color` and returns it; the row that is there already where one is.
     int AppendColorItem(const OdCmColor& color);
 
-signals:
-    void colorChanged();
-
 private:
-    void rebuild();
     void handleActivated(int index);
     void handleCurrentChanged(int index);
 
-    bool m_logicalColors = true;
     OdCmColor m_color;
 };
 
@@ -49,12 +39,8 @@ class VNSI_EXPORT VnLineTypeComboBox : public QComboBox
 
 public:
     explicit VnLineTypeComboBox(QWidget* parent = nullptr);
-    OdString lineType() const;
-    /// Shows `name`; one that the list lacks is added to it.
-    void setLineType(const OdString& name);
-
-    /// As `lineType`.
-    OdString getCurrentLineTypeString() const { return lineType(); }
+    /// The name of the linetype that is shown.
+    OdString getCurrentLineTypeString() const;
     /// The linetype's record in the drawing; null for one that the drawing lacks.
     OdDbObjectId getCurrentLineType() const;
 };
@@ -67,12 +53,7 @@ class VNSI_EXPORT VnLineWidthComboBox : public QComboBox
 public:
     explicit VnLineWidthComboBox(QWidget* parent = nullptr);
     /// Hundredths of a millimetre, or -1 ByLayer, -2 ByBlock, -3 default.
-    int lineWidth() const;
-    /// Shows the weight; one that does not exist shows as the default.
-    void setLineWidth(int weight);
-
-    /// As `lineWidth`.
-    int GetCurrentLineWeight() const { return lineWidth(); }
+    int GetCurrentLineWeight() const;
 };
 
 } // namespace vnsi

@@ -53,33 +53,15 @@ void insertRow(QComboBox& box, int row, const OdCmColor& color)
 
 VnColorComboBox::VnColorComboBox(QWidget* parent) : QComboBox(parent), m_color(indexColor(kByLayer))
 {
-    rebuild();
+    for (const int index : {kByLayer, kByBlock})
+        insertRow(*this, count(), indexColor(index));
+    for (int index = 1; index <= kNamedColors; ++index)
+        insertRow(*this, count(), indexColor(index));
+    addItem(tr("选择颜色..."), kMoreColors);
     connect(
         this, QOverload<int>::of(&QComboBox::activated), this, &VnColorComboBox::handleActivated);
     connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         &VnColorComboBox::handleCurrentChanged);
-}
-
-void VnColorComboBox::setLogicalColorsEnabled(bool enabled)
-{
-    if (m_logicalColors == enabled)
-        return;
-    m_logicalColors = enabled;
-    const bool isLogical = m_color.colorMethod() == OdCmEntityColor::kByLayer ||
-                           m_color.colorMethod() == OdCmEntityColor::kByBlock;
-    if (!enabled && isLogical)
-        m_color = indexColor(kNamedColors);
-    rebuild();
-}
-
-OdCmColor VnColorComboBox::color() const
-{
-    return m_color;
-}
-
-void VnColorComboBox::setColor(const OdCmColor& color)
-{
-    setCurrentIndex(AppendColorItem(color));
 }
 
 int VnColorComboBox::FindColor(const OdCmColor& color) const
@@ -97,20 +79,6 @@ int VnColorComboBox::AppendColorItem(const OdCmColor& color)
     return row;
 }
 
-void VnColorComboBox::rebuild()
-{
-    const QSignalBlocker blocker(this);
-    clear();
-    if (m_logicalColors) {
-        insertRow(*this, count(), indexColor(kByLayer));
-        insertRow(*this, count(), indexColor(kByBlock));
-    }
-    for (int index = 1; index <= kNamedColors; ++index)
-        insertRow(*this, count(), indexColor(index));
-    addItem(tr("选择颜色..."), kMoreColors);
-    setCurrentIndex(AppendColorItem(m_color));
-}
-
 void VnColorComboBox::handleActivated(int index)
 {
     if (itemData(index).toLongLong() != kMoreColors)
@@ -119,13 +87,14 @@ void VnColorComboBox::handleActivated(int index)
     const bool isTrue = m_color.colorMethod() == OdCmEntityColor::kByColor;
     keys->SetDataL("selectClr", isTrue ? packedRgb(m_color) : m_color.colorIndex());
     keys->SetDataI("clrMethod", m_color.colorMethod());
-    keys->SetDataI("isByLayerEnable", m_logicalColors ? 1 : 0);
-    keys->SetDataI("isByBLockEnable", m_logicalColors ? 1 : 0);
+    keys->SetDataI("isByLayerEnable", FindColor(indexColor(kByLayer)) >= 0 ? 1 : 0);
+    keys->SetDataI("isByBLockEnable", FindColor(indexColor(kByBlock)) >= 0 ? 1 : 0);
     const VnJsonPtr answer =
         vnuiShowModelDialogEx(L"Dialog/Common", L"ColorDialog", keys, {}, window());
     const bool isChosen = answer->GetDataI("result") == 1;
-    setColor(isChosen ? colorFrom(answer->GetDataL("clrMethod"), answer->GetDataL("selectClr"))
-                      : m_color);
+    setCurrentIndex(AppendColorItem(
+        isChosen ? colorFrom(answer->GetDataL("clrMethod"), answer->GetDataL("selectClr"))
+                 : m_color));
 }
 
 void VnColorComboBox::handleCurrentChanged(int index)
@@ -134,7 +103,6 @@ void VnColorComboBox::handleCurrentChanged(int index)
     if (row == kMoreColors || row == rowData(m_color))
         return;
     m_color = colorFrom(row >> kMethodShift, static_cast<OdInt32>(row & 0xFFFFFFFF));
-    emit colorChanged();
 }
 
 } // namespace vnsi

@@ -11,20 +11,9 @@ VnLineTypeComboBox::VnLineTypeComboBox(QWidget* parent) : QComboBox(parent)
         addItem(vnutOdStringToQString(type.name), static_cast<qulonglong>(type.id.getHandle()));
 }
 
-OdString VnLineTypeComboBox::lineType() const
+OdString VnLineTypeComboBox::getCurrentLineTypeString() const
 {
     return vnutQStringToOdString(currentText());
-}
-
-void VnLineTypeComboBox::setLineType(const OdString& name)
-{
-    const QString text = vnutOdStringToQString(name);
-    int row = findText(text, Qt::MatchFixedString);
-    if (row < 0) {
-        row = count();
-        addItem(text);
-    }
-    setCurrentIndex(row);
 }
 
 OdDbObjectId VnLineTypeComboBox::getCurrentLineType() const

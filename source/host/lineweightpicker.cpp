@@ -47,15 +47,9 @@ VnLineWidthComboBox::VnLineWidthComboBox(QWidget* parent) : QComboBox(parent)
         addItem(weightIcon(weight, palette().color(QPalette::Text)), weightText(weight), weight);
 }
 
-int VnLineWidthComboBox::lineWidth() const
+int VnLineWidthComboBox::GetCurrentLineWeight() const
 {
     return currentIndex() < 0 ? kDefaultWeight : currentData().toInt();
-}
-
-void VnLineWidthComboBox::setLineWidth(int weight)
-{
-    const int row = findData(weight);
-    setCurrentIndex(row >= 0 ? row : findData(kDefaultWeight));
 }
 
 } // namespace vnsi
