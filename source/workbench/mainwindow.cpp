@@ -18,6 +18,7 @@
 #include <QSettings>
 #include <QToolBar>
 
+#include <set>
 #include <utility>
 
 namespace {
@@ -295,11 +296,12 @@ void MainWindow::runLayerCommand(const CommandRow& row)
     updateState();
 }
 
-void MainWindow::showOnly(drawing::LayerId id)
+void MainWindow::showOnly(const std::vector<drawing::LayerId>& ids)
 {
+    const std::set<drawing::LayerId> shown(ids.begin(), ids.end());
     std::vector<drawing::Layer> layers = drawing()->layers();
     for (drawing::Layer& layer : layers) {
-        layer.properties.off = layer.id != id;
+        layer.properties.off = shown.count(layer.id) == 0;
         layer.properties.frozen = false;
     }
     m_showsOnly = true;
@@ -332,7 +334,7 @@ CommandContext MainWindow::commandContext()
     return {*drawing(), this, [this](const QString& text) { m_commandLine->say(text); }, refresh,
         m_canvas->selection(),
         [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); }, pick,
-        [this](drawing::LayerId layer) { showOnly(layer); }};
+        [this](const std::vector<drawing::LayerId>& layers) { showOnly(layers); }};
 }
 
 void MainWindow::pose(const LayerCommand::Camera& camera)

@@ -67,7 +67,7 @@ private:
     void showSpace(int layout);
     int shownSpace() const;
     void showLayers();
-    void showOnly(drawing::LayerId id);
+    void showOnly(const std::vector<drawing::LayerId>& ids);
     void endShowingOnly(const std::vector<int>& selection);
     void rebuildGeometry();
     void updateState();

@@ -10,7 +10,7 @@ class QWidget;
 namespace drawing {
 class Drawing;
 enum class LayerId : int;
-}
+} // namespace drawing
 
 /// What a layer command works on and talks through.
 struct CommandContext
@@ -25,9 +25,9 @@ struct CommandContext
     /// Lets the user pick entities on the canvas; none when the user gives up. No dialog may be in
     /// the way meanwhile.
     std::function<std::vector<int>()> pick = {};
-    /// Shows what is on one layer alone, whatever the layers say, until `refresh` or the command's
-    /// end. The drawing does not change.
-    std::function<void(drawing::LayerId)> showOnly = {};
+    /// Shows what is on these layers alone, whatever the layers say, until `refresh` or the
+    /// command's end. The drawing does not change.
+    std::function<void(const std::vector<drawing::LayerId>&)> showOnly = {};
 };
 
 /// One of the layer commands. A new object for every run.

@@ -2,20 +2,24 @@
 
 #include "drawing.h"
 #include "layermarks.h"
+#include "namerule.h"
 #include "standardsfile.h"
+#include "targetrecord.h"
 #include "translationlog.h"
-#include "translatorkeys.h"
 #include "vndialogs.h"
 #include "vnsettings.h"
-#include "vnstrings.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
 
 using drawing::LayerMapping;
 using drawing::TargetLayer;
 using vnsi::ElementValue;
+using vnsi::TargetRecord;
 using vnsi::VnJsonPtr;
 
 namespace {
@@ -26,6 +30,8 @@ constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaytrans";
 constexpr wchar_t kSettingsDialog[] = L"Dialog/CmdLaytransSetting";
 constexpr int kMostProblemsShown = 10;
+/// Endings of a format that is not written here: programs would take the file for damaged.
+constexpr const char* kOtherFormats[] = {"dwg", "dws", "dwt"};
 
 QString tr(const char* text)
 {
@@ -42,11 +48,6 @@ QString shown(const QString& path)
     return QDir::toNativeSeparators(path);
 }
 
-QString nameKey(const QString& name)
-{
-    return name.toCaseFolded();
-}
-
 /// The drawing's path without its ending, as which a standards file is proposed.
 OdString proposedName(const drawing::Drawing& drawing)
 {
@@ -58,6 +59,16 @@ VnJsonPtr keptSettings()
 {
     const VnJsonPtr config = vnsi::vn_user_config(kConfigSection);
     return config ? config->GetDataJ(kConfigSettings) : VnJsonPtr();
+}
+
+/// The layers that are selected in the translator: one under a key of its own, or several.
+QStringList selectedNames(const VnJsonPtr& tree)
+{
+    const VnJsonPtr several = tree->GetDataJ(kSelectedNames);
+    QStringList names{text(tree, kSelectedName)};
+    for (int i = 0, count = several.ArrayCount(); i < count; ++i)
+        names.append(vnsi::vnutOdStringToQString(several(i)->asSW()));
+    return names;
 }
 
 } // namespace
@@ -117,6 +128,25 @@ void LayerTranslateCommand::tellProblems(const QString& title)
     layermarks::warn(message);
 }
 
+bool LayerTranslateCommand::maySave(const QString& path) const
+{
+    const QFileInfo file(path);
+    const QString ending = file.suffix();
+    const bool isOtherFormat = std::any_of(std::begin(kOtherFormats), std::end(kOtherFormats),
+        [&](const char* format) { return ending.compare(format, Qt::CaseInsensitive) == 0; });
+    if (isOtherFormat) {
+        layermarks::warn(tr("没有写入文件“%1”：图层映射以 DXF 格式保存，文件名不能以 .%2 结尾。"
+                            "请保存为“%3.dxf”。")
+                             .arg(shown(path), ending, file.completeBaseName()));
+        return false;
+    }
+    if (file == QFileInfo(drawing().path())) {
+        layermarks::warn(tr("“%1”是正在转换的图形，图层映射要保存到另一个文件。").arg(shown(path)));
+        return false;
+    }
+    return true;
+}
+
 void LayerTranslateCommand::save(const VnJsonPtr& tree)
 {
     const VnJsonPtr answer = tree->GetDataJ(kSaveAnswer);
@@ -128,10 +158,8 @@ void LayerTranslateCommand::save(const VnJsonPtr& tree)
         layermarks::warn(tr("还没有图层映射，没有写入文件“%1”。").arg(shown(path)));
         return;
     }
-    if (QFileInfo(path) == QFileInfo(drawing().path())) {
-        layermarks::warn(tr("“%1”是正在转换的图形，图层映射要保存到另一个文件。").arg(shown(path)));
+    if (!maySave(path))
         return;
-    }
     const auto saved = drawing::saveStandard(path, mappings);
     if (!saved) {
         layermarks::warn(saved.error().text);
@@ -163,17 +191,11 @@ void LayerTranslateCommand::load(const VnJsonPtr& tree)
 
 void LayerTranslateCommand::loadFile(const QString& path, const VnJsonPtr& mappings)
 {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    if (!canonical.isEmpty() && m_loadedFiles.contains(canonical)) {
-        say(tr("文件“%1”已经加载过。").arg(shown(path)));
-        return;
-    }
     const auto standard = drawing::readStandard(path);
     if (!standard) {
         m_problems += standard.error().text;
         return;
     }
-    m_loadedFiles.insert(canonical);
     addTargets(standard->layers, path);
     for (const LayerMapping& mapping : standard->mappings)
         mappings->Append(m_records.mapping(mapping));
@@ -185,15 +207,15 @@ void LayerTranslateCommand::addTargets(const std::vector<TargetLayer>& targets, 
 {
     QSet<QString> known;
     for (int i = 0, count = m_targets.ArrayCount(); i < count; ++i)
-        known.insert(nameKey(text(m_targets(i), kToName)));
+        known.insert(vnsi::foldedName(TargetRecord(m_targets(i)).name()));
     int skipped = 0;
     for (const TargetLayer& target : targets) {
-        if (known.contains(nameKey(target.name))) {
+        if (known.contains(vnsi::foldedName(target.name))) {
             ++skipped;
             continue;
         }
-        known.insert(nameKey(target.name));
-        m_targets->Append(m_records.target(target, false));
+        known.insert(vnsi::foldedName(target.name));
+        m_targets->Append(m_records.target(target));
     }
     if (skipped > 0)
         say(tr("文件“%1”：%2 个图层与列表中的图层同名，保留列表中的。")
@@ -239,10 +261,10 @@ void LayerTranslateCommand::addTarget(const VnJsonPtr& tree)
     const VnJsonPtr result = tree->GetDataJ(kNewTarget);
     if (!result)
         return;
-    const VnJsonPtr record = ElementValue::createObject(12);
-    copyResultToTarget(*result, *record);
-    record->SetDataB(kToUsed, false);
-    m_targets->Append(record);
+    TargetRecord target(ElementValue::createObject(12));
+    target.takeResult(*result);
+    target.setUsed(false);
+    m_targets->Append(target.node());
     tree->SetDataJ(kLoadedTargets, m_targets);
 }
 
@@ -260,7 +282,9 @@ void LayerTranslateCommand::showSettings(const VnJsonPtr& tree)
         return;
     tree->SetDataJ(kSettingsAnswered, chosen);
     m_showsSelection = TranslationRecords::options(chosen).showSelection;
-    if (!m_showsSelection)
+    if (m_showsSelection)
+        showAlone(selectedNames(tree));
+    else
         m_context->refresh();
 }
 
@@ -316,7 +340,16 @@ void LayerTranslateCommand::report(const drawing::TranslationReport& report)
 
 void LayerTranslateCommand::showClicked(const VnJsonPtr& tree)
 {
-    const drawing::Layer* layer = drawing().findLayer(text(tree, kClickedName));
-    if (m_showsSelection && layer)
-        m_context->showOnly(layer->id);
+    showAlone({text(tree, kClickedName)});
+}
+
+void LayerTranslateCommand::showAlone(const QStringList& layers) const
+{
+    std::vector<drawing::LayerId> ids;
+    for (const QString& name : layers) {
+        if (const drawing::Layer* layer = drawing().findLayer(name))
+            ids.push_back(layer->id);
+    }
+    if (m_showsSelection && !ids.empty())
+        m_context->showOnly(ids);
 }

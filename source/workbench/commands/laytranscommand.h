@@ -3,7 +3,6 @@
 #include "command.h"
 #include "translationrecords.h"
 
-#include <QSet>
 #include <QStringList>
 
 /// LAYTRANS: shows the layer translator and answers what it asks. What the translation and a purge
@@ -33,6 +32,10 @@ private:
     void loadFile(const QString& path, const vnsi::VnJsonPtr& mappings);
     void addTargets(const std::vector<drawing::TargetLayer>& targets, const QString& path);
     void sayLoaded(const vnsi::VnJsonPtr& mappings) const;
+    /// Whether mappings may be saved under this name; tells the user why not.
+    bool maySave(const QString& path) const;
+    /// Shows those layers alone if the user wants that; names of none change nothing.
+    void showAlone(const QStringList& layers) const;
     void report(const drawing::TranslationReport& report);
     void writeLog(
         const drawing::TranslationReport& report, const drawing::TranslationOptions& options);
@@ -43,7 +46,6 @@ private:
     CommandContext* m_context = nullptr;
     TranslationRecords m_records;
     vnsi::VnJsonPtr m_targets;     ///< The to-list as it was answered last.
-    QSet<QString> m_loadedFiles;   ///< By canonical path.
-    bool m_showsSelection = false; ///< The option that shows the clicked layer alone.
+    bool m_showsSelection = false; ///< The option that shows chosen layers alone.
     QStringList m_problems;
 };
