@@ -1,5 +1,5 @@
 #include "RxObjectImpl.h"
-#include "hostfrontend.h"
+#include "commands/posing.h"
 #include "rows.h"
 #include "serveddialog.h"
 #include "stopwatch.h"
@@ -28,28 +28,6 @@ VnJsonPtr makeRecords(int count, const char* nameKey, const wchar_t* prefix, int
     }
     return records;
 }
-
-/// Chooses a file to load, whichever.
-class FileChooser : public host::HostFrontEnd
-{
-public:
-    FileChooser() : m_previous(host::setHostFrontEnd(this)) {}
-    ~FileChooser() override { host::setHostFrontEnd(m_previous); }
-    FileChooser(const FileChooser&) = delete;
-    FileChooser& operator=(const FileChooser&) = delete;
-
-    int showDialog(const OdString&, const OdString&, const VnJsonPtr& tree, const OdRxObjectPtr&,
-        QWidget*) override
-    {
-        const VnJsonPtr paths = ElementValue::createArray(1);
-        paths->AppendSW(L"standard.dws");
-        tree->SetDataJ("filePaths", paths);
-        return 1;
-    }
-
-private:
-    host::HostFrontEnd* m_previous;
-};
 
 /// Answers the request to load with so many targets.
 class TargetLoader : public VnUiDialogInvoker
@@ -83,7 +61,7 @@ struct Translator
     {
         if (!dialog.isMade())
             return;
-        const FileChooser chooser;
+        const posing::FileChooser chooser;
         dialog.find<QPushButton>("loadButton")->click();
         mapSame = dialog.find<QPushButton>("mapSameButton");
     }

@@ -1,7 +1,6 @@
 #include "laytranscommand.h"
 
 #include "drawing.h"
-#include "hostfrontend.h"
 #include "layermarks.h"
 #include "posing.h"
 #include "translatorkeys.h"
@@ -60,28 +59,6 @@ std::vector<TargetLayer> sampleTargets()
     return targets;
 }
 
-/// Chooses a file where the user would.
-class FileChooser : public host::HostFrontEnd
-{
-public:
-    FileChooser() : m_previous(host::setHostFrontEnd(this)) {}
-    ~FileChooser() override { host::setHostFrontEnd(m_previous); }
-    FileChooser(const FileChooser&) = delete;
-    FileChooser& operator=(const FileChooser&) = delete;
-
-    int showDialog(const OdString&, const OdString&, const VnJsonPtr& tree, const OdRxObjectPtr&,
-        QWidget*) override
-    {
-        const VnJsonPtr paths = ElementValue::createArray(1);
-        paths->AppendSW(L"standard.dws");
-        tree->SetDataJ("filePaths", paths);
-        return 1;
-    }
-
-private:
-    host::HostFrontEnd* m_previous;
-};
-
 } // namespace
 
 /// Targets for the to-list, and mappings of the first layers that can have one.
@@ -90,7 +67,7 @@ void LayerTranslateCommand::answerWithSamples(const VnJsonPtr& tree)
     const std::vector<TargetLayer> targets = sampleTargets();
     const VnJsonPtr list = ElementValue::createArray();
     for (const TargetLayer& target : targets)
-        list->Append(m_records.target(target, false));
+        list->Append(m_records.target(target));
     const VnJsonPtr mappings = ElementValue::createArray();
     for (const drawing::Layer& layer : drawing().layers()) {
         const int count = mappings.ArrayCount();
@@ -110,7 +87,7 @@ void LayerTranslateCommand::pose(CommandContext& context, const Camera& camera)
     m_records.offerLinetypes(drawing());
     const auto fillAndPicture = [&camera](QWidget& window) {
         {
-            const FileChooser chooser;
+            const posing::FileChooser chooser;
             QMetaObject::invokeMethod(&window, "slot_m_pbLoadClicked");
         }
         QCoreApplication::processEvents();
@@ -122,7 +99,7 @@ void LayerTranslateCommand::pose(CommandContext& context, const Camera& camera)
 
     const VnJsonPtr layer = ElementValue::createObject(4);
     layer->SetDataB(kIsEdit, true);
-    layer->SetDataJ(kInitRecord, m_records.target(sampleTargets()[3], false));
+    layer->SetDataJ(kInitRecord, m_records.target(sampleTargets()[3]));
     posing::showDialog(kService, L"Dialog/CmdLaytransNewEdit", layer, camera,
         QStringLiteral("layer-translator-layer"));
 

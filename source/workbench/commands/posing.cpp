@@ -47,4 +47,13 @@ void showNested(QWidget& window, const char* method, int row, int column,
     QMetaObject::invokeMethod(&window, method, Q_ARG(int, row), Q_ARG(int, column));
 }
 
+int FileChooser::showDialog(
+    const OdString&, const OdString&, const vnsi::VnJsonPtr& tree, const OdRxObjectPtr&, QWidget*)
+{
+    const vnsi::VnJsonPtr paths = vnsi::ElementValue::createArray(1);
+    paths->AppendSW(L"standard.dxf");
+    tree->SetDataJ("filePaths", paths);
+    return 1;
+}
+
 } // namespace posing

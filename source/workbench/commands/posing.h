@@ -1,7 +1,7 @@
 #pragma once
 
 #include "command.h"
-#include "vnjson.h"
+#include "hostfrontend.h"
 
 /// Shows dialogs to a camera without waiting for a user.
 namespace posing {
@@ -17,5 +17,22 @@ void showDialog(const OdString& service, const OdString& dialog, const vnsi::VnJ
 /// cancels that.
 void showNested(QWidget& window, const char* method, int row, int column,
     const LayerCommand::Camera& camera, const QString& name);
+
+/// While it lives, answers every dialog that the host is asked for in the user's place: with OK and
+/// a file to open, whichever.
+class FileChooser : public host::HostFrontEnd
+{
+public:
+    FileChooser() : m_previous(host::setHostFrontEnd(this)) {}
+    ~FileChooser() override { host::setHostFrontEnd(m_previous); }
+    FileChooser(const FileChooser&) = delete;
+    FileChooser& operator=(const FileChooser&) = delete;
+
+    int showDialog(const OdString& service, const OdString& name, const vnsi::VnJsonPtr& tree,
+        const OdRxObjectPtr& invoker, QWidget* parent) override;
+
+private:
+    host::HostFrontEnd* m_previous;
+};
 
 } // namespace posing
