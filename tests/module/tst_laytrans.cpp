@@ -1,18 +1,16 @@
-#include "modulefixture.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
+#include "rows.h"
 #include "translatorkeys.h"
 #include "trees.h"
+#include "useracts.h"
 #include "vnsettings.h"
-#include "vnstrings.h"
 
-#include <QJsonArray>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
-#include <QPushButton>
 #include <QTableWidget>
-#include <QtTest>
+
+#include <stdexcept>
 
 using namespace vnsi;
 
@@ -21,6 +19,7 @@ namespace {
 const QString kTree = QStringLiteral(R"({"LaytransDwgName":"plan","LaytransTheme":[
     {"LayerNameT":"Wall","bUsedT":true},{"LayerNameT":"door"},{"LayerNameT":"窗"},
     {"LayerNameT":"Straße"}]})");
+const QStringList kLayers{"Wall", "door", "窗", "Straße"};
 
 const QString kTargets = QStringLiteral(R"([
     {"transToName":"WALL","transToColor":{"clrMethod":195,"selectClr":7},"transTosLineType":"Dashed",
@@ -35,6 +34,14 @@ constexpr char kEdited[] = R"({"ltransResultNewEditLayer":{"ltransResultNewLayNa
     "ltransResultNewLineWidthName":"0.50 mm","ltransResultNewLineWidth":50,
     "ltransResultNewTparency":90,"ltransResultNewPlotstyle":"ByBlock"}})";
 
+/// A layer "from" that files map onto "to".
+QString mapping(const QString& from, const QString& to)
+{
+    return QStringLiteral(
+        R"({"Ltransmapfrom":{"LayerNameT":"%1"},"Ltransmapto":{"transToName":"%2"}})")
+        .arg(from, to);
+}
+
 } // namespace
 
 class TestLaytrans : public QObject
@@ -48,8 +55,10 @@ private slots:
     void shown();
     void mapped();
     void mapsSame();
+    void tellsTwinsApart();
     void selectsByName_data();
     void selectsByName();
+    void loadsMappings_data();
     void loadsMappings();
     void givesBack();
     void edited();
@@ -57,6 +66,8 @@ private slots:
     void requests_data();
     void requests();
     void clicks();
+    void keepsItsLists_data();
+    void keepsItsLists();
     void settingsKept();
     void translated_data();
     void translated();
@@ -74,13 +85,20 @@ private:
         return *ModuleFixture::child<T>(m_dialog, name);
     }
     void press(const char* button) const { find(button).click(); }
-    void choose(const char* menuOwner, const QString& text) const;
-    void select(const QStringList& names) const;
-    QStringList from() const { return texts(find<QListWidget>("fromList")); }
-    QStringList to() const { return texts(find<QListWidget>("toList")); }
-    QStringList rows() const;
-    QStringList selected() const;
-    static QStringList texts(const QListWidget& list);
+    void choose(const char* menuOwner, const QString& text) const
+    {
+        chooseEntry(find<QWidget>(menuOwner), text);
+    }
+    /// Presses a button, or with `entry` chooses that from the widget's menu.
+    void act(const QString& widget, const QString& entry) const;
+    void select(const QStringList& names) const
+    {
+        selectTexts(find<QListWidget>("fromList"), names);
+    }
+    QStringList from() const { return textsOf(find<QListWidget>("fromList")); }
+    QStringList to() const { return textsOf(find<QListWidget>("toList")); }
+    QStringList rows() const { return rowTexts(find<QTableWidget>("mapTable")); }
+    QStringList selected() const { return selectedTexts(find<QListWidget>("fromList")); }
     void map(const QStringList& names, int target) const
     {
         select(names);
@@ -121,7 +139,7 @@ void TestLaytrans::load(const QString& mappings)
     m_invoker->setAnswer([&](const VnJsonPtr& root) {
         merge(root, R"({"ltransToloadList":)" + kTargets + "}");
         if (!mappings.isEmpty())
-            merge(root, R"({"ltransMaploadList":)" + mappings + "}");
+            merge(root, R"({"ltransMaploadList":[)" + mappings + "]}");
     });
     m_host->answer(1, kFiles);
     press("loadButton");
@@ -129,57 +147,18 @@ void TestLaytrans::load(const QString& mappings)
     m_host->takeLog();
 }
 
-QStringList TestLaytrans::texts(const QListWidget& list)
+void TestLaytrans::act(const QString& widget, const QString& entry) const
 {
-    QStringList all;
-    for (int row = 0; row < list.count(); ++row)
-        all.append(list.item(row)->text());
-    return all;
-}
-
-QStringList TestLaytrans::rows() const
-{
-    const auto& table = find<QTableWidget>("mapTable");
-    QStringList all;
-    for (int row = 0; row < table.rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < table.columnCount(); ++column)
-            cells.append(table.item(row, column)->text());
-        all.append(cells.join('|'));
-    }
-    return all;
-}
-
-void TestLaytrans::select(const QStringList& names) const
-{
-    auto& list = find<QListWidget>("fromList");
-    list.clearSelection();
-    for (const QString& name : names)
-        list.findItems(name, Qt::MatchExactly).first()->setSelected(true);
-}
-
-QStringList TestLaytrans::selected() const
-{
-    QStringList names;
-    for (const QListWidgetItem* item : find<QListWidget>("fromList").selectedItems())
-        names.append(item->text());
-    names.sort();
-    return names;
-}
-
-void TestLaytrans::choose(const char* menuOwner, const QString& text) const
-{
-    for (QAction* action : find<QWidget>(menuOwner).findChild<QMenu*>()->actions()) {
-        if (action->text() == text)
-            return action->trigger();
-    }
-    QFAIL(qPrintable("no action " + text));
+    if (entry.isEmpty())
+        press(widget.toUtf8().constData());
+    else
+        choose(widget.toUtf8().constData(), entry);
 }
 
 void TestLaytrans::shown()
 {
     open();
-    QCOMPARE(from(), (QStringList{"Wall", "door", "窗", "Straße"}));
+    QCOMPARE(from(), kLayers);
     const auto& list = find<QListWidget>("fromList");
     QCOMPARE(list.item(0)->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     const auto picture = [](const QIcon& icon) { return icon.pixmap(16).toImage(); };
@@ -224,13 +203,35 @@ void TestLaytrans::mapsSame()
     QVERIFY(!find("mapSameButton").isEnabled());
 }
 
+/// Of layers that differ in case alone the selected ones are mapped, and none is lost.
+void TestLaytrans::tellsTwinsApart()
+{
+    open(
+        R"({"LaytransTheme":[{"LayerNameT":"wall"},{"LayerNameT":"Wall"},{"LayerNameT":"a"},{},7]})");
+    load();
+    map({"Wall"}, 1);
+    QCOMPARE(from(), (QStringList{"wall", "a"}));
+    map({"wall"}, 1);
+    QCOMPARE(rows().size(), 2);
+    find<QTableWidget>("mapTable").selectRow(0);
+    press("deleteButton");
+    QCOMPARE(from(), (QStringList{"Wall", "a"}));
+    m_invoker->setAnswer([](const VnJsonPtr& root) {
+        merge(root, R"({"LaytransTheme":[{"LayerNameT":"Wall"},{"LayerNameT":"wall"}]})");
+    });
+    choose("fromList", QStringLiteral("清理图层(&P)"));
+    QCOMPARE(from(), QStringList{"Wall"});
+    choose("mapTable", QStringLiteral("全部删除(&R)"));
+    map({"wall", "Wall"}, 0);
+    QCOMPARE(rows().size(), 2);
+}
+
 void TestLaytrans::selectsByName_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("selection");
-    QTest::newRow("other case") << "wALL" << QStringList{"Wall", "窗"};
-    QTest::newRow("no wildcards") << "w*" << QStringList{"窗"};
-    QTest::newRow("whole name") << "wal" << QStringList{"窗"};
+    const Rows<QString, QStringList> row("text", "selection");
+    row("other case", "wALL", {"Wall", "窗"});
+    row("no wildcards", "w*", {"窗"});
+    row("whole name", "wal", {"窗"});
 }
 
 void TestLaytrans::selectsByName()
@@ -246,21 +247,36 @@ void TestLaytrans::selectsByName()
     QVERIFY(!find("selectButton").isEnabled());
 }
 
-/// Mappings in files apply to layers that are there and free; the first file counts.
+/// Mappings in files apply to layers that are there and free.
+void TestLaytrans::loadsMappings_data()
+{
+    const Rows<QString, QStringList> row("mappings", "mapped");
+    row("the first file's", mapping("DOOR", "D1") + ',' + mapping("door", "D2"), {"door|D1"});
+    row("of no layer here", mapping("gone", "D3"), {});
+    row("without a target", R"({"Ltransmapfrom":{"LayerNameT":"wall"}})", {});
+    row("without a layer", R"({"Ltransmapto":{"transToName":"D4"}},7,{})", {});
+    row("behind what is broken",
+        R"(null,{"Ltransmapfrom":3,"Ltransmapto":[]},)" + mapping("wall", "D5"), {"Wall|D5"});
+}
+
 void TestLaytrans::loadsMappings()
 {
+    QFETCH(QString, mappings);
     open();
     select({"窗"});
-    load(R"([{"Ltransmapfrom":{"LayerNameT":"DOOR"},"Ltransmapto":{"transToName":"D1"}},
-        {"Ltransmapfrom":{"LayerNameT":"door"},"Ltransmapto":{"transToName":"D2"}},
-        {"Ltransmapfrom":{"LayerNameT":"gone"},"Ltransmapto":{"transToName":"D3"}},
-        {"Ltransmapfrom":{"LayerNameT":"wall"}},7])");
+    load(mappings);
+    QStringList mapped = rows();
+    for (QString& row : mapped)
+        row = row.section('|', 0, 1);
+    QTEST(mapped, "mapped");
+    QCOMPARE(from().size() + mapped.size(), 4);
     QCOMPARE(to(), (QStringList{"WALL", "Doors", "STRASSE"}));
-    QCOMPARE(rows(), QStringList{"door|D1|RGB:0,0,0|||0|"});
-    QCOMPARE(from(), (QStringList{"Wall", "窗", "Straße"}));
     QCOMPARE(selected(), QStringList{"窗"});
-    load(R"([{"Ltransmapfrom":{"LayerNameT":"door"},"Ltransmapto":{"transToName":"D4"}}])");
-    QCOMPARE(rows(), QStringList{"door|D1|RGB:0,0,0|||0|"}); // The user's stays.
+    const QStringList before = rows();
+    load(mapping("door", "D6") + ',' + mapping("wall", "D7"));
+    for (const QString& row : before) // The user's stays.
+        QVERIFY(rows().contains(row));
+    QCOMPARE(rows().size(), 2);
 }
 
 /// Layers go back to where they were, and can be mapped again.
@@ -269,15 +285,14 @@ void TestLaytrans::givesBack()
     open();
     load();
     map({"Wall", "door", "窗"}, 1);
-    auto& table = find<QTableWidget>("mapTable");
     press("deleteButton"); // No row is selected.
     QCOMPARE(rows().size(), 3);
-    table.selectRow(1);
+    find<QTableWidget>("mapTable").selectRow(1);
     press("deleteButton");
     QCOMPARE(from(), (QStringList{"door", "Straße"}));
     QVERIFY(!find("mapSameButton").isEnabled());
     choose("mapTable", QStringLiteral("全部删除(&R)"));
-    QCOMPARE(from(), (QStringList{"Wall", "door", "窗", "Straße"}));
+    QCOMPARE(from(), kLayers);
     QVERIFY(rows().isEmpty() && find("mapSameButton").isEnabled());
 }
 
@@ -290,31 +305,30 @@ void TestLaytrans::edited()
     auto& table = find<QTableWidget>("mapTable");
     press("editButton"); // No row is selected.
     QCOMPARE(m_host->log(), QStringList());
-    table.selectRow(1);
     VnJsonPtr question;
     m_host->answer([&](const VnJsonPtr& asked) {
         question = ElementValue::clone(asked);
         merge(asked, kEdited);
         return 1;
     });
-    const QPoint place = table.visualItemRect(table.item(1, 3)).center();
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, place);
+    clickCell(table, 1, 3, true);
     QVERIFY(
         m_host->takeLog().last().startsWith("dialog|Dialog/CmdLayer|Dialog/CmdLaytransNewEdit|"));
     QVERIFY(question->GetDataB("ltransInitIsEditLayer"));
     QCOMPARE(
         question->GetDataJ("ltransInitNewEditLayer")->GetDataSW("transToName"), OdString(L"WALL"));
-    QCOMPARE(rows(), (QStringList{"Wall|WALL|7|Dashed|0.25 mm|30|普通",
-                         "窗|W2|RGB:3,2,1|CENTER|0.50 mm|90|ByBlock"}));
+    const QStringList changed{
+        "Wall|WALL|7|Dashed|0.25 mm|30|普通", "窗|W2|RGB:3,2,1|CENTER|0.50 mm|90|ByBlock"};
+    QCOMPARE(rows(), changed);
     QCOMPARE(to(), (QStringList{"WALL", "Doors", "STRASSE"}));
+    m_host->answer(2, kEdited); // Cancelled, whatever it wrote.
+    choose("mapTable", QStringLiteral("编辑(&E)..."));
+    QCOMPARE(rows(), changed);
+    clickCell(table, 1);
     const VnJsonPtr target = m_tree->GetDataJ(transkey::kMappings)(1)->GetDataJ("Ltransmapto");
     QCOMPARE(target->GetDataI("transToLineWidth"), 50);
     QCOMPARE(target->GetDataL("transTolinet"), OdInt64(33));
     QCOMPARE(target->GetDataB("transTobUsed"), true);
-    m_host->answer(2, kEdited); // Cancelled, whatever it wrote.
-    choose("mapTable", QStringLiteral("编辑(&E)..."));
-    QVERIFY(rows()[1].startsWith("窗|W2|"));
 }
 
 void TestLaytrans::savedUntilChanged()
@@ -332,6 +346,7 @@ void TestLaytrans::savedUntilChanged()
         });
         m_host->answer(1, R"({"filePath":"/d/s.dws"})");
         press("saveButton");
+        QVERIFY(!m_tree->GetDataI("result")); // It is not the dialog's own.
     };
     const auto sentFlag = [&] {
         m_invoker->setAnswer({});
@@ -349,35 +364,26 @@ void TestLaytrans::savedUntilChanged()
     QVERIFY(m_host->log().last().startsWith("dialog|"));
 }
 
-/// What is asked of whom, in order.
+/// What is asked of whom, in order. Without an `entry` of its menu the widget is a button; an
+/// empty `answer` stands for no dialog.
 void TestLaytrans::requests_data()
 {
-    QTest::addColumn<QString>("widget");
-    QTest::addColumn<QString>("action"); // Empty for a button.
-    QTest::addColumn<QString>("answer"); // Of the dialog that is opened; empty for none.
-    QTest::addColumn<QStringList>("keys");
-    QTest::addColumn<QStringList>("log");
+    const Rows<QString, QString, QString, QStringList, QStringList> row(
+        "widget", "entry", "answer", "keys", "log");
     const QStringList load{R"(dialog|Dialog/Common|FileDialogBox|{"MutiFile":true,"Open":true,)"
                            R"-("caption":"选择图形文件","defFilter":"图形(*.dwg)","dir":"/d",)-"
                            R"-("filter":"图形(*.dwg);;标准(*.dws);;图形样板(*.dwt)"})-",
         R"(request|1|0|{"laytransLToCount":false,"laytransLoadJ":["/d/a.dws","/d/b.dwg"]})"};
     const QStringList loadKeys{"laytransLoadJ", "laytransLToCount"};
-    QTest::newRow("load") << "loadButton"
-                          << "" << kFiles << loadKeys << load;
-    QTest::newRow("load by menu") << "toList"
-                                  << "加载(&L)..." << kFiles << loadKeys << load;
-    QTest::newRow("save")
-        << "saveButton"
-        << ""
-        << R"({"filePath":"/s"})" << QStringList{"ltransMapListArray"}
-        << QStringList{R"(dialog|Dialog/Common|FileDialogBox|{"MutiFile":false,"Open":false,)"
-                       R"-("caption":"保存图层映射","defFilter":"标准(*.dws)","dir":"plan.dws",)-"
-                       R"-("filter":"图形(*.dwg);;标准(*.dws)"})-",
-               R"(request|0|0|{"ltransMapListArray":[]})"};
-    QTest::newRow("purge") << "fromList"
-                           << "清理图层(&P)"
-                           << "" << QStringList{"LaytransTheme"}
-                           << QStringList{R"(request|2|0|{"LaytransTheme":false})"};
+    row("load", "loadButton", "", kFiles, loadKeys, load);
+    row("load by menu", "toList", "加载(&L)...", kFiles, loadKeys, load);
+    row("save", "saveButton", "", R"({"filePath":"/s"})", {"ltransMapListArray"},
+        {R"(dialog|Dialog/Common|FileDialogBox|{"MutiFile":false,"Open":false,)"
+         R"-("caption":"保存图层映射","defFilter":"标准(*.dws)","dir":"plan.dws",)-"
+         R"-("filter":"图形(*.dwg);;标准(*.dws)"})-",
+            R"(request|0|0|{"ltransMapListArray":[]})"});
+    row("purge", "fromList", "清理图层(&P)", "", {"LaytransTheme"},
+        {R"(request|2|0|{"LaytransTheme":false})"});
     const QString made = R"({"ltransResultNewEditLayer":{"ltransResultNewLayName":"N"}})";
     const QStringList layer{
         R"(dialog|Dialog/CmdLayer|Dialog/CmdLaytransNewEdit|{"ltransInitIsEditLayer":false,)"
@@ -385,21 +391,16 @@ void TestLaytrans::requests_data()
         R"("transToName":"Doors"},)"
         R"("newToLayerNameArray":{"ToLayerNameArray":["WALL","Doors","STRASSE"]}})",
         R"(request|3|0|{"ltransNewlayer":{"ltransResultNewLayName":"N"}})"};
-    const QStringList layerKeys{"ltransNewlayer"};
-    QTest::newRow("new") << "newButton"
-                         << "" << made << layerKeys << layer;
-    QTest::newRow("new by menu") << "toList"
-                                 << "新建(&N)..." << made << layerKeys << layer;
-    QTest::newRow("settings") << "settingButton"
-                              << ""
-                              << "" << QStringList{"currentFromLName", "currentFromLNames"}
-                              << QStringList{R"(request|4|0|{"currentFromLNames":["Wall","窗"]})"};
+    row("new", "newButton", "", made, {"ltransNewlayer"}, layer);
+    row("new by menu", "toList", "新建(&N)...", made, {"ltransNewlayer"}, layer);
+    row("settings", "settingButton", "", "", {"currentFromLName", "currentFromLNames"},
+        {R"(request|4|0|{"currentFromLNames":["Wall","窗"]})"});
 }
 
 void TestLaytrans::requests()
 {
     QFETCH(QString, widget);
-    QFETCH(QString, action);
+    QFETCH(QString, entry);
     QFETCH(QString, answer);
     QFETCH(QStringList, keys);
     open(kTree, keys);
@@ -408,10 +409,7 @@ void TestLaytrans::requests()
     find<QListWidget>("toList").setCurrentRow(1);
     if (!answer.isEmpty())
         m_host->answer(1, answer);
-    if (action.isEmpty())
-        press(widget.toUtf8().constData());
-    else
-        choose(widget.toUtf8().constData(), action);
+    act(widget, entry);
     QTEST(m_host->log(), "log");
     QCOMPARE(to().size(), 3); // No answer is no new list.
     QCOMPARE(from().size(), 4);
@@ -423,24 +421,75 @@ void TestLaytrans::clicks()
     open(kTree, {"laytransFMClickedName", "laytransisMaplist"});
     load();
     map({"door"}, 0);
-    const auto& list = find<QListWidget>("fromList");
-    QTest::mouseClick(
-        list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(1)).center());
-    const auto& table = find<QTableWidget>("mapTable");
-    QTest::mouseClick(
-        table.viewport(), Qt::LeftButton, {}, table.visualItemRect(table.item(0, 1)).center());
+    clickCell(find<QListWidget>("fromList"), 1);
+    clickCell(find<QTableWidget>("mapTable"), 0, 1);
     QCOMPARE(m_host->takeLog(),
         (QStringList{R"(request|7|0|{"laytransFMClickedName":"窗","laytransisMaplist":false})",
             R"(request|7|0|{"laytransFMClickedName":"door","laytransisMaplist":true})"}));
     QCOMPARE(m_tree->GetDataJ(transkey::kMappings).ArrayCount(), 1);
     QCOMPARE(m_tree->GetDataJ(transkey::kSources).ArrayCount(), 3);
-    const auto& targets = find<QListWidget>("toList");
-    const QPoint place = targets.visualItemRect(targets.item(0)).center();
     m_host->answer(2);
-    QTest::mouseClick(targets.viewport(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(targets.viewport(), Qt::LeftButton, {}, place);
+    clickCell(find<QListWidget>("toList"), 0, 0, true);
     QCOMPARE(m_host->log().size(), 1);
     QVERIFY(m_host->log().last().contains("CmdLaytransNewEdit"));
+}
+
+/// Whatever a command that fails or answers something else does to the tree, the lists stay.
+void TestLaytrans::keepsItsLists_data()
+{
+    using Answer = RecordingInvoker::Answer;
+    const Answer spoil = [](const VnJsonPtr& root) {
+        for (const char* key : {transkey::kSources, transkey::kMappings, transkey::kSaveMappings,
+                 transkey::kLoadTargets, transkey::kTheme, transkey::kLoadedTargets}) {
+            const VnJsonPtr list = root->GetDataJ(key);
+            for (int i = 0; i < list.ArrayCount(); ++i)
+                list(i)->Clear();
+            if (list)
+                list->Clear();
+        }
+        root->Clear();
+    };
+    const Rows<Answer> row("answer");
+    row("empties the tree", spoil);
+    row("empties the tree and throws", [spoil](const VnJsonPtr& root) {
+        spoil(root);
+        throw std::runtime_error("broken");
+    });
+    row("answers no lists", [](const VnJsonPtr& root) {
+        merge(root, R"({"ltransToloadList":{"a":1},"ltransMaploadList":{},"LaytransTheme":{},
+            "LtransSettingParams":[1],"result":"1","LaytransCloseDlg":"true"})");
+    });
+    row("answers texts", [](const VnJsonPtr& root) {
+        merge(root, R"({"ltransToloadList":"a","ltransMaploadList":"b","LaytransTheme":"c",
+            "LtransSettingParams":"d"})");
+    });
+}
+
+void TestLaytrans::keepsItsLists()
+{
+    QFETCH(RecordingInvoker::Answer, answer);
+    open();
+    load();
+    map({"door", "窗"}, 1);
+    const QStringList before = from() + to() + rows();
+    m_invoker->setAnswer(answer);
+    m_host->answer(1, kFiles);
+    press("loadButton");
+    m_host->answer(1, R"({"filePath":"/s"})");
+    press("saveButton");
+    QVERIFY(find("saveButton").isEnabled());
+    m_host->answer(1, kEdited);
+    press("newButton");
+    choose("fromList", QStringLiteral("清理图层(&P)"));
+    press("settingButton");
+    clickCell(find<QListWidget>("fromList"), 0);
+    press("translateButton");
+    QVERIFY(m_dialog->widget()->isVisible());
+    QCOMPARE(from() + to() + rows(), before);
+    m_invoker->setAnswer({});
+    press("translateButton"); // Sends all that there was.
+    QCOMPARE(m_tree->GetDataJ(transkey::kMappings).ArrayCount(), 2);
+    QCOMPARE(m_tree->GetDataJ(transkey::kSettingsToUse).ArrayCount(), 6);
 }
 
 /// The record the command answers is used at once and at the next start.
@@ -471,11 +520,10 @@ void TestLaytrans::settingsKept()
 
 void TestLaytrans::translated_data()
 {
-    QTest::addColumn<int>("mapped");
-    QTest::addColumn<bool>("closes");
-    QTest::newRow("done") << 2 << true;
-    QTest::newRow("refused") << 1 << false;
-    QTest::newRow("nothing mapped") << 0 << false;
+    const Rows<int, bool> row("mapped", "closes");
+    row("done", 2, true);
+    row("refused", 1, false);
+    row("nothing mapped", 0, false);
 }
 
 void TestLaytrans::translated()
@@ -503,18 +551,23 @@ void TestLaytrans::translated()
     QCOMPARE(m_dialog->resultData()->GetDataI("result", -1), closes ? 1 : -1);
 }
 
-/// Layers that are mapped do not come back with the layers that are left.
+/// Layers that are mapped do not come back with the layers that are left; mappings of layers that
+/// are gone go.
 void TestLaytrans::purged()
 {
     open();
     load();
-    map({"door"}, 0);
+    map({"door", "窗"}, 0);
+    m_host->answer(1, R"({"filePath":"/s"})");
     m_invoker->setAnswer([](const VnJsonPtr& root) {
-        merge(root, R"({"LaytransTheme":[{"LayerNameT":"Wall"},{"LayerNameT":"Door"}]})");
+        merge(
+            root, R"({"result":1,"LaytransTheme":[{"LayerNameT":"Wall"},{"LayerNameT":"Door"}]})");
     });
+    press("saveButton");
     choose("fromList", QStringLiteral("清理图层(&P)"));
     QCOMPARE(from(), QStringList{"Wall"});
-    QCOMPARE(rows().size(), 1);
+    QCOMPARE(rows(), QStringList{"Door|WALL|7|Dashed|0.25 mm|30|普通"});
+    QVERIFY(find("saveButton").isEnabled());
     choose("fromList", QStringLiteral("全部选择(&S)"));
     QCOMPARE(selected(), QStringList{"Wall"});
     choose("fromList", QStringLiteral("全部清除(&C)"));
@@ -538,6 +591,8 @@ void TestLaytrans::nobodyToAsk()
     press("cancelButton");
     QVERIFY(!m_dialog->widget()->isVisible());
 }
+
+Q_DECLARE_METATYPE(RecordingInvoker::Answer)
 
 QTEST_MAIN(TestLaytrans)
 

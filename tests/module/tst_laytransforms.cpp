@@ -1,13 +1,12 @@
 #include "linetypes.h"
-#include "modulefixture.h"
 #include "recordinghost.h"
+#include "rows.h"
 #include "trees.h"
+#include "useracts.h"
 #include "vnpickers.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QtTest>
 
 using namespace vnsi;
 
@@ -20,14 +19,6 @@ template <class T>
 T& child(const VnUiModeDialogBasePtr& dialog, const char* name)
 {
     return *ModuleFixture::child<T>(dialog, name);
-}
-
-QStringList entries(const QComboBox& box)
-{
-    QStringList all;
-    for (int row = 0; row < box.count(); ++row)
-        all.append(box.itemText(row));
-    return all;
 }
 
 } // namespace
@@ -48,13 +39,12 @@ private slots:
     /// What six elements say is shown and given back; any other number is no record.
     void settings_data()
     {
-        QTest::addColumn<QString>("given");
-        QTest::addColumn<QByteArray>("checked");
-        QTest::newRow("six") << "[1,0,1,0,0,1]" << QByteArray("101001");
-        QTest::newRow("five") << "[1,1,1,1,1]" << QByteArray("000000");
-        QTest::newRow("seven") << "[1,1,1,1,1,1,1]" << QByteArray("000000");
-        QTest::newRow("no bool") << "[2,1,1,1,1,1]" << QByteArray("011111");
-        QTest::newRow("none") << "" << QByteArray("000000");
+        const Rows<QString, QByteArray> row("given", "checked");
+        row("six", "[1,0,1,0,0,1]", "101001");
+        row("five", "[1,1,1,1,1]", "000000");
+        row("seven", "[1,1,1,1,1,1,1]", "000000");
+        row("no bool", "[2,1,1,1,1,1]", "011111");
+        row("none", "", "000000");
     }
 
     void settings()
@@ -75,7 +65,7 @@ private slots:
             QCOMPARE(box(option)->isChecked(), checked[option] == '1');
         box(4)->setTristate(true);
         box(4)->setCheckState(Qt::PartiallyChecked); // Which is not checked.
-        child<QPushButton>(dialog, "okButton").click();
+        press(*dialog->widget(), "okButton");
         checked[4] = '0';
         const VnJsonPtr out = root->GetDataJ("LtransSettingParamOut");
         QCOMPARE(out.ArrayCount(), 6);
@@ -91,8 +81,8 @@ private slots:
             const VnJsonPtr root = tree(R"({"ltransInitIsEditLayer":true})");
             const QString before = toText(root);
             const auto dialog = m_module.createDialog(name, root);
-            child<QPushButton>(dialog, "helpButton").click();
-            child<QPushButton>(dialog, "cancelButton").click();
+            press(*dialog->widget(), "helpButton");
+            press(*dialog->widget(), "cancelButton");
             QCOMPARE(toText(root), before);
         }
         QCOMPARE(m_host->log(), (QStringList{"help|0", "help|0"}));
@@ -102,18 +92,19 @@ private slots:
     {
         const auto dialog = m_module.createDialog(kNewEdit, tree("{}"));
         QCOMPARE(dialog->widget()->windowTitle(), QStringLiteral("新图层"));
-        QCOMPARE(entries(child<VnLineTypeComboBox>(dialog, "linetypeBox")),
+        QCOMPARE(textsOf(child<VnLineTypeComboBox>(dialog, "linetypeBox")),
             (QStringList{"Dashed", "CENTER", "Continuous"}));
         const auto& weights = child<VnLineWidthComboBox>(dialog, "lineWidthBox");
-        QVERIFY(!entries(weights).contains(QStringLiteral("随层")));
-        QVERIFY(!entries(weights).contains(QStringLiteral("随块")));
+        QCOMPARE(textsOf(weights).mid(0, 2), (QStringList{"默认", "0.00 mm"}));
         QCOMPARE(weights.currentIndex(), 6);
-        QCOMPARE(child<VnColorComboBox>(dialog, "colorBox").currentIndex(), 1);
+        const auto& colors = child<VnColorComboBox>(dialog, "colorBox");
+        QCOMPARE(colors.currentIndex(), 1);
+        QCOMPARE(colors.GetCurrentColorEx().colorIndex(), OdInt16(2));
         const auto& transparency = child<QComboBox>(dialog, "transparencyBox");
-        QCOMPARE(entries(transparency).join(' '), QStringLiteral("0 10 20 30 40 50 60 70 80 90"));
+        QCOMPARE(textsOf(transparency).join(' '), QStringLiteral("0 10 20 30 40 50 60 70 80 90"));
         QVERIFY(transparency.isEditable());
         const auto& plotStyle = child<QComboBox>(dialog, "plotStyleBox");
-        QCOMPARE(entries(plotStyle), (QStringList{"普通", "ByLayer", "ByBlock"}));
+        QCOMPARE(textsOf(plotStyle), (QStringList{"普通", "ByLayer", "ByBlock"}));
         QCOMPARE(plotStyle.currentText(), QStringLiteral("ByLayer"));
         QVERIFY(!plotStyle.isEnabled());
     }
@@ -121,20 +112,21 @@ private slots:
     /// What a record says comes back unchanged, also what the boxes do not list.
     void givesBack_data()
     {
-        QTest::addColumn<QString>("record");
-        QTest::addColumn<QString>("result");
-        QTest::newRow("listed")
-            << R"("transTosLineType":"Dashed","transTosLinew":"0.50 mm","transToTransparency":35,
-               "transToColor":{"clrMethod":195,"selectClr":3})"
-            << "墙|Dashed|32|50|0.50 mm|195|3|35|ByLayer";
-        QTest::newRow("colour appended")
-            << R"("transTosLineType":"CENTER","transTosLinew":"默认","transToprintt":"普通",
-               "transToColor":{"clrMethod":195,"selectClr":200})"
-            << "墙|CENTER|33|-3|默认|195|200|0|普通";
-        QTest::newRow("true colour, unknown linetype and style")
-            << R"("transTosLineType":"GAS_LINE","transToLineWidth":13,"transToprintt":"Color_4",
-               "transToColor":{"clrMethod":194,"selectClr":3351057})"
-            << "墙|GAS_LINE|0|13|0.13 mm|194|3351057|0|Color_4";
+        const Rows<QString, QString> row("record", "result");
+        row("listed", R"("transTosLineType":"dashed","transTosLinew":"0.50 mm",
+            "transToTransparency":35,"transToColor":{"clrMethod":195,"selectClr":3})",
+            "墙|Dashed|32|50|0.50 mm|195|3|35|ByLayer");
+        row("colour appended", R"("transTosLineType":"CENTER","transTosLinew":"默认",
+            "transToprintt":"普通","transToColor":{"clrMethod":195,"selectClr":200})",
+            "墙|CENTER|33|-3|默认|195|200|0|普通");
+        row("true colour, unknown linetype and style", R"("transTosLineType":"GAS_LINE",
+            "transToLineWidth":13,"transToprintt":"Color_4",
+            "transToColor":{"clrMethod":194,"selectClr":3351057})",
+            "墙|GAS_LINE|0|13|0.13 mm|194|3351057|0|Color_4");
+        row("weight told in another language", R"("transTosLinew":"Default","transToLineWidth":-3)",
+            "墙|Dashed|32|-3|默认|195|2|0|ByLayer");
+        row("weight that does not exist", R"("transTosLinew":"0.22 mm","transToLineWidth":22)",
+            "墙|Dashed|32|-3|默认|195|2|0|ByLayer");
     }
 
     void givesBack()
@@ -146,7 +138,7 @@ private slots:
                  record + R"(},"newToLayerNameArray":{"ToLayerNameArray":["墙"]}})");
         const auto dialog = m_module.createDialog(kNewEdit, root);
         QCOMPARE(dialog->widget()->windowTitle(), QStringLiteral("编辑图层"));
-        child<QPushButton>(dialog, "okButton").click();
+        press(*dialog->widget(), "okButton");
         QCOMPARE(m_host->log(), QStringList());
         QCOMPARE(root->GetDataI("result"), 1);
         const QJsonObject result = toJsonObject(root->GetDataJ("ltransResultNewEditLayer"));
@@ -159,48 +151,24 @@ private slots:
 
     void refuses_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("transparency");
-        QTest::addColumn<QString>("message"); // Empty: taken.
+        // Each of the refusals comes before those behind it. Without a message the layer is taken.
+        const Rows<QString, QString, QString> row("name", "transparency", "message");
         const QString invalid = QStringLiteral("名称不是有效符号名。");
         const QString number = QStringLiteral("请输入一个 0-90 之间的整数");
-        // Each of the refusals comes before those behind it.
-        QTest::newRow("empty") << ""
-                               << "x" << QStringLiteral("名称必须赋值。");
-        QTest::newRow("leading blank") << " a"
-                                       << "x" << invalid;
-        QTest::newRow("trailing blank") << "WALL "
-                                        << "x" << invalid;
+        const QString inUse = QStringLiteral("名称 %s 已在使用。\n您需要输入其他名称。");
+        row("empty", "", "x", "名称必须赋值。");
+        row("leading blank", " a", "x", invalid);
+        row("trailing blank", "WALL ", "x", invalid);
         for (const char c : QByteArray("<>/\\?*|,=`\":;"))
-            QTest::newRow(QByteArray(1, c).constData()) << QString("a%1b").arg(c) << "0" << invalid;
-        QTest::newRow("256 characters") << QString(256, QChar(0x5899)) << "0" << invalid;
-        QTest::newRow("255 characters") << QString(255, QChar(0x5899)) << "0"
-                                        << "";
-        QTest::newRow("blank inside") << "a b"
-                                      << "0"
-                                      << "";
-        QTest::newRow("in use") << "Wall"
-                                << "x"
-                                << QStringLiteral("名称 Wall 已在使用。\n您需要输入其他名称。");
-        QTest::newRow("in use, placeholders") << "墙%1"
-                                              << "0"
-                                              << QStringLiteral("名称 墙%1 已在使用。\n您需要输入"
-                                                                "其他名称。");
-        QTest::newRow("transparency 90") << "a"
-                                         << "90"
-                                         << "";
-        QTest::newRow("transparency 91") << "a"
-                                         << "91" << number;
-        QTest::newRow("transparency -1") << "a"
-                                         << "-1" << number;
-        QTest::newRow("transparency +1") << "a"
-                                         << "+1" << number;
-        QTest::newRow("transparency 1x") << "a"
-                                         << "1x" << number;
-        QTest::newRow("transparency 4294967297") << "a"
-                                                 << "4294967297" << number;
-        QTest::newRow("transparency empty") << "a"
-                                            << "" << number;
+            row(QByteArray(1, c).constData(), QString("a%1b").arg(c), "0", invalid);
+        row("256 characters", QString(256, QChar(0x5899)), "0", invalid);
+        row("255 characters", QString(255, QChar(0x5899)), "0", "");
+        row("blank inside", "a b", "0", "");
+        row("in use", "Wall", "x", QString(inUse).replace("%s", "Wall"));
+        row("in use, placeholders", "墙%1", "0", QString(inUse).replace("%s", "墙%1"));
+        row("transparency 90", "a", "90", "");
+        for (const char* text : {"91", "-1", "+1", "1x", "4294967297", ""})
+            row(qPrintable(QStringLiteral("transparency %1").arg(text)), "a", text, number);
     }
 
     void refuses()
@@ -214,7 +182,7 @@ private slots:
         dialog->widget()->show();
         child<QLineEdit>(dialog, "nameEdit").setText(name);
         child<QComboBox>(dialog, "transparencyBox").setEditText(transparency);
-        child<QPushButton>(dialog, "okButton").click();
+        press(*dialog->widget(), "okButton");
         QCOMPARE(m_host->log(),
             message.isEmpty() ? QStringList() : QStringList{"message|" + message + "||0"});
         QCOMPARE(root->HasKey("ltransResultNewEditLayer"), message.isEmpty());

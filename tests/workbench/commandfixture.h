@@ -5,8 +5,8 @@
 #include "modaldriver.h"
 #include "modulefixture.h"
 #include "recordinghost.h"
+#include "useracts.h"
 
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QtTest>
@@ -60,11 +60,6 @@ protected:
 
     drawing::Drawing& drawing() const { return *m_window->drawing(); }
     const drawing::Layer* layer(const QString& name) const { return drawing().findLayer(name); }
-
-    static void press(const QDialog& dialog, const char* button)
-    {
-        ModuleFixture::child<QPushButton>(&dialog, button)->click();
-    }
 
     /// Saves to a file of that name; its bytes.
     QByteArray savedBytes(const QString& name = QStringLiteral("saved.dxf"))

@@ -32,11 +32,10 @@ ModalDriver::Step closing(const ModalDriver::Step& acts)
     };
 }
 
-void selectLayers(QDialog& dialog, const QStringList& names)
+void selectTarget(QDialog& dialog, const QString& name)
 {
-    list(dialog, "fromList").clearSelection();
-    for (const QString& name : names)
-        list(dialog, "fromList").findItems(name, Qt::MatchExactly).first()->setSelected(true);
+    auto& targets = list(dialog, "toList");
+    targets.setCurrentItem(targets.findItems(name, Qt::MatchExactly).first());
 }
 
 } // namespace
@@ -55,6 +54,7 @@ private slots:
 
 private:
     void load(QDialog& dialog, const QStringList& files);
+    QImage picture() const { return m_window->canvas()->grab().toImage(); }
     QString inFolder(const QString& name) const { return m_folder.filePath(name); }
 };
 
@@ -76,7 +76,7 @@ void LayerTranslateCommandTest::load(QDialog& dialog, const QStringList& files)
 
 void LayerTranslateCommandTest::everythingInOneRun()
 {
-    const QImage whole = m_window->canvas()->grab().toImage();
+    const QImage whole = picture();
     QHash<QString, QString> targets; // By source, in small letters.
     const auto setOptions = [](QDialog& settings) {
         for (const char* option : {"optionBox0", "optionBox3", "optionBox4", "optionBox5"})
@@ -90,22 +90,23 @@ void LayerTranslateCommandTest::everythingInOneRun()
         press(layer, "okButton");
     };
     const auto translate = [&](QDialog& dialog) {
+        selectTexts(list(dialog, "fromList"), {"A-EQPM", "墙体-隔墙"});
         press(dialog, "settingButton");
+        const QImage two = picture(); // The option shows them at once.
         load(dialog, {kStandard, kStandard});
         QCOMPARE(list(dialog, "toList").count(), 22);
         QCOMPARE(table(dialog).rowCount(), 18); // Those saved in the file.
         press(dialog, "mapSameButton");
         QCOMPARE(table(dialog).rowCount(), 26);
-        selectLayers(dialog, {"家具-办公桌", "家具-座椅"});
-        list(dialog, "toList")
-            .setCurrentItem(list(dialog, "toList").findItems("A-FURN", Qt::MatchExactly).first());
+        selectTexts(list(dialog, "fromList"), {"家具-办公桌", "家具-座椅"});
+        selectTarget(dialog, "A-FURN");
         press(dialog, "mapButton");
 
         auto& from = list(dialog, "fromList");
         emit from.itemClicked(from.findItems("A-EQPM", Qt::MatchExactly).first());
-        const QImage one = m_window->canvas()->grab().toImage();
+        const QImage one = picture();
         emit from.itemClicked(from.findItems("备用-1", Qt::MatchExactly).first());
-        QVERIFY(one != whole && one != m_window->canvas()->grab().toImage());
+        QVERIFY(two != whole && two != one && one != whole && one != picture());
 
         table(dialog).selectRow(
             table(dialog).findItems("消防-喷淋", Qt::MatchExactly).first()->row());
@@ -113,7 +114,7 @@ void LayerTranslateCommandTest::everythingInOneRun()
         for (int row = 0; row < table(dialog).rowCount(); ++row)
             targets.insert(table(dialog).item(row, 0)->text().toLower(),
                 table(dialog).item(row, 1)->text().toLower());
-        m_host->answer(1, R"({"filePath":")" + inFolder("saved.dws") + "\"}");
+        m_host->answer(1, R"({"filePath":")" + inFolder("saved.dxf") + "\"}");
         press(dialog, "saveButton");
         QVERIFY(!ModuleFixture::child<QPushButton>(&dialog, "saveButton")->isEnabled());
         press(dialog, "translateButton");
@@ -122,7 +123,7 @@ void LayerTranslateCommandTest::everythingInOneRun()
     run("laytrans", {closing(translate), setOptions, closing(editLayer)});
     for (const QString& line : m_host->log())
         QVERIFY2(!line.startsWith("message"), qPrintable(line));
-    const auto saved = drawing::readStandard(inFolder("saved.dws"));
+    const auto saved = drawing::readStandard(inFolder("saved.dxf"));
     QVERIFY(saved && saved->mappings.size() == static_cast<std::size_t>(targets.size()));
     QFile log(inFolder("floor.log"));
     QVERIFY(log.open(QIODevice::ReadOnly) && log.readAll().contains("墙体-隔墙"));
@@ -147,23 +148,24 @@ void LayerTranslateCommandTest::everythingInOneRun()
     drawing().undo();
     QVERIFY(!drawing().canUndo());
     QVERIFY(savedBytes("undone.dxf") == m_original && translated != m_original);
-    QCOMPARE(m_window->canvas()->grab().toImage(), whole);
+    QCOMPARE(picture(), whole);
 }
 
 /// Each says what cannot be done and why, and the dialog stays.
 void LayerTranslateCommandTest::refusals()
 {
-    QFile noDrawing(inFolder("text.dws"));
+    QFile noDrawing(inFolder("text.dxf"));
     QVERIFY(noDrawing.open(QIODevice::WriteOnly) && noDrawing.write("text") == 4);
     noDrawing.close();
     const auto config = vnsi::vn_user_config(L"layertransset_dialog");
     config->SetDataJ("LtransSettingDates", vnsi::ElementValue::createArray());
     const auto message = [&] { return m_host->takeLog().filter("message|").join('\n'); };
     const auto acts = [&](QDialog& dialog) {
-        load(dialog, {inFolder("text.dws"), kStandard, inFolder("missing.dwg")});
+        load(dialog, {inFolder("text.dxf"), kStandard, inFolder("missing.dwg")});
         const QString unread = message();
-        QVERIFY(unread.contains("text.dws") && unread.contains("missing.dwg"));
+        QVERIFY(unread.contains("text.dxf") && unread.contains("missing.dwg"));
         QCOMPARE(list(dialog, "toList").count(), 22); // The rest is loaded.
+        QCOMPARE(table(dialog).rowCount(), 18);
         press(dialog, "settingButton");
         QVERIFY(message().contains("不是六项"));
         const auto save = [&](const QString& path) {
@@ -172,14 +174,29 @@ void LayerTranslateCommandTest::refusals()
         };
         save(inFolder("floor.dxf"));
         QVERIFY(message().contains("正在转换的图形"));
-        save(inFolder("text.dws"));
-        QVERIFY(message().contains("text.dws"));
+        save(inFolder("text.dxf"));
+        QVERIFY(message().contains("text.dxf"));
+        for (const char* name : {"new.dws", "new.DWG", "new.dwt"}) {
+            save(inFolder(name));
+            const QString refusal = message();
+            QVERIFY(refusal.contains(name) && refusal.contains("new.dxf"));
+            QVERIFY(!QFile::exists(inFolder(name)));
+        }
         QMetaObject::invokeMethod(&dialog, "slot_MenuMapListAllDelete");
-        save(inFolder("new.dws"));
-        QVERIFY(message().contains("还没有图层映射") && !QFile::exists(inFolder("new.dws")));
+        save(inFolder("new.dxf"));
+        QVERIFY(message().contains("还没有图层映射") && !QFile::exists(inFolder("new.dxf")));
         press(dialog, "translateButton");
         QVERIFY(message().contains("还没有图层映射"));
         QVERIFY(dialog.isVisible());
+
+        QVERIFY(QFile::copy(kStandard, inFolder("standard.dws"))); // Its name is no hindrance here.
+        load(dialog, {inFolder("standard.dws"), m_path});
+        QCOMPARE(table(dialog).rowCount(), 18); // What was deleted comes back.
+        const auto mark = [&](const char* name) {
+            const auto* item = list(dialog, "toList").findItems(name, Qt::MatchExactly).first();
+            return item->icon().pixmap(16).toImage();
+        };
+        QVERIFY(mark("墙体-隔墙") != mark("备用-1")); // Used in the file they came from, or not.
     };
     run("laytrans", {closing(acts), [](QDialog& settings) { press(settings, "cancelButton"); }});
     QVERIFY(!drawing().canUndo());

@@ -1,0 +1,70 @@
+#include "useracts.h"
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QMenu>
+#include <QTableWidget>
+#include <QtTest>
+
+void chooseEntry(const QWidget& menuOwner, const QString& text)
+{
+    for (QAction* action : menuOwner.findChild<QMenu*>()->actions()) {
+        if (action->text() == text)
+            return action->trigger();
+    }
+    QTest::qFail(qPrintable("no menu entry " + text), __FILE__, __LINE__);
+}
+
+void clickCell(QAbstractItemView& view, int row, int column, bool twice)
+{
+    const QModelIndex index = view.model()->index(row, column);
+    view.scrollTo(index);
+    const QPoint place = view.visualRect(index).center();
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
+    if (twice)
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
+}
+
+void selectTexts(QListWidget& list, const QStringList& texts)
+{
+    for (int row = 0; row < list.count(); ++row)
+        list.item(row)->setSelected(texts.contains(list.item(row)->text()));
+}
+
+QStringList textsOf(const QListWidget& list)
+{
+    QStringList all;
+    for (int row = 0; row < list.count(); ++row)
+        all.append(list.item(row)->text());
+    return all;
+}
+
+QStringList textsOf(const QComboBox& box)
+{
+    QStringList all;
+    for (int row = 0; row < box.count(); ++row)
+        all.append(box.itemText(row));
+    return all;
+}
+
+QStringList selectedTexts(const QListWidget& list)
+{
+    QStringList texts;
+    for (int row = 0; row < list.count(); ++row) {
+        if (list.item(row)->isSelected())
+            texts.append(list.item(row)->text());
+    }
+    return texts;
+}
+
+QStringList rowTexts(const QTableWidget& table)
+{
+    QStringList all;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < table.columnCount(); ++column)
+            cells.append(table.item(row, column)->text());
+        all.append(cells.join('|'));
+    }
+    return all;
+}
