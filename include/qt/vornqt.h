@@ -20,20 +20,62 @@ bool vnqtRunOnUiThread(const std::function<void()>& work);
 struct VnQtRequest
 {
     int code = 0;
-    std::vector<const char*> answers =
-        {}; ///< Keys the command answers in; cleared before it is asked.
+    /// Keys the command answers in; cleared before it is asked, and no others are.
+    std::vector<const char*> answers = {};
     int parameter = 0;
-    VnJsonPtr parameterTree =
-        {}; ///< Stands under "parameter" instead of the number when not empty.
+    /// Stands under "parameter" instead of the number when not empty.
+    VnJsonPtr parameterTree = {};
     const char* codeKey = "marker";
-    VnJsonPtr node = {}; ///< Where code, arguments and answers stand; the root when empty.
 };
 
+/// Writes the arguments of a request into the node it goes out on.
 using VnQtArgumentWriter = std::function<void(IElementValueBase& node)>;
 
-/// Sends a request on `root` to `invoker` and returns when it has been answered. Returns false,
-/// with nothing written, without a tree or a call-back object. What the call-back throws is
-/// reported in a message box; the answer keys are then clear and false is returned.
+/// What a request brought: the very node that it went out on, kept alive whatever the command did
+/// to the tree around it. Without an answer (no node, nobody to ask, a call-back that threw) it
+/// stands for an object without keys, so that every answer reads its default.
+///
+/// What the command may have put elsewhere in the tree is looked up afresh from the dialog's data.
+class VnQtAnswer
+{
+public:
+    VnQtAnswer();
+    explicit VnQtAnswer(VnJsonPtr node) : m_node(std::move(node)), m_isAnswered(true) {}
+
+    /// Whether the command was asked and came back.
+    explicit operator bool() const { return m_isAnswered; }
+    const VnJsonPtr& node() const { return m_node; }
+    const IElementValueBase* operator->() const { return &*m_node; }
+
+private:
+    VnJsonPtr m_node;
+    bool m_isAnswered = false;
+};
+
+/// A dialog's call-back object: hands requests on to the command's, and ends there what that
+/// throws, with a message box that tells the cause.
+class VnQtCommandInvoker : public VnUiDialogInvoker
+{
+public:
+    /// `command` may be null or no call-back object at all; then nobody is asked.
+    explicit VnQtCommandInvoker(const OdRxObjectPtr& command);
+
+    bool hasCommand() const { return !m_command.isNull(); }
+    void invoke(VnJsonPtr tree) override { hasAnswered(tree); }
+    /// Hands the tree on; false where nobody was asked and where the command threw.
+    bool hasAnswered(const VnJsonPtr& tree);
+
+private:
+    OdSmartPtr<VnUiDialogInvoker> m_command;
+};
+
+/// Sends a request on `node`: writes "parameter", the code and the arguments, clears the answers,
+/// hands the node over and returns when it has been answered. Nothing is written without a node
+/// or somebody to ask.
+VnQtAnswer vnqtAsk(VnJsonPtr node, OdSmartPtr<VnQtCommandInvoker> invoker, OdAnsiString dialogName,
+    const VnQtRequest& request, const VnQtArgumentWriter& writeArguments = {});
+
+/// As `vnqtAsk`, for dialogs that read the answers from `root`.
 bool vnqtSendRequest(const VnJsonPtr& root, const OdRxObjectPtr& invoker,
     const OdAnsiString& dialogName, const VnQtRequest& request,
     const VnQtArgumentWriter& writeArguments);
@@ -122,20 +164,7 @@ template <class T, class Base>
 class VnQtModeDialogImpl : public Base
 {
 public:
-    /// A call-back object for dialogs that this one opens: hands their requests to `onInvoke`.
-    class VnInvoker : public VnUiDialogInvoker
-    {
-    public:
-        explicit VnInvoker(VnQtModeDialogImpl* dialog) : m_dialog(dialog) {}
-        void invoke(VnJsonPtr tree) override
-        {
-            if (m_dialog)
-                m_dialog->onInvoke(tree);
-        }
-
-    private:
-        QPointer<VnQtModeDialogImpl> m_dialog;
-    };
+    using VnInvoker = OdRxObjectImpl<VnQtCommandInvoker>;
 
     VnQtModeDialogImpl(VnQtUIModeDialogBase* wrapper, QWidget* parent, Qt::WindowFlags flags)
         : Base(parent, flags),
@@ -158,13 +187,13 @@ public:
     {
         m_data = data;
         m_invoker = invoker;
+        m_callBack = VnInvoker::createObject(invoker);
         onDataSet(m_data);
         return true;
     }
     /// Builds the widgets; false when the dialog cannot be shown.
     virtual bool initDialog() { return true; }
 
-    /// A dialog opened by this one has sent a request through a `VnInvoker`.
     virtual void onInvoke(VnJsonPtr) {}
     virtual void onDocumentActivated() {}
     virtual void onDocumentClosed() {}
@@ -186,8 +215,22 @@ protected:
     VnQtUIModeDialogBase* wrapper() const { return m_wrapper; }
     VnJsonPtr result() const { return m_wrapper->resultData(); }
 
-    /// Asks the running command; false when it could not be asked or failed, with the answers
-    /// clear.
+    /// Asks the running command on the dialog's tree. Read the answers from what comes back:
+    /// `askCommand({6, {"IsExistBlock"}})->GetDataB("IsExistBlock")`.
+    VnQtAnswer askCommand(const VnQtRequest& request, const VnQtArgumentWriter& writeArguments = {})
+    {
+        return askCommandOn(m_data, request, writeArguments);
+    }
+    /// The same on another node, which is written and handed over in the tree's place; nothing is
+    /// sent where it is empty.
+    VnQtAnswer askCommandOn(const VnJsonPtr& node, const VnQtRequest& request,
+        const VnQtArgumentWriter& writeArguments = {})
+    {
+        return vnqtAsk(
+            m_data ? node : VnJsonPtr(), m_callBack, m_dialogName, request, writeArguments);
+    }
+
+    /// As `askCommand`, for dialogs that read the answers from their tree.
     bool sendRequest(const VnQtRequest& request, const VnQtArgumentWriter& writeArguments = {})
     {
         return vnqtSendRequest(m_data, m_invoker, m_dialogName, request, writeArguments);
@@ -197,6 +240,7 @@ private:
     VnQtUIModeDialogBase* m_wrapper;
     VnJsonPtr m_data;
     OdRxObjectPtr m_invoker;
+    OdSmartPtr<VnQtCommandInvoker> m_callBack;
     OdAnsiString m_dialogName;
 };
 

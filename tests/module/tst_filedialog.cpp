@@ -1,7 +1,7 @@
-#include "hostfiledialog.h"
 #include "recordinghost.h"
 #include "rows.h"
 #include "trees.h"
+#include "vnqtfiledialog.h"
 #include "vnstrings.h"
 
 #include <QtTest>
@@ -49,6 +49,9 @@ private slots:
         row("several", 0x1000, R"("MutiFile":true,"Open":true)", 1, several, {"/a", "/b"});
         row("several allowed, one given", 0x1003, R"("MutiFile":true,"Open":false)", 1,
             R"({"filePath":"/a"})", {"/a"});
+        row("chosen, without a path", 0, R"("MutiFile":false,"Open":true)", 1, "{}", {});
+        row("several, none of them with a path", 0x1000, R"("MutiFile":true,"Open":true)", 1,
+            R"({"filePaths":["",{}]})", {});
         row("other bits", 0x2ffe, R"("MutiFile":false,"Open":true)", 2, several, {});
     }
 

@@ -42,7 +42,8 @@ private slots:
     void includesPublicHeadersOnly()
     {
         QSet<QString> allowed;
-        for (const char* folder : {"include/oda", "include/vnsi", "include/qt"}) {
+        for (const char* folder :
+            {"include/oda", "include/vnsi", "include/hostextras", "include/qt"}) {
             for (const QString& name : QDir(kRoot.filePath(folder)).entryList(QDir::Files))
                 allowed.insert(name);
         }
@@ -74,11 +75,17 @@ private slots:
         QVERIFY(count > 50);
     }
 
-    void exportsEntryPointsOnly()
+    void exportsEntryPointsAndFileRequestsOnly()
     {
-        QCOMPARE(linesOf("nm", {"-D", "--defined-only"}, "^[0-9a-f]+ \\w ([^_\\s][^\\s@]*)"),
-            (QStringList{"odrxCreateModuleObject", "odrxGetAPIVersion"}));
-        QVERIFY(linesOf("nm", {"-D", "--defined-only"}, "^[0-9a-f]+ \\w (_[^\\s@]*)").isEmpty());
+        QCOMPARE(linesOf("nm", {"-DC", "--defined-only"}, "^[0-9a-f]+ \\w ([^(@\\n]*)"),
+            (QStringList{"odrxCreateModuleObject", "odrxGetAPIVersion", "vnsi::vnqtGetFileName",
+                "vnsi::vnqtGetNavFileName"}));
+    }
+
+    void findsLibrariesBesideItself()
+    {
+        QCOMPARE(linesOf("readelf", {"-d"}, "\\((?:RUNPATH|RPATH)\\).*\\[(.*)\\]"),
+            QStringList{"$ORIGIN"});
     }
 
     void needsPublicLibrariesOnly()

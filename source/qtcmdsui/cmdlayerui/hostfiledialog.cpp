@@ -1,52 +1,84 @@
-#include "hostfiledialog.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
+#include "vnqtfiledialog.h"
 
 #include <algorithm>
+#include <string>
 
 namespace vnsi {
 
 namespace {
 
 constexpr wchar_t kCommonService[] = L"Dialog/Common";
-constexpr int kChosen = 1;
 constexpr int kSaveFlag = 0x1;
 constexpr int kSeveralFlag = 0x1000;
+constexpr int kStringType = 5005;
 
 /// Callers separate the patterns of an entry with ";", the host expects blanks.
 OdString hostFilter(const OdString& filter)
 {
-    std::wstring text(filter.view());
+    std::wstring text(filter.c_str());
     std::replace(text.begin(), text.end(), L';', L' ');
-    return OdString(text);
+    return OdString(text.c_str());
 }
 
 /// "defawlt" is the key's agreed spelling.
-VnJsonPtr makeRequest(const OdString& title, const OdString& defaultName, const OdString& filter)
+VnJsonPtr makeQuestion(const OdString& title, const OdString& defaultName, const OdString& filter)
 {
-    VnJsonPtr request = ElementValue::createObject(2);
-    request->set("title", title).set("defawlt", defaultName).set("filter", hostFilter(filter));
-    return request;
+    VnJsonPtr question = hostapi::makeObject();
+    hostapi::Members(question)
+        .set("title", title)
+        .set("defawlt", defaultName)
+        .set("filter", hostFilter(filter));
+    return question;
 }
 
-void appendPath(VnResbuf**& end, const OdString& path)
+VnJsonPtr show(const wchar_t* dialogName, const VnJsonPtr& question, QWidget* parent)
 {
-    VnResbuf* node = vnsiutNewRb(kVnRtString);
-    if (!node)
-        return;
-    node->rstring = vnsiutNewString(path);
-    *end = node;
-    end = &node->rbnext;
+    return hostapi::showDialogEx(
+        kCommonService, dialogName, question, {}, parent ? parent : hostapi::currentWindow());
 }
 
-VnResbuf* chosenPaths(const IElementValueBase& answer, bool several)
+/// The list of chosen paths while it grows at its end.
+class PathList
 {
-    VnResbuf* list = nullptr;
-    VnResbuf** end = &list;
+public:
+    void append(const OdString& path)
+    {
+        hostextras::ResultBuffer* const node = path.isEmpty() ? nullptr : makeNode(path);
+        if (!node)
+            return;
+        if (m_last)
+            hostextras::setNext(*m_last, node);
+        else
+            m_first = node;
+        m_last = node;
+    }
+    hostextras::ResultBuffer* first() const { return m_first; }
+
+private:
+    static hostextras::ResultBuffer* makeNode(const OdString& path)
+    {
+        hostextras::ResultBuffer* const node = vnsiutNewRb(kStringType);
+        if (node)
+            hostextras::setText(*node, vnsiutNewString(path));
+        return node;
+    }
+
+    hostextras::ResultBuffer* m_first = nullptr;
+    hostextras::ResultBuffer* m_last = nullptr;
+};
+
+hostextras::ResultBuffer* chosenPaths(const IElementValueBase& answer, bool several)
+{
+    PathList list;
     const VnJsonPtr paths = several ? answer.GetDataJ("filePaths") : VnJsonPtr();
-    for (int i = 0, count = paths.ArrayCount(); i < count; ++i)
-        appendPath(end, paths(i)->asSW());
-    if (!list)
-        appendPath(end, answer.GetDataSW("filePath"));
-    return list;
+    for (int i = 0, count = hostapi::count(paths); i < count; ++i)
+        list.append(hostapi::textAt(paths, i));
+    if (!list.first())
+        list.append(answer.GetDataSW("filePath"));
+    return list.first();
 }
 
 } // namespace
@@ -54,31 +86,30 @@ VnResbuf* chosenPaths(const IElementValueBase& answer, bool several)
 int vnqtGetFileName(const OdString& title, const OdString& defaultName, const OdString& filter,
     int flags, OdString& path, QWidget* parent)
 {
-    VnJsonPtr request = makeRequest(title, defaultName, filter);
-    request->set("flags", flags);
-    const VnJsonPtr answer =
-        vnuiShowModelDialogEx(kCommonService, L"FileDialogBox", request, {}, parent);
+    const VnJsonPtr question = makeQuestion(title, defaultName, filter);
+    question->SetDataI("flags", flags);
+    const VnJsonPtr answer = show(L"FileDialogBox", question, parent);
     const int result = answer->GetDataI("result");
-    if (result == kChosen)
+    if (result == kVnAnswerOk)
         path = answer->GetDataSW("filePath");
     return result;
 }
 
 int vnqtGetNavFileName(const OdString& title, const OdString& defaultName, const OdString& caption,
-    const OdString& dialogName, const OdString& filter, int flags, VnResbuf*& paths,
+    const OdString& dialogName, const OdString& filter, int flags, hostextras::ResultBuffer*& paths,
     QWidget* parent)
 {
     const bool several = flags & kSeveralFlag;
-    VnJsonPtr request = makeRequest(title, defaultName, filter);
-    request->set("caption", caption)
+    const VnJsonPtr question = makeQuestion(title, defaultName, filter);
+    hostapi::Members(question)
+        .set("caption", caption)
         .set("dlgname", dialogName)
         .set("Open", !(flags & kSaveFlag))
         .set("MutiFile", several) // The key's agreed spelling.
         .set("flags", flags);
-    const VnJsonPtr answer =
-        vnuiShowModelDialogEx(kCommonService, L"FileNavDialogBox", request, {}, parent);
+    const VnJsonPtr answer = show(L"FileNavDialogBox", question, parent);
     const int result = answer->GetDataI("result");
-    if (result == kChosen)
+    if (result == kVnAnswerOk)
         paths = chosenPaths(*answer, several);
     return result;
 }

@@ -12,11 +12,13 @@
 #include "cmdlaytransui/vnqtlaytransuidlg.h"
 #include "cmdlaywalkui/vnqtlaywalkdlg.h"
 #include "cmdlaywalkui/vnqtlaywalkverifydlg.h"
+#include "hostapi/hostcalls.h"
 #include "vnqtuidynlayercmdimpl.h"
 #include "vornqt.h"
 
 #include <algorithm>
 #include <cwchar>
+#include <string>
 
 namespace vnsi {
 
@@ -50,17 +52,17 @@ constexpr DialogRow kDialogs[] = {
     {L"Dialog/CmdLaytransSetting", makeDialog<VnQtLaytransSettingWgt>},
 };
 
-OdAnsiString objectNameOf(const OdString& dialogName)
+std::string objectNameOf(const OdString& dialogName)
 {
-    OdAnsiString name = OdStringToUtf8String(dialogName);
-    name.replace('/', '_');
-    name.replace('\\', '_');
+    std::string name = OdStringToUtf8String(dialogName).c_str();
+    std::replace(name.begin(), name.end(), '/', '_');
+    std::replace(name.begin(), name.end(), '\\', '_');
     return name;
 }
 
 } // namespace
 
-VnUiModeDialogBasePtr VnQtLayerCmdsUISvr::createDialog(const OdString& dialogName)
+VnUiModeDialogBasePtr VnQtLayerCmdsUISvr::makeDialog(const OdString& dialogName)
 {
     const auto* const row =
         std::find_if(std::begin(kDialogs), std::end(kDialogs), [&](const DialogRow& candidate) {
@@ -70,8 +72,8 @@ VnUiModeDialogBasePtr VnQtLayerCmdsUISvr::createDialog(const OdString& dialogNam
         return {};
 
     VnUiModeDialogBasePtr dialog = row->make();
-    QWidget* parent = qt_windowHandle_to_widget(vnuiCurTargetWindow());
-    if (dialog && dialog->createDialog(parent, 0, objectNameOf(dialogName).c_str()))
+    QWidget* parent = hostapi::currentWindow();
+    if (!dialog.isNull() && dialog->createDialog(parent, 0, objectNameOf(dialogName).c_str()))
         return dialog;
     return {};
 }

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "vndialogs.h"
+#include "hostextras.h"
 
 namespace vnsi {
 
 /// Makes the dialogs of the layer commands by name.
-class VnQtLayerCmdsUISvr : public VnUiService
+class VnQtLayerCmdsUISvr : public hostextras::DialogService
 {
 public:
     /// A new dialog under the host's current window; names compare without regard to case. Null for
     /// an unknown name and for a dialog that cannot be built.
-    VnUiModeDialogBasePtr createDialog(const OdString& dialogName) override;
+    VnUiModeDialogBasePtr makeDialog(const OdString& dialogName) override;
 };
 
 } // namespace vnsi

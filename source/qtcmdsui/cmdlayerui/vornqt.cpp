@@ -1,9 +1,8 @@
 #include "vornqt.h"
 
-#include "vnmessages.h"
-#include "vnproduct.h"
-#include "vnrequests.h"
-#include "vnservicedict.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -16,38 +15,23 @@ namespace {
 Q_LOGGING_CATEGORY(lcRequests, "quenlith.layers.requests", QtWarningMsg)
 
 constexpr int kUndecided = -1;
-constexpr int kAccepted = 1;
-constexpr int kCancelled = 2;
 
 void clearAnswers(IElementValueBase& node, const VnQtRequest& request)
 {
     for (const char* key : request.answers)
-        node.set(key, false);
+        node.SetDataB(key, false);
 }
 
 void reportFailure(const char* cause)
 {
     const QString text = QCoreApplication::translate(
         "vnsi::VnQtRequest", "命令在处理对话框的请求时出错，此次操作没有完成。\n\n原因：%1");
-    vnuiMessageBox(
-        OdString(text.arg(QString::fromUtf8(cause)).toStdWString()), kProductName, kVnIconWarning);
-}
-
-bool invokeGuarded(VnUiDialogInvoker& invoker, const VnJsonPtr& root)
-{
-    try {
-        invoker.invoke(root);
-        return true;
-    } catch (const std::exception& error) {
-        reportFailure(error.what());
-    } catch (...) {
-        reportFailure("未知");
-    }
-    return false;
+    hostapi::messageBox(OdString(text.arg(QString::fromUtf8(cause)).toStdWString().c_str()),
+        kProductName, kVnIconWarning);
 }
 
 void logRequest(
-    const OdAnsiString& dialog, int code, const OdAnsiString& before, const OdAnsiString& after)
+    const OdAnsiString& dialog, int code, const std::string& before, const std::string& after)
 {
     qCDebug(lcRequests, R"({"dialog":"%s","code":%d,"before":%s,"after":%s})", dialog.c_str(), code,
         before.c_str(), after.c_str());
@@ -58,79 +42,65 @@ void writeEnvelope(IElementValueBase& node, const VnQtRequest& request)
     if (request.parameterTree)
         node.SetDataJ("parameter", request.parameterTree);
     else
-        node.set("parameter", request.parameter);
+        node.SetDataI("parameter", request.parameter);
     node.SetDataI(request.codeKey, request.code);
 }
 
-/// Marks what the interface does for this thread while it lives.
-class ScrapMark
-{
-public:
-    explicit ScrapMark(int id) : m_id(id) { vnedPushUIScrap(id); }
-    ~ScrapMark() { vnedPopUIScrap(m_id); }
-    ScrapMark(const ScrapMark&) = delete;
-    ScrapMark& operator=(const ScrapMark&) = delete;
+} // namespace
 
-private:
-    int m_id;
-};
+VnQtAnswer::VnQtAnswer() : m_node(hostapi::makeObject()) {}
 
-/// False where there is nobody to post to.
-bool postAndWait(const std::function<void()>& work)
+VnQtCommandInvoker::VnQtCommandInvoker(const OdRxObjectPtr& command)
+    : m_command(VnUiDialogInvoker::cast(command.get()))
 {
-    const auto server =
-        OdSmartPtr<VnRequestSvr>::castFrom(vn_arbitDict_getservice(L"Core/RequestSvr").get());
-    VnUiProxy* const proxy = server ? grUIProxy(server->currentDocument()) : nullptr;
-    if (!proxy)
-        return false;
-    const ScrapMark mark(proxy->scrapId());
-    int status = proxy->post(L"proxyRequest", OdRxObjectImpl<VnsiRequest>::createObject(work));
-    while (status != kVnRequestDone)
-        status = proxy->serviceReply();
-    return true;
 }
 
-} // namespace
+bool VnQtCommandInvoker::hasAnswered(const VnJsonPtr& tree)
+{
+    if (!m_command)
+        return false;
+    try {
+        m_command->invoke(tree);
+        return true;
+    } catch (const std::exception& error) {
+        reportFailure(error.what());
+    } catch (...) {
+        reportFailure("未知");
+    }
+    return false;
+}
+
+// What it needs is taken by value: the command may end the dialog that holds the rest.
+VnQtAnswer vnqtAsk(VnJsonPtr node, OdSmartPtr<VnQtCommandInvoker> invoker, OdAnsiString dialogName,
+    const VnQtRequest& request, const VnQtArgumentWriter& writeArguments)
+{
+    if (!node || !invoker || !invoker->hasCommand())
+        return {};
+    writeEnvelope(*node, request);
+    if (writeArguments)
+        writeArguments(*node);
+    clearAnswers(*node, request);
+
+    const bool isLogged = lcRequests().isDebugEnabled();
+    const std::string before = isLogged ? hostapi::jsonOf(node) : std::string();
+    const bool isAnswered = invoker->hasAnswered(node);
+    if (!isAnswered)
+        clearAnswers(*node, request);
+    if (isLogged)
+        logRequest(dialogName, request.code, before, hostapi::jsonOf(node));
+    return isAnswered ? VnQtAnswer(node) : VnQtAnswer();
+}
 
 bool vnqtSendRequest(const VnJsonPtr& root, const OdRxObjectPtr& invoker,
     const OdAnsiString& dialogName, const VnQtRequest& request,
     const VnQtArgumentWriter& writeArguments)
 {
-    const auto callBack = VnUiDialogInvoker::cast(invoker.get());
-    if (!root || !callBack)
-        return false;
-
-    IElementValueBase& node = request.node ? *request.node : *root;
-    writeEnvelope(node, request);
-    if (writeArguments)
-        writeArguments(node);
-    clearAnswers(node, request);
-
-    const bool logged = lcRequests().isDebugEnabled();
-    const OdAnsiString before = logged ? ElementValue::toJson(root) : OdAnsiString();
-    const VnJsonPtr handedOver = root;
-    const bool answered = invokeGuarded(*callBack, handedOver);
-    if (!answered)
-        clearAnswers(node, request);
-    if (logged)
-        logRequest(dialogName, request.code, before, ElementValue::toJson(root));
-    return answered;
+    const OdSmartPtr<VnQtCommandInvoker> guarded =
+        OdRxObjectImpl<VnQtCommandInvoker>::createObject(invoker);
+    return bool(vnqtAsk(root, guarded, dialogName, request, writeArguments));
 }
 
-bool vnqtRunOnUiThread(const std::function<void()>& work)
-{
-    if (vnedIsRunningInUI()) {
-        work();
-        return true;
-    }
-    try {
-        return vnedIsRunningInCommand() && postAndWait(work);
-    } catch (...) {
-        return false; // The caller may be a destructor, which nothing may leave.
-    }
-}
-
-VnQtUIModeDialogBase::VnQtUIModeDialogBase() : m_result(ElementValue::createObject(2)) {}
+VnQtUIModeDialogBase::VnQtUIModeDialogBase() : m_result(hostapi::makeObject()) {}
 
 VnQtUIModeDialogBase::~VnQtUIModeDialogBase()
 {
@@ -139,7 +109,7 @@ VnQtUIModeDialogBase::~VnQtUIModeDialogBase()
 
 void VnQtUIModeDialogBase::endDialog(int code)
 {
-    m_result->set("result", code);
+    m_result->SetDataI("result", code);
     if (m_dialog)
         m_dialog->close();
 }
@@ -147,7 +117,7 @@ void VnQtUIModeDialogBase::endDialog(int code)
 int VnQtUIModeDialogBase::doModal()
 {
     if (auto* dialog = qobject_cast<QDialog*>(m_dialog.data())) {
-        m_result->set("result", kUndecided);
+        m_result->SetDataI("result", kUndecided);
         int exitCode = dialog->exec();
         while (m_reshow && m_dialog) {
             m_reshow = 0;
@@ -155,9 +125,9 @@ int VnQtUIModeDialogBase::doModal()
         }
         if (m_result->GetDataI("result", kUndecided) == kUndecided) {
             if (exitCode == QDialog::Rejected)
-                m_result->set("result", kCancelled);
+                m_result->SetDataI("result", kVnAnswerCancel);
             else if (exitCode == QDialog::Accepted)
-                m_result->set("result", kAccepted);
+                m_result->SetDataI("result", kVnAnswerOk);
         }
     }
     return m_result->GetDataI("result", kUndecided);

@@ -1,0 +1,164 @@
+#pragma once
+
+#include "OdArray.h"
+#include "OdString.h"
+#include "RxObjectImpl.h"
+#include "vndialogs.h"
+#include "vndocument.h"
+#include "vneditprimitive.h"
+#include "vnjson.h"
+#include "vnrequests.h"
+#include "vnresbuf.h"
+
+#include <functional>
+#include <string>
+
+/// What the layer module needs of a host beyond the names that every host's headers have. A host
+/// brings a header of this name with the same functions and types, found by the include path; only
+/// the module's folder hostapi/ includes it. No handle passed in is empty.
+namespace hostextras {
+
+// The value tree: arrays, and what else its setters and getters do not reach.
+
+/// A new array without elements; `capacity` says how many are coming.
+inline vnsi::VnJsonPtr createArray(int capacity)
+{
+    return vnsi::ElementValue::createArray(capacity);
+}
+
+/// Appends a node, which is shared and not copied.
+inline void append(const vnsi::VnJsonPtr& array, const vnsi::VnJsonPtr& node)
+{
+    array->Append(node);
+}
+
+inline void appendInt(const vnsi::VnJsonPtr& array, OdInt32 value)
+{
+    array->AppendI(value);
+}
+
+inline void appendText(const vnsi::VnJsonPtr& array, const OdString& value)
+{
+    array->AppendSW(value);
+}
+
+/// Removes the element at `index`, which is one of the array's.
+inline void removeItem(const vnsi::VnJsonPtr& array, int index)
+{
+    array->Remove(index);
+}
+
+/// The number that an element of an array is; `fallback` for an element of another type.
+inline OdInt32 intOf(const vnsi::VnJsonPtr& element, OdInt32 fallback)
+{
+    return element->asI(fallback);
+}
+
+/// The text that an element of an array is; empty for an element of another type.
+inline OdString textOf(const vnsi::VnJsonPtr& element)
+{
+    return element->asSW();
+}
+
+/// A deep copy, which shares no node with the original.
+inline vnsi::VnJsonPtr copyOf(const vnsi::VnJsonPtr& node)
+{
+    return vnsi::ElementValue::clone(node);
+}
+
+/// Takes a key out of an object; nothing where it has none such.
+inline void removeKey(vnsi::IElementValueBase& object, const char* key)
+{
+    object.RemoveKey(key);
+}
+
+/// The node as one line of JSON in UTF-8, for the request log.
+inline std::string jsonOf(const vnsi::VnJsonPtr& node)
+{
+    return vnsi::ElementValue::toJson(node).c_str();
+}
+
+// Services that are found in the service dictionary and used as what they are.
+
+/// The colours of the indices in the current document, of the service "Core/DocMgr"; empty where
+/// no document is open.
+inline OdArray<ODCOLORREF> currentColorTable(const OdRxObjectPtr& documentManager)
+{
+    const auto manager = vnsi::VnDocMgr::cast(documentManager.get());
+    const auto document = manager ? manager->currentDocument() : vnsi::VnDocumentPtr();
+    return document ? document->colorTable() : OdArray<ODCOLORREF>();
+}
+
+/// Calls the help entry of the service "Core/EditPrimitiveServer".
+inline void callHelp(const OdRxObjectPtr& editPrimitiveServer, int topic)
+{
+    if (const auto server = vnsi::VnEditPrimitiveServer::cast(editPrimitiveServer.get()))
+        server->help(topic);
+}
+
+// The way of a command's thread to the user interface.
+
+using UiProxy = vnsi::VnUiProxy;
+
+/// The proxy of the current document of the service "Core/RequestSvr"; null where there is none.
+inline UiProxy* currentProxy(const OdRxObjectPtr& requestServer)
+{
+    const auto server = vnsi::VnRequestSvr::cast(requestServer.get());
+    return server ? vnsi::grUIProxy(server->currentDocument()) : nullptr;
+}
+
+/// The mark for the interface's present state, as `vnedPushUIScrap` takes it.
+inline int scrapId(const UiProxy& proxy)
+{
+    return proxy.scrapId();
+}
+
+/// A `VnsiRequest` that carries `work`.
+inline OdRxObjectPtr makeRequest(const std::function<void()>& work)
+{
+    return OdRxObjectImpl<vnsi::VnsiRequest>::createObject(work);
+}
+
+/// Posts a request under a name. Returns the status, which is -5019 when it is done already.
+inline int post(UiProxy& proxy, const OdString& name, const OdRxObjectPtr& request)
+{
+    return proxy.post(name, request);
+}
+
+/// Waits for the next reply to what was posted; returns the status, -5019 when it is done.
+inline int serviceReply(UiProxy& proxy)
+{
+    return proxy.serviceReply();
+}
+
+// Result-buffer lists.
+
+using ResultBuffer = vnsi::VnResbuf;
+
+/// Hands the text, which `vnsiutNewString` made, to a string node.
+inline void setText(ResultBuffer& node, wchar_t* text)
+{
+    node.rstring = text;
+}
+
+inline void setNext(ResultBuffer& node, ResultBuffer* next)
+{
+    node.rbnext = next;
+}
+
+// The dialog service.
+
+/// A service under the host's own name for its operation.
+class DialogService : public vnsi::VnUiService
+{
+public:
+    /// A new dialog; empty for a name that is not known.
+    virtual vnsi::VnUiModeDialogBasePtr makeDialog(const OdString& dialogName) = 0;
+
+    vnsi::VnUiModeDialogBasePtr createDialog(const OdString& dialogName) final
+    {
+        return makeDialog(dialogName);
+    }
+};
+
+} // namespace hostextras

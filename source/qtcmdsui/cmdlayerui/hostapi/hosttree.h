@@ -1,0 +1,158 @@
+#pragma once
+
+#include "hostextras.h"
+#include "vnjson.h"
+
+#include <string>
+
+/// What the module does with value trees beyond the typed getters and setters. Nothing here takes
+/// an empty handle amiss: it reads as nothing, and writing to it does nothing.
+namespace vnsi::hostapi {
+
+inline VnJsonPtr makeObject()
+{
+    return ElementValue::createObject(2);
+}
+
+inline VnJsonPtr makeArray(int capacity = 0)
+{
+    return hostextras::createArray(capacity);
+}
+
+/// The elements of an array; 0 for other kinds of nodes.
+inline int count(const VnJsonPtr& array)
+{
+    return array ? array->ArrayCount() : 0;
+}
+
+/// Element `index`; empty outside the array.
+inline VnJsonPtr item(const VnJsonPtr& array, int index)
+{
+    return index >= 0 && index < count(array) ? array(index) : VnJsonPtr();
+}
+
+/// Appends a node, which is shared and not copied.
+inline void append(const VnJsonPtr& array, const VnJsonPtr& node)
+{
+    if (array && node)
+        hostextras::append(array, node);
+}
+
+inline void append(const VnJsonPtr& array, OdInt32 value)
+{
+    if (array)
+        hostextras::appendInt(array, value);
+}
+
+inline void append(const VnJsonPtr& array, const OdString& value)
+{
+    if (array)
+        hostextras::appendText(array, value);
+}
+
+inline void removeItem(const VnJsonPtr& array, int index)
+{
+    if (index >= 0 && index < count(array))
+        hostextras::removeItem(array, index);
+}
+
+/// Element `index` of an array of numbers.
+inline OdInt32 intAt(const VnJsonPtr& array, int index, OdInt32 fallback = 0)
+{
+    const VnJsonPtr element = item(array, index);
+    return element ? hostextras::intOf(element, fallback) : fallback;
+}
+
+/// Element `index` of an array of texts.
+inline OdString textAt(const VnJsonPtr& array, int index)
+{
+    const VnJsonPtr element = item(array, index);
+    return element ? hostextras::textOf(element) : OdString();
+}
+
+/// A deep copy; empty for an empty handle.
+inline VnJsonPtr copyOf(const VnJsonPtr& node)
+{
+    return node ? hostextras::copyOf(node) : VnJsonPtr();
+}
+
+/// Whether a number stands under the key, be it 0.
+inline bool holdsInt(const VnJsonPtr& node, const char* key)
+{
+    return node && node->GetDataI(key, 0) == node->GetDataI(key, 1);
+}
+
+inline void removeKey(IElementValueBase& node, const char* key)
+{
+    hostextras::removeKey(node, key);
+}
+
+inline void removeKey(const VnJsonPtr& node, const char* key)
+{
+    if (node)
+        removeKey(*node, key);
+}
+
+/// Hangs a sub-tree under a key; an empty one takes the key away.
+inline void setTree(IElementValueBase& node, const char* key, const VnJsonPtr& tree)
+{
+    if (tree)
+        node.SetDataJ(key, tree);
+    else
+        removeKey(node, key);
+}
+
+inline std::string jsonOf(const VnJsonPtr& node)
+{
+    return node ? hostextras::jsonOf(node) : std::string("null");
+}
+
+/// Writes members one after another; the setter goes by the value's type.
+class Members
+{
+public:
+    explicit Members(const VnJsonPtr& node) : m_node(node.get()) {}
+    explicit Members(IElementValueBase& node) : m_node(&node) {}
+
+    const Members& set(const char* key, bool value) const
+    {
+        if (m_node)
+            m_node->SetDataB(key, value);
+        return *this;
+    }
+    const Members& set(const char* key, OdInt32 value) const
+    {
+        if (m_node)
+            m_node->SetDataI(key, value);
+        return *this;
+    }
+    const Members& set(const char* key, OdInt64 value) const
+    {
+        if (m_node)
+            m_node->SetDataL(key, value);
+        return *this;
+    }
+    const Members& set(const char* key, const OdString& value) const
+    {
+        if (m_node)
+            m_node->SetDataSW(key, value);
+        return *this;
+    }
+    const Members& set(const char* key, const wchar_t* value) const // Else a literal is a bool.
+    {
+        return set(key, OdString(value));
+    }
+    const Members& set(const char* key, const VnJsonPtr& tree) const
+    {
+        if (m_node)
+            setTree(*m_node, key, tree);
+        return *this;
+    }
+    template <class T>
+    const Members& set(const char* key, const T* value) const = delete; // It would be a bool.
+
+private:
+    IElementValueBase* m_node;
+};
+
+} // namespace vnsi::hostapi
