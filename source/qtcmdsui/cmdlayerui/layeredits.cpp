@@ -1,39 +1,40 @@
 #include "layeredits.h"
 
-#include "vndialogs.h"
-#include "vnmessages.h"
-#include "vnproduct.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "vnqtuilayertransparencymodify.h"
 
 namespace vnsi::layeredits {
 
 namespace {
 
-constexpr int kQuestionStyle = 68; // Yes and No.
+constexpr int kQuestionStyle = kVnYesNo | kVnIconInformation;
 
 } // namespace
 
 bool asksToKeepCurrentOn()
 {
-    return vnuiMessageBox(L"当前图层将被关闭。\n是否要使当前图层保持打开状态?\n", kProductName,
+    return hostapi::messageBox(L"当前图层将被关闭。\n是否要使当前图层保持打开状态?\n", kProductName,
                kQuestionStyle) == kVnAnswerYes;
 }
 
 void refuseToFreezeCurrent()
 {
-    vnuiMessageBox(L"不能冻结当前图层\n", kProductName, kVnIconInformation);
+    hostapi::messageBox(L"不能冻结当前图层\n", kProductName, kVnIconInformation);
 }
 
 bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent)
 {
     const LayerColor color = record.color();
-    question->SetDataL("selectClr", color.chosenValue());
-    question->set("isByLayerEnable", 0)
+    hostapi::Members(question)
+        .set("selectClr", color.chosenValue())
+        .set("isByLayerEnable", 0)
         .set("isByBLockEnable", 0)
         .set("clrMethod", static_cast<int>(color.method));
     const VnJsonPtr answer =
-        vnuiShowModelDialogEx(L"Dialog/Common", L"ColorDialog", question, {}, parent);
-    if (answer->GetDataI("result") != 1)
+        hostapi::showDialogEx(L"Dialog/Common", L"ColorDialog", question, {}, parent);
+    if (answer->GetDataI("result") != kVnAnswerOk)
         return false;
     record.setColor({answer->GetDataL("clrMethod", 0), answer->GetDataL("selectClr", -1)});
     return true;
@@ -41,7 +42,7 @@ bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent)
 
 bool editTransparency(LayerRecord record)
 {
-    VnJsonPtr tree = ElementValue::createObject(2);
+    VnJsonPtr tree = hostapi::makeObject();
     tree->SetDataI("transparency", record.number(layerkey::kTransparency));
     VnQtUiLayerTransparencyModify dialog;
     dialog.setData(tree);

@@ -1,8 +1,10 @@
 #include "layerlistparts.h"
 
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "layernamedelegate.h"
 #include "layerrecord.h"
-#include "vnmessages.h"
 #include "vnstrings.h"
 
 #include <QDialog>
@@ -31,8 +33,8 @@ void fill(QListWidget& list, const VnJsonPtr& layers)
 {
     list.clear();
     QStringList names;
-    for (int i = 0, count = layers.ArrayCount(); i < count; ++i)
-        names.append(vnutOdStringToQString(LayerRecord(layers(i)).name()));
+    for (int i = 0, count = hostapi::count(layers); i < count; ++i)
+        names.append(vnutOdStringToQString(LayerRecord(hostapi::item(layers, i)).name()));
     list.addItems(names);
     list.setCurrentRow(0);
 }
@@ -62,8 +64,8 @@ VnJsonPtr records(const VnJsonPtr& tree)
 
 void mark(const VnJsonPtr& layers, const QSet<QString>& names, int status)
 {
-    for (int i = 0, count = layers.ArrayCount(); i < count; ++i) {
-        LayerRecord record(layers(i));
+    for (int i = 0, count = hostapi::count(layers); i < count; ++i) {
+        LayerRecord record(hostapi::item(layers, i));
         if (!names.contains(vnutOdStringToQString(record.name())))
             continue;
         record.setStatus(status);
@@ -73,15 +75,14 @@ void mark(const VnJsonPtr& layers, const QSet<QString>& names, int status)
 
 bool refuse(const wchar_t* text, const wchar_t* caption)
 {
-    vnuiMessageBox(text, caption, kVnOk);
+    hostapi::messageBox(text, caption, kVnOk);
     return false;
 }
 
 bool confirm(const wchar_t* caption, const QString& text, int buttons, int consent)
 {
-    const VnJsonPtr answer = vnuiMessageBoxEx(caption, vnutQStringToOdString(text),
-        ElementValue::createObject(2), buttons, 1, kVnIconQuestion);
-    return answer->GetDataI("ControlBtn") == consent;
+    return hostapi::messageBoxEx(
+               caption, vnutQStringToOdString(text), {}, buttons, 1, kVnIconQuestion) == consent;
 }
 
 } // namespace vnsi::layerlist

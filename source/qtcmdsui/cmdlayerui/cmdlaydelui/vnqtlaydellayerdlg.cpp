@@ -2,10 +2,11 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
 #include "layertoolkeys.h"
-#include "vnmessages.h"
 #include "vnstrings.h"
 
 #include <QLabel>
@@ -73,15 +74,14 @@ bool VnQtLaydelLayerDlg::isReferencedInBlocks(const QSet<QString>& names)
 {
     const auto markSelected = [&](IElementValueBase& tree) {
         const VnJsonPtr list = tree.GetDataJ(layerkey::kList);
-        for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-            LayerRecord record(list(i));
+        for (int i = 0, count = hostapi::count(list); i < count; ++i) {
+            LayerRecord record(hostapi::item(list, i));
             record.setFlag(
                 layerkey::kIsSelected, names.contains(vnutOdStringToQString(record.name())));
         }
     };
-    // Nobody to ask: what an earlier answer left in the tree does not count.
-    return sendRequest({kDeleteAskBlocks, {layertoolkey::kIsExistBlock}}, markSelected) &&
-           data()->GetDataB(layertoolkey::kIsExistBlock);
+    return askCommand({kDeleteAskBlocks, {layertoolkey::kIsExistBlock}}, markSelected)
+        ->GetDataB(layertoolkey::kIsExistBlock);
 }
 
 QString VnQtLaydelLayerDlg::question(bool inBlocks, int count, const QString& single) const

@@ -1,5 +1,7 @@
 #include "statetexts.h"
 
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
 #include "namerule.h"
 #include "vnstrings.h"
 
@@ -13,7 +15,7 @@ OdString badCharactersText()
 
 VnJsonPtr element(const VnJsonPtr& tree, Element element)
 {
-    return tree ? tree->GetDataJ(kManager)(element) : VnJsonPtr();
+    return tree ? hostapi::item(tree->GetDataJ(kManager), element) : VnJsonPtr();
 }
 
 QString text(const VnJsonPtr& node, const char* key)
@@ -30,12 +32,11 @@ int ask(const OdString& caption, const OdString& text,
     std::initializer_list<const wchar_t*> buttons, int fallback, int icon)
 {
     constexpr const char* kKeys[] = {"btnText/0", "btnText/1", "btnText/2", "btnText/3"};
-    const VnJsonPtr options = ElementValue::createObject(2);
+    const VnJsonPtr options = hostapi::makeObject();
     const auto* key = std::begin(kKeys);
     for (const wchar_t* button : buttons)
-        options->set(*key++, OdString(button));
-    return vnuiMessageBoxEx(caption, text, options, kVnCustomButtons, 1, icon)
-        ->GetDataI("ControlBtn", fallback);
+        options->SetDataSW(*key++, button);
+    return hostapi::messageBoxEx(caption, text, options, kVnCustomButtons, 1, icon, fallback);
 }
 
 } // namespace vnsi::layerstates

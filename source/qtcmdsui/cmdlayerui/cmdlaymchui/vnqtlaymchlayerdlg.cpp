@@ -2,11 +2,12 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
 #include "layertoolkeys.h"
 #include "namerule.h"
-#include "vnmessages.h"
 #include "vnstrings.h"
 
 #include <QLabel>
@@ -113,8 +114,8 @@ void VnQtLaymchLayerDlg::slot_SureBtnClicked(bool)
 bool VnQtLaymchLayerDlg::isKnown(const QString& name) const
 {
     const VnJsonPtr list = layerlist::records(data());
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        if (isSameName(vnutOdStringToQString(LayerRecord(list(i)).name()), name))
+    for (int i = 0, count = hostapi::count(list); i < count; ++i) {
+        if (isSameName(vnutOdStringToQString(LayerRecord(hostapi::item(list, i)).name()), name))
             return true;
     }
     return false;
@@ -131,7 +132,7 @@ bool VnQtLaymchLayerDlg::confirmNewLayer(const QString& name) const
 void VnQtLaymchLayerDlg::markNewLayer(const QString& name)
 {
     const VnJsonPtr list = layerlist::records(data());
-    LayerRecord last(list(list.ArrayCount() - 1));
+    LayerRecord last(hostapi::item(list, hostapi::count(list) - 1));
     if (last.isNull() || vnutOdStringToQString(last.name()) == name)
         return;
     last.setStatus(kLayerNewTarget);

@@ -2,12 +2,12 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
 #include "layertoolkeys.h"
 #include "namerule.h"
-#include "vnmessages.h"
-#include "vnproduct.h"
 #include "vnstrings.h"
 
 #include <QLabel>
@@ -38,14 +38,14 @@ bool VnQtLaymrgLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 void VnQtLaymrgLayerDlg::readTree()
 {
     const VnJsonPtr list = layerlist::records(data());
-    const LayerRecord first(list(0));
+    const LayerRecord first(hostapi::item(list, 0));
     if (!m_list) // The layout stands for one of the modes, so the first tree decides.
         m_sourceMode = first.flag(layertoolkey::kIsFrom);
     m_blockReferences = first.number(layertoolkey::kBlockReferences);
     m_names.clear();
     m_sources.clear();
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        const LayerRecord record(list(i));
+    for (int i = 0, count = hostapi::count(list); i < count; ++i) {
+        const LayerRecord record(hostapi::item(list, i));
         m_names.append(vnutOdStringToQString(record.name()));
         if (!m_sourceMode && record.flag(layertoolkey::kSourceLayer))
             m_sources.append(m_names.last());
@@ -131,7 +131,7 @@ bool VnQtLaymrgLayerDlg::acceptTarget(const QString& target) const
 
 void VnQtLaymrgLayerDlg::markTarget(const QString& target)
 {
-    LayerRecord record(layerlist::records(data())(m_names.indexOf(target)));
+    LayerRecord record(hostapi::item(layerlist::records(data()), m_names.indexOf(target)));
     record.setStatus(kLayerMergeTarget);
     record.markModifiedByAction();
 }
