@@ -95,13 +95,13 @@ Drawing::Drawing() : d(std::make_unique<Private>()) {}
 Drawing::~Drawing() = default;
 
 Expected<std::unique_ptr<Drawing>> Drawing::open(
-    const QString& path, Progress* progress, QThread* owner)
+    const QString& path, Progress* progress, QThread* owner, const OpenOptions& options)
 {
     std::unique_ptr<Drawing> drawing(new Drawing);
     if (const auto mapped = drawing->d->map(path); !mapped)
         return tl::make_unexpected(mapped.error());
     try {
-        if (const auto loaded = loadDrawing(drawing->d->data, path, progress); !loaded)
+        if (const auto loaded = loadDrawing(drawing->d->data, path, options, progress); !loaded)
             return tl::make_unexpected(loaded.error());
     } catch (const std::bad_alloc&) {
         return tl::make_unexpected(Error{tr("无法打开文件“%1”：内存不足。").arg(path), 0, false});
@@ -138,6 +138,11 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
 QString Drawing::path() const
 {
     return d->path;
+}
+
+QStringList Drawing::openingNotices() const
+{
+    return d->data.openingNotices;
 }
 
 bool Drawing::isModified() const

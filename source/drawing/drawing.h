@@ -6,6 +6,7 @@
 #include "layerstate.h"
 #include "layouts.h"
 #include "linetypedefinition.h"
+#include "openoptions.h"
 #include "tagreader.h"
 #include "textcodec.h"
 #include "viewportlayers.h"
@@ -40,8 +41,8 @@ class Drawing : public QObject
 public:
     /// Maps and indexes `path`. Refuses (naming line and cause) what is no readable DXF file.
     /// May run on a worker thread; the result is moved to `owner`.
-    static Expected<std::unique_ptr<Drawing>> open(
-        const QString& path, Progress* progress = nullptr, QThread* owner = nullptr);
+    static Expected<std::unique_ptr<Drawing>> open(const QString& path,
+        Progress* progress = nullptr, QThread* owner = nullptr, const OpenOptions& options = {});
     ~Drawing() override;
 
     /// Writes the drawing through a temporary file that replaces `path` only when whole.
@@ -50,6 +51,8 @@ public:
     Expected<void> save(const QString& path, Progress* progress = nullptr);
 
     QString path() const;
+    /// What had to be guessed when the file was read, a sentence each.
+    QStringList openingNotices() const;
     /// True when the drawing differs from what its file holds.
     bool isModified() const;
 
@@ -99,7 +102,7 @@ public:
     const Block* findBlock(const QString& name) const; ///< Without regard to letter case.
     /// The tags of an entity as they stand in the file read; valid as long as the drawing is open.
     TagReader tags(const Entity& entity) const;
-    /// Text of a value in the file's code page, `\U+XXXX` escapes resolved.
+    /// Text of a value in the file's code page, escapes resolved.
     QString decoded(std::string_view value) const;
     const TextCodec& codec() const; ///< Of the file's text.
 

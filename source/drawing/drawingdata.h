@@ -115,8 +115,9 @@ struct DrawingData
     std::vector<LayerNamePlace> namePlaces;
     std::vector<Layout> layouts;                         ///< One at least.
     std::shared_ptr<const LayerStateTable> loadedStates; ///< Null until they are asked for.
-    QString statesPath;  ///< Where a format without objects keeps layer states.
-    QString statesFault; ///< Why these could not be read.
+    QStringList openingNotices; ///< What had to be guessed or left out when it was read.
+    QString statesPath;         ///< Where a format without objects keeps layer states.
+    QString statesFault;        ///< Why these could not be read.
 
     EditJournal journal;
     LayerTable layers;

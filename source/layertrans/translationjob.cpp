@@ -100,7 +100,7 @@ Outcome TranslationJob::run(const Job& job, drawing::Progress& progress) const
     outcome.leftOut = static_cast<int>(report.mappings.size()) - outcome.applied;
     outcome.moved = report.translatedCount();
     outcome.untouched = report.entities - outcome.moved;
-    QStringList notices = report.notices;
+    QStringList notices = (*opened)->openingNotices() + report.notices;
     for (const drawing::MappingResult& result : report.mappings)
         notices += result.notices;
     outcome.text = notices.join(QString());

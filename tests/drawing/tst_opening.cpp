@@ -123,6 +123,64 @@ private slots:
         QVERIFY(!drawing->findLayer("defpoints")->properties.plotted);
     }
 
+    void codePages_data()
+    {
+        const Rows<QByteArray, QByteArray, QByteArray, QByteArray, QString, QString> row(
+            "version", "codePage", "chosen", "wall", "name", "notice");
+        const QString wall = QStringLiteral("墙");
+        row("as declared", "AC1018", "ANSI_936", "", "\xc7\xbd", wall, "");
+        row("UTF-8 though another is declared", "AC1018", "ANSI_936", "", "\xe5\xa2\x99", wall, "");
+        row("UTF-8 in R12", "AC1009", "", "", "\xe5\xa2\x99", wall, "");
+        row("a pair that is both", "AC1018", "ANSI_936", "", "\xd0\xa1", "小", "");
+        row("unknown", "AC1018", "MARTIAN", "", "\xe9", "é", "“MARTIAN”");
+        row("unknown and ASCII", "AC1018", "MARTIAN", "", "e", "e", "“MARTIAN”");
+        row("none", "AC1009", "", "", "\xe9", "é", "没有说明");
+        row("none and ASCII", "AC1009", "ascii", "", "e", "e", "");
+        row("chosen", "AC1018", "ANSI_1252", "ANSI_1251", "\xd1", "С", "");
+        row("chosen against UTF-8", "AC1027", "ANSI_1252", "gbk", "\xc7\xbd", wall, "");
+    }
+
+    void codePages()
+    {
+        QFETCH(QByteArray, version);
+        QFETCH(QByteArray, codePage);
+        QFETCH(QByteArray, chosen);
+        QFETCH(QString, notice);
+        QFETCH(QByteArray, wall);
+        House house;
+        house.version = version;
+        house.wall = wall;
+        const QByteArray bytes = house.bytes().replace("ANSI_936", codePage);
+        const auto drawing = Drawing::open(write(bytes), nullptr, nullptr, {chosen});
+        QTEST((*drawing)->layers().at(1).properties.name, "name");
+        const QString notices = (*drawing)->openingNotices().join(QString());
+        QCOMPARE(notices.isEmpty(), notice.isEmpty());
+        QVERIFY2(notices.contains(notice), qPrintable(notices));
+    }
+
+    void unknownCodePageChosen()
+    {
+        const auto drawing = Drawing::open(write(House().bytes()), nullptr, nullptr, {"MARTIAN"});
+        QVERIFY(!drawing && drawing.error().text.contains("MARTIAN"));
+    }
+
+    /// Names that cannot be read are names all the same: told apart, and written as they were.
+    void unreadableNames()
+    {
+        House house;
+        house.wall = "A\xfe";
+        house.current = "0";
+        house.moreLayers = "0 LAYER\n2 A\xff\n";
+        const QByteArray bytes = house.bytes();
+        const auto drawing = opened(bytes);
+        QCOMPARE(drawing->layers().size(), size_t(5));
+        QVERIFY(inStep(*drawing,
+            [&] { return drawing->mergeLayers({id(*drawing, "A�FE")}, id(*drawing, "A�FF")); }));
+        QVERIFY(!saved(*drawing).contains("A\xfe"));
+        QCOMPARE(saved(*drawing).count("A\xff"), 1 + bytes.count("A\xfe") - 2);
+        checkUndo(*drawing, bytes);
+    }
+
     void entities()
     {
         const auto drawing = opened(House().bytes());

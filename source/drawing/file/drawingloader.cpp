@@ -1,5 +1,6 @@
 #include "drawingloader.h"
 
+#include "codepages.h"
 #include "drawingindexer.h"
 #include "handles.h"
 
@@ -89,6 +90,7 @@ public:
     explicit Loader(DrawingData& data) : m_data(data) {}
 
     void loadHeader();
+    Expected<void> chooseCodec(const OpenOptions& options);
     void loadSymbols();
     void loadPlotStyles();
     void loadLayerRecords();
@@ -102,6 +104,12 @@ private:
     {
         return m_data.index.variable(which).trimmed();
     }
+    /// Files without a version come from programs that write R12.
+    std::string_view version() const
+    {
+        const std::string_view stated = variable(HeaderVariable::Version);
+        return stated.empty() ? "AC1009" : stated;
+    }
     QString symbolName(const ByteRange& record) const;
     LayerId layerNamed(std::string_view spelling);
 
@@ -111,14 +119,43 @@ private:
 
 void Loader::loadHeader()
 {
-    std::string_view version = variable(HeaderVariable::Version);
-    if (version.empty())
-        version = "AC1009"; // Files without a version come from programs that write R12.
-    m_data.codec = TextCodec(version, variable(HeaderVariable::CodePage));
-    m_data.limits = LayerRecordLimits::of(version);
+    m_data.limits = LayerRecordLimits::of(version());
     const std::string_view mode = variable(HeaderVariable::PlotStyleMode);
     m_data.plotStylesByColor = mode != "0";
     m_data.state.modelSpace = variable(HeaderVariable::TileMode) != "0";
+}
+
+/// The code page wanted, else the file's own; texts that are plainly UTF-8 are read so, whatever an
+/// old file says. What had to be guessed is noted.
+Expected<void> Loader::chooseCodec(const OpenOptions& options)
+{
+    const std::string_view named = variable(HeaderVariable::CodePage);
+    if (!options.codePage.isEmpty()) {
+        const auto wanted = TextCodec::ofCodePage(
+            {options.codePage.constData(), static_cast<size_t>(options.codePage.size())});
+        if (!wanted)
+            return tl::make_unexpected(
+                Error{tr("没有代码页“%1”。").arg(QString::fromUtf8(options.codePage)), 0, false});
+        m_data.codec = *wanted;
+        return {};
+    }
+    m_data.codec = TextCodec(version(), named);
+    if (m_data.codec == TextCodec::utf8())
+        return {};
+    const bool isKnown = TextCodec::ofCodePage(named).has_value();
+    TextEvidence evidence;
+    evidence.add(m_data.bytes);
+    if (evidence.speaksForUtf8(m_data.codec))
+        m_data.codec = TextCodec::utf8();
+    else if (!isKnown && !isNoCodePage(named))
+        m_data.openingNotices += tr("图形声明的代码页“%1”无法识别，文字按 %2 读取；"
+                                    "可以用其他代码页重新打开。")
+                                     .arg(shown(named), m_data.codec.title());
+    else if (!isKnown && !evidence.isAscii())
+        m_data.openingNotices += tr("图形没有说明文字的代码页，按 %1 读取；"
+                                    "可以用其他代码页重新打开。")
+                                     .arg(m_data.codec.title());
+    return {};
 }
 
 QString Loader::symbolName(const ByteRange& record) const
@@ -264,7 +301,8 @@ void Loader::loadLayouts()
 
 } // namespace
 
-Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress* progress)
+Expected<void> loadDrawing(
+    DrawingData& data, const QString& fileName, const OpenOptions& options, Progress* progress)
 {
     if (auto known = checkFormat(data.bytes, fileName); !known)
         return known;
@@ -273,6 +311,8 @@ Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress*
         return tl::make_unexpected(faultError(data, *fault, fileName));
     Loader loader(data);
     loader.loadHeader();
+    if (auto chosen = loader.chooseCodec(options); !chosen)
+        return chosen;
     if (data.limits.markers && data.index.table(TableKind::Layer).isNull()) {
         const qint64 offset =
             data.index.tablesEnd < 0 ? data.index.firstBody : data.index.tablesEnd;

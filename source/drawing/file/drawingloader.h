@@ -2,6 +2,7 @@
 
 #include "drawingdata.h"
 #include "error.h"
+#include "openoptions.h"
 
 namespace drawing {
 
@@ -9,6 +10,7 @@ struct Progress;
 
 /// Indexes `data.bytes` and fills in all that is known of a drawing when it is opened. Refuses
 /// what is no readable drawing, in words that call the file `fileName`.
-Expected<void> loadDrawing(DrawingData& data, const QString& fileName, Progress* progress);
+Expected<void> loadDrawing(
+    DrawingData& data, const QString& fileName, const OpenOptions& options, Progress* progress);
 
 } // namespace drawing

@@ -66,10 +66,10 @@ private:
         const QChar character = m_text[m_position++];
         if (character == QLatin1Char('\\') && m_position < m_text.size())
             code(m_text[m_position++]);
-        else if (character == QLatin1Char('^') && m_position < m_text.size())
-            caret(m_text[m_position++]);
-        else if (character == QLatin1Char('\n'))
+        else if (character == QLatin1Char('\n') || character == QLatin1Char('\r'))
             endLine();
+        else if (character == QLatin1Char('\t'))
+            m_line += QLatin1Char(' ');
         else if (character != QLatin1Char('{') && character != QLatin1Char('}'))
             m_line += character;
     }
@@ -116,17 +116,6 @@ private:
         }
     }
 
-    /// A caret and a letter stand for a control character; a blank behind it for the caret itself.
-    void caret(QChar character)
-    {
-        if (character == QLatin1Char('J') || character == QLatin1Char('M'))
-            endLine();
-        else if (character == QLatin1Char('I'))
-            m_line += QLatin1Char(' ');
-        else if (character == QLatin1Char(' '))
-            m_line += QLatin1Char('^');
-    }
-
     /// What lies before the next semicolon; all the rest when there is none.
     QString argument()
     {
@@ -138,7 +127,6 @@ private:
 
     void stack(QString fraction)
     {
-        fraction.replace(QLatin1String("^ "), QLatin1String("^"));
         fraction.replace(QLatin1Char('#'), QLatin1Char('/'));
         fraction.replace(QLatin1Char('^'), QLatin1Char('/'));
         if (fraction.startsWith(QLatin1Char('/')) || fraction.endsWith(QLatin1Char('/')))

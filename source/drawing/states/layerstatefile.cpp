@@ -34,13 +34,13 @@ QString shown(const QString& path)
 /// chance; the single-byte ones have nearly any.
 TextCodec codecOf(std::string_view bytes, const TextCodec& own)
 {
-    const TextCodec utf8("AC1021", {});
+    const TextCodec utf8 = TextCodec::utf8();
     const TextCodec gbk("AC1018", "ANSI_936");
     if (utf8.canDecode(bytes))
-        return utf8;
+        return utf8.forNewFile();
     if (own.isDoubleByte() && own.canDecode(bytes))
-        return own;
-    return gbk.canDecode(bytes) || own.name() == utf8.name() ? gbk : own;
+        return own.forNewFile();
+    return (gbk.canDecode(bytes) || own == utf8 ? gbk : own).forNewFile();
 }
 
 std::string_view withoutMark(std::string_view bytes)
@@ -175,9 +175,9 @@ Expected<LayerStateFile> readLayerStateFile(const QString& path, const TextCodec
         return refusal(tr("第 %1 行的组码不是数字").arg(line), line);
     }
     LayerStateFile read = std::move(reader.file());
-    if (codec.name() != TextCodec("AC1021", {}).name())
+    if (!(codec == TextCodec::utf8()))
         read.notices.prepend(
-            tr("文件“%1”的文字不是 UTF-8 编码，已按 %2 读取。").arg(shown(path), codec.name()));
+            tr("文件“%1”的文字不是 UTF-8 编码，已按 %2 读取。").arg(shown(path), codec.title()));
     return read;
 }
 
@@ -187,7 +187,7 @@ Expected<void> writeLayerStateFile(const QString& path, const std::vector<LayerS
         return tl::make_unexpected(
             Error{tr("无法写入图层状态文件“%1”：%2。").arg(shown(path), cause), 0, false});
     };
-    const TextCodec utf8("AC1021", {});
+    const TextCodec utf8 = TextCodec::utf8().forNewFile();
     TagStyle style;
     style.lineEnd = "\r\n";
     QSaveFile file(path);

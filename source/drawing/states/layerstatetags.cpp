@@ -30,54 +30,6 @@ enum Flag { kOff = 1, kFrozen = 2, kLocked = 4, kPlotted = 8, kNewFrozen = 16, k
 constexpr qint64 kByTrueColor = 0xc2;
 constexpr int kLastColorIndex = 255;
 
-/// How far a control character is from the letter that stands for it behind a caret.
-constexpr ushort kCaretShift = '@';
-
-bool isControl(QChar character)
-{
-    return character.unicode() > 0 && character.unicode() < ' ';
-}
-
-/// A value is one line: line ends and other control characters are written as a caret and a letter,
-/// and a caret with a blank behind it, so that a text with "^J" in it is not taken for a line end.
-QString onOneLine(const QString& text)
-{
-    QString line;
-    line.reserve(text.size());
-    for (const QChar character : text) {
-        if (isControl(character))
-            line += QLatin1Char('^') + QChar(character.unicode() + kCaretShift);
-        else if (character == QLatin1Char('^'))
-            line += QLatin1String("^ ");
-        else
-            line += character;
-    }
-    return line;
-}
-
-/// What the two characters of an escape stand for; null when they are none.
-QChar escaped(const QString& line, int at)
-{
-    if (line.at(at) != QLatin1Char('^') || at + 1 == line.size())
-        return {};
-    if (line.at(at + 1) == QLatin1Char(' '))
-        return line.at(at);
-    const QChar meant(static_cast<ushort>(line.at(at + 1).unicode() - kCaretShift));
-    return isControl(meant) ? meant : QChar();
-}
-
-QString onSeveralLines(const QString& line)
-{
-    QString text;
-    text.reserve(line.size());
-    for (int at = 0; at < line.size(); ++at) {
-        const QChar meant = escaped(line, at);
-        text += meant.isNull() ? line.at(at) : meant;
-        at += meant.isNull() ? 0 : 1;
-    }
-    return text;
-}
-
 void readFlags(qint64 flags, LayerStateLayer& layer)
 {
     LayerProperties& p = layer.properties;
@@ -110,7 +62,7 @@ void LayerStateReader::take(const Tag& tag)
     if (tag.code == kLayerName)
         openLayer(m_codec.decode(tag.trimmed()));
     else if (tag.code == kLayerHandle)
-        openLayer(m_names.layers.value(tag.handle()));
+        openLayer(m_names.layers.value(tag.toHandle()));
     else if (m_isLayerOpen)
         takeLayer(tag);
     else
@@ -121,17 +73,17 @@ void LayerStateReader::takeHead(const Tag& tag)
 {
     switch (tag.code) {
     case kName:
-        m_state.name = m_codec.decode(tag.text());
+        m_state.name = m_codec.decode(tag.value);
         break;
     case kMask:
-        m_state.mask = static_cast<int>(tag.integer() & kStateEverything);
-        m_unused.maskBits |= tag.integer() & ~qint64(kStateEverything);
+        m_state.mask = static_cast<int>(tag.toInteger() & kStateEverything);
+        m_unused.maskBits |= tag.toInteger() & ~qint64(kStateEverything);
         break;
     case kDescription:
-        m_state.description = onSeveralLines(m_codec.decode(tag.text()));
+        m_state.description = m_codec.decode(tag.value);
         break;
     case kFromLayout:
-        m_state.fromLayout = tag.integer() != 0;
+        m_state.fromLayout = tag.toInteger() != 0;
         break;
     case kCurrentLayer:
         m_state.currentLayer = m_codec.decode(tag.trimmed());
@@ -153,34 +105,34 @@ void LayerStateReader::takeLayer(const Tag& tag)
         p.linetype = decoded(m_linetype, tag.trimmed());
         break;
     case kLinetypeHandle:
-        p.linetype = m_names.linetypes.value(tag.handle(), p.linetype);
+        p.linetype = m_names.linetypes.value(tag.toHandle(), p.linetype);
         break;
     case kColorIndex:
-        if (const qint64 index = std::abs(tag.integer()); index >= 1 && index <= kLastColorIndex)
+        if (const qint64 index = std::abs(tag.toInteger()); index >= 1 && index <= kLastColorIndex)
             p.colorIndex = static_cast<int>(index);
         else
             ++m_unused.values;
         break;
     case kFlags:
-        readFlags(tag.integer(), m_layer);
+        readFlags(tag.toInteger(), m_layer);
         break;
     case kTrueColor: {
         // Some programs put the colour's method above its three parts.
-        const qint64 method = (tag.integer() >> 24) & 0xff;
+        const qint64 method = (tag.toInteger() >> 24) & 0xff;
         if (method == 0 || method == kByTrueColor)
-            p.trueColor = static_cast<quint32>(tag.integer() & 0xffffff);
+            p.trueColor = static_cast<quint32>(tag.toInteger() & 0xffffff);
         else
             ++m_unused.values;
         break;
     }
     case kLineweight:
-        if (isLineweight(static_cast<int>(tag.integer())))
-            p.lineweight = static_cast<int>(tag.integer());
+        if (isLineweight(static_cast<int>(tag.toInteger())))
+            p.lineweight = static_cast<int>(tag.toInteger());
         else
             ++m_unused.values;
         break;
     case kTransparency:
-        p.transparency = transparencyPercent(tag.integer());
+        p.transparency = transparencyPercent(tag.toInteger());
         break;
     default:
         m_unused.codes.insert(tag.code);
@@ -225,7 +177,7 @@ QByteArray layerStateTags(const LayerState& state, const LayerStateHandles& hand
     int plotStyleCode, const TagStyle& style, const TextCodec& codec)
 {
     QByteArray bytes = style.number(kMask, state.mask) +
-                       style.tag(kDescription, codec.encode(onOneLine(state.description))) +
+                       style.tag(kDescription, codec.encode(state.description)) +
                        style.number(kFromLayout, state.fromLayout ? 1 : 0) +
                        style.tag(kCurrentLayer, codec.encode(state.currentLayer));
     for (const LayerStateLayer& layer : state.layers) {
