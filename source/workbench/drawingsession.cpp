@@ -30,10 +30,10 @@ DrawingSession::DrawingSession(QWidget* window)
         });
 }
 
-void DrawingSession::open(const QString& path)
+void DrawingSession::open(const QString& path, const drawing::OpenOptions& options)
 {
     if (!isBusy() && confirmDiscard())
-        m_worker->open(path);
+        m_worker->open(path, options);
 }
 
 void DrawingSession::adopt(OpenedFile file)
@@ -43,6 +43,8 @@ void DrawingSession::adopt(OpenedFile file)
                   .arg(QDir::toNativeSeparators(m_drawing->path()))
                   .arg(m_drawing->layers().size())
                   .arg(m_drawing->entities().size()));
+    for (const QString& notice : m_drawing->openingNotices())
+        emit said(notice);
     if (file.geometry->truncated)
         emit said(tr("图形内容过多，只显示其中一部分。"));
     emit opened(file.geometry);

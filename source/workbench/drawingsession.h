@@ -21,7 +21,7 @@ public:
 
     /// Opens in the background; asks first when the present drawing has unsaved changes. A file
     /// that cannot be opened is reported, and the present drawing stays.
-    void open(const QString& path);
+    void open(const QString& path, const drawing::OpenOptions& options = {});
     /// Takes over a drawing that was read already.
     void adopt(OpenedFile file);
     /// Saves in the background; a failure is reported and leaves the drawing modified.

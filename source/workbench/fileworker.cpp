@@ -18,12 +18,12 @@ void setShare(drawing::Progress* progress, const std::function<void(int)>& repor
 
 } // namespace
 
-drawing::Expected<OpenedFile> readFile(
-    const QString& path, drawing::Progress* progress, QThread* owner)
+drawing::Expected<OpenedFile> readFile(const QString& path, drawing::Progress* progress,
+    QThread* owner, const drawing::OpenOptions& options)
 {
     const std::function<void(int)> report = progress ? progress->report : nullptr;
     setShare(progress, report, 0, kReadPercent);
-    auto drawing = drawing::Drawing::open(path, progress, owner);
+    auto drawing = drawing::Drawing::open(path, progress, owner, options);
     if (!drawing)
         return tl::unexpected(drawing.error());
     setShare(progress, report, kReadPercent, 100);
@@ -43,12 +43,12 @@ FileWorker::~FileWorker()
         m_thread->wait();
 }
 
-void FileWorker::open(const QString& path)
+void FileWorker::open(const QString& path, const drawing::OpenOptions& options)
 {
     QThread* const owner = thread();
     start(tr("正在打开 %1").arg(QFileInfo(path).fileName()),
-        [this, path, owner]() -> std::function<void()> {
-            auto result = readFile(path, &m_progress, owner);
+        [this, path, owner, options]() -> std::function<void()> {
+            auto result = readFile(path, &m_progress, owner, options);
             if (!result)
                 return [=, error = result.error()] { emit openFailed(path, error); };
             auto file = std::make_shared<OpenedFile>(std::move(*result));

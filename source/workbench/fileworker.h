@@ -17,8 +17,8 @@ struct OpenedFile
 };
 
 /// Opens a drawing and flattens it. `owner` is the thread the drawing is to live on.
-drawing::Expected<OpenedFile> readFile(
-    const QString& path, drawing::Progress* progress, QThread* owner);
+drawing::Expected<OpenedFile> readFile(const QString& path, drawing::Progress* progress,
+    QThread* owner, const drawing::OpenOptions& options = {});
 
 /// Opens and saves on a thread of its own; one job at a time. Signals come on the thread the worker
 /// lives on.
@@ -31,7 +31,7 @@ public:
     ~FileWorker() override; ///< Stops the job under way and waits for its end.
 
     bool isBusy() const { return m_thread != nullptr; }
-    void open(const QString& path);
+    void open(const QString& path, const drawing::OpenOptions& options);
     /// The drawing must be left alone until the job has ended.
     void save(drawing::Drawing& drawing, const QString& path);
     void cancel();

@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "canvas.h"
+#include "codepagechoice.h"
 #include "commandline.h"
 #include "drawingsession.h"
 #include "entitypick.h"
@@ -59,6 +60,10 @@ struct MainWindow::ActionRow
 const MainWindow::ActionRow MainWindow::kActions[] = {
     {"OPEN", QT_TR_NOOP("打开(&O)..."), "open", QKeySequence::Open, ActionRow::File,
         &MainWindow::chooseFile},
+    {"OPENPAGE", QT_TR_NOOP("以代码页打开(&P)..."), nullptr, QKeySequence::UnknownKey,
+        ActionRow::File, &MainWindow::chooseFileAndCodePage},
+    {"REOPEN", QT_TR_NOOP("换代码页重新打开(&T)..."), nullptr, QKeySequence::UnknownKey,
+        ActionRow::File, &MainWindow::reopenInCodePage},
     {"SAVE", QT_TR_NOOP("保存(&S)"), "save", QKeySequence::Save, ActionRow::File,
         &MainWindow::save},
     {"SAVEAS", QT_TR_NOOP("另存为(&A)..."), nullptr, QKeySequence::SaveAs, ActionRow::File,
@@ -157,7 +162,7 @@ void MainWindow::createCommandLine()
 
 void MainWindow::connectParts()
 {
-    connect(m_recent, &RecentFiles::chosen, this, &MainWindow::openFile);
+    connect(m_recent, &RecentFiles::chosen, this, [this](const QString& path) { openFile(path); });
     connect(m_canvas, &Canvas::cursorMoved, m_status, &StatusFields::showCursor);
     connect(m_canvas, &Canvas::selectionChanged, m_status, &StatusFields::showSelection);
     connect(m_status, &StatusFields::spaceChosen, this, &MainWindow::showSpace);
@@ -188,10 +193,10 @@ bool MainWindow::isBusy() const
     return m_commandRunning || m_session->isBusy();
 }
 
-void MainWindow::openFile(const QString& path)
+void MainWindow::openFile(const QString& path, const drawing::OpenOptions& options)
 {
     if (!isBusy())
-        m_session->open(path);
+        m_session->open(path, options);
 }
 
 void MainWindow::setFile(OpenedFile file)
@@ -347,12 +352,32 @@ void MainWindow::pose(const LayerCommand::Camera& camera)
         row.create()->pose(context, camera);
 }
 
-void MainWindow::chooseFile()
+QString MainWindow::askForFile()
 {
     const QString folder = drawing() ? QFileInfo(drawing()->path()).path() : QString();
-    const QString path = QFileDialog::getOpenFileName(this, tr("打开图形"), folder, fileFilter());
+    return QFileDialog::getOpenFileName(this, tr("打开图形"), folder, fileFilter());
+}
+
+void MainWindow::chooseFile()
+{
+    const QString path = askForFile();
     if (!path.isEmpty())
         openFile(path);
+}
+
+void MainWindow::chooseFileAndCodePage()
+{
+    const QString path = askForFile();
+    if (path.isEmpty())
+        return;
+    if (const auto codePage = chooseCodePage(this, nullptr))
+        openFile(path, {*codePage});
+}
+
+void MainWindow::reopenInCodePage()
+{
+    if (const auto codePage = chooseCodePage(this, &drawing()->codec()))
+        openFile(drawing()->path(), {*codePage});
 }
 
 void MainWindow::save()
@@ -413,6 +438,8 @@ void MainWindow::updateState()
     const bool canUndo = idle && drawing()->canUndo();
     const bool canRedo = idle && drawing()->canRedo();
     action("OPEN")->setEnabled(!isBusy());
+    action("OPENPAGE")->setEnabled(!isBusy());
+    action("REOPEN")->setEnabled(idle);
     m_recent->setEnabled(!isBusy());
     action("SAVE")->setEnabled(idle && drawing()->isModified());
     action("SAVEAS")->setEnabled(idle);

@@ -23,7 +23,7 @@ public:
 
     /// Opens in the background; asks first when the present drawing has unsaved changes. A file
     /// that cannot be opened is reported in a message box and the present drawing stays.
-    void openFile(const QString& path);
+    void openFile(const QString& path, const drawing::OpenOptions& options = {});
     /// Takes over a drawing that was read already.
     void setFile(OpenedFile file);
     /// Runs what was typed; anything that cannot run is answered in the echo.
@@ -52,6 +52,8 @@ private:
     void connectParts();
 
     void chooseFile();
+    void chooseFileAndCodePage();
+    void reopenInCodePage();
     void save();
     void saveAs();
     void quit();
@@ -61,6 +63,7 @@ private:
     void toggleBackground();
     void about();
 
+    QString askForFile();
     CommandContext commandContext();
     void runLayerCommand(const CommandRow& row);
     void showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry);

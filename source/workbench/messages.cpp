@@ -15,6 +15,8 @@ QString tr(const char* text)
     return QCoreApplication::translate("Messages", text);
 }
 
+} // namespace
+
 void showWarning(QWidget* parent, const QString& title, const QString& text)
 {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::NoButton, parent);
@@ -22,8 +24,6 @@ void showWarning(QWidget* parent, const QString& title, const QString& text)
     box.addButton(tr("确定"), QMessageBox::AcceptRole);
     box.exec();
 }
-
-} // namespace
 
 SaveChoice askToSave(QWidget* parent, const QString& fileName)
 {

@@ -14,6 +14,9 @@ enum class SaveChoice { Save, Discard, Cancel };
 /// Asks what becomes of unsaved changes; Esc means cancel.
 SaveChoice askToSave(QWidget* parent, const QString& fileName);
 
+/// A warning of one button.
+void showWarning(QWidget* parent, const QString& title, const QString& text);
+
 /// One sentence that names file, line (where one is to blame) and cause, each once.
 QString describe(const QString& path, const drawing::Error& error);
 /// Names file, line and cause of what went wrong.

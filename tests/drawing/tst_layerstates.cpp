@@ -343,7 +343,7 @@ void TestLayerStates::foreignFile_data()
     QTest::newRow("the drawing's own")
         << with("\xbb\xa1\xa9\xfa") << QByteArray("ANSI_950") << QStringLiteral("說明") << "Big5";
     QTest::newRow("western") << with("caf\xe9") << QByteArray("ANSI_1252") << QStringLiteral("café")
-                             << "windows-1252";
+                             << "ANSI_1252";
 }
 
 /// What another program wrote: unknown bits and codes, a layer and a weight that do not exist. It

@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QCompleter>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -137,6 +138,28 @@ private slots:
         QVERIFY(m_window->drawing()->path().endsWith(QLatin1String("sketch.dxf")));
         QCOMPARE(contentOf(path), content);
         QVERIFY(action("OPEN")->isEnabled());
+    }
+
+    void reopensInAnotherCodePage()
+    {
+        QVERIFY(open("0 LINE 8 \xd1"));
+        QVERIFY(m_window->drawing()->findLayer(QStringLiteral("�D1")));
+        QTimer timer;
+        QStringList typed{QStringLiteral("ANSI_1251"), QStringLiteral("MARTIAN")};
+        connect(&timer, &QTimer::timeout, this, [&typed] {
+            auto* const dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+            if (!dialog || typed.isEmpty())
+                return;
+            dialog->setTextValue(typed.takeLast());
+            dialog->accept();
+        });
+        timer.start(2);
+        BoxAnswerer answerer({QStringLiteral("确定")});
+        QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
+        action("REOPEN")->trigger();
+        QVERIFY(answerer.texts().value(0).contains("MARTIAN"));
+        QVERIFY(opened.wait());
+        QVERIFY(m_window->drawing()->findLayer(QStringLiteral("С")));
     }
 
     void cancelledOpeningLeavesNothing()

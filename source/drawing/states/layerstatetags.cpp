@@ -62,7 +62,7 @@ void LayerStateReader::take(const Tag& tag)
     if (tag.code == kLayerName)
         openLayer(m_codec.decode(tag.trimmed()));
     else if (tag.code == kLayerHandle)
-        openLayer(m_names.layers.value(tag.toHandle()));
+        openLayer(m_names.layers.value(tag.handle()));
     else if (m_isLayerOpen)
         takeLayer(tag);
     else
@@ -73,17 +73,17 @@ void LayerStateReader::takeHead(const Tag& tag)
 {
     switch (tag.code) {
     case kName:
-        m_state.name = m_codec.decode(tag.value);
+        m_state.name = m_codec.decode(tag.text());
         break;
     case kMask:
-        m_state.mask = static_cast<int>(tag.toInteger() & kStateEverything);
-        m_unused.maskBits |= tag.toInteger() & ~qint64(kStateEverything);
+        m_state.mask = static_cast<int>(tag.integer() & kStateEverything);
+        m_unused.maskBits |= tag.integer() & ~qint64(kStateEverything);
         break;
     case kDescription:
-        m_state.description = m_codec.decode(tag.value);
+        m_state.description = m_codec.decode(tag.text());
         break;
     case kFromLayout:
-        m_state.fromLayout = tag.toInteger() != 0;
+        m_state.fromLayout = tag.integer() != 0;
         break;
     case kCurrentLayer:
         m_state.currentLayer = m_codec.decode(tag.trimmed());
@@ -105,34 +105,34 @@ void LayerStateReader::takeLayer(const Tag& tag)
         p.linetype = decoded(m_linetype, tag.trimmed());
         break;
     case kLinetypeHandle:
-        p.linetype = m_names.linetypes.value(tag.toHandle(), p.linetype);
+        p.linetype = m_names.linetypes.value(tag.handle(), p.linetype);
         break;
     case kColorIndex:
-        if (const qint64 index = std::abs(tag.toInteger()); index >= 1 && index <= kLastColorIndex)
+        if (const qint64 index = std::abs(tag.integer()); index >= 1 && index <= kLastColorIndex)
             p.colorIndex = static_cast<int>(index);
         else
             ++m_unused.values;
         break;
     case kFlags:
-        readFlags(tag.toInteger(), m_layer);
+        readFlags(tag.integer(), m_layer);
         break;
     case kTrueColor: {
         // Some programs put the colour's method above its three parts.
-        const qint64 method = (tag.toInteger() >> 24) & 0xff;
+        const qint64 method = (tag.integer() >> 24) & 0xff;
         if (method == 0 || method == kByTrueColor)
-            p.trueColor = static_cast<quint32>(tag.toInteger() & 0xffffff);
+            p.trueColor = static_cast<quint32>(tag.integer() & 0xffffff);
         else
             ++m_unused.values;
         break;
     }
     case kLineweight:
-        if (isLineweight(static_cast<int>(tag.toInteger())))
-            p.lineweight = static_cast<int>(tag.toInteger());
+        if (isLineweight(static_cast<int>(tag.integer())))
+            p.lineweight = static_cast<int>(tag.integer());
         else
             ++m_unused.values;
         break;
     case kTransparency:
-        p.transparency = transparencyPercent(tag.toInteger());
+        p.transparency = transparencyPercent(tag.integer());
         break;
     default:
         m_unused.codes.insert(tag.code);
