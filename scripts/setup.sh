@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build
-    qtbase5-dev qttranslations5-l10n libexpected-dev libbenchmark-dev libdxflib-dev
+    qtbase5-dev qttranslations5-l10n libexpected-dev libcli11-dev libxxhash-dev libbenchmark-dev libdxflib-dev
     fonts-wqy-zenhei
 )
 if [ "${1:-}" = "--tests" ]; then

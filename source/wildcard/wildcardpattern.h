@@ -6,9 +6,11 @@
 #include <utility>
 #include <vector>
 
-namespace host {
+namespace wildcard {
 
-/// One alternative of a wildcard pattern, ready to be matched.
+/// One alternative of a wildcard pattern (`#` a digit, `@` a letter, `.` neither, `*` any run, `?`
+/// one character, `[...]` and `[~...]` sets, a leading `~` for "not", the grave accent before a
+/// character that stands for itself), ready to be matched.
 class Wildcard
 {
 public:
@@ -52,4 +54,4 @@ private:
     std::vector<Wildcard> m_others;
 };
 
-} // namespace host
+} // namespace wildcard

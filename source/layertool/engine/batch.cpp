@@ -1,0 +1,162 @@
+#include "batch.h"
+
+#include "texts.h"
+#include "worker.h"
+
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTimer>
+
+#include <algorithm>
+#include <optional>
+
+namespace layertool {
+
+struct Batch::Worker
+{
+    QProcess process;
+    QTimer clock;
+    std::optional<Job> job; ///< Under way.
+    bool isLate = false;    ///< Took longer than it may, and was ended for it.
+    bool hasEnded = false;
+};
+
+Batch::Batch(const Arguments& arguments, const BatchLimits& limits)
+    : m_arguments(arguments),
+      m_limits(limits)
+{
+}
+
+Batch::~Batch() = default;
+
+void Batch::run(const std::vector<Job>& jobs, const Listener& listener)
+{
+    m_listener = listener;
+    m_waiting.assign(jobs.rbegin(), jobs.rend());
+    const auto count = std::min(static_cast<size_t>(m_limits.processes), m_waiting.size());
+    for (size_t i = 0; i < count; ++i)
+        startWorker();
+    const auto isBusy = [](const std::unique_ptr<Worker>& worker) { return !worker->hasEnded; };
+    while (std::any_of(m_workers.begin(), m_workers.end(), isBusy))
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    for (; !m_waiting.empty(); m_waiting.pop_back()) {
+        Result result(m_waiting.back());
+        result.status = Result::Status::Cancelled;
+        m_listener(result);
+    }
+}
+
+void Batch::startWorker()
+{
+    m_workers.push_back(std::make_unique<Worker>());
+    Worker& worker = *m_workers.back();
+    worker.process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    worker.clock.setSingleShot(true);
+    connectWorker(worker);
+    worker.process.start(QCoreApplication::applicationFilePath(), {QLatin1String(kWorkerOption)});
+}
+
+void Batch::connectWorker(Worker& worker)
+{
+    connect(&worker.process, &QProcess::started, this, [this, &worker] {
+        worker.process.write(lineOf(m_arguments.toJson()));
+        feed(worker);
+    });
+    connect(&worker.process, &QProcess::readyReadStandardOutput, this,
+        [this, &worker] { readAnswers(worker); });
+    connect(&worker.process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+        [this, &worker] { onFinished(worker); });
+    connect(&worker.process, &QProcess::errorOccurred, this,
+        [this, &worker](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart)
+                onFinished(worker);
+        });
+    connect(&worker.clock, &QTimer::timeout, this, [&worker] {
+        worker.isLate = true;
+        worker.process.kill();
+    });
+}
+
+void Batch::feed(Worker& worker)
+{
+    if (m_isInterrupted || m_waiting.empty()) {
+        worker.process.closeWriteChannel();
+        return;
+    }
+    worker.job = m_waiting.back();
+    m_waiting.pop_back();
+    worker.process.write(worker.job->toLine());
+    if (m_limits.seconds > 0)
+        worker.clock.start(m_limits.seconds * 1000);
+}
+
+void Batch::readAnswers(Worker& worker)
+{
+    while (worker.process.canReadLine()) {
+        const Result result =
+            Result::fromJson(QJsonDocument::fromJson(worker.process.readLine()).object());
+        if (!worker.job || result.number != worker.job->number)
+            continue;
+        worker.job.reset();
+        worker.clock.stop();
+        settle(result);
+        feed(worker);
+    }
+}
+
+void Batch::onFinished(Worker& worker)
+{
+    if (worker.hasEnded)
+        return;
+    readAnswers(worker);
+    worker.hasEnded = true;
+    worker.clock.stop();
+    const bool wasBusy = worker.job.has_value();
+    if (wasBusy) {
+        Result result(*worker.job);
+        if (worker.isLate)
+            result.fail(errorid::kTime,
+                Texts::tr("处理它用时超过了 %1 秒，已放弃。").arg(m_limits.seconds));
+        else if (m_isInterrupted)
+            result.status = Result::Status::Cancelled;
+        else
+            result.fail(errorid::kCrash, Texts::tr("处理它的进程意外结束。"));
+        settle(result);
+    }
+    if (m_isInterrupted || m_waiting.empty())
+        return;
+    // One that ended before it took a job was never at work: others would do the same.
+    if (!wasBusy)
+        failNext(errorid::kStart,
+            Texts::tr("不能启动处理它的进程：%1。").arg(worker.process.errorString()));
+    startWorker();
+}
+
+void Batch::failNext(const char* id, const QString& text)
+{
+    Result result(m_waiting.back());
+    m_waiting.pop_back();
+    result.fail(id, text);
+    settle(result);
+}
+
+void Batch::settle(const Result& result)
+{
+    m_listener(result);
+    if (m_limits.failsFast && result.status == Result::Status::Failed)
+        m_isInterrupted = true;
+}
+
+void Batch::interrupt()
+{
+    m_isInterrupted = true;
+    for (const auto& worker : m_workers) {
+        if (worker->hasEnded)
+            continue;
+        worker->process.closeWriteChannel();
+        worker->process.terminate();
+    }
+}
+
+} // namespace layertool

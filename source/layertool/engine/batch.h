@@ -1,0 +1,58 @@
+#pragma once
+
+#include "arguments.h"
+#include "job.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+namespace layertool {
+
+/// How drawings are worked on.
+struct BatchLimits
+{
+    int processes = 1;
+    int seconds = 0;        ///< For each drawing; 0 for no limit.
+    bool failsFast = false; ///< Begins nothing new once a drawing has failed.
+};
+
+/// Works on drawings in processes of this same program, one drawing at a time in each, so that one
+/// that brings its process down, or takes longer than it may, costs itself alone.
+class Batch : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Listener = std::function<void(const Result& result)>;
+
+    Batch(const Arguments& arguments, const BatchLimits& limits);
+    ~Batch() override;
+
+    /// Runs the jobs, whose numbers are their places, and tells of each result as it comes. An
+    /// event loop runs meanwhile.
+    void run(const std::vector<Job>& jobs, const Listener& listener);
+    /// Gives out no more jobs and lets those under way end; nothing half-done is left.
+    void interrupt();
+
+private:
+    struct Worker;
+
+    void startWorker();
+    void connectWorker(Worker& worker);
+    void feed(Worker& worker);
+    void readAnswers(Worker& worker);
+    void onFinished(Worker& worker);
+    void settle(const Result& result);
+    void failNext(const char* id, const QString& text);
+
+    const Arguments& m_arguments;
+    BatchLimits m_limits;
+    Listener m_listener;
+    std::vector<std::unique_ptr<Worker>> m_workers;
+    std::vector<Job> m_waiting; ///< The next one is the last.
+    bool m_isInterrupted = false;
+};
+
+} // namespace layertool

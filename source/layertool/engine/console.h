@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QString>
+
+namespace layertool {
+
+/// Writes a line to standard error.
+void complain(const QString& line);
+/// The same, with the program's name in front.
+void complainOf(const QString& sentence);
+
+/// Columns a text takes on a terminal: a Chinese character takes two.
+int widthOf(const QString& text);
+/// The text with blanks behind it up to a width.
+QString padded(const QString& text, int width);
+
+/// A line of its own on a terminal, drawn over again and again; nothing where standard error is
+/// none, or when it is to be quiet.
+class ProgressLine
+{
+public:
+    explicit ProgressLine(bool isQuiet);
+    void show(int done, int total, int failed);
+    /// Takes the line away, before something else is written.
+    void clear();
+
+private:
+    bool m_isOn = false;
+    bool m_isShown = false;
+    QElapsedTimer m_clock;
+};
+
+} // namespace layertool

@@ -1,0 +1,36 @@
+#include "fingerprint.h"
+
+#include "texts.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace layertool {
+
+drawing::Expected<QByteArray> runFingerprint(
+    const Arguments& arguments, const std::vector<OptionRows>& options)
+{
+    QJsonArray parts{QCoreApplication::applicationVersion(), arguments.verb, arguments.action};
+    for (const OptionRows& rows : options) {
+        for (const OptionRow& row : rows) {
+            if (!row.shapesResult || !arguments.isSet(row.name))
+                continue;
+            QJsonArray values = QJsonArray::fromStringList(arguments.values(row.name));
+            if (row.kind == OptionKind::File) {
+                for (const QString& path : arguments.values(row.name)) {
+                    const FileStamp stamp = stampOf(path);
+                    if (stamp.isNull())
+                        return tl::make_unexpected(
+                            drawing::Error{Texts::tr("无法读取 --%1 所指的文件“%2”。")
+                                               .arg(QLatin1String(row.name), path)});
+                    values.append(QString::fromLatin1(stamp.hash));
+                }
+            }
+            parts.append(QLatin1String(row.name));
+            parts.append(values);
+        }
+    }
+    return hashOf(QJsonDocument(parts).toJson(QJsonDocument::Compact));
+}
+
+} // namespace layertool

@@ -1,0 +1,115 @@
+#include "folderlock.h"
+
+#include "journal.h"
+#include "texts.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace layertool {
+
+namespace {
+
+using drawing::Error;
+using drawing::Expected;
+
+tl::unexpected<Error> inUse(const QString& folder)
+{
+    return tl::make_unexpected(Error{
+        Texts::tr("输出文件夹“%1”正被另一次运行使用：请等它结束，或用 --wait 等待。").arg(folder)});
+}
+
+int openLock(const QString& folder, const QString& name)
+{
+    const QString path = QDir(Journal::folderOf(folder)).filePath(name);
+    return ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+}
+
+bool lock(int file, int kind, bool waits)
+{
+    int done = -1;
+    do {
+        done = ::flock(file, kind | (waits ? 0 : LOCK_NB));
+    } while (done != 0 && errno == EINTR);
+    return done == 0;
+}
+
+int readCount(int file)
+{
+    char text[16] = {};
+    return ::pread(file, text, sizeof text - 1, 0) > 0 ? QByteArray(text).toInt() : 0;
+}
+
+bool writeCount(int file, int count)
+{
+    const QByteArray text = QByteArray::number(count);
+    return ::ftruncate(file, 0) == 0 &&
+           ::pwrite(file, text.constData(), static_cast<size_t>(text.size()), 0) == text.size();
+}
+
+} // namespace
+
+Expected<std::unique_ptr<FolderLock>> FolderLock::take(
+    const QString& outFolder, const Shard& shard, bool waits)
+{
+    std::unique_ptr<FolderLock> lock(new FolderLock);
+    auto done = lock->lockFolder(outFolder, shard, waits);
+    if (done)
+        done = lock->lockShard(outFolder, shard, waits);
+    if (!done)
+        return tl::make_unexpected(done.error());
+    return lock;
+}
+
+/// Whoever finds the folder free writes into how many shards it is divided; shards of the same
+/// division then share the lock.
+Expected<void> FolderLock::lockFolder(const QString& folder, const Shard& shard, bool waits)
+{
+    m_folder = openLock(folder, QStringLiteral("lock"));
+    if (m_folder < 0)
+        return tl::make_unexpected(Error{Texts::tr("无法在输出文件夹“%1”中写日志。").arg(folder)});
+    for (;;) {
+        if (lock(m_folder, LOCK_EX, false)) {
+            if (!writeCount(m_folder, shard.count))
+                return tl::make_unexpected(
+                    Error{Texts::tr("无法在输出文件夹“%1”中写日志。").arg(folder)});
+            if (shard.count > 1)
+                lock(m_folder, LOCK_SH, true);
+            return {};
+        }
+        if (shard.count > 1 && lock(m_folder, LOCK_SH, false)) {
+            if (readCount(m_folder) == shard.count)
+                return {};
+            lock(m_folder, LOCK_UN, true);
+        }
+        if (!waits)
+            return inUse(folder);
+        ::usleep(200'000);
+    }
+}
+
+Expected<void> FolderLock::lockShard(const QString& folder, const Shard& shard, bool waits)
+{
+    if (shard.count == 1)
+        return {};
+    m_shard = openLock(folder, QStringLiteral("lock-%1").arg(shard.number));
+    if (m_shard < 0 || !lock(m_shard, LOCK_EX, waits))
+        return inUse(folder);
+    return {};
+}
+
+FolderLock::~FolderLock()
+{
+    // Closing a file gives its lock back, also when the process is killed.
+    for (const int file : {m_shard, m_folder}) {
+        if (file >= 0)
+            ::close(file);
+    }
+}
+
+} // namespace layertool

@@ -1,0 +1,157 @@
+#include "journal.h"
+
+#include "texts.h"
+
+#include <QDir>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace layertool {
+
+namespace {
+
+constexpr int kVersion = 1;
+
+QByteArray lineFrom(const JournalEntry& entry)
+{
+    QJsonObject json = entry.result.toJson();
+    json.insert(QStringLiteral("version"), kVersion);
+    json.insert(QStringLiteral("run"), QString::fromLatin1(entry.run));
+    json.insert(QStringLiteral("when"), QString::number(entry.when));
+    return lineOf(json);
+}
+
+JournalEntry entryFrom(const QJsonObject& json)
+{
+    JournalEntry entry;
+    entry.result = Result::fromJson(json);
+    entry.run = json.value(QLatin1String("run")).toString().toLatin1();
+    entry.when = json.value(QLatin1String("when")).toString().toLongLong();
+    return entry;
+}
+
+QString causeOf(int number)
+{
+    return QString::fromLocal8Bit(std::strerror(number));
+}
+
+/// Appends in one piece, on a line of its own: another process may do the same, and one killed
+/// while it wrote may have left a line without its end.
+int appendLine(int file, const QByteArray& line)
+{
+    if (::flock(file, LOCK_EX) != 0)
+        return errno;
+    char last = '\n';
+    const off_t size = ::lseek(file, 0, SEEK_END);
+    if (size > 0 && ::pread(file, &last, 1, size - 1) != 1)
+        return errno;
+    const QByteArray bytes = last == '\n' ? line : '\n' + line;
+    const ssize_t written = ::write(file, bytes.constData(), static_cast<size_t>(bytes.size()));
+    return written == bytes.size() ? 0 : written < 0 ? errno : ENOSPC;
+}
+
+} // namespace
+
+QString Journal::folderOf(const QString& outFolder)
+{
+    return QDir(outFolder).filePath(QStringLiteral(".layertool"));
+}
+
+drawing::Expected<Journal> Journal::open(const QString& outFolder)
+{
+    if (!QDir().mkpath(folderOf(outFolder)))
+        return tl::make_unexpected(
+            drawing::Error{Texts::tr("无法在输出文件夹“%1”中写日志。").arg(outFolder)});
+    auto journal = read(outFolder);
+    if (!journal) {
+        journal = Journal();
+        journal->m_path = QDir(folderOf(outFolder)).filePath(QStringLiteral("journal.jsonl"));
+    }
+    return journal;
+}
+
+drawing::Expected<Journal> Journal::read(const QString& outFolder)
+{
+    Journal journal;
+    journal.m_path = QDir(folderOf(outFolder)).filePath(QStringLiteral("journal.jsonl"));
+    QFile file(journal.m_path);
+    if (!file.open(QIODevice::ReadOnly))
+        return tl::make_unexpected(drawing::Error{
+            Texts::tr("无法读取日志“%1”：%2。").arg(journal.m_path, file.errorString())});
+    journal.load(file.readAll());
+    return journal;
+}
+
+void Journal::load(const QByteArray& bytes)
+{
+    for (const QByteArray& line : bytes.split('\n')) {
+        const QJsonObject json = QJsonDocument::fromJson(line).object();
+        if (json.value(QLatin1String("version")).toInt() == kVersion)
+            take(entryFrom(json));
+    }
+}
+
+/// The clock decides which of two entries is newer, not their order: shards on several machines
+/// append as they come.
+void Journal::take(const JournalEntry& entry)
+{
+    const auto known = m_newest.find(entry.result.input);
+    if (known == m_newest.end())
+        m_newest.insert(entry.result.input, entry);
+    else if (known->when <= entry.when)
+        *known = entry;
+}
+
+const JournalEntry* Journal::find(const QString& input) const
+{
+    const auto known = m_newest.find(input);
+    return known == m_newest.end() ? nullptr : &*known;
+}
+
+Results Journal::results() const
+{
+    Results all;
+    all.reserve(static_cast<size_t>(m_newest.size()));
+    for (const JournalEntry& entry : m_newest)
+        all.push_back(entry.result);
+    std::sort(all.begin(), all.end(), [](const Result& a, const Result& b) {
+        return a.name != b.name ? a.name < b.name : a.input < b.input;
+    });
+    return all;
+}
+
+bool Journal::proves(const Job& job, const QByteArray& run) const
+{
+    const JournalEntry* const entry = find(job.input);
+    if (!entry || entry->result.status != Result::Status::Done || entry->run != run ||
+        entry->result.name != job.name || entry->result.output != job.output)
+        return false;
+    const auto isSame = [](const QString& path, const FileStamp& stamp) {
+        return path.isEmpty() ? stamp.isNull() : stampOf(path) == stamp;
+    };
+    const Result& done = entry->result;
+    return isSame(job.input, done.inputStamp) && isSame(job.other, done.otherStamp) &&
+           isSame(job.output, done.outputStamp);
+}
+
+drawing::Expected<void> Journal::append(const JournalEntry& entry)
+{
+    const int file = ::open(
+        QFile::encodeName(m_path).constData(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
+    const int failed = file < 0 ? errno : appendLine(file, lineFrom(entry));
+    if (file >= 0)
+        ::close(file);
+    if (failed != 0)
+        return tl::make_unexpected(
+            drawing::Error{Texts::tr("无法写入日志“%1”：%2。").arg(m_path, causeOf(failed))});
+    take(entry);
+    return {};
+}
+
+} // namespace layertool

@@ -1,0 +1,191 @@
+#include "worker.h"
+
+#include "console.h"
+#include "drawings.h"
+#include "interruption.h"
+#include "language.h"
+#include "texts.h"
+#include "verb.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonDocument>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <sys/resource.h>
+
+namespace layertool {
+
+namespace {
+
+using drawing::Drawing;
+
+/// A process over the limit is refused memory and ends; what it was at is lost, nothing else.
+void limitMemory(int megabytes)
+{
+    if (megabytes <= 0)
+        return;
+    const auto bytes = static_cast<rlim_t>(megabytes) * 1024 * 1024;
+    const rlimit limit{bytes, bytes};
+    ::setrlimit(RLIMIT_AS, &limit);
+}
+
+/// Puts a file into the place of another, in one go.
+Expected<void> moveInto(const StagedFile& file)
+{
+    if (std::rename(
+            QFile::encodeName(file.from).constData(), QFile::encodeName(file.to).constData()) == 0)
+        return {};
+    return tl::make_unexpected(
+        Error{Texts::tr("无法写入文件“%1”：%2。")
+                  .arg(file.to, QString::fromLocal8Bit(std::strerror(errno)))});
+}
+
+Expected<void> keepBackup(const QString& path)
+{
+    const QString backup = path + QStringLiteral(".bak");
+    QFile::remove(backup);
+    if (QFile::copy(path, backup))
+        return {};
+    return tl::make_unexpected(
+        Error{Texts::tr("无法把原图形留为“%1”，图形没有改动。").arg(backup)});
+}
+
+/// Works through one job after the other.
+class Worker
+{
+public:
+    Worker(const Arguments& arguments, const VerbRow& row) : m_arguments(arguments), m_row(row) {}
+
+    Expected<void> prepare();
+    Result run(const Job& job);
+    drawing::Progress& progress() { return m_progress; }
+
+private:
+    void answer(const Job& job, Result& result);
+    void proveResult(const Job& job, Result& result) const;
+    Expected<void> write(Drawing& drawing, const Job& job, Result& result);
+
+    const Arguments& m_arguments;
+    const VerbRow& m_row;
+    std::unique_ptr<Verb> m_verb;
+    drawing::Progress m_progress;
+};
+
+Expected<void> Worker::prepare()
+{
+    m_verb = m_row.make();
+    return m_verb->prepare(m_arguments);
+}
+
+Result Worker::run(const Job& job)
+{
+    QElapsedTimer clock;
+    clock.start();
+    Result result(job);
+    if (job.isProven) {
+        result.inputStamp = stampOf(job.input);
+        result.otherStamp = job.other.isEmpty() ? FileStamp() : stampOf(job.other);
+    }
+    answer(job, result);
+    if (job.isProven && result.status == Result::Status::Done)
+        proveResult(job, result);
+    result.seconds = static_cast<double>(clock.elapsed()) / 1000;
+    return result;
+}
+
+/// A drawing that somebody saved while it was read is not what the stamp says.
+void Worker::proveResult(const Job& job, Result& result) const
+{
+    if (job.output != job.input && !(stampOf(job.input) == result.inputStamp)) {
+        result.fail(errorid::kChanged, Texts::tr("图形在处理期间被改动，请重做。"));
+        return;
+    }
+    if (!result.output.isEmpty())
+        result.outputStamp = stampOf(result.output);
+}
+
+void Worker::answer(const Job& job, Result& result)
+{
+    const auto refuse = [&result](const char* id, const Error& error) {
+        result.fail(id, error.text);
+        if (error.cancelled)
+            result.status = Result::Status::Cancelled;
+    };
+    const auto opened = openDrawing(job.input, m_arguments, m_progress);
+    if (!opened)
+        return refuse(errorid::kDrawing, opened.error());
+    Drawing& drawing = **opened;
+    drawing.beginStep(m_arguments.verb);
+    const auto done = m_verb->run(drawing, job, result);
+    if (!done) {
+        drawing.rollbackStep();
+        return refuse(errorid::kRefused, done.error());
+    }
+    drawing.commitStep();
+    result.changed = drawing.canUndo();
+    result.notes("drawing", drawing.takeNotices());
+    // In place, what did not change is left alone; elsewhere the tree of outputs is to be whole.
+    const bool writes = !job.output.isEmpty() && (result.changed || job.output != job.input);
+    if (!writes) {
+        result.output.clear();
+    } else if (const auto written = write(drawing, job, result); !written) {
+        return refuse(errorid::kWrite, written.error());
+    }
+    result.status = Result::Status::Done;
+}
+
+/// What is written becomes whole in the staging folder; the drawing itself comes last, so that one
+/// that is in its place is never without what belongs to it.
+Expected<void> Worker::write(Drawing& drawing, const Job& job, Result& result)
+{
+    if (job.keepsBackup) {
+        if (auto kept = keepBackup(job.input); !kept)
+            return kept;
+    }
+    auto done = m_verb->write(drawing, job, m_progress, result);
+    for (const StagedFile& file : result.staged) {
+        if (done && QFile::exists(file.from)) {
+            QDir().mkpath(QFileInfo(file.to).path());
+            done = moveInto(file);
+        }
+        QFile::remove(file.from);
+    }
+    return done;
+}
+
+} // namespace
+
+int runWorker()
+{
+    QFile in;
+    QFile out;
+    if (!in.open(stdin, QIODevice::ReadOnly) || !out.open(stdout, QIODevice::WriteOnly))
+        return 1;
+    const Arguments arguments =
+        Arguments::fromJson(QJsonDocument::fromJson(in.readLine()).object());
+    useLanguage(arguments.value("language"));
+    limitMemory(arguments.number("memory-limit", 0));
+    const VerbRow* const row = findVerb(arguments.verb);
+    if (!row)
+        return 1;
+    Worker worker(arguments, *row);
+    if (const auto ready = worker.prepare(); !ready) {
+        complainOf(ready.error().text);
+        return 1;
+    }
+    const Interruption interruption(&worker.progress().cancelled);
+    while (!worker.progress().cancelled) {
+        const QByteArray line = in.readLine();
+        if (line.isEmpty())
+            break;
+        out.write(lineOf(worker.run(Job::fromLine(line)).toJson()));
+        out.flush();
+    }
+    return 0;
+}
+
+} // namespace layertool

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "layer.h"
+#include "verb.h"
+
+namespace layertool {
+
+/// A layer's properties as texts: what `list` writes and `set` reads. One row a property.
+struct LayerField
+{
+    const char* id;   ///< The English word of machine formats.
+    const char* text; ///< The heading people see.
+    QJsonValue (*get)(const drawing::LayerProperties& properties);
+    /// Takes a cell's text. False when it makes no sense for this property.
+    bool (*set)(drawing::LayerProperties& properties, const QString& text);
+};
+
+/// "name" first.
+const std::vector<LayerField>& layerFields();
+/// The columns and the values of these fields.
+std::vector<Column> layerColumns();
+QJsonObject layerJson(const drawing::LayerProperties& properties);
+
+} // namespace layertool

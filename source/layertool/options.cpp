@@ -1,0 +1,89 @@
+#include "options.h"
+
+#include <QCoreApplication>
+
+namespace layertool {
+
+namespace {
+
+constexpr OptionRow kCommon[] = {
+    {"list", OptionKind::Text,
+        QT_TRANSLATE_NOOP("layertool",
+            "从文件读入图形的路径，每行一个；空行和以 # 开头的行不算，“-”为标准输入。"),
+        "", true, false},
+    {"root", OptionKind::Folder,
+        QT_TRANSLATE_NOOP("layertool", "输出的相对路径从哪个文件夹算起；不给时为当前文件夹。"), "",
+        false, false},
+    {"format", OptionKind::Choice, QT_TRANSLATE_NOOP("layertool", "结果的格式；不给时为 text。"),
+        "", false, false},
+    {"output", OptionKind::Text,
+        QT_TRANSLATE_NOOP("layertool", "结果写入哪个文件；不给时写到标准输出。"), "", false, false},
+    {"report", OptionKind::Text,
+        QT_TRANSLATE_NOOP("layertool", "把每个图形的结果写成一行 CSV 的报告文件。"), "", false,
+        false},
+    {"out", OptionKind::Folder,
+        QT_TRANSLATE_NOOP("layertool",
+            "输出文件夹，其中的相对路径与输入相同，并记有日志；没有时新建。原图形从不改动。"),
+        "", false, false},
+    {"force", OptionKind::Flag, QT_TRANSLATE_NOOP("layertool", "也重做日志表明已经完成的图形。"),
+        "", false, false},
+    {"wait", OptionKind::Flag,
+        QT_TRANSLATE_NOOP("layertool", "输出文件夹正被另一次运行使用时等它结束。"), "", false,
+        false},
+    {"jobs", OptionKind::Number,
+        QT_TRANSLATE_NOOP("layertool", "同时运行的进程数；不给时为处理器的个数。"), "", false,
+        false},
+    {"shard", OptionKind::Text,
+        QT_TRANSLATE_NOOP("layertool", "K/N：只处理全部图形 N 份中的第 K 份（K 从 1 起）。"), "",
+        false, false},
+    {"time-limit", OptionKind::Number,
+        QT_TRANSLATE_NOOP("layertool", "每个图形至多用多少秒；不给或为 0 时不限。"), "", false,
+        false},
+    {"memory-limit", OptionKind::Number,
+        QT_TRANSLATE_NOOP("layertool", "每个进程至多用多少 MB 内存；不给或为 0 时不限。"), "",
+        false, false},
+    {"keep-going", OptionKind::Flag,
+        QT_TRANSLATE_NOOP("layertool", "有图形失败时继续处理其余的（默认如此）。"), "", false,
+        false},
+    {"fail-fast", OptionKind::Flag,
+        QT_TRANSLATE_NOOP("layertool", "有图形失败时不再开始新的图形。"), "", false, false},
+    {"encoding", OptionKind::Text,
+        QT_TRANSLATE_NOOP("layertool", "图形文字的代码页，例如 GBK；不给时依图形所述。")},
+    {"quiet", OptionKind::Flag, QT_TRANSLATE_NOOP("layertool", "不显示进度和总计。"), "", false,
+        false},
+    {"language", OptionKind::Choice,
+        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), "zh en", false, false},
+};
+
+constexpr OptionRow kEditing[] = {
+    {"in-place", OptionKind::Flag,
+        QT_TRANSLATE_NOOP("layertool", "改动写回原图形（先写临时文件，完整后才替换）。"), "", false,
+        false},
+    {"backup", OptionKind::Flag,
+        QT_TRANSLATE_NOOP(
+            "layertool", "与 --in-place 一起：替换之前把原图形留为同名的 .bak 文件。"),
+        "", false, false},
+    {"dry-run", OptionKind::Flag,
+        QT_TRANSLATE_NOOP("layertool", "只显示会改动什么，不写任何图形。")},
+};
+
+} // namespace
+
+std::vector<OptionRow> joined(OptionRows first, OptionRows second)
+{
+    std::vector<OptionRow> all(first.begin(), first.end());
+    all.insert(all.end(), second.begin(), second.end());
+    return all;
+}
+
+OptionRows commonOptions()
+{
+    return OptionRows::of(kCommon);
+}
+
+OptionRows editingOptions()
+{
+    return OptionRows::of(kEditing);
+}
+
+} // namespace layertool

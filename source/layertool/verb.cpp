@@ -1,0 +1,34 @@
+#include "verb.h"
+
+#include "drawing.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace layertool {
+
+/// Names in the staging folder are short: one that just fits into the output folder would not
+/// leave room for what temporary files add to it.
+Expected<void> Verb::write(
+    drawing::Drawing& drawing, const Job& job, drawing::Progress& progress, Result& result)
+{
+    if (job.staging.isEmpty())
+        return drawing.save(job.output, &progress);
+    const QString staged = QDir(job.staging).filePath(QStringLiteral("%1.dxf").arg(job.number));
+    const QString states = QDir(job.staging).filePath(QStringLiteral("%1.las").arg(job.number));
+    const QFileInfo output(job.output);
+    result.staged = {
+        {states, output.dir().filePath(output.completeBaseName() + QStringLiteral(".las"))},
+        {staged, job.output}};
+    return drawing.save(staged, &progress);
+}
+
+const VerbRow* findVerb(const QString& name)
+{
+    const auto found = std::find_if(verbs().begin(), verbs().end(),
+        [&name](const VerbRow& row) { return name == QLatin1String(row.name); });
+    return found == verbs().end() ? nullptr : &*found;
+}
+
+} // namespace layertool

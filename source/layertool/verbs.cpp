@@ -1,0 +1,20 @@
+#include "verbs/verbs.h"
+
+namespace layertool {
+
+const std::vector<VerbRow>& verbs()
+{
+    static const std::vector<VerbRow> all{
+        listVerb(),
+        setVerb(),
+        renameVerb(),
+        mergeVerb(),
+        deleteVerb(),
+        purgeVerb(),
+        translateVerb(),
+        reportVerb(),
+    };
+    return all;
+}
+
+} // namespace layertool

@@ -1,0 +1,30 @@
+#include "verbs.h"
+
+#include "engine/run.h"
+
+#include <QCoreApplication>
+
+namespace layertool {
+
+namespace {
+
+constexpr OptionRow kOptions[] = {
+    {"output", OptionKind::Text,
+        QT_TRANSLATE_NOOP("layertool", "报告写入哪个文件；不给时写到标准输出。")},
+    {"quiet", OptionKind::Flag, QT_TRANSLATE_NOOP("layertool", "不显示总计。")},
+    {"language", OptionKind::Choice,
+        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), "zh en"},
+};
+
+} // namespace
+
+VerbRow reportVerb()
+{
+    VerbRow row{"report",
+        QT_TRANSLATE_NOOP("layertool", "由输出文件夹中的日志做出 CSV 报告，不处理图形。"),
+        OptionRows::of(kOptions), "", false, nullptr};
+    row.runAlone = runReport;
+    return row;
+}
+
+} // namespace layertool

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "verb.h"
+
+namespace layertool {
+
+// Each verb tells of itself; `verbs` gathers them.
+VerbRow listVerb();
+VerbRow setVerb();
+VerbRow renameVerb();
+VerbRow mergeVerb();
+VerbRow deleteVerb();
+VerbRow purgeVerb();
+VerbRow translateVerb();
+VerbRow reportVerb();
+
+} // namespace layertool
