@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -55,10 +56,18 @@ void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
 
     // The label is rich text, which has no mnemonic of its own.
     auto* mnemonic = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_T), this);
-    connect(mnemonic, &QShortcut::activated, m_value, [this] { m_value->setFocus(); });
+    connect(mnemonic, &QShortcut::activated, this, &VnQtUiLayerTransparencyModify::offerValue);
     connect(ok, &QPushButton::clicked, this, &VnQtUiLayerTransparencyModify::slot_onBtnOkClicked);
     connect(cancel, &QPushButton::clicked, this,
         &VnQtUiLayerTransparencyModify::slot_onBtnCancelClicked);
+    offerValue();
+}
+
+/// What is typed next replaces the value.
+void VnQtUiLayerTransparencyModify::offerValue()
+{
+    m_value->setFocus();
+    m_value->lineEdit()->selectAll();
 }
 
 void VnQtUiLayerTransparencyModify::slot_onBtnOkClicked(bool)
@@ -67,6 +76,7 @@ void VnQtUiLayerTransparencyModify::slot_onBtnOkClicked(bool)
     const int value = m_value->currentText().toInt();
     if (static_cast<unsigned>(value) > kMost) {
         vnuiMessageBox(L"请输入一个0至90之间的整数", L"", kVnIconWarning);
+        offerValue();
         return;
     }
     if (m_data)

@@ -24,6 +24,8 @@ private slots:
     void slot_onBtnCancelClicked(bool checked);
 
 private:
+    void offerValue();
+
     QComboBox* m_value = nullptr;
     VnJsonPtr m_data;
 };
