@@ -4,6 +4,8 @@
 #include "layerkeys.h"
 #include "vnjson.h"
 
+#include <cstddef>
+#include <iterator>
 #include <utility>
 
 namespace vnsi {
@@ -83,6 +85,62 @@ public:
 
 private:
     VnJsonPtr m_node;
+};
+
+/// The records of a list in their order: `for (LayerRecord record : LayerRecordList::of(tree))`.
+/// Without a list there are none.
+class LayerRecordList
+{
+public:
+    class Iterator
+    {
+    public:
+        using iterator_category = std::input_iterator_tag;
+        using value_type = LayerRecord;
+        using difference_type = std::ptrdiff_t;
+        using pointer = void;
+        using reference = LayerRecord;
+
+        Iterator(const VnJsonPtr& list, int index) : m_list(list), m_index(index) {}
+        LayerRecord operator*() const { return LayerRecord(m_list(m_index)); }
+        Iterator& operator++()
+        {
+            ++m_index;
+            return *this;
+        }
+        bool operator==(const Iterator& other) const { return m_index == other.m_index; }
+        bool operator!=(const Iterator& other) const { return m_index != other.m_index; }
+
+    private:
+        const VnJsonPtr& m_list;
+        int m_index;
+    };
+
+    explicit LayerRecordList(VnJsonPtr list) : m_list(std::move(list)), m_count(m_list.ArrayCount())
+    {
+    }
+    /// Those of a tree, which may be empty.
+    static LayerRecordList of(const VnJsonPtr& tree, const char* key = layerkey::kList)
+    {
+        return LayerRecordList(tree ? tree->GetDataJ(key) : VnJsonPtr());
+    }
+
+    /// Whether there is a list, be it an empty one.
+    bool exists() const { return !m_list.isNull(); }
+    const VnJsonPtr& node() const { return m_list; }
+    int count() const { return m_count; }
+    bool holds(int index) const { return index >= 0 && index < m_count; }
+    /// A null record outside the list.
+    LayerRecord operator[](int index) const
+    {
+        return LayerRecord(holds(index) ? m_list(index) : VnJsonPtr());
+    }
+    Iterator begin() const { return {m_list, 0}; }
+    Iterator end() const { return {m_list, m_count}; }
+
+private:
+    VnJsonPtr m_list;
+    int m_count; ///< When this was made; records added since are not seen.
 };
 
 } // namespace vnsi

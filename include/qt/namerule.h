@@ -24,6 +24,10 @@ enum class NameFault {
 Q_DECLARE_FLAGS(NameFaults, NameFault)
 Q_DECLARE_OPERATORS_FOR_FLAGS(NameFaults)
 
+/// Either kind of character that no name may hold.
+inline constexpr NameFaults kUnsupportedCharacter =
+    NameFault::ForbiddenCharacter | NameFault::ControlCharacter;
+
 inline bool isForbiddenInNames(QChar c)
 {
     for (const char forbidden : kForbiddenInNames) {

@@ -1,6 +1,7 @@
 #include "managerdriver.h"
 #include "rows.h"
 
+#include <QButtonGroup>
 #include <QDialog>
 #include <QSignalSpy>
 #include <QtTest>
@@ -279,6 +280,7 @@ private slots:
         row("256, one forbidden", QString(255, 'x') + "<", "A", tooLong);
         for (const QChar c : QStringLiteral("\\<>/\":;?*|,=`"))
             row(qPrintable("forbidden " + QString(c)), QString("x") + c, "A", forbidden);
+        row("control character", "x\x01y", "A", forbidden);
         row("allowed signs", "x$-_'.%[]", "x$-_'.%[]", "");
         row("taken in other case", "LAYER1", "A", notUnique);
         row("taken, with blanks", " Étage ", "A", notUnique);
@@ -400,8 +402,11 @@ private slots:
             });
         manager.click(1, 2);
         QVERIFY(manager.isApplyEnabled());
+        manager.record(0)->SetDataB("Selected", true); // From an earlier request.
         manager.press("applyButton");
         QCOMPARE(manager.host.log(), QStringList{request(4)});
+        QCOMPARE(manager.selectedRows(), QList<int>{1}); // Told with the request, and kept.
+        QVERIFY(!manager.record(0)->GetDataB("Selected", true));
         QVERIFY(manager.shows(1, 2, "on")); // Refilled from what the command answered.
         QVERIFY(!manager.isApplyEnabled());
         QVERIFY(manager.dialog->widget()->isVisible());
@@ -435,13 +440,29 @@ private slots:
         QVERIFY(host.log().isEmpty());
     }
 
+    void ignoresCellsThatAreNotThere()
+    {
+        ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
+        QWidget& dialog = *manager.dialog->widget();
+        for (const auto& [row, column] : {std::pair(-1, 2), {2, 2}, {1, -1}, {1, 13}}) {
+            for (const char* slot : {"slot_TableCellClicked", "slot_TableCellDoubleClicked"})
+                QVERIFY(
+                    QMetaObject::invokeMethod(&dialog, slot, Q_ARG(int, row), Q_ARG(int, column)));
+            QVERIFY(QMetaObject::invokeMethod(&dialog, "slot_TableCellChanged",
+                Q_ARG(OdString, L"x"), Q_ARG(int, row), Q_ARG(int, column)));
+        }
+        QVERIFY(manager.host.log().isEmpty());
+        QVERIFY(!manager.isApplyEnabled());
+    }
+
     void takesDataTwice()
     {
         ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B")}));
         const VnJsonPtr second = tree(layerTree({layer("C", 0)}));
         manager.dialog->setData(second, manager.invoker);
         QCOMPARE(manager.table->rowCount(), 1);
-        manager.press("newLayerButton");
+        auto* const group = manager.dialog->widget()->findChild<QButtonGroup*>();
+        QVERIFY(QMetaObject::invokeMethod(group, "buttonClicked", Q_ARG(int, 0)));
         QCOMPARE(manager.host.log(), QStringList{request(0)}); // Not once a connection.
         QVERIFY(second->HasKey("marker") && !manager.root->HasKey("marker"));
     }

@@ -28,6 +28,21 @@ private slots:
         QVERIFY(manager.table->hasFocus());
     }
 
+    void centresIcons()
+    {
+        const ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
+        manager.table->setMinimumWidth(1200);
+        for (int column = 0; column < manager.table->columnCount(); ++column)
+            manager.table->setColumnWidth(column, 90);
+        const QImage picture = manager.table->viewport()->grab().toImage();
+        for (const int column : {0, 2, 3, 4, 10, 11}) {
+            const QRect cell = manager.table->visualItemRect(manager.cell(0, column));
+            const QRect inked = inkedPart(picture, cell.adjusted(2, 2, -2, -2));
+            const int off = qAbs(inked.center().x() - cell.center().x());
+            QVERIFY2(column == 0 ? off > 20 : off <= 2, qPrintable(QString::number(off)));
+        }
+    }
+
     void showsIcon_data()
     {
         const Rows<QString, int, QByteArray> row("record", "column", "icon");
@@ -301,6 +316,19 @@ private slots:
     }
 
 private:
+    /// What differs from the corner's colour.
+    static QRect inkedPart(const QImage& picture, const QRect& part)
+    {
+        QRegion inked;
+        for (int x = part.left(); x <= part.right(); ++x) {
+            for (int y = part.top(); y <= part.bottom(); ++y) {
+                if (picture.pixel(x, y) != picture.pixel(part.topLeft()))
+                    inked += QRect(x, y, 1, 1);
+            }
+        }
+        return inked.boundingRect();
+    }
+
     ModuleFixture m_module;
 };
 

@@ -4,17 +4,22 @@
 #include "vnservicedict.h"
 #include "vnstrings.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QPainter>
 #include <QPixmap>
 #include <QSignalBlocker>
 #include <QTableWidget>
+
+#include <utility>
 
 namespace vnsi {
 
 namespace {
 
 constexpr int kSwatchSize = 16;
+constexpr int kSwatchGap = 4;
 // The alignment values of the host's tables: left or centred, in the middle of the row's height.
 constexpr int kAlignLeft = 129;
 constexpr int kAlignCentre = 132;
@@ -23,11 +28,6 @@ constexpr const char* kIconNames[] = {"current", "nocurrent", "deleted", "off", 
     "thaw", "lock", "unlock", "print", "noprint", "allfrozed", "allthaw", "newlayer", "deletelayer",
     "currentlayer"};
 static_assert(std::size(kIconNames) == static_cast<std::size_t>(LayerIcon::Count));
-
-bool isCentred(LayerCell cell)
-{
-    return cell == LayerCell::Toggle || cell == LayerCell::Color;
-}
 
 /// A cell that cannot be edited in place. It holds what it shows itself: a general item's list of
 /// roles costs several allocations a cell, and a table has thirteen cells a layer.
@@ -100,6 +100,38 @@ void prepareDelegate(QTableWidget& table)
 
 } // namespace
 
+void LayerCellDelegate::paint(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    if (cell.icon.isNull() || !(cell.displayAlignment & Qt::AlignHCenter)) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    const QIcon icon = std::exchange(cell.icon, {});
+    const QString text = std::exchange(cell.text, {});
+    QStyle* const style = cell.widget ? cell.widget->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget); // All but these two.
+
+    const bool isSelected = cell.state & QStyle::State_Selected;
+    cell.palette.setCurrentColorGroup(
+        cell.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive);
+    const int gap = text.isEmpty() ? 0 : kSwatchGap;
+    const int iconWidth = cell.decorationSize.width();
+    const QString fitting = cell.fontMetrics.elidedText(
+        text, cell.textElideMode, cell.rect.width() - iconWidth - 2 * gap);
+    const QSize content(
+        iconWidth + gap + cell.fontMetrics.horizontalAdvance(fitting), cell.rect.height());
+    const QRect place = QStyle::alignedRect(cell.direction, Qt::AlignCenter, content, cell.rect);
+    const QRect iconPlace = QStyle::alignedRect(
+        cell.direction, Qt::AlignLeft | Qt::AlignVCenter, QSize(iconWidth, place.height()), place);
+    icon.paint(painter, iconPlace, Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
+    style->drawItemText(painter, place,
+        QStyle::visualAlignment(cell.direction, Qt::AlignRight | Qt::AlignVCenter), cell.palette,
+        true, fitting, isSelected ? QPalette::HighlightedText : QPalette::Text);
+}
+
 QSize LayerCellDelegate::sizeHint(
     const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
@@ -165,7 +197,7 @@ const QString& LayerCells::numberText(LayerCell cell, int number)
 QTableWidgetItem* LayerCells::makeItem(const LayerRecord& record, const LayerColumn& column)
 {
     const auto make = [&column](const QIcon& icon, const QString& text) {
-        return new LayerCellItem(isCentred(column.cell), icon, text);
+        return new LayerCellItem(column.align == LayerAlign::Centre, icon, text);
     };
     switch (column.cell) {
     case LayerCell::Status:
@@ -174,7 +206,8 @@ QTableWidgetItem* LayerCells::makeItem(const LayerRecord& record, const LayerCol
         return make(
             stateIcon(record.isCurrentOfState()), vnutOdStringToQString(record.text(column.key)));
     case LayerCell::Toggle:
-        return make(icon(record.flag(column.key) ? column.whenTrue : column.whenFalse), {});
+        return make(
+            icon(record.flag(column.key) ? column.icons.whenTrue : column.icons.whenFalse), {});
     case LayerCell::Color: {
         const Swatch& shown = swatch(record.color());
         return make(shown.icon, shown.text);

@@ -39,38 +39,74 @@ enum class LayerIcon {
     Count
 };
 
-/// One column of a table of layers.
+/// What a click on a cell does to its record.
+enum class LayerClick {
+    None,
+    Mark,         ///< Nothing is edited, yet the layer counts as changed; this is intended.
+    Toggle,       ///< Turns the flag under the column's key round.
+    ToggleOff,    ///< The same; for the current layer only when the user insists.
+    ToggleFrozen, ///< The same; refused for the current layer.
+    ChooseColor,
+    ChooseTransparency
+};
+
+/// What a double click does.
+enum class LayerDoubleClick { None, MakeCurrent, Rename, Describe };
+
+enum class LayerAlign { Left, Centre };
+
+/// The icons of a toggle.
+struct LayerIcons
+{
+    LayerIcon whenTrue = LayerIcon::Count;
+    LayerIcon whenFalse = LayerIcon::Count;
+};
+
+/// One column of a table of layers: all that tables know of it.
 struct LayerColumn
 {
     const char* header; ///< Source text; tables translate it.
     LayerCell cell;
-    const char* key = nullptr;              ///< Of the record; null for cells that read several.
-    LayerIcon whenTrue = LayerIcon::Count;  ///< Of toggles.
-    LayerIcon whenFalse = LayerIcon::Count; ///< Of toggles.
+    const char* key; ///< Of the record's member that is shown.
+    LayerAlign align = LayerAlign::Left;
+    LayerClick click = LayerClick::None; ///< All but `None` mark the layer as modified.
+    LayerIcons icons = {};
+    LayerDoubleClick doubleClick = LayerDoubleClick::None;
 };
 
 /// The columns that tables of layers share.
 namespace layercolumn {
-inline constexpr LayerColumn kOff{
-    QT_TR_NOOP("开"), LayerCell::Toggle, layerkey::kOff, LayerIcon::Off, LayerIcon::On};
-inline constexpr LayerColumn kLock{
-    QT_TR_NOOP("锁定"), LayerCell::Toggle, layerkey::kLock, LayerIcon::Lock, LayerIcon::Unlock};
-inline constexpr LayerColumn kColor{QT_TR_NOOP("颜色"), LayerCell::Color};
-inline constexpr LayerColumn kLinetype{QT_TR_NOOP("线型"), LayerCell::Text, layerkey::kLinetype};
-inline constexpr LayerColumn kLineWidth{
-    QT_TR_NOOP("线宽"), LayerCell::LineWidth, layerkey::kLineWidth};
-inline constexpr LayerColumn kTransparency{
-    QT_TR_NOOP("透明度"), LayerCell::Number, layerkey::kTransparency};
+inline constexpr LayerColumn kOff{QT_TR_NOOP("开"), LayerCell::Toggle, layerkey::kOff,
+    LayerAlign::Centre, LayerClick::ToggleOff, {LayerIcon::Off, LayerIcon::On}};
+inline constexpr LayerColumn kLock{QT_TR_NOOP("锁定"), LayerCell::Toggle, layerkey::kLock,
+    LayerAlign::Centre, LayerClick::Toggle, {LayerIcon::Lock, LayerIcon::Unlock}};
+inline constexpr LayerColumn kColor{QT_TR_NOOP("颜色"), LayerCell::Color, layerkey::kColor,
+    LayerAlign::Centre, LayerClick::ChooseColor};
+inline constexpr LayerColumn kLinetype{
+    QT_TR_NOOP("线型"), LayerCell::Text, layerkey::kLinetype, LayerAlign::Left, LayerClick::Mark};
+inline constexpr LayerColumn kLineWidth{QT_TR_NOOP("线宽"), LayerCell::LineWidth,
+    layerkey::kLineWidth, LayerAlign::Left, LayerClick::Mark};
+inline constexpr LayerColumn kTransparency{QT_TR_NOOP("透明度"), LayerCell::Number,
+    layerkey::kTransparency, LayerAlign::Left, LayerClick::ChooseTransparency};
 inline constexpr LayerColumn kPlotStyle{
     QT_TR_NOOP("打印样式"), LayerCell::Text, layerkey::kPlotStyle};
-inline constexpr LayerColumn kPrint{
-    QT_TR_NOOP("打印"), LayerCell::Toggle, layerkey::kPrint, LayerIcon::Print, LayerIcon::NoPrint};
+inline constexpr LayerColumn kPrint{QT_TR_NOOP("打印"), LayerCell::Toggle, layerkey::kPrint,
+    LayerAlign::Centre, LayerClick::Toggle, {LayerIcon::Print, LayerIcon::NoPrint}};
 inline constexpr LayerColumn kVPortFrozen{QT_TR_NOOP("新视口冻结"), LayerCell::Toggle,
-    layerkey::kVPortFrozen, LayerIcon::AllFrozen, LayerIcon::AllThaw};
+    layerkey::kVPortFrozen, LayerAlign::Centre, LayerClick::Toggle,
+    {LayerIcon::AllFrozen, LayerIcon::AllThaw}};
+
+/// The column of all viewports' freezing, which tables head differently.
+constexpr LayerColumn frozen(const char* header)
+{
+    return {header, LayerCell::Toggle, layerkey::kFrozen, LayerAlign::Centre,
+        LayerClick::ToggleFrozen, {LayerIcon::Frozen, LayerIcon::Thaw}};
+}
 } // namespace layercolumn
 
-/// Remembers the size of each look: laying out the same few texts for thousands of cells is most of
-/// what sizing the columns costs.
+/// Puts icons into the middle of their cells where the alignment says so; item views draw them at
+/// the left whatever it says. Remembers the size of each look: laying out the same few texts for
+/// thousands of cells is most of what sizing the columns costs.
 class LayerCellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -78,6 +114,8 @@ class LayerCellDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     /// To be called when fonts or looks may have changed.
     void forgetSizes() { m_sizes.clear(); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layercells.h"
+#include "managertable.h"
 #include "vornqt.h"
 
 class QBoxLayout;
@@ -37,43 +37,21 @@ private slots:
     void slot_BtnLayerControllerGroupClicked(int id);
 
 private:
-    enum class Ask { No, Yes };
+    /// The buttons above the table, by their ids.
+    enum Controller { kNewLayer, kDeleteLayer, kSetCurrent };
 
     QBoxLayout* makeButtonRow();
     QBoxLayout* makeBottomRow();
     void connectWidgets();
 
-    void setUpTable();
     void fill();
-    void moveCursor(int row);
-    void applyColumnWidths();
-    void writeColumnWidths();
-    void writeSelection();
-
-    bool toggleOff(int row, LayerRecord& record);
-    bool toggleFrozen(int row, LayerRecord& record);
-    void toggle(int row, int column, LayerRecord& record);
-    void editColor(int row, LayerRecord& record);
-    void editTransparency(int row, LayerRecord& record);
-
+    void addLayer();
     void deleteByKey();
     void deleteSelected();
     void setSelectedCurrent();
-    bool canBeCurrent(int row, Ask ask);
-    void makeCurrent(int row, Ask ask);
-    void setRowStatus(int row, LayerStatus status);
-
-    void renameByDialog(int row, const LayerRecord& record);
-    void describeByDialog(int row, const LayerRecord& record);
-    void askForText(const VnJsonPtr& question, int row, int column);
-    void storeName(int row, const QString& text);
-    /// The name to store for a typed text, or none after telling the user why it is refused.
-    bool acceptName(int row, QString& name) const;
-
-    VnJsonPtr list() const;
-    int recordCount() const { return list().ArrayCount(); }
-    LayerRecord record(int row) const { return LayerRecord(list()(row)); }
-    void showCell(int row, int column);
+    void setClickedCurrent(int row);
+    void editText(int row, int column, LayerDoubleClick edit);
+    void apply();
 
     QLabel* m_currentLabel = nullptr;
     QButtonGroup* m_controllerGroup = nullptr;
@@ -83,9 +61,8 @@ private:
     QPushButton* m_cancelButton = nullptr;
     QPushButton* m_applyButton = nullptr;
     QShortcut* m_deleteKey = nullptr;
-    LayerCells m_cells;
-    int m_currentRow = -1;
-    bool m_renaming = false;
+    ManagerTable m_rows;
+    bool m_renaming = false; ///< A typed name or description is on its way into the table.
 };
 
 } // namespace vnsi

@@ -36,8 +36,7 @@ enum Column {
 constexpr LayerColumn kColumns[] = {
     {QT_TR_NOOP("名称"), LayerCell::MarkedName, layerkey::kName},
     layercolumn::kOff,
-    {QT_TR_NOOP("在所有视口中冻结"), LayerCell::Toggle, layerkey::kFrozen, LayerIcon::Frozen,
-        LayerIcon::Thaw},
+    layercolumn::frozen(QT_TR_NOOP("在所有视口中冻结")),
     layercolumn::kLock,
     layercolumn::kColor,
     layercolumn::kLinetype,

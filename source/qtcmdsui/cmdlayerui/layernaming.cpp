@@ -1,0 +1,99 @@
+#include "layernaming.h"
+
+#include "namerule.h"
+#include "vndialogs.h"
+#include "vnmessages.h"
+#include "vnproduct.h"
+#include "vnstrings.h"
+
+namespace vnsi::layernaming {
+
+namespace {
+
+struct Refusal
+{
+    NameFaults when;
+    const wchar_t* text;
+    const wchar_t* title;
+};
+
+/// What a name is refused for, in the order of the checks.
+constexpr Refusal kRefusals[] = {
+    {NameFault::Empty, L"名称 的长度必须至少为一个字符", L"图层 - 文字长度"},
+    {NameFault::TooLong, L"图层名无效。\n\n所允许的最大长度为 255 个字符\n", L"图层 - 文字长度"},
+    // A drawing takes control characters no more than the thirteen that the text lists.
+    {kUnsupportedCharacter,
+        L"图层名中包含无效的字符。\n\n图层名称中不得含有以下字符：\n\\<>/\":;?*|,=`", kProductName},
+};
+
+bool refuse(const wchar_t* text, const wchar_t* title)
+{
+    vnuiMessageBox(text, title, kVnIconInformation);
+    return false;
+}
+
+bool isUnique(const LayerRecordList& layers, int row, const QString& name)
+{
+    for (int other = 0; other < layers.count(); ++other) {
+        if (other != row && isSameName(name, vnutOdStringToQString(layers[other].name())))
+            return false;
+    }
+    return true;
+}
+
+bool accept(const LayerRecordList& layers, int row, const QString& name)
+{
+    const NameFaults faults = nameFaults(name);
+    for (const Refusal& refusal : kRefusals) {
+        if (faults & refusal.when)
+            return refuse(refusal.text, refusal.title);
+    }
+    return isUnique(layers, row, name) || refuse(L"图层名无效。\n\n图层名必须唯一\n", kProductName);
+}
+
+std::optional<OdString> ask(const VnJsonPtr& question)
+{
+    const VnJsonPtr answer =
+        vnuiShowModelDialog(L"Dialog/CmdsUI", L"Dialog/CmdsUI/ReNameDlg", question);
+    return answer->GetDataB("Success") ? std::optional(answer->GetDataSW("NewName")) : std::nullopt;
+}
+
+} // namespace
+
+bool mayRename(const LayerRecord& record)
+{
+    if (record.name() != OdString(L"0") && !record.dependsOnReference())
+        return true;
+    return refuse(
+        L"不能重命名选定图层。\n\n不能重命名下列图层:\n    图层 0\n    依赖外部参照的图层\n",
+        kProductName);
+}
+
+std::optional<OdString> askName(const LayerRecord& record)
+{
+    const VnJsonPtr question = ElementValue::createObject(2);
+    question->set("DefaultName", record.name());
+    return ask(question);
+}
+
+std::optional<OdString> askDescription(const LayerRecord& record)
+{
+    const VnJsonPtr question = ElementValue::createObject(2);
+    question->set("Tip", L"说明:").set("DefaultName", record.text(layerkey::kDescription));
+    return ask(question);
+}
+
+void storeName(const LayerRecordList& layers, int row, const OdString& typed)
+{
+    LayerRecord renamed = layers[row];
+    const bool isOnly = layers.count() < 2; // The only layer may be called anything.
+    const QString name = vnutOdStringToQString(typed).trimmed();
+    if (isOnly)
+        renamed.setName(typed);
+    else if (accept(layers, row, name))
+        renamed.setName(vnutQStringToOdString(name));
+    else
+        renamed.setName(renamed.name()); // Written all the same, as commands may watch for it.
+}
+
+} // namespace vnsi::layernaming

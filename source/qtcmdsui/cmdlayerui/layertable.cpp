@@ -1,0 +1,50 @@
+#include "layertable.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace vnsi::layertable {
+
+void setUp(QTableWidget& table, const QStringList& headers)
+{
+    table.setColumnCount(headers.size());
+    table.setHorizontalHeaderLabels(headers);
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.verticalHeader()->hide();
+    table.horizontalHeader()->setHighlightSections(false);
+}
+
+void applyWidths(QTableWidget& table, const VnJsonPtr& node)
+{
+    const VnJsonPtr widths = node ? node->GetDataJ(managerkey::kColumnWidths) : VnJsonPtr();
+    const int count = std::min(widths.ArrayCount(), table.columnCount());
+    for (int column = 0; column < count; ++column)
+        table.setColumnWidth(column, widths(column)->asI(table.columnWidth(column)));
+}
+
+void writeWidths(const QTableWidget& table, const VnJsonPtr& node)
+{
+    if (!node)
+        return;
+    VnJsonPtr widths = node->GetDataJ(managerkey::kColumnWidths);
+    if (!widths || widths->kind() != IElementValueBase::Kind::Array) {
+        widths = ElementValue::createArray(table.columnCount());
+        node->SetDataJ(managerkey::kColumnWidths, widths);
+    }
+    widths->Clear();
+    for (int column = 0; column < table.columnCount(); ++column)
+        widths->AppendI(table.columnWidth(column));
+}
+
+void moveCursor(QTableWidget& table, int row, int column)
+{
+    const int scrolledTo = table.horizontalScrollBar()->value();
+    table.selectionModel()->setCurrentIndex(
+        table.model()->index(row, column), QItemSelectionModel::NoUpdate);
+    table.horizontalScrollBar()->setValue(scrolledTo);
+}
+
+} // namespace vnsi::layertable
