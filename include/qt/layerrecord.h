@@ -116,7 +116,9 @@ public:
         int m_index;
     };
 
-    explicit LayerRecordList(VnJsonPtr list) : m_list(std::move(list)), m_count(m_list.ArrayCount())
+    explicit LayerRecordList(VnJsonPtr list)
+        : m_list(std::move(list)),
+          m_count(m_list ? m_list->ArrayCount() : 0)
     {
     }
     /// Those of a tree, which may be empty.

@@ -1,7 +1,7 @@
 #include "layercells.h"
 
+#include "hostapi/hostcalls.h"
 #include "lineweighttext.h"
-#include "vnservicedict.h"
 #include "vnstrings.h"
 
 #include <QApplication>
@@ -63,13 +63,6 @@ private:
     QString m_text;
     int m_alignment;
 };
-
-VnDocumentPtr currentDocument()
-{
-    const auto manager =
-        OdSmartPtr<VnDocMgr>::castFrom(vn_arbitDict_getservice(L"Core/DocMgr").get());
-    return manager ? manager->currentDocument() : VnDocumentPtr();
-}
 
 /// Rows to select, neighbours joined, so that selecting thousands is one operation.
 QItemSelection selectedRows(const QTableWidget& table, const std::vector<LayerRecord>& records)
@@ -177,11 +170,7 @@ const LayerCells::Swatch& LayerCells::swatch(const LayerColor& color)
         QPixmap pixmap(kSwatchSize, kSwatchSize);
         pixmap.fill(QColor(resolved.red(), resolved.green(), resolved.blue()));
         made.icon = QIcon(pixmap);
-        if (m_document.isNull())
-            m_document = currentDocument();
-        const OdArray<ODCOLORREF> noTable;
-        made.text = vnutOdStringToQString(
-            formatColor(resolved, m_document ? m_document->colorTable() : noTable, OdDbObjectId()));
+        made.text = vnutOdStringToQString(hostapi::colorText(resolved));
     }
     return made;
 }
@@ -231,7 +220,6 @@ void LayerCells::refresh(QTableWidget& table, int row, int column, const LayerRe
 void LayerCells::fill(QTableWidget& table, const std::vector<LayerRecord>& records,
     const LayerColumn* columns, int columnCount)
 {
-    m_document = currentDocument();
     prepareDelegate(table);
     table.setUpdatesEnabled(false);
     table.clearContents();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "layerrecord.h"
-#include "vndocument.h"
 
 #include <QHash>
 #include <QIcon>
@@ -158,7 +157,6 @@ private:
     std::array<QIcon, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
     QHash<QPair<qint64, qint64>, Swatch> m_swatches;
     QHash<QPair<int, int>, QString> m_numberTexts; ///< By the cell's kind and the number.
-    VnDocumentPtr m_document;
 };
 
 } // namespace vnsi

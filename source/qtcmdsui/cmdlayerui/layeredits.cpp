@@ -36,7 +36,7 @@ bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent)
         hostapi::showDialogEx(L"Dialog/Common", L"ColorDialog", question, {}, parent);
     if (answer->GetDataI("result") != kVnAnswerOk)
         return false;
-    record.setColor({answer->GetDataL("clrMethod", 0), answer->GetDataL("selectClr", -1)});
+    record.setColor({wholeNumber(*answer, "clrMethod"), wholeNumber(*answer, "selectClr", -1)});
     return true;
 }
 

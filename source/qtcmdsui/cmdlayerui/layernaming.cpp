@@ -1,9 +1,9 @@
 #include "layernaming.h"
 
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "namerule.h"
-#include "vndialogs.h"
-#include "vnmessages.h"
-#include "vnproduct.h"
 #include "vnstrings.h"
 
 namespace vnsi::layernaming {
@@ -28,7 +28,7 @@ constexpr Refusal kRefusals[] = {
 
 bool refuse(const wchar_t* text, const wchar_t* title)
 {
-    vnuiMessageBox(text, title, kVnIconInformation);
+    hostapi::messageBox(text, title, kVnIconInformation);
     return false;
 }
 
@@ -54,7 +54,7 @@ bool accept(const LayerRecordList& layers, int row, const QString& name)
 std::optional<OdString> ask(const VnJsonPtr& question)
 {
     const VnJsonPtr answer =
-        vnuiShowModelDialog(L"Dialog/CmdsUI", L"Dialog/CmdsUI/ReNameDlg", question);
+        hostapi::showDialog(L"Dialog/CmdsUI", L"Dialog/CmdsUI/ReNameDlg", question);
     return answer->GetDataB("Success") ? std::optional(answer->GetDataSW("NewName")) : std::nullopt;
 }
 
@@ -71,15 +71,16 @@ bool mayRename(const LayerRecord& record)
 
 std::optional<OdString> askName(const LayerRecord& record)
 {
-    const VnJsonPtr question = ElementValue::createObject(2);
-    question->set("DefaultName", record.name());
+    const VnJsonPtr question = hostapi::makeObject();
+    question->SetDataSW("DefaultName", record.name());
     return ask(question);
 }
 
 std::optional<OdString> askDescription(const LayerRecord& record)
 {
-    const VnJsonPtr question = ElementValue::createObject(2);
-    question->set("Tip", L"说明:").set("DefaultName", record.text(layerkey::kDescription));
+    const VnJsonPtr question = hostapi::makeObject();
+    question->SetDataSW("Tip", L"说明:");
+    question->SetDataSW("DefaultName", record.text(layerkey::kDescription));
     return ask(question);
 }
 

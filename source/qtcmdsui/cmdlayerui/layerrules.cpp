@@ -1,9 +1,9 @@
 #include "layerrules.h"
 
+#include "hostapi/hostcalls.h"
+#include "hostcodes.h"
 #include "namerule.h"
-#include "vnmessages.h"
 #include "vnstrings.h"
-#include "vntaskdialog.h"
 
 namespace vnsi::layerrules {
 
@@ -27,20 +27,16 @@ bool mayBeCurrent(const LayerRecord& record)
 {
     if (record.status() != kLayerDelete && !record.isFrozen() && !record.dependsOnReference())
         return true;
-    vnuiMessageBox(L"无法将选定图层置为当前图层。\n\n无法将下列图层置为当前图层:\n"
-                   L"    依赖外部参照的图层\n    已冻结的图层\n    已删除的图层\n",
+    hostapi::messageBox(L"无法将选定图层置为当前图层。\n\n无法将下列图层置为当前图层:\n"
+                        L"    依赖外部参照的图层\n    已冻结的图层\n    已删除的图层\n",
         L"图层 - 无法置为当前", kVnIconInformation);
     return false;
 }
 
 bool asksToTurnOn()
 {
-    CVnUiTaskDialog question;
-    question.SetWindowTitle(L"图层 - 关闭当前图层");
-    question.SetMainInstruction(L"当前图层将被关闭。希望执行什么操作？");
-    question.AddCommandControl(kTurnOff, L"关闭当前图层");
-    question.AddCommandControl(kKeepOn, L"使当前图层保持打开状态");
-    return question.DoModal() == kKeepOn;
+    return hostapi::taskDialog(L"图层 - 关闭当前图层", L"当前图层将被关闭。希望执行什么操作？",
+               {{kTurnOff, L"关闭当前图层"}, {kKeepOn, L"使当前图层保持打开状态"}}) == kKeepOn;
 }
 
 int toggleDeletion(const LayerRecordList& layers)
@@ -68,7 +64,8 @@ void tellNotDeleted(int refused, int selected)
         QStringLiteral("有 %1 个选定图层无法删除（共 %2 个选定图层)\r\n 无法删除以下图层：\r\n"
                        "    ·图层0和图层Defpoints\r\n    ·当前图层\r\n    依赖外部参照的图层\r\n"
                        "    ·包含对象的图层\r\n ");
-    vnuiMessageBox(vnutQStringToOdString(text.arg(refused).arg(selected)), L"提示", kWarningStyle);
+    hostapi::messageBox(
+        vnutQStringToOdString(text.arg(refused).arg(selected)), L"提示", kWarningStyle);
 }
 
 } // namespace vnsi::layerrules

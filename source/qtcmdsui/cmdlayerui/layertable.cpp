@@ -1,5 +1,7 @@
 #include "layertable.h"
 
+#include "hostapi/hosttree.h"
+
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTableWidget>
@@ -20,9 +22,9 @@ void setUp(QTableWidget& table, const QStringList& headers)
 void applyWidths(QTableWidget& table, const VnJsonPtr& node)
 {
     const VnJsonPtr widths = node ? node->GetDataJ(managerkey::kColumnWidths) : VnJsonPtr();
-    const int count = std::min(widths.ArrayCount(), table.columnCount());
+    const int count = std::min(hostapi::count(widths), table.columnCount());
     for (int column = 0; column < count; ++column)
-        table.setColumnWidth(column, widths(column)->asI(table.columnWidth(column)));
+        table.setColumnWidth(column, hostapi::intAt(widths, column, table.columnWidth(column)));
 }
 
 void writeWidths(const QTableWidget& table, const VnJsonPtr& node)
@@ -30,13 +32,14 @@ void writeWidths(const QTableWidget& table, const VnJsonPtr& node)
     if (!node)
         return;
     VnJsonPtr widths = node->GetDataJ(managerkey::kColumnWidths);
-    if (!widths || widths->kind() != IElementValueBase::Kind::Array) {
-        widths = ElementValue::createArray(table.columnCount());
+    if (hostapi::count(widths) == 0) {
+        widths = hostapi::makeArray(table.columnCount());
         node->SetDataJ(managerkey::kColumnWidths, widths);
     }
-    widths->Clear();
+    for (int last = hostapi::count(widths) - 1; last >= 0; --last)
+        hostapi::removeItem(widths, last);
     for (int column = 0; column < table.columnCount(); ++column)
-        widths->AppendI(table.columnWidth(column));
+        hostapi::append(widths, table.columnWidth(column));
 }
 
 void moveCursor(QTableWidget& table, int row, int column)

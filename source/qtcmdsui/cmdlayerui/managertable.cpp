@@ -1,5 +1,6 @@
 #include "managertable.h"
 
+#include "hostapi/hosttree.h"
 #include "layerclicks.h"
 #include "layernaming.h"
 #include "layertable.h"
@@ -98,7 +99,7 @@ bool ManagerTable::click(int row, int column)
     LayerRecord clicked = layers()[row];
     if (clicked.isNull() || !isColumn(column))
         return false;
-    const VnJsonPtr colorQuestion = ElementValue::createObject(2);
+    const VnJsonPtr colorQuestion = hostapi::makeObject();
     if (!layeredits::click(
             kColumns[column], clicked, row == m_currentRow, colorQuestion, m_table->window()))
         return false;

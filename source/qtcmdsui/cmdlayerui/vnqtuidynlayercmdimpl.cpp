@@ -1,10 +1,11 @@
 #include "vnqtuidynlayercmdimpl.h"
 
 #include "buttongroupclick.h"
+#include "hostapi/hostcalls.h"
+#include "hostcodes.h"
 #include "layeredits.h"
 #include "layernaming.h"
 #include "layerrules.h"
-#include "vnmessages.h"
 #include "vnqtlayerqtablewgt.h"
 #include "vnstrings.h"
 
@@ -199,7 +200,7 @@ void VnQtUiDynLayerCmdImpl::slot_BtnCancelClicked(bool)
         canRequest() && std::any_of(list.begin(), list.end(),
                             [](const LayerRecord& record) { return record.isModified(); });
     if (isModified &&
-        vnuiMessageBox(L"是否保存对图层设置的修改？", L"提示", kVnYesNo) == kVnAnswerYes)
+        hostapi::messageBox(L"是否保存对图层设置的修改？", L"提示", kVnYesNo) == kVnAnswerYes)
         apply();
     reject();
 }
