@@ -176,10 +176,12 @@ void LayerTranslateCommandTest::refusals()
         QVERIFY(message().contains("正在转换的图形"));
         save(inFolder("text.dxf"));
         QVERIFY(message().contains("text.dxf"));
-        for (const char* name : {"new.dws", "new.DWG", "new.dwt"}) {
+        for (const char* name : {"new.dws", "new.DWG", "new.dwt", "floor.dws"}) {
             save(inFolder(name));
             const QString refusal = message();
-            QVERIFY(refusal.contains(name) && refusal.contains("new.dxf"));
+            // The drawing's own name is not offered.
+            QVERIFY(refusal.contains(name) && refusal.contains(".dxf"));
+            QVERIFY(refusal.contains("new.dxf") || refusal.contains("floor-图层标准.dxf"));
             QVERIFY(!QFile::exists(inFolder(name)));
         }
         QMetaObject::invokeMethod(&dialog, "slot_MenuMapListAllDelete");

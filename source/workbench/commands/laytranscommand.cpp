@@ -128,6 +128,15 @@ void LayerTranslateCommand::tellProblems(const QString& title)
     layermarks::warn(message);
 }
 
+/// A name for mappings that were to be saved as `file`; the drawing's own is no such name.
+QString LayerTranslateCommand::offeredName(const QFileInfo& file) const
+{
+    const QString base = file.completeBaseName();
+    const QString name = base + QStringLiteral(".dxf");
+    const bool isDrawing = QFileInfo(file.dir(), name) == QFileInfo(drawing().path());
+    return isDrawing ? base + tr("-图层标准") + QStringLiteral(".dxf") : name;
+}
+
 bool LayerTranslateCommand::maySave(const QString& path) const
 {
     const QFileInfo file(path);
@@ -136,8 +145,8 @@ bool LayerTranslateCommand::maySave(const QString& path) const
         [&](const char* format) { return ending.compare(format, Qt::CaseInsensitive) == 0; });
     if (isOtherFormat) {
         layermarks::warn(tr("没有写入文件“%1”：图层映射以 DXF 格式保存，文件名不能以 .%2 结尾。"
-                            "请保存为“%3.dxf”。")
-                             .arg(shown(path), ending, file.completeBaseName()));
+                            "请保存为“%3”。")
+                             .arg(shown(path), ending, offeredName(file)));
         return false;
     }
     if (file == QFileInfo(drawing().path())) {

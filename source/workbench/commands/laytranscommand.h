@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+class QFileInfo;
+
 /// LAYTRANS: shows the layer translator and answers what it asks. What the translation and a purge
 /// change is one step; what is looked at meanwhile changes the canvas alone.
 class LayerTranslateCommand : public LayerCommand
@@ -32,6 +34,7 @@ private:
     void loadFile(const QString& path, const vnsi::VnJsonPtr& mappings);
     void addTargets(const std::vector<drawing::TargetLayer>& targets, const QString& path);
     void sayLoaded(const vnsi::VnJsonPtr& mappings) const;
+    QString offeredName(const QFileInfo& file) const;
     /// Whether mappings may be saved under this name; tells the user why not.
     bool maySave(const QString& path) const;
     /// Shows those layers alone if the user wants that; names of none change nothing.

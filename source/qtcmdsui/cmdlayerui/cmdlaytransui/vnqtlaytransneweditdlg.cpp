@@ -199,6 +199,7 @@ void VnQtLaytransNewEditWgt::prepareCombos()
 void VnQtLaytransNewEditWgt::prefill(const TargetRecord& record)
 {
     m_name->setText(record.name());
+    m_name->selectAll(); // To be typed over.
     showLinetype(record.linetype(), record.linetypeId());
     showLineWidth(record);
     m_transparency->setCurrentText(record.transparencyText());
