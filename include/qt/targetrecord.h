@@ -52,9 +52,12 @@ public:
             m_node->SetDataL(transkey::kToLinetypeId, id);
     }
 
-    bool hasLineWidth() const { return m_node && m_node->HasKey(transkey::kToLineWidth); }
+    bool hasLineWidth() const { return lineWidth(0) == lineWidth(1); }
     /// Hundredths of a millimetre; -3 is the default.
-    int lineWidth() const { return m_node ? m_node->GetDataI(transkey::kToLineWidth, -3) : -3; }
+    int lineWidth(int fallback = -3) const
+    {
+        return m_node ? m_node->GetDataI(transkey::kToLineWidth, fallback) : fallback;
+    }
     QString lineWidthText() const { return text(transkey::kToLineWidthText); }
     void setLineWidth(int weight, const QString& shown)
     {

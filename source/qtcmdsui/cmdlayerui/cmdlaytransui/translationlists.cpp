@@ -1,5 +1,6 @@
 #include "translationlists.h"
 
+#include "hostapi/hosttree.h"
 #include "namerule.h"
 
 #include <algorithm>
@@ -17,18 +18,18 @@ QString sourceName(const VnJsonPtr& record)
 std::vector<TranslationLists::Source> copiedSources(const VnJsonPtr& records)
 {
     std::vector<TranslationLists::Source> sources;
-    for (int i = 0, count = records.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr record = records(i);
+    for (int i = 0, count = hostapi::count(records); i < count; ++i) {
+        const VnJsonPtr record = hostapi::item(records, i);
         const QString name = sourceName(record);
         if (!name.isEmpty())
-            sources.push_back({name, ElementValue::clone(record), i});
+            sources.push_back({name, hostapi::copyOf(record), i});
     }
     return sources;
 }
 
 TargetRecord copied(const TargetRecord& target)
 {
-    return TargetRecord(ElementValue::clone(target.node()));
+    return TargetRecord(hostapi::copyOf(target.node()));
 }
 
 /// Gives the rows of layers out, each once.
@@ -71,28 +72,29 @@ bool standsBefore(const TranslationLists::Source& a, const TranslationLists::Sou
 
 VnJsonPtr TranslationLists::sourceArray() const
 {
-    VnJsonPtr array = ElementValue::createArray(static_cast<int>(m_sources.size()));
+    VnJsonPtr array = hostapi::makeArray(static_cast<int>(m_sources.size()));
     for (const Source& source : m_sources)
-        array->Append(ElementValue::clone(source.record));
+        hostapi::append(array, hostapi::copyOf(source.record));
     return array;
 }
 
 VnJsonPtr TranslationLists::targetArray() const
 {
-    VnJsonPtr array = ElementValue::createArray(static_cast<int>(m_targets.size()));
+    VnJsonPtr array = hostapi::makeArray(static_cast<int>(m_targets.size()));
     for (const TargetRecord& target : m_targets)
-        array->Append(ElementValue::clone(target.node()));
+        hostapi::append(array, hostapi::copyOf(target.node()));
     return array;
 }
 
 VnJsonPtr TranslationLists::mappingArray() const
 {
-    VnJsonPtr array = ElementValue::createArray(static_cast<int>(m_mappings.size()));
+    VnJsonPtr array = hostapi::makeArray(static_cast<int>(m_mappings.size()));
     for (const Mapping& mapping : m_mappings) {
-        const VnJsonPtr entry = ElementValue::createObject(2);
-        entry->SetDataJ(transkey::kFrom, ElementValue::clone(mapping.source.record));
-        entry->SetDataJ(transkey::kTo, ElementValue::clone(mapping.target.node()));
-        array->Append(entry);
+        const VnJsonPtr entry = hostapi::makeObject();
+        hostapi::Members(entry)
+            .set(transkey::kFrom, hostapi::copyOf(mapping.source.record))
+            .set(transkey::kTo, hostapi::copyOf(mapping.target.node()));
+        hostapi::append(array, entry);
     }
     return array;
 }
@@ -123,8 +125,8 @@ void TranslationLists::setTargets(const VnJsonPtr& records)
 {
     m_targets.clear();
     m_targetRows.clear();
-    for (int i = 0, count = records.ArrayCount(); i < count; ++i) {
-        const TargetRecord target(records(i));
+    for (int i = 0, count = hostapi::count(records); i < count; ++i) {
+        const TargetRecord target(hostapi::item(records, i));
         const QString name = foldedName(target.name());
         if (name.isEmpty())
             continue;
@@ -183,8 +185,8 @@ bool TranslationLists::applyLoaded(const VnJsonPtr& mappings)
 {
     FreeRows free(m_sources);
     std::vector<TargetRecord> targets(m_sources.size(), TargetRecord({}));
-    for (int i = 0, count = mappings.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr entry = mappings(i);
+    for (int i = 0, count = hostapi::count(mappings); i < count; ++i) {
+        const VnJsonPtr entry = hostapi::item(mappings, i);
         const TargetRecord target(entry ? entry->GetDataJ(transkey::kTo) : VnJsonPtr());
         if (target.isNull())
             continue;

@@ -2,8 +2,10 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "namerule.h"
-#include "vnmessages.h"
 #include "vnpickers.h"
 #include "vnstrings.h"
 
@@ -33,7 +35,7 @@ constexpr OdInt16 kColorsOfOthers[] = {256, 0};
 
 bool refuse(const QString& message)
 {
-    vnuiMessageBox(vnutQStringToOdString(message), L"", kVnOk);
+    hostapi::messageBox(vnutQStringToOdString(message), L"", kVnOk);
     return false;
 }
 
@@ -257,9 +259,8 @@ bool VnQtLaytransNewEditWgt::acceptName(const QString& name) const
 
 bool VnQtLaytransNewEditWgt::isInUse(const QString& name) const
 {
-    for (int i = 0, count = m_namesInUse.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr used = m_namesInUse(i);
-        if (used && isSameName(vnutOdStringToQString(used->asSW()), name))
+    for (int i = 0, count = hostapi::count(m_namesInUse); i < count; ++i) {
+        if (isSameName(vnutOdStringToQString(hostapi::textAt(m_namesInUse, i)), name))
             return true;
     }
     return false;
@@ -277,7 +278,7 @@ void VnQtLaytransNewEditWgt::slot_pbOkClicked()
     }
     if (data()) {
         data()->SetDataJ(transkey::kResult, makeResult(name, *transparency));
-        data()->set("result", 1);
+        data()->SetDataI("result", 1);
     }
     endDialog(1);
 }
@@ -286,7 +287,7 @@ VnJsonPtr VnQtLaytransNewEditWgt::makeResult(const QString& name, int transparen
 {
     using namespace transkey;
     const LayerColor color = packed(m_color->GetCurrentColorEx());
-    VnJsonPtr result = ElementValue::createObject(9);
+    VnJsonPtr result = hostapi::makeObject();
     result->SetDataSW(kResultName, vnutQStringToOdString(name));
     result->SetDataSW(kResultLinetype, m_linetype->getCurrentLineTypeString());
     result->SetDataL(

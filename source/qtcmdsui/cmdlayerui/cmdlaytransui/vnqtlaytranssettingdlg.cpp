@@ -2,6 +2,7 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
+#include "hostapi/hosttree.h"
 #include "translatorkeys.h"
 
 #include <QCheckBox>
@@ -79,11 +80,11 @@ bool VnQtLaytransSettingWgt::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 {
     VnQtModeDialogImpl::setData(data, invoker);
     const VnJsonPtr settings = data ? data->GetDataJ(transkey::kSettingsIn) : VnJsonPtr();
-    if (settings.ArrayCount() != kTranslatorOptionCount)
+    if (hostapi::count(settings) != kTranslatorOptionCount)
         return true;
     int option = 0;
     for (QCheckBox* box : m_boxes) {
-        const VnJsonPtr setting = settings(option++);
+        const VnJsonPtr setting = hostapi::item(settings, option++);
         box->setChecked(setting && setting->GetDataB(transkey::kSetting));
     }
     return true;
@@ -91,15 +92,15 @@ bool VnQtLaytransSettingWgt::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 
 void VnQtLaytransSettingWgt::slot_pbOkClicked()
 {
-    const VnJsonPtr settings = ElementValue::createArray(kTranslatorOptionCount);
+    const VnJsonPtr settings = hostapi::makeArray(kTranslatorOptionCount);
     for (const QCheckBox* box : m_boxes) {
-        const VnJsonPtr setting = ElementValue::createObject(1);
+        const VnJsonPtr setting = hostapi::makeObject();
         setting->SetDataB(transkey::kSetting, box->checkState() == Qt::Checked);
-        settings->Append(setting);
+        hostapi::append(settings, setting);
     }
     if (data()) {
         data()->SetDataJ(transkey::kSettingsOut, settings);
-        data()->set("result", 1);
+        data()->SetDataI("result", 1);
     }
     endDialog(1);
 }

@@ -1,8 +1,9 @@
 #include "vnqtlaytransuidlg.h"
 
 #include "dialoghelp.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
 #include "vnqtlaytranslistwgt.h"
-#include "vnsettings.h"
 #include "vnstrings.h"
 
 #include <QFileInfo>
@@ -24,26 +25,19 @@ OdString od(const QString& text)
     return vnutQStringToOdString(text);
 }
 
-/// An answer that is no array is none.
-bool isList(const VnJsonPtr& answer)
-{
-    return answer && answer->kind() == IElementValueBase::Kind::Array;
-}
-
 VnJsonPtr textArray(const QStringList& texts)
 {
-    VnJsonPtr array = ElementValue::createArray(texts.size());
+    VnJsonPtr array = hostapi::makeArray(texts.size());
     for (const QString& text : texts)
-        array->AppendSW(od(text));
+        hostapi::append(array, od(text));
     return array;
 }
 
 QStringList textsIn(const VnJsonPtr& array)
 {
     QStringList texts;
-    for (int i = 0, count = array.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr element = array(i);
-        const QString text = element ? vnutOdStringToQString(element->asSW()) : QString();
+    for (int i = 0, count = hostapi::count(array); i < count; ++i) {
+        const QString text = vnutOdStringToQString(hostapi::textAt(array, i));
         if (!text.isEmpty())
             texts.append(text);
     }
@@ -53,11 +47,11 @@ QStringList textsIn(const VnJsonPtr& array)
 /// Six options, none of them chosen.
 VnJsonPtr makeSettings()
 {
-    VnJsonPtr settings = ElementValue::createArray(kTranslatorOptionCount);
+    VnJsonPtr settings = hostapi::makeArray(kTranslatorOptionCount);
     for (int option = 0; option < kTranslatorOptionCount; ++option) {
-        const VnJsonPtr setting = ElementValue::createObject(1);
+        const VnJsonPtr setting = hostapi::makeObject();
         setting->SetDataB(transkey::kSetting, false);
-        settings->Append(setting);
+        hostapi::append(settings, setting);
     }
     return settings;
 }
@@ -71,8 +65,8 @@ bool VnQtUiLaytransCmd::setData(VnJsonPtr data, OdRxObjectPtr invoker)
         data ? vnutOdStringToQString(data->GetDataSW(transkey::kDrawingName)) : QString();
     if (m_drawingName.isEmpty())
         m_drawingName = QStringLiteral("Drawing1");
-    m_config = vn_user_config(transkey::kConfigSection);
-    m_settings = m_config ? m_config->GetDataJ(transkey::kConfigSettings) : VnJsonPtr();
+    m_config = hostapi::userConfig(transkey::kConfigSection);
+    m_settings = m_config->GetDataJ(transkey::kConfigSettings);
     if (!m_settings)
         m_settings = makeSettings();
     m_lists = TranslationLists();
@@ -115,15 +109,14 @@ void VnQtUiLaytransCmd::setSaved(bool isSaved)
     m_saveButton->setEnabled(!isSaved);
 }
 
-VnJsonPtr VnQtUiLaytransCmd::send(
+VnQtAnswer VnQtUiLaytransCmd::ask(
     int code, const VnQtArgumentWriter& writeArguments, std::vector<const char*> answers)
 {
     VnQtRequest request;
     request.code = code;
     request.codeKey = transkey::kRequestCode;
     request.answers = std::move(answers);
-    const VnJsonPtr asked = data();
-    return sendRequest(request, writeArguments) ? asked : VnJsonPtr();
+    return askCommand(request, writeArguments);
 }
 
 void VnQtUiLaytransCmd::slot_LineEditTextChanged(const QString& text)
@@ -139,16 +132,17 @@ void VnQtUiLaytransCmd::slot_pbFromSelectClicked()
 VnJsonPtr VnQtUiLaytransCmd::askForFile(const wchar_t* caption, const wchar_t* filter,
     const wchar_t* firstFilter, bool open, const QString& place)
 {
-    const VnJsonPtr question = ElementValue::createObject(6);
-    question->set("caption", caption)
+    const VnJsonPtr question = hostapi::makeObject();
+    const hostapi::Members keys(question);
+    keys.set("caption", caption)
         .set("filter", filter)
         .set("Open", open)
         .set("MutiFile", open) // The key's agreed spelling.
         .set("defFilter", firstFilter);
     if (!place.isEmpty())
-        question->set("dir", od(place));
+        keys.set("dir", od(place));
     const VnJsonPtr answer =
-        vnuiShowModelDialogEx(L"Dialog/Common", L"FileDialogBox", question, {}, this);
+        hostapi::showDialogEx(L"Dialog/Common", L"FileDialogBox", question, {}, this);
     return answer->GetDataI("result") == 1 ? answer : VnJsonPtr();
 }
 
@@ -167,10 +161,8 @@ void VnQtUiLaytransCmd::slot_m_pbLoadClicked()
         tree.SetDataB(transkey::kLoadIsFirst, m_lists.targets().empty());
         tree.SetDataJ(transkey::kLoadTargets, m_lists.targetArray());
     };
-    const VnJsonPtr answer =
-        send(kTranslatorLoad, arguments, {transkey::kLoadedTargets, transkey::kLoadedMappings});
-    if (!answer)
-        return;
+    const VnQtAnswer answer =
+        ask(kTranslatorLoad, arguments, {transkey::kLoadedTargets, transkey::kLoadedMappings});
     takeTargets(answer);
     const bool hasMapped = m_lists.applyLoaded(answer->GetDataJ(transkey::kLoadedMappings));
     fillTo();
@@ -180,9 +172,10 @@ void VnQtUiLaytransCmd::slot_m_pbLoadClicked()
         setSaved(false);
 }
 
-void VnQtUiLaytransCmd::takeTargets(const VnJsonPtr& answer)
+void VnQtUiLaytransCmd::takeTargets(const VnQtAnswer& answer)
 {
-    if (const VnJsonPtr targets = answer->GetDataJ(transkey::kLoadedTargets); isList(targets))
+    const VnJsonPtr targets = answer->GetDataJ(transkey::kLoadedTargets);
+    if (hostapi::count(targets) > 0)
         m_lists.setTargets(targets);
 }
 
@@ -191,12 +184,13 @@ VnJsonPtr VnQtUiLaytransCmd::askForLayer(bool isEdit, const TargetRecord& initia
     QStringList names;
     for (const TargetRecord& target : m_lists.targets())
         names.append(target.name());
-    const VnJsonPtr question = ElementValue::createObject(4);
-    question->SetDataB(transkey::kIsEdit, isEdit);
-    question->SetDataJ(transkey::kInitRecord, ElementValue::clone(initial.node()));
-    question->SetDataJ(transkey::kNamesInUse, textArray(names));
+    const VnJsonPtr question = hostapi::makeObject();
+    hostapi::Members(question)
+        .set(transkey::kIsEdit, isEdit)
+        .set(transkey::kInitRecord, hostapi::copyOf(initial.node()))
+        .set(transkey::kNamesInUse, textArray(names));
     const VnJsonPtr answer =
-        vnuiShowModelDialogEx(L"Dialog/CmdLayer", L"Dialog/CmdLaytransNewEdit", question, {}, this);
+        hostapi::showDialogEx(L"Dialog/CmdLayer", L"Dialog/CmdLaytransNewEdit", question, {}, this);
     return answer->GetDataI("result") == 1 ? answer->GetDataJ(transkey::kResult) : VnJsonPtr();
 }
 
@@ -214,10 +208,7 @@ void VnQtUiLaytransCmd::slot_m_pbNewClicked()
     const auto arguments = [&](IElementValueBase& tree) {
         tree.SetDataJ(transkey::kNewTarget, layer);
     };
-    const VnJsonPtr answer = send(kTranslatorNew, arguments, {transkey::kLoadedTargets});
-    if (!answer)
-        return;
-    takeTargets(answer);
+    takeTargets(ask(kTranslatorNew, arguments, {transkey::kLoadedTargets}));
     fillTo();
 }
 
@@ -239,7 +230,7 @@ void VnQtUiLaytransCmd::slot_m_pbMapSameClicked()
 
 void VnQtUiLaytransCmd::sendClicked(const QString& layer, bool inTable)
 {
-    send(kTranslatorClicked, [&](IElementValueBase& tree) {
+    ask(kTranslatorClicked, [&](IElementValueBase& tree) {
         tree.SetDataB(transkey::kClickedInTable, inTable);
         tree.SetDataSW(transkey::kClickedName, od(layer));
         tree.SetDataJ(transkey::kMappings, m_lists.mappingArray());
@@ -305,10 +296,10 @@ void VnQtUiLaytransCmd::slot_m_pbMapListSave()
         tree.SetDataJ(transkey::kSaveAnswer, chosen);
         tree.SetDataJ(transkey::kSaveMappings, m_lists.mappingArray());
     };
-    const VnJsonPtr answer = send(kTranslatorSave, arguments, {transkey::kSaveOutcome});
-    setSaved(answer && answer->GetDataI(transkey::kSaveOutcome) == 1);
-    if (answer) // The dialog's own outcome goes by the same key.
-        answer->set(transkey::kSaveOutcome, false);
+    const VnQtAnswer answer = ask(kTranslatorSave, arguments, {transkey::kSaveOutcome});
+    setSaved(answer->GetDataI(transkey::kSaveOutcome) == 1);
+    // The dialog's own outcome goes by the same key.
+    answer.node()->SetDataB(transkey::kSaveOutcome, false);
 }
 
 void VnQtUiLaytransCmd::slot_MapListItemClicked()
@@ -328,21 +319,20 @@ void VnQtUiLaytransCmd::slot_LtransBtnSettingClicked()
     for (const int row : m_fromList->selectedRows())
         selected.append(m_lists.sources().at(static_cast<std::size_t>(row)).name);
     const auto arguments = [&](IElementValueBase& tree) {
-        tree.RemoveKey(transkey::kSelectedName);
-        tree.RemoveKey(transkey::kSelectedNames);
+        hostapi::removeKey(tree, transkey::kSelectedName);
+        hostapi::removeKey(tree, transkey::kSelectedNames);
         if (selected.size() == 1)
             tree.SetDataSW(transkey::kSelectedName, od(selected.first()));
         if (selected.size() > 1)
             tree.SetDataJ(transkey::kSelectedNames, textArray(selected));
-        tree.SetDataJ(transkey::kSettingsAsked, ElementValue::clone(m_settings));
+        tree.SetDataJ(transkey::kSettingsAsked, hostapi::copyOf(m_settings));
     };
-    const VnJsonPtr answer = send(kTranslatorSettings, arguments, {transkey::kSettingsAnswered});
-    const VnJsonPtr settings = answer ? answer->GetDataJ(transkey::kSettingsAnswered) : VnJsonPtr();
-    if (settings.ArrayCount() != kTranslatorOptionCount)
+    const VnJsonPtr settings = ask(kTranslatorSettings, arguments, {transkey::kSettingsAnswered})
+                                   ->GetDataJ(transkey::kSettingsAnswered);
+    if (hostapi::count(settings) != kTranslatorOptionCount)
         return;
-    m_settings = ElementValue::clone(settings);
-    if (m_config)
-        m_config->SetDataJ(transkey::kConfigSettings, m_settings);
+    m_settings = hostapi::copyOf(settings);
+    m_config->SetDataJ(transkey::kConfigSettings, hostapi::copyOf(settings));
 }
 
 void VnQtUiLaytransCmd::slot_LtransBtnOkClicked()
@@ -350,13 +340,13 @@ void VnQtUiLaytransCmd::slot_LtransBtnOkClicked()
     const int rows = m_table->rowCount();
     const auto arguments = [&](IElementValueBase& tree) {
         tree.SetDataJ(transkey::kSources, m_lists.sourceArray());
-        tree.SetDataJ(transkey::kMappings, rows > 0 ? m_lists.mappingArray() : VnJsonPtr());
+        hostapi::setTree(
+            tree, transkey::kMappings, rows > 0 ? m_lists.mappingArray() : VnJsonPtr());
         tree.SetDataI(transkey::kMappingCount, rows);
         tree.SetDataB(transkey::kIsSaved, m_isSaved);
-        tree.SetDataJ(transkey::kSettingsToUse, ElementValue::clone(m_settings));
+        tree.SetDataJ(transkey::kSettingsToUse, hostapi::copyOf(m_settings));
     };
-    const VnJsonPtr answer = send(kTranslatorTranslate, arguments, {transkey::kCloses});
-    if (answer && answer->GetDataB(transkey::kCloses))
+    if (ask(kTranslatorTranslate, arguments, {transkey::kCloses})->GetDataB(transkey::kCloses))
         endDialog(1);
 }
 
@@ -383,9 +373,9 @@ void VnQtUiLaytransCmd::slot_FromListMenuActionAllNoSelect()
 
 void VnQtUiLaytransCmd::slot_FromListMenuActionCleanlayer()
 {
-    const VnJsonPtr answer = send(kTranslatorPurge, {}, {transkey::kTheme});
-    const VnJsonPtr layers = answer ? answer->GetDataJ(transkey::kTheme) : VnJsonPtr();
-    if (!isList(layers))
+    const VnJsonPtr layers =
+        ask(kTranslatorPurge, {}, {transkey::kTheme})->GetDataJ(transkey::kTheme);
+    if (hostapi::count(layers) == 0) // A drawing has one layer at least.
         return;
     if (m_lists.setSources(layers))
         showChangedMappings();

@@ -86,11 +86,10 @@ private:
     void showChangedMappings();
     void setSaved(bool isSaved);
 
-    /// Asks the command; the node that has its answers, which is empty when it could not answer.
-    VnJsonPtr send(int code, const VnQtArgumentWriter& writeArguments = {},
+    VnQtAnswer ask(int code, const VnQtArgumentWriter& writeArguments = {},
         std::vector<const char*> answers = {});
     /// Replaces the targets by those the command answered, if it did.
-    void takeTargets(const VnJsonPtr& answer);
+    void takeTargets(const VnQtAnswer& answer);
     void sendClicked(const QString& layer, bool inTable);
     /// The layer as the user defines it, from `initial` on; empty when cancelled.
     VnJsonPtr askForLayer(bool isEdit, const TargetRecord& initial);
