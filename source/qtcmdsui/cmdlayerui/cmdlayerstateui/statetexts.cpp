@@ -13,9 +13,14 @@ OdString badCharactersText()
     return L"名称包含不支持的字符。\n 不支持以下字符：\n  \\<>/?\":;*|,=`";
 }
 
-VnJsonPtr element(const VnJsonPtr& tree, Element element)
+VnJsonPtr element(const VnJsonPtr& tree, StateElement element)
 {
-    return tree ? hostapi::item(tree->GetDataJ(kManager), element) : VnJsonPtr();
+    return tree ? hostapi::item(tree->GetDataJ(statekey::kElements), element) : VnJsonPtr();
+}
+
+VnJsonPtr list(const VnJsonPtr& element)
+{
+    return element ? element->GetDataJ(statekey::kList) : VnJsonPtr();
 }
 
 QString text(const VnJsonPtr& node, const char* key)
@@ -25,7 +30,8 @@ QString text(const VnJsonPtr& node, const char* key)
 
 bool isFromReference(const VnJsonPtr& state)
 {
-    return isSameName(text(state, kSpace), vnutOdStringToQString(kReferenceSpace));
+    return isSameName(
+        text(state, statekey::kSpace), vnutOdStringToQString(statekey::kReferenceSpace));
 }
 
 int ask(const OdString& caption, const OdString& text,

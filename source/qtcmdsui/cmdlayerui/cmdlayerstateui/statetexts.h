@@ -1,22 +1,15 @@
 #pragma once
 
-#include "vnmessages.h"
+#include "hostcodes.h"
+#include "statekeys.h"
+#include "vnjson.h"
 
 #include <QString>
 
-/// Texts and keys that the dialogs of layer states share.
+#include <initializer_list>
+
+/// What the dialogs of layer states share.
 namespace vnsi::layerstates {
-
-/// The keys of the tree of states.
-inline constexpr char kManager[] = "LayerStateMgr";
-inline constexpr char kList[] = "LayerStateList";
-inline constexpr char kName[] = "LayerStateName";
-inline constexpr char kSpace[] = "space";
-inline constexpr char kDescription[] = "desc";
-inline constexpr char kCandidates[] = "NeedAddlayerList";
-
-/// The element of "LayerStateMgr" a request is on; also its "parameter".
-enum Element { kManagerElement = 1, kEditElement = 2 };
 
 inline constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 inline constexpr wchar_t kBadCharactersCaption[] = L"图层状态 - 不支持的字符";
@@ -24,13 +17,14 @@ inline constexpr wchar_t kBadCharactersCaption[] = L"图层状态 - 不支持的
 OdString badCharactersText();
 
 /// The node of a tree that holds the data of `element`; empty when there is none.
-VnJsonPtr element(const VnJsonPtr& tree, Element element);
+VnJsonPtr element(const VnJsonPtr& tree, StateElement element);
+/// The list of an element; empty when there is none.
+VnJsonPtr list(const VnJsonPtr& element);
 
 /// The text under `key`; empty for an empty node.
 QString text(const VnJsonPtr& node, const char* key);
-/// What a state of an external reference has as its space.
-inline constexpr wchar_t kReferenceSpace[] = L"外部参照";
-/// Whether a record of a state says so, whatever the letter case.
+/// Whether a record of a state says that it comes from an external reference, whatever the letter
+/// case.
 bool isFromReference(const VnJsonPtr& state);
 
 /// Shows a message with buttons of its own; the number of the button from 0, `fallback` when none

@@ -2,6 +2,7 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
+#include "hostapi/hosttree.h"
 #include "layercells.h"
 #include "statetexts.h"
 #include "vnstrings.h"
@@ -12,6 +13,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <vector>
 
 namespace vnsi {
@@ -64,15 +66,15 @@ bool VnQtAddNewLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 
 VnJsonPtr VnQtAddNewLayerDlg::candidates() const
 {
-    return data() ? data()->GetDataJ(layerstates::kCandidates) : VnJsonPtr();
+    return data() ? data()->GetDataJ(statekey::kCandidates) : VnJsonPtr();
 }
 
 void VnQtAddNewLayerDlg::fill()
 {
     const VnJsonPtr list = candidates();
     std::vector<LayerRecord> records;
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
-        records.emplace_back(list(i));
+    for (int i = 0, count = hostapi::count(list); i < count; ++i)
+        records.emplace_back(hostapi::item(list, i));
     LayerCells().fill(*m_table, records, kColumns, kColumnCount);
     m_table->clearSelection();
 }
@@ -84,17 +86,18 @@ void VnQtAddNewLayerDlg::slot_SureBtnClicked(bool)
         for (int row = range.topRow(); row <= range.bottomRow(); ++row)
             chosen.insert(m_table->item(row, 0)->text());
     }
-    // The list is built anew: taking entries out one by one costs the square of their number.
+    // Emptied from its end and filled again: taking single entries out of the middle costs the
+    // square of their number.
     const VnJsonPtr list = candidates();
     std::vector<VnJsonPtr> kept;
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        if (chosen.contains(vnutOdStringToQString(LayerRecord(list(i)).name())))
-            kept.push_back(list(i));
+    for (int i = hostapi::count(list) - 1; i >= 0; --i) {
+        const VnJsonPtr layer = hostapi::item(list, i);
+        if (chosen.contains(vnutOdStringToQString(LayerRecord(layer).name())))
+            kept.push_back(layer);
+        hostapi::removeItem(list, i);
     }
-    if (list)
-        list->Clear();
-    for (const VnJsonPtr& layer : kept)
-        list->Append(layer);
+    std::for_each(kept.rbegin(), kept.rend(),
+        [&list](const VnJsonPtr& layer) { hostapi::append(list, layer); });
     endDialog(1);
 }
 

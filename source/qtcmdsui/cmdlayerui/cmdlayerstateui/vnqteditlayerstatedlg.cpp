@@ -2,7 +2,10 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
 #include "layeredits.h"
+#include "namerule.h"
 #include "statetexts.h"
 #include "vnstrings.h"
 
@@ -15,8 +18,6 @@
 namespace vnsi {
 
 namespace {
-
-enum Request { kStore = 1, kRemove = 2 };
 
 enum Column {
     kName,
@@ -48,8 +49,6 @@ constexpr LayerColumn kColumns[] = {
 };
 static_assert(std::size(kColumns) == kColumnCount);
 
-constexpr char kDelete[] = "Delete";
-constexpr char kSelectedName[] = "selectItemName";
 constexpr int kButtonWidth = 90;
 
 } // namespace
@@ -126,38 +125,38 @@ void VnQtEditLayerStateDlg::setUpTable()
 bool VnQtEditLayerStateDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 {
     VnQtModeDialogImpl::setData(data, invoker);
-    const QString name =
-        state() ? vnutOdStringToQString(state()->GetDataSW(kSelectedName)) : QString();
-    setWindowTitle(tr("编辑图层状态: %1").arg(name));
+    setWindowTitle(tr("编辑图层状态: %1").arg(layerstates::text(state(), statekey::kEditedName)));
     fill();
     return true;
 }
 
 VnJsonPtr VnQtEditLayerStateDlg::state() const
 {
-    return layerstates::element(data(), layerstates::kEditElement);
+    return layerstates::element(data(), kStateEditor);
 }
 
 VnJsonPtr VnQtEditLayerStateDlg::list() const
 {
-    const VnJsonPtr node = state();
-    return node ? node->GetDataJ(layerstates::kList) : VnJsonPtr();
+    return layerstates::list(state());
 }
 
 void VnQtEditLayerStateDlg::fill()
 {
     const VnJsonPtr layers = list();
-    const int count = layers.ArrayCount();
+    const int count = hostapi::count(layers);
     m_rows.clear();
     m_rows.reserve(static_cast<std::size_t>(count));
     m_currentRow = -1;
+    m_currentLayers.clear();
     for (int i = 0; i < count; ++i) {
-        const LayerRecord layer(layers(i));
-        if (layer.flag(kDelete))
-            continue;
-        if (layer.isCurrentOfState())
-            m_currentRow = static_cast<int>(m_rows.size());
-        m_rows.push_back(layer);
+        const LayerRecord layer(hostapi::item(layers, i));
+        const bool isShown = !layer.flag(statekey::kIsRemoved);
+        if (layer.isCurrentOfState()) {
+            m_currentLayers.push_back(layer);
+            m_currentRow = isShown ? static_cast<int>(m_rows.size()) : m_currentRow;
+        }
+        if (isShown)
+            m_rows.push_back(layer);
     }
     m_cells.fill(*m_table, m_rows, kColumns, kColumnCount);
     m_table->resizeColumnsToContents();
@@ -167,10 +166,10 @@ void VnQtEditLayerStateDlg::fill()
 void VnQtEditLayerStateDlg::applyColumnWidths()
 {
     const VnJsonPtr node = state();
-    const VnJsonPtr widths = node ? node->GetDataJ("ColumnWidthList") : VnJsonPtr();
-    const int count = std::min(widths.ArrayCount(), static_cast<int>(kColumnCount));
+    const VnJsonPtr widths = node ? node->GetDataJ(managerkey::kColumnWidths) : VnJsonPtr();
+    const int count = std::min(hostapi::count(widths), static_cast<int>(kColumnCount));
     for (int column = 0; column < count; ++column)
-        m_table->setColumnWidth(column, widths(column)->asI());
+        m_table->setColumnWidth(column, hostapi::intAt(widths, column));
 }
 
 /// Rows may have gone while a question was open.
@@ -204,8 +203,8 @@ void VnQtEditLayerStateDlg::slot_TableCellClicked(int row, int column)
             toggle(row, column);
         break;
     case kColor: {
-        const VnJsonPtr question = ElementValue::createObject(2);
-        question->set("backgroundColor", 0);
+        const VnJsonPtr question = hostapi::makeObject();
+        question->SetDataI("backgroundColor", 0);
         if (layeredits::editColor(clicked, question, this))
             showCell(row, kColor);
         break;
@@ -219,16 +218,17 @@ void VnQtEditLayerStateDlg::slot_TableCellClicked(int row, int column)
     }
 }
 
+/// The former current layer may have been removed from the state; its record is still there.
 void VnQtEditLayerStateDlg::makeCurrent(int row)
 {
     if (row == m_currentRow)
         return;
-    const int former = std::exchange(m_currentRow, row);
-    if (former >= 0) {
-        m_rows[static_cast<std::size_t>(former)].setCurrentOfState(false);
-        showCell(former, kName);
-    }
-    m_rows[static_cast<std::size_t>(row)].setCurrentOfState(true);
+    for (LayerRecord& former : m_currentLayers)
+        former.setCurrentOfState(false);
+    LayerRecord& current = m_rows[static_cast<std::size_t>(row)];
+    current.setCurrentOfState(true);
+    m_currentLayers = {current};
+    showCell(std::exchange(m_currentRow, row), kName);
     showCell(row, kName);
 }
 
@@ -256,13 +256,14 @@ VnJsonPtr VnQtEditLayerStateDlg::missingLayers() const
 {
     QSet<QString> shown;
     for (const LayerRecord& row : m_rows)
-        shown.insert(vnutOdStringToQString(row.name()).toCaseFolded());
-    VnJsonPtr missing = ElementValue::createArray();
-    const VnJsonPtr all = state() ? state()->GetDataJ(layerkey::kList) : VnJsonPtr();
-    for (int i = 0, count = all.ArrayCount(); i < count; ++i) {
-        const QString name = vnutOdStringToQString(LayerRecord(all(i)).name());
-        if (!shown.contains(name.toCaseFolded()))
-            missing->Append(ElementValue::clone(all(i)));
+        shown.insert(foldedName(vnutOdStringToQString(row.name())));
+    VnJsonPtr missing = hostapi::makeArray();
+    const VnJsonPtr node = state();
+    const VnJsonPtr all = node ? node->GetDataJ(layerkey::kList) : VnJsonPtr();
+    for (int i = 0, count = hostapi::count(all); i < count; ++i) {
+        const VnJsonPtr layer = hostapi::item(all, i);
+        if (!shown.contains(foldedName(vnutOdStringToQString(LayerRecord(layer).name()))))
+            hostapi::append(missing, hostapi::copyOf(layer));
     }
     return missing;
 }
@@ -270,26 +271,30 @@ VnJsonPtr VnQtEditLayerStateDlg::missingLayers() const
 void VnQtEditLayerStateDlg::slot_NewLayerButtonClicked(bool)
 {
     const VnJsonPtr missing = missingLayers();
-    if (missing.ArrayCount() == 0) {
+    if (hostapi::count(missing) == 0) {
         layerstates::ask(L"图层状态 - 添加图层",
             L"所有图层都已包含在此图层状态中。没有可添加的图层。", {L"关闭(&C)"}, 0, 0);
         return;
     }
-    state()->SetDataJ(layerstates::kCandidates, missing);
-    const VnJsonPtr answer = vnuiShowModelDialogEx(
-        layerstates::kService, L"Dialog/CmdLayerStateAddNewLayer", state(), invoker(), this);
-    if (answer->GetDataI("result") != 1)
-        return;
-    const VnJsonPtr chosen = answer->GetDataJ(layerstates::kCandidates);
+    hostapi::Members(state()).set(statekey::kCandidates, missing);
+    const VnJsonPtr answer = hostapi::showDialogEx(
+        layerstates::kService, statedialog::kAddLayers, state(), invoker(), this);
+    if (answer->GetDataI("result") == kVnAnswerOk)
+        add(answer->GetDataJ(statekey::kCandidates));
+}
+
+void VnQtEditLayerStateDlg::add(const VnJsonPtr& chosen)
+{
     VnJsonPtr layers = list();
     if (!layers) {
-        layers = ElementValue::createArray();
-        state()->SetDataJ(layerstates::kList, layers);
+        layers = hostapi::makeArray();
+        hostapi::Members(state()).set(statekey::kList, layers);
     }
-    for (int i = 0, count = chosen.ArrayCount(); i < count; ++i) {
-        LayerRecord added(chosen(i));
-        added.setCurrentOfState(false); // The drawing's record reads the key the other way round.
-        layers->Append(chosen(i));
+    for (int i = 0, count = hostapi::count(chosen); i < count; ++i) {
+        const VnJsonPtr layer = hostapi::item(chosen, i);
+        // The drawing's record reads the key the other way round.
+        LayerRecord(layer).setCurrentOfState(false);
+        hostapi::append(layers, layer);
     }
     fill();
 }
@@ -310,33 +315,24 @@ void VnQtEditLayerStateDlg::slot_DeleteLayerButtonClicked(bool)
     const QStringList selected = selectedNames();
     const QSet<QString> names(selected.begin(), selected.end());
     const VnJsonPtr layers = list();
-    for (int i = layers.ArrayCount() - 1; i >= 0; --i) {
-        LayerRecord layer(layers(i));
+    for (int i = hostapi::count(layers) - 1; i >= 0; --i) {
+        LayerRecord layer(hostapi::item(layers, i));
         const QString name = vnutOdStringToQString(layer.name());
         if (!names.contains(name))
             continue;
-        layer.setFlag(kDelete, true);
+        layer.setFlag(statekey::kIsRemoved, true);
         m_pendingDeletion += name;
     }
     fill();
 }
 
-void VnQtEditLayerStateDlg::send(int code)
-{
-    VnQtRequest request;
-    request.code = code;
-    request.parameter = layerstates::kEditElement;
-    vnqtSendRequest(state(), invoker(), objectName().toUtf8().constData(), request, {});
-}
-
+/// The element is looked up for each request: the command may replace it while it answers.
 void VnQtEditLayerStateDlg::slot_BtnOkClicked(bool)
 {
-    if (canRequest()) {
-        if (!m_pendingDeletion.isEmpty())
-            send(kRemove);
-        send(kStore);
-    }
-    endDialog(1);
+    if (!m_pendingDeletion.isEmpty())
+        askCommandOn(state(), {kStateEditRemove, {}, kStateEditor});
+    askCommandOn(state(), {kStateEditStore, {}, kStateEditor});
+    endDialog(kVnAnswerOk);
 }
 
 void VnQtEditLayerStateDlg::slot_HelpBtnClicked(bool)

@@ -46,14 +46,15 @@ private:
     bool isRow(int row) const;
     void showCell(int row, int column);
     VnJsonPtr missingLayers() const;
-    void send(int code);
+    void add(const VnJsonPtr& chosen);
 
     QPushButton* m_newButton = nullptr;
     QPushButton* m_deleteButton = nullptr;
     QTableWidget* m_table = nullptr;
     LayerCells m_cells;
-    std::vector<LayerRecord> m_rows; ///< What the rows show; removed layers have none.
-    int m_currentRow = -1;
+    std::vector<LayerRecord> m_rows;          ///< What the rows show; removed layers have none.
+    int m_currentRow = -1;                    ///< -1 when its layer is not shown.
+    std::vector<LayerRecord> m_currentLayers; ///< What says that it is current, shown or not.
     QStringList m_pendingDeletion;
 };
 

@@ -2,9 +2,10 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
 #include "namerule.h"
 #include "statetexts.h"
-#include "vnproduct.h"
 #include "vnstrings.h"
 
 #include <QComboBox>
@@ -71,7 +72,7 @@ bool VnQtNewLayerStateDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 
 VnJsonPtr VnQtNewLayerStateDlg::states() const
 {
-    return data() ? data()->GetDataJ(layerstates::kList) : VnJsonPtr();
+    return layerstates::list(data());
 }
 
 void VnQtNewLayerStateDlg::fill()
@@ -79,11 +80,11 @@ void VnQtNewLayerStateDlg::fill()
     m_description->clear();
     m_name->clear();
     m_ok->setEnabled(false);
-    const VnJsonPtr list = states();
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr state = list(i);
-        m_name->addItem(layerstates::text(state, layerstates::kName),
-            layerstates::text(state, layerstates::kDescription));
+    const VnJsonPtr all = states();
+    for (int i = 0, count = hostapi::count(all); i < count; ++i) {
+        const VnJsonPtr state = hostapi::item(all, i);
+        m_name->addItem(layerstates::text(state, statekey::kName),
+            layerstates::text(state, statekey::kDescription));
     }
     // None is picked, so that picking the first one is a change too.
     m_name->setCurrentIndex(-1);
@@ -121,10 +122,10 @@ bool VnQtNewLayerStateDlg::acceptCharacters(const QString& name)
 
 bool VnQtNewLayerStateDlg::acceptReplacing(const QString& name)
 {
-    const VnJsonPtr list = states();
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr state = list(i);
-        if (!isSameName(name, layerstates::text(state, layerstates::kName)))
+    const VnJsonPtr all = states();
+    for (int i = 0, count = hostapi::count(all); i < count; ++i) {
+        const VnJsonPtr state = hostapi::item(all, i);
+        if (!isSameName(name, layerstates::text(state, statekey::kName)))
             continue;
         const QString text = tr("%1 已经存在。是否替换?").arg(name);
         const int answer = layerstates::ask(
@@ -134,7 +135,7 @@ bool VnQtNewLayerStateDlg::acceptReplacing(const QString& name)
             return false;
         }
         if (answer == kReplace && layerstates::isFromReference(state)) {
-            vnuiMessageBox(L"无法保存图层状态。", kProductName, kVnOk);
+            hostapi::messageBox(L"无法保存图层状态。", kProductName, kVnOk);
             return false;
         }
         return true;
@@ -147,12 +148,11 @@ void VnQtNewLayerStateDlg::slot_SureBtnClicked(bool)
     const QString name = m_name->currentText().trimmed();
     if (!acceptCharacters(name) || !acceptReplacing(name))
         return;
-    if (data())
-        data()
-            ->set("LayerStateNewName", vnutQStringToOdString(name))
-            .set(layerstates::kDescription, vnutQStringToOdString(m_description->toPlainText()))
-            .set("result", 1);
-    endDialog(1);
+    hostapi::Members(data())
+        .set(statekey::kNewName, vnutQStringToOdString(name))
+        .set(statekey::kDescription, vnutQStringToOdString(m_description->toPlainText()))
+        .set("result", int{kVnAnswerOk});
+    endDialog(kVnAnswerOk);
 }
 
 void VnQtNewLayerStateDlg::slot_HelpBtnClicked(bool)

@@ -1,8 +1,9 @@
 #include "vnqtuidynlayerstatecmdimpl.h"
 
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
 #include "namerule.h"
 #include "statetexts.h"
-#include "vnsettings.h"
 #include "vnstrings.h"
 
 #include <QButtonGroup>
@@ -19,12 +20,6 @@ namespace vnsi {
 
 using namespace layerstates;
 
-namespace {
-
-constexpr char kIsExpand[] = "IsExpand";
-
-} // namespace
-
 /// A check box whose state is kept.
 struct VnQtUiDynLayerStateCmdImpl::SettingRow
 {
@@ -33,9 +28,9 @@ struct VnQtUiDynLayerStateCmdImpl::SettingRow
 };
 
 const VnQtUiDynLayerStateCmdImpl::SettingRow VnQtUiDynLayerStateCmdImpl::kSettings[] = {
-    {"isRefLayerCBox", &VnQtUiDynLayerStateCmdImpl::m_referenceBox},
-    {"isWCheckBox", &VnQtUiDynLayerStateCmdImpl::m_overrideBox},
-    {"isTCheckBox", &VnQtUiDynLayerStateCmdImpl::m_turnOffBox},
+    {statekey::kConfigHidesReferences, &VnQtUiDynLayerStateCmdImpl::m_referenceBox},
+    {statekey::kConfigOverridesViewport, &VnQtUiDynLayerStateCmdImpl::m_overrideBox},
+    {statekey::kConfigTurnsOthersOff, &VnQtUiDynLayerStateCmdImpl::m_turnOffBox},
 };
 
 VnQtUiDynLayerStateCmdImpl::VnQtUiDynLayerStateCmdImpl(
@@ -49,7 +44,7 @@ VnQtUiDynLayerStateCmdImpl::VnQtUiDynLayerStateCmdImpl(
 bool VnQtUiDynLayerStateCmdImpl::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 {
     VnQtModeDialogImpl::setData(data, invoker);
-    m_config = vn_user_config(configSection());
+    m_config = hostapi::userConfig(configSection());
     setUpTable();
     readSettings();
     fill();
@@ -61,22 +56,22 @@ bool VnQtUiDynLayerStateCmdImpl::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 
 OdString VnQtUiDynLayerStateCmdImpl::configSection() const
 {
-    return L"LayerState_dialog";
+    return statekey::kConfigSection;
 }
 
 void VnQtUiDynLayerStateCmdImpl::readSettings()
 {
     for (const SettingRow& row : kSettings)
-        (this->*row.box)->setChecked(m_config && m_config->GetDataB(row.key));
-    m_isExpanded = m_config && m_config->GetDataB(kIsExpand);
+        (this->*row.box)->setChecked(m_config->GetDataB(row.key));
+    m_isExpanded = m_config->GetDataB(statekey::kConfigIsExpanded);
 }
 
 void VnQtUiDynLayerStateCmdImpl::closeEvent(QCloseEvent* event)
 {
     if (m_config) {
         for (const SettingRow& row : kSettings)
-            m_config->set(row.key, (this->*row.box)->isChecked());
-        m_config->set(kIsExpand, !m_maskPanel->isHidden());
+            m_config->SetDataB(row.key, (this->*row.box)->isChecked());
+        m_config->SetDataB(statekey::kConfigIsExpanded, !m_maskPanel->isHidden());
     }
     event->accept();
 }
@@ -88,13 +83,12 @@ void VnQtUiDynLayerStateCmdImpl::reject()
 
 VnJsonPtr VnQtUiDynLayerStateCmdImpl::manager() const
 {
-    return element(data(), kManagerElement);
+    return element(data(), kStateManager);
 }
 
 VnJsonPtr VnQtUiDynLayerStateCmdImpl::states() const
 {
-    const VnJsonPtr node = manager();
-    return node ? node->GetDataJ(kList) : VnJsonPtr();
+    return list(manager());
 }
 
 void VnQtUiDynLayerStateCmdImpl::fill()
@@ -107,28 +101,34 @@ void VnQtUiDynLayerStateCmdImpl::fill()
         m_table->clearContents();
         m_table->setRowCount(0);
         if (data())
-            m_statusLabel->setText(tr("当前图层状态: %1").arg(text(manager(), "currentLState")));
-        const VnJsonPtr list = states();
-        const int count = list.ArrayCount();
-        m_table->setRowCount(count);
-        int rows = 0;
-        for (int i = 0; i < count; ++i) {
-            const VnJsonPtr state = list(i);
-            if (!isFromReference(state) || !m_referenceBox->isChecked())
-                showState(rows++, state);
-        }
-        m_table->setRowCount(rows);
-        if (rows > 0)
-            m_table->selectRow(rows - 1);
+            m_statusLabel->setText(tr("当前图层状态: %1").arg(text(manager(), statekey::kCurrent)));
+        showStates(states());
         m_table->setUpdatesEnabled(true);
     }
     slot_TableitemSelectionChanged();
 }
 
+/// Whatever the states say, the last one shown is selected.
+void VnQtUiDynLayerStateCmdImpl::showStates(const VnJsonPtr& states)
+{
+    const int count = hostapi::count(states);
+    m_table->setRowCount(count);
+    int rows = 0;
+    for (int i = 0; i < count; ++i) {
+        const VnJsonPtr state = hostapi::item(states, i);
+        if (!isFromReference(state) || !m_referenceBox->isChecked())
+            showState(rows++, state);
+    }
+    m_table->setRowCount(rows);
+    if (rows > 0)
+        m_table->selectRow(rows - 1);
+}
+
 void VnQtUiDynLayerStateCmdImpl::showState(int row, const VnJsonPtr& state)
 {
-    const QString texts[] = {text(state, kName), text(state, kSpace),
-        state->GetDataB("isSame2DWG") ? tr("是") : tr("否"), text(state, kDescription)};
+    const bool isSame = state && state->GetDataB(statekey::kIsSameAsDrawing);
+    const QString texts[] = {text(state, statekey::kName), text(state, statekey::kSpace),
+        isSame ? tr("是") : tr("否"), text(state, statekey::kDescription)};
     for (int column = 0; column < kColumnCount; ++column) {
         auto* item = new QTableWidgetItem(texts[column]);
         item->setTextAlignment(Qt::AlignCenter);
@@ -163,7 +163,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_TableCellClicked(int, int) {}
 
 void VnQtUiDynLayerStateCmdImpl::slot_TableitemSelectionChanged()
 {
-    const QString fromReference = vnutOdStringToQString(kReferenceSpace);
+    const QString fromReference = vnutOdStringToQString(statekey::kReferenceSpace);
     const std::vector<int> rows = selectedRows();
     const bool anyFromReference = std::any_of(rows.begin(), rows.end(),
         [&](int row) { return m_table->item(row, kSpaceColumn)->text() == fromReference; });
@@ -174,7 +174,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_TableitemSelectionChanged()
 
 void VnQtUiDynLayerStateCmdImpl::enableFor(bool multi, bool fromReference)
 {
-    constexpr OdInt16 kModelSpace = 1;
+    constexpr int kModelSpace = 1;
     for (QAbstractButton* box : m_maskGroup->buttons()) {
         box->setChecked(false);
         box->setEnabled(!multi);
@@ -183,34 +183,29 @@ void VnQtUiDynLayerStateCmdImpl::enableFor(bool multi, bool fromReference)
         button->setEnabled(!multi);
     for (QPushButton* button :
         {m_saveButton, m_editButton, m_renameButton, m_deleteButton, m_exportButton})
-        button->setEnabled(!multi);
+        button->setEnabled(!multi && !fromReference);
     if (multi && !fromReference)
         m_deleteButton->setEnabled(true);
-    m_restoreButton->setEnabled(!multi);
-    m_turnOffBox->setEnabled(!multi);
-    m_overrideBox->setEnabled(!multi);
-    const OdInt16 tileMode = getVar(L"TILEMODE");
-    if (fromReference) {
-        for (QPushButton* button :
-            {m_saveButton, m_editButton, m_renameButton, m_deleteButton, m_exportButton})
-            button->setEnabled(false);
-    }
-    if (tileMode == kModelSpace) {
-        m_maskGroup->button(kViewportBit)->setEnabled(false);
+    for (QWidget* widget :
+        std::initializer_list<QWidget*>{m_restoreButton, m_turnOffBox, m_overrideBox})
+        widget->setEnabled(!multi);
+    if (hostapi::systemVariable(L"TILEMODE") == kModelSpace) {
+        m_maskGroup->button(kMaskCurrentViewport)->setEnabled(false);
         m_overrideBox->setEnabled(false);
     } else {
-        m_maskGroup->button(kOnOffBit)->setEnabled(false);
-        m_maskGroup->button(kFreezeBit)->setEnabled(false);
+        m_maskGroup->button(kMaskOnOff)->setEnabled(false);
+        m_maskGroup->button(kMaskFreeze)->setEnabled(false);
     }
 }
 
 void VnQtUiDynLayerStateCmdImpl::showMask(const QString& name)
 {
-    const VnJsonPtr list = states();
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        if (!isSameName(text(list(i), kName), name))
+    const VnJsonPtr all = states();
+    for (int i = 0, count = hostapi::count(all); i < count; ++i) {
+        const VnJsonPtr state = hostapi::item(all, i);
+        if (!state || !isSameName(text(state, statekey::kName), name))
             continue;
-        const int shown = list(i)->GetDataI("LayerStateMaskIs", 0);
+        const int shown = state->GetDataI(statekey::kOwnMask);
         for (QAbstractButton* box : m_maskGroup->buttons())
             box->setChecked((shown & m_maskGroup->id(box)) != 0);
         return;

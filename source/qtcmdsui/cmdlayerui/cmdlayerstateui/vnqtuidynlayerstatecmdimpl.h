@@ -1,5 +1,6 @@
 #pragma once
 
+#include "statekeys.h"
 #include "vornqt.h"
 
 #include <QStringList>
@@ -54,8 +55,6 @@ private slots:
 private:
     enum Column { kNameColumn, kSpaceColumn, kSameColumn, kDescriptionColumn, kColumnCount };
     enum Select { kSelectAll, kClearAll };
-    /// The bits of the mask that not every space allows.
-    enum MaskBit { kOnOffBit = 1, kFreezeBit = 2, kViewportBit = 512 };
     static constexpr int kLeastWidth = 645;
 
     struct SettingRow;
@@ -75,6 +74,7 @@ private:
     VnJsonPtr manager() const;
     VnJsonPtr states() const;
     void fill();
+    void showStates(const VnJsonPtr& states);
     void showState(int row, const VnJsonPtr& state);
     std::vector<int> selectedRows() const;
     QString nameAt(int row) const;
@@ -83,8 +83,8 @@ private:
     void showMask(const QString& name);
     int mask() const;
 
-    bool send(
-        int code, const VnQtArgumentWriter& writeArguments, std::vector<const char*> answers = {});
+    VnQtAnswer request(StateRequest code, const VnQtArgumentWriter& writeArguments,
+        std::vector<const char*> answers = {});
     bool acceptNewName(const QString& name);
     void sendDeletion(const QString& name);
     void sendDeletions(const QStringList& names);
@@ -115,7 +115,6 @@ private:
     QTableWidgetItem* m_currentItem = nullptr; ///< The name cell the last action worked on.
     QString m_oldName;
     bool m_isExpanded = false;
-    VnJsonPtr m_importAnswer;
 };
 
 } // namespace vnsi

@@ -20,22 +20,22 @@ constexpr const char* kHeaders[] = {
 struct MaskRow
 {
     const char* text;
-    int bit;
+    StateMask bit;
 };
 
 // The order on screen is not the bits' order, and two share the letter P; both are meant.
-constexpr MaskRow kMask[] = {
-    {QT_TR_NOOP("开/关(&O)"), 1},
-    {QT_TR_NOOP("冻结/解冻(&F)"), 2},
-    {QT_TR_NOOP("在当前视口中的可见性(&U)"), 512},
-    {QT_TR_NOOP("锁定/解锁(&K)"), 4},
-    {QT_TR_NOOP("打印/不打印(&P)"), 8},
-    {QT_TR_NOOP("颜色(&L)"), 32},
-    {QT_TR_NOOP("线型(&P)"), 64},
-    {QT_TR_NOOP("线宽(&G)"), 128},
-    {QT_TR_NOOP("透明度(&T)"), 1024},
-    {QT_TR_NOOP("打印样式(&V)"), 256},
-    {QT_TR_NOOP("新视口冻结/解冻(&Z)"), 16},
+constexpr MaskRow kMaskRows[] = {
+    {QT_TR_NOOP("开/关(&O)"), kMaskOnOff},
+    {QT_TR_NOOP("冻结/解冻(&F)"), kMaskFreeze},
+    {QT_TR_NOOP("在当前视口中的可见性(&U)"), kMaskCurrentViewport},
+    {QT_TR_NOOP("锁定/解锁(&K)"), kMaskLock},
+    {QT_TR_NOOP("打印/不打印(&P)"), kMaskPlot},
+    {QT_TR_NOOP("颜色(&L)"), kMaskColor},
+    {QT_TR_NOOP("线型(&P)"), kMaskLinetype},
+    {QT_TR_NOOP("线宽(&G)"), kMaskLineweight},
+    {QT_TR_NOOP("透明度(&T)"), kMaskTransparency},
+    {QT_TR_NOOP("打印样式(&V)"), kMaskPlotStyle},
+    {QT_TR_NOOP("新视口冻结/解冻(&Z)"), kMaskNewViewportFreeze},
 };
 
 } // namespace
@@ -132,7 +132,7 @@ QWidget* VnQtUiDynLayerStateCmdImpl::makeMaskPanel()
     m_maskGroup->setExclusive(false);
     auto* group = new QGroupBox(tr("要恢复的图层特性"), m_maskPanel);
     auto* boxes = new QVBoxLayout(group);
-    for (const MaskRow& row : kMask) {
+    for (const MaskRow& row : kMaskRows) {
         auto* box = new QCheckBox(tr(row.text), group);
         box->setObjectName(QStringLiteral("maskBox%1").arg(row.bit));
         m_maskGroup->addButton(box, row.bit);
@@ -217,7 +217,11 @@ void VnQtUiDynLayerStateCmdImpl::connectWidgets()
     connect(m_table, &QTableWidget::itemClicked, this, &Self::slot_tableitClickedDesc, once);
     connect(
         m_referenceBox, &QCheckBox::stateChanged, this, &Self::slot_checkboxstateChangedRef, once);
-    connect(m_selectGroup, &QButtonGroup::idClicked, this, &Self::slot_SelectBtnGroupClicked, once);
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // The signal's newer name is not the one agreed.
+        connect(m_selectGroup, QOverload<int>::of(&QButtonGroup::buttonClicked), this,
+            &Self::slot_SelectBtnGroupClicked, once);
+    QT_WARNING_POP
 }
 
 } // namespace vnsi

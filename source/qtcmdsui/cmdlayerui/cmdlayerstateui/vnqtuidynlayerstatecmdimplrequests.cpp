@@ -1,6 +1,8 @@
 #include "vnqtuidynlayerstatecmdimpl.h"
 
 #include "dialoghelp.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
 #include "namerule.h"
 #include "statetexts.h"
 #include "vnstrings.h"
@@ -12,28 +14,17 @@
 namespace vnsi {
 
 using namespace layerstates;
+using hostapi::Members;
 
 namespace {
 
-enum Request {
-    kPrepareEdit = 0,
-    kCreate = 1,
-    kDelete = 2,
-    kRename = 3,
-    kSave = 4,
-    kRestore = 5,
-    kImport = 6,
-    kExport = 7,
-    kDescribe = 8
-};
-
 enum DeleteAnswer { kDeleteThis, kDeleteAll, kKeepThis, kStop };
 
-constexpr char kMaskKey[] = "LayerStateMask";
 constexpr wchar_t kDeleteCaption[] = L"图层 - 删除图层状态";
 constexpr wchar_t kRenameService[] = L"Dialog/CmdsUI";
 constexpr wchar_t kRenameDialog[] = L"Dialog/CmdsUI/ReNameDlg";
 constexpr wchar_t kStateFilter[] = L"图层状态(*.las)";
+constexpr wchar_t kImportFilter[] = L"图形(*.dwg);;标准(*.dws);;图形样板(*.dwt);;图层状态(*.las)";
 
 OdString od(const QString& text)
 {
@@ -42,45 +33,40 @@ OdString od(const QString& text)
 
 bool answersYes(const wchar_t* caption, const QString& question)
 {
-    const VnJsonPtr answer = vnuiMessageBoxEx(
-        caption, od(question), ElementValue::createObject(2), kVnYesNo, 1, kVnIconInformation);
-    return answer->GetDataI("ControlBtn") == kVnAnswerYes;
+    return hostapi::messageBoxEx(caption, od(question), hostapi::makeObject(), kVnYesNo, 1,
+               kVnIconInformation) == kVnAnswerYes;
 }
 
 VnJsonPtr askForText(const QString& present)
 {
-    const VnJsonPtr question = ElementValue::createObject(2);
-    question->set("DefaultName", od(present));
-    return vnuiShowModelDialog(kRenameService, kRenameDialog, question);
+    const VnJsonPtr question = hostapi::makeObject();
+    Members(question).set("DefaultName", od(present));
+    return hostapi::showDialog(kRenameService, kRenameDialog, question);
 }
 
 VnJsonPtr askForFile(const VnJsonPtr& question, QWidget* parent)
 {
-    return vnuiShowModelDialogEx(L"Dialog/Common", L"FileDialogBox", question, {}, parent);
+    return hostapi::showDialogEx(L"Dialog/Common", L"FileDialogBox", question, {}, parent);
 }
 
 VnJsonPtr fileQuestion(const char* caption, const wchar_t* filter, bool open)
 {
-    const VnJsonPtr question = ElementValue::createObject(2);
+    const VnJsonPtr question = hostapi::makeObject();
     question->SetDataS("caption", caption);
-    question->set("filter", OdString(filter))
+    Members(question)
+        .set("filter", filter)
         .set("Open", open)
         .set("MutiFile", false) // The key's agreed spelling.
-        .set("defFilter", OdString(kStateFilter));
+        .set("defFilter", kStateFilter);
     return question;
 }
 
 } // namespace
 
-bool VnQtUiDynLayerStateCmdImpl::send(
-    int code, const VnQtArgumentWriter& writeArguments, std::vector<const char*> answers)
+VnQtAnswer VnQtUiDynLayerStateCmdImpl::request(
+    StateRequest code, const VnQtArgumentWriter& writeArguments, std::vector<const char*> answers)
 {
-    VnQtRequest request;
-    request.code = code;
-    request.parameter = kManagerElement;
-    request.answers = std::move(answers);
-    return canRequest() && vnqtSendRequest(manager(), invoker(), objectName().toUtf8().constData(),
-                               request, writeArguments);
+    return askCommandOn(manager(), {code, std::move(answers), kStateManager}, writeArguments);
 }
 
 void VnQtUiDynLayerStateCmdImpl::slot_RestoreBtnBtnClicked(bool)
@@ -92,13 +78,14 @@ void VnQtUiDynLayerStateCmdImpl::slot_RestoreBtnBtnClicked(bool)
     const bool overrides = m_overrideBox->isEnabled() && m_overrideBox->isChecked();
     const auto arguments = [&](IElementValueBase& node) {
         // The one is a number and the other a bool; commands rely on it.
-        node.set("LStateRestoreName", od(name))
-            .set("LStateTCheckBox", m_turnOffBox->isChecked() ? 1 : 0)
-            .set("LStateWCheckBox", overrides)
-            .set(kMaskKey, mask());
+        Members(node)
+            .set(statekey::kRestoredName, od(name))
+            .set(statekey::kTurnsOthersOff, m_turnOffBox->isChecked() ? 1 : 0)
+            .set(statekey::kOverridesViewport, overrides)
+            .set(statekey::kMask, mask());
     };
-    if (send(kRestore, arguments, {"LayerStateOKClose"}) &&
-        manager()->GetDataB("LayerStateOKClose"))
+    if (request(kStateRestore, arguments, {statekey::kRestoreCloses})
+            ->GetDataB(statekey::kRestoreCloses))
         endDialog(1);
 }
 
@@ -107,14 +94,15 @@ void VnQtUiDynLayerStateCmdImpl::slot_tableitDoubleClicked(QTableWidgetItem*)
     slot_RestoreBtnBtnClicked(false);
 }
 
+/// The request goes out on the very node that the dialog for a new state has written into.
 void VnQtUiDynLayerStateCmdImpl::slot_NewBtnClicked(bool)
 {
     const VnJsonPtr node = manager();
     const VnJsonPtr answer =
-        vnuiShowModelDialogEx(kService, L"Dialog/CmdLayerStateNew", node, invoker(), this);
-    if (answer->GetDataI("result") != 1 || !node || !canRequest())
+        hostapi::showDialogEx(kService, statedialog::kNew, node, invoker(), this);
+    if (answer->GetDataI("result") != kVnAnswerOk || !node || !canRequest())
         return;
-    send(kCreate, {});
+    askCommandOn(node, {kStateCreate, {}, kStateManager});
     fill();
 }
 
@@ -123,8 +111,8 @@ void VnQtUiDynLayerStateCmdImpl::slot_SaveBtnClicked(bool)
     const QString name = selectedName();
     if (!answersYes(L"图层 - 覆盖图层状态", tr("是否要覆盖%1?").arg(name)) || !canRequest())
         return;
-    send(kSave, [&](IElementValueBase& node) {
-        node.set("LayerStateSaveName", od(name)).set(kMaskKey, mask());
+    request(kStateSave, [&](IElementValueBase& node) {
+        Members(node).set(statekey::kSavedName, od(name)).set(statekey::kMask, mask());
     });
     fill();
     for (int row = 0; row < m_table->rowCount(); ++row) {
@@ -140,12 +128,9 @@ void VnQtUiDynLayerStateCmdImpl::slot_EditBtnClicked(bool)
     if (!canRequest())
         return;
     const QString name = selectedName();
-    VnQtRequest request;
-    request.code = kPrepareEdit;
-    request.parameter = kEditElement;
-    vnqtSendRequest(element(data(), kEditElement), invoker(), objectName().toUtf8().constData(),
-        request, [&](IElementValueBase& node) { node.set("selectItemName", od(name)); });
-    vnuiShowModelDialogEx(kService, L"Dialog/CmdLayerStateEdit", data(), invoker(), this);
+    askCommandOn(element(data(), kStateEditor), {kStateEditPrepare, {}, kStateEditor},
+        [&](IElementValueBase& node) { Members(node).set(statekey::kEditedName, od(name)); });
+    hostapi::showDialogEx(kService, statedialog::kEdit, data(), invoker(), this);
 }
 
 void VnQtUiDynLayerStateCmdImpl::slot_RenameBtnClicked(bool)
@@ -160,8 +145,8 @@ void VnQtUiDynLayerStateCmdImpl::slot_RenameBtnClicked(bool)
     const QString name = text(answer, "NewName");
     if (!acceptNewName(name) || isSameName(name, m_oldName))
         return;
-    send(kRename, [&](IElementValueBase& node) {
-        node.set("OldName", od(m_oldName)).set("NewName", od(name));
+    request(kStateRename, [&](IElementValueBase& node) {
+        Members(node).set(statekey::kOldName, od(m_oldName)).set(statekey::kRenamedTo, od(name));
     });
     fill();
 }
@@ -169,7 +154,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_RenameBtnClicked(bool)
 bool VnQtUiDynLayerStateCmdImpl::acceptNewName(const QString& name)
 {
     const auto refuse = [](const OdString& text, const wchar_t* caption) {
-        vnuiMessageBox(text, caption, kVnIconInformation);
+        hostapi::messageBox(text, caption, kVnIconInformation);
         return false;
     };
     if (name.isEmpty())
@@ -178,9 +163,9 @@ bool VnQtUiDynLayerStateCmdImpl::acceptNewName(const QString& name)
         return refuse(badCharactersText(), kBadCharactersCaption);
     if (isSameName(name, m_oldName))
         return true;
-    const VnJsonPtr list = states();
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        if (isSameName(name, text(list(i), kName)))
+    const VnJsonPtr all = states();
+    for (int i = 0, count = hostapi::count(all); i < count; ++i) {
+        if (isSameName(name, text(hostapi::item(all, i), statekey::kName)))
             return refuse(
                 od(tr("名称 %1 已在使用。").arg(name) + QStringLiteral("\n您需要输入其他名称。")),
                 L"图层状态 - 名称已经存在");
@@ -197,8 +182,10 @@ void VnQtUiDynLayerStateCmdImpl::slot_tableitClickedDesc(QTableWidgetItem* item)
     const VnJsonPtr answer = askForText(item->text());
     if (!answer->GetDataB("Success") || !canRequest())
         return;
-    send(kDescribe, [&](IElementValueBase& node) {
-        node.set("OldName", od(name)).set("NewDescName", answer->GetDataSW("NewName"));
+    request(kStateDescribe, [&](IElementValueBase& node) {
+        Members(node)
+            .set(statekey::kOldName, od(name))
+            .set(statekey::kDescribedAs, answer->GetDataSW("NewName"));
     });
     fill();
 }
@@ -241,67 +228,60 @@ void VnQtUiDynLayerStateCmdImpl::deleteSeveral(const QStringList& names)
 
 void VnQtUiDynLayerStateCmdImpl::sendDeletion(const QString& name)
 {
-    send(kDelete, [&](IElementValueBase& node) {
-        node.set("DeleteNameOne", true).set("LayerStateDeleteName", od(name));
+    request(kStateDelete, [&](IElementValueBase& node) {
+        Members(node).set(statekey::kDeletesOne, true).set(statekey::kDeletedName, od(name));
     });
     fill();
 }
 
 void VnQtUiDynLayerStateCmdImpl::sendDeletions(const QStringList& names)
 {
-    const VnJsonPtr list = ElementValue::createArray(names.size());
+    const VnJsonPtr entries = hostapi::makeArray(names.size());
     for (const QString& name : names) {
-        const VnJsonPtr entry = ElementValue::createObject(1);
-        entry->set("LayerSDeleteName", od(name));
-        list->Append(entry);
+        const VnJsonPtr entry = hostapi::makeObject();
+        Members(entry).set(statekey::kNameInDeleted, od(name));
+        hostapi::append(entries, entry);
     }
-    send(kDelete, [&](IElementValueBase& node) {
-        node.set("DeleteNameOne", false).SetDataJ("LayerStateDeleteNames", list);
+    request(kStateDelete, [&](IElementValueBase& node) {
+        Members(node).set(statekey::kDeletesOne, false).set(statekey::kDeletedNames, entries);
     });
     fill();
 }
 
 void VnQtUiDynLayerStateCmdImpl::slot_ImportBtnClicked(bool)
 {
-    const VnJsonPtr answer =
-        askForFile(fileQuestion("输入图层状态",
-                       L"图形(*.dwg);;标准(*.dws);;图形样板(*.dwt);;图层状态(*.las)", true),
-            this);
-    const VnJsonPtr paths = answer->GetDataJ("filePaths");
-    if (answer->GetDataI("result") != 1 || !paths)
+    const VnJsonPtr file = askForFile(fileQuestion("输入图层状态", kImportFilter, true), this);
+    const VnJsonPtr paths = file->GetDataJ("filePaths");
+    if (file->GetDataI("result") != kVnAnswerOk || !paths)
         return;
     const auto arguments = [&](IElementValueBase& node) {
-        node.SetDataJ("LStatefilePaths", paths);
-        node.SetDataJ("LayerStateList1", node.GetDataJ(kList));
-        node.set("LStateRefLayer", m_referenceBox->isChecked());
+        Members(node)
+            .set(statekey::kImportPaths, paths)
+            .set(statekey::kImportBeside, node.GetDataJ(statekey::kList))
+            .set(statekey::kImportSkipsReferences, m_referenceBox->isChecked());
     };
-    const bool answered = send(kImport, arguments,
-        {"LayerStateListHaveRef", "LayerStateListRefOK", "LayerStateYesNoRestore"});
-    m_importAnswer = answered ? manager()->GetDataJ("LayerStateListHaveRef") : VnJsonPtr();
-    if (!answered || !manager()->GetDataB("LayerStateListRefOK"))
+    const VnQtAnswer answer = request(kStateImport, arguments,
+        {statekey::kImportedList, statekey::kImportSucceeded, statekey::kImportRestores});
+    if (!answer->GetDataB(statekey::kImportSucceeded))
         return;
     fill();
-    if (manager()->GetDataB("LayerStateYesNoRestore"))
+    if (answer->GetDataB(statekey::kImportRestores))
         slot_RestoreBtnBtnClicked(false);
 }
 
 void VnQtUiDynLayerStateCmdImpl::slot_ExportBtnClicked(bool)
 {
-    const QString name = nameAt(m_table->currentRow());
-    const VnJsonPtr question = fileQuestion("输出图层状态", kStateFilter, false);
+    const QString name = selectedName();
+    const VnJsonPtr file = fileQuestion("输出图层状态", kStateFilter, false);
     if (m_table->currentRow() >= 0)
-        question->set("dir", od(name));
-    const VnJsonPtr answer = askForFile(question, this);
+        Members(file).set("dir", od(name));
+    const VnJsonPtr answer = askForFile(file, this);
     const OdString path = answer->GetDataSW("filePath");
-    if (answer->GetDataI("result") != 1 || path.isEmpty() || !canRequest())
+    if (answer->GetDataI("result") != kVnAnswerOk || path.isEmpty())
         return;
-    VnQtRequest request;
-    request.code = kExport;
-    request.parameter = kManagerElement;
-    vnqtSendRequest(answer, invoker(), objectName().toUtf8().constData(), request,
-        [&](IElementValueBase& node) {
-            node.set("LStatefilePathsSW", path).set("LStateName", od(name));
-        });
+    askCommandOn(file, {kStateExport, {}, kStateManager}, [&](IElementValueBase& node) {
+        Members(node).set(statekey::kExportPath, path).set(statekey::kExportName, od(name));
+    });
 }
 
 void VnQtUiDynLayerStateCmdImpl::slot_HelpBtnClicked(bool)
