@@ -1,8 +1,9 @@
-#include "modulefixture.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
+#include "rows.h"
 #include "sysvars.h"
 #include "trees.h"
+#include "useracts.h"
 #include "vnsettings.h"
 #include "vnstrings.h"
 
@@ -12,18 +13,19 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLabel>
-#include <QPushButton>
 #include <QTableWidget>
 #include <QTextEdit>
-#include <QtTest>
+
+#include <stdexcept>
 
 using namespace vnsi;
 
 namespace {
 
 constexpr int kDescription = 3;
+constexpr int kNotAsked = 9;
 
-/// Four states: A and B of the drawing, X of a reference, Long with another letter case in space.
+/// Two states of the drawing, one of a reference, and one with a bit in its mask that nobody knows.
 const QString kTree = QStringLiteral(R"({"LayerStateMgr":[{},{"currentLState":"B","LayerStateList":[
     {"LayerStateName":"A","space":"模型","isSame2DWG":true,"desc":"first","LayerStateMaskIs":1057},
     {"LayerStateName":"B","space":"布局","isSame2DWG":false,"desc":"","Selected":true},
@@ -39,41 +41,11 @@ const QString kEditTree = QStringLiteral(R"({"LayerStateMgr":[{},{},{"selectItem
     "LayerList":[{"LayerName":"0"},{"LayerName":"WALL"},{"LayerName":"Door"},
     {"LayerName":"New","CurLayer":1,"Description":"d"},{"LayerName":"gone"}]}]})");
 
-template <class T>
-T& child(const VnUiModeDialogBasePtr& dialog, const char* name)
-{
-    return *ModuleFixture::child<T>(dialog, name);
-}
+constexpr char kManager[] = "Dialog/CmdLayerState";
+constexpr char kElements[] = "LayerStateMgr";
 
-void press(const VnUiModeDialogBasePtr& dialog, const char* name)
-{
-    child<QPushButton>(dialog, name).click();
-}
-
-QTableWidget& states(const VnUiModeDialogBasePtr& dialog)
-{
-    return child<QTableWidget>(dialog, "stateTable");
-}
-
-void select(QTableWidget& table, const QList<int>& rows)
-{
-    table.clearSelection();
-    const QItemSelectionModel::SelectionFlags add =
-        QItemSelectionModel::Select | QItemSelectionModel::Rows;
-    for (const int row : rows) {
-        const QModelIndex index = table.model()->index(row, 0);
-        table.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-        table.selectionModel()->select(index, add);
-    }
-}
-
-QString rowText(const QTableWidget& table, int row)
-{
-    QStringList texts;
-    for (int column = 0; column < table.columnCount(); ++column)
-        texts += table.item(row, column)->text();
-    return texts.join(QLatin1Char(','));
-}
+const QString kBadCharacters =
+    QStringLiteral("名称包含不支持的字符。\n 不支持以下字符：\n  \\<>/?\":;*|,=`|");
 
 QString text(const VnJsonPtr& node, const char* key)
 {
@@ -89,12 +61,79 @@ QString texts(const VnJsonPtr& list, const char* key)
     return texts.join(QLatin1Char(' '));
 }
 
-VnJsonPtr elementOf(const VnJsonPtr& tree, int index)
+/// A button of the manager: what it asks, how the host answers that, and what it sends then.
+struct ButtonRow
 {
-    return tree->GetDataJ("LayerStateMgr")(index);
-}
+    const char* name; ///< Of the button; a click on the description where there is none.
+    int answer;
+    const char* members; ///< Of a dialog's answer.
+    const char* asked;   ///< How the log's line begins.
+    const char* sent;
+    bool fillsAgain;
+
+    int code() const { return QByteArray(sent).split('|').at(1).toInt(); }
+};
+
+const ButtonRow kButtons[] = {
+    {"newButton", 1, R"({"LayerStateNewName":"N","desc":"d"})",
+        "dialog|Dialog/CmdLayer|Dialog/CmdLayerStateNew|{",
+        R"(request|1|1|{"LayerStateNewName":"N","desc":"d"})", true},
+    {"deleteButton", 6, "{}", "messageEx|图层 - 删除图层状态|是否确实要删除 A?|4|1|64",
+        R"(request|2|1|{"DeleteNameOne":true,"LayerStateDeleteName":"A"})", true},
+    {"renameButton", 1, R"({"Success":true,"NewName":"N"})",
+        R"(dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|{"DefaultName":"A"})",
+        R"(request|3|1|{"NewName":"N","OldName":"A"})", true},
+    {"saveButton", 6, "{}", "messageEx|图层 - 覆盖图层状态|是否要覆盖A?|4|1|64",
+        R"(request|4|1|{"LayerStateMask":1057,"LayerStateSaveName":"A"})", true},
+    {"restoreButton", kNotAsked, "{}", "",
+        R"(request|5|1|{"LStateRestoreName":"A","LStateTCheckBox":0,"LStateWCheckBox":false,)"
+        R"("LayerStateMask":1057})",
+        false},
+    {"importButton", 1, R"({"filePaths":["/a.las"],"filePath":"/a.las"})",
+        R"!(dialog|Dialog/Common|FileDialogBox|{"MutiFile":false,"Open":true,)!"
+        R"!("caption":"输入图层状态","defFilter":"图层状态(*.las)",)!"
+        R"!("filter":"图形(*.dwg);;标准(*.dws);;图形样板(*.dwt);;图层状态(*.las)"})!",
+        R"(request|6|1|{"LStateRefLayer":false,"LStatefilePaths":["/a.las"]})", true},
+    {"exportButton", 1, R"({"filePath":"/x.las"})",
+        R"!(dialog|Dialog/Common|FileDialogBox|{"MutiFile":false,"Open":false,)!"
+        R"!("caption":"输出图层状态","defFilter":"图层状态(*.las)","dir":"A",)!"
+        R"!("filter":"图层状态(*.las)"})!",
+        R"(request|7|1|{"LStateName":"A","LStatefilePathsSW":"/x.las"})", false},
+    {nullptr, 1, R"({"Success":true,"NewName":""})",
+        R"(dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|{"DefaultName":"first"})",
+        R"(request|8|1|{"NewDescName":"","OldName":"A"})", true},
+    {"editButton", 1, "{}", "dialog|Dialog/CmdLayer|Dialog/CmdLayerStateEdit|{",
+        R"(request|0|2|{"selectItemName":"A"})", false},
+};
+
+const QStringList kArguments{"LayerStateNewName", "desc", "DeleteNameOne", "LayerStateDeleteName",
+    "OldName", "NewName", "LayerStateMask", "LayerStateSaveName", "LStateRestoreName",
+    "LStateTCheckBox", "LStateWCheckBox", "LStateRefLayer", "LStatefilePaths", "LStateName",
+    "LStatefilePathsSW", "NewDescName", "selectItemName"};
+
+/// What a command may do to the elements while it answers.
+struct MischiefRow
+{
+    const char* name;
+    void (*act)(const VnJsonPtr& root);
+    int rowsLeft;
+};
+
+const MischiefRow kMischiefs[] = {
+    {"replaced",
+        [](const VnJsonPtr& root) {
+            merge(root, QStringLiteral(R"({"LayerStateMgr":[{},{"LayerStateList":[
+                {"LayerStateName":"Other"}]},{}]})"));
+        },
+        1},
+    {"emptied", [](const VnJsonPtr& root) { root->GetDataJ(kElements)->Clear(); }, 0},
+    {"removed", [](const VnJsonPtr& root) { root->RemoveKey(kElements); }, 0},
+};
 
 } // namespace
+
+Q_DECLARE_METATYPE(const ButtonRow*)
+Q_DECLARE_METATYPE(const MischiefRow*)
 
 /// The four dialogs of layer states, by what they show, ask and send.
 class TestLayerStates : public QObject
@@ -102,577 +141,564 @@ class TestLayerStates : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup() { m_host.reset(); }
+    void init()
+    {
+        m_host = std::make_unique<RecordingHost>();
+        host::setVar(L"TILEMODE", 1);
+        const VnJsonPtr config = vn_user_config(L"LayerState_dialog");
+        for (const char* key : {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand"})
+            config->RemoveKey(key);
+    }
 
-    void filled();
-    void maskBoxes();
-    void enabled_data();
-    void enabled();
-    void requests_data();
-    void requests();
-    void renamed_data();
-    void renamed();
-    void deletedSeveral_data();
-    void deletedSeveral();
-    void imported_data();
-    void imported();
-    void newState();
-    void closesWhenTold();
-    void nobodyToAsk();
-    void settings();
-    void newDialog_data();
-    void newDialog();
-    void editFilled();
-    void editClicks_data();
-    void editClicks();
-    void editAdds();
-    void editSends();
-    void addDialog_data();
-    void addDialog();
+    void cleanup()
+    {
+        m_dialog = {};
+        m_host.reset();
+    }
+
+    /// Whatever the records say, the last row is the one selected.
+    void filled()
+    {
+        open(kManager, kTree);
+        auto& table = find("stateTable");
+        QCOMPARE(rowTexts(table),
+            QStringList({"A|模型|是|first", "B|布局|否|", "X|R|外部参照|否|", "D|模型|否|"}));
+        QCOMPARE(table.selectionModel()->selectedRows().size(), 1);
+        QVERIFY(table.item(3, 0)->isSelected());
+        QCOMPARE(find<QLabel>("statusLabel").text(), QStringLiteral("当前图层状态: B"));
+        find<QCheckBox>("referenceBox").click();
+        QCOMPARE(table.rowCount(), 3);
+        QVERIFY(table.item(2, 0)->isSelected());
+
+        m_dialog = m_module.createDialog(kManager, {});
+        QCOMPARE(find<QLabel>("statusLabel").text(), QStringLiteral("当前图层状态: *未保存*"));
+        QVERIFY(!find<QPushButton>("restoreButton").isEnabled());
+    }
+
+    /// Eleven boxes in the order of the screen, each with its bit; they show the selected state's
+    /// mask.
+    void maskBoxes()
+    {
+        auto& table = openManager({3});
+        const auto& panel = find<QWidget>("maskPanel");
+        QStringList shown;
+        for (const QCheckBox* box : panel.findChild<QGroupBox*>()->findChildren<QCheckBox*>())
+            shown += box->text() + box->objectName().mid(7);
+        QCOMPARE(shown.join(QLatin1Char(' ')),
+            QStringLiteral("开/关(&O)1 冻结/解冻(&F)2 在当前视口中的可见性(&U)512 锁定/解锁(&K)4 "
+                           "打印/不打印(&P)8 颜色(&L)32 线型(&P)64 线宽(&G)128 透明度(&T)1024 "
+                           "打印样式(&V)256 新视口冻结/解冻(&Z)16"));
+        const auto checkedBits = [&] {
+            int bits = 0;
+            for (const QCheckBox* box : panel.findChildren<QCheckBox*>())
+                bits |= box->isChecked() ? box->objectName().mid(7).toInt() : 0;
+            return bits;
+        };
+        QCOMPARE(checkedBits(), 2); // 2050 without the bit nobody knows.
+        selectRows(table, {0});
+        QCOMPARE(checkedBits(), 1057);
+        press("selectAllButton");
+        QCOMPARE(checkedBits(), 2047);
+        press("clearAllButton");
+        QCOMPARE(checkedBits(), 0);
+        QVERIFY(panel.isHidden());
+        press("extendButton");
+        QVERIFY(!panel.isHidden());
+    }
+
+    void enabled_data()
+    {
+        const Rows<QList<int>, int, QString> row("rows", "tileMode", "enabled");
+        const QString one = "save edit rename delete export restore turnOff ";
+        row("one in model space", {0}, 1, one + "1 2 32");
+        row("one in a layout", {1}, 0, one + "override 512 32");
+        row("none", {}, 1, "");
+        row("none in a layout", {}, 0, "");
+        row("several", {0, 1}, 1, "delete");
+        row("several with a reference's", {0, 2}, 1, "");
+        row("a reference's", {2}, 1, "restore turnOff 1 2 32");
+        row("a reference's in a layout", {2}, 0, "restore turnOff override 512 32");
+    }
+
+    void enabled()
+    {
+        QFETCH(QList<int>, rows);
+        QFETCH(int, tileMode);
+        host::setVar(L"TILEMODE", static_cast<OdInt16>(tileMode));
+        openManager(rows);
+        QStringList enabled;
+        const auto note = [&](const QString& before, const QString& shown, const QString& after) {
+            if (find<QWidget>((before + shown + after).toUtf8().constData()).isEnabled())
+                enabled += shown;
+        };
+        for (const char* button : {"save", "edit", "rename", "delete", "export", "restore"})
+            note({}, button, "Button");
+        for (const char* box : {"turnOff", "override"})
+            note({}, box, "Box");
+        for (const char* bit : {"1", "2", "512", "32"})
+            note("maskBox", bit, {});
+        QTEST(enabled.join(QLatin1Char(' ')), "enabled");
+    }
+
+    void requests_data()
+    {
+        const Rows<const ButtonRow*> row("button");
+        for (const ButtonRow& button : kButtons)
+            row(button.name ? button.name : "description", &button);
+    }
+
+    /// Each button with what it shows and the request behind it; what was saved is selected again.
+    void requests()
+    {
+        QFETCH(const ButtonRow*, button);
+        auto& table = openManager({0}, kArguments);
+        press(*button);
+        QStringList log = m_host->takeLog();
+        QCOMPARE(log.takeAt(button->code() == 0 ? 0 : log.size() - 1), QString(button->sent));
+        const QString asked(button->asked);
+        QCOMPARE(log.join('&').left(asked.size()), asked);
+        if (button->code() == 4)
+            QCOMPARE(table.currentRow(), 0);
+    }
+
+    void renamed_data()
+    {
+        const Rows<QString, QString> row("name", "outcome");
+        row("letter case", "a", "");
+        row("empty", "", "message|名称 必须至少有一个字符长。|图层状态 - 文字长度|64");
+        row("in use", "b",
+            "message|名称 b 已在使用。\n您需要输入其他名称。|图层状态 - 名称已经存在|64");
+        for (const QChar c : QStringLiteral("\\<>/\":;?*|,=`"))
+            row(qPrintable(QString(c)), QString("n" + QString(c)),
+                "message|" + kBadCharacters + "图层状态 - 不支持的字符|64");
+    }
+
+    void renamed()
+    {
+        QFETCH(QString, name);
+        openManager({0});
+        m_host->answer([name](const VnJsonPtr& asked) {
+            asked->set("Success", true).set("NewName", OdString(name.toStdWString()));
+            return 1;
+        });
+        press("renameButton");
+        QTEST(m_host->log().mid(1).join('&'), "outcome");
+    }
+
+    void deletedSeveral_data()
+    {
+        const Rows<QList<int>, QString> row("answers", "sent");
+        row("each", {0, 0, 0}, "one A,one B,one D");
+        row("no and yes", {2, 0, 2}, "one B");
+        row("all from the second", {2, 1}, "all B D");
+        row("cancelled", {0, 3}, "one A");
+        row("closed", {-1}, "");
+    }
+
+    void deletedSeveral()
+    {
+        QFETCH(QList<int>, answers);
+        openManager({0, 1, 3});
+        QStringList sent;
+        m_invoker->setAnswer([&](const VnJsonPtr& node) {
+            sent +=
+                node->GetDataB("DeleteNameOne")
+                    ? "one " + text(node, "LayerStateDeleteName")
+                    : "all " + texts(node->GetDataJ("LayerStateDeleteNames"), "LayerSDeleteName");
+        });
+        for (const int answer : answers)
+            m_host->answer(answer);
+        press("deleteButton");
+        QCOMPARE(m_host->log().first(),
+            QStringLiteral("messageEx|图层 - 删除图层状态|是否确实要删除图层状态 A?|6|1|64|是|"
+                           "全部删除|否|取消"));
+        QTEST(sent.join(QLatin1Char(',')), "sent");
+    }
+
+    void imported_data()
+    {
+        const Rows<QString, QString> row("answer", "codes");
+        row("nothing came", "{}", "6");
+        row("taken in", R"({"LayerStateListRefOK":true})", "6");
+        row("restored", R"({"LayerStateListRefOK":true,"LayerStateYesNoRestore":true})", "6 5");
+    }
+
+    /// An answer left over from an earlier import does not count.
+    void imported()
+    {
+        QFETCH(QString, answer);
+        openManager({0});
+        element(1)->set("LayerStateYesNoRestore", true);
+        m_invoker->setAnswer([&](const VnJsonPtr& node) {
+            QVERIFY(node->GetDataJ("LayerStateList1") == node->GetDataJ("LayerStateList"));
+            if (node->GetDataI("marker") == 6)
+                merge(node, answer);
+        });
+        m_host->answer(1, QStringLiteral(R"({"filePaths":["/a.las"]})"));
+        press("importButton");
+        QTEST(codes(), "codes");
+    }
+
+    /// Export goes by the selected row, and needs a path; a description is that of the selected
+    /// row.
+    void selectedOrCurrent()
+    {
+        auto& table = openManager({0}, {"LStateName"});
+        table.selectionModel()->setCurrentIndex(
+            table.model()->index(1, 0), QItemSelectionModel::NoUpdate);
+        for (const char* answer : {R"({"filePath":"/x.las"})", R"({"filePath":""})"}) {
+            m_host->answer(1, QString(answer));
+            press("exportButton");
+        }
+        emit table.itemClicked(table.item(1, kDescription));
+        QCOMPARE(m_host->log().size(), 3);
+        QVERIFY(m_host->log().first().contains(R"("dir":"A")"));
+        QCOMPARE(m_host->log().at(1), QStringLiteral(R"(request|7|1|{"LStateName":"A"})"));
+    }
+
+    void elementsChange_data()
+    {
+        const Rows<const ButtonRow*, const MischiefRow*> row("button", "mischief");
+        for (const ButtonRow& button : kButtons) {
+            for (const MischiefRow& mischief : kMischiefs)
+                row(qPrintable(QString("%1 %2").arg(button.code()).arg(mischief.name)), &button,
+                    &mischief);
+        }
+    }
+
+    /// The answers come from the node that was asked, the list is the one that is there behind it.
+    void elementsChange()
+    {
+        QFETCH(const ButtonRow*, button);
+        QFETCH(const MischiefRow*, mischief);
+        auto& table = openManager({0});
+        m_invoker->setAnswer([&](const VnJsonPtr& node) {
+            for (const char* key :
+                {"LayerStateOKClose", "LayerStateListRefOK", "LayerStateYesNoRestore"})
+                node->SetDataB(key, node->GetDataI("marker") == button->code());
+            mischief->act(m_tree);
+        });
+        press(*button);
+        QCOMPARE(table.rowCount(), button->fillsAgain ? mischief->rowsLeft : 4);
+        const bool restores = button->code() == 6 && mischief->rowsLeft > 0;
+        QCOMPARE(codes(), QString::number(button->code()) + (restores ? " 5" : ""));
+        QCOMPARE(m_dialog->resultData()->GetDataI("result"), button->code() == 5 ? 1 : 0);
+    }
+
+    void deletesOnWithoutElements_data()
+    {
+        const Rows<const MischiefRow*> row("mischief");
+        for (const MischiefRow& mischief : kMischiefs)
+            row(mischief.name, &mischief);
+    }
+
+    /// Elements that go in the middle of several deletions, and between the editor's two requests.
+    void deletesOnWithoutElements()
+    {
+        QFETCH(const MischiefRow*, mischief);
+        const bool hasElements = mischief->rowsLeft > 0;
+        openManager({0, 1});
+        m_invoker->setAnswer([&](const VnJsonPtr&) { mischief->act(m_tree); });
+        m_host->answer(0);
+        m_host->answer(0);
+        press("deleteButton");
+        QCOMPARE(codes(), QString(hasElements ? "2 2" : "2"));
+
+        m_host->takeLog();
+        selectRows(openEditor(), {1});
+        m_invoker->setAnswer([&](const VnJsonPtr&) { mischief->act(m_tree); });
+        press("deleteLayerButton");
+        press("okButton");
+        QCOMPARE(codes(), QString(hasElements ? "2 1" : "2"));
+        QCOMPARE(m_dialog->resultData()->GetDataI("result"), 1);
+    }
+
+    void brokenOff_data()
+    {
+        const Rows<const ButtonRow*, bool> row("button", "throws");
+        for (const ButtonRow& button : kButtons) {
+            if (button.answer == kNotAsked)
+                continue;
+            row(qPrintable(QString("%1 cancelled").arg(button.code())), &button, false);
+            row(qPrintable(QString("%1 fails").arg(button.code())), &button, true);
+        }
+    }
+
+    /// A dialog or question that is cancelled, or that breaks in the host, ends it there.
+    void brokenOff()
+    {
+        QFETCH(const ButtonRow*, button);
+        QFETCH(bool, throws);
+        openManager({0});
+        m_host->answer([throws](const VnJsonPtr&) -> int {
+            if (throws)
+                throw std::runtime_error("broken");
+            return 2;
+        });
+        clickOn(*button);
+        QCOMPARE(codes(), QString(button->code() == 0 ? "0" : "")); // The editor opens behind it.
+    }
+
+    void nobodyToAsk()
+    {
+        m_dialog = m_module.createDialog(kManager, tree(kTree));
+        press("editButton");
+        press("restoreButton");
+        m_host->answer(6);
+        press("saveButton");
+        QCOMPARE(m_host->log().size(), 1);
+    }
+
+    void settings()
+    {
+        const auto config = vn_user_config(L"LayerState_dialog");
+        open(kManager, kTree);
+        for (const char* box : {"referenceBox", "turnOffBox"})
+            find<QCheckBox>(box).click();
+        press("extendButton");
+        QVERIFY(!config->HasKey("IsExpand"));
+        m_dialog->widget()->close();
+        QVERIFY(config->GetDataB("isRefLayerCBox") && config->GetDataB("isTCheckBox"));
+        QVERIFY(config->GetDataB("IsExpand") && config->HasKey("isWCheckBox"));
+        QVERIFY(!config->GetDataB("isWCheckBox"));
+        open(kManager, kTree);
+        QCOMPARE(find("stateTable").rowCount(), 3);
+        QVERIFY(find<QPushButton>("extendButton").isChecked());
+        QVERIFY(!find<QWidget>("maskPanel").isHidden());
+    }
+
+    void newDialog_data()
+    {
+        const Rows<QString, int, QString, QString> row("name", "answer", "asked", "taken");
+        const QString exists =
+            "messageEx|图层状态 - 已经存在|%1 已经存在。是否替换?|6|1|64|替换|取消";
+        row("blanks around", " N ", kNotAsked, "", "N");
+        row("replaced", "a", 0, exists.arg("a"), "a");
+        row("kept", "A", 1, exists.arg("A"), "");
+        row("closed", "A", -1, exists.arg("A"), "");
+        row("another way out", "A", 5, exists.arg("A"), "A");
+        row("a reference's", "R", 0, exists.arg("R") + "&message|无法保存图层状态。|Quenlith|0",
+            "");
+        row("character", "a<b", kNotAsked,
+            "messageEx|图层状态 - 不支持的字符|" + kBadCharacters + "6|1|64|关闭(&C)", "");
+    }
+
+    void newDialog()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, answer);
+        open("Dialog/CmdLayerStateNew",
+            QStringLiteral(R"({"LayerStateList":[{"LayerStateName":"A","desc":"old"},
+                {"LayerStateName":"R","space":"外部参照"}]})"));
+        auto& box = find<QComboBox>("nameBox");
+        const auto& ok = find<QPushButton>("okButton");
+        QVERIFY(box.currentText().isEmpty() && !ok.isEnabled());
+        box.setEditText(QStringLiteral("  "));
+        QVERIFY(!ok.isEnabled());
+        box.setCurrentIndex(0); // Picked from the list; its description comes along.
+        QCOMPARE(find<QTextEdit>("descriptionEdit").toPlainText(), QStringLiteral("old"));
+        QVERIFY(ok.isEnabled());
+        box.setEditText(name);
+        if (answer != kNotAsked)
+            m_host->answer(answer);
+        press("okButton");
+        QTEST(m_host->log().join(QLatin1Char('&')), "asked");
+        QTEST(text(m_tree, "LayerStateNewName"), "taken");
+        const bool isTaken = m_tree->HasKey("LayerStateNewName");
+        QCOMPARE(m_dialog->resultData()->GetDataI("result"), isTaken ? 1 : 0);
+        QCOMPARE(m_tree->HasKey("desc"), isTaken);
+    }
+
+    void editFilled()
+    {
+        const auto& table = openEditor();
+        QCOMPARE(m_dialog->widget()->windowTitle(), QStringLiteral("编辑图层状态: A"));
+        QStringList headers;
+        for (int column = 0; column < table.columnCount(); ++column)
+            headers += table.horizontalHeaderItem(column)->text();
+        QCOMPARE(headers.join(QLatin1Char(' ')),
+            QStringLiteral(
+                "名称 开 在所有视口中冻结 锁定 颜色 线型 线宽 透明度 打印样式 打印 新视口冻结"));
+        QCOMPARE(table.rowCount(), 3);
+        QCOMPARE(rowTexts(table).at(1).section('|', -6, -4), QStringLiteral("Dashed|0.50 mm|20"));
+        QVERIFY(rowTexts(table).at(0).startsWith(QLatin1String("0|")));
+    }
+
+    void editClicks_data()
+    {
+        const Rows<int, int, int, QString, QString> row("row", "column", "answer", "key", "value");
+        row("off", 2, 1, kNotAsked, "Off", "true");
+        row("frozen", 2, 2, kNotAsked, "Frozen", "true");
+        row("locked", 0, 3, kNotAsked, "Lock", "true");
+        row("plotted", 0, 9, kNotAsked, "Print", "true");
+        row("new viewports", 2, 10, kNotAsked, "VPortFrozen", "true");
+        row("on again", 1, 1, kNotAsked, "Off", "false");
+        row("current kept on", 0, 1, 6, "Off", "null");
+        row("current turned off", 0, 1, 7, "Off", "true");
+        row("current not frozen", 0, 2, kNotAsked, "Frozen", "null");
+        row("made current", 2, 0, kNotAsked, "CurLayer", "1");
+        row("still current", 0, 0, kNotAsked, "CurLayer", "1");
+        row("colour", 2, 4, 1, "Color", R"({"clrMethod":194,"selectClr":5})");
+        row("linetype", 1, 5, kNotAsked, "linetype", R"({"name":"Dashed"})");
+        row("lineweight", 1, 6, kNotAsked, "LineWidth", "50");
+        row("plot style", 2, 8, kNotAsked, "PlotStyle", "\"Color_3\"");
+    }
+
+    void editClicks()
+    {
+        QFETCH(int, row);
+        QFETCH(int, column);
+        QFETCH(int, answer);
+        QFETCH(QString, key);
+        auto& table = openEditor();
+        if (key == QLatin1String("Color"))
+            m_host->answer(1, QStringLiteral(R"({"clrMethod":194,"selectClr":5})"));
+        else if (answer != kNotAsked)
+            m_host->answer(answer);
+        emit table.cellClicked(row, column);
+        const VnJsonPtr list = element(2)->GetDataJ("LayerStateList");
+        const VnJsonPtr record = list(row == 0 ? 0 : row + 1); // One is not shown.
+        const QJsonArray member{toJsonObject(record).value(key)};
+        const QByteArray json = QJsonDocument(member).toJson(QJsonDocument::Compact);
+        QTEST(QString::fromUtf8(json.mid(1, json.size() - 2)), "value");
+        if (key == QLatin1String("CurLayer"))
+            QCOMPARE(list(0)->GetDataI("CurLayer"), row == 0 ? 1 : 0);
+    }
+
+    /// What the table lacks is offered, also what was removed from it; the drawing's own records
+    /// stay as they are. Of all records one says that it is the current layer's, also when that
+    /// one's was removed.
+    void editAdds()
+    {
+        auto& table = openEditor();
+        QString offered;
+        const auto choose = [&](const VnJsonPtr& node) {
+            offered = texts(node->GetDataJ("NeedAddlayerList"), "LayerName");
+            return 1;
+        };
+        selectRows(table, {0});
+        press("deleteLayerButton");
+        QCOMPARE(table.rowCount(), 2);
+        m_host->answer(choose);
+        press("newLayerButton");
+        QCOMPARE(offered, QStringLiteral("0 New gone"));
+        QCOMPARE(table.rowCount(), 5);
+        const VnJsonPtr list = element(2)->GetDataJ("LayerStateList");
+        QCOMPARE(list.ArrayCount(), 7);
+        emit table.cellClicked(1, 0);
+        QStringList current;
+        for (int i = 0; i < list.ArrayCount(); ++i) {
+            if (list(i)->GetDataI("CurLayer") != 0)
+                current += text(list(i), "LayerName");
+        }
+        QCOMPARE(current, QStringList("Door"));
+        QCOMPARE(element(2)->GetDataJ("LayerList")(3)->GetDataI("CurLayer"), 1);
+        m_host->takeLog();
+        press("newLayerButton");
+        QCOMPARE(m_host->takeLog(),
+            QStringList(
+                QStringLiteral("messageEx|图层状态 - 添加图层|所有图层都已包含在此图层状态中。"
+                               "没有可添加的图层。|6|1|0|关闭(&C)")));
+    }
+
+    void editSends_data()
+    {
+        const Rows<int, QString> row("deletions", "codes");
+        row("nothing removed", 0, "1");
+        row("one removed", 1, "2 1");
+        row("nothing selected the second time", 2, "1"); // So that nothing is pending.
+    }
+
+    void editSends()
+    {
+        QFETCH(int, deletions);
+        selectRows(openEditor(), {1});
+        for (int i = 0; i < deletions; ++i)
+            press("deleteLayerButton");
+        press("okButton");
+        QTEST(codes(), "codes");
+        QCOMPARE(m_host->log().filter(QRegularExpression("^request\\|\\d\\|2\\|")), m_host->log());
+    }
+
+    void addDialog_data()
+    {
+        const Rows<QList<int>, QString> row("rows", "kept");
+        row("none", {}, "");
+        row("letter case counts", {1}, "wall");
+        row("two", {0, 2}, "Wall Door");
+    }
+
+    void addDialog()
+    {
+        QFETCH(QList<int>, rows);
+        open("Dialog/CmdLayerStateAddNewLayer",
+            QStringLiteral(R"({"NeedAddlayerList":[{"LayerName":"Wall","Description":"d"},
+                {"LayerName":"wall","Selected":true},{"LayerName":"Door"}]})"));
+        auto& table = find("candidateTable");
+        QVERIFY(table.itemDelegate()); // Else the rows are there, but nothing of them is painted.
+        QCOMPARE(rowTexts(table).first(), QStringLiteral("Wall|d"));
+        QVERIFY(table.selectedItems().isEmpty());
+        const VnJsonPtr list = m_tree->GetDataJ("NeedAddlayerList");
+        selectRows(table, rows);
+        press("okButton");
+        QTEST(texts(list, "LayerName"), "kept"); // In place: the caller has the list in its hands.
+        QCOMPARE(m_dialog->resultData()->GetDataI("result"), 1);
+    }
 
 private:
-    VnUiModeDialogBasePtr open(const char* name, const QString& json,
-        RecordingInvoker::Answer answer = {}, const QStringList& keys = {QStringLiteral("none")})
+    void open(const char* name, const QString& json, const QStringList& keys = {"none"})
     {
         m_tree = tree(json);
-        m_invoker = RecordingInvoker::create(*m_host, keys, std::move(answer));
-        return m_module.createDialog(
-            QString::fromUtf8(name), m_tree, OdRxObjectPtr(m_invoker.get()));
+        m_invoker = RecordingInvoker::create(*m_host, keys);
+        m_dialog = m_module.createDialog(name, m_tree, OdRxObjectPtr(m_invoker.get()));
+    }
+    template <class T = QTableWidget>
+    T& find(const char* name) const
+    {
+        return *ModuleFixture::child<T>(m_dialog, name);
+    }
+    void press(const char* button) const { ::press(*m_dialog->widget(), button); }
+    /// The manager with these rows selected.
+    QTableWidget& openManager(const QList<int>& rows, const QStringList& keys = {"none"})
+    {
+        open(kManager, kTree, keys);
+        selectRows(find("stateTable"), rows);
+        return find("stateTable");
+    }
+    QTableWidget& openEditor()
+    {
+        open("Dialog/CmdLayerStateEdit", kEditTree);
+        return find("stateLayerTable");
+    }
+    void press(const ButtonRow& row)
+    {
+        if (row.answer != kNotAsked)
+            m_host->answer(row.answer, QString(row.members));
+        clickOn(row);
+    }
+    void clickOn(const ButtonRow& row)
+    {
+        if (row.name)
+            return press(row.name);
+        auto& table = find("stateTable");
+        emit table.itemClicked(table.item(0, kDescription));
+    }
+    VnJsonPtr element(int index) const { return m_tree->GetDataJ(kElements)(index); }
+    /// The codes of the requests in the log.
+    QString codes() const
+    {
+        QStringList all;
+        for (const QString& line : m_host->log().filter(QRegularExpression("^request")))
+            all += line.section('|', 1, 1);
+        return all.join(QLatin1Char(' '));
     }
 
     ModuleFixture m_module;
     std::unique_ptr<RecordingHost> m_host;
     RecordingInvoker::Ptr m_invoker;
     VnJsonPtr m_tree;
+    VnUiModeDialogBasePtr m_dialog;
 };
-
-void TestLayerStates::init()
-{
-    m_host = std::make_unique<RecordingHost>();
-    host::setVar(L"TILEMODE", 1);
-    const VnJsonPtr config = vn_user_config(L"LayerState_dialog");
-    for (const char* key : {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand"})
-        config->RemoveKey(key);
-}
-
-/// Whatever the records say, the last row is the one selected.
-void TestLayerStates::filled()
-{
-    const auto dialog = open("Dialog/CmdLayerState", kTree);
-    QTableWidget& table = states(dialog);
-    QCOMPARE(table.rowCount(), 4);
-    QCOMPARE(rowText(table, 0), QStringLiteral("A,模型,是,first"));
-    QCOMPARE(rowText(table, 2), QStringLiteral("X|R,外部参照,否,"));
-    QCOMPARE(table.selectionModel()->selectedRows().size(), 1);
-    QVERIFY(table.item(3, 0)->isSelected());
-    QCOMPARE(child<QLabel>(dialog, "statusLabel").text(), QStringLiteral("当前图层状态: B"));
-    child<QCheckBox>(dialog, "referenceBox").click();
-    QCOMPARE(table.rowCount(), 3);
-    QVERIFY(table.item(2, 0)->isSelected());
-
-    const auto empty = m_module.createDialog(QStringLiteral("Dialog/CmdLayerState"), {});
-    QCOMPARE(child<QLabel>(empty, "statusLabel").text(), QStringLiteral("当前图层状态: *未保存*"));
-    QVERIFY(!child<QPushButton>(empty, "restoreButton").isEnabled());
-}
-
-/// Eleven boxes in the order of the screen, each with its bit; they show the selected state's mask.
-void TestLayerStates::maskBoxes()
-{
-    const auto dialog = open("Dialog/CmdLayerState", kTree);
-    QStringList shown;
-    const auto* panel = &child<QWidget>(dialog, "maskPanel");
-    for (const QCheckBox* box : panel->findChild<QGroupBox*>()->findChildren<QCheckBox*>())
-        shown += box->text() + box->objectName().mid(7);
-    QCOMPARE(shown.join(QLatin1Char(' ')),
-        QStringLiteral("开/关(&O)1 冻结/解冻(&F)2 在当前视口中的可见性(&U)512 锁定/解锁(&K)4 "
-                       "打印/不打印(&P)8 颜色(&L)32 线型(&P)64 线宽(&G)128 透明度(&T)1024 "
-                       "打印样式(&V)256 新视口冻结/解冻(&Z)16"));
-    const auto checkedBits = [&] {
-        int bits = 0;
-        for (const QCheckBox* box : panel->findChildren<QCheckBox*>())
-            bits |= box->isChecked() ? box->objectName().mid(7).toInt() : 0;
-        return bits;
-    };
-    QCOMPARE(checkedBits(), 2); // 2050 without the bit nobody knows.
-    select(states(dialog), {0});
-    QCOMPARE(checkedBits(), 1057);
-    press(dialog, "selectAllButton");
-    QCOMPARE(checkedBits(), 2047);
-    press(dialog, "clearAllButton");
-    QCOMPARE(checkedBits(), 0);
-    QVERIFY(panel->isHidden());
-    press(dialog, "extendButton");
-    QVERIFY(!panel->isHidden());
-}
-
-void TestLayerStates::enabled_data()
-{
-    QTest::addColumn<QList<int>>("rows");
-    QTest::addColumn<int>("tileMode");
-    QTest::addColumn<QString>("enabled");
-    const QString one = QStringLiteral("save edit rename delete export restore turnOff ");
-    QTest::newRow("one in model space") << QList<int>{0} << 1 << one + "1 2 32";
-    QTest::newRow("one in a layout") << QList<int>{1} << 0 << one + "override 512 32";
-    QTest::newRow("none") << QList<int>{} << 1 << QString();
-    QTest::newRow("none in a layout") << QList<int>{} << 0 << QString();
-    QTest::newRow("several") << QList<int>{0, 1} << 1 << "delete";
-    QTest::newRow("several with a reference's") << QList<int>{0, 2} << 1 << QString();
-    QTest::newRow("a reference's") << QList<int>{2} << 1 << "restore turnOff 1 2 32";
-    QTest::newRow("a reference's in a layout")
-        << QList<int>{2} << 0 << "restore turnOff override 512 32";
-}
-
-void TestLayerStates::enabled()
-{
-    QFETCH(QList<int>, rows);
-    QFETCH(int, tileMode);
-    const auto dialog = open("Dialog/CmdLayerState", kTree);
-    host::setVar(L"TILEMODE", static_cast<OdInt16>(tileMode));
-    select(states(dialog), rows);
-    QStringList enabled;
-    const auto note = [&](const QString& name, const QString& shown) {
-        if (child<QWidget>(dialog, name.toUtf8().constData()).isEnabled())
-            enabled += shown;
-    };
-    for (const char* button : {"save", "edit", "rename", "delete", "export", "restore"})
-        note(QLatin1String(button) + QStringLiteral("Button"), QLatin1String(button));
-    for (const char* box : {"turnOff", "override"})
-        note(QLatin1String(box) + QStringLiteral("Box"), QLatin1String(box));
-    for (const char* bit : {"1", "2", "512", "32"})
-        note(QStringLiteral("maskBox") + QLatin1String(bit), QLatin1String(bit));
-    QTEST(enabled.join(QLatin1Char(' ')), "enabled");
-}
-
-void TestLayerStates::requests_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("sent");
-    const QString save = QStringLiteral("messageEx|图层 - 覆盖图层状态|是否要覆盖A?|4|1|64");
-    QTest::newRow("save") << "saveButton" << 6 << save
-                          << R"(request|4|1|{"LayerStateMask":1057,"LayerStateSaveName":"A"})";
-    QTest::newRow("not saved") << "saveButton" << 7 << save << QString();
-    const QString one = QStringLiteral("messageEx|图层 - 删除图层状态|是否确实要删除 A?|4|1|64");
-    QTest::newRow("delete") << "deleteButton" << 6 << one
-                            << R"(request|2|1|{"DeleteNameOne":true,"LayerStateDeleteName":"A"})";
-    QTest::newRow("not deleted") << "deleteButton" << 7 << one << QString();
-    QTest::newRow("restore")
-        << "restoreButton" << 0 << QString()
-        << R"(request|5|1|{"LStateRestoreName":"A","LStateTCheckBox":0,"LStateWCheckBox":false,"LayerStateMask":1057})";
-}
-
-void TestLayerStates::requests()
-{
-    QFETCH(QString, button);
-    QFETCH(int, answer);
-    QFETCH(QString, asked);
-    QFETCH(QString, sent);
-    const auto dialog = open("Dialog/CmdLayerState", kTree, {},
-        {"DeleteNameOne", "LayerStateDeleteName", "LayerStateSaveName", "LayerStateMask",
-            "LStateRestoreName", "LStateTCheckBox", "LStateWCheckBox"});
-    select(states(dialog), {0});
-    if (answer > 0)
-        m_host->answer(answer);
-    press(dialog, button.toUtf8().constData());
-    QStringList expected{asked, sent};
-    expected.removeAll(QString());
-    QCOMPARE(m_host->log(), expected);
-    if (button == QLatin1String("saveButton") && answer == 6)
-        QCOMPARE(states(dialog).currentRow(), 0);
-}
-
-void TestLayerStates::renamed_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("outcome");
-    const QString used = QStringLiteral("|图层状态 - 名称已经存在|64");
-    const QString bad = QStringLiteral("message|名称包含不支持的字符。\n 不支持以下字符：\n  "
-                                       "\\<>/?\":;*|,=`|图层状态 - 不支持的字符|64");
-    QTest::newRow("other") << "New"
-                           << R"(request|3|1|{"NewName":"New","OldName":"A"})";
-    QTest::newRow("letter case") << "a" << QString();
-    QTest::newRow("empty") << ""
-                           << "message|名称 必须至少有一个字符长。|图层状态 - 文字长度|64";
-    QTest::newRow("in use") << "b"
-                            << "message|名称 b 已在使用。\n您需要输入其他名称。" + used;
-    for (const QChar c : QStringLiteral("\\<>/\":;?*|,=`"))
-        QTest::newRow(qPrintable(QString(c))) << QString("n" + QString(c)) << bad;
-}
-
-void TestLayerStates::renamed()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, outcome);
-    m_host->setLogsTrees(true);
-    const auto dialog = open("Dialog/CmdLayerState", kTree, {}, {"OldName", "NewName"});
-    select(states(dialog), {0});
-    m_host->answer([name](const VnJsonPtr& asked) {
-        asked->set("Success", true).set("NewName", OdString(name.toStdWString()));
-        return 1;
-    });
-    press(dialog, "renameButton");
-    QStringList log = m_host->takeLog();
-    QCOMPARE(log.takeFirst(),
-        QStringLiteral(R"(dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|{"DefaultName":"A"})"));
-    QCOMPARE(log.join(QLatin1Char('&')), outcome);
-}
-
-void TestLayerStates::deletedSeveral_data()
-{
-    QTest::addColumn<QList<int>>("answers");
-    QTest::addColumn<QStringList>("sent");
-    const auto one = [](const char* name) {
-        return QStringLiteral(R"(request|2|1|one %1)").arg(QLatin1String(name));
-    };
-    QTest::newRow("each") << QList<int>{0, 0, 0} << QStringList{one("A"), one("B"), one("D")};
-    QTest::newRow("no and yes") << QList<int>{2, 0, 2} << QStringList{one("B")};
-    QTest::newRow("all from the second")
-        << QList<int>{2, 1} << QStringList{QStringLiteral("request|2|1|all B D")};
-    QTest::newRow("cancelled") << QList<int>{0, 3} << QStringList{one("A")};
-    QTest::newRow("closed") << QList<int>{-1} << QStringList();
-}
-
-void TestLayerStates::deletedSeveral()
-{
-    QFETCH(QList<int>, answers);
-    const auto dialog = open("Dialog/CmdLayerState", kTree, {},
-        {"DeleteNameOne", "LayerStateDeleteName", "LayerStateDeleteNames"});
-    QStringList sent;
-    m_invoker->setAnswer([&](const VnJsonPtr& node) {
-        QString line = QStringLiteral("request|%1|%2|")
-                           .arg(node->GetDataI("marker"))
-                           .arg(node->GetDataI("parameter"));
-        line += node->GetDataB("DeleteNameOne")
-                    ? "one " + text(node, "LayerStateDeleteName")
-                    : "all " + texts(node->GetDataJ("LayerStateDeleteNames"), "LayerSDeleteName");
-        sent += line;
-    });
-    select(states(dialog), {0, 1, 3});
-    for (const int answer : answers)
-        m_host->answer(answer);
-    press(dialog, "deleteButton");
-    QCOMPARE(m_host->log().first(),
-        QStringLiteral("messageEx|图层 - 删除图层状态|是否确实要删除图层状态 A?|6|1|64|是|"
-                       "全部删除|否|取消"));
-    QTEST(sent, "sent");
-}
-
-void TestLayerStates::imported_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<QStringList>("codes");
-    const QString chosen = QStringLiteral(R"({"filePaths":["/a.las"],"filePath":"/a.las"})");
-    QTest::newRow("cancelled") << QString() << QString() << QStringList();
-    QTest::newRow("nothing came") << chosen << "{}" << QStringList{"6"};
-    QTest::newRow("taken in") << chosen << R"({"LayerStateListRefOK":true})" << QStringList{"6"};
-    QTest::newRow("restored") << chosen
-                              << R"({"LayerStateListRefOK":true,"LayerStateYesNoRestore":true})"
-                              << QStringList{"6", "5"};
-}
-
-void TestLayerStates::imported()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, answer);
-    const auto dialog = open("Dialog/CmdLayerState", kTree);
-    QStringList codes;
-    m_invoker->setAnswer([&](const VnJsonPtr& node) {
-        codes += QString::number(node->GetDataI("marker"));
-        if (node->GetDataI("marker") != 6)
-            return;
-        QCOMPARE(node->GetDataJ("LStatefilePaths").ArrayCount(), 1);
-        QVERIFY(node->GetDataJ("LayerStateList1") == node->GetDataJ("LayerStateList"));
-        QCOMPARE(node->GetDataB("LStateRefLayer", true), false);
-        QVERIFY(!node->GetDataB("LayerStateYesNoRestore"));
-        merge(node, answer);
-    });
-    // Left over from an earlier import; it must not count.
-    elementOf(m_tree, 1)->set("LayerStateYesNoRestore", true);
-    m_host->answer(file.isEmpty() ? 2 : 1, file.isEmpty() ? QStringLiteral("{}") : file);
-    press(dialog, "importButton");
-    QTEST(codes, "codes");
-    QVERIFY(m_host->log().first().startsWith(QLatin1String("dialog|Dialog/Common|FileDialogBox|")));
-    QVERIFY(m_host->log().first().contains(
-        QStringLiteral("图形(*.dwg);;标准(*.dws);;图形样板(*.dwt);;图层状态(*.las)")));
-}
-
-/// The new dialog's keys stand in the very tree that is then sent.
-void TestLayerStates::newState()
-{
-    const auto dialog = open("Dialog/CmdLayerState", kTree, {}, {"LayerStateNewName", "desc"});
-    m_host->setLogsTrees(false);
-    m_host->answer(1, QStringLiteral(R"({"LayerStateNewName":"N","desc":"d"})"));
-    press(dialog, "newButton");
-    m_host->answer(2, QStringLiteral("{}"));
-    press(dialog, "newButton");
-    QCOMPARE(m_host->takeLog(), QStringList({"dialog|Dialog/CmdLayer|Dialog/CmdLayerStateNew|",
-                                    R"(request|1|1|{"LayerStateNewName":"N","desc":"d"})",
-                                    "dialog|Dialog/CmdLayer|Dialog/CmdLayerStateNew|"}));
-
-    select(states(dialog), {0});
-    m_invoker->setAnswer([this](const VnJsonPtr& node) {
-        QVERIFY(node == elementOf(m_tree, 2));
-        QCOMPARE(text(node, "selectItemName"), QStringLiteral("A"));
-    });
-    m_host->answer(0);
-    press(dialog, "editButton");
-    QCOMPARE(m_host->takeLog(),
-        QStringList({"request|0|2|{}", "dialog|Dialog/CmdLayer|Dialog/CmdLayerStateEdit|"}));
-    m_invoker->setAnswer({});
-    m_host->answer(1, QStringLiteral(R"({"filePath":"/x.las"})"));
-    press(dialog, "exportButton");
-    m_host->answer(1, QStringLiteral(R"({"filePath":""})"));
-    press(dialog, "exportButton");
-    QCOMPARE(m_host->log().size(), 3);
-    QVERIFY(m_host->log().at(1).startsWith(QLatin1String("request|7|1|")));
-
-    m_host->answer(1, QStringLiteral(R"({"Success":true,"NewName":""})"));
-    emit states(dialog).itemClicked(states(dialog).item(0, kDescription));
-    emit states(dialog).itemClicked(states(dialog).item(1, kDescription));
-    QCOMPARE(m_host->log().size(), 5);
-    QVERIFY(m_host->log().last().startsWith(QLatin1String("request|8|1|")));
-}
-
-void TestLayerStates::closesWhenTold()
-{
-    const auto dialog = open("Dialog/CmdLayerState", kTree,
-        [](const VnJsonPtr& node) { node->set("LayerStateOKClose", true); });
-    QTimer::singleShot(0, dialog->widget(), [&] { press(dialog, "restoreButton"); });
-    QCOMPARE(dialog->doModal(), 1);
-    QTimer::singleShot(0, dialog->widget(), [&] { press(dialog, "closeButton"); });
-    QCOMPARE(dialog->doModal(), 2);
-}
-
-void TestLayerStates::nobodyToAsk()
-{
-    const auto dialog = m_module.createDialog(QStringLiteral("Dialog/CmdLayerState"), tree(kTree));
-    press(dialog, "editButton");
-    press(dialog, "restoreButton");
-    m_host->answer(6);
-    press(dialog, "saveButton");
-    QCOMPARE(m_host->log().size(), 1);
-}
-
-void TestLayerStates::settings()
-{
-    const auto config = vn_user_config(L"LayerState_dialog");
-    {
-        const auto dialog = open("Dialog/CmdLayerState", kTree);
-        for (const char* box : {"referenceBox", "turnOffBox"})
-            child<QCheckBox>(dialog, box).click();
-        press(dialog, "extendButton");
-        QVERIFY(!config->HasKey("IsExpand"));
-        dialog->widget()->close();
-    }
-    QVERIFY(config->GetDataB("isRefLayerCBox") && config->GetDataB("isTCheckBox"));
-    QVERIFY(config->GetDataB("IsExpand") && config->HasKey("isWCheckBox"));
-    QVERIFY(!config->GetDataB("isWCheckBox"));
-    const auto again = open("Dialog/CmdLayerState", kTree);
-    QCOMPARE(states(again).rowCount(), 3);
-    QVERIFY(child<QPushButton>(again, "extendButton").isChecked());
-    QVERIFY(!child<QWidget>(again, "maskPanel").isHidden());
-}
-
-void TestLayerStates::newDialog_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("answer"); // 9: nothing is asked.
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("taken");
-    const auto exists = [](const char* name) {
-        return QStringLiteral(
-            "messageEx|图层状态 - 已经存在|%1 已经存在。是否替换?|6|1|64|替换|取消")
-            .arg(QLatin1String(name));
-    };
-    QTest::newRow("blanks around") << " N " << 9 << QString() << "N";
-    QTest::newRow("replaced") << "a" << 0 << exists("a") << "a";
-    QTest::newRow("kept") << "A" << 1 << exists("A") << QString();
-    QTest::newRow("closed") << "A" << -1 << exists("A") << QString();
-    QTest::newRow("another way out") << "A" << 5 << exists("A") << "A";
-    QTest::newRow("a reference's")
-        << "R" << 0 << exists("R") + "&message|无法保存图层状态。|Quenlith|0" << QString();
-    QTest::newRow("character") << "a<b" << 9
-                               << "messageEx|图层状态 - 不支持的字符|名称包含不支持的字符。\n "
-                                  "不支持以下字符：\n  \\<>/?\":;*|,=`|6|1|64|关闭(&C)"
-                               << QString();
-}
-
-void TestLayerStates::newDialog()
-{
-    QFETCH(QString, name);
-    QFETCH(int, answer);
-    const auto dialog = open("Dialog/CmdLayerStateNew",
-        QStringLiteral(R"({"LayerStateList":[{"LayerStateName":"A","desc":"old"},
-            {"LayerStateName":"R","space":"外部参照"}]})"));
-    auto& box = child<QComboBox>(dialog, "nameBox");
-    auto& ok = child<QPushButton>(dialog, "okButton");
-    QVERIFY(box.currentText().isEmpty() && !ok.isEnabled());
-    box.setEditText(QStringLiteral("  "));
-    QVERIFY(!ok.isEnabled());
-    box.setCurrentIndex(0); // Picked from the list; its description comes along.
-    QCOMPARE(child<QTextEdit>(dialog, "descriptionEdit").toPlainText(), QStringLiteral("old"));
-    QVERIFY(ok.isEnabled());
-    box.setEditText(name);
-    if (answer != 9)
-        m_host->answer(answer);
-    ok.click();
-    QTEST(m_host->log().join(QLatin1Char('&')), "asked");
-    QTEST(text(m_tree, "LayerStateNewName"), "taken");
-    const bool isTaken = m_tree->HasKey("LayerStateNewName");
-    QCOMPARE(dialog->resultData()->GetDataI("result"), isTaken ? 1 : 0);
-    QCOMPARE(m_tree->HasKey("desc"), isTaken);
-}
-
-void TestLayerStates::editFilled()
-{
-    const auto dialog = open("Dialog/CmdLayerStateEdit", kEditTree);
-    QCOMPARE(dialog->widget()->windowTitle(), QStringLiteral("编辑图层状态: A"));
-    const auto& table = child<QTableWidget>(dialog, "stateLayerTable");
-    QStringList headers;
-    for (int column = 0; column < table.columnCount(); ++column)
-        headers += table.horizontalHeaderItem(column)->text();
-    QCOMPARE(headers.join(QLatin1Char(' ')),
-        QStringLiteral(
-            "名称 开 在所有视口中冻结 锁定 颜色 线型 线宽 透明度 打印样式 打印 新视口冻结"));
-    QCOMPARE(table.rowCount(), 3);
-    QCOMPARE(rowText(table, 1).section(',', -6, -4), QStringLiteral("Dashed,0.50 mm,20"));
-    QVERIFY(rowText(table, 0).startsWith(QLatin1String("0,")));
-}
-
-void TestLayerStates::editClicks_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("answer"); // 9: nothing is asked.
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
-    const auto flag = [](const char* name, int row, int column, const char* key) {
-        QTest::newRow(name) << row << column << 9 << key << "true";
-    };
-    flag("off", 2, 1, "Off");
-    flag("frozen", 2, 2, "Frozen");
-    flag("locked", 0, 3, "Lock");
-    flag("plotted", 0, 9, "Print");
-    flag("new viewports", 2, 10, "VPortFrozen");
-    QTest::newRow("on again") << 1 << 1 << 9 << "Off"
-                              << "false";
-    QTest::newRow("current kept on") << 0 << 1 << 6 << "Off"
-                                     << "";
-    QTest::newRow("current turned off") << 0 << 1 << 7 << "Off"
-                                        << "true";
-    QTest::newRow("current not frozen") << 0 << 2 << 9 << "Frozen"
-                                        << "";
-    QTest::newRow("made current") << 2 << 0 << 9 << "CurLayer"
-                                  << "1";
-    QTest::newRow("still current") << 0 << 0 << 9 << "CurLayer"
-                                   << "1";
-    QTest::newRow("colour") << 2 << 4 << 1 << "Color"
-                            << R"({"clrMethod":194,"selectClr":5})";
-    QTest::newRow("linetype") << 1 << 5 << 9 << "linetype"
-                              << R"({"name":"Dashed"})";
-    QTest::newRow("lineweight") << 1 << 6 << 9 << "LineWidth"
-                                << "50";
-    QTest::newRow("plot style") << 2 << 8 << 9 << "PlotStyle"
-                                << "\"Color_3\"";
-}
-
-void TestLayerStates::editClicks()
-{
-    QFETCH(int, row);
-    QFETCH(int, answer);
-    QFETCH(QString, key);
-    const auto dialog = open("Dialog/CmdLayerStateEdit", kEditTree);
-    auto& table = child<QTableWidget>(dialog, "stateLayerTable");
-    if (key == QLatin1String("Color"))
-        m_host->answer(1, QStringLiteral(R"({"clrMethod":194,"selectClr":5})"));
-    else if (answer != 9)
-        m_host->answer(answer);
-    QFETCH(int, column);
-    emit table.cellClicked(row, column);
-    const VnJsonPtr list = elementOf(m_tree, 2)->GetDataJ("LayerStateList");
-    const VnJsonPtr record = list(row == 0 ? 0 : row + 1); // One is not shown.
-    const QJsonArray member{toJsonObject(record).value(key)};
-    const QString text = QString::fromUtf8(QJsonDocument(member).toJson(QJsonDocument::Compact));
-    QFETCH(QString, value);
-    QCOMPARE(text, QStringLiteral("[%1]").arg(value.isEmpty() ? QStringLiteral("null") : value));
-    if (key == QLatin1String("CurLayer"))
-        QCOMPARE(list(0)->GetDataI("CurLayer"), row == 0 ? 1 : 0);
-}
-
-/// What the table lacks is offered, also what was removed from it; the drawing's own records stay
-/// as they are.
-void TestLayerStates::editAdds()
-{
-    const auto dialog = open("Dialog/CmdLayerStateEdit", kEditTree);
-    auto& table = child<QTableWidget>(dialog, "stateLayerTable");
-    QString offered;
-    const auto choose = [&](const VnJsonPtr& node) {
-        offered = texts(node->GetDataJ("NeedAddlayerList"), "LayerName");
-        return 1;
-    };
-    select(table, {2});
-    press(dialog, "deleteLayerButton");
-    QCOMPARE(table.rowCount(), 2);
-    m_host->answer(choose);
-    press(dialog, "newLayerButton");
-    QCOMPARE(offered, QStringLiteral("Door New gone"));
-    QCOMPARE(table.rowCount(), 5);
-    const VnJsonPtr list = elementOf(m_tree, 2)->GetDataJ("LayerStateList");
-    QCOMPARE(list.ArrayCount(), 7);
-    QCOMPARE(list(5)->GetDataI("CurLayer", -1), 0);
-    QCOMPARE(elementOf(m_tree, 2)->GetDataJ("LayerList")(3)->GetDataI("CurLayer"), 1);
-    m_host->takeLog();
-    press(dialog, "newLayerButton");
-    QCOMPARE(m_host->takeLog(),
-        QStringList(QStringLiteral("messageEx|图层状态 - 添加图层|所有图层都已包含在此图层状态中。"
-                                   "没有可添加的图层。|6|1|0|关闭(&C)")));
-}
-
-void TestLayerStates::editSends()
-{
-    auto dialog = open("Dialog/CmdLayerStateEdit", kEditTree);
-    press(dialog, "okButton");
-    QCOMPARE(m_host->takeLog(), QStringList("request|1|2|{}"));
-    dialog = open("Dialog/CmdLayerStateEdit", kEditTree);
-    select(child<QTableWidget>(dialog, "stateLayerTable"), {1});
-    press(dialog, "deleteLayerButton");
-    press(dialog, "okButton");
-    QCOMPARE(m_host->takeLog(), QStringList({"request|2|2|{}", "request|1|2|{}"}));
-    dialog = open("Dialog/CmdLayerStateEdit", kEditTree);
-    select(child<QTableWidget>(dialog, "stateLayerTable"), {1});
-    press(dialog, "deleteLayerButton");
-    press(dialog, "deleteLayerButton"); // Nothing is selected any more: nothing is pending.
-    press(dialog, "okButton");
-    QCOMPARE(m_host->takeLog(), QStringList("request|1|2|{}"));
-}
-
-void TestLayerStates::addDialog_data()
-{
-    QTest::addColumn<QList<int>>("rows");
-    QTest::addColumn<QString>("kept");
-    QTest::newRow("none") << QList<int>{} << "";
-    QTest::newRow("letter case counts") << QList<int>{1} << "wall";
-    QTest::newRow("two") << QList<int>{0, 2} << "Wall Door";
-}
-
-void TestLayerStates::addDialog()
-{
-    QFETCH(QList<int>, rows);
-    const auto dialog = open("Dialog/CmdLayerStateAddNewLayer",
-        QStringLiteral(R"({"NeedAddlayerList":[{"LayerName":"Wall","Description":"d"},
-            {"LayerName":"wall","Selected":true},{"LayerName":"Door"}]})"));
-    auto& table = child<QTableWidget>(dialog, "candidateTable");
-    QVERIFY(table.itemDelegate()); // Else the rows are there, but nothing of them is painted.
-    QCOMPARE(rowText(table, 0), QStringLiteral("Wall,d"));
-    QVERIFY(table.selectedItems().isEmpty());
-    select(table, rows);
-    press(dialog, "okButton");
-    QTEST(texts(m_tree->GetDataJ("NeedAddlayerList"), "LayerName"), "kept");
-    QCOMPARE(dialog->resultData()->GetDataI("result"), 1);
-}
 
 QTEST_MAIN(TestLayerStates)
 #include "tst_layerstates.moc"

@@ -31,6 +31,17 @@ void selectTexts(QListWidget& list, const QStringList& texts)
         list.item(row)->setSelected(texts.contains(list.item(row)->text()));
 }
 
+void selectRows(QTableWidget& table, const QList<int>& rows)
+{
+    table.clearSelection();
+    for (const int row : rows) {
+        const QModelIndex index = table.model()->index(row, 0);
+        table.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        table.selectionModel()->select(
+            index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+}
+
 QStringList textsOf(const QListWidget& list)
 {
     QStringList all;

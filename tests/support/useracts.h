@@ -24,6 +24,8 @@ void chooseEntry(const QWidget& menuOwner, const QString& text);
 void clickCell(QAbstractItemView& view, int row, int column = 0, bool twice = false);
 /// Selects the items of those texts and no others.
 void selectTexts(QListWidget& list, const QStringList& texts);
+/// Selects these rows and no others, in this order; the last one becomes the current one.
+void selectRows(QTableWidget& table, const QList<int>& rows);
 
 QStringList textsOf(const QListWidget& list);
 QStringList textsOf(const QComboBox& box);
