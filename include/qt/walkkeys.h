@@ -20,6 +20,8 @@ inline constexpr char kAlwaysShow[] = "bAlwaysShow";
 using layerkey::kIsSelected;
 
 // On the root: what a request needs to know.
+/// With a click on a row: the name of the layer that was current before. The command may make the
+/// clicked layer current while that one is hidden.
 inline constexpr char kOldCurrent[] = "oldlaywalkLName";
 inline constexpr char kPurgeOne[] = "laywalkselLName";
 inline constexpr char kPurgeSeveral[] = "laywalkselLNameS";
@@ -36,6 +38,13 @@ inline constexpr char kNewStateName[] = "LayerStateNewName";
 inline constexpr char kNewStateText[] = "desc";
 
 } // namespace walkkey
+
+/// The dialogs of the walk and the service that makes them.
+namespace walkdialog {
+inline constexpr wchar_t kService[] = L"Dialog/CmdLayer";
+inline constexpr wchar_t kWalk[] = L"Dialog/CmdLaywalk";
+inline constexpr wchar_t kVerify[] = L"Dialog/CmdLaywalk/Verify";
+} // namespace walkdialog
 
 /// The walk's requests, under "marker".
 enum WalkRequest {

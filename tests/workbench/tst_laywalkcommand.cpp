@@ -1,47 +1,48 @@
 #include "canvas.h"
-#include "drawing.h"
-#include "mainwindow.h"
-#include "modaldriver.h"
-#include "modulefixture.h"
-#include "recordinghost.h"
+#include "commandfixture.h"
+#include "rows.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QToolButton>
-#include <QtTest>
 
 using drawing::Layer;
 
 /// LAYWALK through the real windows, down to the saved file.
-class LayerWalkCommandTest : public QObject
+class LayerWalkCommandTest : public CommandFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        start({"Dialog/CmdLaywalk", "Dialog/CmdLaywalk/Verify", "Dialog/CmdLayerStateNew"});
+    }
+    void cleanup() { stop(); }
     void restoresEveryByte_data();
     void restoresEveryByte();
     void goingOnIsOneStep();
+    void currentLayerFollows_data();
+    void currentLayerFollows();
     void purgesVerifiesAndSavesAState();
     void refusesToPurgeWhatIsUsed();
     void picksFromTheCanvas_data();
     void picksFromTheCanvas();
 
 private:
-    void open(const QString& path);
-    /// Runs the command; after the steps the dialog is closed by its button.
-    void walk(const std::function<void(QDialog& dialog)>& steps)
+    /// Runs the command; after the acts the dialog is closed by its button.
+    void walk(bool restores, const std::function<void(QDialog& dialog)>& acts)
     {
-        m_user->then([steps](QDialog& dialog) {
-            steps(dialog);
-            child<QPushButton>(dialog, "closeButton")->click();
-        });
-        m_window->runCommand(QStringLiteral("laywalk"));
+        if (!restores)
+            m_host->answer(0);
+        run(QStringLiteral("laywalk"), {[&](QDialog& dialog) {
+            child<QCheckBox>(dialog, "restoreBox")->setChecked(restores);
+            acts(dialog);
+            press(dialog, "closeButton");
+        }});
     }
     template <class T>
     static T* child(const QDialog& dialog, const char* name)
@@ -52,19 +53,20 @@ private:
     {
         return *child<QListWidget>(dialog, "layerList");
     }
-    static void trigger(const QDialog& dialog, const char* action)
+    static void trigger(const QDialog& dialog, const QString& action)
     {
-        dialog.findChild<QAction*>(QLatin1String(action))->trigger();
+        dialog.findChild<QAction*>(action + "Action")->trigger();
     }
-    static void click(const QDialog& dialog, const QString& name)
+    static void click(
+        const QDialog& dialog, const QString& name, Qt::KeyboardModifiers modifiers = {})
     {
         QListWidget& rows = list(dialog);
         QListWidgetItem* const item = rows.findItems("  " + name, Qt::MatchExactly).value(0);
         QVERIFY2(item, qPrintable(name));
         rows.scrollToItem(item);
-        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(item).center());
+        QTest::mouseClick(
+            rows.viewport(), Qt::LeftButton, modifiers, rows.visualItemRect(item).center());
     }
-    drawing::Drawing& drawing() const { return *m_window->drawing(); }
     /// Names of the layers that are on, in the order of the file.
     QStringList shown() const
     {
@@ -75,62 +77,27 @@ private:
         }
         return names;
     }
-    QByteArray savedBytes()
+    QString current() const { return drawing().layer(drawing().currentLayer())->properties.name; }
+    /// Something else than a reference's layer, with as much on it as on any.
+    const Layer& fullest() const
     {
-        const QString path = m_folder.filePath("saved.dxf");
-        if (!drawing().save(path))
-            return {};
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        const Layer* most = &drawing().layers().front();
+        for (const Layer& layer : drawing().layers()) {
+            if (layer.entityCount > most->entityCount && !layer.properties.frozen &&
+                !layer.properties.name.contains('|'))
+                most = &layer;
+        }
+        return *most;
     }
-
-    QTemporaryDir m_folder;
-    std::unique_ptr<ModalDriver> m_user;
-    std::unique_ptr<ModuleFixture> m_module;
-    std::unique_ptr<RecordingHost> m_host;
-    std::unique_ptr<MainWindow> m_window;
-    QByteArray m_original;
 };
-
-void LayerWalkCommandTest::init()
-{
-    m_user = std::make_unique<ModalDriver>();
-    m_module = std::make_unique<ModuleFixture>();
-    m_host = std::make_unique<RecordingHost>();
-    m_host->setLogsTrees(false);
-    for (const char* dialog :
-        {"Dialog/CmdLaywalk", "Dialog/CmdLaywalk/Verify", "Dialog/CmdLayerStateNew"})
-        m_host->passThrough(QLatin1String(dialog));
-    m_window = std::make_unique<MainWindow>();
-    m_window->show();
-    open(QStringLiteral(SAMPLES "/office-floor.dxf"));
-}
-
-void LayerWalkCommandTest::cleanup()
-{
-    m_window.reset();
-    m_host.reset();
-    m_module.reset();
-    m_user.reset();
-}
-
-void LayerWalkCommandTest::open(const QString& path)
-{
-    auto file = readFile(path, nullptr, QThread::currentThread());
-    QVERIFY(file.has_value());
-    m_window->setFile(std::move(*file));
-    QFile original(path);
-    QVERIFY(original.open(QIODevice::ReadOnly));
-    m_original = original.readAll();
-}
 
 void LayerWalkCommandTest::restoresEveryByte_data()
 {
-    QTest::addColumn<QString>("path");
+    const Rows<QString> row("path");
     for (const char* folder : {SAMPLES, SHARED_DRAWINGS}) {
         const QDir files(QString::fromUtf8(folder));
         for (const QString& name : files.entryList({"*.dxf"}, QDir::Files))
-            QTest::newRow(qPrintable(name)) << files.filePath(name);
+            row(qPrintable(name), files.filePath(name));
     }
 }
 
@@ -139,86 +106,108 @@ void LayerWalkCommandTest::restoresEveryByte()
     QFETCH(QString, path);
     open(path);
     const QStringList before = shown();
-    const auto current = drawing().currentLayer();
-    walk([&](QDialog& dialog) {
-        child<QCheckBox>(dialog, "restoreBox")->setChecked(true);
-        for (const char* action : {"selectAllAction", "clearAllAction"})
-            trigger(dialog, action);
+    const auto wasCurrent = drawing().currentLayer();
+    walk(true, [&](QDialog& dialog) {
+        trigger(dialog, "selectAll");
+        trigger(dialog, "clearAll");
         QVERIFY(shown().isEmpty() && drawing().isModified());
         const QImage empty = m_window->canvas()->grab().toImage();
-        const Layer* most = &drawing().layers().front();
-        for (const Layer& layer : drawing().layers()) {
-            if (layer.entityCount > most->entityCount && !layer.properties.frozen)
-                most = &layer;
-        }
-        const QString name = most->properties.name;
+        const QString name = fullest().properties.name;
         click(dialog, name);
         QCOMPARE(shown(), QStringList{name});
-        if (!drawing().layer(most->id)->properties.frozen && path.contains("floor"))
+        if (path.contains("floor"))
             QVERIFY(m_window->canvas()->grab().toImage() != empty);
-        trigger(dialog, "keepAction");
-        trigger(dialog, "reverseAction");
+        trigger(dialog, "keep");
+        trigger(dialog, "reverse");
         QVERIFY(shown().contains(name));
         child<QComboBox>(dialog, "filterCombo")->setEditText("~*[a-f]*");
         QTest::keyClick(child<QComboBox>(dialog, "filterCombo"), Qt::Key_Return);
     });
     QCOMPARE(shown(), before);
-    QCOMPARE(drawing().currentLayer(), current);
+    QCOMPARE(drawing().currentLayer(), wasCurrent);
     QVERIFY(!drawing().canUndo() && !drawing().isModified());
     QVERIFY(savedBytes() == m_original);
 }
 
 void LayerWalkCommandTest::goingOnIsOneStep()
 {
-    m_host->answer(0);
-    walk([](QDialog& dialog) {
-        child<QCheckBox>(dialog, "restoreBox")->setChecked(false);
-        click(dialog, "A-WALL");
+    const QString wasCurrent = current();
+    walk(false, [](QDialog& dialog) {
         click(dialog, "0");
-        trigger(dialog, "releaseAllAction");
+        click(dialog, "A-WALL");
+        trigger(dialog, "releaseAll");
     });
-    QCOMPARE(shown(), QStringList{"0"});
+    QCOMPARE(shown(), QStringList{"A-WALL"});
     QCOMPARE(drawing().undoName(), QStringLiteral("图层漫游"));
+    QCOMPARE(current(), QStringLiteral("A-WALL"));
     drawing().undo();
     QVERIFY(!drawing().canUndo());
+    QCOMPARE(current(), wasCurrent);
     QVERIFY(savedBytes() == m_original);
+}
+
+void LayerWalkCommandTest::currentLayerFollows_data()
+{
+    const Rows<QStringList, QString> row("acts", "current"); // + selects besides, others act.
+    const QString old = QStringLiteral("墙体-隔墙");
+    row("a click that hides it", {"A-WALL"}, "A-WALL");
+    row("the layer clicked last", {"A-WALL", "+A-DOOR"}, "A-DOOR");
+    row("what is left", {"A-WALL", "+A-DOOR", "+A-DOOR"}, "A-WALL");
+    row("a click that shows it again", {"A-WALL", "+" + old}, old);
+    row("whatever shows it again", {"A-WALL", "=selectAll"}, old);
+    row("a click beside it", {old, "+A-WALL"}, old);
+    row("hidden, but not by a click", {"=clearAll"}, old);
+}
+
+/// The current layer is one that is shown as long as a click hides the old one.
+void LayerWalkCommandTest::currentLayerFollows()
+{
+    QFETCH(QStringList, acts);
+    const QString old = current();
+    walk(true, [&](QDialog& dialog) {
+        for (const QString& act : acts) {
+            if (act.startsWith('='))
+                trigger(dialog, act.mid(1));
+            else if (act.startsWith('+'))
+                click(dialog, act.mid(1), Qt::ControlModifier);
+            else
+                click(dialog, act);
+        }
+        QTEST(current(), "current");
+    });
+    QCOMPARE(current(), old);
 }
 
 void LayerWalkCommandTest::purgesVerifiesAndSavesAState()
 {
     int unused = 0;
-    int entities = 0;
-    QString pinned;
-    for (const Layer& layer : drawing().layers()) {
+    for (const Layer& layer : drawing().layers())
         unused += layer.used() ? 0 : 1;
-        if (layer.entityCount > entities && !layer.properties.name.contains('|')) {
-            entities = layer.entityCount;
-            pinned = layer.properties.name;
-        }
-    }
+    const int entities = fullest().entityCount;
+    const QString pinned = fullest().properties.name;
     const std::size_t count = drawing().layers().size();
     QStringList counts;
-    m_user->then([&](QDialog& dialog) {
+    const auto acts = [&](QDialog& dialog) {
         click(dialog, pinned);
-        trigger(dialog, "keepAction");
-        m_user->then([&](QDialog& report) {
-            for (const QLineEdit* edit : report.findChildren<QLineEdit*>())
-                counts.append(edit->text());
-            report.close();
-        });
-        trigger(dialog, "verifyAction");
-        trigger(dialog, "selectUnusedAction");
-        child<QPushButton>(dialog, "purgeButton")->click();
+        trigger(dialog, "keep");
+        trigger(dialog, "verify");
+        trigger(dialog, "selectUnused");
+        press(dialog, "purgeButton");
         QCOMPARE(list(dialog).findItems("* " + pinned, Qt::MatchExactly).size(), 1);
-        m_user->then([&](QDialog& naming) {
-            child<QComboBox>(naming, "nameBox")->setEditText(QStringLiteral("只看墙"));
-            child<QPushButton>(naming, "okButton")->click();
-        });
-        trigger(dialog, "saveStateAction");
+        trigger(dialog, "saveState");
         child<QCheckBox>(dialog, "restoreBox")->setChecked(true);
         dialog.close();
-    });
-    m_window->runCommand(QStringLiteral("laywalk"));
+    };
+    const auto readCounts = [&](QDialog& report) {
+        for (const QLineEdit* edit : report.findChildren<QLineEdit*>())
+            counts.append(edit->text());
+        report.close();
+    };
+    const auto nameState = [](QDialog& naming) {
+        child<QComboBox>(naming, "nameBox")->setEditText(QStringLiteral("只看墙"));
+        press(naming, "okButton");
+    };
+    run(QStringLiteral("laywalk"), {acts, readCounts, nameState});
     QCOMPARE(counts, (QStringList{QString::number(count), "1", QString::number(entities)}));
     // Layers without an entity stay where they are current or a reference's.
     const auto left = drawing().layers().size();
@@ -234,9 +223,9 @@ void LayerWalkCommandTest::purgesVerifiesAndSavesAState()
 
 void LayerWalkCommandTest::refusesToPurgeWhatIsUsed()
 {
-    walk([](QDialog& dialog) {
+    walk(true, [](QDialog& dialog) {
         click(dialog, "A-WALL");
-        child<QPushButton>(dialog, "purgeButton")->click();
+        press(dialog, "purgeButton");
         QVERIFY(!list(dialog).findItems("  A-WALL", Qt::MatchExactly).isEmpty());
     });
     const QStringList messages = m_host->log().filter("message|");
@@ -246,11 +235,10 @@ void LayerWalkCommandTest::refusesToPurgeWhatIsUsed()
 
 void LayerWalkCommandTest::picksFromTheCanvas_data()
 {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("selected");
-    QTest::newRow("ENTER") << int(Qt::Key_Return) << 1;
-    QTest::newRow("right button") << 0 << 1;
-    QTest::newRow("Esc") << int(Qt::Key_Escape) << -1; // As it was.
+    const Rows<int, int> row("key", "selected");
+    row("ENTER", Qt::Key_Return, 1);
+    row("right button", 0, 1);
+    row("Esc", Qt::Key_Escape, -1); // As it was.
 }
 
 void LayerWalkCommandTest::picksFromTheCanvas()
@@ -258,11 +246,10 @@ void LayerWalkCommandTest::picksFromTheCanvas()
     QFETCH(int, key);
     QFETCH(int, selected);
     Canvas& canvas = *m_window->canvas();
-    m_user->then([&](QDialog& dialog) {
-        trigger(dialog, "selectAllAction");
-        const int all = list(dialog).count();
+    const auto picking = [&](QDialog& dialog) {
+        trigger(dialog, "selectAll");
         if (selected < 0)
-            selected = all;
+            selected = list(dialog).count();
         QTimer::singleShot(0, &canvas, [&] {
             // Something of each kind lies along the middle.
             for (int x = 0; canvas.selection().empty() && x < canvas.width(); x += 3)
@@ -275,13 +262,13 @@ void LayerWalkCommandTest::picksFromTheCanvas()
         });
         child<QToolButton>(dialog, "pickButton")->click();
         QVERIFY(canvas.selection().empty());
-    });
-    m_user->then([&](QDialog& dialog) {
+    };
+    const auto picked = [&](QDialog& dialog) {
         QCOMPARE(list(dialog).selectedItems().size(), selected);
         QCOMPARE(shown().size(), selected);
         dialog.close();
-    });
-    m_window->runCommand(QStringLiteral("laywalk"));
+    };
+    run(QStringLiteral("laywalk"), {picking, picked});
 }
 
 QTEST_MAIN(LayerWalkCommandTest)

@@ -6,6 +6,7 @@
 #include "layermarks.h"
 #include "layerrecords.h"
 #include "posing.h"
+#include "statekeys.h"
 #include "statelist.h"
 #include "vnstrings.h"
 #include "walkkeys.h"
@@ -22,12 +23,18 @@ using vnsi::VnJsonPtr;
 namespace {
 
 namespace key = vnsi::layerkey;
+namespace walkdialog = vnsi::walkdialog;
 namespace walkkey = vnsi::walkkey;
+using vnsi::LayerRecord;
 
-constexpr wchar_t kService[] = L"Dialog/CmdLayer";
-constexpr wchar_t kDialog[] = L"Dialog/CmdLaywalk";
-constexpr wchar_t kVerifyDialog[] = L"Dialog/CmdLaywalk/Verify";
 constexpr int kMostProblemsShown = 10;
+
+const layerrecords::Provider& records()
+{
+    static const layerrecords::Provider provider(
+        {key::kName, key::kStatus, key::kOff, key::kFrozen, key::kVPortFrozen, key::kUsed});
+    return provider;
+}
 
 QString tr(const char* text)
 {
@@ -37,7 +44,7 @@ QString tr(const char* text)
 /// The records of the layer tree that a request carries.
 VnJsonPtr recordsOf(const VnJsonPtr& root)
 {
-    const VnJsonPtr layers = root->GetDataJ(walkkey::kParameter);
+    const VnJsonPtr layers = root->GetDataJ(vnsi::requestkey::kParameter);
     return layers ? layers->GetDataJ(key::kList) : VnJsonPtr();
 }
 
@@ -50,6 +57,20 @@ QStringList namesToPurge(const VnJsonPtr& root)
     if (root->HasKey(walkkey::kPurgeOne))
         names.append(vnsi::vnutOdStringToQString(root->GetDataSW(walkkey::kPurgeOne)));
     return names;
+}
+
+/// How well a layer of the walk stands for what the user clicked, and may become current therefore:
+/// best if it was just turned on, then if it is current, least if it is pinned and so shown anyway.
+/// 0 where it cannot be drawn on.
+int claimToBeCurrent(const LayerRecord& record, const Layer& layer, bool wasOff, bool isCurrent)
+{
+    if (layer.properties.off || layer.properties.frozen || layer.dependsOnReference)
+        return 0;
+    if (wasOff)
+        return 4;
+    if (isCurrent)
+        return 3;
+    return record.flag(walkkey::kAlwaysShow) ? 1 : 2;
 }
 
 } // namespace
@@ -80,18 +101,32 @@ void LayerWalkCommand::run(CommandContext& context)
     const VnJsonPtr tree = vnsi::ElementValue::createObject(8);
     tree->SetDataJ(walkkey::kLayers, makeLayers());
     const auto invoker = CommandInvoker::make([this](const VnJsonPtr& root) { answer(root); });
-    vnsi::vnuiShowModelDialogEx(kService, kDialog, tree, invoker, context.parent);
+    vnsi::vnuiShowModelDialogEx(
+        walkdialog::kService, walkdialog::kWalk, tree, invoker, context.parent);
 }
 
 VnJsonPtr LayerWalkCommand::makeLayers()
 {
-    const VnJsonPtr list = layerrecords::makeList(drawing());
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
-        list(i)->SetDataB(walkkey::kAlwaysShow, false);
-    const VnJsonPtr layers = vnsi::ElementValue::createObject(4);
-    layers->SetDataJ(key::kList, list);
-    layers->SetDataJ(walkkey::kStates, statelist::make(drawing()));
+    const VnJsonPtr layers = records().tree(drawing());
+    layers->SetDataJ(vnsi::statekey::kList, statelist::make(drawing()));
     return layers;
+}
+
+/// Hands the layers back as they are in the drawing now; what the user pinned stays pinned.
+void LayerWalkCommand::handBack(const VnJsonPtr& root)
+{
+    QSet<int> pinned;
+    const VnJsonPtr before = recordsOf(root);
+    for (int i = 0, count = before.ArrayCount(); i < count; ++i) {
+        if (LayerRecord(before(i)).flag(walkkey::kAlwaysShow))
+            pinned.insert(static_cast<int>(layerrecords::idOf(before(i))));
+    }
+    const VnJsonPtr layers = makeLayers();
+    const VnJsonPtr list = layers->GetDataJ(key::kList);
+    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
+        LayerRecord(list(i)).setFlag(
+            walkkey::kAlwaysShow, pinned.contains(static_cast<int>(layerrecords::idOf(list(i)))));
+    root->SetDataJ(walkkey::kLayers, layers);
 }
 
 void LayerWalkCommand::remember()
@@ -118,7 +153,7 @@ void LayerWalkCommand::note(const drawing::Expected<void>& outcome)
 
 void LayerWalkCommand::answer(const VnJsonPtr& root)
 {
-    const int code = root->GetDataI(walkkey::kRequestCode, -1);
+    const int code = root->GetDataI(vnsi::requestkey::kRequestCode, -1);
     const auto* const row = std::find_if(std::begin(kRequests), std::end(kRequests),
         [code](const RequestRow& candidate) { return candidate.code == code; });
     if (row == std::end(kRequests))
@@ -139,22 +174,30 @@ void LayerWalkCommand::answer(const VnJsonPtr& root)
 
 void LayerWalkCommand::apply(const VnJsonPtr& root)
 {
+    LayerId current = LayerId::None;
+    LayerId clicked = LayerId::None;
+    int bestClaim = 0;
     const VnJsonPtr list = recordsOf(root);
     for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr record = list(i);
-        const LayerId id = layerrecords::idOf(record);
+        const LayerRecord record(list(i));
+        const LayerId id = layerrecords::idOf(record.node());
         const Layer* layer = drawing().layer(id);
         if (!layer)
             continue; // Purged since.
-        const bool off = record->GetDataB(key::kOff);
-        if (layer->properties.off != off) {
-            drawing::LayerProperties properties = layer->properties;
-            properties.off = off;
-            note(drawing().setLayerProperties(id, properties));
+        const bool wasOff = layer->properties.off;
+        setOff(*layer, record.isOff());
+        if (record.number(key::kStatus, vnsi::kLayerOrdinary) == vnsi::kLayerCurrent)
+            current = id;
+        const int claim =
+            claimToBeCurrent(record, *drawing().layer(id), wasOff, id == drawing().currentLayer());
+        if (claim > bestClaim) {
+            bestClaim = claim;
+            clicked = id;
         }
-        if (record->GetDataI(key::kStatus, vnsi::kLayerOrdinary) == vnsi::kLayerCurrent)
-            note(drawing().setCurrentLayer(id));
     }
+    makeCurrent(root, current, clicked);
+    if (!m_problems.isEmpty())
+        handBack(root);
     if (isAsBefore()) {
         // Layers that had no record of their own have one now; taking the step back leaves nothing.
         drawing().rollbackStep();
@@ -163,15 +206,43 @@ void LayerWalkCommand::apply(const VnJsonPtr& root)
     m_context->refresh();
 }
 
+void LayerWalkCommand::setOff(const Layer& layer, bool off)
+{
+    if (layer.properties.off == off)
+        return;
+    drawing::LayerProperties properties = layer.properties;
+    properties.off = off;
+    note(drawing().setLayerProperties(layer.id, properties));
+}
+
+/// The current layer follows the clicks that hide it, so that nobody draws on what is hidden, and
+/// is the old one again as soon as that is shown.
+void LayerWalkCommand::makeCurrent(const VnJsonPtr& root, LayerId current, LayerId clicked)
+{
+    const bool isClick = root->HasKey(walkkey::kOldCurrent);
+    if (isClick) {
+        const Layer* old =
+            drawing().findLayer(vnsi::vnutOdStringToQString(root->GetDataSW(walkkey::kOldCurrent)));
+        m_oldCurrent = old ? old->id : LayerId::None;
+    }
+    const Layer* old = drawing().layer(m_oldCurrent);
+    if (current == LayerId::None && old && !old->properties.off)
+        current = m_oldCurrent;
+    if (current == LayerId::None && isClick)
+        current = clicked;
+    if (current != LayerId::None)
+        note(drawing().setCurrentLayer(current));
+}
+
 void LayerWalkCommand::count(const VnJsonPtr& root)
 {
     int layers = 0;
     int entities = 0;
     const VnJsonPtr list = recordsOf(root);
     for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr record = list(i);
-        const Layer* layer = drawing().layer(layerrecords::idOf(record));
-        if (!layer || !record->GetDataB(walkkey::kIsSelected))
+        const LayerRecord record(list(i));
+        const Layer* layer = drawing().layer(layerrecords::idOf(record.node()));
+        if (!layer || !record.flag(key::kIsSelected))
             continue;
         ++layers;
         entities += layer->entityCount;
@@ -193,31 +264,20 @@ void LayerWalkCommand::purge(const VnJsonPtr& root)
         purged += removed ? 1 : 0;
     }
     m_hasOtherEdits = m_hasOtherEdits || purged > 0;
-
-    QSet<int> pinned;
-    const VnJsonPtr before = recordsOf(root);
-    for (int i = 0, count = before.ArrayCount(); i < count; ++i) {
-        if (before(i)->GetDataB(walkkey::kAlwaysShow))
-            pinned.insert(static_cast<int>(layerrecords::idOf(before(i))));
-    }
-    const VnJsonPtr layers = makeLayers();
-    const VnJsonPtr list = layers->GetDataJ(key::kList);
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
-        list(i)->SetDataB(
-            walkkey::kAlwaysShow, pinned.contains(static_cast<int>(layerrecords::idOf(list(i)))));
-    root->SetDataJ(walkkey::kLayers, layers);
+    handBack(root);
     m_context->say(tr("已清除 %1 个图层。").arg(purged));
     m_context->refresh();
 }
 
 void LayerWalkCommand::saveState(const VnJsonPtr& root)
 {
-    const VnJsonPtr layers = root->GetDataJ(walkkey::kParameter);
+    const VnJsonPtr layers = root->GetDataJ(vnsi::requestkey::kParameter);
     if (!layers)
         return;
     drawing::LayerState state = captureLayerState(
-        drawing(), vnsi::vnutOdStringToQString(layers->GetDataSW(walkkey::kNewStateName)));
-    state.description = vnsi::vnutOdStringToQString(layers->GetDataSW(walkkey::kNewStateText));
+        drawing(), vnsi::vnutOdStringToQString(layers->GetDataSW(vnsi::statekey::kNewName)));
+    state.description =
+        vnsi::vnutOdStringToQString(layers->GetDataSW(vnsi::statekey::kDescription));
     if (state.name.isEmpty())
         return;
     const auto saved = drawing().putLayerStates({state});
@@ -225,7 +285,7 @@ void LayerWalkCommand::saveState(const VnJsonPtr& root)
     if (!saved)
         return;
     m_hasOtherEdits = true;
-    layers->SetDataJ(walkkey::kStates, statelist::make(drawing()));
+    layers->SetDataJ(vnsi::statekey::kList, statelist::make(drawing()));
     m_context->say(tr("图层状态“%1”已保存。").arg(state.name));
     statelist::tellWhereStatesAre(*m_context);
 }
@@ -254,12 +314,13 @@ void LayerWalkCommand::pose(CommandContext& context, const Camera& camera)
     const VnJsonPtr layers = makeLayers();
     tree->SetDataJ(walkkey::kLayers, layers);
     const VnJsonPtr list = layers->GetDataJ(key::kList);
-    if (const VnJsonPtr pinned = list(2))
-        pinned->SetDataB(walkkey::kAlwaysShow, true);
-    posing::showDialog(kService, kDialog, tree, camera, QStringLiteral("layer-walk"));
+    LayerRecord(list(2)).setFlag(walkkey::kAlwaysShow, true);
+    posing::showDialog(
+        walkdialog::kService, walkdialog::kWalk, tree, camera, QStringLiteral("layer-walk"));
     for (int i = 0, count = list.ArrayCount(); i < count; i += 2)
-        list(i)->SetDataB(walkkey::kIsSelected, true);
-    tree->SetDataJ(walkkey::kParameter, layers);
+        LayerRecord(list(i)).setFlag(key::kIsSelected, true);
+    tree->SetDataJ(vnsi::requestkey::kParameter, layers);
     count(tree);
-    posing::showDialog(kService, kVerifyDialog, tree, camera, QStringLiteral("layer-walk-verify"));
+    posing::showDialog(walkdialog::kService, walkdialog::kVerify, tree, camera,
+        QStringLiteral("layer-walk-verify"));
 }

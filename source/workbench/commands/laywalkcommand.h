@@ -28,6 +28,10 @@ private:
 
     drawing::Drawing& drawing() { return m_context->drawing; }
     vnsi::VnJsonPtr makeLayers();
+    void handBack(const vnsi::VnJsonPtr& root);
+    void setOff(const drawing::Layer& layer, bool off);
+    void makeCurrent(
+        const vnsi::VnJsonPtr& root, drawing::LayerId current, drawing::LayerId clicked);
     void remember();
     bool isAsBefore();
     void note(const drawing::Expected<void>& outcome);
@@ -41,6 +45,8 @@ private:
     CommandContext* m_context = nullptr;
     std::vector<Before> m_before; ///< The layers when the walk began.
     drawing::LayerId m_currentBefore = drawing::LayerId::None;
+    /// The layer that was current before the latest click, as the dialog says.
+    drawing::LayerId m_oldCurrent = drawing::LayerId::None;
     bool m_hasOtherEdits = false; ///< Purged, or saved a state: restoring layers leaves that.
     QStringList m_problems;       ///< Why parts of a request could not be carried out.
 };
