@@ -7,17 +7,16 @@ namespace vnsi {
 /// The keys that the layer walk's dialogs and the command share, besides those of the records.
 namespace walkkey {
 
-/// The layer tree: what the dialog is given, what the command hands back when it made it anew.
-/// Requests carry the dialog's own copy of it under "parameter".
+/// The layer tree, which holds the drawing's layer states as well (`statekey::kList`), for the
+/// dialog that names a new one: what the dialog is given, what the command hands back when it made
+/// it anew. Requests carry the dialog's own copy of it under `requestkey::kParameter`. What is
+/// found there afterwards in that copy's place, or under `kResult`, counts as handed back as well.
 inline constexpr char kLayers[] = "LayerStateMgr";
-using requestkey::kParameter;
-using requestkey::kRequestCode;
 /// 0 where the command refused; what it leaves alone counts as done.
 inline constexpr char kResult[] = "result";
 
-// In a record.
+/// In a record: whether the layer is pinned and stays on.
 inline constexpr char kAlwaysShow[] = "bAlwaysShow";
-using layerkey::kIsSelected;
 
 // On the root: what a request needs to know.
 /// With a click on a row: the name of the layer that was current before. The command may make the
@@ -31,11 +30,6 @@ inline constexpr char kLayerCount[] = "LayerCount";
 inline constexpr char kSelectedCount[] = "SelectLayerCount";
 inline constexpr char kSelectedEntities[] = "SelectLayerEntitys"; // The key's agreed spelling.
 inline constexpr char kPickedNames[] = "laywalkpickLNameS";
-
-// In the layer tree, for the dialog that names a new layer state.
-inline constexpr char kStates[] = "LayerStateList";
-inline constexpr char kNewStateName[] = "LayerStateNewName";
-inline constexpr char kNewStateText[] = "desc";
 
 } // namespace walkkey
 

@@ -2,6 +2,7 @@
 #include "modulefixture.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
+#include "rows.h"
 #include "settings.h"
 #include "trees.h"
 #include "vnsettings.h"
@@ -54,20 +55,22 @@ QString summary(const VnJsonPtr& layerTree)
 class Walk
 {
 public:
-    explicit Walk(ModuleFixture& module, const QString& json = treeText(kLayers))
+    using Answer = RecordingInvoker::Answer;
+
+    explicit Walk(
+        ModuleFixture& module, const QString& json = treeText(kLayers), bool hasCommand = true)
         : root(tree(json)),
           wrapper(module.createDialog("Dialog/CmdLaywalk", root,
-              RecordingInvoker::create(host, {"marker"},
-                  [this](const VnJsonPtr& asked) {
-                      note(asked);
-                      if (answer)
-                          answer(asked);
-                  }))),
+              hasCommand ? OdRxObjectPtr(RecordingInvoker::create(host, {"marker"},
+                               [this](const VnJsonPtr& asked) {
+                                   note(asked);
+                                   answer(asked);
+                               }))
+                         : OdRxObjectPtr())),
           dialog(wrapper->widget()),
           list(child<QListWidget>("layerList")),
           filters(child<QComboBox>("filterCombo"))
     {
-        host.setLogsTrees(false);
     }
 
     template <class T>
@@ -78,59 +81,81 @@ public:
     /// Code, arguments and layers.
     void note(const VnJsonPtr& asked)
     {
-        QString line = QString::number(asked->GetDataI("marker"));
+        const int code = asked->GetDataI("marker");
         const QJsonObject all = toJsonObject(asked);
-        for (const char* key : {"oldlaywalkLName", "laywalkselLName"})
-            line += all.contains(key) ? " " + all[key].toString() : QString();
-        for (const QJsonValue name : all["laywalkselLNameS"].toArray())
-            line += " [" + name.toString() + "]";
+        QString line = QString::number(code);
+        const char* name = code == 4 ? "oldlaywalkLName" : "laywalkselLName";
+        line += all.contains(name) ? " " + all[name].toString() : QString();
+        for (const QJsonValue several : all["laywalkselLNameS"].toArray())
+            line += " [" + several.toString() + "]";
         const VnJsonPtr parameter = asked->GetDataJ("parameter");
         requests.append(line + ": " + summary(parameter));
-        QVERIFY(asked->GetDataI("marker") != 4 || parameter->GetDataB("Modified"));
+        QVERIFY(code != 4 || parameter->GetDataB("Modified"));
+    }
+    /// The command from now on: one that refuses, fails, obeys, or hands the layers back anew in
+    /// that place.
+    void changeCommand(const QString& how)
+    {
+        answer = [how](const VnJsonPtr& asked) {
+            const VnJsonPtr layers = ElementValue::clone(asked->GetDataJ("parameter"));
+            if (how == "refuses")
+                asked->SetDataI("result", 0);
+            else if (how == "fails")
+                throw std::runtime_error("no");
+            else if (how.endsWith("/LayerList"))
+                asked->SetDataJ(qPrintable(how), layers->GetDataJ("LayerList"));
+            else if (how != "obeys")
+                asked->SetDataJ(qPrintable(how), layers);
+        };
     }
     void trigger(const QString& action) { dialog->findChild<QAction*>(action)->trigger(); }
-    void click(int row, Qt::KeyboardModifiers modifiers = {},
-        Qt::MouseButton button = Qt::LeftButton) const
-    {
-        QTest::mouseClick(list->viewport(), button, modifiers, centre(row));
-    }
     void perform(const QString& act, const QString& what)
     {
-        const int row = what.toInt();
         QWidget* const area = list->viewport();
-        if (act == "click" || act == "double")
-            click(row);
-        if (act == "double")
-            QTest::mouseDClick(area, Qt::LeftButton, {}, centre(row));
-        else if (act == "ctrl")
-            click(row, Qt::ControlModifier);
-        else if (act == "right")
-            click(row, {}, Qt::RightButton);
+        const auto button = act == "right" ? Qt::RightButton : Qt::LeftButton;
+        const auto modifier = act == "ctrl" ? Qt::ControlModifier : Qt::NoModifier;
+        const QPoint at = list->visualItemRect(list->item(what.toInt())).center();
+        if (act == "command")
+            changeCommand(what);
+        else if (act == "click" || act == "ctrl" || act == "double" || act == "right")
+            QTest::mouseClick(area, button, modifier, at);
         else if (act == "below")
-            QTest::mouseClick(area, Qt::LeftButton, {}, QPoint(5, area->height() - 3));
-        else if (act == "down")
-            QTest::keyClick(list, Qt::Key_Down);
+            QTest::mouseClick(area, button, {}, QPoint(5, area->height() - 3));
         else if (act == "type")
             filters->lineEdit()->setText(what);
-        else if (act == "enter")
-            QTest::keyClick(filters, Qt::Key_Return);
-        else if (act == "box")
-            child<QCheckBox>("filterBox")->click();
-        else if (act.endsWith("Action"))
-            trigger(act);
+        else if (act == "key")
+            QTest::keyClick(what == "down" ? list : static_cast<QWidget*>(filters),
+                what == "enter" ? Qt::Key_Return : Qt::Key_Down);
+        else if (act == "leave")
+            leaveFilters();
+        else if (act == "press")
+            child<QAbstractButton>(qPrintable(what))->click();
+        else
+            trigger(act + "Action");
+        if (act == "double" || act == "right")
+            QTest::mouseDClick(area, button, {}, at);
     }
-    QPoint centre(int row) const { return list->visualItemRect(list->item(row)).center(); }
-    void filter(const QString& pattern) const
+    void perform(const QStringList& acts)
     {
-        filters->lineEdit()->setText(pattern);
-        QTest::keyClick(filters, Qt::Key_Return);
+        dialog->show();
+        for (const QString& act : acts)
+            perform(act.section(' ', 0, 0), act.section(' ', 1));
     }
-    /// # for a selected row, . for another.
+    /// Takes the focus away from the edit line.
+    void leaveFilters() const
+    {
+        QFocusEvent away(QEvent::FocusOut, Qt::MouseFocusReason);
+        QCoreApplication::sendEvent(filters->lineEdit(), &away);
+    }
+    /// # for a selected row, @ with a star; . for another, * with a star.
     QString rows() const
     {
         QString signs;
-        for (int row = 0; row < list->count(); ++row)
-            signs += list->item(row)->isSelected() ? '#' : '.';
+        for (int row = 0; row < list->count(); ++row) {
+            const bool isStarred = list->item(row)->text().startsWith('*');
+            signs +=
+                list->item(row)->isSelected() ? (isStarred ? '@' : '#') : (isStarred ? '*' : '.');
+        }
         return signs;
     }
     QStringList texts() const
@@ -143,7 +168,7 @@ public:
     bool mayPurge() const { return child<QPushButton>("purgeButton")->isEnabled(); }
 
     RecordingHost host;
-    RecordingInvoker::Answer answer;
+    Answer answer = [](const VnJsonPtr&) {};
     QStringList requests;
     VnJsonPtr root;
     VnUiModeDialogBasePtr wrapper;
@@ -169,7 +194,7 @@ private slots:
         Walk walk(m_module);
         QCOMPARE(
             walk.texts(), (QStringList{"  0", "  WALL", "  wall-2", "* door", "  ice", "  a*[1]"}));
-        QCOMPARE(walk.rows(), QStringLiteral("##.#.."));
+        QCOMPARE(walk.rows(), QStringLiteral("##.@.."));
         QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: 6"));
         QVERIFY(!walk.mayPurge() && !walk.child<QCheckBox>("filterBox")->isEnabled());
         QCOMPARE(walk.child<QToolButton>("pickButton")->toolTip(),
@@ -179,82 +204,154 @@ private slots:
 
     void acts_data()
     {
-        QTest::addColumn<QStringList>("acts");
-        QTest::addColumn<QStringList>("requests");
-        QTest::addColumn<QString>("rows"); // As many as pass the filter.
-        const auto row = [](const char* name, const QStringList& acts, const QStringList& requests,
-                             const char* rows) {
-            QTest::newRow(name) << acts << requests << QString::fromUtf8(rows);
-        };
-        row("click leaves the star on", {"click 2"}, {"4 0: --+*--"}, "..#...");
+        const Rows<QStringList, QStringList, QString> row("acts", "requests", "rows");
+        row("click leaves the star on", {"click 2"}, {"4 0: --+*--"}, "..#*..");
         row("back to the current layer", {"click 1", "ctrl 0"}, {"4 0: -+-*--", "4 0: C+-*--"},
-            "##....");
-        row("keys walk too", {"click 0", "down"}, {"4 0: C--*--", "4 0: -+-*--"}, ".#....");
-        row("click below the rows only disables", {"below"}, {}, "......");
-        row("right button selects nothing", {"right 2"}, {}, "##.#..");
-        row("double click stars", {"double 1"}, {"4 0: -+-*--", "4: -*-*--"}, ".#....");
+            "##.*..");
+        row("keys walk too", {"click 0", "key down"}, {"4 0: C--*--", "4 0: -+-*--"}, ".#.*..");
+        row("click below the rows only disables", {"below"}, {}, "...*..");
+        row("right button selects and pins nothing", {"right 2", "click 1", "right 1"},
+            {"4 0: -+-*--"}, ".#.*..");
+        row("double click stars", {"double 1"}, {"4 0: -+-*--", "4: -*-*--"}, ".@.*..");
         row("double click releases", {"double 3"}, {"4 0: ---*--", "4: ---+--"}, "...#..");
-        row("release all turns off what is not selected", {"click 1", "releaseAllAction"},
+        row("release all turns off what is not selected", {"click 1", "releaseAll"},
             {"4 0: -+-*--", "4: -+----"}, ".#....");
-        row("select all", {"selectAllAction"}, {"4: C++*++"}, "######");
-        row("select all, beyond the filter", {"type ice", "enter", "selectAllAction"},
+        row("select all", {"selectAll"}, {"4: C++*++"}, "###@##");
+        row("select all, beyond the filter", {"type ice", "key enter", "selectAll"},
             {"4: c--*+-", "4: C++*++"}, "#");
-        row("clear all leaves the star on", {"clearAllAction"}, {"4: c--*--"}, "......");
-        row("reverse", {"reverseAction"}, {"4: c-+*++"}, "..#.##");
-        row("unreferenced are selected, not shown", {"selectUnusedAction"}, {}, "..#..#");
-        row("filter by ENTER, in any case", {"type WALL*", "enter"}, {"4: c++*--"}, "##");
-        row("filter that nothing passes", {"type x", "enter"}, {"4: c--*--"}, "");
-        row("filter off by its box", {"type WALL*", "enter", "box"}, {"4: c++*--", "4: c++*--"},
-            ".###..");
-        row("emptied pattern is no filter", {"type ice", "enter", "type "},
-            {"4: c--*+-", "4: c--*+-"}, "...#..");
-        row("a name like a pattern, copied, is itself alone",
-            {"click 5", "copyAsFilterAction", "enter"}, {"4 0: ---*-+", "4: ---*-+"}, "#");
-        row("deleting the filter turns off what it let through",
-            {"type W*", "enter", "saveFilterAction", "saveFilterAction", "deleteFilterAction"},
-            {"4: c++*--", "4: c--*--"}, "...#..");
+        row("clear all leaves the star on", {"clearAll"}, {"4: c--*--"}, "...*..");
+        row("reverse", {"reverse"}, {"4: c-+*++"}, "..#*##");
+        row("unreferenced are selected, not shown", {"selectUnused"}, {}, "..#*.#");
+
+        row("filter by ENTER, in any case", {"type WALL*", "key enter"}, {"4: c++*--"}, "##");
+        row("filter that nothing passes", {"type x", "key enter"}, {"4: c--*--"}, "");
+        row("filter off by its box", {"type WALL*", "key enter", "press filterBox"},
+            {"4: c++*--", "4: c++*--"}, ".##@..");
+        row("typing alone changes nothing", {"type ice", "key enter", "type ", "type W", "leave"},
+            {"4: c--*+-"}, "#");
+        row("ENTER without a pattern ends the filter",
+            {"type ice", "key enter", "type ", "key enter"}, {"4: c--*+-", "4: c--*+-"}, "...@..");
+        row("saved pattern left standing", {"type W*", "saveFilter", "leave", "deleteFilter"},
+            {"4: C+-*++"}, "##.@..");
+        row("ENTER on a saved pattern",
+            {"type W*", "saveFilter", "key enter", "leave", "deleteFilter"},
+            {"4: c++*--", "4: c--*--"}, "...@..");
+        row("chosen pattern",
+            {"type x", "saveFilter", "type ice", "saveFilter", "key next", "deleteFilter", "type x",
+                "deleteFilter"},
+            {"4: c--*+-", "4: c--*--", "4: c--*--"}, "...@..");
         row("a filter that was not used turns nothing off",
-            {"type W*", "saveFilterAction", "deleteFilterAction"}, {"4: C+-*++"}, "##.#..");
+            {"type W*", "saveFilter", "saveFilter", "deleteFilter"}, {"4: C+-*++"}, "##.@..");
+        row("a filter turned off is deleted",
+            {"type W*", "key enter", "saveFilter", "press filterBox", "deleteFilter"},
+            {"4: c++*--", "4: c++*--", "4: c--*--"}, "...@..");
+        row("what was walked to since stays",
+            {"type W*", "key enter", "saveFilter", "press filterBox", "click 1", "deleteFilter"},
+            {"4: c++*--", "4: c++*--", "4 0: -+-*--", "4: -+-*--"}, ".#.@..");
+
+        for (const QString how : {"refuses", "fails"}) {
+            row(qPrintable("filter: " + how), {"command " + how, "type W*", "key enter"},
+                {"4: c++*--"}, "##.@..");
+            row(qPrintable("another filter: " + how),
+                {"type W*", "key enter", "command " + how, "type ice", "key enter",
+                    "press filterBox"},
+                {"4: c++*--", "4: c--*+-", "4: c++*--"}, "##");
+            row(qPrintable("click: " + how),
+                {"click 1", "command " + how, "click 2", "command obeys", "keep"},
+                {"4 0: -+-*--", "4 0: --+*--", "4: -*-*--"}, ".@.*..");
+            row(qPrintable("star: " + how), {"click 2", "command " + how, "keep", "releaseAll"},
+                {"4 0: --+*--", "4: --**--", "4: --+---"}, "..#*..");
+            row(qPrintable("purge: " + how),
+                {"command " + how, "selectUnused", "press purgeButton"},
+                {"12 [wall-2] [a*[1]]: C+-*++"}, "..#*.#");
+        }
+        for (const QString place : {"LayerStateMgr", "LayerStateMgr/LayerList", "parameter",
+                 "parameter/LayerList", "result"})
+            row(qPrintable("anew: " + place), {"command " + place, "double 1"},
+                {"4 0: -+-*--", "4: -*-*--"}, ".@.@..");
     }
 
     void acts()
     {
         QFETCH(QStringList, acts);
-        QFETCH(QString, rows);
+        QFETCH(QString, rows); // As many as pass the filter.
         Walk walk(m_module);
-        walk.dialog->show();
-        for (const QString& act : acts)
-            walk.perform(act.section(' ', 0, 0), act.section(' ', 1));
+        walk.perform(acts);
         QTEST(walk.requests, "requests");
         QCOMPARE(walk.rows(), rows);
         QCOMPARE(walk.dialog->windowTitle(),
             rows.size() == 6
                 ? QStringLiteral("图层漫游 - 图层数: 6")
                 : QStringLiteral("图层漫游 - 图层: 第 %1 层，共 6 层").arg(rows.size()));
+        QCOMPARE(walk.child<QCheckBox>("filterBox")->isChecked(), rows.size() < 6);
         if (!walk.requests.isEmpty())
-            QCOMPARE(walk.mayPurge(), rows.contains('#'));
-        for (int row = 0; row < walk.list->count(); ++row) // The star as the last request has it.
-            QVERIFY(rows.size() < 6 || walk.requests.isEmpty() ||
-                    walk.list->item(row)->text().startsWith('*') ==
-                        (walk.requests.last().right(6)[row] == '*'));
+            QCOMPARE(walk.mayPurge(), rows.contains('#') || rows.contains('@'));
         QCOMPARE(walk.filters->count(), 0);
         // The caller's tree is not the one worked on.
-        QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")), QStringLiteral("C+-*++"));
+        if (!acts.first().contains("LayerStateMgr"))
+            QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")), QStringLiteral("C+-*++"));
+    }
+
+    void copiesNamesAsTheyAre()
+    {
+        QStringList records;
+        for (const char* name : {"A-WALL", "b]~c", "~,`x", "#@.*?[", "A_WALL", "1xz!yy["})
+            records += QStringLiteral("{\"LayerName\":\"%1\"}").arg(name);
+        Walk walk(m_module, treeText("[" + records.join(',') + "]"));
+        walk.perform({"click 0", "ctrl 1", "ctrl 2", "ctrl 3", "copyAsFilter"});
+        QCOMPARE(walk.filters->currentText(), QStringLiteral("A-WALL,b]~c,`~`,``x,`#`@`.`*`?`["));
+        walk.perform({"key enter"});
+        QCOMPARE(walk.rows(), QStringLiteral("####"));
+    }
+
+    void deletingAFilterMarksItsLayers()
+    {
+        Walk walk(m_module);
+        walk.perform({"type d*", "key enter", "saveFilter", "deleteFilter"});
+        const VnJsonPtr pinned = walk.root->GetDataJ("parameter/LayerList")(3);
+        QVERIFY(pinned->GetDataB("Modified") && !pinned->GetDataB("Off"));
+    }
+
+    /// A request clears its own answers and no others; without a command every answer has its
+    /// default.
+    void answersAreFresh_data()
+    {
+        const Rows<bool> row("hasCommand");
+        row("silent command", true);
+        row("no command", false);
+    }
+
+    void answersAreFresh()
+    {
+        QFETCH(bool, hasCommand);
+        QJsonObject json = toJsonObject(tree(treeText(kLayers)));
+        for (const char* stale : {"LayerCount", "SelectLayerCount", "SelectLayerEntitys"})
+            json[stale] = 77;
+        json["laywalkpickLNameS"] = QStringLiteral("another's");
+        Walk walk(m_module, QJsonDocument(json).toJson(), hasCommand);
+        walk.perform({"type W*", "key enter"});
+        QCOMPARE(walk.rows(), QStringLiteral("##"));
+        QCOMPARE(walk.root->GetDataI("LayerCount"), 77);
+        walk.host.answer(2);
+        walk.trigger("verifyAction");
+        QVERIFY2(walk.host.log().last().endsWith(
+                     R"({"LayerCount":2,"SelectLayerCount":2,"SelectLayerEntitys":0})"),
+            qPrintable(walk.host.log().last()));
+        QCOMPARE(walk.root->GetDataSW("laywalkpickLNameS"), OdString(L"another's"));
     }
 
     void purges_data()
     {
-        QTest::addColumn<QList<int>>("rows");
-        QTest::addColumn<QString>("request");
-        QTest::newRow("only the other one") << QList<int>{0, 2} << "12 wall-2: ";
-        QTest::newRow("several") << QList<int>{1, 2, 0} << "12 [WALL] [wall-2]: ";
-        QTest::newRow("layer 0 alone") << QList<int>{0} << QString();
-        QTest::newRow("current layer alone") << QList<int>{4} << QString();
+        const Rows<QStringList, QString> row("acts", "request");
+        row("only the other one", {"ctrl 0", "ctrl 2"}, "12 wall-2: ");
+        row("several", {"ctrl 1", "ctrl 2", "ctrl 0"}, "12 [WALL] [wall-2]: ");
+        row("layer 0 alone", {"ctrl 0"}, "");
+        row("current layer alone", {"ctrl 4"}, "");
     }
 
     void purges()
     {
-        QFETCH(QList<int>, rows);
+        QFETCH(QStringList, acts);
         QFETCH(QString, request);
         QString layers = kLayers; // The current layer is "ice".
         layers.replace("\"CurLayer\":0", "\"CurLayer\":1")
@@ -265,12 +362,10 @@ private slots:
                 root->SetDataJ("LayerStateMgr",
                     tree(R"({"LayerList":[{"LayerName":"left"},{"LayerName":"x","Off":true}]})"));
         };
-        walk.dialog->show();
         walk.list->clearSelection();
-        for (const int row : rows)
-            walk.click(row, Qt::ControlModifier);
+        walk.perform(acts);
         walk.requests.clear();
-        walk.child<QPushButton>("purgeButton")->click();
+        walk.perform({"press purgeButton"});
         if (request.isEmpty()) {
             QVERIFY(walk.requests.isEmpty());
             return;
@@ -284,39 +379,17 @@ private slots:
         QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: 2"));
     }
 
-    void failedRequestLeavesTheList()
-    {
-        Walk walk(m_module);
-        walk.answer = [](const VnJsonPtr& root) {
-            root->SetDataJ("LayerStateMgr", tree("{}"));
-            throw std::runtime_error("no");
-        };
-        walk.list->item(2)->setSelected(true);
-        QMetaObject::invokeMethod(walk.dialog, "slot_ClearBtnClicked");
-        QCOMPARE(walk.list->count(), 6);
-        QCOMPARE(walk.host.log().filter("message|").size(), 1);
-    }
-
     void menuEnables_data()
     {
-        QTest::addColumn<QString>("layers");
-        QTest::addColumn<QList<int>>("selected");
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QString>("enabled"); // The mnemonics.
-        QTest::newRow("nothing at all") << "[]" << QList<int>{} << ""
-                                        << "";
-        QTest::newRow("rows, a star among them") << kLayers << QList<int>{} << ""
-                                                 << "ASCIUVN";
-        QTest::newRow("unstarred selected") << kLayers << QList<int>{1} << ""
-                                            << "HASCIUVNO";
-        QTest::newRow("star selected") << kLayers << QList<int>{1, 3} << ""
-                                       << "HRASCIUVNO";
-        QTest::newRow("no star") << R"([{"LayerName":"0"}])" << QList<int>{0} << ""
-                                 << "HSCIUVNO";
-        QTest::newRow("new pattern") << "[]" << QList<int>{} << "old*"
-                                     << "F";
-        QTest::newRow("saved pattern") << "[]" << QList<int>{} << "Old*"
-                                       << "D";
+        const Rows<QString, QList<int>, QString, QString> row(
+            "layers", "selected", "pattern", "enabled"); // The mnemonics.
+        row("nothing at all", "[]", {}, "", "");
+        row("rows, a star among them", kLayers, {}, "", "ASCIUVN");
+        row("unstarred selected", kLayers, {1}, "", "HASCIUVNO");
+        row("star selected", kLayers, {1, 3}, "", "HRASCIUVNO");
+        row("no star", R"([{"LayerName":"0"}])", {0}, "", "HSCIUVNO");
+        row("new pattern", "[]", {}, "old*", "F");
+        row("saved pattern", "[]", {}, "Old*", "D");
     }
 
     void menuEnables()
@@ -352,11 +425,11 @@ private slots:
 
     void closes_data()
     {
-        QTest::addColumn<bool>("restores");
-        QTest::addColumn<int>("way"); // Button, frame, Esc.
+        const Rows<bool, int> row("restores", "way");
+        const char* const ways[] = {"button", "frame", "Esc"};
         for (int way = 0; way < 3; ++way) {
-            QTest::addRow("restores, way %d", way) << true << way;
-            QTest::addRow("asks, way %d", way) << false << way;
+            row(qPrintable(QString("restores, ") + ways[way]), true, way);
+            row(qPrintable(QString("asks, ") + ways[way]), false, way);
         }
     }
 
@@ -378,7 +451,7 @@ private slots:
             walk.filters->setEditText("A*");
             walk.trigger("saveFilterAction");
             walk.child<QCheckBox>("restoreBox")->setChecked(restores);
-            walk.click(1);
+            walk.perform("click", "1");
             if (!restores) {
                 walk.host.answer(1);
                 close();
@@ -410,14 +483,13 @@ private slots:
 
     void badInput_data()
     {
-        QTest::addColumn<QString>("json");
-        QTest::addColumn<int>("count");
-        QTest::newRow("no tree") << "{}" << 0;
-        QTest::newRow("tree of another kind") << R"({"LayerStateMgr":[1]})" << 0;
-        QTest::newRow("no list") << R"({"LayerStateMgr":{}})" << 0;
-        QTest::newRow("empty list") << treeText("[]") << 0;
-        QTest::newRow("records of other kinds") << treeText(R"([1,"x",null,{}])") << 4;
-        QTest::newRow("doubles") << treeText(R"([{"LayerName":"a"},{"LayerName":"a"}])") << 2;
+        const Rows<QString, int> row("json", "count");
+        row("no tree", "{}", 0);
+        row("tree of another kind", R"({"LayerStateMgr":[1]})", 0);
+        row("no list", R"({"LayerStateMgr":{}})", 0);
+        row("empty list", treeText("[]"), 0);
+        row("records of other kinds", treeText(R"([1,"x",null,{}])"), 4);
+        row("doubles", treeText(R"([{"LayerName":"a"},{"LayerName":"a"}])"), 2);
     }
 
     void badInput()
@@ -433,18 +505,15 @@ private slots:
         for (QAction* action : walk.dialog->findChild<QMenu*>()->actions())
             action->trigger();
         for (const QString& pattern : {QString(10000, '*') + "a[" + QString(10000, '?'),
-                 QStringLiteral("[a"), QString("~*,").repeated(5000)}) {
-            walk.perform("type", pattern);
-            walk.perform("enter", {});
-        }
+                 QStringLiteral("[a"), QString("~*,").repeated(5000)})
+            walk.perform({"type " + pattern, "key enter"});
         QVERIFY(walk.child<QPushButton>("closeButton")->isEnabled());
     }
 
     void doublesGoTogether()
     {
         Walk walk(m_module, treeText(R"([{"LayerName":"a"},{"LayerName":"b"},{"LayerName":"a"}])"));
-        walk.dialog->show();
-        walk.click(0);
+        walk.perform({"click 0"});
         QVERIFY(walk.requests.last().contains(": +-C"));
     }
 

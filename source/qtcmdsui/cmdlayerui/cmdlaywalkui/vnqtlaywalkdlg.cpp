@@ -2,6 +2,8 @@
 
 #include "cmdlayerstateui/statetexts.h"
 #include "dialoghelp.h"
+#include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "vnqtlaywalklistwgt.h"
 #include "vnstrings.h"
 #include "walksettings.h"
@@ -169,6 +171,9 @@ void VnQtLayWalkDlg::connectWidgets()
     connect(m_filters, &QComboBox::editTextChanged, this, &Self::slot_FilterComboBoxTextChanged);
     QLineEdit* const edit = m_filters->lineEdit();
     connect(edit, &QLineEdit::returnPressed, this, &Self::slot_FilterComboBoxReturnPressed);
+    // By itself the combo box takes a saved pattern that is left standing in its edit line for a
+    // chosen entry as soon as the focus goes elsewhere, and once more when ENTER is pressed.
+    disconnect(edit, &QLineEdit::editingFinished, m_filters, nullptr);
     connect(edit, &QWidget::customContextMenuRequested, this, [this, edit](const QPoint& point) {
         updateActions();
         m_filterMenu->popup(edit->mapToGlobal(point));
@@ -178,12 +183,12 @@ void VnQtLayWalkDlg::connectWidgets()
 bool VnQtLayWalkDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 {
     VnQtModeDialogImpl::setData(data, invoker);
-    m_given = data ? data->GetDataJ(walkkey::kLayers) : VnJsonPtr();
-    m_layers.take(m_given);
-    m_kept = ElementValue::clone(m_layers.tree());
-    m_filtered.clear();
+    m_given = LayerTreeMark(data ? data->GetDataJ(walkkey::kLayers) : VnJsonPtr());
+    m_layers.take(m_given.tree);
+    m_kept = hostapi::copyOf(m_layers.tree());
     loadSettings();
     fillAndSelectVisible();
+    settle();
     m_purge->setEnabled(false);
     return true;
 }
@@ -200,13 +205,12 @@ void VnQtLayWalkDlg::fill()
     m_rows.clear();
     QStringList texts;
     for (int i = 0; i < m_layers.count(); ++i) {
-        if (m_isFiltered && !m_letThrough[static_cast<std::size_t>(i)])
+        if (m_filter.isOn && !m_filter.letThrough[static_cast<std::size_t>(i)])
             continue;
         m_rows.push_back(i);
         texts.append(rowText(i));
     }
-    m_list->clear();
-    m_list->addItems(texts);
+    m_list->setTexts(texts);
     updateTitle();
 }
 
@@ -219,15 +223,9 @@ void VnQtLayWalkDlg::fillAndSelectVisible()
 void VnQtLayWalkDlg::updateTitle()
 {
     const int all = m_layers.count();
-    setWindowTitle(m_isFiltered
+    setWindowTitle(m_filter.isOn
                        ? vnutOdStringToQString(filteredTitle(static_cast<int>(m_rows.size()), all))
                        : tr("图层漫游 - 图层数: %1").arg(all));
-}
-
-void VnQtLayWalkDlg::updateStars()
-{
-    for (std::size_t row = 0; row < m_rows.size(); ++row)
-        m_list->item(static_cast<int>(row))->setText(rowText(m_rows[row]));
 }
 
 WalkLayers::Choice VnQtLayWalkDlg::recordsOf(const Rows& rows) const
@@ -255,11 +253,12 @@ void VnQtLayWalkDlg::slot_LayerListItemClicked(QListWidgetItem*)
 {
     if (!m_list->hasSelection() || !m_layers.tree()) {
         m_purge->setEnabled(false);
+        settle();
         return;
     }
     const OdString oldCurrent = m_layers.currentName();
     m_layers.showOnly(selectedRecords());
-    apply(oldCurrent);
+    walk(oldCurrent);
 }
 
 void VnQtLayWalkDlg::slot_LayerListItemDoubleClicked(QListWidgetItem* item)
@@ -275,16 +274,13 @@ QString VnQtLayWalkDlg::pattern() const
     return m_filters->currentText();
 }
 
+/// A filter that is on stays so while another pattern is being typed.
 void VnQtLayWalkDlg::slot_FilterComboBoxTextChanged(const QString& text)
 {
     m_filterBox->setEnabled(!text.isEmpty());
-    if (!text.isEmpty() || !m_filterBox->isChecked())
-        return;
-    m_filterBox->setChecked(false); // Without a pattern there is no filter that could be on.
-    applyFilter();
 }
 
-/// Choosing or entering a pattern turns the filter on.
+/// Choosing or entering a pattern turns the filter on; without a pattern there is none.
 void VnQtLayWalkDlg::slot_FilterComboBoxReturnPressed()
 {
     m_filterBox->setChecked(!pattern().isEmpty());
@@ -303,16 +299,17 @@ void VnQtLayWalkDlg::slot_FilterCheckBtnClicked()
 
 void VnQtLayWalkDlg::applyFilter()
 {
-    m_isFiltered = m_filterBox->isChecked() && !pattern().isEmpty();
-    if (!m_isFiltered) {
+    m_filter.isOn = m_filterBox->isChecked();
+    m_list->setTexts({}); // Other rows come: no place in the list is worth keeping.
+    if (!m_filter.isOn) {
         fillAndSelectVisible();
         apply();
         return;
     }
-    m_filtered = pattern();
-    m_letThrough = m_layers.matching(vnutQStringToOdString(m_filtered));
+    m_filter.pattern = pattern();
+    m_filter.letThrough = m_layers.matching(vnutQStringToOdString(m_filter.pattern));
     for (int i = 0; i < m_layers.count(); ++i)
-        m_layers.setOff(i, !m_letThrough[static_cast<std::size_t>(i)]);
+        m_layers.setOff(i, !m_filter.letThrough[static_cast<std::size_t>(i)]);
     fill();
     m_list->selectRows(Rows(m_rows.size(), true));
     apply();
@@ -365,7 +362,7 @@ void VnQtLayWalkDlg::resetFilter()
     m_filters->clearEditText();
     m_filterBox->setChecked(false);
     m_filterBox->setEnabled(false);
-    m_isFiltered = false;
+    m_filter = {};
 }
 
 } // namespace vnsi

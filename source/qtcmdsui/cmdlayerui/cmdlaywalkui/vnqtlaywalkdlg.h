@@ -68,6 +68,20 @@ private:
     struct ActionRow;
     static const ActionRow kActions[];
 
+    /// The filter used last. It is kept when it is turned off, as deleting it hides its layers.
+    struct Filter
+    {
+        bool isOn = false;
+        QString pattern;
+        WalkLayers::Choice letThrough;
+    };
+    /// What the list is put back to when a request fails.
+    struct View
+    {
+        Filter filter;
+        WalkLayers::Choice selected;
+    };
+
     void makeActions();
     QLayout* makeFilterRow();
     QLayout* makeButtonRow();
@@ -78,7 +92,6 @@ private:
     void fillAndSelectVisible();
     void updateTitle();
     QString rowText(int index) const;
-    void updateStars();
     void pinSelected(bool pinned);
     WalkLayers::Choice recordsOf(const std::vector<bool>& rows) const;
     std::vector<bool> rowsOf(const WalkLayers::Choice& records) const;
@@ -89,21 +102,24 @@ private:
     void applyFilter();
     void resetFilter();
 
-    bool ask(WalkRequest code, const VnJsonPtr& layers, const VnQtArgumentWriter& write = {});
-    void apply(const OdString& oldCurrent = {});
-    bool takeNewTree();
+    VnQtAnswer ask(WalkRequest code, const VnJsonPtr& layers, const VnQtArgumentWriter& write = {});
+    void walk(const OdString& oldCurrent = {});
+    bool apply(const OdString& oldCurrent = {});
+    void settle();
+    void goBack();
+    bool takeNewTree(const VnQtAnswer& answer, const LayerTreeMark& sent);
     void takeLayers(const VnJsonPtr& tree);
+    std::vector<OdString> namesToPurge() const;
     void restoreLayers();
     void loadSettings();
     void saveSettings() const;
 
     WalkLayers m_layers;
     VnJsonPtr m_kept;        ///< The layers as they were when the dialog opened.
-    VnJsonPtr m_given;       ///< The layer tree last taken from the command.
+    LayerTreeMark m_given;   ///< The layer tree last taken from the command.
     std::vector<int> m_rows; ///< The record of each row.
-    bool m_isFiltered = false;
-    QString m_filtered; ///< The pattern used last, and what it let through.
-    WalkLayers::Choice m_letThrough;
+    Filter m_filter;
+    View m_before; ///< As the command last knew it.
 
     VnQtLayWalkListWgt* m_list = nullptr;
     QComboBox* m_filters = nullptr;

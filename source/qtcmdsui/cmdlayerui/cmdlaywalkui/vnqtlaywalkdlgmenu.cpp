@@ -2,12 +2,11 @@
 #include "vnqtlaywalklistwgt.h"
 #include "vnstrings.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalBlocker>
-
-#include <algorithm>
 
 namespace vnsi {
 
@@ -15,22 +14,19 @@ namespace {
 
 using Rows = VnQtLayWalkListWgt::Rows;
 
-/// A pattern that only this name matches.
+/// A pattern that only this name matches: what means something there is escaped. The rest of what a
+/// bracket holds means nothing once the bracket does not open.
 QString literally(const QString& name)
 {
-    const QLatin1String kSigns("#@.*?~[]-,`");
+    const QString signs = QStringLiteral("#@.*?[,`");
     QString pattern;
     for (const QChar c : name) {
-        if (QString(kSigns).contains(c))
+        const bool isNot = c == QLatin1Char('~') && pattern.isEmpty();
+        if (isNot || signs.contains(c))
             pattern += QLatin1Char('`');
         pattern += c;
     }
     return pattern;
-}
-
-bool holdsYes(const std::vector<bool>& choice)
-{
-    return std::find(choice.begin(), choice.end(), true) != choice.end();
 }
 
 } // namespace
@@ -95,7 +91,7 @@ void VnQtLayWalkDlg::updateActions()
     bool isMet[kNeedCount] = {};
     isMet[kSelection] = m_list->hasSelection();
     isMet[kStarInSelection] = isPinnedSelected;
-    isMet[kAnyStar] = holdsYes(pinned);
+    isMet[kAnyStar] = WalkLayers::holdsAny(pinned);
     isMet[kAnyRow] = !m_rows.empty();
     isMet[kNewPattern] = !pattern().isEmpty() && savedPattern() < 0;
     isMet[kSavedPattern] = savedPattern() >= 0;
@@ -117,7 +113,7 @@ void VnQtLayWalkDlg::pinSelected(bool pinned)
         if (selected[static_cast<std::size_t>(i)])
             m_layers.setPinned(i, pinned);
     }
-    updateStars();
+    fill();
     apply();
 }
 
@@ -139,8 +135,8 @@ void VnQtLayWalkDlg::slot_ReleaseSelAllActionTriggered()
         if (!selected[static_cast<std::size_t>(i)])
             m_layers.setOff(i, true);
     }
-    updateStars();
-    apply();
+    fill();
+    walk();
 }
 
 /// Turns every layer on, also those that a filter keeps out of the list.
@@ -149,7 +145,7 @@ void VnQtLayWalkDlg::slot_SelAllActionTriggered()
     m_list->selectRows(Rows(m_rows.size(), true));
     for (int i = 0; i < m_layers.count(); ++i)
         m_layers.setOff(i, false);
-    apply();
+    walk();
 }
 
 void VnQtLayWalkDlg::slot_ClearAllActionTriggered()
@@ -157,7 +153,7 @@ void VnQtLayWalkDlg::slot_ClearAllActionTriggered()
     m_list->selectRows(Rows(m_rows.size(), false));
     for (int i = 0; i < m_layers.count(); ++i)
         m_layers.setOff(i, true);
-    apply();
+    walk();
 }
 
 void VnQtLayWalkDlg::slot_ReverseSelALLActionTriggered()
@@ -167,7 +163,7 @@ void VnQtLayWalkDlg::slot_ReverseSelALLActionTriggered()
     m_list->selectRows(selected);
     for (std::size_t row = 0; row < selected.size(); ++row)
         m_layers.setOff(m_rows[row], !selected[row]);
-    apply();
+    walk();
 }
 
 /// Selects only: what is shown stays, so that looking for such layers does not empty the drawing.
@@ -175,6 +171,7 @@ void VnQtLayWalkDlg::slot_SelNotReferencedActionTriggered()
 {
     m_list->selectRows(rowsOf(m_layers.choiceOf(&WalkLayers::isUnused)));
     m_purge->setEnabled(m_list->hasSelection());
+    settle();
 }
 
 void VnQtLayWalkDlg::slot_CopyasfilterActionTriggered()
@@ -202,23 +199,24 @@ void VnQtLayWalkDlg::slot_SavefilterActionTriggered()
 
 void VnQtLayWalkDlg::slot_DelfilterActionTriggered()
 {
-    const int entry = savedPattern();
-    if (entry < 0)
+    if (savedPattern() < 0)
         return;
-    const bool wasUsed = pattern() == m_filtered;
+    // What it shows goes; one that was never on, or not since the last walk, shows nothing.
+    const bool isUsed = pattern() == m_filter.pattern;
+    for (int i = 0; isUsed && i < m_layers.count(); ++i) {
+        if (m_filter.letThrough[static_cast<std::size_t>(i)])
+            m_layers.turnOff(i);
+    }
+    m_filter = {};
+    m_filterBox->setChecked(false);
+    fillAndSelectVisible();
+    if (!apply())
+        return;
     {
         const QSignalBlocker quiet(m_filters);
-        m_filters->removeItem(entry);
+        m_filters->removeItem(savedPattern());
     }
     resetFilter();
-    // What it had let through goes; a filter that was never on let nothing through.
-    for (int i = 0; wasUsed && i < m_layers.count(); ++i) {
-        if (m_letThrough[static_cast<std::size_t>(i)])
-            m_layers.setOff(i, true);
-    }
-    m_filtered.clear();
-    fillAndSelectVisible();
-    apply();
 }
 
 } // namespace vnsi

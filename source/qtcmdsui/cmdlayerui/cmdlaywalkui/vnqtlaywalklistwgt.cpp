@@ -3,7 +3,9 @@
 #include "layernamedelegate.h"
 
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 
+#include <algorithm>
 #include <utility>
 
 namespace vnsi {
@@ -14,6 +16,18 @@ VnQtLayWalkListWgt::VnQtLayWalkListWgt(QWidget* parent) : QListWidget(parent)
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, &QListWidget::itemClicked, this, [this] { m_isEdited = false; });
+}
+
+void VnQtLayWalkListWgt::setTexts(const QStringList& texts)
+{
+    const QScopedValueRollback<bool> notByUser(m_isEdited);
+    const int kept = std::min(count(), texts.size());
+    model()->removeRows(kept, count() - kept);
+    for (int row = 0; row < kept; ++row) {
+        if (item(row)->text() != texts[row])
+            item(row)->setText(texts[row]);
+    }
+    addItems(texts.mid(kept));
 }
 
 VnQtLayWalkListWgt::Rows VnQtLayWalkListWgt::selectedRows() const
@@ -29,6 +43,7 @@ VnQtLayWalkListWgt::Rows VnQtLayWalkListWgt::selectedRows() const
 
 void VnQtLayWalkListWgt::selectRows(const Rows& rows)
 {
+    const QScopedValueRollback<bool> notByUser(m_isEdited);
     QItemSelection selection;
     const auto index = [this](std::size_t row) { return model()->index(static_cast<int>(row), 0); };
     for (std::size_t row = 0; row < rows.size(); ++row) {
@@ -65,6 +80,12 @@ void VnQtLayWalkListWgt::mouseReleaseEvent(QMouseEvent* event)
         return;
     QListWidget::mouseReleaseEvent(event);
     tellIfEdited();
+}
+
+void VnQtLayWalkListWgt::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::RightButton)
+        QListWidget::mouseDoubleClickEvent(event);
 }
 
 void VnQtLayWalkListWgt::selectionChanged(

@@ -18,6 +18,9 @@ public:
 
     explicit VnQtLayWalkListWgt(QWidget* parent);
 
+    /// Shows these texts, a row each. A row that stays keeps its item: the second press of a double
+    /// click counts only on the item that the first one met.
+    void setTexts(const QStringList& texts);
     Rows selectedRows() const;
     bool hasSelection() const { return selectionModel()->hasSelection(); }
     /// Selects exactly these rows; the current one stays current.
@@ -32,13 +35,14 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void selectionChanged(
         const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
     void tellIfEdited();
 
-    bool m_isEdited = false;
+    bool m_isEdited = false; ///< Selected otherwise by the user since the last key or press.
 };
 
 } // namespace vnsi

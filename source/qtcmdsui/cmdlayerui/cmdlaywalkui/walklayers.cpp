@@ -1,21 +1,37 @@
 #include "walklayers.h"
 
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
 #include "vnstrings.h"
 #include "walkkeys.h"
 
 #include <QSet>
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace vnsi {
 
+LayerTreeMark::LayerTreeMark(const VnJsonPtr& at)
+    : tree(at),
+      list(at ? at->GetDataJ(layerkey::kList) : VnJsonPtr()),
+      count(hostapi::count(list))
+{
+}
+
+bool WalkLayers::holdsAny(const Choice& choice)
+{
+    return std::find(choice.begin(), choice.end(), true) != choice.end();
+}
+
 void WalkLayers::take(const VnJsonPtr& layers)
 {
-    const bool isTree = layers && layers->kind() == IElementValueBase::Kind::Object;
-    m_tree = isTree ? ElementValue::clone(layers) : VnJsonPtr();
+    const bool isTree = hostapi::count(layers) == 0; // And no array.
+    m_tree = isTree ? hostapi::copyOf(layers) : VnJsonPtr();
     m_list = m_tree ? m_tree->GetDataJ(layerkey::kList) : VnJsonPtr();
     m_current = -1;
-    const int count = m_list.ArrayCount();
+    settle();
+    const int count = hostapi::count(m_list);
     m_names.assign(static_cast<std::size_t>(count), {});
     m_firstOfName.assign(static_cast<std::size_t>(count), 0);
     std::unordered_map<std::wstring, int> firsts;
@@ -43,7 +59,7 @@ bool WalkLayers::isPinned(int index) const
 bool WalkLayers::isVisible(int index) const
 {
     const LayerRecord layer = record(index);
-    return !layer.isOff() && !layer.flag(layerkey::kFrozen) && !layer.flag(layerkey::kVPortFrozen);
+    return !layer.isOff() && !layer.isFrozen() && !layer.flag(layerkey::kVPortFrozen);
 }
 
 WalkLayers::Choice WalkLayers::choiceOf(bool (WalkLayers::*question)(int index) const) const
@@ -58,7 +74,7 @@ WalkLayers::Choice WalkLayers::matching(const OdString& pattern) const
 {
     Choice choice(m_firstOfName.size());
     for (int i = 0; i < count(); ++i)
-        choice[static_cast<std::size_t>(i)] = vnsiutWcMatchEx(name(i), pattern, true);
+        choice[static_cast<std::size_t>(i)] = hostapi::matchesWildcard(name(i), pattern);
     return choice;
 }
 
@@ -68,35 +84,47 @@ WalkLayers::Choice WalkLayers::named(const VnJsonPtr& names) const
         return vnutOdStringToQString(name).toCaseFolded();
     };
     QSet<QString> wanted;
-    for (int i = 0, count = names.ArrayCount(); i < count; ++i)
-        wanted.insert(key(names(i)->asSW()));
+    for (int i = 0, count = hostapi::count(names); i < count; ++i)
+        wanted.insert(key(hostapi::textAt(names, i)));
     Choice choice(m_firstOfName.size());
     for (int i = 0; i < count(); ++i)
         choice[static_cast<std::size_t>(i)] = wanted.contains(key(name(i)));
     return choice;
 }
 
-bool WalkLayers::mayBePurged(int index) const
+bool WalkLayers::mayBePurged(const OdString& name) const
 {
-    return index != m_current && name(index) != L"0" && name(index) != currentName();
+    return name != L"0" && name != currentName();
+}
+
+void WalkLayers::setFlag(int index, const char* key, bool value)
+{
+    LayerRecord layer = record(index);
+    m_changes.push_back({index, key, layer.flag(key)});
+    layer.setFlag(key, value);
 }
 
 void WalkLayers::setOff(int index, bool off)
 {
-    LayerRecord layer = record(index);
+    const LayerRecord layer = record(index);
     if (layer.isOff() == off || (off && layer.flag(walkkey::kAlwaysShow)))
         return;
-    layer.setFlag(layerkey::kOff, off);
-    layer.markModified();
+    setFlag(index, layerkey::kOff, off);
+    setFlag(index, layerkey::kModified, true);
+}
+
+void WalkLayers::turnOff(int index)
+{
+    setOff(index, true);
+    setFlag(index, layerkey::kModified, true);
 }
 
 void WalkLayers::setPinned(int index, bool pinned)
 {
-    LayerRecord layer = record(index);
-    if (layer.flag(walkkey::kAlwaysShow) == pinned)
+    if (isPinned(index) == pinned)
         return;
-    layer.setFlag(walkkey::kAlwaysShow, pinned);
-    layer.markModified();
+    setFlag(index, walkkey::kAlwaysShow, pinned);
+    setFlag(index, layerkey::kModified, true);
 }
 
 void WalkLayers::showOnly(const Choice& chosen)
@@ -123,9 +151,29 @@ bool WalkLayers::restoreCurrent()
 void WalkLayers::setCurrentShown(bool shown)
 {
     LayerRecord layer = record(m_current);
+    if (!m_statusBefore)
+        m_statusBefore = layer.status();
     layer.setStatus(shown ? kLayerCurrent : kLayerOrdinary);
-    layer.setFlag(layerkey::kSelected, shown);
-    layer.markModified();
+    setFlag(m_current, layerkey::kSelected, shown);
+    setFlag(m_current, layerkey::kModified, true);
+}
+
+void WalkLayers::settle()
+{
+    m_changes.clear();
+    m_statusBefore.reset();
+}
+
+void WalkLayers::takeBack()
+{
+    std::for_each(m_changes.rbegin(), m_changes.rend(), [this](const FlagChange& change) {
+        record(change.index).setFlag(change.key, change.before);
+    });
+    if (m_statusBefore)
+        record(m_current).setStatus(*m_statusBefore);
+    if (m_tree)
+        m_tree->SetDataJ(layerkey::kList, m_list); // The command may have put another one there.
+    settle();
 }
 
 } // namespace vnsi

@@ -1,6 +1,7 @@
 #include "walksettings.h"
 
-#include "vnsettings.h"
+#include "hostapi/hostcalls.h"
+#include "hostapi/hosttree.h"
 #include "vnstrings.h"
 
 namespace vnsi::walksettings {
@@ -18,13 +19,14 @@ constexpr int kNeverChosen = -1;
 Settings load()
 {
     Settings settings;
-    const VnJsonPtr section = vn_user_config(kSection);
+    const VnJsonPtr section = hostapi::userConfig(kSection);
     const int state = section->GetDataI(kRestores, kNeverChosen);
     if (state != kNeverChosen)
         settings.restores = state != Qt::Unchecked;
     const VnJsonPtr list = section->GetDataJ(kFilters);
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        const QString filter = vnutOdStringToQString(list(i)->GetDataSW(kItem));
+    for (int i = 0, count = hostapi::count(list); i < count; ++i) {
+        const VnJsonPtr entry = hostapi::item(list, i);
+        const QString filter = entry ? vnutOdStringToQString(entry->GetDataSW(kItem)) : QString();
         if (!filter.isEmpty())
             settings.filters.append(filter);
     }
@@ -33,13 +35,13 @@ Settings load()
 
 void save(const Settings& settings)
 {
-    const VnJsonPtr section = vn_user_config(kSection);
+    const VnJsonPtr section = hostapi::userConfig(kSection);
     section->SetDataI(kRestores, settings.restores.value_or(false) ? Qt::Checked : Qt::Unchecked);
-    const VnJsonPtr list = ElementValue::createArray(settings.filters.size());
+    const VnJsonPtr list = hostapi::makeArray(settings.filters.size());
     for (const QString& filter : settings.filters) {
-        const VnJsonPtr entry = ElementValue::createObject(1);
+        const VnJsonPtr entry = hostapi::makeObject();
         entry->SetDataSW(kItem, vnutQStringToOdString(filter));
-        list->Append(entry);
+        hostapi::append(list, entry);
     }
     section->SetDataJ(kFilters, list);
 }
