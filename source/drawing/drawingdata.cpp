@@ -41,19 +41,13 @@ QStringList LeftOut::sentences() const
 
 TagReader DrawingData::allTags() const
 {
-    constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
-    const bool isMarked = bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark;
-    const size_t from = isMarked ? kByteOrderMark.size() : 0;
-    return TagReader(bytes.substr(from), static_cast<qint64>(from), spelling);
+    return TagReader(bytes.substr(firstTag), static_cast<qint64>(firstTag), spelling);
 }
 
 ByteRange DrawingData::valueRange(qint64 offset) const
 {
-    const char* const begin = bytes.data() + offset;
-    const char* end = findLineEnd(begin, bytes.data() + bytes.size());
-    if (end != begin && end[-1] == '\r')
-        --end;
-    return {offset, end - bytes.data()};
+    return {offset,
+        valueEnd(bytes.data() + offset, bytes.data() + bytes.size(), spelling) - bytes.data()};
 }
 
 void DrawingData::changeEntity(size_t entity, LayerId layer, bool removed)

@@ -100,6 +100,7 @@ struct DrawingData
 {
     std::string_view bytes; ///< The file as mapped.
     Spelling spelling = Spelling::Text;
+    size_t firstTag = 0; ///< What stands in front of it is no part of the drawing.
     DrawingIndex index;
     TextCodec codec;
     LayerRecordLimits limits;

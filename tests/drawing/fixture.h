@@ -177,12 +177,12 @@ protected:
         QCOMPARE(saved(drawing), after);
     }
 
-    /// A row with the path of every drawing that is at hand.
-    static void everyDrawing()
+    /// A row with the path of every drawing that is at hand, and of those in more folders.
+    static void everyDrawing(const QStringList& more = {})
     {
         QTest::addColumn<QString>("path");
-        for (const char* folder : {SAMPLES_DIR, SHARED_DRAWINGS_DIR}) {
-            for (const QFileInfo& file : QDir(QString::fromUtf8(folder)).entryInfoList({"*.dxf"}))
+        for (const QString& folder : QStringList{SAMPLES_DIR, SHARED_DRAWINGS_DIR} + more) {
+            for (const QFileInfo& file : QDir(folder).entryInfoList({"*.dxf"}))
                 QTest::newRow(qPrintable(file.fileName())) << file.filePath();
         }
     }

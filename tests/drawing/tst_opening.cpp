@@ -24,7 +24,6 @@ private slots:
         row("numbers", "0\n1\n2\n3\n", "不是 DXF", 1);
         row("zeros", QByteArray(5000, '\0'), "不是 DXF", 1);
         row("DWG", "AC1032\0\0\0\0", "DWG", 1);
-        row("binary DXF", "Program Binary DXF\r\n\x1a", "二进制", 1);
         row("cut in the entities", cut("  0\nVIEWPORT"), "ENTITIES", lines(cut("  0\nVIEWPORT")));
         row("cut within a line", cut("WPORT"), "ENTITIES", lines(cut("WPORT")));
         row("cut behind a code", cut("VIEWPORT"), "ENTITIES", lines(cut("VIEWPORT")));

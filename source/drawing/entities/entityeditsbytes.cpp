@@ -48,7 +48,7 @@ bool isOwn(const Tag& tag, const ByLayerGroups& groups)
         [&tag](const OwnGroup& known) { return known.code == tag.code; });
     if (group == std::end(kOwnGroups) || !(groups.*group->kind))
         return false;
-    const std::string_view value = tag.trimmed();
+    const QByteArray value = tag.printed();
     return !std::equal(value.begin(), value.end(), group->byLayer.begin(), group->byLayer.end(),
         [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
 }

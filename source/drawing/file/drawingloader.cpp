@@ -17,9 +17,18 @@ QString tr(const char* text)
     return QCoreApplication::translate("drawing", text);
 }
 
-qint64 lineOf(std::string_view bytes, qint64 offset)
+/// The line at an offset, from 1; 0 in files without lines.
+qint64 lineOf(const DrawingData& data, qint64 offset)
 {
-    return 1 + std::count(bytes.begin(), bytes.begin() + offset, '\n');
+    const char lineEnd = data.spelling == Spelling::OldText ? '\r' : '\n';
+    return isBinary(data.spelling)
+               ? 0
+               : 1 + std::count(data.bytes.begin(), data.bytes.begin() + offset, lineEnd);
+}
+
+QString placeText(qint64 line, qint64 offset)
+{
+    return line > 0 ? tr("第 %1 行").arg(line) : tr("第 %1 字节").arg(offset + 1);
 }
 
 QString shown(std::string_view text)
@@ -33,8 +42,10 @@ Error faultError(const DrawingData& data, const IndexFault& fault, const QString
 {
     Error error;
     // Of a line that is too long it is known where its group begins, a line above.
-    error.line = lineOf(data.bytes, fault.offset) + (fault.kind == IndexFaultKind::TooLong ? 1 : 0);
-    const QString line = QString::number(error.line);
+    error.line = lineOf(data, fault.offset);
+    if (error.line > 0 && fault.kind == IndexFaultKind::TooLong)
+        ++error.line;
+    const QString place = placeText(error.line, fault.offset);
     const QString section = shown(fault.section);
     switch (fault.kind) {
     case IndexFaultKind::Cancelled:
@@ -42,26 +53,29 @@ Error faultError(const DrawingData& data, const IndexFault& fault, const QString
         error.text = tr("已取消打开文件“%1”。").arg(fileName);
         break;
     case IndexFaultKind::NotTagged:
-        error.text = tr("文件“%1”不是 DXF 图形：它不以 SECTION 段开头（第 1 行）。").arg(fileName);
+        error.text =
+            tr("文件“%1”不是 DXF 图形：它不以 SECTION 段开头（%2）。").arg(fileName, place);
         break;
     case IndexFaultKind::BadCode:
-        error.text = tr("文件“%1”第 %2 行的组码“%3”不是数字。")
-                         .arg(fileName, line, shown(data.view(data.valueRange(fault.offset))));
+        error.text =
+            isBinary(data.spelling)
+                ? tr("文件“%1”%2的组码不存在。").arg(fileName, place)
+                : tr("文件“%1”%2的组码“%3”不是数字。")
+                      .arg(fileName, place, shown(data.view(data.valueRange(fault.offset))));
         break;
     case IndexFaultKind::TooLong:
-        error.text = tr("文件“%1”第 %2 行太长，超过 %3 MB，不能读取。")
-                         .arg(fileName, line)
+        error.text = tr("文件“%1”%2太长，超过 %3 MB，不能读取。")
+                         .arg(fileName, place)
                          .arg(kLongestLine >> 20);
         break;
     case IndexFaultKind::SectionNotEnded:
-        error.text =
-            tr("文件“%1”不完整：%3 段到第 %2 行仍没有 ENDSEC。").arg(fileName, line, section);
+        error.text = tr("文件“%1”不完整：%3 段到%2仍没有 ENDSEC。").arg(fileName, place, section);
         break;
     case IndexFaultKind::CutOff:
         error.text = section.isEmpty()
-                         ? tr("文件“%1”不完整：在第 %2 行中断，缺少 EOF。").arg(fileName, line)
-                         : tr("文件“%1”不完整：在第 %2 行、%3 段中中断，缺少 ENDSEC 和 EOF。")
-                               .arg(fileName, line, section);
+                         ? tr("文件“%1”不完整：在%2中断，缺少 EOF。").arg(fileName, place)
+                         : tr("文件“%1”不完整：在%2、%3 段中中断，缺少 ENDSEC 和 EOF。")
+                               .arg(fileName, place, section);
         break;
     }
     return error;
@@ -70,8 +84,6 @@ Error faultError(const DrawingData& data, const IndexFault& fault, const QString
 /// What is no tagged text at all is told apart by how it begins.
 Expected<void> checkFormat(std::string_view bytes, const QString& fileName)
 {
-    constexpr size_t kSentinelSize = 22;
-    constexpr std::string_view kSentinelEnd = " Binary DXF\r\n\x1a";
     const auto refusal = [&fileName](const char* text) {
         return tl::make_unexpected(Error{tr(text).arg(fileName), 1, false});
     };
@@ -79,8 +91,6 @@ Expected<void> checkFormat(std::string_view bytes, const QString& fileName)
         return refusal("文件“%1”是空的，不是 DXF 图形（第 1 行）。");
     if (bytes.substr(0, 4) == "AC10")
         return refusal("文件“%1”是 DWG 图形，不能读取；请先另存为 DXF（第 1 行）。");
-    if (bytes.substr(0, kSentinelSize).find(kSentinelEnd) != std::string_view::npos)
-        return refusal("文件“%1”是二进制 DXF，不能读取；请先另存为文本 DXF（第 1 行）。");
     return {};
 }
 
@@ -110,6 +120,7 @@ private:
         const std::string_view stated = variable(HeaderVariable::Version);
         return stated.empty() ? "AC1009" : stated;
     }
+    TextEvidence textEvidence() const;
     QString symbolName(const ByteRange& record) const;
     LayerId layerNamed(std::string_view spelling);
 
@@ -120,9 +131,9 @@ private:
 void Loader::loadHeader()
 {
     m_data.limits = LayerRecordLimits::of(version());
-    const std::string_view mode = variable(HeaderVariable::PlotStyleMode);
-    m_data.plotStylesByColor = mode != "0";
-    m_data.state.modelSpace = variable(HeaderVariable::TileMode) != "0";
+    m_data.plotStylesByColor =
+        m_data.index.variable(HeaderVariable::PlotStyleMode).printed() != "0";
+    m_data.state.modelSpace = m_data.index.variable(HeaderVariable::TileMode).printed() != "0";
 }
 
 /// The code page wanted, else the file's own; texts that are plainly UTF-8 are read so, whatever an
@@ -143,8 +154,7 @@ Expected<void> Loader::chooseCodec(const OpenOptions& options)
     if (m_data.codec == TextCodec::utf8())
         return {};
     const bool isKnown = TextCodec::ofCodePage(named).has_value();
-    TextEvidence evidence;
-    evidence.add(m_data.bytes);
+    const TextEvidence evidence = textEvidence();
     if (evidence.speaksForUtf8(m_data.codec))
         m_data.codec = TextCodec::utf8();
     else if (!isKnown && !isNoCodePage(named))
@@ -156,6 +166,20 @@ Expected<void> Loader::chooseCodec(const OpenOptions& options)
                                     "可以用其他代码页重新打开。")
                                      .arg(m_data.codec.title());
     return {};
+}
+
+TextEvidence Loader::textEvidence() const
+{
+    TextEvidence evidence;
+    if (!isBinary(m_data.spelling)) {
+        evidence.add(m_data.bytes);
+        return evidence;
+    }
+    TagReader tags = m_data.allTags();
+    Tag tag;
+    while (tags.next(tag))
+        evidence.add(tag.text());
+    return evidence;
 }
 
 QString Loader::symbolName(const ByteRange& record) const
@@ -306,6 +330,9 @@ Expected<void> loadDrawing(
 {
     if (auto known = checkFormat(data.bytes, fileName); !known)
         return known;
+    const FileForm form = FileForm::of(data.bytes);
+    data.spelling = form.spelling;
+    data.firstTag = form.begin;
     DrawingIndexer indexer(data.allTags(), progress);
     if (const auto fault = indexer.run(data.index))
         return tl::make_unexpected(faultError(data, *fault, fileName));
@@ -313,10 +340,12 @@ Expected<void> loadDrawing(
     loader.loadHeader();
     if (auto chosen = loader.chooseCodec(options); !chosen)
         return chosen;
+    if (isBinary(data.spelling))
+        data.codec.setControls(TextCodec::Controls::Raw);
     if (data.limits.markers && data.index.table(TableKind::Layer).isNull()) {
         const qint64 offset =
             data.index.tablesEnd < 0 ? data.index.firstBody : data.index.tablesEnd;
-        const qint64 line = lineOf(data.bytes, offset);
+        const qint64 line = lineOf(data, offset);
         return tl::make_unexpected(
             Error{tr("文件“%1”没有图层表（LAYER），到第 %2 行 TABLES 段已结束。")
                       .arg(fileName, QString::number(line)),

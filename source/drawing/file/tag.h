@@ -1,13 +1,21 @@
 #pragma once
 
-#include <QtGlobal>
+#include "valuekind.h"
+
+#include <QByteArray>
 
 #include <string_view>
 
 namespace drawing {
 
-/// How a file writes its groups down.
-enum class Spelling : quint8 { Text };
+/// How a file writes its groups down: as pairs of lines, in old files with a CR alone at their
+/// ends, or as bytes, with a group code of one byte in old files.
+enum class Spelling : quint8 { Text, OldText, Binary, OldBinary };
+
+constexpr bool isBinary(Spelling spelling)
+{
+    return spelling == Spelling::Binary || spelling == Spelling::OldBinary;
+}
 
 /// A range of file offsets; null when there is none.
 struct ByteRange
@@ -39,10 +47,17 @@ struct Tag
     double real() const;
     /// The value as a hexadecimal number; 0 where it is none.
     quint64 handle() const;
-    /// The value as text in the file's code page, blanks kept; empty for no group.
-    std::string_view text() const { return raw(); }
+    /// The value as text in the file's code page, blanks kept; empty for no group, and for a value
+    /// that a binary file holds as a number.
+    std::string_view text() const
+    {
+        const bool isText = !isBinary(spelling) || valueKind(code) == ValueKind::Text;
+        return isText ? raw() : std::string_view();
+    }
     /// The same without the blanks around it.
     std::string_view trimmed() const;
+    /// The same with numbers as text files have them.
+    QByteArray printed() const;
     /// The bytes of the value, as the file spells it.
     std::string_view raw() const { return {value, static_cast<size_t>(valueEnd - value)}; }
 

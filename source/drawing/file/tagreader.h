@@ -31,7 +31,7 @@ public:
     /// The same, with the reason. The reader stays where it is when nothing could be read.
     ScanResult read(Tag& tag)
     {
-        m_last = scanText(m_next, m_end, tag);
+        m_last = scanTag(m_next, m_end, m_spelling, tag);
         if (m_last != ScanResult::Tag)
             return m_last;
         tag.spelling = m_spelling;

@@ -15,28 +15,46 @@ constexpr std::ptrdiff_t kLongestLine = 1 << 24;
 
 enum class ScanResult { Tag, End, TooLong, CutOff, BadCode };
 
-/// The next LF from `p` on, or `end`.
-inline const char* findLineEnd(const char* p, const char* end)
+/// The next such byte from `p` on, or `end`.
+template <char wanted>
+const char* findByte(const char* p, const char* end)
 {
 #ifdef __SSE2__
     // Most lines are shorter than 16 bytes: one compare here beats the call of memchr.
-    const __m128i lineFeed = _mm_set1_epi8('\n');
+    const __m128i sought = _mm_set1_epi8(wanted);
     for (; end - p >= 16; p += 16) {
         const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-        const int hits = _mm_movemask_epi8(_mm_cmpeq_epi8(block, lineFeed));
+        const int hits = _mm_movemask_epi8(_mm_cmpeq_epi8(block, sought));
         if (hits != 0)
             return p + __builtin_ctz(static_cast<unsigned>(hits));
     }
 #endif
     if (p == end)
         return end;
-    const void* hit = std::memchr(p, '\n', static_cast<size_t>(end - p));
+    const void* hit = std::memchr(p, wanted, static_cast<size_t>(end - p));
     return hit ? static_cast<const char*>(hit) : end;
+}
+
+/// The end of the line at `p`, whose break may have a CR in front.
+template <char lineFeed>
+const char* lineValueEnd(const char* p, const char* lineEnd)
+{
+    return lineFeed == '\n' && lineEnd != p && lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
+}
+
+/// The end of the text value at `p`.
+inline const char* valueEnd(const char* p, const char* end, Spelling spelling)
+{
+    if (isBinary(spelling))
+        return findByte<'\0'>(p, end);
+    return spelling == Spelling::Text ? lineValueEnd<'\n'>(p, findByte<'\n'>(p, end))
+                                      : findByte<'\r'>(p, end);
 }
 
 /// Reads the pair of lines at `p`; `tag` is left alone unless there is one. A value line without a
 /// line end counts when it ends the bytes.
-inline ScanResult scanText(const char* p, const char* end, Tag& tag)
+template <char lineFeed>
+ScanResult scanText(const char* p, const char* end, Tag& tag)
 {
     constexpr int kMostDigits = 5;
     if (p == end)
@@ -55,23 +73,92 @@ inline ScanResult scanText(const char* p, const char* end, Tag& tag)
         code = code * 10 + digit;
     }
     const bool isNumber = p != digits;
-    while (p != end && (*p == '\r' || *p == ' ' || *p == '\t'))
+    while (p != end && ((*p == '\r' && lineFeed != '\r') || *p == ' ' || *p == '\t'))
         ++p;
     if (p == end)
         return ScanResult::CutOff;
-    if (!isNumber || *p != '\n')
+    if (!isNumber || *p != lineFeed)
         return ScanResult::BadCode;
     if (++p == end)
         return ScanResult::CutOff;
-    const char* const lineEnd = findLineEnd(p, end);
+    const char* const lineEnd = findByte<lineFeed>(p, end);
     if (lineEnd - p > kLongestLine)
         return ScanResult::TooLong;
     tag.code = negative ? -code : code;
     tag.first = first;
     tag.value = p;
-    tag.valueEnd = lineEnd != p && lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
+    tag.valueEnd = lineValueEnd<lineFeed>(p, lineEnd);
     tag.after = lineEnd == end ? end : lineEnd + 1;
     return ScanResult::Tag;
 }
+
+/// Reads the group of a binary file at `p`, with a code of one byte in old files; otherwise as
+/// `scanText`.
+template <bool isOld>
+ScanResult scanBinary(const char* p, const char* end, Tag& tag)
+{
+    constexpr uchar kLongCode = 255; // The code itself follows in two bytes.
+    if (p == end)
+        return ScanResult::End;
+    const char* const first = p;
+    int code = static_cast<uchar>(*p);
+    const bool isLong = !isOld || code == kLongCode;
+    p += isOld ? 1 : 0;
+    if (isLong) {
+        if (end - p < 2)
+            return ScanResult::CutOff;
+        code = static_cast<uchar>(p[0]) | static_cast<uchar>(p[1]) << 8;
+        p += 2;
+    }
+    const ValueKind kind = valueKind(code);
+    if (kind == ValueKind::Unknown)
+        return ScanResult::BadCode;
+    if (p == end)
+        return ScanResult::CutOff;
+    std::ptrdiff_t size = kValueSizes[static_cast<size_t>(kind)];
+    std::ptrdiff_t behind = 0;
+    if (kind == ValueKind::Text) {
+        size = findByte<'\0'>(p, end) - p;
+        behind = 1;
+    } else if (kind == ValueKind::Chunk) {
+        size = static_cast<uchar>(*p++);
+    }
+    if (size > kLongestLine)
+        return ScanResult::TooLong;
+    if (end - p < size + behind)
+        return ScanResult::CutOff;
+    tag.code = code;
+    tag.first = first;
+    tag.value = p;
+    tag.valueEnd = p + size;
+    tag.after = tag.valueEnd + behind;
+    return ScanResult::Tag;
+}
+
+/// Reads the group at `p` as the file spells it.
+inline ScanResult scanTag(const char* p, const char* end, Spelling spelling, Tag& tag)
+{
+    switch (spelling) {
+    case Spelling::Text:
+        return scanText<'\n'>(p, end, tag);
+    case Spelling::OldText:
+        return scanText<'\r'>(p, end, tag);
+    case Spelling::Binary:
+        return scanBinary<false>(p, end, tag);
+    case Spelling::OldBinary:
+        break;
+    }
+    return scanBinary<true>(p, end, tag);
+}
+
+/// How the groups of a file are written, and where the first one stands.
+struct FileForm
+{
+    Spelling spelling = Spelling::Text;
+    size_t begin = 0;
+
+    /// Passes over what may stand in front: a UTF-8 mark and blank lines.
+    static FileForm of(std::string_view bytes);
+};
 
 } // namespace drawing

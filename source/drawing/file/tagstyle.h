@@ -24,6 +24,9 @@ struct TagStyle
     QByteArray handle(int code, quint64 value) const;
     /// The bytes of the value alone.
     QByteArray value(int code, const QByteArray& text) const;
+
+private:
+    QByteArray binaryCode(int code) const;
 };
 
 /// The bytes of a value that takes the place of the tag's, in the width of what was there.

@@ -51,6 +51,12 @@ void visitOwnTags(TagReader tags, Visit visit)
     }
 }
 
+QString printedText(const DrawingData& data, const Tag& tag)
+{
+    const QByteArray printed = tag.printed();
+    return data.codec.decode({printed.constData(), static_cast<size_t>(printed.size())});
+}
+
 LinetypeStyle readStyle(const DrawingData& data, const ByteRange& record)
 {
     LinetypeStyle style;
@@ -61,7 +67,7 @@ LinetypeStyle readStyle(const DrawingData& data, const ByteRange& record)
             style.tags.push_back(
                 {kFlags, QString::number(tag.integer() & (kShapeFile | kVertical))});
         else if (isOneOf(kStyleGroups, tag.code))
-            style.tags.push_back({tag.code, data.codec.decode(tag.trimmed())});
+            style.tags.push_back({tag.code, printedText(data, tag)});
     });
     return style;
 }
@@ -156,7 +162,7 @@ LinetypePointer LinetypeTable::read(const LinetypeEntry& entry) const
     definition->name = entry.name;
     QHash<quint64, int> styleAt;
     visitOwnTags(m_data.tags(entry.record), [&](const Tag& tag) {
-        QString value = m_data.codec.decode(tag.trimmed());
+        QString value = printedText(m_data, tag);
         if (tag.code == kStyle) {
             const quint64 handle = tag.handle();
             const ByteRange record = styles().records.value(handle);
