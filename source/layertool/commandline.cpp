@@ -9,7 +9,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <limits>
 
 namespace layertool {
 
@@ -56,32 +55,41 @@ QString nearest(const QString& word)
 }
 
 /// A verb as the library knows it, with the places its values come to.
-struct VerbApp
+class VerbLine
 {
-    const VerbRow* row = nullptr;
-    CLI::App* app = nullptr;
-    std::vector<OptionRow> options;
-    std::vector<CLI::Option*> known;
-    std::vector<std::string> paths;
+public:
+    explicit VerbLine(const VerbRow& row);
+
+    /// Refuses what the library refuses.
+    tl::expected<void, EarlyExit> parse(const QStringList& words);
+    tl::expected<Arguments, EarlyExit> arguments() const;
+
+private:
+    QString firstUnknown(const QStringList& words) const;
+    tl::expected<QStringList, EarlyExit> valuesOf(size_t option) const;
+
+    const VerbRow& m_row;
+    CLI::App m_app;
+    std::vector<OptionRow> m_options;
+    std::vector<CLI::Option*> m_known;
+    std::vector<std::string> m_paths;
 };
 
-void addVerb(CLI::App& program, VerbApp& verb)
+VerbLine::VerbLine(const VerbRow& row) : m_row(row), m_options(optionsOf(row))
 {
-    verb.app = program.add_subcommand(verb.row->name);
-    verb.app->set_help_flag();
-    verb.app->allow_extras(false);
-    for (const OptionRow& row : verb.options) {
-        const std::string name = std::string("--") + row.name;
-        if (row.kind == OptionKind::Flag)
-            verb.known.push_back(verb.app->add_flag(name));
+    m_app.set_help_flag();
+    for (const OptionRow& option : m_options) {
+        const std::string name = std::string("--") + option.name;
+        if (option.kind == OptionKind::Flag)
+            m_known.push_back(m_app.add_flag(name));
         else // One value each, or the option would swallow the drawings behind it.
-            verb.known.push_back(verb.app->add_option(name)
-                                     ->expected(1)
-                                     ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-                                     ->allow_extra_args(false)
-                                     ->type_size(1));
+            m_known.push_back(m_app.add_option(name)
+                                  ->expected(1)
+                                  ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+                                  ->allow_extra_args(false)
+                                  ->type_size(1));
     }
-    verb.app->add_option("paths", verb.paths);
+    m_app.add_option("paths", m_paths);
 }
 
 QString checkValue(const OptionRow& row, const QString& value)
@@ -100,39 +108,78 @@ QString checkValue(const OptionRow& row, const QString& value)
     return {};
 }
 
-tl::expected<Arguments, EarlyExit> argumentsOf(const VerbApp& verb)
+tl::expected<QStringList, EarlyExit> VerbLine::valuesOf(size_t option) const
+{
+    const OptionRow& row = m_options[option];
+    if (row.kind == OptionKind::Flag)
+        return QStringList{QStringLiteral("true")};
+    QStringList values;
+    for (const std::string& value : m_known[option]->results())
+        values += QString::fromLocal8Bit(value.c_str());
+    if (!row.several && values.size() > 1)
+        return tl::make_unexpected(
+            misuse(Texts::tr("--%1 给出了不止一次。").arg(QLatin1String(row.name))));
+    for (const QString& value : values) {
+        if (const QString refusal = checkValue(row, value); !refusal.isEmpty())
+            return tl::make_unexpected(misuse(refusal));
+    }
+    return values;
+}
+
+tl::expected<Arguments, EarlyExit> VerbLine::arguments() const
 {
     Arguments arguments;
-    arguments.verb = QLatin1String(verb.row->name);
-    for (size_t i = 0; i < verb.options.size(); ++i) {
-        const OptionRow& row = verb.options[i];
-        if (verb.known[i]->count() == 0)
+    arguments.verb = QLatin1String(m_row.name);
+    for (size_t i = 0; i < m_options.size(); ++i) {
+        if (m_known[i]->count() == 0)
             continue;
-        QStringList values;
-        for (const std::string& value : verb.known[i]->results())
-            values += QString::fromLocal8Bit(value.c_str());
-        if (row.kind == OptionKind::Flag)
-            values = QStringList{QStringLiteral("true")};
-        else if (!row.several && values.size() > 1)
-            return tl::make_unexpected(
-                misuse(Texts::tr("--%1 给出了不止一次。").arg(QLatin1String(row.name))));
-        for (const QString& value : values) {
-            if (const QString refusal = checkValue(row, value); !refusal.isEmpty())
-                return tl::make_unexpected(misuse(refusal));
-        }
-        arguments.set(QLatin1String(row.name), values);
+        const auto values = valuesOf(i);
+        if (!values)
+            return tl::make_unexpected(values.error());
+        arguments.set(QLatin1String(m_options[i].name), *values);
     }
-    for (const std::string& path : verb.paths)
+    for (const std::string& path : m_paths)
         arguments.paths += QString::fromLocal8Bit(path.c_str());
-    const QStringList actions = wordsOf(verb.row->actions);
-    if (!actions.isEmpty()) {
-        if (arguments.paths.isEmpty() || !actions.contains(arguments.paths.front()))
-            return tl::make_unexpected(
-                misuse(Texts::tr("%1 之后应为 %2 之一。")
-                           .arg(arguments.verb, actions.join(Texts::tr("、")))));
-        arguments.action = arguments.paths.takeFirst();
-    }
+    const QStringList actions = wordsOf(m_row.actions);
+    if (actions.isEmpty())
+        return arguments;
+    if (arguments.paths.isEmpty() || !actions.contains(arguments.paths.front()))
+        return tl::make_unexpected(misuse(
+            Texts::tr("%1 之后应为 %2 之一。").arg(arguments.verb, actions.join(Texts::tr("、")))));
+    arguments.action = arguments.paths.takeFirst();
     return arguments;
+}
+
+/// The library does not name the word it does not know.
+QString VerbLine::firstUnknown(const QStringList& words) const
+{
+    for (const QString& word : words) {
+        const QString name = word.mid(2).section(QLatin1Char('='), 0, 0);
+        const bool isKnown = std::any_of(m_options.begin(), m_options.end(),
+            [&name](const OptionRow& option) { return name == QLatin1String(option.name); });
+        if (word.startsWith(QLatin1Char('-')) && word != QLatin1String("-") && !isKnown)
+            return word;
+    }
+    return {};
+}
+
+tl::expected<void, EarlyExit> VerbLine::parse(const QStringList& words)
+{
+    std::vector<std::string> reversed; // The library takes them from the back.
+    for (auto word = words.rbegin(); word != words.rend(); ++word)
+        reversed.push_back(word->toLocal8Bit().toStdString());
+    try {
+        m_app.parse(reversed);
+        return {};
+    } catch (const CLI::ExtrasError&) {
+        return tl::make_unexpected(
+            misuse(Texts::tr("%1 没有名为“%2”的选项。")
+                       .arg(QLatin1String(m_row.name), firstUnknown(words))));
+    } catch (const CLI::ParseError& error) {
+        return tl::make_unexpected(
+            misuse(Texts::tr("%1 的选项有误：%2。")
+                       .arg(QLatin1String(m_row.name), QString::fromLocal8Bit(error.what()))));
+    }
 }
 
 QString optionHead(const OptionRow& row)
@@ -208,14 +255,6 @@ QString helpText(const VerbRow& verb)
 
 tl::expected<Arguments, EarlyExit> readCommandLine(const QStringList& arguments)
 {
-    CLI::App program;
-    program.set_help_flag();
-    std::vector<VerbApp> apps(verbs().size());
-    for (size_t i = 0; i < apps.size(); ++i) {
-        apps[i].row = &verbs()[i];
-        apps[i].options = optionsOf(*apps[i].row);
-        addVerb(program, apps[i]);
-    }
     const QString word = arguments.value(1);
     const VerbRow* const row = findVerb(word);
     if (!row) {
@@ -224,31 +263,10 @@ tl::expected<Arguments, EarlyExit> readCommandLine(const QStringList& arguments)
             misuse(near.isEmpty() ? Texts::tr("没有名为“%1”的命令。").arg(word)
                                   : Texts::tr("没有名为“%1”的命令；是不是 %2？").arg(word, near)));
     }
-    std::vector<std::string> words; // The library takes them from the back.
-    for (int i = arguments.size() - 1; i > 0; --i)
-        words.push_back(arguments.at(i).toLocal8Bit().toStdString());
-    try {
-        program.parse(words);
-    } catch (const CLI::ExtrasError&) {
-        const auto unknown =
-            std::find_if(arguments.begin() + 2, arguments.end(), [&](const QString& a) {
-                const auto all = optionsOf(*row);
-                return a.startsWith(QLatin1String("--")) && a.size() > 2 &&
-                       std::none_of(all.begin(), all.end(), [&a](const OptionRow& option) {
-                           return a.mid(2).section(QLatin1Char('='), 0, 0) ==
-                                  QLatin1String(option.name);
-                       });
-            });
-        return tl::make_unexpected(
-            misuse(Texts::tr("%1 没有名为“%2”的选项。")
-                       .arg(word, unknown == arguments.end() ? QString() : *unknown)));
-    } catch (const CLI::ParseError& error) {
-        return tl::make_unexpected(misuse(
-            Texts::tr("%1 的选项有误：%2。").arg(word, QString::fromLocal8Bit(error.what()))));
-    }
-    const auto used = std::find_if(
-        apps.begin(), apps.end(), [](const VerbApp& verb) { return verb.app->parsed(); });
-    return argumentsOf(*used);
+    VerbLine line(*row);
+    if (const auto parsed = line.parse(arguments.mid(2)); !parsed)
+        return tl::make_unexpected(parsed.error());
+    return line.arguments();
 }
 
 } // namespace layertool

@@ -3,9 +3,11 @@
 namespace layertool {
 
 drawing::Expected<std::unique_ptr<drawing::Drawing>> openDrawing(
-    const QString& path, const Arguments&, drawing::Progress& progress)
+    const QString& path, const Arguments& arguments, drawing::Progress& progress)
 {
-    return drawing::Drawing::open(path, &progress);
+    drawing::OpenOptions options;
+    options.codePage = arguments.value("encoding").toUtf8();
+    return drawing::Drawing::open(path, &progress, nullptr, options);
 }
 
 } // namespace layertool

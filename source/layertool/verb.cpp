@@ -24,6 +24,12 @@ Expected<void> Verb::write(
     return drawing.save(staged, &progress);
 }
 
+bool editsDrawings(const VerbRow& verb, const Arguments& arguments)
+{
+    const QStringList reading = QString::fromLatin1(verb.readingActions).split(QLatin1Char(' '));
+    return verb.edits && (arguments.action.isEmpty() || !reading.contains(arguments.action));
+}
+
 const VerbRow* findVerb(const QString& name)
 {
     const auto found = std::find_if(verbs().begin(), verbs().end(),

@@ -62,7 +62,8 @@ struct VerbRow
     const char* formats; ///< Words with blanks between them, the first one is the default.
     bool edits;          ///< Changes drawings: takes `editingOptions`, needs somewhere to write.
     std::unique_ptr<Verb> (*make)();
-    const char* actions = ""; ///< The words that may follow the verb; empty for most.
+    const char* actions = "";        ///< The words that may follow the verb; empty for most.
+    const char* readingActions = ""; ///< Those of `actions` that change nothing.
     Inputs inputs = Inputs::Drawings;
     /// Of commands that work on no drawings: does all there is to do and returns the exit code.
     int (*runAlone)(const Arguments& arguments) = nullptr;
@@ -70,6 +71,8 @@ struct VerbRow
 
 /// All verbs, in the order in which help shows them.
 const std::vector<VerbRow>& verbs();
+/// Whether the verb, with its action, changes drawings and needs somewhere to write.
+bool editsDrawings(const VerbRow& verb, const Arguments& arguments);
 /// Null for a name that none has.
 const VerbRow* findVerb(const QString& name);
 

@@ -12,6 +12,9 @@ const std::vector<VerbRow>& verbs()
         deleteVerb(),
         purgeVerb(),
         translateVerb(),
+        diffVerb(),
+        statesVerb(),
+        splitVerb(),
         reportVerb(),
     };
     return all;

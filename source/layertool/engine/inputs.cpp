@@ -143,8 +143,17 @@ Expected<void> Planner::addPairs(const QStringList& paths)
     }
     names.sort();
     names.removeDuplicates();
-    for (const QString& name : names)
-        add(QDir(a).filePath(name), QDir(b).filePath(name));
+    for (const QString& name : names) {
+        const QString first = QDir(a).filePath(name);
+        const QString second = QDir(b).filePath(name);
+        const bool inFirst = QFile::exists(first);
+        const bool inBoth = inFirst && QFile::exists(second);
+        add(inFirst ? first : second, inBoth ? second : QString());
+        m_plan.jobs.back().isAlone = !inBoth;
+        m_plan.jobs.back().isSecond = !inFirst;
+    }
+    if (names.isEmpty())
+        return refuse(Texts::tr("“%1”与“%2”中没有 DXF 图形。").arg(a, b));
     return {};
 }
 
@@ -162,7 +171,7 @@ void Planner::add(const QString& path, const QString& other)
     if (!other.isEmpty())
         job.other = QDir::cleanPath(QFileInfo(other).absoluteFilePath());
     job.name = nameOf(path);
-    const bool writes = m_verb.edits && !m_arguments.isSet("dry-run");
+    const bool writes = editsDrawings(m_verb, m_arguments) && !m_arguments.isSet("dry-run");
     if (writes && m_arguments.isSet("in-place"))
         job.output = job.input;
     else if (writes)

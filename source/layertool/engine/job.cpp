@@ -49,7 +49,6 @@ constexpr struct
 } kResultStamps[] = {
     {"inputStamp", &Result::inputStamp},
     {"otherStamp", &Result::otherStamp},
-    {"outputStamp", &Result::outputStamp},
 };
 
 constexpr const char* kStatusWords[] = {"done", "skipped", "failed", "cancelled"};
@@ -79,7 +78,8 @@ QString statusWord(Result::Status status)
 QByteArray Job::toLine() const
 {
     QJsonObject json{{QStringLiteral("number"), number}, {QStringLiteral("backup"), keepsBackup},
-        {QStringLiteral("proven"), isProven}};
+        {QStringLiteral("proven"), isProven}, {QStringLiteral("alone"), isAlone},
+        {QStringLiteral("second"), isSecond}};
     for (const auto& field : kJobTexts)
         json.insert(QLatin1String(field.key), this->*field.member);
     return lineOf(json);
@@ -91,6 +91,8 @@ Job Job::fromLine(const QByteArray& line)
     Job job;
     job.number = json.value(QLatin1String("number")).toInt();
     job.keepsBackup = json.value(QLatin1String("backup")).toBool();
+    job.isAlone = json.value(QLatin1String("alone")).toBool();
+    job.isSecond = json.value(QLatin1String("second")).toBool();
     job.isProven = json.value(QLatin1String("proven")).toBool();
     for (const auto& field : kJobTexts)
         job.*field.member = json.value(QLatin1String(field.key)).toString();
@@ -131,6 +133,14 @@ QJsonObject Result::toJson() const
         if (!(this->*field.member).isNull())
             json.insert(QLatin1String(field.key), stampJson(this->*field.member));
     }
+    QJsonArray files;
+    for (const WrittenFile& file : written) {
+        QJsonObject stamp = stampJson(file.stamp);
+        stamp.insert(QStringLiteral("path"), file.path);
+        files.append(stamp);
+    }
+    if (!files.isEmpty())
+        json.insert(QStringLiteral("written"), files);
     return json;
 }
 
@@ -149,6 +159,9 @@ Result Result::fromJson(const QJsonObject& json)
         result.*field.member = json.value(QLatin1String(field.key)).toBool();
     for (const auto& field : kResultStamps)
         result.*field.member = stampFrom(json.value(QLatin1String(field.key)).toObject());
+    for (const QJsonValue& file : json.value(QLatin1String("written")).toArray())
+        result.written.push_back(
+            {file.toObject().value(QLatin1String("path")).toString(), stampFrom(file.toObject())});
     return result;
 }
 

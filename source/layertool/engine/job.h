@@ -16,7 +16,9 @@ struct Job
 {
     int number = 0; ///< Its place among all jobs, from 0.
     QString input;
-    QString other;   ///< The drawing it is held against, of verbs that take two.
+    QString other;        ///< The drawing it is held against, of verbs that take two.
+    bool isAlone = false; ///< Only one of two folders has it: the first one, or the second.
+    bool isSecond = false;
     QString name;    ///< What outputs and reports call it: its path below the root.
     QString output;  ///< Empty where nothing is written.
     QString staging; ///< A folder on the output's file system for what is not whole yet.
@@ -25,6 +27,13 @@ struct Job
 
     QByteArray toLine() const;
     static Job fromLine(const QByteArray& line);
+};
+
+/// A file that a verb wrote, as it was when it was put into its place.
+struct WrittenFile
+{
+    QString path;
+    FileStamp stamp;
 };
 
 /// A file that is whole and waits to be put into its place.
@@ -55,7 +64,7 @@ struct Result
     double seconds = 0;
     FileStamp inputStamp; ///< Of the drawing as it was read; null where no proof was asked for.
     FileStamp otherStamp;
-    FileStamp outputStamp;
+    std::vector<WrittenFile> written;    ///< What stands in its place now, with its proof.
     std::vector<StagedFile> staged = {}; ///< Not kept: moved by the worker.
 
     explicit Result(const Job& job = {})

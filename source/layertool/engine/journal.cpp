@@ -130,14 +130,16 @@ bool Journal::proves(const Job& job, const QByteArray& run) const
 {
     const JournalEntry* const entry = find(job.input);
     if (!entry || entry->result.status != Result::Status::Done || entry->run != run ||
-        entry->result.name != job.name || entry->result.output != job.output)
+        entry->result.name != job.name)
         return false;
     const auto isSame = [](const QString& path, const FileStamp& stamp) {
         return path.isEmpty() ? stamp.isNull() : stampOf(path) == stamp;
     };
     const Result& done = entry->result;
     return isSame(job.input, done.inputStamp) && isSame(job.other, done.otherStamp) &&
-           isSame(job.output, done.outputStamp);
+           (job.output.isEmpty() || !done.written.empty()) &&
+           std::all_of(done.written.begin(), done.written.end(),
+               [&isSame](const WrittenFile& file) { return isSame(file.path, file.stamp); });
 }
 
 drawing::Expected<void> Journal::append(const JournalEntry& entry)

@@ -112,7 +112,7 @@ private:
 
 Expected<void> Run::checkPlaces() const
 {
-    if (!m_row.edits)
+    if (!editsDrawings(m_row, m_arguments))
         return {};
     const bool hasOut = m_arguments.isSet("out");
     const bool isInPlace = m_arguments.isSet("in-place");

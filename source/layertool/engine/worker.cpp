@@ -104,8 +104,8 @@ void Worker::proveResult(const Job& job, Result& result) const
         result.fail(errorid::kChanged, Texts::tr("图形在处理期间被改动，请重做。"));
         return;
     }
-    if (!result.output.isEmpty())
-        result.outputStamp = stampOf(result.output);
+    for (WrittenFile& file : result.written)
+        file.stamp = stampOf(file.path);
 }
 
 void Worker::answer(const Job& job, Result& result)
@@ -127,6 +127,7 @@ void Worker::answer(const Job& job, Result& result)
     }
     drawing.commitStep();
     result.changed = drawing.canUndo();
+    result.notes("opening", drawing.openingNotices());
     result.notes("drawing", drawing.takeNotices());
     // In place, what did not change is left alone; elsewhere the tree of outputs is to be whole.
     const bool writes = !job.output.isEmpty() && (result.changed || job.output != job.input);
@@ -151,6 +152,7 @@ Expected<void> Worker::write(Drawing& drawing, const Job& job, Result& result)
         if (done && QFile::exists(file.from)) {
             QDir().mkpath(QFileInfo(file.to).path());
             done = moveInto(file);
+            result.written.push_back({file.to, {}});
         }
         QFile::remove(file.from);
     }

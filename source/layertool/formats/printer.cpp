@@ -119,7 +119,7 @@ public:
     void add(const Result& result) override
     {
         QJsonObject json = result.toJson();
-        for (const char* key : {"number", "inputStamp", "otherStamp", "outputStamp", "seconds"})
+        for (const char* key : {"number", "inputStamp", "otherStamp", "written", "seconds"})
             json.remove(QLatin1String(key));
         m_out.write(m_isFirst ? "\n" : ",\n");
         m_out.write(QJsonDocument(json).toJson(QJsonDocument::Compact));

@@ -12,6 +12,9 @@ VerbRow mergeVerb();
 VerbRow deleteVerb();
 VerbRow purgeVerb();
 VerbRow translateVerb();
+VerbRow diffVerb();
+VerbRow statesVerb();
+VerbRow splitVerb();
 VerbRow reportVerb();
 
 } // namespace layertool

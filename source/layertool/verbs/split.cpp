@@ -1,0 +1,212 @@
+#include "verbs.h"
+
+#include "drawings.h"
+#include "texts.h"
+
+#include <QDir>
+#include <QSet>
+
+#include <map>
+
+namespace layertool {
+
+namespace {
+
+using drawing::Drawing;
+using drawing::LayerId;
+
+constexpr OptionRow kOptions[] = {
+    {"by", OptionKind::Choice,
+        QT_TRANSLATE_NOOP(
+            "layertool", "layer：每个图层一个图形（默认）；field：图层名第一段相同的一个图形。"),
+        "layer field"},
+    {"separator", OptionKind::Text,
+        QT_TRANSLATE_NOOP("layertool", "图层名各段之间的分隔符；不给时为“-”。")},
+};
+
+constexpr int kMostFileNameBytes = 200; ///< Leaves room for a suffix and what temporary files add.
+
+/// A file name for a layer's: in old files a layer may be called "..", or hold a slash.
+QString safeFileName(const QString& layer)
+{
+    QString name;
+    for (const QChar c : layer) {
+        const bool isUnsafe =
+            c.unicode() < 32 || QStringLiteral("/\\:*?\"<>|").contains(c) || c.isSurrogate();
+        name += isUnsafe ? QLatin1Char('_') : c;
+    }
+    while (name.startsWith(QLatin1Char('.')))
+        name[0] = QLatin1Char('_');
+    while (name.endsWith(QLatin1Char('.')) || name.endsWith(QLatin1Char(' ')))
+        name.chop(1);
+    while (name.toUtf8().size() > kMostFileNameBytes)
+        name.chop(1);
+    return name.isEmpty() ? QStringLiteral("_") : name;
+}
+
+/// Makes of each drawing one for each layer, or for each first field of the layers' names.
+class SplitVerb : public Verb
+{
+public:
+    Expected<void> prepare(const Arguments& arguments) override;
+    Expected<void> run(Drawing& drawing, const Job& job, Result& result) override;
+    Expected<void> write(
+        Drawing& drawing, const Job& job, drawing::Progress& progress, Result& result) override;
+    std::vector<Column> columns() const override;
+
+private:
+    struct Part
+    {
+        QString name;     ///< Of the layer or field.
+        QString fileName; ///< Without its suffix.
+        int entities = 0;
+    };
+
+    QString groupOf(const QString& layer) const;
+    Expected<void> keepOnly(Drawing& drawing, const QString& part) const;
+
+    Arguments m_arguments;
+    bool m_byField = false;
+    QString m_separator;
+    std::vector<Part> m_parts; ///< Of the drawing at hand.
+};
+
+Expected<void> SplitVerb::prepare(const Arguments& arguments)
+{
+    m_arguments = arguments;
+    m_byField = arguments.value("by") == QLatin1String("field");
+    m_separator = arguments.value("separator", QStringLiteral("-"));
+    if (arguments.isSet("in-place"))
+        return tl::make_unexpected(Error{Texts::tr("split 写到 --out 所指的文件夹。")});
+    if (m_separator.isEmpty())
+        return tl::make_unexpected(Error{Texts::tr("--separator 不能为空。")});
+    return {};
+}
+
+std::vector<Column> SplitVerb::columns() const
+{
+    return {{"part", QT_TRANSLATE_NOOP("layertool", "部分")},
+        {"entities", QT_TRANSLATE_NOOP("layertool", "对象")},
+        {"file", QT_TRANSLATE_NOOP("layertool", "文件")}};
+}
+
+QString SplitVerb::groupOf(const QString& layer) const
+{
+    return m_byField ? layer.section(m_separator, 0, 0) : layer;
+}
+
+/// Entities in model space and layouts: what blocks hold goes where they are placed.
+bool isPlaced(const Drawing& drawing, const drawing::Entity& entity)
+{
+    return !entity.removed && !entity.subEntity &&
+           (entity.block < 0 || drawing.blocks()[static_cast<size_t>(entity.block)].layout);
+}
+
+Expected<void> SplitVerb::run(Drawing& drawing, const Job& job, Result& result)
+{
+    std::map<QString, int> counts; // By the group's name as first seen.
+    QHash<QString, QString> spelled;
+    for (const drawing::Entity& entity : drawing.entities()) {
+        const drawing::Layer* const layer = drawing.layer(entity.layer);
+        if (!layer || !isPlaced(drawing, entity))
+            continue;
+        const QString group = groupOf(layer->properties.name);
+        ++counts[*spelled.insert(group.toCaseFolded(), spelled.value(group.toCaseFolded(), group))];
+    }
+    m_parts.clear();
+    QSet<QString> taken;
+    for (const auto& [name, entities] : counts) {
+        const QString base = safeFileName(name);
+        QString fileName = base;
+        for (int number = 2; taken.contains(fileName.toCaseFolded()); ++number)
+            fileName = QStringLiteral("%1~%2").arg(base).arg(number);
+        taken.insert(fileName.toCaseFolded());
+        m_parts.push_back({name, fileName, entities});
+        result.data.append(
+            QJsonObject{{QStringLiteral("part"), name}, {QStringLiteral("entities"), entities},
+                {QStringLiteral("file"), QFileInfo(job.name).completeBaseName() + QLatin1Char('/') +
+                                             fileName + QStringLiteral(".dxf")}});
+    }
+    result.counts.insert(QStringLiteral("parts"), static_cast<int>(m_parts.size()));
+    return {};
+}
+
+/// Leaves, of what is placed, only what is on the part's layers, and of the layers those still
+/// needed. What goes is gathered on a layer of its own, as layers are what can be deleted whole.
+Expected<void> SplitVerb::keepOnly(Drawing& drawing, const QString& part) const
+{
+    std::vector<int> going;
+    LayerId kept = LayerId::None;
+    for (size_t i = 0; i < drawing.entities().size(); ++i) {
+        const drawing::Entity& entity = drawing.entities()[i];
+        const drawing::Layer* const layer = drawing.layer(entity.layer);
+        if (!layer || !isPlaced(drawing, entity))
+            continue;
+        if (groupOf(layer->properties.name).compare(part, Qt::CaseInsensitive) == 0)
+            kept = entity.layer;
+        else
+            going.push_back(static_cast<int>(i));
+    }
+    drawing::LayerProperties properties;
+    properties.name = QStringLiteral("SPLIT$OUT");
+    const auto bin = drawing.addLayer(properties);
+    if (!bin)
+        return tl::make_unexpected(bin.error());
+    if (const auto moved = drawing.moveEntities(going, *bin); !moved)
+        return tl::make_unexpected(moved.error());
+    if (const auto done = drawing.deleteLayers({*bin}); !done)
+        return done;
+    if (!drawing.layer(kept)->properties.frozen && !drawing.layer(kept)->dependsOnReference) {
+        if (const auto done = drawing.setCurrentLayer(kept); !done)
+            return done;
+    }
+    std::vector<LayerId> unused;
+    for (const drawing::Layer& layer : drawing.layers()) {
+        if (!layer.used() && layer.id != drawing.currentLayer() && !layer.dependsOnReference &&
+            layer.properties.name != QLatin1String("0") &&
+            !drawing::isNeverPlotted(layer.properties.name))
+            unused.push_back(layer.id);
+    }
+    return unused.empty() ? Expected<void>() : drawing.deleteLayers(unused);
+}
+
+/// Each part is made from the original anew, so that none carries traces of another.
+Expected<void> SplitVerb::write(
+    Drawing&, const Job& job, drawing::Progress& progress, Result& result)
+{
+    const QFileInfo output(job.output);
+    const QDir folder(output.dir().filePath(output.completeBaseName()));
+    result.output = folder.path();
+    for (size_t i = 0; i < m_parts.size(); ++i) {
+        auto opened = openDrawing(job.input, m_arguments, progress);
+        if (!opened)
+            return tl::make_unexpected(opened.error());
+        Drawing& drawing = **opened;
+        drawing.beginStep(m_parts[i].name);
+        const auto kept = keepOnly(drawing, m_parts[i].name);
+        if (!kept) {
+            drawing.rollbackStep();
+            return kept;
+        }
+        drawing.commitStep();
+        const QString staged =
+            QDir(job.staging).filePath(QStringLiteral("%1-%2.dxf").arg(job.number).arg(i));
+        result.staged.push_back(
+            {staged, folder.filePath(m_parts[i].fileName + QStringLiteral(".dxf"))});
+        if (const auto saved = drawing.save(staged, &progress); !saved)
+            return saved;
+    }
+    return {};
+}
+
+} // namespace
+
+VerbRow splitVerb()
+{
+    return {"split",
+        QT_TRANSLATE_NOOP(
+            "layertool", "拆分图形：每个图层（或图层名的第一段）成为一个完整的图形。"),
+        OptionRows::of(kOptions), "text csv json", true, makeVerb<SplitVerb>};
+}
+
+} // namespace layertool
