@@ -139,7 +139,7 @@ Expected<void> Planner::addPairs(const QStringList& paths)
     QStringList names;
     for (const QString& folder : {a, b}) {
         for (const QString& path : drawingsIn(folder, {}))
-            names += QDir(folder).relativeFilePath(path);
+            names += QDir(folder).relativeFilePath(QFileInfo(path).absoluteFilePath());
     }
     names.sort();
     names.removeDuplicates();
