@@ -367,6 +367,26 @@ int Drawing::countBlockReferences(const std::vector<LayerId>& layers) const
     return EntityEdits(d->data).countBlockReferences(layers);
 }
 
+QByteArray Drawing::version() const
+{
+    const std::string_view value = d->data.index.variable(HeaderVariable::Version).trimmed();
+    return QByteArray(value.data(), static_cast<int>(value.size()));
+}
+
+bool Drawing::isBinary() const
+{
+    return false;
+}
+
+ByteRange Drawing::recordRange(LayerId id) const
+{
+    if (!d->data.layers.isValid(id))
+        return {};
+    const LayerEntry& entry = d->data.layers.entry(id);
+    const bool isInFile = entry.hasRecord && entry.place.order == EditPlace::kReplacement;
+    return isInFile ? entry.range() : ByteRange();
+}
+
 QStringList Drawing::takeNotices()
 {
     QStringList notices = d->data.leftOut.sentences();

@@ -51,6 +51,12 @@ public:
     Expected<void> save(const QString& path, Progress* progress = nullptr);
 
     QString path() const;
+    /// The version the file says it has, such as "AC1009"; empty where it says none.
+    QByteArray version() const;
+    /// Whether the file holds binary groups, and has no lines.
+    bool isBinary() const;
+    /// Where a layer's record stands in the file read; null for layers that have none there.
+    ByteRange recordRange(LayerId id) const;
     /// What had to be guessed when the file was read, a sentence each.
     QStringList openingNotices() const;
     /// True when the drawing differs from what its file holds.

@@ -8,12 +8,17 @@
 #include <memory>
 #include <vector>
 
+class QIODevice;
+
 namespace drawing {
 class Drawing;
 struct Progress;
 } // namespace drawing
 
 namespace layertool {
+
+class Printer;
+struct Printing;
 
 using drawing::Error;
 using drawing::Expected;
@@ -45,6 +50,9 @@ public:
     /// The rows of `result.data` as a table for text and CSV.
     virtual std::vector<Column> columns() const = 0;
     virtual std::vector<QStringList> rows(const Result& result) const;
+    /// A printer of the verb's own for a format; null for those that every verb has.
+    virtual std::unique_ptr<Printer> printer(
+        const QString& format, const Printing& printing, QIODevice& out) const;
 };
 
 /// How a verb takes drawings.

@@ -6,6 +6,8 @@ const std::vector<VerbRow>& verbs()
 {
     static const std::vector<VerbRow> all{
         listVerb(),
+        checkVerb(),
+        fixVerb(),
         setVerb(),
         renameVerb(),
         mergeVerb(),

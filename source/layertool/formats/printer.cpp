@@ -137,12 +137,19 @@ private:
 std::unique_ptr<Printer> makePrinter(
     const QString& format, const Printing& printing, QIODevice& out)
 {
+    if (auto own = printing.verb.printer(format, printing, out))
+        return own;
     if (format == QLatin1String("text"))
         return std::make_unique<TextPrinter>(printing, out);
     if (format == QLatin1String("csv"))
         return std::make_unique<CsvPrinter>(printing, out);
     if (format == QLatin1String("json"))
         return std::make_unique<JsonPrinter>(printing, out);
+    return nullptr;
+}
+
+std::unique_ptr<Printer> Verb::printer(const QString&, const Printing&, QIODevice&) const
+{
     return nullptr;
 }
 

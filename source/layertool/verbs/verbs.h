@@ -6,6 +6,8 @@ namespace layertool {
 
 // Each verb tells of itself; `verbs` gathers them.
 VerbRow listVerb();
+VerbRow checkVerb();
+VerbRow fixVerb();
 VerbRow setVerb();
 VerbRow renameVerb();
 VerbRow mergeVerb();

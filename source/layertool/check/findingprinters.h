@@ -1,0 +1,12 @@
+#pragma once
+
+#include "formats/printer.h"
+
+namespace layertool {
+
+/// Printers for findings: "text" (drawing:layer: rule: sentence), "sarif" (SARIF 2.1.0, OASIS),
+/// "junit" (the XML that build servers read) and "baseline". Null for other formats.
+std::unique_ptr<Printer> makeFindingPrinter(
+    const QString& format, const Printing& printing, QIODevice& out);
+
+} // namespace layertool

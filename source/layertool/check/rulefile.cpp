@@ -1,0 +1,231 @@
+#include "rulefile.h"
+
+#include "layerfields.h"
+#include "namerule.h"
+#include "rules.h"
+#include "standardsfile.h"
+#include "texts.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace layertool {
+
+namespace {
+
+using drawing::Error;
+using drawing::Expected;
+
+constexpr const char* kLevelWords[] = {"off", "note", "warning", "error"};
+
+/// Reads one key of a rule file into the rules.
+struct KeyRow
+{
+    const char* key;
+    Expected<void> (*read)(const QJsonValue& value, LayerRules& rules);
+};
+
+tl::unexpected<Error> refuse(const QString& text)
+{
+    return tl::make_unexpected(Error{text});
+}
+
+Expected<void> readNothing(const QJsonValue&, LayerRules&)
+{
+    return {};
+}
+
+Expected<void> readName(const QJsonValue& value, LayerRules& rules)
+{
+    rules.name = value.toString();
+    return {};
+}
+
+template <NamePatterns LayerRules::*member>
+Expected<void> readPatterns(const QJsonValue& value, LayerRules& rules)
+{
+    for (const QJsonValue& pattern : value.toArray())
+        (rules.*member).add(pattern.toString());
+    return {};
+}
+
+Expected<void> readRequired(const QJsonValue& value, LayerRules& rules)
+{
+    for (const QJsonValue& pattern : value.toArray())
+        rules.required += pattern.toString();
+    return {};
+}
+
+Expected<void> readNaming(const QJsonValue& value, LayerRules& rules)
+{
+    auto scheme = NamingScheme::read(value.toObject());
+    if (!scheme)
+        return tl::make_unexpected(scheme.error());
+    rules.naming = std::move(*scheme);
+    return {};
+}
+
+Expected<void> readLayer(const QJsonObject& json, LayerRules& rules)
+{
+    StandardLayer layer;
+    layer.name = json.value(QLatin1String("name")).toString();
+    if (layer.name.isEmpty())
+        return refuse(Texts::tr("layers 中有一个图层没有 name。"));
+    for (const QString& key : json.keys()) {
+        if (key == QLatin1String("name"))
+            continue;
+        const auto& fields = layerFields();
+        const auto field = std::find_if(fields.begin(), fields.end(),
+            [&key](const LayerField& known) { return key == QLatin1String(known.id); });
+        if (field == fields.end())
+            return refuse(Texts::tr("图层“%1”没有名为“%2”的特性。").arg(layer.name, key));
+        // Written as the field itself writes it, so that values can be held against each other.
+        drawing::LayerProperties properties;
+        if (!field->set(properties, json.value(key).toVariant().toString()))
+            return refuse(Texts::tr("图层“%1”的 %2 不是可用的值：“%3”。")
+                              .arg(layer.name, key, json.value(key).toVariant().toString()));
+        layer.properties.insert(key, field->get(properties).toVariant().toString());
+    }
+    rules.layers.insert(vnsi::foldedName(layer.name), layer);
+    return {};
+}
+
+Expected<void> readLayers(const QJsonValue& value, LayerRules& rules)
+{
+    for (const QJsonValue& layer : value.toArray()) {
+        if (auto read = readLayer(layer.toObject(), rules); !read)
+            return read;
+    }
+    return {};
+}
+
+Expected<void> readRenames(const QJsonValue& value, LayerRules& rules)
+{
+    const QJsonObject json = value.toObject();
+    for (auto it = json.begin(); it != json.end(); ++it)
+        rules.renames.insert(vnsi::foldedName(it.key()), it.value().toString());
+    return {};
+}
+
+Expected<void> readLevels(const QJsonValue& value, LayerRules& rules)
+{
+    const QJsonObject json = value.toObject();
+    for (auto it = json.begin(); it != json.end(); ++it) {
+        if (!findRule(it.key()))
+            return refuse(Texts::tr("没有名为“%1”的规则。").arg(it.key()));
+        const auto level = levelOf(it.value().toString());
+        if (!level)
+            return refuse(
+                Texts::tr("规则“%1”的级别应为 off、note、warning 或 error。").arg(it.key()));
+        rules.levels.insert(it.key(), *level);
+    }
+    return {};
+}
+
+constexpr KeyRow kKeys[] = {
+    {"$schema", readNothing},
+    {"source", readNothing},
+    {"name", readName},
+    {"exempt", readPatterns<&LayerRules::exempt>},
+    {"required", readRequired},
+    {"allowed", readPatterns<&LayerRules::allowed>},
+    {"forbidden", readPatterns<&LayerRules::forbidden>},
+    {"naming", readNaming},
+    {"layers", readLayers},
+    {"renames", readRenames},
+    {"rules", readLevels},
+};
+
+Expected<void> readKeys(const QJsonObject& json, LayerRules& rules)
+{
+    for (auto it = json.begin(); it != json.end(); ++it) {
+        const auto row = std::find_if(std::begin(kKeys), std::end(kKeys),
+            [&it](const KeyRow& known) { return it.key() == QLatin1String(known.key); });
+        if (row == std::end(kKeys))
+            return refuse(Texts::tr("没有名为“%1”的键。").arg(it.key()));
+        if (auto read = row->read(it.value(), rules); !read)
+            return read;
+    }
+    return {};
+}
+
+} // namespace
+
+void NamePatterns::add(const QString& pattern)
+{
+    m_texts += pattern;
+    m_patterns.push_back(std::make_shared<wildcard::WildcardPattern>(pattern.toStdWString(), true));
+}
+
+bool NamePatterns::matches(const QString& name) const
+{
+    const std::wstring wide = name.toStdWString();
+    return std::any_of(m_patterns.begin(), m_patterns.end(),
+        [&wide](const auto& pattern) { return pattern->matches(wide); });
+}
+
+std::optional<Level> levelOf(const QString& word)
+{
+    for (const Level level : {Level::Off, Level::Note, Level::Warning, Level::Error}) {
+        if (word == QLatin1String(levelWord(level)))
+            return level;
+    }
+    return std::nullopt;
+}
+
+const char* levelWord(Level level)
+{
+    return kLevelWords[static_cast<size_t>(level)];
+}
+
+Expected<void> readStandardDrawing(const QString& path, LayerRules& rules)
+{
+    const auto standard = drawing::readStandard(path);
+    if (!standard)
+        return tl::make_unexpected(standard.error());
+    for (const drawing::TargetLayer& target : standard->layers) {
+        drawing::LayerProperties properties;
+        properties.colorIndex = target.colorIndex;
+        properties.trueColor = target.trueColor;
+        properties.linetype = target.linetype;
+        properties.lineweight = target.lineweight;
+        properties.transparency = target.transparency;
+        properties.plotted = target.plotted.value_or(true);
+        StandardLayer layer{target.name, {}, target};
+        for (const LayerField& field : layerFields()) {
+            const QString id = QLatin1String(field.id);
+            static const QStringList compared{QStringLiteral("color"), QStringLiteral("linetype"),
+                QStringLiteral("lineweight"), QStringLiteral("transparency"),
+                QStringLiteral("plotted")};
+            if (compared.contains(id) && (target.plotted || id != QLatin1String("plotted")))
+                layer.properties.insert(id, field.get(properties).toVariant().toString());
+        }
+        rules.layers.insert(vnsi::foldedName(target.name), layer);
+    }
+    for (const drawing::LayerMapping& mapping : standard->mappings)
+        rules.renames.insert(vnsi::foldedName(mapping.from), mapping.to.name);
+    return {};
+}
+
+Expected<void> readRuleFile(const QString& path, LayerRules& rules)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return refuse(Texts::tr("无法读取规则文件“%1”：%2。").arg(path, file.errorString()));
+    QJsonParseError fault;
+    const QByteArray bytes = file.readAll();
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &fault);
+    if (!document.isObject())
+        return refuse(Texts::tr("规则文件“%1”的第 %2 行不是 JSON：%3。")
+                          .arg(path)
+                          .arg(bytes.left(fault.offset).count('\n') + 1)
+                          .arg(fault.errorString()));
+    if (const auto read = readKeys(document.object(), rules); !read)
+        return refuse(Texts::tr("规则文件“%1”：%2").arg(path, read.error().text));
+    return {};
+}
+
+} // namespace layertool
