@@ -1,7 +1,10 @@
 #include "commandfixture.h"
+#include "commands/layerrenames.h"
+#include "rows.h"
 #include "vnmessages.h"
 
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTableWidget>
 
 namespace {
@@ -39,6 +42,7 @@ class LayerCommandTest : public CommandFixture
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QCoreApplication::setOrganizationName(QStringLiteral("layerbench")); }
     void init() { start({"Dialog/CmdLayer"}); }
     void cleanup() { stop(); }
 
@@ -88,24 +92,42 @@ private slots:
         QCOMPARE(savedBytes(), m_original);
     }
 
-    void namesMayChangePlaces()
+    void renames_data()
     {
-        const auto door = layer("A-DOOR")->id;
-        const auto wall = layer("A-WALL")->id;
-        const char* const names[] = {"swap", "A-DOOR", "A-WALL"};
-        for (const char* name : names)
-            m_host->answer(
-                1, QStringLiteral(R"({"Success":true,"NewName":"%1"})").arg(QLatin1String(name)));
-        run("layer", {[](QDialog& dialog) {
-            QTableWidget& layers = table(dialog);
-            doubleClick(layers, "A-DOOR", kName);
-            doubleClick(layers, "A-WALL", kName);
-            doubleClick(layers, "swap", kName);
-            press(dialog, "okButton");
-        }});
-        QCOMPARE(m_host->log().filter("message|"), QStringList());
-        QCOMPARE(layer("A-WALL")->id, door);
-        QCOMPARE(layer("A-DOOR")->id, wall);
+        // What is wanted, what layers of these old names are called then, how many are refused.
+        const Rows<QStringList, QStringList, int> row("wanted", "names", "refused");
+        row("chain", {"A-WALL>A-DOOR", "A-DOOR>x"}, {"A-DOOR", "x"}, 0);
+        row("chain the other way", {"A-DOOR>x", "A-WALL>A-DOOR"}, {"x", "A-DOOR"}, 0);
+        row("circle", {"A-WALL>A-DOOR", "A-DOOR>A-GLAZ", "A-GLAZ>a-wall"},
+            {"A-DOOR", "A-GLAZ", "a-wall"}, 0);
+        row("circle and one more", {"A-GLAZ>A-DOOR", "A-WALL>A-DOOR", "A-DOOR>A-WALL"},
+            {"A-GLAZ", "A-DOOR", "A-WALL"}, 1);
+        row("behind one refused", {"A-WALL>A-DOOR", "A-DOOR>a*b"}, {"A-WALL", "A-DOOR"}, 2);
+        row("circle of one refused", {"0>A-DOOR", "A-DOOR>0"}, {"0", "A-DOOR"}, 2);
+        row("circle that breaks later", {"A-DOOR>A-WALL", "A-WALL>0", "0>A-DOOR"},
+            {"A-DOOR", "A-WALL", "0"}, 3);
+    }
+
+    void renames()
+    {
+        QFETCH(QStringList, wanted);
+        QFETCH(QStringList, names);
+        QFETCH(int, refused);
+        std::vector<LayerRename> renames;
+        for (const QString& rename : wanted)
+            renames.push_back({layer(rename.section('>', 0, 0))->id, rename.section('>', 1)});
+        drawing().beginStep("rename");
+        const QStringList refusals = renameLayers(drawing(), renames);
+        drawing().commitStep();
+        QStringList found;
+        for (const LayerRename& rename : renames)
+            found += drawing().layer(rename.layer)->properties.name;
+        QCOMPARE(found, names);
+        QCOMPARE(refusals.size(), refused);
+        for (const QString& sentence : refusals) // Of names that somebody typed.
+            QVERIFY2(QRegularExpression("^图层“[^-]*(-[A-Z]+)?”没有").match(sentence).hasMatch(),
+                qPrintable(sentence));
+        QCOMPARE(savedBytes() == m_original, refused >= wanted.size());
     }
 
     void applyShowsWhileTheDialogIsOpen()
@@ -121,17 +143,48 @@ private slots:
         QVERIFY(drawing().canUndo());
     }
 
-    void refusedPropertyIsNamed()
+    void refusedValueLeavesTheOthers()
     {
+        const auto door = layer("A-DOOR")->id;
+        const auto wall = layer("A-WALL")->id;
+        const auto color = layer("A-DOOR")->properties.colorIndex;
         m_host->answer(1, R"({"clrMethod":195,"selectClr":300})");
+        m_host->answer(1, R"({"Success":true,"NewName":"X"})");
+        m_host->answer(1, R"({"Success":true,"NewName":"A-DOOR"})");
         run("layer", {[](QDialog& dialog) {
-            click(table(dialog), "A-DOOR", kColor);
+            QTableWidget& layers = table(dialog);
+            click(layers, "A-DOOR", kColor);
+            click(layers, "A-DOOR", kOff);
+            doubleClick(layers, "A-DOOR", kName);
+            doubleClick(layers, "A-WALL", kName);
+            layers.selectRow(rowOf(layers, "X"));
+            press(dialog, "newLayerButton"); // Like the layer whose colour cannot be had.
             press(dialog, "okButton");
         }});
+        QCOMPARE(drawing().layer(door)->properties.name, QStringLiteral("X"));
+        QCOMPARE(drawing().layer(wall)->properties.name, QStringLiteral("A-DOOR"));
+        QVERIFY(drawing().layer(door)->properties.off);
+        QCOMPARE(drawing().layer(door)->properties.colorIndex, color);
+        QVERIFY(layer("图层1") && layer("图层1")->properties.off);
         const QStringList messages = m_host->log().filter("message|");
         QCOMPARE(messages.size(), 1);
-        QVERIFY2(messages.first().contains("A-DOOR"), qPrintable(messages.first()));
-        QCOMPARE(savedBytes(), m_original);
+        QVERIFY2(
+            messages.first().contains("2 项") && messages.first().contains("“X”：没有颜色索引 300"),
+            qPrintable(messages.first()));
+    }
+
+    void keepsColumnWidths()
+    {
+        run("layer", {[](QDialog& dialog) {
+            table(dialog).setColumnWidth(kName, 234);
+            table(dialog).selectRow(1);
+            press(dialog, "setCurrentButton"); // Tells the widths.
+            press(dialog, "okButton");
+        }});
+        run("layer", {[](QDialog& dialog) {
+            QCOMPARE(table(dialog).columnWidth(kName), 234);
+            press(dialog, "okButton");
+        }});
     }
 
 private:

@@ -2,17 +2,19 @@
 
 #include "commandinvoker.h"
 #include "drawing.h"
-#include "layerkeys.h"
+#include "layerchanges.h"
+#include "layermarks.h"
 #include "layerrecords.h"
+#include "namerule.h"
 #include "posing.h"
-#include "vnmessages.h"
-#include "vnproduct.h"
-#include "vnstrings.h"
 
 #include <QCoreApplication>
 #include <QSet>
-#include <QUuid>
+#include <QSettings>
 
+using layerrecords::Provider;
+using vnsi::LayerRecord;
+using vnsi::LayerRecordList;
 using vnsi::VnJsonPtr;
 
 namespace {
@@ -21,71 +23,49 @@ namespace key = vnsi::layerkey;
 
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLayer";
-constexpr int kMostRefusalsShown = 10;
+constexpr char kWidthsSetting[] = "layerColumnWidths";
 
 QString tr(const char* text)
 {
     return QCoreApplication::translate("LayerPropertiesCommand", text);
 }
 
+/// The widths that the columns had when the dialog told them last, for the next opening.
+void storeWidths(const VnJsonPtr& tree)
+{
+    QVariantList widths;
+    const VnJsonPtr told = tree->GetDataJ(vnsi::managerkey::kColumnWidths);
+    for (int column = 0; column < told.ArrayCount(); ++column)
+        widths.append(told(column)->asI());
+    if (!widths.isEmpty())
+        QSettings().setValue(QLatin1String(kWidthsSetting), widths);
+}
+
 VnJsonPtr makeTree(const drawing::Drawing& drawing)
 {
-    VnJsonPtr tree = vnsi::ElementValue::createObject(8);
-    tree->SetDataJ(key::kList, layerrecords::makeList(drawing));
+    const VnJsonPtr tree = Provider::full().tree(drawing);
+    const QVariantList widths = QSettings().value(QLatin1String(kWidthsSetting)).toList();
+    if (widths.isEmpty())
+        return tree;
+    const VnJsonPtr array = vnsi::ElementValue::createArray(widths.size());
+    for (const QVariant& width : widths)
+        array->AppendI(width.toInt());
+    tree->SetDataJ(vnsi::managerkey::kColumnWidths, array);
     return tree;
 }
 
 /// The first of 图层1, 图层2, ... that no record has.
-QString freeName(const VnJsonPtr& list)
+QString freeName(const LayerRecordList& layers)
 {
     QSet<QString> taken;
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
-        taken.insert(layerrecords::nameOf(list(i)).toCaseFolded());
+    for (const LayerRecord& record : layers)
+        taken.insert(vnsi::foldedName(layerrecords::nameOf(record.node())));
     QString name;
     int number = 0;
     do {
         name = tr("图层%1").arg(++number);
-    } while (taken.contains(name.toCaseFolded()));
+    } while (taken.contains(vnsi::foldedName(name)));
     return name;
-}
-
-/// The records that the dialog marked, in their order.
-std::vector<VnJsonPtr> modifiedRecords(const VnJsonPtr& list)
-{
-    std::vector<VnJsonPtr> records;
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i) {
-        const VnJsonPtr record = list(i);
-        if (record && layerrecords::isModified(record))
-            records.push_back(record);
-    }
-    return records;
-}
-
-bool isMarkedForDeletion(const VnJsonPtr& record)
-{
-    return record->GetDataI(key::kStatus) == vnsi::kLayerDelete;
-}
-
-/// Frees names that one renamed layer gives up and another takes, so that their order does not
-/// matter.
-void stepAside(drawing::Drawing& drawing, const std::vector<VnJsonPtr>& records)
-{
-    QSet<int> renamed;
-    for (const VnJsonPtr& record : records) {
-        const drawing::Layer* layer = drawing.layer(layerrecords::idOf(record));
-        if (layer && layer->properties.name != layerrecords::nameOf(record))
-            renamed.insert(static_cast<int>(layer->id));
-    }
-    for (const VnJsonPtr& record : records) {
-        const drawing::Layer* holder = drawing.findLayer(layerrecords::nameOf(record));
-        if (!holder || holder->id == layerrecords::idOf(record) ||
-            !renamed.contains(static_cast<int>(holder->id)))
-            continue;
-        drawing::LayerProperties aside = holder->properties;
-        aside.name = QUuid::createUuid().toString(QUuid::WithoutBraces);
-        // A refusal shows again, with its reason, when the layer takes its real name.
-        (void)drawing.setLayerProperties(holder->id, aside);
-    }
 }
 
 } // namespace
@@ -94,8 +74,9 @@ void LayerPropertiesCommand::run(CommandContext& context)
 {
     const auto invoker =
         CommandInvoker::make([&](const VnJsonPtr& tree) { answer(context, tree); });
-    vnsi::vnuiShowModelDialogEx(
-        kService, kDialog, makeTree(context.drawing), invoker, context.parent);
+    const VnJsonPtr tree = makeTree(context.drawing);
+    vnsi::vnuiShowModelDialogEx(kService, kDialog, tree, invoker, context.parent);
+    storeWidths(tree);
 }
 
 void LayerPropertiesCommand::answer(CommandContext& context, const VnJsonPtr& tree)
@@ -114,110 +95,43 @@ void LayerPropertiesCommand::answer(CommandContext& context, const VnJsonPtr& tr
     }
 }
 
+/// The new layer is like the one selected last.
 void LayerPropertiesCommand::appendLayer(const drawing::Drawing& drawing, const VnJsonPtr& tree)
 {
-    const VnJsonPtr list = tree->GetDataJ(key::kList);
-    if (!list)
+    const LayerRecordList layers = LayerRecordList::of(tree);
+    if (!layers.exists())
         return;
     drawing::Layer layer;
-    if (tree->GetDataI(vnsi::managerkey::kSelectCount) > 0) {
-        const VnJsonPtr pattern = list(tree->GetDataI(vnsi::managerkey::kLastSelectedIndex, -1));
-        if (pattern)
-            layer.properties = layerrecords::properties(pattern, layer.properties);
-    }
-    layer.properties.name = freeName(list);
+    const LayerRecord pattern =
+        layers[tree->GetDataI(vnsi::managerkey::kSelectCount) > 0
+                   ? tree->GetDataI(vnsi::managerkey::kLastSelectedIndex, -1)
+                   : -1];
+    if (!pattern.isNull())
+        layer.properties = Provider::full().read(pattern.node(), layer.properties);
+    layer.properties.name = freeName(layers);
     layer.properties.description.clear();
     if (const drawing::Layer* current = drawing.layer(drawing.currentLayer()))
         layer.properties.plotStyle = current->properties.plotStyle;
 
-    for (int i = 0, count = list.ArrayCount(); i < count; ++i)
-        list(i)->SetDataB(key::kSelected, false);
-    const VnJsonPtr record = layerrecords::make(layer, false);
-    record->SetDataB(key::kSelected, true);
-    record->SetDataB(key::kModified, true);
-    list->Append(record);
+    for (LayerRecord record : layers)
+        record.setSelected(false);
+    LayerRecord added(Provider::full().make(layer, false));
+    added.setSelected(true);
+    added.markModified();
+    layers.node()->Append(added.node());
 }
 
 void LayerPropertiesCommand::apply(CommandContext& context, const VnJsonPtr& tree)
 {
     drawing::Drawing& drawing = context.drawing;
     const VnJsonPtr list = tree->GetDataJ(key::kList);
-    const std::vector<VnJsonPtr> records = modifiedRecords(list);
-    stepAside(drawing, records);
-    for (const VnJsonPtr& record : records)
-        applyProperties(drawing, record);
-    for (const VnJsonPtr& record : records) {
-        if (record->GetDataI(key::kStatus) == vnsi::kLayerCurrent &&
-            layerrecords::idOf(record) != drawing::LayerId::None)
-            note(drawing.setCurrentLayer(layerrecords::idOf(record)));
-    }
-    applyDeletions(drawing, list);
-    for (const VnJsonPtr& record : records) {
-        if (const drawing::Layer* layer = drawing.layer(layerrecords::idOf(record)))
-            layerrecords::Provider::full().refresh(
-                vnsi::LayerRecord(record), *layer, layer->id == drawing.currentLayer());
-    }
+    if (!list)
+        return;
+    QStringList refusals = LayerChanges(drawing).apply(list);
     drawing.publishStep();
     for (const QString& notice : drawing.takeNotices())
         context.say(notice);
-    reportRefusals();
-}
-
-void LayerPropertiesCommand::applyProperties(drawing::Drawing& drawing, const VnJsonPtr& record)
-{
-    const drawing::LayerId id = layerrecords::idOf(record);
-    if (const drawing::Layer* layer = drawing.layer(id)) {
-        note(drawing.setLayerProperties(id, layerrecords::properties(record, layer->properties)));
-        return;
-    }
-    if (id != drawing::LayerId::None || isMarkedForDeletion(record))
-        return;
-    const auto added = drawing.addLayer(layerrecords::properties(record, {}));
-    if (added)
-        layerrecords::setId(record, *added);
-    else
-        m_refusals.append(added.error().text);
-}
-
-void LayerPropertiesCommand::applyDeletions(drawing::Drawing& drawing, const VnJsonPtr& list)
-{
-    const int count = list.ArrayCount();
-    std::vector<VnJsonPtr> kept;
-    kept.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        const VnJsonPtr record = list(i);
-        const bool goes = record && isMarkedForDeletion(record) && layerrecords::isModified(record);
-        if (goes && drawing.layer(layerrecords::idOf(record)))
-            note(drawing.removeLayer(layerrecords::idOf(record)));
-        if (!goes || drawing.layer(layerrecords::idOf(record)))
-            kept.push_back(record);
-    }
-    if (static_cast<int>(kept.size()) == count)
-        return;
-    list->Clear();
-    for (const VnJsonPtr& record : kept)
-        list->Append(record);
-}
-
-void LayerPropertiesCommand::note(const drawing::Expected<void>& outcome)
-{
-    if (!outcome)
-        m_refusals.append(outcome.error().text);
-}
-
-void LayerPropertiesCommand::reportRefusals()
-{
-    if (m_refusals.isEmpty())
-        return;
-    const int count = m_refusals.size();
-    QString text = tr("有 %1 项修改未能应用：").arg(count);
-    for (const QString& refusal : m_refusals.mid(0, kMostRefusalsShown))
-        text += QLatin1Char('\n') + refusal;
-    if (count > kMostRefusalsShown)
-        text += QStringLiteral("\n…");
-    m_refusals.clear();
-    vnsi::vnuiMessageBox(
-        vnsi::vnutQStringToOdString(text), vnsi::kProductName, vnsi::kVnIconWarning);
+    layermarks::report(context, tr("有 %1 项修改未能应用：").arg(refusals.size()), refusals);
 }
 
 void LayerPropertiesCommand::pose(CommandContext& context, const Camera& camera)

@@ -1,11 +1,7 @@
 #pragma once
 
 #include "command.h"
-#include "error.h"
-#include "layer.h"
 #include "vnjson.h"
-
-#include <QStringList>
 
 /// LAYER: shows the Layer Properties Manager and applies what it changed.
 class LayerPropertiesCommand : public LayerCommand
@@ -15,13 +11,7 @@ public:
     void pose(CommandContext& context, const Camera& camera) override;
 
 private:
-    void answer(CommandContext& context, const vnsi::VnJsonPtr& tree);
-    void appendLayer(const drawing::Drawing& drawing, const vnsi::VnJsonPtr& tree);
-    void apply(CommandContext& context, const vnsi::VnJsonPtr& tree);
-    void applyProperties(drawing::Drawing& drawing, const vnsi::VnJsonPtr& record);
-    void applyDeletions(drawing::Drawing& drawing, const vnsi::VnJsonPtr& list);
-    void note(const drawing::Expected<void>& outcome);
-    void reportRefusals();
-
-    QStringList m_refusals; ///< Why parts of an "apply" could not be carried out.
+    static void answer(CommandContext& context, const vnsi::VnJsonPtr& tree);
+    static void appendLayer(const drawing::Drawing& drawing, const vnsi::VnJsonPtr& tree);
+    static void apply(CommandContext& context, const vnsi::VnJsonPtr& tree);
 };

@@ -17,6 +17,7 @@ using vnsi::VnJsonPtr;
 
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr int kMostNamesShown = 5;
+constexpr int kMostProblemsShown = 10;
 
 } // namespace
 
@@ -90,6 +91,23 @@ void warn(const QString& text)
 {
     vnsi::vnuiMessageBox(
         vnsi::vnutQStringToOdString(text), vnsi::kProductName, vnsi::kVnIconWarning);
+}
+
+void report(CommandContext& context, const QString& heading, QStringList& problems)
+{
+    if (problems.isEmpty())
+        return;
+    QString text = heading;
+    for (const QString& problem : problems.mid(0, kMostProblemsShown))
+        text += QLatin1Char('\n') + problem;
+    if (problems.size() > kMostProblemsShown) {
+        text += QCoreApplication::translate("Commands", "\n（共 %1 条，其余见命令行）")
+                    .arg(problems.size());
+        for (const QString& problem : problems)
+            context.say(problem);
+    }
+    problems.clear();
+    warn(text);
 }
 
 } // namespace layermarks

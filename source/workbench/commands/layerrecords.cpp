@@ -220,11 +220,16 @@ VnJsonPtr Provider::tree(const drawing::Drawing& drawing, const Filter& passes) 
 LayerProperties Provider::read(const VnJsonPtr& record, const LayerProperties& base) const
 {
     LayerProperties properties = base;
-    for (const Field* field : m_fields) {
-        if (field->read)
-            field->read(LayerRecord(record), field->key, properties);
-    }
+    for (int field = 0; field < fieldCount(); ++field)
+        readField(field, record, properties);
     return properties;
+}
+
+void Provider::readField(int field, const VnJsonPtr& record, LayerProperties& properties) const
+{
+    const Field& read = *m_fields[static_cast<std::size_t>(field)];
+    if (read.read)
+        read.read(LayerRecord(record), read.key, properties);
 }
 
 VnJsonPtr make(const Layer& layer, bool current)

@@ -47,6 +47,10 @@ public:
     /// The properties in a record; those that the keys leave out are taken from `base`.
     drawing::LayerProperties read(
         const vnsi::VnJsonPtr& record, const drawing::LayerProperties& base) const;
+    /// The same for one member at a time, numbered from 0.
+    int fieldCount() const { return static_cast<int>(m_fields.size()); }
+    void readField(
+        int field, const vnsi::VnJsonPtr& record, drawing::LayerProperties& properties) const;
 
 private:
     void write(vnsi::LayerRecord& record, const drawing::Layer& layer, bool current) const;
