@@ -38,6 +38,7 @@ private slots:
         row("blank around a listed name", " Layer1", 0, unsupported, 2, kUnchanged);
         for (const QChar c : QStringLiteral("\\<>/\":;?*|,=`"))
             row(qPrintable("forbidden " + QString(c)), c, 0, unsupported, 2, kUnchanged);
+        row("control character for a new layer", "x\x01", 0, unsupported, 2, kUnchanged);
         row("too long for a new layer", QString(256, 'x'), 0,
             "message|\n图层名最多只能包含 255 个字符。|图层名无效|0", 2, kUnchanged);
     }

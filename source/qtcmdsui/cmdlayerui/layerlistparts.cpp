@@ -1,10 +1,8 @@
 #include "layerlistparts.h"
 
 #include "hostapi/hostcalls.h"
-#include "hostapi/hosttree.h"
 #include "hostcodes.h"
 #include "layernamedelegate.h"
-#include "layerrecord.h"
 #include "vnstrings.h"
 
 #include <QDialog>
@@ -29,12 +27,13 @@ QLineEdit* makeNameEdit(QDialog& dialog)
     return edit;
 }
 
-void fill(QListWidget& list, const VnJsonPtr& layers)
+void fill(QListWidget& list, const LayerRecordList& layers)
 {
     list.clear();
     QStringList names;
-    for (int i = 0, count = hostapi::count(layers); i < count; ++i)
-        names.append(vnutOdStringToQString(LayerRecord(hostapi::item(layers, i)).name()));
+    names.reserve(layers.count());
+    for (const LayerRecord& record : layers)
+        names.append(vnutOdStringToQString(record.name()));
     list.addItems(names);
     list.setCurrentRow(0);
 }
@@ -57,15 +56,9 @@ QSet<QString> selectedNames(const QListWidget& list)
     return names;
 }
 
-VnJsonPtr records(const VnJsonPtr& tree)
+void mark(const LayerRecordList& layers, const QSet<QString>& names, LayerStatus status)
 {
-    return tree ? tree->GetDataJ(layerkey::kList) : VnJsonPtr();
-}
-
-void mark(const VnJsonPtr& layers, const QSet<QString>& names, int status)
-{
-    for (int i = 0, count = hostapi::count(layers); i < count; ++i) {
-        LayerRecord record(hostapi::item(layers, i));
+    for (LayerRecord record : layers) {
         if (!names.contains(vnutOdStringToQString(record.name())))
             continue;
         record.setStatus(status);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vnjson.h"
+#include "layerrecord.h"
 
 #include <QSet>
 #include <QString>
@@ -18,15 +18,12 @@ QListWidget* makeList(QDialog& dialog);
 QLineEdit* makeNameEdit(QDialog& dialog);
 
 /// One item for each record of `layers`, in order; the first one is made current.
-void fill(QListWidget& list, const VnJsonPtr& layers);
+void fill(QListWidget& list, const LayerRecordList& layers);
 void copyText(const QListWidgetItem* item, QLineEdit* edit);
 QSet<QString> selectedNames(const QListWidget& list);
-/// The records of a dialog's tree; null where there are none.
-VnJsonPtr records(const VnJsonPtr& tree);
-
 /// Writes the action `status` and the mark of a change into every record that `names` holds,
 /// exactly as written.
-void mark(const VnJsonPtr& layers, const QSet<QString>& names, int status);
+void mark(const LayerRecordList& layers, const QSet<QString>& names, LayerStatus status);
 
 /// Shows why a name will not do; false, for the caller to hand on.
 bool refuse(const wchar_t* text, const wchar_t* caption);

@@ -2,7 +2,6 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
-#include "hostapi/hosttree.h"
 #include "hostcodes.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
@@ -66,19 +65,16 @@ bool VnQtLaydelLayerDlg::initDialog()
 bool VnQtLaydelLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 {
     VnQtModeDialogImpl::setData(data, invoker);
-    layerlist::fill(*m_list, canRequest() ? layerlist::records(data) : VnJsonPtr());
+    layerlist::fill(*m_list, LayerRecordList::of(canRequest() ? data : VnJsonPtr()));
     return true;
 }
 
 bool VnQtLaydelLayerDlg::isReferencedInBlocks(const QSet<QString>& names)
 {
     const auto markSelected = [&](IElementValueBase& tree) {
-        const VnJsonPtr list = tree.GetDataJ(layerkey::kList);
-        for (int i = 0, count = hostapi::count(list); i < count; ++i) {
-            LayerRecord record(hostapi::item(list, i));
+        for (LayerRecord record : LayerRecordList(tree.GetDataJ(layerkey::kList)))
             record.setFlag(
                 layerkey::kIsSelected, names.contains(vnutOdStringToQString(record.name())));
-        }
     };
     return askCommand({kDeleteAskBlocks, {layertoolkey::kIsExistBlock}}, markSelected)
         ->GetDataB(layertoolkey::kIsExistBlock);
@@ -105,7 +101,7 @@ void VnQtLaydelLayerDlg::slot_SureBtnClicked(bool)
     const QString text = question(inBlocks, items.size(), items.first()->text());
     if (!layerlist::confirm(L"图层删除 - 删除确认", text, kVnOkCancel, kVnAnswerOk))
         return;
-    layerlist::mark(layerlist::records(data()), names, kLayerDelete);
+    layerlist::mark(LayerRecordList::of(data()), names, kLayerDelete);
     endDialog(1);
 }
 

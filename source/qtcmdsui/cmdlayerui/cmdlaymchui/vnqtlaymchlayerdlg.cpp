@@ -2,7 +2,6 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
-#include "hostapi/hosttree.h"
 #include "hostcodes.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
@@ -22,6 +21,12 @@ namespace vnsi {
 
 namespace {
 
+bool refuseCharacters()
+{
+    return layerlist::refuse(
+        L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  \\<>/\":;?*|,=`", L"图层-不支持的字符");
+}
+
 bool acceptName(const QString& name)
 {
     const auto isSpace = [](QChar c) { return c.isSpace(); };
@@ -29,15 +34,17 @@ bool acceptName(const QString& name)
         return layerlist::refuse(L"\n图层名至少必须包含一个字符。", L"图层名无效");
     // A blank is refused like the thirteen characters, though the message does not list it.
     if (std::any_of(name.begin(), name.end(), isSpace) || holdsForbiddenCharacter(name))
-        return layerlist::refuse(
-            L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  \\<>/\":;?*|,=`",
-            L"图层-不支持的字符");
+        return refuseCharacters();
     return true;
 }
 
+/// A layer that is there may be called what no new one may.
 bool acceptNewName(const QString& name)
 {
-    return !isTooLongForName(name) ||
+    const NameFaults faults = nameFaults(name);
+    if (faults & NameFault::ControlCharacter)
+        return refuseCharacters();
+    return !(faults & NameFault::TooLong) ||
            layerlist::refuse(L"\n图层名最多只能包含 255 个字符。", L"图层名无效");
 }
 
@@ -79,7 +86,7 @@ bool VnQtLaymchLayerDlg::initDialog()
 bool VnQtLaymchLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 {
     VnQtModeDialogImpl::setData(data, invoker);
-    layerlist::fill(*m_list, canRequest() ? layerlist::records(data) : VnJsonPtr());
+    layerlist::fill(*m_list, LayerRecordList::of(canRequest() ? data : VnJsonPtr()));
     layerlist::copyText(m_list->item(0), m_nameEdit);
     return true;
 }
@@ -102,7 +109,7 @@ void VnQtLaymchLayerDlg::slot_SureBtnClicked(bool)
         return;
     if (isKnown(name)) {
         // The look-up ignores letter case and the marking does not; this is intended.
-        layerlist::mark(layerlist::records(data()), {name}, kLayerTarget);
+        layerlist::mark(LayerRecordList::of(data()), {name}, kLayerTarget);
     } else {
         if (!acceptNewName(name) || !confirmNewLayer(name))
             return;
@@ -113,12 +120,10 @@ void VnQtLaymchLayerDlg::slot_SureBtnClicked(bool)
 
 bool VnQtLaymchLayerDlg::isKnown(const QString& name) const
 {
-    const VnJsonPtr list = layerlist::records(data());
-    for (int i = 0, count = hostapi::count(list); i < count; ++i) {
-        if (isSameName(vnutOdStringToQString(LayerRecord(hostapi::item(list, i)).name()), name))
-            return true;
-    }
-    return false;
+    const LayerRecordList layers = LayerRecordList::of(data());
+    return std::any_of(layers.begin(), layers.end(), [&name](const LayerRecord& layer) {
+        return isSameName(vnutOdStringToQString(layer.name()), name);
+    });
 }
 
 bool VnQtLaymchLayerDlg::confirmNewLayer(const QString& name) const
@@ -131,8 +136,8 @@ bool VnQtLaymchLayerDlg::confirmNewLayer(const QString& name) const
 /// The request for a new layer rides on the last record of the list, as commands expect it.
 void VnQtLaymchLayerDlg::markNewLayer(const QString& name)
 {
-    const VnJsonPtr list = layerlist::records(data());
-    LayerRecord last(hostapi::item(list, hostapi::count(list) - 1));
+    const LayerRecordList layers = LayerRecordList::of(data());
+    LayerRecord last = layers[layers.count() - 1];
     if (last.isNull() || vnutOdStringToQString(last.name()) == name)
         return;
     last.setStatus(kLayerNewTarget);

@@ -2,7 +2,6 @@
 
 #include "dialogbuttons.h"
 #include "dialoghelp.h"
-#include "hostapi/hosttree.h"
 #include "hostcodes.h"
 #include "layerlistparts.h"
 #include "layerrecord.h"
@@ -37,15 +36,14 @@ bool VnQtLaymrgLayerDlg::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 
 void VnQtLaymrgLayerDlg::readTree()
 {
-    const VnJsonPtr list = layerlist::records(data());
-    const LayerRecord first(hostapi::item(list, 0));
+    const LayerRecordList layers = LayerRecordList::of(data());
+    const LayerRecord first = layers[0];
     if (!m_list) // The layout stands for one of the modes, so the first tree decides.
         m_sourceMode = first.flag(layertoolkey::kIsFrom);
     m_blockReferences = first.number(layertoolkey::kBlockReferences);
     m_names.clear();
     m_sources.clear();
-    for (int i = 0, count = hostapi::count(list); i < count; ++i) {
-        const LayerRecord record(hostapi::item(list, i));
+    for (const LayerRecord& record : layers) {
         m_names.append(vnutOdStringToQString(record.name()));
         if (!m_sourceMode && record.flag(layertoolkey::kSourceLayer))
             m_sources.append(m_names.last());
@@ -104,7 +102,7 @@ void VnQtLaymrgLayerDlg::slot_SureBtnClicked(bool)
     if (selected.isEmpty())
         return;
     if (m_sourceMode) {
-        layerlist::mark(layerlist::records(data()), selected, kLayerMergeSource);
+        layerlist::mark(LayerRecordList::of(data()), selected, kLayerMergeSource);
     } else {
         const QString target = m_targetEdit->text();
         if (!acceptTarget(target))
@@ -131,7 +129,7 @@ bool VnQtLaymrgLayerDlg::acceptTarget(const QString& target) const
 
 void VnQtLaymrgLayerDlg::markTarget(const QString& target)
 {
-    LayerRecord record(hostapi::item(layerlist::records(data()), m_names.indexOf(target)));
+    LayerRecord record = LayerRecordList::of(data())[m_names.indexOf(target)];
     record.setStatus(kLayerMergeTarget);
     record.markModifiedByAction();
 }
