@@ -13,6 +13,17 @@ constexpr int kQuestionStyle = kVnYesNo | kVnIconInformation;
 
 } // namespace
 
+std::optional<OdString> askForText(const OdString& present, const wchar_t* label)
+{
+    const VnJsonPtr question = hostapi::makeObject();
+    question->SetDataSW("DefaultName", present);
+    if (label)
+        question->SetDataSW("Tip", label);
+    const VnJsonPtr answer =
+        hostapi::showDialog(L"Dialog/CmdsUI", L"Dialog/CmdsUI/ReNameDlg", question);
+    return answer->GetDataB("Success") ? std::optional(answer->GetDataSW("NewName")) : std::nullopt;
+}
+
 bool asksToKeepCurrentOn()
 {
     return hostapi::messageBox(L"当前图层将被关闭。\n是否要使当前图层保持打开状态?\n", kProductName,

@@ -2,11 +2,16 @@
 
 #include "layerrecord.h"
 
+#include <optional>
+
 class QWidget;
 
 /// Edits of single layers that the tables of layers have in common.
 namespace vnsi::layeredits {
 
+/// Lets the user change a text in the host's rename dialog, which `label` may tell what it is; none
+/// when the user gives up.
+std::optional<OdString> askForText(const OdString& present, const wchar_t* label = nullptr);
 /// Asks whether the current layer, about to be turned off, is to stay on.
 bool asksToKeepCurrentOn();
 /// Tells that the current layer cannot be frozen.

@@ -1,8 +1,8 @@
 #include "layernaming.h"
 
 #include "hostapi/hostcalls.h"
-#include "hostapi/hosttree.h"
 #include "hostcodes.h"
+#include "layeredits.h"
 #include "namerule.h"
 #include "vnstrings.h"
 
@@ -51,13 +51,6 @@ bool accept(const LayerRecordList& layers, int row, const QString& name)
     return isUnique(layers, row, name) || refuse(L"图层名无效。\n\n图层名必须唯一\n", kProductName);
 }
 
-std::optional<OdString> ask(const VnJsonPtr& question)
-{
-    const VnJsonPtr answer =
-        hostapi::showDialog(L"Dialog/CmdsUI", L"Dialog/CmdsUI/ReNameDlg", question);
-    return answer->GetDataB("Success") ? std::optional(answer->GetDataSW("NewName")) : std::nullopt;
-}
-
 } // namespace
 
 bool mayRename(const LayerRecord& record)
@@ -71,17 +64,12 @@ bool mayRename(const LayerRecord& record)
 
 std::optional<OdString> askName(const LayerRecord& record)
 {
-    const VnJsonPtr question = hostapi::makeObject();
-    question->SetDataSW("DefaultName", record.name());
-    return ask(question);
+    return layeredits::askForText(record.name());
 }
 
 std::optional<OdString> askDescription(const LayerRecord& record)
 {
-    const VnJsonPtr question = hostapi::makeObject();
-    question->SetDataSW("Tip", L"说明:");
-    question->SetDataSW("DefaultName", record.text(layerkey::kDescription));
-    return ask(question);
+    return layeredits::askForText(record.text(layerkey::kDescription), L"说明:");
 }
 
 void storeName(const LayerRecordList& layers, int row, const OdString& typed)

@@ -118,7 +118,7 @@ VnJsonPtr LayerStateCommand::makeTree()
         elements->Append(ElementValue::createObject(8));
     m_manager = elements(vnsi::kStateManager);
     m_editor = elements(vnsi::kStateEditor);
-    const VnJsonPtr tree = ElementValue::createObject(2);
+    VnJsonPtr tree = ElementValue::createObject(2);
     tree->SetDataJ(key::kElements, elements);
     showStates(drawing().layerStates());
     return tree;

@@ -32,7 +32,7 @@ OdString spaceOf(const drawing::LayerState& state)
 
 VnJsonPtr makeEntry(const drawing::LayerState& state)
 {
-    const VnJsonPtr entry = vnsi::ElementValue::createObject(6);
+    VnJsonPtr entry = vnsi::ElementValue::createObject(6);
     entry->SetDataSW(key::kName, vnsi::vnutQStringToOdString(state.name));
     entry->SetDataSW(key::kSpace, spaceOf(state));
     entry->SetDataSW(key::kDescription, vnsi::vnutQStringToOdString(state.description));
@@ -43,7 +43,7 @@ VnJsonPtr makeEntry(const drawing::LayerState& state)
 
 VnJsonPtr make(const drawing::Drawing& drawing)
 {
-    const VnJsonPtr list = vnsi::ElementValue::createArray();
+    VnJsonPtr list = vnsi::ElementValue::createArray();
     for (const drawing::LayerState& state : drawing.layerStates())
         list->Append(makeEntry(state));
     return list;

@@ -19,7 +19,7 @@ namespace staterecords {
 
 VnJsonPtr make(const LayerState& state)
 {
-    const VnJsonPtr list = vnsi::ElementValue::createArray(static_cast<int>(state.layers.size()));
+    VnJsonPtr list = vnsi::ElementValue::createArray(static_cast<int>(state.layers.size()));
     for (const LayerStateLayer& layer : state.layers) {
         drawing::Layer shown;
         shown.properties = layer.properties;

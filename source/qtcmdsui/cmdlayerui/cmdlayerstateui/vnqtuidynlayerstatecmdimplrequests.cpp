@@ -3,6 +3,7 @@
 #include "dialoghelp.h"
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
+#include "layeredits.h"
 #include "namerule.h"
 #include "statetexts.h"
 #include "vnstrings.h"
@@ -21,8 +22,6 @@ namespace {
 enum DeleteAnswer { kDeleteThis, kDeleteAll, kKeepThis, kStop };
 
 constexpr wchar_t kDeleteCaption[] = L"图层 - 删除图层状态";
-constexpr wchar_t kRenameService[] = L"Dialog/CmdsUI";
-constexpr wchar_t kRenameDialog[] = L"Dialog/CmdsUI/ReNameDlg";
 constexpr wchar_t kStateFilter[] = L"图层状态(*.las)";
 constexpr wchar_t kImportFilter[] = L"图形(*.dwg);;标准(*.dws);;图形样板(*.dwt);;图层状态(*.las)";
 
@@ -37,13 +36,6 @@ bool answersYes(const wchar_t* caption, const QString& question)
                kVnIconInformation) == kVnAnswerYes;
 }
 
-VnJsonPtr askForText(const QString& present)
-{
-    const VnJsonPtr question = hostapi::makeObject();
-    Members(question).set("DefaultName", od(present));
-    return hostapi::showDialog(kRenameService, kRenameDialog, question);
-}
-
 VnJsonPtr askForFile(const VnJsonPtr& question, QWidget* parent)
 {
     return hostapi::showDialogEx(L"Dialog/Common", L"FileDialogBox", question, {}, parent);
@@ -51,7 +43,7 @@ VnJsonPtr askForFile(const VnJsonPtr& question, QWidget* parent)
 
 VnJsonPtr fileQuestion(const char* caption, const wchar_t* filter, bool open)
 {
-    const VnJsonPtr question = hostapi::makeObject();
+    VnJsonPtr question = hostapi::makeObject();
     question->SetDataS("caption", caption);
     Members(question)
         .set("filter", filter)
@@ -139,10 +131,10 @@ void VnQtUiDynLayerStateCmdImpl::slot_RenameBtnClicked(bool)
     if (!m_currentItem)
         return;
     m_oldName = m_currentItem->text();
-    const VnJsonPtr answer = askForText(m_oldName);
-    if (!answer->GetDataB("Success") || !canRequest())
+    const auto typed = layeredits::askForText(od(m_oldName));
+    if (!typed || !canRequest())
         return;
-    const QString name = text(answer, "NewName");
+    const QString name = vnutOdStringToQString(*typed);
     if (!acceptNewName(name) || isSameName(name, m_oldName))
         return;
     request(kStateRename, [&](IElementValueBase& node) {
@@ -179,13 +171,11 @@ void VnQtUiDynLayerStateCmdImpl::slot_tableitClickedDesc(QTableWidgetItem* item)
     if (rows.empty() || !item || item != m_table->item(rows.front(), kDescriptionColumn))
         return;
     const QString name = nameAt(rows.front());
-    const VnJsonPtr answer = askForText(item->text());
-    if (!answer->GetDataB("Success") || !canRequest())
+    const auto typed = layeredits::askForText(od(item->text()));
+    if (!typed || !canRequest())
         return;
     request(kStateDescribe, [&](IElementValueBase& node) {
-        Members(node)
-            .set(statekey::kOldName, od(name))
-            .set(statekey::kDescribedAs, answer->GetDataSW("NewName"));
+        Members(node).set(statekey::kOldName, od(name)).set(statekey::kDescribedAs, *typed);
     });
     fill();
 }
