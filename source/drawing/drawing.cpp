@@ -1,6 +1,7 @@
 #include "drawingprivate.h"
 
 #include "drawingloader.h"
+#include "drawingtexts.h"
 #include "entityedits.h"
 #include "filewriter.h"
 #include "layeredits.h"
@@ -34,18 +35,18 @@ Expected<void> Drawing::Private::map(const QString& fileName)
 {
     const auto refusal = [&fileName](const QString& cause) {
         return tl::make_unexpected(
-            Error{tr("无法打开文件“%1”：%2。").arg(fileName, cause), 0, false});
+            Error{Texts::tr("无法打开文件“%1”：%2。").arg(fileName, cause), 0, false});
     };
     const QFileInfo info(fileName);
     if (!info.exists())
-        return refusal(tr("文件不存在"));
+        return refusal(Texts::tr("文件不存在"));
     if (!info.isFile())
-        return refusal(info.isDir() ? tr("它是文件夹") : tr("它不是普通文件"));
+        return refusal(info.isDir() ? Texts::tr("它是文件夹") : Texts::tr("它不是普通文件"));
     path = fileName;
     data.statesPath = statesPathOf(fileName);
     file.setFileName(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        return refusal(info.isReadable() ? file.errorString() : tr("没有读取权限"));
+        return refusal(info.isReadable() ? file.errorString() : Texts::tr("没有读取权限"));
     if (file.size() == 0)
         return {};
     const uchar* bytes = file.map(0, file.size());
@@ -104,7 +105,8 @@ Expected<std::unique_ptr<Drawing>> Drawing::open(
         if (const auto loaded = loadDrawing(drawing->d->data, path, options, progress); !loaded)
             return tl::make_unexpected(loaded.error());
     } catch (const std::bad_alloc&) {
-        return tl::make_unexpected(Error{tr("无法打开文件“%1”：内存不足。").arg(path), 0, false});
+        return tl::make_unexpected(
+            Error{Texts::tr("无法打开文件“%1”：内存不足。").arg(path), 0, false});
     }
     if (owner) {
         drawing->d->file.moveToThread(owner);
@@ -116,14 +118,15 @@ Expected<std::unique_ptr<Drawing>> Drawing::open(
 Expected<void> Drawing::save(const QString& path, Progress* progress)
 {
     const auto refusal = [&path](const QString& cause) {
-        return tl::make_unexpected(Error{tr("无法保存文件“%1”：%2。").arg(path, cause), 0, false});
+        return tl::make_unexpected(
+            Error{Texts::tr("无法保存文件“%1”：%2。").arg(path, cause), 0, false});
     };
     if (d->stepIsOpen)
-        return refusal(tr("还有未完成的操作"));
+        return refusal(Texts::tr("还有未完成的操作"));
     const auto size = static_cast<qint64>(d->data.bytes.size());
     // The bytes that were not edited are still read from it.
     if (d->file.size() != size)
-        return refusal(tr("原文件已被其他程序改写"));
+        return refusal(Texts::tr("原文件已被其他程序改写"));
     if (auto aside = d->saveStatesAside(path); !aside)
         return aside;
     auto written = writeFile(d->data.journal, size, path, progress);
@@ -205,7 +208,7 @@ Expected<void> Drawing::readyToEdit() const
 {
     if (d->stepIsOpen)
         return {};
-    return tl::make_unexpected(Error{tr("图形没有打开的操作步骤，不能改动。"), 0, false});
+    return tl::make_unexpected(Error{Texts::tr("图形没有打开的操作步骤，不能改动。"), 0, false});
 }
 
 Expected<void> Drawing::setLayerProperties(LayerId id, const LayerProperties& properties)

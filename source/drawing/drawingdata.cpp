@@ -1,6 +1,6 @@
 #include "drawingdata.h"
 
-#include <QCoreApplication>
+#include "drawingtexts.h"
 
 namespace drawing {
 
@@ -22,19 +22,23 @@ void LeftOut::note(Kind kind, const QString& name)
 QStringList LeftOut::sentences() const
 {
     constexpr const char* kTexts[] = {
-        "此图形的 DXF 版本不能保存打印开关：图层“%1”%2的该设置未改动。",
-        "此图形的 DXF 版本不能保存线宽：图层“%1”%2的该设置未改动。",
-        "此图形的 DXF 版本不能保存真彩色：图层“%1”%2只保存了颜色索引。",
-        "此图形的 DXF 版本不能保存线型中的文字和形：线型“%1”%2只保存了划线和间隔。",
-        "线型“%1”%2所用的文字样式或形文件在其来源图形中找不到：只保存了划线和间隔。",
+        QT_TRANSLATE_NOOP(
+            "drawing", "此图形的 DXF 版本不能保存打印开关：图层“%1”%2的该设置未改动。"),
+        QT_TRANSLATE_NOOP("drawing", "此图形的 DXF 版本不能保存线宽：图层“%1”%2的该设置未改动。"),
+        QT_TRANSLATE_NOOP(
+            "drawing", "此图形的 DXF 版本不能保存真彩色：图层“%1”%2只保存了颜色索引。"),
+        QT_TRANSLATE_NOOP(
+            "drawing", "此图形的 DXF 版本不能保存线型中的文字和形：线型“%1”%2只保存了划线和间隔。"),
+        QT_TRANSLATE_NOOP("drawing",
+            "线型“%1”%2所用的文字样式或形文件在其来源图形中找不到：只保存了划线和间隔。"),
     };
     static_assert(std::size(kTexts) == KindCount);
     QStringList sentences;
     for (size_t kind = 0; kind < KindCount; ++kind) {
         const Note& note = m_notes[kind];
         if (!note.name.isEmpty())
-            sentences += QCoreApplication::translate("drawing", kTexts[kind])
-                             .arg(note.name, note.more ? QStringLiteral("等") : QString());
+            sentences +=
+                Texts::tr(kTexts[kind]).arg(note.name, note.more ? Texts::tr("等") : QString());
     }
     return sentences;
 }

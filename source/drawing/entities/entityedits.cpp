@@ -1,20 +1,14 @@
 #include "entityedits.h"
 
+#include "drawingtexts.h"
 #include "entityeditsremoval.h"
 #include "symboltables.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace drawing {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
 
 tl::unexpected<Error> refusal(const QString& text)
 {
@@ -67,9 +61,10 @@ Expected<void> EntityEdits::checkTarget(LayerId target) const
 {
     const Layer* layer = m_data.layers.layer(target);
     if (!layer)
-        return refusal(tr("目标图层已不存在。"));
+        return refusal(Texts::tr("目标图层已不存在。"));
     if (layer->dependsOnReference)
-        return refusal(tr("图层“%1”依赖外部参照，不能作为目标图层。").arg(layer->properties.name));
+        return refusal(
+            Texts::tr("图层“%1”依赖外部参照，不能作为目标图层。").arg(layer->properties.name));
     return {};
 }
 
@@ -79,14 +74,14 @@ Expected<void> EntityEdits::checkLeaving(const std::vector<LayerId>& layers) con
     for (const LayerId id : layers) {
         const Layer* layer = m_data.layers.layer(id);
         if (!layer)
-            return refusal(tr("图层已不存在。"));
+            return refusal(Texts::tr("图层已不存在。"));
         const QString& name = layer->properties.name;
         if (name == QLatin1String("0"))
-            return refusal(tr("图层“0”不能删除。"));
+            return refusal(Texts::tr("图层“0”不能删除。"));
         if (id == m_data.state.current)
-            return refusal(tr("当前图层“%1”不能删除。").arg(name));
+            return refusal(Texts::tr("当前图层“%1”不能删除。").arg(name));
         if (layer->dependsOnReference)
-            return refusal(tr("图层“%1”依赖外部参照，不能删除。").arg(name));
+            return refusal(Texts::tr("图层“%1”依赖外部参照，不能删除。").arg(name));
     }
     return {};
 }
@@ -165,7 +160,7 @@ Expected<void> EntityEdits::merge(const std::vector<LayerId>& sources, LayerId t
     const std::vector<char> isSource = layerMarks(m_data, sources);
     const QString& name = m_data.layers.entry(target).layer.properties.name;
     if (isSource[static_cast<size_t>(target)])
-        return refusal(tr("图层“%1”不能合并到它自己。").arg(name));
+        return refusal(Texts::tr("图层“%1”不能合并到它自己。").arg(name));
     const QByteArray encoded = m_data.codec.encode(name);
     for (size_t i = 0; i < m_data.index.entities.size(); ++i) {
         const Entity& entity = m_data.index.entities[i];

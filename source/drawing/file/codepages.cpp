@@ -1,8 +1,7 @@
 #include "codepages.h"
 
 #include "charsetconverter.h"
-
-#include <QCoreApplication>
+#include "drawingtexts.h"
 
 #include <algorithm>
 #include <array>
@@ -149,8 +148,7 @@ QString codePageTitle(const QByteArray& charset)
 {
     for (const CodePage& page : codePages()) {
         if (charset == page.charset)
-            return QStringLiteral("%1 (%2)").arg(
-                QCoreApplication::translate("drawing", page.title), QLatin1String(page.name));
+            return QStringLiteral("%1 (%2)").arg(Texts::tr(page.title), QLatin1String(page.name));
     }
     return QString::fromLatin1(charset);
 }

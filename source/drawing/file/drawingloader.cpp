@@ -2,20 +2,14 @@
 
 #include "codepages.h"
 #include "drawingindexer.h"
+#include "drawingtexts.h"
 #include "handles.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace drawing {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
 
 /// The line at an offset, from 1; 0 in files without lines.
 qint64 lineOf(const DrawingData& data, qint64 offset)
@@ -28,7 +22,7 @@ qint64 lineOf(const DrawingData& data, qint64 offset)
 
 QString placeText(qint64 line, qint64 offset)
 {
-    return line > 0 ? tr("第 %1 行").arg(line) : tr("第 %1 字节").arg(offset + 1);
+    return line > 0 ? Texts::tr("第 %1 行").arg(line) : Texts::tr("第 %1 字节").arg(offset + 1);
 }
 
 QString shown(std::string_view text)
@@ -50,31 +44,32 @@ Error faultError(const DrawingData& data, const IndexFault& fault, const QString
     switch (fault.kind) {
     case IndexFaultKind::Cancelled:
         error.cancelled = true;
-        error.text = tr("已取消打开文件“%1”。").arg(fileName);
+        error.text = Texts::tr("已取消打开文件“%1”。").arg(fileName);
         break;
     case IndexFaultKind::NotTagged:
         error.text =
-            tr("文件“%1”不是 DXF 图形：它不以 SECTION 段开头（%2）。").arg(fileName, place);
+            Texts::tr("文件“%1”不是 DXF 图形：它不以 SECTION 段开头（%2）。").arg(fileName, place);
         break;
     case IndexFaultKind::BadCode:
         error.text =
             isBinary(data.spelling)
-                ? tr("文件“%1”%2的组码不存在。").arg(fileName, place)
-                : tr("文件“%1”%2的组码“%3”不是数字。")
+                ? Texts::tr("文件“%1”%2的组码不存在。").arg(fileName, place)
+                : Texts::tr("文件“%1”%2的组码“%3”不是数字。")
                       .arg(fileName, place, shown(data.view(data.valueRange(fault.offset))));
         break;
     case IndexFaultKind::TooLong:
-        error.text = tr("文件“%1”%2太长，超过 %3 MB，不能读取。")
+        error.text = Texts::tr("文件“%1”%2太长，超过 %3 MB，不能读取。")
                          .arg(fileName, place)
                          .arg(kLongestLine >> 20);
         break;
     case IndexFaultKind::SectionNotEnded:
-        error.text = tr("文件“%1”不完整：%3 段到%2仍没有 ENDSEC。").arg(fileName, place, section);
+        error.text =
+            Texts::tr("文件“%1”不完整：%3 段到%2仍没有 ENDSEC。").arg(fileName, place, section);
         break;
     case IndexFaultKind::CutOff:
         error.text = section.isEmpty()
-                         ? tr("文件“%1”不完整：在%2中断，缺少 EOF。").arg(fileName, place)
-                         : tr("文件“%1”不完整：在%2、%3 段中中断，缺少 ENDSEC 和 EOF。")
+                         ? Texts::tr("文件“%1”不完整：在%2中断，缺少 EOF。").arg(fileName, place)
+                         : Texts::tr("文件“%1”不完整：在%2、%3 段中中断，缺少 ENDSEC 和 EOF。")
                                .arg(fileName, place, section);
         break;
     }
@@ -85,12 +80,13 @@ Error faultError(const DrawingData& data, const IndexFault& fault, const QString
 Expected<void> checkFormat(std::string_view bytes, const QString& fileName)
 {
     const auto refusal = [&fileName](const char* text) {
-        return tl::make_unexpected(Error{tr(text).arg(fileName), 1, false});
+        return tl::make_unexpected(Error{Texts::tr(text).arg(fileName), 1, false});
     };
     if (bytes.empty())
-        return refusal("文件“%1”是空的，不是 DXF 图形（第 1 行）。");
+        return refusal(QT_TRANSLATE_NOOP("drawing", "文件“%1”是空的，不是 DXF 图形（第 1 行）。"));
     if (bytes.substr(0, 4) == "AC10")
-        return refusal("文件“%1”是 DWG 图形，不能读取；请先另存为 DXF（第 1 行）。");
+        return refusal(QT_TRANSLATE_NOOP(
+            "drawing", "文件“%1”是 DWG 图形，不能读取；请先另存为 DXF（第 1 行）。"));
     return {};
 }
 
@@ -145,8 +141,8 @@ Expected<void> Loader::chooseCodec(const OpenOptions& options)
         const auto wanted = TextCodec::ofCodePage(
             {options.codePage.constData(), static_cast<size_t>(options.codePage.size())});
         if (!wanted)
-            return tl::make_unexpected(
-                Error{tr("没有代码页“%1”。").arg(QString::fromUtf8(options.codePage)), 0, false});
+            return tl::make_unexpected(Error{
+                Texts::tr("没有代码页“%1”。").arg(QString::fromUtf8(options.codePage)), 0, false});
         m_data.codec = *wanted;
         return {};
     }
@@ -158,12 +154,12 @@ Expected<void> Loader::chooseCodec(const OpenOptions& options)
     if (evidence.speaksForUtf8(m_data.codec))
         m_data.codec = TextCodec::utf8();
     else if (!isKnown && !isNoCodePage(named))
-        m_data.openingNotices += tr("图形声明的代码页“%1”无法识别，文字按 %2 读取；"
-                                    "可以用其他代码页重新打开。")
+        m_data.openingNotices += Texts::tr("图形声明的代码页“%1”无法识别，文字按 %2 读取；"
+                                           "可以用其他代码页重新打开。")
                                      .arg(shown(named), m_data.codec.title());
     else if (!isKnown && !evidence.isAscii())
-        m_data.openingNotices += tr("图形没有说明文字的代码页，按 %1 读取；"
-                                    "可以用其他代码页重新打开。")
+        m_data.openingNotices += Texts::tr("图形没有说明文字的代码页，按 %1 读取；"
+                                           "可以用其他代码页重新打开。")
                                      .arg(m_data.codec.title());
     return {};
 }
@@ -347,7 +343,7 @@ Expected<void> loadDrawing(
             data.index.tablesEnd < 0 ? data.index.firstBody : data.index.tablesEnd;
         const qint64 line = lineOf(data, offset);
         return tl::make_unexpected(
-            Error{tr("文件“%1”没有图层表（LAYER），到第 %2 行 TABLES 段已结束。")
+            Error{Texts::tr("文件“%1”没有图层表（LAYER），到第 %2 行 TABLES 段已结束。")
                       .arg(fileName, QString::number(line)),
                 line, false});
     }

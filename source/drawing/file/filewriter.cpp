@@ -1,8 +1,8 @@
 #include "filewriter.h"
 
 #include "drawing.h"
+#include "drawingtexts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -16,11 +16,6 @@ namespace {
 
 constexpr int kBufferSize = 1 << 18;
 constexpr qint64 kChunkSize = 1 << 22;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
 
 /// Gathers small pieces, hands large ones through in chunks, and watches for a cancel.
 class Output
@@ -84,22 +79,22 @@ QString causeOf(const QSaveFile& file, qint64 size)
     const QStorageInfo storage(folder);
     const QFileInfo target(file.fileName());
     if (!QDir(folder).exists())
-        return tr("文件夹不存在");
+        return Texts::tr("文件夹不存在");
     if (storage.isReadOnly())
-        return tr("磁盘是只读的");
+        return Texts::tr("磁盘是只读的");
     if (storage.bytesAvailable() >= 0 && storage.bytesAvailable() < size)
-        return tr("磁盘空间不足");
+        return Texts::tr("磁盘空间不足");
     if (!QFileInfo(folder).isWritable())
-        return tr("没有写入该文件夹的权限");
+        return Texts::tr("没有写入该文件夹的权限");
     if (target.exists() && !target.isWritable())
-        return tr("文件是只读的");
+        return Texts::tr("文件是只读的");
     return file.errorString();
 }
 
 tl::unexpected<Error> refusal(const QString& path, const QString& cause)
 {
     return tl::make_unexpected(
-        Error{tr("无法保存文件“%1”：%2。原文件未改动。").arg(path, cause), 0, false});
+        Error{Texts::tr("无法保存文件“%1”：%2。原文件未改动。").arg(path, cause), 0, false});
 }
 
 } // namespace
@@ -110,7 +105,7 @@ Expected<void> writeFile(
     // Replacing a device or a pipe by a file would destroy it.
     const QFileInfo target(path);
     if (target.exists() && !target.isFile())
-        return refusal(path, tr("它不是普通文件"));
+        return refusal(path, Texts::tr("它不是普通文件"));
     QSaveFile file(path);
     // Unbuffered: a failure to write the last of a buffer would not keep commit() from replacing.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
@@ -121,7 +116,7 @@ Expected<void> writeFile(
     }) && output.flush();
     if (progress && progress->cancelled) {
         file.cancelWriting();
-        return tl::make_unexpected(Error{tr("已取消保存。"), 0, true});
+        return tl::make_unexpected(Error{Texts::tr("已取消保存。"), 0, true});
     }
     if (!isWritten || !file.commit()) {
         const QString cause = causeOf(file, size);

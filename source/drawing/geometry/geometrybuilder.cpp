@@ -1,8 +1,7 @@
 #include "geometrybuilder.h"
 
+#include "drawingtexts.h"
 #include "geometrytext.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -12,10 +11,10 @@ namespace drawing {
 
 namespace {
 
-constexpr std::size_t kMaxVertices = 16'000'000; ///< 256 MB of points.
-constexpr std::size_t kMaxPieces = 4'000'000;    ///< Primitives and texts.
-constexpr int kMaxInstances = 1'000'000;         ///< Placed block references.
-constexpr int kMaxDepth = 64;                    ///< Of block references inside blocks.
+constexpr std::size_t kMaxVertices = 16 * 1000 * 1000; ///< 256 MB of points.
+constexpr std::size_t kMaxPieces = 4 * 1000 * 1000;    ///< Primitives and texts.
+constexpr int kMaxInstances = 1000 * 1000;             ///< Placed block references.
+constexpr int kMaxDepth = 64;                          ///< Of block references inside blocks.
 
 QPointF flat(const Vec3& point)
 {
@@ -56,8 +55,7 @@ Expected<Geometry> GeometryBuilder::build()
     for (std::size_t i = 0; i < entities.size(); ++i) {
         const Entity& entity = entities[i];
         if (i % 256 == 0 && !goOn(i, entities.size()))
-            return tl::unexpected(
-                Error{QCoreApplication::translate("Geometry", "已取消。"), 0, true});
+            return tl::unexpected(Error{Texts::tr("已取消。"), 0, true});
         if (entity.subEntity || entity.removed || !m_drawing.isShown(entity))
             continue;
         definition.clear();
@@ -66,7 +64,7 @@ Expected<Geometry> GeometryBuilder::build()
         emitDefinition(definition, {}, {}, 0);
     }
     if (isCancelled())
-        return tl::unexpected(Error{QCoreApplication::translate("Geometry", "已取消。"), 0, true});
+        return tl::unexpected(Error{Texts::tr("已取消。"), 0, true});
     emitEndless();
     return std::move(m_geometry);
 }

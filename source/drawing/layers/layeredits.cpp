@@ -1,9 +1,8 @@
 #include "layeredits.h"
 
+#include "drawingtexts.h"
 #include "layerrecordedit.h"
 #include "symboltables.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <utility>
@@ -14,11 +13,6 @@ namespace {
 
 constexpr int kLongestName = 255;
 constexpr int kLongestDescription = 255;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
 
 tl::unexpected<Error> refusal(const QString& text)
 {
@@ -54,15 +48,16 @@ QString oneLine(QString text)
 Expected<void> LayerEdits::checkName(const QString& name, LayerId own) const
 {
     if (name.isEmpty())
-        return refusal(tr("图层名不能为空。"));
+        return refusal(Texts::tr("图层名不能为空。"));
     if (name.size() > kLongestName)
-        return refusal(tr("图层名“%1…”超过 255 个字符。").arg(name.left(20)));
+        return refusal(Texts::tr("图层名“%1…”超过 255 个字符。").arg(name.left(20)));
     if (!std::all_of(name.begin(), name.end(), mayStandInName))
         return refusal(
-            tr("图层名“%1”含有不能使用的字符：\\ < > / \" : ; ? * | , = ` 或控制字符。").arg(name));
+            Texts::tr("图层名“%1”含有不能使用的字符：\\ < > / \" : ; ? * | , = ` 或控制字符。")
+                .arg(name));
     const Layer* other = m_data.layers.find(name);
     if (other && other->id != own)
-        return refusal(tr("已有名为“%1”的图层。").arg(other->properties.name));
+        return refusal(Texts::tr("已有名为“%1”的图层。").arg(other->properties.name));
     return {};
 }
 
@@ -70,9 +65,9 @@ Expected<void> LayerEdits::checkRename(const LayerEntry& entry, const QString& n
 {
     const QString& old = entry.layer.properties.name;
     if (old == QLatin1String("0"))
-        return refusal(tr("图层“0”不能重命名。"));
+        return refusal(Texts::tr("图层“0”不能重命名。"));
     if (entry.layer.dependsOnReference)
-        return refusal(tr("图层“%1”依赖外部参照，不能重命名。").arg(old));
+        return refusal(Texts::tr("图层“%1”依赖外部参照，不能重命名。").arg(old));
     return checkName(name, entry.layer.id);
 }
 
@@ -80,19 +75,23 @@ Expected<void> LayerEdits::checkValues(
     const LayerProperties& before, const LayerProperties& after) const
 {
     const auto refuse = [&after](const char* text, const QString& value) {
-        return refusal(tr(text).arg(after.name, value));
+        return refusal(Texts::tr(text).arg(after.name, value));
     };
     if (after.colorIndex < 1 || after.colorIndex > 255)
-        return refuse("图层“%1”：没有颜色索引 %2。", QString::number(after.colorIndex));
+        return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：没有颜色索引 %2。"),
+            QString::number(after.colorIndex));
     if (after.trueColor && *after.trueColor > 0xffffff)
-        return refuse("图层“%1”：没有真彩色 %2。", QString::number(*after.trueColor, 16));
+        return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：没有真彩色 %2。"),
+            QString::number(*after.trueColor, 16));
     if (after.lineweight != before.lineweight && !isLineweight(after.lineweight))
-        return refuse("图层“%1”：没有线宽 %2。", QString::number(after.lineweight));
+        return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：没有线宽 %2。"),
+            QString::number(after.lineweight));
     if (after.transparency < 0 || after.transparency > kMostTransparent)
-        return refuse(
-            "图层“%1”：透明度 %2 不在 0 到 90 之间。", QString::number(after.transparency));
+        return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：透明度 %2 不在 0 到 90 之间。"),
+            QString::number(after.transparency));
     if (after.description.size() > kLongestDescription)
-        return refuse("图层“%1”：说明“%2…”超过 255 个字符。", after.description.left(20));
+        return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：说明“%2…”超过 255 个字符。"),
+            after.description.left(20));
     return {};
 }
 
@@ -113,7 +112,8 @@ Expected<LayerProperties> LayerEdits::settled(
     else if (key == continuous.toCaseFolded())
         after.linetype = continuous;
     else
-        return refusal(tr("图层“%1”：图形中没有线型“%2”。").arg(after.name, wanted.linetype));
+        return refusal(
+            Texts::tr("图层“%1”：图形中没有线型“%2”。").arg(after.name, wanted.linetype));
     if (const auto checked = checkValues(before, after); !checked)
         return tl::make_unexpected(checked.error());
     return after;
@@ -159,7 +159,7 @@ quint64 LayerEdits::plotStyleHandle(const LayerEntry& entry, const QString& want
 Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& properties)
 {
     if (!m_data.layers.layer(id))
-        return refusal(tr("图层“%1”已不存在。").arg(properties.name));
+        return refusal(Texts::tr("图层“%1”已不存在。").arg(properties.name));
     LayerEntry entry = m_data.layers.entry(id);
     const LayerProperties before = entry.layer.properties;
     auto wanted = settled(before, properties);
@@ -213,14 +213,15 @@ Expected<void> LayerEdits::remove(LayerId id)
 {
     const Layer* layer = m_data.layers.layer(id);
     if (!layer)
-        return refusal(tr("图层已不存在。"));
+        return refusal(Texts::tr("图层已不存在。"));
     const QString& name = layer->properties.name;
     if (name == QLatin1String("0"))
-        return refusal(tr("图层“0”不能删除。"));
+        return refusal(Texts::tr("图层“0”不能删除。"));
     if (id == m_data.state.current)
-        return refusal(tr("当前图层“%1”不能删除。").arg(name));
+        return refusal(Texts::tr("当前图层“%1”不能删除。").arg(name));
     if (layer->used())
-        return refusal(tr("图层“%1”上有 %2 个对象，不能删除。").arg(name).arg(layer->entityCount));
+        return refusal(
+            Texts::tr("图层“%1”上有 %2 个对象，不能删除。").arg(name).arg(layer->entityCount));
     LayerEntry entry = m_data.layers.entry(id);
     SymbolTables(m_data).removeLayerRecord(entry);
     entry.present = false;
@@ -231,7 +232,7 @@ Expected<void> LayerEdits::remove(LayerId id)
 Expected<void> LayerEdits::setCurrent(LayerId id)
 {
     if (!m_data.layers.layer(id))
-        return refusal(tr("图层已不存在。"));
+        return refusal(Texts::tr("图层已不存在。"));
     if (id == m_data.state.current)
         return {};
     m_data.state.current = id;

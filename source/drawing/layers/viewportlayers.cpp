@@ -1,12 +1,11 @@
 #include "viewportlayers.h"
 
 #include "drawingdata.h"
+#include "drawingtexts.h"
 #include "handles.h"
 #include "layeroverrides.h"
 #include "symboltables.h"
 #include "taglist.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -15,11 +14,6 @@ namespace drawing {
 namespace {
 
 constexpr quint32 kAddedHandles = 1; // Order of the insertion that holds them.
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
 
 bool isFrozenCode(int code)
 {
@@ -107,12 +101,13 @@ Expected<void> ViewportLayers::check() const
         return tl::make_unexpected(Error{text, 0, false});
     };
     if (!m_data.limits.markers)
-        return refusal(tr("此图形的格式不能保存视口中的图层特性"));
+        return refusal(Texts::tr("此图形的格式不能保存视口中的图层特性"));
     if (m_data.state.modelSpace)
-        return refusal(tr("当前不在布局中"));
+        return refusal(Texts::tr("当前不在布局中"));
     const QString& name = m_data.layouts[static_cast<size_t>(m_data.state.layout)].name;
     if (current() < 0)
-        return refusal(tr("布局%1中没有视口").arg(name.isEmpty() ? name : tr("“%1”").arg(name)));
+        return refusal(
+            Texts::tr("布局%1中没有视口").arg(name.isEmpty() ? name : Texts::tr("“%1”").arg(name)));
     return {};
 }
 

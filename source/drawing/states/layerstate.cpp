@@ -1,9 +1,9 @@
 #include "layerstate.h"
 
 #include "drawing.h"
+#include "drawingtexts.h"
 #include "layeroverrides.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -42,11 +42,6 @@ constexpr MaskRow kRows[] = {
 constexpr int kOverridable =
     kStateColor | kStateLinetype | kStateLineweight | kStatePlotStyle | kStateTransparency;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
-
 /// Whether a viewport's visibility is part of restoring the state: one saved in model space says
 /// nothing of it.
 bool concernsViewport(const LayerState& state, int mask, const Drawing& drawing)
@@ -62,8 +57,8 @@ bool contains(const std::vector<LayerId>& sorted, LayerId layer)
 /// The first name, and how many there are when there are more.
 QString firstOf(const QStringList& names)
 {
-    return names.size() > 1 ? tr("“%1”等 %2 个图层").arg(names.first()).arg(names.size())
-                            : tr("“%1”").arg(names.first());
+    return names.size() > 1 ? Texts::tr("“%1”等 %2 个图层").arg(names.first()).arg(names.size())
+                            : Texts::tr("“%1”").arg(names.first());
 }
 
 QString nameOf(const Drawing& drawing, LayerId id)
@@ -131,7 +126,7 @@ QStringList Restoring::run()
             missing += saved.properties.name;
     }
     if (!missing.isEmpty())
-        m_notices += tr("图形中没有图层%1，没有恢复。").arg(firstOf(missing));
+        m_notices += Texts::tr("图形中没有图层%1，没有恢复。").arg(firstOf(missing));
     if (concernsViewport(m_state, m_how.mask, m_drawing))
         restoreVisibility();
     if (m_how.turnOthersOff)
@@ -148,7 +143,7 @@ void Restoring::makeCurrent()
     if (!wanted || wanted->id == present || wanted->dependsOnReference)
         return;
     if (willBeFrozen(*wanted))
-        m_notices += tr("图层“%1”恢复后是冻结的，不能置为当前；当前图层仍为“%2”。")
+        m_notices += Texts::tr("图层“%1”恢复后是冻结的，不能置为当前；当前图层仍为“%2”。")
                          .arg(wanted->properties.name, nameOf(m_drawing, present));
     else if (const auto done = m_drawing.setCurrentLayer(wanted->id); !done)
         m_notices += done.error().text;
@@ -172,8 +167,9 @@ void Restoring::overrideLayers()
     const int wanted = m_how.mask & kOverridable;
     m_how.mask &= ~kOverridable;
     if (const auto possible = m_drawing.checkViewport(); !possible) {
-        m_notices += tr("%1：颜色、线型、线宽、打印样式和透明度不能作为视口替代应用，没有恢复。")
-                         .arg(possible.error().text);
+        m_notices +=
+            Texts::tr("%1：颜色、线型、线宽、打印样式和透明度不能作为视口替代应用，没有恢复。")
+                .arg(possible.error().text);
         return;
     }
     std::vector<LayerInViewport> layers;
@@ -189,7 +185,7 @@ void Restoring::overrideLayers()
     for (const LayerId id : incomplete.value_or(std::vector<LayerId>()))
         names += nameOf(m_drawing, id);
     if (!names.isEmpty())
-        m_notices += tr("图形中没有图层%1的线型，没有恢复。").arg(firstOf(names));
+        m_notices += Texts::tr("图形中没有图层%1的线型，没有恢复。").arg(firstOf(names));
 }
 
 /// Plot styles have no place among the overrides.
@@ -202,7 +198,8 @@ void Restoring::noteUnheldStyles(const std::vector<LayerInViewport>& layers)
             names += now.name;
     }
     if (!names.isEmpty())
-        m_notices += tr("图层%1的打印样式不能作为视口替代保存，没有恢复。").arg(firstOf(names));
+        m_notices +=
+            Texts::tr("图层%1的打印样式不能作为视口替代保存，没有恢复。").arg(firstOf(names));
 }
 
 /// Layers that the state does not hold stay as they are in the viewport.
@@ -226,7 +223,7 @@ void Restoring::restoreVisibility()
     if (frozen.empty() && now.empty())
         return;
     if (const auto done = m_drawing.setFrozenInViewport(frozen); !done)
-        m_notices += tr("%1：图层在当前视口中的可见性没有恢复。").arg(done.error().text);
+        m_notices += Texts::tr("%1：图层在当前视口中的可见性没有恢复。").arg(done.error().text);
 }
 
 void Restoring::restoreLayer(const Layer& layer, const LayerProperties& saved)
@@ -234,7 +231,7 @@ void Restoring::restoreLayer(const Layer& layer, const LayerProperties& saved)
     const LayerProperties& now = layer.properties;
     LayerProperties after = maskedProperties(now, respelled(saved, now), m_how.mask);
     if (after.frozen && !now.frozen && layer.id == m_drawing.currentLayer()) {
-        m_notices += tr("当前图层“%1”不能冻结。").arg(now.name);
+        m_notices += Texts::tr("当前图层“%1”不能冻结。").arg(now.name);
         after.frozen = false;
     }
     apply(layer.id, after);

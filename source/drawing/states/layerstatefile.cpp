@@ -1,9 +1,9 @@
 #include "layerstatefile.h"
 
+#include "drawingtexts.h"
 #include "layerstatetags.h"
 #include "tagreader.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -19,11 +19,6 @@ constexpr std::string_view kState = "LAYERSTATE";
 constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 constexpr int kFilePlotStyleCode = 2;
 constexpr int kLongestName = 255;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
 
 QString shown(const QString& path)
 {
@@ -99,9 +94,10 @@ qint64 FileReader::run()
     noteUnused(reader.unused());
     if (tags.broken()) {
         const bool hasLast = static_cast<int>(m_file.states.size()) > whole;
-        m_file.notices += hasLast ? tr("文件不完整：在图层状态“%1”中中断，其后的内容没有读入。")
-                                        .arg(m_file.states.back().name)
-                                  : tr("文件不完整：末尾的内容没有读入。");
+        m_file.notices += hasLast
+                              ? Texts::tr("文件不完整：在图层状态“%1”中中断，其后的内容没有读入。")
+                                    .arg(m_file.states.back().name)
+                              : Texts::tr("文件不完整：末尾的内容没有读入。");
     }
     return -1;
 }
@@ -114,14 +110,14 @@ void FileReader::noteUnused(const LayerStateUnused& unused)
          ++at)
         codes += QString::number(*at);
     if (!codes.isEmpty())
-        m_file.notices +=
-            tr("不认识的组码 %1%2，已跳过。")
-                .arg(codes.join(tr("、")), unused.codes.size() > kMost ? tr("等") : QString());
+        m_file.notices += Texts::tr("不认识的组码 %1%2，已跳过。")
+                              .arg(codes.join(Texts::tr("、")),
+                                  unused.codes.size() > kMost ? Texts::tr("等") : QString());
     if (unused.maskBits != 0)
-        m_file.notices += tr("恢复掩码中不认识的位 %1，已忽略。").arg(unused.maskBits);
+        m_file.notices += Texts::tr("恢复掩码中不认识的位 %1，已忽略。").arg(unused.maskBits);
     if (unused.values > 0)
         m_file.notices +=
-            tr("%1 个颜色或线宽的值不存在，图层的该项用默认值代替。").arg(unused.values);
+            Texts::tr("%1 个颜色或线宽的值不存在，图层的该项用默认值代替。").arg(unused.values);
 }
 
 void FileReader::close(LayerStateReader& reader)
@@ -131,7 +127,7 @@ void FileReader::close(LayerStateReader& reader)
         return;
     state.name = state.name.trimmed();
     if (state.name.isEmpty() || state.name.size() > kLongestName)
-        m_file.notices += tr("一个图层状态没有可用的名称，没有读入。");
+        m_file.notices += Texts::tr("一个图层状态没有可用的名称，没有读入。");
     else
         m_file.states.push_back(std::move(state));
 }
@@ -151,8 +147,8 @@ bool isLayerStateFile(const QString& path)
 Expected<LayerStateFile> readLayerStateFile(const QString& path, const TextCodec& fallback)
 {
     const auto refusal = [&path](const QString& cause, qint64 line = 0) {
-        return tl::make_unexpected(
-            Error{tr("无法读取图层状态文件“%1”：%2。").arg(shown(path), cause), line, false});
+        return tl::make_unexpected(Error{
+            Texts::tr("无法读取图层状态文件“%1”：%2。").arg(shown(path), cause), line, false});
     };
     QFile file(path);
     if (!file.exists())
@@ -161,23 +157,23 @@ Expected<LayerStateFile> readLayerStateFile(const QString& path, const TextCodec
         return refusal(file.errorString());
     const uchar* mapped = file.size() > 0 ? file.map(0, file.size()) : nullptr;
     if (!mapped)
-        return refusal(file.size() > 0 ? file.errorString() : tr("它是空的"));
+        return refusal(file.size() > 0 ? file.errorString() : Texts::tr("它是空的"));
     const std::string_view all(
         reinterpret_cast<const char*>(mapped), static_cast<size_t>(file.size()));
     if (!startsAsStates(all))
-        return refusal(tr("第 1 行不是图层状态文件的开头"), 1);
+        return refusal(Texts::tr("第 1 行不是图层状态文件的开头"), 1);
     const std::string_view bytes = withoutMark(all);
     const TextCodec codec = codecOf(bytes, fallback);
     FileReader reader(bytes, codec);
     const qint64 fault = reader.run();
     if (fault >= 0) {
         const qint64 line = 1 + std::count(bytes.begin(), bytes.begin() + fault, '\n');
-        return refusal(tr("第 %1 行的组码不是数字").arg(line), line);
+        return refusal(Texts::tr("第 %1 行的组码不是数字").arg(line), line);
     }
     LayerStateFile read = std::move(reader.file());
     if (!(codec == TextCodec::utf8()))
-        read.notices.prepend(
-            tr("文件“%1”的文字不是 UTF-8 编码，已按 %2 读取。").arg(shown(path), codec.title()));
+        read.notices.prepend(Texts::tr("文件“%1”的文字不是 UTF-8 编码，已按 %2 读取。")
+                                 .arg(shown(path), codec.title()));
     return read;
 }
 
@@ -185,7 +181,7 @@ Expected<void> writeLayerStateFile(const QString& path, const std::vector<LayerS
 {
     const auto refusal = [&path](const QString& cause) {
         return tl::make_unexpected(
-            Error{tr("无法写入图层状态文件“%1”：%2。").arg(shown(path), cause), 0, false});
+            Error{Texts::tr("无法写入图层状态文件“%1”：%2。").arg(shown(path), cause), 0, false});
     };
     const TextCodec utf8 = TextCodec::utf8().forNewFile();
     TagStyle style;

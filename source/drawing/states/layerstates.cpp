@@ -1,10 +1,10 @@
 #include "layerstates.h"
 
+#include "drawingtexts.h"
 #include "handles.h"
 #include "layerstatefile.h"
 #include "objectedits.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <unordered_set>
@@ -16,11 +16,6 @@ namespace {
 constexpr int kDrawingPlotStyleCode = 1;
 constexpr char kStatesKey[] = "ACAD_LAYERSTATES";
 constexpr char kExtension[] = "{ACAD_XDICTIONARY";
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
 
 bool isReference(int code)
 {
@@ -231,7 +226,7 @@ Expected<void> LayerStates::readyToWrite() const
     if (m_data.statesFault.isEmpty())
         return {};
     return tl::make_unexpected(
-        Error{tr("此图形的图层状态文件无法读取，为免丢失其中的内容，不能改动图层状态：%1")
+        Error{Texts::tr("此图形的图层状态文件无法读取，为免丢失其中的内容，不能改动图层状态：%1")
                   .arg(m_data.statesFault),
             0, false});
 }
@@ -294,7 +289,7 @@ Expected<void> LayerStates::remove(const QStringList& names)
     }
     if (gone.empty())
         return tl::make_unexpected(
-            Error{tr("图形中没有图层状态“%1”。").arg(names.value(0)), 0, false});
+            Error{Texts::tr("图形中没有图层状态“%1”。").arg(names.value(0)), 0, false});
     writeDictionary(after, gone);
     keep(std::move(after));
     return {};
@@ -311,10 +306,11 @@ Expected<void> LayerStates::rename(const QString& name, const QString& newName)
             renamed = &entry;
         else if (entry.name.compare(newName, Qt::CaseInsensitive) == 0)
             return tl::make_unexpected(
-                Error{tr("已有名为“%1”的图层状态。").arg(entry.name), 0, false});
+                Error{Texts::tr("已有名为“%1”的图层状态。").arg(entry.name), 0, false});
     }
     if (!renamed)
-        return tl::make_unexpected(Error{tr("图形中没有图层状态“%1”。").arg(name), 0, false});
+        return tl::make_unexpected(
+            Error{Texts::tr("图形中没有图层状态“%1”。").arg(name), 0, false});
     renamed->name = newName;
     writeDictionary(table, {});
     keep(std::move(table));

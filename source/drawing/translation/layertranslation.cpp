@@ -1,10 +1,10 @@
 #include "layertranslation.h"
 
 #include "drawingprivate.h"
+#include "drawingtexts.h"
 #include "entityedits.h"
 #include "targetlayers.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -13,11 +13,6 @@
 namespace drawing {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
 
 bool alwaysStays(const Layer& layer)
 {
@@ -79,15 +74,15 @@ private:
 QString Translation::refusalOf(const LayerMapping& mapping, const Layer* source)
 {
     if (!source)
-        return tr("图形中没有图层“%1”。").arg(mapping.from);
+        return Texts::tr("图形中没有图层“%1”。").arg(mapping.from);
     const QString& name = source->properties.name;
     if (source->dependsOnReference)
-        return tr("图层“%1”依赖外部参照，不能转换。").arg(name);
+        return Texts::tr("图层“%1”依赖外部参照，不能转换。").arg(name);
     if (m_sources.contains(static_cast<int>(source->id)))
-        return tr("图层“%1”已在前面的映射中。").arg(name);
+        return Texts::tr("图层“%1”已在前面的映射中。").arg(name);
     const Layer* target = m_drawing.findLayer(mapping.to.name.trimmed());
     if (target && target->dependsOnReference)
-        return tr("目标图层“%1”依赖外部参照。").arg(target->properties.name);
+        return Texts::tr("目标图层“%1”依赖外部参照。").arg(target->properties.name);
     return {};
 }
 
@@ -139,8 +134,8 @@ Expected<void> Translation::prepareTarget(Plan& plan)
     plan.to = m_targetIds.value(key);
     result(plan).target = MappingResult::Target::Unchanged;
     if (!isSameTarget(m_mappings[*decided].to, target(plan)))
-        result(plan).notices +=
-            tr("目标图层“%1”在前面的映射中有别的特性，以前面的为准。").arg(target(plan).name);
+        result(plan).notices += Texts::tr("目标图层“%1”在前面的映射中有别的特性，以前面的为准。")
+                                    .arg(target(plan).name);
     return {};
 }
 
@@ -182,7 +177,7 @@ void Translation::moveCurrentLayer()
         const LayerProperties& properties = m_drawing.layer(plan.to)->properties;
         if (properties.frozen)
             result(plan).notices +=
-                tr("目标图层“%1”已冻结，不能成为当前图层：当前图层“%2”保留。")
+                Texts::tr("目标图层“%1”已冻结，不能成为当前图层：当前图层“%2”保留。")
                     .arg(properties.name, m_drawing.layer(current)->properties.name);
         else if (const auto moved = m_drawing.setCurrentLayer(plan.to); !moved)
             result(plan).notices += moved.error().text;
@@ -264,7 +259,8 @@ Expected<TranslationReport> translateLayers(
     Drawing& drawing, const std::vector<LayerMapping>& mappings, const TranslationOptions& options)
 {
     if (!drawing.inStep())
-        return tl::make_unexpected(Error{tr("图形没有打开的操作步骤，不能转换图层。"), 0, false});
+        return tl::make_unexpected(
+            Error{Texts::tr("图形没有打开的操作步骤，不能转换图层。"), 0, false});
     return Translation(drawing, mappings, options).run();
 }
 

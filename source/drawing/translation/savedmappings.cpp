@@ -1,10 +1,9 @@
 #include "savedmappings.h"
 
+#include "drawingtexts.h"
 #include "handles.h"
 #include "objectedits.h"
 #include "symboltables.h"
-
-#include <QCoreApplication>
 
 namespace drawing {
 
@@ -80,9 +79,7 @@ Expected<void> SavedMappings::write(const SavedMappingList& list)
     const ObjectPlace* root = this->root();
     if (!m_data.limits.markers || !root)
         return tl::make_unexpected(
-            Error{QCoreApplication::translate(
-                      "drawing", "此文件的格式（DXF R12 或没有对象字典）不能保存图层映射。"),
-                0, false});
+            Error{Texts::tr("此文件的格式（DXF R12 或没有对象字典）不能保存图层映射。"), 0, false});
     ObjectEdits objects(m_data);
     SymbolTables tables(m_data);
     const TagStyle style = objects.style();

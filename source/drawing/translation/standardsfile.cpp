@@ -1,11 +1,11 @@
 #include "standardsfile.h"
 
 #include "drawingprivate.h"
+#include "drawingtexts.h"
 #include "plotstyles.h"
 #include "savedmappings.h"
 #include "targetlayers.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -23,15 +23,10 @@ namespace {
 
 constexpr char kEmptyDrawing[] = ":/drawing/standard.dxf";
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
-
 tl::unexpected<Error> refusal(const QString& path, const QString& cause)
 {
-    return tl::make_unexpected(Error{
-        tr("无法把图层映射保存到“%1”：%2文件未改动。").arg(QDir::toNativeSeparators(path), cause),
+    return tl::make_unexpected(Error{Texts::tr("无法把图层映射保存到“%1”：%2文件未改动。")
+                                         .arg(QDir::toNativeSeparators(path), cause),
         0, false});
 }
 
@@ -97,12 +92,13 @@ Expected<void> StandardWriter::putTarget(const TargetLayer& target)
     const auto known = m_put.constFind(key);
     if (known != m_put.constEnd()) {
         if (!isSameTarget(*known, target))
-            m_notices += tr("目标图层“%1”有几组不同的特性，只保存了第一组。").arg(target.name);
+            m_notices +=
+                Texts::tr("目标图层“%1”有几组不同的特性，只保存了第一组。").arg(target.name);
         return {};
     }
     m_put.insert(key, target);
     if (isNamedPlotStyle(target.plotStyle) && !m_drawing.hasNamedPlotStyles())
-        m_notices += tr("文件中的打印样式由颜色决定：没有保存图层“%1”的打印样式“%2”。")
+        m_notices += Texts::tr("文件中的打印样式由颜色决定：没有保存图层“%1”的打印样式“%2”。")
                          .arg(target.name, target.plotStyle);
     if (const Layer* layer = m_drawing.findLayer(target.name.trimmed()))
         return m_layers.change(layer->id, target);
@@ -117,7 +113,7 @@ Expected<void> StandardWriter::putMappings(const std::vector<LayerMapping>& mapp
     QSet<QString> sources;
     for (const LayerMapping& mapping : mappings) {
         if (sources.contains(nameKey(mapping.from))) {
-            m_notices += tr("图层“%1”有几条映射，只保存了第一条。").arg(mapping.from);
+            m_notices += Texts::tr("图层“%1”有几条映射，只保存了第一条。").arg(mapping.from);
             continue;
         }
         sources.insert(nameKey(mapping.from));
@@ -128,7 +124,7 @@ Expected<void> StandardWriter::putMappings(const std::vector<LayerMapping>& mapp
     };
     const auto dropped = std::count_if(before.mappings.begin(), before.mappings.end(), isDropped);
     if (dropped > 0)
-        m_notices += tr("文件中原有的 %1 条其他映射已被现在的映射取代。").arg(dropped);
+        m_notices += Texts::tr("文件中原有的 %1 条其他映射已被现在的映射取代。").arg(dropped);
     return m_saved.write(list);
 }
 
@@ -150,8 +146,9 @@ Expected<Standard> readStandard(const QString& path)
         if (const TargetLayer* target = byName.value(nameKey(mapping.to)))
             standard.mappings.push_back({mapping.from, *target});
         else
-            standard.notices += tr("文件“%1”：映射“%2” → “%3”的目标图层不在文件中，没有读入。")
-                                    .arg(QDir::toNativeSeparators(path), mapping.from, mapping.to);
+            standard.notices +=
+                Texts::tr("文件“%1”：映射“%2” → “%3”的目标图层不在文件中，没有读入。")
+                    .arg(QDir::toNativeSeparators(path), mapping.from, mapping.to);
     }
     if (saved.isZeroIdle)
         standard.layers.erase(
@@ -159,9 +156,10 @@ Expected<Standard> readStandard(const QString& path)
             standard.layers.end());
     if (std::all_of(standard.layers.begin(), standard.layers.end(), isEverywhere) &&
         standard.mappings.empty())
-        return tl::make_unexpected(Error{tr("文件“%1”除图层 0 外没有图层，不能作为图层标准。")
-                                             .arg(QDir::toNativeSeparators(path)),
-            0, false});
+        return tl::make_unexpected(
+            Error{Texts::tr("文件“%1”除图层 0 外没有图层，不能作为图层标准。")
+                      .arg(QDir::toNativeSeparators(path)),
+                0, false});
     return standard;
 }
 

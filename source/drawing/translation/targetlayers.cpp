@@ -1,19 +1,10 @@
 #include "targetlayers.h"
 
-#include <QCoreApplication>
+#include "drawingtexts.h"
 
 #include <tuple>
 
 namespace drawing {
-
-namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
-
-} // namespace
 
 bool isNamedPlotStyle(const QString& style)
 {
@@ -42,7 +33,7 @@ QString TargetLayers::linetypeFor(const TargetLayer& target, const LayerProperti
         return target.linetype;
     if (definition && nameKey(definition->name) == key && m_drawing.addLinetype(*definition))
         return target.linetype;
-    m_notices += tr("图形中没有线型“%1”，也没有它的定义：图层“%2”的线型为“%3”。")
+    m_notices += Texts::tr("图形中没有线型“%1”，也没有它的定义：图层“%2”的线型为“%3”。")
                      .arg(target.linetype, target.name, base.linetype);
     return base.linetype;
 }
@@ -69,7 +60,7 @@ Expected<void> TargetLayers::set(
         const LayerProperties& now = m_drawing.layer(id)->properties;
         if (isNamedPlotStyle(target.plotStyle) && m_drawing.hasNamedPlotStyles() &&
             now.plotStyle.compare(target.plotStyle, Qt::CaseInsensitive) != 0)
-            m_notices += tr("图形中没有打印样式“%1”：图层“%2”的打印样式为“%3”。")
+            m_notices += Texts::tr("图形中没有打印样式“%1”：图层“%2”的打印样式为“%3”。")
                              .arg(target.plotStyle, now.name, now.plotStyle);
     });
 }

@@ -1,6 +1,7 @@
 #include "translationlog.h"
 
-#include <QCoreApplication>
+#include "drawingtexts.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
@@ -10,11 +11,6 @@ namespace drawing {
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("drawing", text);
-}
-
 struct OptionText
 {
     bool TranslationOptions::*option;
@@ -22,10 +18,11 @@ struct OptionText
 };
 
 constexpr OptionText kOptions[] = {
-    {&TranslationOptions::colorByLayer, "强制对象颜色为 ByLayer"},
-    {&TranslationOptions::linetypeByLayer, "强制对象线型为 ByLayer"},
-    {&TranslationOptions::transparencyByLayer, "强制对象透明度为 ByLayer"},
-    {&TranslationOptions::inBlocks, "转换块中的对象"},
+    {&TranslationOptions::colorByLayer, QT_TRANSLATE_NOOP("drawing", "强制对象颜色为 ByLayer")},
+    {&TranslationOptions::linetypeByLayer, QT_TRANSLATE_NOOP("drawing", "强制对象线型为 ByLayer")},
+    {&TranslationOptions::transparencyByLayer,
+        QT_TRANSLATE_NOOP("drawing", "强制对象透明度为 ByLayer")},
+    {&TranslationOptions::inBlocks, QT_TRANSLATE_NOOP("drawing", "转换块中的对象")},
 };
 
 QString optionLine(const TranslationOptions& options)
@@ -33,38 +30,38 @@ QString optionLine(const TranslationOptions& options)
     QStringList chosen;
     for (const OptionText& row : kOptions) {
         if (options.*row.option)
-            chosen += tr(row.text);
+            chosen += Texts::tr(row.text);
     }
-    return chosen.isEmpty() ? tr("无") : chosen.join(tr("，"));
+    return chosen.isEmpty() ? Texts::tr("无") : chosen.join(Texts::tr("，"));
 }
 
 QString targetText(MappingResult::Target target)
 {
     switch (target) {
     case MappingResult::Target::Made:
-        return tr("目标图层已新建");
+        return Texts::tr("目标图层已新建");
     case MappingResult::Target::Changed:
-        return tr("目标图层的特性已改动");
+        return Texts::tr("目标图层的特性已改动");
     case MappingResult::Target::Unchanged:
-        return tr("目标图层的特性不变");
+        return Texts::tr("目标图层的特性不变");
     case MappingResult::Target::LeftOut:
         break;
     }
-    return tr("未执行");
+    return Texts::tr("未执行");
 }
 
 QString mappingLine(const MappingResult& result)
 {
-    const QString names = tr("“%1” → “%2”：").arg(result.from, result.to);
+    const QString names = Texts::tr("“%1” → “%2”：").arg(result.from, result.to);
     if (!result.isApplied())
-        return names + tr("未执行。") + result.cause;
+        return names + Texts::tr("未执行。") + result.cause;
     QString line =
-        names + tr("%1 个对象，%2").arg(result.translated).arg(targetText(result.target));
+        names + Texts::tr("%1 个对象，%2").arg(result.translated).arg(targetText(result.target));
     if (result.sourceRemoved)
-        line += tr("，原图层已删除");
+        line += Texts::tr("，原图层已删除");
     if (result.leftInBlocks > 0)
-        line += tr("，块中的 %1 个对象未转换").arg(result.leftInBlocks);
-    return line + tr("。");
+        line += Texts::tr("，块中的 %1 个对象未转换").arg(result.leftInBlocks);
+    return line + Texts::tr("。");
 }
 
 } // namespace
@@ -80,11 +77,11 @@ QString translationLog(
 {
     const int leftOut = static_cast<int>(report.mappings.size()) - report.appliedCount();
     QStringList lines{
-        tr("图层转换日志"),
-        tr("图形：%1").arg(QDir::toNativeSeparators(drawingPath)),
-        tr("时间：%1").arg(QDateTime::currentDateTime().toString(Qt::ISODate)),
-        tr("选项：%1").arg(optionLine(options)),
-        tr("映射：%1 条已执行，%2 条未执行；%3 个对象中转换了 %4 个。")
+        Texts::tr("图层转换日志"),
+        Texts::tr("图形：%1").arg(QDir::toNativeSeparators(drawingPath)),
+        Texts::tr("时间：%1").arg(QDateTime::currentDateTime().toString(Qt::ISODate)),
+        Texts::tr("选项：%1").arg(optionLine(options)),
+        Texts::tr("映射：%1 条已执行，%2 条未执行；%3 个对象中转换了 %4 个。")
             .arg(report.appliedCount())
             .arg(leftOut)
             .arg(report.entities)
@@ -107,9 +104,9 @@ Expected<void> writeTranslationLog(const QString& path, const QString& text)
     const QByteArray bytes = text.toUtf8();
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return {};
-    return tl::make_unexpected(Error{
-        tr("无法写入日志文件“%1”：%2。").arg(QDir::toNativeSeparators(path), file.errorString()), 0,
-        false});
+    return tl::make_unexpected(Error{Texts::tr("无法写入日志文件“%1”：%2。")
+                                         .arg(QDir::toNativeSeparators(path), file.errorString()),
+        0, false});
 }
 
 } // namespace drawing

@@ -18,6 +18,8 @@ namespace {
 using drawing::Error;
 using drawing::Expected;
 
+constexpr int kRetryMicroseconds = 200 * 1000;
+
 tl::unexpected<Error> inUse(const QString& folder)
 {
     return tl::make_unexpected(Error{
@@ -89,7 +91,7 @@ Expected<void> FolderLock::lockFolder(const QString& folder, const Shard& shard,
         }
         if (!waits)
             return inUse(folder);
-        ::usleep(200'000);
+        ::usleep(kRetryMicroseconds);
     }
 }
 
