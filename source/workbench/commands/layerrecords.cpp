@@ -232,21 +232,6 @@ void Provider::readField(int field, const VnJsonPtr& record, LayerProperties& pr
         read.read(LayerRecord(record), read.key, properties);
 }
 
-VnJsonPtr make(const Layer& layer, bool current)
-{
-    return Provider::full().make(layer, current);
-}
-
-VnJsonPtr makeList(const drawing::Drawing& drawing)
-{
-    return Provider::full().list(drawing);
-}
-
-LayerProperties properties(const VnJsonPtr& record, const LayerProperties& base)
-{
-    return Provider::full().read(record, base);
-}
-
 drawing::LayerId idOf(const VnJsonPtr& record)
 {
     return drawing::LayerId{

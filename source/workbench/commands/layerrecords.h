@@ -58,14 +58,6 @@ private:
     std::vector<const Field*> m_fields;
 };
 
-/// The record of a layer with all its members.
-vnsi::VnJsonPtr make(const drawing::Layer& layer, bool current);
-/// Those of all layers.
-vnsi::VnJsonPtr makeList(const drawing::Drawing& drawing);
-/// The properties in such a record.
-drawing::LayerProperties properties(
-    const vnsi::VnJsonPtr& record, const drawing::LayerProperties& base);
-
 /// The layer a record was made of; `None` for a record that has none yet.
 drawing::LayerId idOf(const vnsi::VnJsonPtr& record);
 void setId(const vnsi::VnJsonPtr& record, drawing::LayerId id);

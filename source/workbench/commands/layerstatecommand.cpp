@@ -210,7 +210,7 @@ void LayerStateCommand::report(const QString& title)
 void LayerStateCommand::fillEditor(const VnJsonPtr& node, const LayerState& state)
 {
     node->SetDataJ(key::kList, staterecords::make(state));
-    node->SetDataJ(vnsi::layerkey::kList, layerrecords::makeList(drawing()));
+    node->SetDataJ(vnsi::layerkey::kList, layerrecords::Provider::full().list(drawing()));
 }
 
 void LayerStateCommand::prepareEdit(const VnJsonPtr& node)

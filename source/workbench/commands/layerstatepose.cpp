@@ -63,7 +63,7 @@ void LayerStateCommand::pose(CommandContext& context, const Camera& camera)
     showStates(states);
     fillEditor(m_editor, states.back());
     m_editor->SetDataSW(key::kEditedName, vnsi::vnutQStringToOdString(states.back().name));
-    m_editor->SetDataJ(key::kCandidates, layerrecords::makeList(drawing()));
+    m_editor->SetDataJ(key::kCandidates, layerrecords::Provider::full().list(drawing()));
 
     const auto unfold = [&camera](QWidget& window) {
         auto* const button = window.findChild<QAbstractButton*>(QStringLiteral("extendButton"));

@@ -23,7 +23,7 @@ VnJsonPtr make(const LayerState& state)
     for (const LayerStateLayer& layer : state.layers) {
         drawing::Layer shown;
         shown.properties = layer.properties;
-        const VnJsonPtr node = layerrecords::make(shown, false);
+        const VnJsonPtr node = layerrecords::Provider::full().make(shown, false);
         LayerRecord(node).setCurrentOfState(
             vnsi::isSameName(layer.properties.name, state.currentLayer));
         list->Append(node);
@@ -63,7 +63,7 @@ void takeEdited(LayerState& state, const VnJsonPtr& records, const drawing::Draw
             layer = *held;
         else if (known)
             layer.properties = known->properties;
-        layer.properties = layerrecords::properties(records(i), layer.properties);
+        layer.properties = layerrecords::Provider::full().read(records(i), layer.properties);
         layer.properties.description.clear(); // No part of a state.
         if (record.isCurrentOfState())
             state.currentLayer = name;
