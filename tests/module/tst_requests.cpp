@@ -1,8 +1,13 @@
 #include "RxObjectImpl.h"
+#include "hostapi/hostcalls.h"
+#include "hostcodes.h"
+#include "hostextras.h"
+#include "hoststart.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
 #include "rows.h"
 #include "trees.h"
+#include "valuetree.h"
 #include "vornqt.h"
 
 #include <QJsonDocument>
@@ -29,8 +34,45 @@ class Bystander : public OdRxObject
 {
 };
 
+class Thrower : public VnUiDialogInvoker
+{
+    void invoke(VnJsonPtr) override { throw 4; }
+};
+
+VnQtAnswer ask(const VnJsonPtr& node, const OdRxObjectPtr& invoker, const VnQtRequest& request,
+    const VnQtArgumentWriter& write = {}, const char* dialogName = "probe")
+{
+    return vnqtAsk(node, OdRxObjectImpl<VnQtCommandInvoker>::createObject(invoker), dialogName,
+        request, write);
+}
+
+/// A host that fails at whatever it is asked.
+class BrokenHost : public host::HostFrontEnd
+{
+public:
+    BrokenHost() : m_previous(host::setHostFrontEnd(this)) {}
+    ~BrokenHost() override { host::setHostFrontEnd(m_previous); }
+
+    int messageBox(const OdString&, const OdString&, int) override { throw 1; }
+    int messageBoxEx(const OdString&, const OdString&, const VnJsonPtr&, int, int, int) override
+    {
+        throw std::runtime_error("broken");
+    }
+    int taskDialog(const host::TaskQuestion&) override { throw OdError_InvalidIndex(); }
+    int showDialog(
+        const OdString&, const OdString&, const VnJsonPtr&, const OdRxObjectPtr&, QWidget*) override
+    {
+        throw 2;
+    }
+    void help(int) override { throw 3; }
+
+private:
+    host::HostFrontEnd* m_previous;
+};
+
 } // namespace
 
+Q_DECLARE_METATYPE(OdRxObjectPtr)
 Q_DECLARE_METATYPE(RecordingInvoker::Answer)
 
 class TestRequests : public QObject
@@ -45,56 +87,84 @@ private slots:
         const auto invoker = RecordingInvoker::create(host, {});
         VnQtRequest request{6, {"IsExistBlock"}};
         request.parameter = 2;
-        QVERIFY(vnqtSendRequest(root, invoker, "probe", request, [](IElementValueBase& node) {
-            node.set("LStateName", L"a").set("IsExistBlock", true);
-        }));
+        QVERIFY(bool(ask(root, invoker, request, [](IElementValueBase& node) {
+            node.SetDataSW("LStateName", L"a");
+            node.SetDataB("IsExistBlock", true);
+        })));
         QCOMPARE(host.log(), (QStringList{"request|6|2|{\"IsExistBlock\":false,"
                                           "\"LStateName\":\"a\",\"marker\":6,\"parameter\":2}"}));
         QVERIFY(!root->GetDataB("IsExistBlock", true));
     }
 
-    void readsAnswerOfSameTree()
+    void handsOverOtherCodeKeyAndTree()
     {
         RecordingHost host;
         const VnJsonPtr root = tree("{}");
-        const auto invoker = RecordingInvoker::create(host, {"layTransUserType"},
-            [&](const VnJsonPtr& node) { node->SetDataB("done", node == root); });
+        const auto invoker = RecordingInvoker::create(host, {"layTransUserType"});
         invoker->setMarkerKey("layTransUserType");
-        VnQtRequest request{5, {"done"}};
+        VnQtRequest request{5};
         request.codeKey = "layTransUserType";
         request.parameterTree = tree(R"({"deep":1})");
-        QVERIFY(vnqtSendRequest(root, invoker, "probe", request, {}));
-        QVERIFY(root->GetDataB("done"));
-        QCOMPARE(root->GetDataI("parameter/deep"), 1);
-        QVERIFY(!root->HasKey("marker"));
+        ask(root, invoker, request);
+        QCOMPARE(toText(root), QStringLiteral(R"({"layTransUserType":5,"parameter":{"deep":1}})"));
         QCOMPARE(host.log(), QStringList{R"(request|5|-1|{"layTransUserType":5})"});
+    }
+
+    void readsAnswerWhereItAsked_data()
+    {
+        const Rows<Answer> row("meddle");
+        row("nothing", Answer([](const VnJsonPtr&) {}));
+        row("replaces", Answer([](const VnJsonPtr& root) {
+            root->SetDataJ("LayerStateMgr", tree(R"([{},{"ok":false}])"));
+        }));
+        row("removes",
+            Answer([](const VnJsonPtr& root) { hostextras::removeKey(*root, "LayerStateMgr"); }));
+        row("empties", Answer([](const VnJsonPtr& root) {
+            host::clear(*root->GetDataJ("LayerStateMgr"));
+            host::clear(*root);
+        }));
+    }
+
+    void readsAnswerWhereItAsked()
+    {
+        QFETCH(Answer, meddle);
+        RecordingHost host;
+        const VnJsonPtr root = tree(R"({"LayerStateMgr":[{},{"ok":false,"other":true}]})");
+        const auto invoker = RecordingInvoker::create(host, {"marker"}, [&](const VnJsonPtr& node) {
+            node->SetDataB("ok", true);
+            meddle(root);
+        });
+        const VnQtAnswer answer = ask(root->GetDataJ("LayerStateMgr")(1), invoker, {5, {"ok"}});
+        QVERIFY(answer && answer->GetDataB("ok"));
+        QVERIFY(answer->GetDataB("other")); // An answer of another code.
+    }
+
+    /// Nothing is written, and what an earlier answer left counts no more.
+    void skipsWithoutPartner_data()
+    {
+        const Rows<bool, OdRxObjectPtr> row("hasTree", "invoker");
+        row("nobody", true, {});
+        row("not a call-back object", true, OdRxObjectImpl<Bystander>::createObject());
+        row("no tree", false, OdRxObjectImpl<VnUiDialogInvoker>::createObject());
     }
 
     void skipsWithoutPartner()
     {
+        QFETCH(bool, hasTree);
+        QFETCH(OdRxObjectPtr, invoker);
         const VnJsonPtr root = tree(R"({"answer":true})");
-        const OdRxObjectPtr stranger = OdRxObjectImpl<Bystander>::createObject();
-        QVERIFY(!vnqtSendRequest(root, {}, "probe", {6, {"answer"}}, {}));
-        QVERIFY(!vnqtSendRequest(root, stranger, "probe", {6, {"answer"}}, {}));
+        bool hasWritten = false;
+        const VnQtAnswer answer = ask(hasTree ? root : VnJsonPtr(), invoker, {6, {"answer"}},
+            [&](IElementValueBase&) { hasWritten = true; });
+        QVERIFY(!answer && !hasWritten && !answer->GetDataB("answer"));
         QCOMPARE(toText(root), QStringLiteral(R"({"answer":true})"));
-    }
-
-    void skipsWithoutTree()
-    {
-        RecordingHost host;
-        bool wrote = false;
-        QVERIFY(!vnqtSendRequest({}, RecordingInvoker::create(host, {}), "probe", {6, {"answer"}},
-            [&](IElementValueBase&) { wrote = true; }));
-        QVERIFY(!wrote);
-        QVERIFY(host.log().isEmpty());
     }
 
     void silentCommandLeavesDefaults()
     {
         const VnJsonPtr root = tree(R"({"answer":true})");
-        vnqtSendRequest(
-            root, OdRxObjectImpl<VnUiDialogInvoker>::createObject(), "probe", {6, {"answer"}}, {});
-        QVERIFY(!root->GetDataB("answer"));
+        const OdRxObjectPtr silent = OdRxObjectImpl<VnUiDialogInvoker>::createObject();
+        QVERIFY(!ask(root, silent, {6, {"answer"}})->GetDataB("answer"));
     }
 
     void reportsWhatCommandThrows_data()
@@ -117,12 +187,26 @@ private slots:
             node->SetDataB("answer", true); // Half an answer is none.
             fail(node);
         });
-        QVERIFY(!vnqtSendRequest(root, invoker, "probe", {6, {"answer"}}, {}));
-        QVERIFY(!root->GetDataB("answer"));
+        const VnQtAnswer answer = ask(root, invoker, {6, {"answer"}});
+        QVERIFY(!answer && !answer->GetDataB("answer") && !root->GetDataB("answer"));
         QCOMPARE(host.log().size(), 2);
         QVERIFY2(host.log().last().startsWith("message|") && host.log().last().contains(cause) &&
                      host.log().last().endsWith("|Quenlith|48"),
             qPrintable(host.log().last()));
+    }
+
+    void countsWhatTheHostThrowsAsCancelled()
+    {
+        host::Host services;
+        const BrokenHost broken;
+        const VnJsonPtr question = tree(R"({"result":1})");
+        QCOMPARE(hostapi::messageBox(L"", L"", kVnYesNo), 0);
+        QCOMPARE(hostapi::messageBoxEx(L"", L"", {}, kVnCustomButtons, 1, 0, 3), 3);
+        QCOMPARE(hostapi::taskDialog(L"", L"", {{101, L"a"}}), 2);
+        QCOMPARE(hostapi::showDialog(L"s", L"d", question)->GetDataI("result"), 0);
+        QCOMPARE(hostapi::showDialogEx(L"s", L"d", {}, {}, nullptr)->GetDataI("result", -1), -1);
+        hostapi::showHelp();
+        QVERIFY(!ask(tree("{}"), OdRxObjectImpl<Thrower>::createObject(), {6}));
     }
 
     void logsJsonLines()
@@ -133,8 +217,12 @@ private slots:
         const auto invoker = RecordingInvoker::create(
             host, {"marker"}, [](const VnJsonPtr& node) { node->SetDataI("answer", 7); });
         const auto send = [&] {
-            vnqtSendRequest(root, invoker, "Dialog_CmdLaydel", {6, {"answer"}},
-                [&](IElementValueBase& node) { node.set("name", name.toStdWString().c_str()); });
+            ask(
+                root, invoker, {6, {"answer"}},
+                [&](IElementValueBase& node) {
+                    node.SetDataSW("name", name.toStdWString().c_str());
+                },
+                "Dialog_CmdLaydel");
         };
         const QtMessageHandler previous = qInstallMessageHandler(keepLine);
         send();

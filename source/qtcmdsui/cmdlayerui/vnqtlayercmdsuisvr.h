@@ -1,11 +1,11 @@
 #pragma once
 
-#include "hostextras.h"
+#include "hostapi/dialogservice.h"
 
 namespace vnsi {
 
 /// Makes the dialogs of the layer commands by name.
-class VnQtLayerCmdsUISvr : public hostextras::DialogService
+class VnQtLayerCmdsUISvr : public hostapi::DialogService
 {
 public:
     /// A new dialog under the host's current window; names compare without regard to case. Null for

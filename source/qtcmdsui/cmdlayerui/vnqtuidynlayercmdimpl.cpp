@@ -88,7 +88,7 @@ void VnQtUiDynLayerCmdImpl::addLayer()
 {
     m_rows.writeSelection();
     m_rows.writeWidths();
-    sendRequest({kManagerNewLayer});
+    askCommand({kManagerNewLayer});
     m_applyButton->setEnabled(true);
 }
 
@@ -101,7 +101,7 @@ void VnQtUiDynLayerCmdImpl::deleteSelected()
     if (refused > 0)
         layerrules::tellNotDeleted(refused, selected);
     m_rows.writeWidths();
-    sendRequest({kManagerDelete});
+    askCommand({kManagerDelete});
     m_applyButton->setEnabled(true);
 }
 
@@ -175,7 +175,7 @@ void VnQtUiDynLayerCmdImpl::apply()
     if (!canRequest())
         return;
     m_rows.writeSelectedRows();
-    sendRequest({kManagerApply});
+    askCommand({kManagerApply});
 }
 
 void VnQtUiDynLayerCmdImpl::slot_BtnOkClicked(bool)

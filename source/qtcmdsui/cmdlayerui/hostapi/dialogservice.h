@@ -1,0 +1,10 @@
+#pragma once
+
+#include "hostextras.h"
+
+namespace vnsi::hostapi {
+
+/// Base of a service that makes dialogs, in its `makeDialog`.
+using hostextras::DialogService;
+
+} // namespace vnsi::hostapi
