@@ -1,7 +1,6 @@
 #include "serveddialog.h"
 
 #include "RxObjectImpl.h"
-#include "vnservicedict.h"
 
 namespace bench {
 
@@ -12,14 +11,11 @@ ServedDialog::ServedDialog(const OdString& name, VnJsonPtr tree, OdRxObjectPtr i
       m_invoker(invoker ? std::move(invoker)
                         : OdRxObjectPtr(OdRxObjectImpl<VnUiDialogInvoker>::createObject()))
 {
-    const auto service = VnUiService::cast(vn_arbitDict_getservice(L"Dialog/CmdLayer").get());
-    if (!service)
-        return;
-    m_wrapper = service->createDialog(name);
+    m_wrapper = host::WatchedDialog(L"Dialog/CmdLayer", name);
     if (!isMade())
         return;
     m_wrapper->setData(m_tree, m_invoker);
-    m_wrapper->widget()->show();
+    m_wrapper.window()->show();
 }
 
 } // namespace bench

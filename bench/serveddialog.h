@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vndialogs.h"
+#include "hostdialogs.h"
 
 #include <QDialog>
 #include <QString>
@@ -16,24 +16,24 @@ public:
     ServedDialog(const ServedDialog&) = delete;
     ServedDialog& operator=(const ServedDialog&) = delete;
 
-    bool isMade() const { return !m_wrapper.isNull() && m_wrapper->widget(); }
+    bool isMade() const { return m_wrapper && m_wrapper.window(); }
     /// Hands the tree over again, which fills the dialog again.
     void refill() { m_wrapper->setData(m_tree, m_invoker); }
     const vnsi::VnJsonPtr& tree() const { return m_tree; }
     /// Calls a slot of the dialog without arguments.
-    void invoke(const char* slot) const { QMetaObject::invokeMethod(m_wrapper->widget(), slot); }
+    void invoke(const char* slot) const { QMetaObject::invokeMethod(m_wrapper.window(), slot); }
 
     /// The dialog's widget of this object name.
     template <class T>
     T* find(const char* objectName) const
     {
-        return m_wrapper->widget()->findChild<T*>(QLatin1String(objectName));
+        return m_wrapper.window()->findChild<T*>(QLatin1String(objectName));
     }
 
 private:
     vnsi::VnJsonPtr m_tree;
     OdRxObjectPtr m_invoker;
-    vnsi::VnUiModeDialogBasePtr m_wrapper;
+    host::WatchedDialog m_wrapper;
 };
 
 } // namespace bench

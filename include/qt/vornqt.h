@@ -87,10 +87,12 @@ public:
     VnQtUIModeDialogBase();
     ~VnQtUIModeDialogBase() override;
 
-    QWidget* widget() const override { return m_dialog; }
-    VnJsonPtr resultData() const override { return m_result; }
-    void endDialog(int code) override;
     int doModal() override;
+    /// The wrapper's own way of ending the dialog, for dialogs without one: writes `code` as
+    /// "result" and closes the window.
+    virtual void endDialog(int code);
+    /// The tree that carries "result".
+    const VnJsonPtr& resultData() const { return m_result; }
 
     /// Shows the dialog again as soon as it is closed, instead of returning.
     void reshow() { m_reshow = 1; }

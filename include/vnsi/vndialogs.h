@@ -32,12 +32,6 @@ class VNSI_EXPORT VnUiModeDialogBase : public VnUiDialogBase
 {
     ODRX_DECLARE_MEMBERS(VnUiModeDialogBase)
 public:
-    /// The dialog's window; null before it is built.
-    virtual QWidget* widget() const = 0;
-    /// The tree that carries "result".
-    virtual VnJsonPtr resultData() const = 0;
-    /// Closes the dialog with `code` as its result.
-    virtual void endDialog(int code) = 0;
     /// Runs the dialog. Returns 1 for OK, 2 for cancel, or what the dialog wrote as its "result".
     virtual int doModal() = 0;
     /// Builds the window under `parent` (may be null); true when it is there, also from an earlier
@@ -56,9 +50,9 @@ public:
     virtual VnUiModeDialogBasePtr createDialog(const OdString& dialogName) = 0;
 };
 
-/// Shows dialog `dialogName` of service `serviceName` and returns when it is closed. Gives back
-/// `tree` (a new object where that was empty) with "result" written into it; 0 when there is no
-/// such dialog.
+/// Shows dialog `dialogName` of service `serviceName` and returns when it is closed. The dialog is
+/// given `tree` as it is, also empty. Gives back `tree` (a new object where that was empty) with
+/// "result" written into it; 0 when there is no such dialog.
 VNSI_EXPORT VnJsonPtr vnuiShowModelDialogEx(const OdString& serviceName, const OdString& dialogName,
     const VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget* parent);
 /// The same without a call-back object, under the host's current window.

@@ -3,8 +3,11 @@
 #include "OdString.h"
 #include "vnsidef.h"
 
-#include <utility>
-#include <vector>
+#include <memory>
+
+namespace host {
+struct TaskQuestion;
+}
 
 namespace vnsi {
 
@@ -12,20 +15,18 @@ namespace vnsi {
 class VNSI_EXPORT CVnUiTaskDialog
 {
 public:
-    void SetWindowTitle(const OdString& text) { m_title = text; }
-    void SetMainInstruction(const OdString& text) { m_instruction = text; }
-    void AddCommandControl(int id, const OdString& text) { m_commands.emplace_back(id, text); }
+    CVnUiTaskDialog();
+    ~CVnUiTaskDialog();
+
+    void SetWindowTitle(const OdString& text);
+    void SetMainInstruction(const OdString& text);
+    /// Adds a button; `id` is what `DoModal` returns for it.
+    void AddCommandControl(int id, const OdString& text);
     /// Asks; returns the id chosen, or 2 (cancel) when the dialog was closed without a choice.
     int DoModal();
 
-    const OdString& windowTitle() const { return m_title; }
-    const OdString& mainInstruction() const { return m_instruction; }
-    const std::vector<std::pair<int, OdString>>& commands() const { return m_commands; }
-
 private:
-    OdString m_title;
-    OdString m_instruction;
-    std::vector<std::pair<int, OdString>> m_commands;
+    std::unique_ptr<host::TaskQuestion> m_question;
 };
 
 } // namespace vnsi

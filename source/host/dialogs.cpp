@@ -50,8 +50,9 @@ int runDialog(const OdString& serviceName, const OdString& dialogName, const VnJ
 VnJsonPtr vnuiShowModelDialogEx(const OdString& serviceName, const OdString& dialogName,
     const VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget* parent)
 {
-    VnJsonPtr answer = tree ? tree : ElementValue::createObject(2);
-    answer->SetDataI("result", runDialog(serviceName, dialogName, answer, invoker, parent));
+    const int result = runDialog(serviceName, dialogName, tree, invoker, parent);
+    const VnJsonPtr answer = tree ? tree : ElementValue::createObject(1);
+    answer->SetDataI("result", result);
     host::saveSettings();
     return answer;
 }

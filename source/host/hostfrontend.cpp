@@ -1,10 +1,10 @@
 #include "hostfrontend.h"
 
 #include "helpwindow.h"
+#include "hostdialogs.h"
 #include "hostwindows.h"
 #include "messagebox.h"
 #include "taskdialog.h"
-#include "vnservicedict.h"
 
 namespace host {
 
@@ -25,9 +25,9 @@ int HostFrontEnd::messageBoxEx(const OdString& caption, const OdString& text,
     return showMessageBox({caption, text, options, style, code, icon ? icon : style});
 }
 
-int HostFrontEnd::taskDialog(const vnsi::CVnUiTaskDialog& dialog)
+int HostFrontEnd::taskDialog(const TaskQuestion& question)
 {
-    TaskDialog window(dialog, currentWindow());
+    TaskDialog window(question, currentWindow());
     window.exec();
     return window.answer();
 }
@@ -35,13 +35,9 @@ int HostFrontEnd::taskDialog(const vnsi::CVnUiTaskDialog& dialog)
 int HostFrontEnd::showDialog(const OdString& service, const OdString& name,
     const vnsi::VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget* parent)
 {
-    const OdRxObjectPtr found = vnsi::vn_arbitDict_getservice(service);
-    const auto maker = vnsi::VnUiService::cast(found.get());
-    if (maker.isNull())
-        return 0;
     const vnsi::VnUiModeDialogBasePtr dialog = [&] {
         const CurrentWindowScope scope(parent);
-        return maker->createDialog(name);
+        return makeDialog(service, name);
     }();
     if (dialog.isNull())
         return 0;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "taskdialog.h"
 #include "vndialogs.h"
-#include "vntaskdialog.h"
 
 #include <QString>
 
@@ -22,9 +22,9 @@ public:
     virtual int messageBoxEx(const OdString& caption, const OdString& text,
         const vnsi::VnJsonPtr& options, int style, int code, int icon);
     /// As `CVnUiTaskDialog::DoModal`.
-    virtual int taskDialog(const vnsi::CVnUiTaskDialog& dialog);
+    virtual int taskDialog(const TaskQuestion& question);
     /// Makes and runs a dialog under `parent` (the current window where it is null) and returns its
-    /// result; 0 when there is no such dialog. Answer keys are written into `tree`, which is never
+    /// result; 0 when there is no such dialog. Answer keys are written into `tree`, which may be
     /// empty.
     virtual int showDialog(const OdString& service, const OdString& name,
         const vnsi::VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget* parent);

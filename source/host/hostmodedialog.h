@@ -31,16 +31,6 @@ public:
         return m_dialog ? 1 : 0;
     }
 
-    QWidget* widget() const override { return m_dialog; }
-    vnsi::VnJsonPtr resultData() const override { return m_result; }
-
-    void endDialog(int code) override
-    {
-        if (m_dialog)
-            static_cast<QDialog*>(m_dialog)->done(
-                code == kAccepted ? QDialog::Accepted : QDialog::Rejected);
-    }
-
     int doModal() override
     {
         if (!m_dialog || !m_data)
@@ -48,8 +38,7 @@ public:
         const bool isAccepted = m_dialog->exec() == QDialog::Accepted;
         if (m_dialog)
             m_dialog->writeAnswers(m_data, isAccepted);
-        m_result->SetDataI("result", isAccepted ? kAccepted : kCancelled);
-        return m_result->GetDataI("result");
+        return isAccepted ? kAccepted : kCancelled;
     }
 
     bool createDialog(QWidget* parent, unsigned, const char* objectName) override
@@ -66,7 +55,6 @@ private:
     static constexpr int kCancelled = 2;
 
     vnsi::VnJsonPtr m_data;
-    vnsi::VnJsonPtr m_result = vnsi::ElementValue::createObject(1);
     QPointer<T> m_dialog;
 };
 

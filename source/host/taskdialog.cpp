@@ -5,6 +5,7 @@
 #include "vnmessages.h"
 #include "vnrequests.h"
 #include "vnstrings.h"
+#include "vntaskdialog.h"
 
 #include <QCommandLinkButton>
 #include <QLabel>
@@ -17,14 +18,14 @@ constexpr int kWidth = 440;
 constexpr double kInstructionScale = 1.25;
 } // namespace
 
-TaskDialog::TaskDialog(const vnsi::CVnUiTaskDialog& content, QWidget* parent) : QDialog(parent)
+TaskDialog::TaskDialog(const TaskQuestion& question, QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("taskDialog"));
-    setWindowTitle(vnsi::vnutOdStringToQString(content.windowTitle()));
+    setWindowTitle(vnsi::vnutOdStringToQString(question.title));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     auto* const instruction =
-        new QLabel(readable(vnsi::vnutOdStringToQString(content.mainInstruction())));
+        new QLabel(readable(vnsi::vnutOdStringToQString(question.instruction)));
     instruction->setObjectName(QStringLiteral("mainInstruction"));
     instruction->setTextFormat(Qt::PlainText);
     instruction->setWordWrap(true);
@@ -36,7 +37,7 @@ TaskDialog::TaskDialog(const vnsi::CVnUiTaskDialog& content, QWidget* parent) : 
     layout->setContentsMargins(16, 16, 16, 16);
     layout->addWidget(instruction);
     layout->addSpacing(8);
-    for (const auto& [id, text] : content.commands()) {
+    for (const auto& [id, text] : question.commands) {
         auto* const button = new QCommandLinkButton(vnsi::vnutOdStringToQString(text));
         button->setObjectName(QStringLiteral("command%1").arg(id));
         const int answerOfButton = id;
@@ -55,7 +56,30 @@ void TaskDialog::choose(int id)
 
 } // namespace host
 
-int vnsi::CVnUiTaskDialog::DoModal()
+namespace vnsi {
+
+CVnUiTaskDialog::CVnUiTaskDialog() : m_question(std::make_unique<host::TaskQuestion>()) {}
+
+CVnUiTaskDialog::~CVnUiTaskDialog() = default;
+
+void CVnUiTaskDialog::SetWindowTitle(const OdString& text)
 {
-    return vnedIsRunningInUI() ? host::hostFrontEnd().taskDialog(*this) : kVnAnswerCancel;
+    m_question->title = text;
 }
+
+void CVnUiTaskDialog::SetMainInstruction(const OdString& text)
+{
+    m_question->instruction = text;
+}
+
+void CVnUiTaskDialog::AddCommandControl(int id, const OdString& text)
+{
+    m_question->commands.emplace_back(id, text);
+}
+
+int CVnUiTaskDialog::DoModal()
+{
+    return vnedIsRunningInUI() ? host::hostFrontEnd().taskDialog(*m_question) : kVnAnswerCancel;
+}
+
+} // namespace vnsi

@@ -1,6 +1,5 @@
 #include "modulefixture.h"
 
-#include "vnservicedict.h"
 #include "vnstrings.h"
 
 #include <QtTest>
@@ -17,15 +16,11 @@ QString ModuleFixture::modulePath()
     return QStringLiteral(VN_MODULE_PATH);
 }
 
-vnsi::VnUiModeDialogBasePtr ModuleFixture::createDialog(
+host::WatchedDialog ModuleFixture::createDialog(
     const QString& name, const vnsi::VnJsonPtr& tree, const OdRxObjectPtr& invoker)
 {
-    const auto service =
-        vnsi::VnUiService::cast(vnsi::vn_arbitDict_getservice(L"Dialog/CmdLayer").get());
-    if (service.isNull())
-        qFatal("the module did not register its service");
-    vnsi::VnUiModeDialogBasePtr dialog = service->createDialog(vnsi::vnutQStringToOdString(name));
-    if (!dialog.isNull())
+    host::WatchedDialog dialog(L"Dialog/CmdLayer", vnsi::vnutQStringToOdString(name));
+    if (dialog)
         dialog->setData(tree, invoker);
     return dialog;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hostdialogs.h"
 #include "hoststart.h"
 #include "vndialogs.h"
 
@@ -16,14 +17,14 @@ public:
     static QString modulePath();
 
     /// A dialog of the module, made by its service and given its tree; null for an unknown name.
-    vnsi::VnUiModeDialogBasePtr createDialog(
+    host::WatchedDialog createDialog(
         const QString& name, const vnsi::VnJsonPtr& tree, const OdRxObjectPtr& invoker = {});
 
     /// The widget of that object name in a dialog; ends the test program when there is none.
     template <class T>
-    static T* child(const vnsi::VnUiModeDialogBasePtr& dialog, const char* objectName)
+    static T* child(const host::WatchedDialog& dialog, const char* objectName)
     {
-        return child<T>(dialog->widget(), objectName);
+        return child<T>(dialog.window(), objectName);
     }
     template <class T>
     static T* child(const QWidget* parent, const char* objectName)

@@ -1,7 +1,8 @@
 #include "posing.h"
+#include "hostextras.h"
 
 #include "commandinvoker.h"
-#include "vnservicedict.h"
+#include "hostdialogs.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -14,16 +15,14 @@ void showDialog(const OdString& service, const OdString& dialog, const vnsi::VnJ
     const std::function<void(QWidget& window)>& more,
     const std::function<void(const vnsi::VnJsonPtr& tree)>& answer)
 {
-    const auto dialogs =
-        OdSmartPtr<vnsi::VnUiService>::castFrom(vnsi::vn_arbitDict_getservice(service).get());
-    const auto made = dialogs ? dialogs->createDialog(dialog) : vnsi::VnUiModeDialogBasePtr();
-    if (made.isNull() || !made->widget())
+    const host::WatchedDialog made(service, dialog);
+    if (!made || !made.window())
         return;
     made->setData(tree, CommandInvoker::make([answer](const vnsi::VnJsonPtr& asked) {
         if (answer)
             answer(asked);
     }));
-    QWidget& window = *made->widget();
+    QWidget& window = *made.window();
     window.show();
     QCoreApplication::processEvents();
     camera(name, window);
@@ -50,8 +49,8 @@ void showNested(QWidget& window, const char* method, int row, int column,
 int FileChooser::showDialog(
     const OdString&, const OdString&, const vnsi::VnJsonPtr& tree, const OdRxObjectPtr&, QWidget*)
 {
-    const vnsi::VnJsonPtr paths = vnsi::ElementValue::createArray(1);
-    paths->AppendSW(L"standard.dxf");
+    const vnsi::VnJsonPtr paths = hostextras::createArray(1);
+    hostextras::appendText(paths, L"standard.dxf");
     tree->SetDataJ("filePaths", paths);
     return 1;
 }
