@@ -1,3 +1,4 @@
+#include "hostextras.h"
 #include "layerkeys.h"
 #include "layersample.h"
 #include "rows.h"
@@ -23,11 +24,11 @@ const double kDecades = std::log10(double(kMany) / kFew);
 template <class Write>
 VnJsonPtr makeList(int count, Write write)
 {
-    VnJsonPtr list = ElementValue::createArray(count);
+    VnJsonPtr list = hostextras::createArray(count);
     for (int number = 0; number < count; ++number) {
         VnJsonPtr object = ElementValue::createObject(8);
         write(*object, number);
-        list->Append(object);
+        hostextras::append(list, object);
     }
     return list;
 }
@@ -70,10 +71,10 @@ VnJsonPtr stateManagerTree(int count)
 {
     VnJsonPtr edited = makeHolder("LayerStateList", layerList(count));
     edited->SetDataJ(layerkey::kList, layerList(count));
-    VnJsonPtr manager = ElementValue::createArray(3);
-    manager->Append(ElementValue::createObject(2));
-    manager->Append(newStateTree(count));
-    manager->Append(edited);
+    VnJsonPtr manager = hostextras::createArray(3);
+    hostextras::append(manager, ElementValue::createObject(2));
+    hostextras::append(manager, newStateTree(count));
+    hostextras::append(manager, edited);
     return makeHolder("LayerStateMgr", manager);
 }
 
@@ -104,9 +105,9 @@ VnJsonPtr translatorTree(int count)
 
 VnJsonPtr targetLayerTree(int count)
 {
-    VnJsonPtr names = ElementValue::createArray(count);
+    VnJsonPtr names = hostextras::createArray(count);
     for (int number = 0; number < count; ++number)
-        names->AppendSW(numbered(L"图层-", number));
+        hostextras::appendText(names, numbered(L"图层-", number));
     return makeHolder("newToLayerNameArray", makeHolder("ToLayerNameArray", names));
 }
 

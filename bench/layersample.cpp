@@ -1,4 +1,5 @@
 #include "layersample.h"
+#include "hostextras.h"
 
 #include "layerkeys.h"
 
@@ -27,22 +28,24 @@ VnJsonPtr makeRecord(int number)
     VnJsonPtr record = ElementValue::createObject(kMembers);
     const std::wstring name =
         std::wstring(pick(kPurposes, number)) + L'-' + std::to_wstring(number);
-    record->set(layerkey::kName, OdString(name))
-        .set(layerkey::kStatus, static_cast<OdInt32>(number == 0 ? kLayerCurrent : kLayerOrdinary))
-        .set(layerkey::kOff, number % 7 == 3)
-        .set(layerkey::kFrozen, number % 11 == 5)
-        .set(layerkey::kLock, number % 5 == 1)
-        .set(layerkey::kLinetype, OdString(pick(kLinetypes, number / 3)))
-        .set(layerkey::kLineWidth, pick(kLineWidths, number))
-        .set(layerkey::kTransparency, number % 10 * 10)
-        .set(layerkey::kPlotStyle, OdString(L"Color_" + std::to_wstring(number % kIndexColors + 1)))
-        .set(layerkey::kPrint, number % 13 != 0)
-        .set(layerkey::kVPortFrozen, number % 17 == 0)
-        .set(layerkey::kDescription, OdString(L"第 " + std::to_wstring(number) + L" 层"))
-        .set(layerkey::kSelected, number == 1 || number == 2 || number == 40)
-        .set(layerkey::kDepend, number % 50 == 49)
-        .set(layerkey::kUsed, number % 2 == 0)
-        .set(layerkey::kModified, false);
+    record->SetDataSW(layerkey::kName, OdString(name));
+    record->SetDataI(
+        layerkey::kStatus, static_cast<OdInt32>(number == 0 ? kLayerCurrent : kLayerOrdinary));
+    record->SetDataB(layerkey::kOff, number % 7 == 3);
+    record->SetDataB(layerkey::kFrozen, number % 11 == 5);
+    record->SetDataB(layerkey::kLock, number % 5 == 1);
+    record->SetDataSW(layerkey::kLinetype, OdString(pick(kLinetypes, number / 3)));
+    record->SetDataI(layerkey::kLineWidth, pick(kLineWidths, number));
+    record->SetDataI(layerkey::kTransparency, number % 10 * 10);
+    record->SetDataSW(
+        layerkey::kPlotStyle, OdString(L"Color_" + std::to_wstring(number % kIndexColors + 1)));
+    record->SetDataB(layerkey::kPrint, number % 13 != 0);
+    record->SetDataB(layerkey::kVPortFrozen, number % 17 == 0);
+    record->SetDataSW(layerkey::kDescription, OdString(L"第 " + std::to_wstring(number) + L" 层"));
+    record->SetDataB(layerkey::kSelected, number == 1 || number == 2 || number == 40);
+    record->SetDataB(layerkey::kDepend, number % 50 == 49);
+    record->SetDataB(layerkey::kUsed, number % 2 == 0);
+    record->SetDataB(layerkey::kModified, false);
     const bool isTrueColor = number % 8 == 7;
     record->SetDataL(layerkey::kColorMethod, isTrueColor ? kTrueColor : kByIndex);
     record->SetDataL(
@@ -54,9 +57,9 @@ VnJsonPtr makeRecord(int number)
 
 VnJsonPtr makeLayerTree(int count)
 {
-    VnJsonPtr list = ElementValue::createArray(count);
+    VnJsonPtr list = hostextras::createArray(count);
     for (int number = 0; number < count; ++number)
-        list->Append(makeRecord(number));
+        hostextras::append(list, makeRecord(number));
     VnJsonPtr tree = ElementValue::createObject(8);
     tree->SetDataJ(layerkey::kList, list);
     return tree;

@@ -1,3 +1,4 @@
+#include "hostextras.h"
 #include "layersample.h"
 #include "rows.h"
 #include "serveddialog.h"
@@ -31,8 +32,8 @@ double bytesPerLayer(Make make)
 
 tl::expected<Sides, QString> treeAgainstMaps()
 {
-    const OdAnsiString json = ElementValue::toJson(makeLayerTree(kLayers));
-    const QByteArray text(json.c_str(), json.getLength());
+    const std::string json = hostextras::jsonOf(makeLayerTree(kLayers));
+    const QByteArray text = QByteArray::fromStdString(json);
     const auto makeMaps = [text] { return QJsonDocument::fromJson(text).toVariant(); };
     return Sides{[] { return bytesPerLayer([] { return makeLayerTree(kLayers); }); },
         [makeMaps] { return bytesPerLayer(makeMaps); }, QStringLiteral("the same in variant maps")};

@@ -1,5 +1,6 @@
 #include "RxObjectImpl.h"
 #include "commands/posing.h"
+#include "hostextras.h"
 #include "rows.h"
 #include "serveddialog.h"
 #include "stopwatch.h"
@@ -20,11 +21,11 @@ constexpr int kMany = 10000;
 /// Layers or targets of the same names in another order and letter case.
 VnJsonPtr makeRecords(int count, const char* nameKey, const wchar_t* prefix, int step)
 {
-    const VnJsonPtr records = ElementValue::createArray(count);
+    const VnJsonPtr records = hostextras::createArray(count);
     for (int i = 0; i < count; ++i) {
         const VnJsonPtr record = ElementValue::createObject(2);
         record->SetDataSW(nameKey, OdString(prefix + std::to_wstring(i * step % count)));
-        records->Append(record);
+        hostextras::append(records, record);
     }
     return records;
 }

@@ -7,6 +7,7 @@
 #include "settings.h"
 #include "treechanges.h"
 #include "trees.h"
+#include "valuetree.h"
 #include "vnsettings.h"
 #include "vnstrings.h"
 
@@ -57,9 +58,9 @@ int Run::show(const QString& name, const VnJsonPtr& tree, const OdRxObjectPtr& i
     ++depth;
     const auto opened = depth < kDeepest && bytes.ConsumeBool()
                             ? module->createDialog(name, tree, invoker)
-                            : VnUiModeDialogBasePtr();
+                            : host::WatchedDialog();
     if (opened)
-        act(opened->widget(), kMostActs / 2);
+        act(opened.window(), kMostActs / 2);
     else
         merge(tree, answerOfDialog(name));
     fuzz::changeTree(tree, bytes, 2);
@@ -78,9 +79,9 @@ public:
     {
         return m_run.choose(8);
     }
-    int taskDialog(const CVnUiTaskDialog& dialog) override
+    int taskDialog(const host::TaskQuestion& question) override
     {
-        const auto& commands = dialog.commands();
+        const auto& commands = question.commands;
         const int which = m_run.choose(static_cast<int>(commands.size()) + 1);
         return which == 0 ? 2 : commands[static_cast<std::size_t>(which) - 1].first;
     }
@@ -135,7 +136,7 @@ void fuzzSettings(FuzzedDataProvider& bytes)
 {
     for (const wchar_t* name : kSections) {
         const VnJsonPtr section = vn_user_config(name);
-        section->Clear();
+        host::clear(*section);
         fuzz::changeTree(section, bytes, 2);
     }
 }
@@ -164,7 +165,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         module.createDialog(sample.name, root, OdRxObjectImpl<FuzzedCommand>::createObject(run));
     if (!dialog)
         return 0; // Not built.
-    run.window = dialog->widget();
+    run.window = dialog.window();
     run.act(run.window, kMostActs);
     dialog = {};
     fuzz::require(!run.window, "a dialog goes with its last reference");

@@ -1,5 +1,6 @@
 #include "fuzzing.h"
-#include "vnjson.h"
+#include "hostextras.h"
+#include "valuetree.h"
 
 using namespace vnsi;
 
@@ -10,9 +11,9 @@ void readEverything(const VnJsonPtr& node, const char* key)
     node->GetDataB(key);
     node->GetDataI(key);
     node->GetDataL(key);
-    node->GetDataS(key);
     node->GetDataSW(key);
-    fuzz::require(node->HasKey(key) || !node->GetDataJ(key), "only what is there can be read");
+    fuzz::require(
+        host::hasKey(node, key) || !node->GetDataJ(key), "only what is there can be read");
 }
 
 void change(const VnJsonPtr& tree, FuzzedDataProvider& bytes)
@@ -35,19 +36,19 @@ void change(const VnJsonPtr& tree, FuzzedDataProvider& bytes)
         target->SetDataJ(key.c_str(), ElementValue::createObject(1));
         break;
     case 4:
-        target->RemoveKey(key.c_str());
+        hostextras::removeKey(*target, key.c_str());
         break;
     case 5:
-        target->Append(bytes.ConsumeBool() ? tree : ElementValue::createArray());
+        hostextras::append(target, bytes.ConsumeBool() ? tree : hostextras::createArray(0));
         break;
     case 6:
-        target->Insert(bytes.ConsumeIntegral<int>(), ElementValue::createObject(0));
+        host::insert(target, bytes.ConsumeIntegral<int>(), ElementValue::createObject(0));
         break;
     case 7:
-        target->Remove(bytes.ConsumeIntegral<int>());
+        hostextras::removeItem(target, bytes.ConsumeIntegral<int>());
         break;
     default:
-        target->Clear();
+        host::clear(*target);
     }
 }
 
@@ -59,14 +60,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzedDataProvider bytes(data, size);
     const int changes = bytes.ConsumeIntegralInRange(0, 12);
     std::string rest = bytes.ConsumeRandomLengthString(size);
-    const VnJsonPtr tree = ElementValue::fromJson(OdAnsiString(rest));
+    const VnJsonPtr tree = host::fromJson(rest);
     if (!tree)
         return 0;
     for (int i = 0; i < changes; ++i)
         change(tree, bytes);
-    const OdAnsiString text = ElementValue::toJson(tree);
-    fuzz::require(ElementValue::toJson(ElementValue::clone(tree)) == text, "a copy is the same");
-    const VnJsonPtr again = ElementValue::fromJson(text);
-    fuzz::require(again && ElementValue::toJson(again) == text, "what is written can be read");
+    const std::string text = hostextras::jsonOf(tree);
+    fuzz::require(hostextras::jsonOf(hostextras::copyOf(tree)) == text, "a copy is the same");
+    const VnJsonPtr again = host::fromJson(text);
+    fuzz::require(again && hostextras::jsonOf(again) == text, "what is written can be read");
     return 0;
 }

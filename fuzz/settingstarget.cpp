@@ -1,5 +1,7 @@
 #include "fuzzing.h"
+#include "hostextras.h"
 #include "settings.h"
+#include "valuetree.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,8 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     QFile::remove(path + QStringLiteral(".bad"));
     host::setSettingsFolder(fuzz::scratchFolder());
     const VnJsonPtr section = vn_user_config(kSection);
-    fuzz::require(section && section->kind() == IElementValueBase::Kind::Object,
-        "there are settings whatever the file holds");
+    fuzz::require(section && host::isObject(section), "there are settings whatever the file holds");
     const bool isGood = QFile::exists(path);
     fuzz::require(isGood || fuzz::readFile(path + QStringLiteral(".bad")) == content,
         "a file that cannot be read is kept");
@@ -29,9 +30,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::require(host::saveSettings(), "settings can be written");
     fuzz::require(!isGood || fuzz::readFile(path) == content, "unchanged settings are left alone");
     section->SetDataI("LastWidth", 42);
-    const OdAnsiString text = ElementValue::toJson(section);
+    const std::string text = hostextras::jsonOf(section);
     host::setSettingsFolder(fuzz::scratchFolder());
-    fuzz::require(ElementValue::toJson(vn_user_config(kSection)) == text, "settings are kept");
+    fuzz::require(hostextras::jsonOf(vn_user_config(kSection)) == text, "settings are kept");
     host::setSettingsFolder({});
     return 0;
 }

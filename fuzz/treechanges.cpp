@@ -1,4 +1,6 @@
 #include "treechanges.h"
+#include "hostextras.h"
+#include "valuetree.h"
 
 #include "dialogsamples.h"
 #include "fuzzing.h"
@@ -57,31 +59,31 @@ void setMember(
     case 5:
         return node.SetDataJ(key, ElementValue::createObject(1));
     case 6:
-        return node.SetDataJ(key, ElementValue::createArray());
+        return node.SetDataJ(key, hostextras::createArray(0));
     case 7:
         return node.SetDataJ(key, elsewhere);
     default:
-        return node.RemoveKey(key);
+        return hostextras::removeKey(node, key);
     }
 }
 
-void changeArray(IElementValueBase& list, const VnJsonPtr& elsewhere, FuzzedDataProvider& bytes)
+void changeArray(const VnJsonPtr& list, const VnJsonPtr& elsewhere, FuzzedDataProvider& bytes)
 {
     switch (bytes.ConsumeIntegralInRange(0, 6)) {
     case 0:
-        return list.Remove(bytes.ConsumeIntegralInRange(-1, 6));
+        return hostextras::removeItem(list, bytes.ConsumeIntegralInRange(-1, 6));
     case 1:
-        return list.Clear();
+        return host::clear(*list);
     case 2:
-        return list.AppendI(bytes.ConsumeIntegral<int>());
+        return hostextras::appendInt(list, bytes.ConsumeIntegral<int>());
     case 3:
-        return list.AppendSW(vnutQStringToOdString(takeText(bytes, kLongestText)));
+        return hostextras::appendText(list, vnutQStringToOdString(takeText(bytes, kLongestText)));
     case 4:
-        return list.Append({});
+        return hostextras::append(list, {});
     case 5:
-        return list.Append(ElementValue::clone(elsewhere));
+        return hostextras::append(list, hostextras::copyOf(elsewhere));
     default:
-        return list.Insert(bytes.ConsumeIntegralInRange(-1, 6), elsewhere);
+        return host::insert(list, bytes.ConsumeIntegralInRange(-1, 6), elsewhere);
     }
 }
 
@@ -92,8 +94,8 @@ void changeTree(const VnJsonPtr& root, FuzzedDataProvider& bytes, int mostChange
     for (int i = bytes.ConsumeIntegralInRange(0, mostChanges); i > 0; --i) {
         const std::vector<VnJsonPtr> nodes = containersIn(root);
         const VnJsonPtr& node = pick(nodes, bytes);
-        if (node->kind() == IElementValueBase::Kind::Array) {
-            changeArray(*node, pick(nodes, bytes), bytes);
+        if (host::isArray(node)) {
+            changeArray(node, pick(nodes, bytes), bytes);
             continue;
         }
         const QStringList own = keysOf(node);

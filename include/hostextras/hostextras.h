@@ -21,62 +21,31 @@ namespace hostextras {
 // The value tree: arrays, and what else its setters and getters do not reach.
 
 /// A new array without elements; `capacity` says how many are coming.
-inline vnsi::VnJsonPtr createArray(int capacity)
-{
-    return vnsi::ElementValue::createArray(capacity);
-}
+VNSI_EXPORT vnsi::VnJsonPtr createArray(int capacity);
 
 /// Appends a node, which is shared and not copied.
-inline void append(const vnsi::VnJsonPtr& array, const vnsi::VnJsonPtr& node)
-{
-    array->Append(node);
-}
-
-inline void appendInt(const vnsi::VnJsonPtr& array, OdInt32 value)
-{
-    array->AppendI(value);
-}
-
-inline void appendText(const vnsi::VnJsonPtr& array, const OdString& value)
-{
-    array->AppendSW(value);
-}
+VNSI_EXPORT void append(const vnsi::VnJsonPtr& array, const vnsi::VnJsonPtr& node);
+VNSI_EXPORT void appendInt(const vnsi::VnJsonPtr& array, OdInt32 value);
+VNSI_EXPORT void appendText(const vnsi::VnJsonPtr& array, const OdString& value);
 
 /// Removes the element at `index`, which is one of the array's.
-inline void removeItem(const vnsi::VnJsonPtr& array, int index)
-{
-    array->Remove(index);
-}
+VNSI_EXPORT void removeItem(const vnsi::VnJsonPtr& array, int index);
 
 /// The number that an element of an array is; `fallback` for an element of another type.
-inline OdInt32 intOf(const vnsi::VnJsonPtr& element, OdInt32 fallback)
-{
-    return element->asI(fallback);
-}
+VNSI_EXPORT OdInt32 intOf(const vnsi::VnJsonPtr& element, OdInt32 fallback);
 
 /// The text that an element of an array is; empty for an element of another type.
-inline OdString textOf(const vnsi::VnJsonPtr& element)
-{
-    return element->asSW();
-}
+VNSI_EXPORT OdString textOf(const vnsi::VnJsonPtr& element);
 
 /// A deep copy, which shares no node with the original.
-inline vnsi::VnJsonPtr copyOf(const vnsi::VnJsonPtr& node)
-{
-    return vnsi::ElementValue::clone(node);
-}
+VNSI_EXPORT vnsi::VnJsonPtr copyOf(const vnsi::VnJsonPtr& node);
 
 /// Takes a key out of an object; nothing where it has none such.
-inline void removeKey(vnsi::IElementValueBase& object, const char* key)
-{
-    object.RemoveKey(key);
-}
+VNSI_EXPORT void removeKey(vnsi::IElementValueBase& object, const char* key);
 
-/// The node as one line of JSON in UTF-8, for the request log.
-inline std::string jsonOf(const vnsi::VnJsonPtr& node)
-{
-    return vnsi::ElementValue::toJson(node).c_str();
-}
+/// The node as one line of JSON in UTF-8, for the request log. Integers beyond 2^53 are rounded,
+/// and what is nested deeper than 1024 containers is left out as null.
+VNSI_EXPORT std::string jsonOf(const vnsi::VnJsonPtr& node);
 
 // Services that are found in the service dictionary and used as what they are.
 

@@ -17,7 +17,7 @@ class LayerRecord
 {
 public:
     explicit LayerRecord(VnJsonPtr node) : m_node(std::move(node)) {}
-    bool isNull() const { return m_node.isNull(); }
+    bool isNull() const { return !m_node; }
     const VnJsonPtr& node() const { return m_node; }
 
     bool flag(const char* key) const { return m_node && m_node->GetDataB(key); }
@@ -128,7 +128,7 @@ public:
     }
 
     /// Whether there is a list, be it an empty one.
-    bool exists() const { return !m_list.isNull(); }
+    bool exists() const { return bool(m_list); }
     const VnJsonPtr& node() const { return m_list; }
     int count() const { return m_count; }
     bool holds(int index) const { return index >= 0 && index < m_count; }

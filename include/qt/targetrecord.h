@@ -17,7 +17,7 @@ class TargetRecord
 {
 public:
     explicit TargetRecord(VnJsonPtr node) : m_node(std::move(node)) {}
-    bool isNull() const { return m_node.isNull(); }
+    bool isNull() const { return !m_node; }
     const VnJsonPtr& node() const { return m_node; }
 
     QString name() const { return text(transkey::kToName); }

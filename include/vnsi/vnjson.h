@@ -50,9 +50,9 @@ private:
 /// One node of a JSON-like tree: an object, an array or a scalar.
 ///
 /// Keys are ASCII; "a/b" reaches member "b" of the object under "a", and setters make the objects
-/// on the way. A getter gives its default where the key is missing or holds another type; the two
-/// integer types read each other as long as the value fits. A setter replaces, whatever was there;
-/// on a node that is no object it does nothing.
+/// on the way. A getter gives its default where the key is missing or holds another type, of which
+/// the two integer types are two. A setter replaces, whatever was there; on a node that is no
+/// object it does nothing.
 class VNSI_EXPORT IElementValueBase
 {
 public:

@@ -93,7 +93,7 @@ void VnColorComboBox::handleActivated(int index)
         vnuiShowModelDialogEx(L"Dialog/Common", L"ColorDialog", keys, {}, window());
     const bool isChosen = answer->GetDataI("result") == 1;
     setCurrentIndex(AppendColorItem(
-        isChosen ? colorFrom(answer->GetDataL("clrMethod"), answer->GetDataL("selectClr"))
+        isChosen ? colorFrom(answer->GetDataI("clrMethod"), answer->GetDataL("selectClr"))
                  : m_color));
 }
 

@@ -1,12 +1,13 @@
+#include "hostextras.h"
 #include "valuearray.h"
 #include "valueobject.h"
+#include "valuetree.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <cmath>
-#include <limits>
 
 #include "vnstrings.h"
 
@@ -19,8 +20,8 @@ constexpr int kDeepestJson = 1024;
 
 VnJsonPtr emptyLike(const ValueNode& source)
 {
-    if (source.kind() == IElementValueBase::Kind::Array)
-        return ElementValue::createArray(source.ArrayCount());
+    if (source.kind() == ValueNode::Kind::Array)
+        return VnJsonPtr(new ValueArray(source.ArrayCount()));
     const auto& members = static_cast<const ValueObject&>(source).members();
     return ElementValue::createObject(static_cast<int>(members.size()));
 }
@@ -41,7 +42,7 @@ Value copied(const Value& value, std::vector<CopyStep>& open)
 
 void fillCopy(const CopyStep& step, std::vector<CopyStep>& open)
 {
-    if (step.first->kind() == IElementValueBase::Kind::Array) {
+    if (step.first->kind() == ValueNode::Kind::Array) {
         for (const Value& element : static_cast<const ValueArray*>(step.first)->elements())
             static_cast<ValueArray*>(step.second)->add(copied(element, open));
         return;
@@ -58,7 +59,7 @@ QJsonValue jsonOf(const ValueNode& node, int depth)
 {
     if (depth > kDeepestJson)
         return QJsonValue::Null;
-    if (node.kind() == IElementValueBase::Kind::Array) {
+    if (node.kind() == ValueNode::Kind::Array) {
         QJsonArray array;
         for (const Value& element : static_cast<const ValueArray&>(node).elements())
             array.append(jsonOf(element, depth + 1));
@@ -81,6 +82,7 @@ struct ScalarToJson
     QJsonValue operator()(bool value) const { return value; }
     QJsonValue operator()(OdInt32 value) const { return value; }
     QJsonValue operator()(OdInt64 value) const { return static_cast<qint64>(value); }
+    QJsonValue operator()(JsonInteger number) const { return static_cast<qint64>(number.value); }
     QJsonValue operator()(double value) const { return value; }
     QJsonValue operator()(const OdString& value) const { return vnutOdStringToQString(value); }
     QJsonValue operator()(const Branch& value) const { return jsonOf(*value.node(), depth); }
@@ -99,11 +101,7 @@ Value fromNumber(const QJsonValue& json)
     const QVariant number = json.toVariant();
     if (number.type() != QVariant::LongLong)
         return number.toDouble();
-    const OdInt64 wide = number.toLongLong();
-    using Limits = std::numeric_limits<OdInt32>;
-    if (wide < Limits::min() || wide > Limits::max())
-        return wide;
-    return static_cast<OdInt32>(wide);
+    return JsonInteger{number.toLongLong()};
 }
 
 Value fromJsonValue(const QJsonValue& json)
@@ -127,7 +125,7 @@ Value fromJsonValue(const QJsonValue& json)
 // The parser refuses what is nested deeper than kDeepestJson, so these two may call each other.
 VnJsonPtr fromArray(const QJsonArray& array)
 {
-    VnJsonPtr node = ElementValue::createArray(array.size());
+    VnJsonPtr node(new ValueArray(array.size()));
     for (const QJsonValue element : array)
         static_cast<ValueArray&>(*node).add(fromJsonValue(element));
     return node;
@@ -149,12 +147,59 @@ VnJsonPtr ElementValue::createObject(int capacity)
     return VnJsonPtr(new ValueObject(capacity));
 }
 
-VnJsonPtr ElementValue::createArray(int capacity)
+} // namespace vnsi
+
+namespace hostextras {
+
+using namespace vnsi;
+
+namespace {
+
+ValueNode& own(const VnJsonPtr& node)
+{
+    return static_cast<ValueNode&>(*node);
+}
+
+} // namespace
+
+VnJsonPtr createArray(int capacity)
 {
     return VnJsonPtr(new ValueArray(capacity));
 }
 
-VnJsonPtr ElementValue::clone(const VnJsonPtr& node)
+void append(const VnJsonPtr& array, const VnJsonPtr& node)
+{
+    own(array).Append(node);
+}
+
+void appendInt(const VnJsonPtr& array, OdInt32 value)
+{
+    own(array).AppendI(value);
+}
+
+void appendText(const VnJsonPtr& array, const OdString& value)
+{
+    own(array).AppendSW(value);
+}
+
+void removeItem(const VnJsonPtr& array, int index)
+{
+    own(array).Remove(index);
+}
+
+OdInt32 intOf(const VnJsonPtr& element, OdInt32 fallback)
+{
+    const Value* const value = own(element).scalar();
+    return value ? readInt(*value, fallback) : fallback;
+}
+
+OdString textOf(const VnJsonPtr& element)
+{
+    const Value* const value = own(element).scalar();
+    return value ? readText(*value, {}) : OdString();
+}
+
+VnJsonPtr copyOf(const VnJsonPtr& node)
 {
     if (!node)
         return {};
@@ -168,28 +213,86 @@ VnJsonPtr ElementValue::clone(const VnJsonPtr& node)
     return copy;
 }
 
-VnJsonPtr ElementValue::fromJson(const OdAnsiString& json)
+void removeKey(IElementValueBase& object, const char* key)
 {
-    const std::string_view bytes = json.view();
-    const QJsonDocument document = QJsonDocument::fromJson(
-        QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
+    static_cast<ValueNode&>(object).RemoveKey(key);
+}
+
+std::string jsonOf(const VnJsonPtr& node)
+{
+    // A scalar has no document of its own: it is written as the only element of a list.
+    const QJsonValue json = vnsi::jsonOf(toValue(node), 1);
+    if (json.isObject() || json.isArray()) {
+        const QJsonDocument document =
+            json.isArray() ? QJsonDocument(json.toArray()) : QJsonDocument(json.toObject());
+        return document.toJson(QJsonDocument::Compact).toStdString();
+    }
+    const std::string list =
+        QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact).toStdString();
+    return list.substr(1, list.size() - 2);
+}
+
+} // namespace hostextras
+
+namespace host {
+
+using namespace vnsi;
+
+VnJsonPtr fromJson(const std::string& json)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(json));
     if (document.isArray())
         return fromArray(document.array());
     return document.isObject() ? fromObject(document.object()) : VnJsonPtr();
 }
 
+bool isObject(const VnJsonPtr& node)
+{
+    return node && static_cast<ValueNode&>(*node).kind() == ValueNode::Kind::Object;
+}
+
+bool isArray(const VnJsonPtr& node)
+{
+    return node && static_cast<ValueNode&>(*node).kind() == ValueNode::Kind::Array;
+}
+
+bool hasKey(const VnJsonPtr& node, const char* key)
+{
+    return node && static_cast<ValueNode&>(*node).HasKey(key);
+}
+
+void insert(const VnJsonPtr& array, int index, const VnJsonPtr& node)
+{
+    static_cast<ValueNode&>(*array).Insert(index, node);
+}
+
+void clear(IElementValueBase& node)
+{
+    static_cast<ValueNode&>(node).Clear();
+}
+
+} // namespace host
+
+namespace vnsi {
+
+VnJsonPtr ElementValue::createArray(int capacity)
+{
+    return hostextras::createArray(capacity);
+}
+
+VnJsonPtr ElementValue::clone(const VnJsonPtr& node)
+{
+    return hostextras::copyOf(node);
+}
+
+VnJsonPtr ElementValue::fromJson(const OdAnsiString& json)
+{
+    return host::fromJson(std::string(json.view()));
+}
+
 OdAnsiString ElementValue::toJson(const VnJsonPtr& node)
 {
-    // A scalar has no document of its own: it is written as the only element of a list.
-    const QJsonValue json = jsonOf(toValue(node), 1);
-    if (json.isObject() || json.isArray()) {
-        const QJsonDocument document =
-            json.isArray() ? QJsonDocument(json.toArray()) : QJsonDocument(json.toObject());
-        return OdAnsiString(document.toJson(QJsonDocument::Compact).toStdString());
-    }
-    const std::string list =
-        QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact).toStdString();
-    return OdAnsiString(std::string_view(list).substr(1, list.size() - 2));
+    return OdAnsiString(hostextras::jsonOf(node));
 }
 
 } // namespace vnsi

@@ -1,6 +1,7 @@
 #include "filedialog.h"
 
 #include "filefilters.h"
+#include "hostextras.h"
 #include "vnstrings.h"
 
 #include <QFileInfo>
@@ -83,17 +84,17 @@ void FileDialog::followFilter(const QString& entry)
 void FileDialog::writeAnswers(const vnsi::VnJsonPtr& tree, bool isAccepted) const
 {
     const QStringList paths = isAccepted ? selectedFiles() : QStringList();
-    tree->RemoveKey("filePath");
-    tree->RemoveKey("filePaths");
+    hostextras::removeKey(*tree, "filePath");
+    hostextras::removeKey(*tree, "filePaths");
     if (paths.isEmpty())
         return;
     tree->SetDataSW("filePath", vnsi::vnutQStringToOdString(paths.first()));
     // Whoever opens a file may read the list, also where only one file can be chosen.
     if (!tree->GetDataB("MutiFile") && !tree->GetDataB("Open"))
         return;
-    const vnsi::VnJsonPtr all = vnsi::ElementValue::createArray(paths.size());
+    const vnsi::VnJsonPtr all = hostextras::createArray(paths.size());
     for (const QString& path : paths)
-        all->AppendSW(vnsi::vnutQStringToOdString(path));
+        hostextras::appendText(all, vnsi::vnutQStringToOdString(path));
     tree->SetDataJ("filePaths", all);
 }
 

@@ -3,6 +3,7 @@
 #include "hostfrontend.h"
 #include "hostwindows.h"
 #include "readable.h"
+#include "valuetree.h"
 #include "vnmessages.h"
 #include "vnrequests.h"
 #include "vnstrings.h"
@@ -38,7 +39,7 @@ std::vector<Button> customButtons(const vnsi::VnJsonPtr& options)
     std::vector<Button> buttons;
     int position = 0;
     for (const char* key : kCustomTextKeys) {
-        if (options && options->HasKey(key)) {
+        if (hasKey(options, key)) {
             const QString text = vnsi::vnutOdStringToQString(options->GetDataSW(key));
             buttons.push_back({text, QMessageBox::ActionRole, position});
         }

@@ -1,6 +1,8 @@
 #include "settings.h"
 
+#include "hostextras.h"
 #include "hostlog.h"
+#include "valuetree.h"
 #include "vnstrings.h"
 
 #include <QCryptographicHash>
@@ -22,7 +24,7 @@ constexpr char kNoContent[] = "{}";
 struct Section
 {
     vnsi::VnJsonPtr tree;
-    OdAnsiString saved;
+    std::string saved;
     QString path;
     bool mayBeWritten = true;
 };
@@ -71,9 +73,8 @@ vnsi::VnJsonPtr readTree(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    vnsi::VnJsonPtr tree = vnsi::ElementValue::fromJson(OdAnsiString(file.readAll().toStdString()));
-    const bool isObject = tree && tree->kind() == vnsi::IElementValueBase::Kind::Object;
-    return isObject ? tree : vnsi::VnJsonPtr();
+    vnsi::VnJsonPtr tree = fromJson(file.readAll().toStdString());
+    return isObject(tree) ? tree : vnsi::VnJsonPtr();
 }
 
 Section readSection(const QString& path)
@@ -83,7 +84,7 @@ Section readSection(const QString& path)
         return section;
     if (const vnsi::VnJsonPtr tree = readTree(path)) {
         section.tree = tree;
-        section.saved = vnsi::ElementValue::toJson(tree);
+        section.saved = hostextras::jsonOf(tree);
         return section;
     }
     section.mayBeWritten = setAside(path);
@@ -93,13 +94,14 @@ Section readSection(const QString& path)
 
 bool writeSection(Section& section)
 {
-    const OdAnsiString json = vnsi::ElementValue::toJson(section.tree);
+    const std::string json = hostextras::jsonOf(section.tree);
     if (json == section.saved)
         return true;
     QSaveFile file(section.path);
     const bool isOpen = section.mayBeWritten && QFileInfo(section.path).dir().mkpath(".") &&
                         file.open(QIODevice::WriteOnly);
-    if (!isOpen || file.write(json.c_str(), json.getLength()) != json.getLength() ||
+    if (!isOpen ||
+        file.write(QByteArray::fromStdString(json)) != static_cast<qint64>(json.size()) ||
         !file.commit()) {
         qCWarning(hostLog) << "settings cannot be written:" << section.path;
         return false;

@@ -32,18 +32,18 @@ OdInt32 readInt(const Value& value, OdInt32 fallback)
 {
     if (const auto* found = std::get_if<OdInt32>(&value))
         return *found;
-    const auto* wide = std::get_if<OdInt64>(&value);
+    const auto* untyped = std::get_if<JsonInteger>(&value);
     using Limits = std::numeric_limits<OdInt32>;
-    const bool fits = wide && *wide >= Limits::min() && *wide <= Limits::max();
-    return fits ? static_cast<OdInt32>(*wide) : fallback;
+    const bool fits = untyped && untyped->value >= Limits::min() && untyped->value <= Limits::max();
+    return fits ? static_cast<OdInt32>(untyped->value) : fallback;
 }
 
 OdInt64 readLong(const Value& value, OdInt64 fallback)
 {
     if (const auto* found = std::get_if<OdInt64>(&value))
         return *found;
-    const auto* narrow = std::get_if<OdInt32>(&value);
-    return narrow ? *narrow : fallback;
+    const auto* untyped = std::get_if<JsonInteger>(&value);
+    return untyped ? untyped->value : fallback;
 }
 
 OdString readText(const Value& value, const OdString& fallback)

@@ -29,8 +29,16 @@ private:
     ValueNode* m_node;
 };
 
+/// A whole number out of a JSON text, which does not tell the two integer types apart: it reads as
+/// either one that it fits.
+struct JsonInteger
+{
+    OdInt64 value;
+};
+
 /// What stands under a key or in an array: a scalar in place, or a node.
-using Value = std::variant<std::monostate, bool, OdInt32, OdInt64, double, OdString, Branch>;
+using Value =
+    std::variant<std::monostate, bool, OdInt32, OdInt64, JsonInteger, double, OdString, Branch>;
 
 // Reading with the getters' rules: another type gives the fallback.
 bool readBool(const Value& value, bool fallback);

@@ -7,7 +7,7 @@ namespace vnsi {
 IElementValueBase::Kind ValueScalar::kind() const
 {
     constexpr Kind kKinds[] = {
-        Kind::Null, Kind::Bool, Kind::Int, Kind::Long, Kind::Real, Kind::Text};
+        Kind::Null, Kind::Bool, Kind::Int, Kind::Long, Kind::Long, Kind::Real, Kind::Text};
     static_assert(std::size(kKinds) + 1 == std::variant_size_v<Value>);
     return kKinds[m_value.index()];
 }

@@ -6,8 +6,10 @@
 #include "recordinghost.h"
 #include "rows.h"
 #include "trees.h"
+#include "valuetree.h"
 #include "vneditprimitive.h"
 #include "vnservicedict.h"
+#include "vnstrings.h"
 
 #include <QFileDialog>
 #include <QLabel>
@@ -174,7 +176,7 @@ private slots:
         const VnJsonPtr answer = showFile(keys);
         QTEST(seen, "seen");
         QCOMPARE(answer->GetDataI("result"), 2);
-        QVERIFY(!answer->HasKey("filePath"));
+        QVERIFY(!host::hasKey(answer, "filePath"));
     }
 
     void answersWithPaths()
@@ -188,8 +190,8 @@ private slots:
         VnJsonPtr answer = showFile(keys);
         QCOMPARE(answer->GetDataI("result"), 1);
         const QString path = folder.filePath("状态.las");
-        QCOMPARE(QString::fromUtf8(answer->GetDataS("filePath").c_str()), path);
-        QVERIFY(!answer->HasKey("filePaths"));
+        QCOMPARE(vnsi::vnutOdStringToQString(answer->GetDataSW("filePath")), path);
+        QVERIFY(!host::hasKey(answer, "filePaths"));
 
         for (const char* name : {"a.dws", "b.dws"}) {
             QFile file(folder.filePath(name));
@@ -202,7 +204,8 @@ private slots:
         answer = showFile(
             QStringLiteral(R"({"dir":"%1","Open":true,"MutiFile":true})").arg(folder.path()));
         QCOMPARE(answer->GetDataJ("filePaths").ArrayCount(), 2);
-        QCOMPARE(QString::fromUtf8(answer->GetDataS("filePath").c_str()), folder.filePath("a.dws"));
+        QCOMPARE(
+            vnsi::vnutOdStringToQString(answer->GetDataSW("filePath")), folder.filePath("a.dws"));
     }
 
     void adoptsTheParent()

@@ -67,7 +67,7 @@ public:
 
     RecordingHost host;
     vnsi::VnJsonPtr root;
-    vnsi::VnUiModeDialogBasePtr dialog;
+    host::WatchedDialog dialog;
     QListWidget* list;
     bool staysOpen = false;
 

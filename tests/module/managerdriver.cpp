@@ -32,8 +32,8 @@ ManagerDriver::ManagerDriver(ModuleFixture& module, const QString& json,
       dialog(module.createDialog("Dialog/CmdLayer", root, invoker)),
       table(ModuleFixture::child<QTableWidget>(dialog, "layerTable"))
 {
-    dialog->widget()->show();
-    if (!QTest::qWaitForWindowActive(dialog->widget()))
+    dialog.window()->show();
+    if (!QTest::qWaitForWindowActive(dialog.window()))
         QTest::qFail("the window did not come up", __FILE__, __LINE__);
 }
 

@@ -40,6 +40,6 @@ public:
     RecordingHost host;
     vnsi::VnJsonPtr root;
     RecordingInvoker::Ptr invoker;
-    vnsi::VnUiModeDialogBasePtr dialog;
+    host::WatchedDialog dialog;
     QTableWidget* table;
 };

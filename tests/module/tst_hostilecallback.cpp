@@ -1,9 +1,11 @@
 #include "RxObjectImpl.h"
 #include "dialogpresser.h"
 #include "dialogsamples.h"
+#include "hostextras.h"
 #include "hostfrontend.h"
 #include "modulefixture.h"
 #include "trees.h"
+#include "valuetree.h"
 #include "vnstrings.h"
 
 #include <QDialog>
@@ -27,7 +29,7 @@ void removeLists(const VnJsonPtr& root)
     for (const VnJsonPtr& node : containersIn(root)) {
         for (const QString& key : keysOf(node)) {
             if (node->GetDataJ(key.toUtf8().constData()).ArrayCount() > 0)
-                node->RemoveKey(key.toUtf8().constData());
+                hostextras::removeKey(*node, key.toUtf8().constData());
         }
     }
 }
@@ -36,8 +38,8 @@ template <class Change>
 void changeLists(const VnJsonPtr& root, Change change)
 {
     for (const VnJsonPtr& node : containersIn(root)) {
-        if (node->kind() == IElementValueBase::Kind::Array)
-            change(*node);
+        if (host::isArray(node))
+            change(node);
     }
 }
 
@@ -79,47 +81,48 @@ const BehaviourRow kBehaviours[] = {
         [](const VnJsonPtr&, QWidget* window) { window ? void(window->close()) : void(); }},
     {"deletes all records",
         [](const VnJsonPtr& root, QWidget*) {
-            changeLists(root, [](IElementValueBase& list) { list.Clear(); });
+            changeLists(root, [](const VnJsonPtr& list) { host::clear(*list); });
         }},
     {"deletes the first records",
         [](const VnJsonPtr& root, QWidget*) {
-            changeLists(root, [](IElementValueBase& list) { list.Remove(0); });
+            changeLists(root, [](const VnJsonPtr& list) { hostextras::removeItem(list, 0); });
         }},
     {"puts in what is no record",
         [](const VnJsonPtr& root, QWidget*) {
-            changeLists(root, [](IElementValueBase& list) {
-                list.Insert(0, {});
-                list.AppendI(3);
+            changeLists(root, [](const VnJsonPtr& list) {
+                host::insert(list, 0, {});
+                hostextras::appendInt(list, 3);
             });
         }},
     {"adds records",
         [](const VnJsonPtr& root, QWidget*) {
-            changeLists(root, [](IElementValueBase& list) {
+            changeLists(root, [](const VnJsonPtr& list) {
                 for (int i = 0; i < 3; ++i)
-                    list.Append(ElementValue::createObject(0));
+                    hostextras::append(list, ElementValue::createObject(0));
             });
         }},
     {"removes the lists", [](const VnJsonPtr& root, QWidget*) { removeLists(root); }},
-    {"takes the tree apart", [](const VnJsonPtr& root, QWidget*) { root->Clear(); }},
+    {"takes the tree apart", [](const VnJsonPtr& root, QWidget*) { host::clear(*root); }},
     {"takes all nodes apart",
         [](const VnJsonPtr& root, QWidget*) {
             for (const VnJsonPtr& node : containersIn(root))
-                node->Clear();
+                host::clear(*node);
         }},
     {"makes everything text",
         [](const VnJsonPtr& root, QWidget*) {
-            changeMembers(root,
-                [](IElementValueBase& node, const char* key) { node.set(key, L"\u5899|*\n"); });
+            changeMembers(root, [](IElementValueBase& node, const char* key) {
+                node.SetDataSW(key, L"\u5899|*\n");
+            });
         }},
     {"makes everything a number",
         [](const VnJsonPtr& root, QWidget*) {
-            changeMembers(
-                root, [](IElementValueBase& node, const char* key) { node.set(key, 1 << 30); });
+            changeMembers(root,
+                [](IElementValueBase& node, const char* key) { node.SetDataI(key, 1 << 30); });
         }},
     {"shares one list",
         [](const VnJsonPtr& root, QWidget*) {
-            const VnJsonPtr list = ElementValue::createArray();
-            list->Append(root);
+            const VnJsonPtr list = hostextras::createArray(0);
+            hostextras::append(list, root);
             changeMembers(root, [&](IElementValueBase& node, const char* key) {
                 if (node.GetDataJ(key))
                     node.SetDataJ(key, list);
@@ -139,9 +142,9 @@ public:
     {
         return answer();
     }
-    int taskDialog(const CVnUiTaskDialog& dialog) override
+    int taskDialog(const host::TaskQuestion& question) override
     {
-        return dialog.commands().empty() ? 2 : dialog.commands().front().first;
+        return question.commands.empty() ? 2 : question.commands.front().first;
     }
     int showDialog(const OdString&, const OdString& name, const VnJsonPtr& tree,
         const OdRxObjectPtr&, QWidget*) override
@@ -213,7 +216,7 @@ private slots:
         const auto dialog = m_module.createDialog(sample.name, tree(sample.tree), command);
         if (!dialog)
             QSKIP("not built");
-        host.window = dialog->widget();
+        host.window = dialog.window();
         QVERIFY(host.window);
         press(dialog, host, sample, command);
 
@@ -222,14 +225,13 @@ private slots:
         QVERIFY(host.window);
         host.window->show();
         for (int i = 0; i < 4 && host.window->isVisible(); ++i) // It may ask whether to close.
-            dialog->endDialog(2);
+            host.window->close();
         QVERIFY(!host.window->isVisible());
-        QCOMPARE(dialog->resultData()->GetDataI("result"), 2);
     }
 
 private:
     /// Does each thing that can be done with a fresh tree, once.
-    static void press(const VnUiModeDialogBasePtr& dialog, HostileHost& host,
+    static void press(const host::WatchedDialog& dialog, HostileHost& host,
         const DialogSample& sample, const OdRxObjectPtr& command)
     {
         host.window->show();

@@ -1,5 +1,6 @@
 #include "listdriver.h"
 #include "rows.h"
+#include "valuetree.h"
 
 using namespace vnsi;
 
@@ -53,7 +54,7 @@ private slots:
             for (int i = 0; i < 3; ++i) {
                 const VnJsonPtr record = user.root->GetDataJ("LayerList")(i);
                 QCOMPARE(record->GetDataB("IsSelected", !rows.contains(i)), rows.contains(i));
-                QVERIFY(!record->HasKey("CurLayer") && !record->HasKey("Modified"));
+                QVERIFY(!host::hasKey(record, "CurLayer") && !host::hasKey(record, "Modified"));
             }
             QCOMPARE(user.list->selectedItems().size(), rows.size());
             user.press("okButton");
@@ -76,7 +77,7 @@ private slots:
         driver.host.answer(1);
         QCOMPARE(driver.run([](ListDriver& user) { user.doubleClick(1); }), 1);
         QVERIFY(driver.host.log().last().contains("图层 b 将被删除"));
-        QVERIFY(!driver.root->GetDataJ("LayerList")(2)->HasKey("CurLayer")); // Not "B".
+        QVERIFY(!host::hasKey(driver.root->GetDataJ("LayerList")(2), "CurLayer")); // Not "B".
     }
 
     void doesNothingUnselected()
@@ -84,18 +85,18 @@ private slots:
         ListDriver driver(m_module, kName, kLayers);
         QCOMPARE(driver.run([](ListDriver& user) {
             QCOMPARE(user.texts(), (QStringList{"A%1", "b", "B"}));
-            QCOMPARE(user.dialog->widget()->windowTitle(), QString("删除图层"));
+            QCOMPARE(user.dialog.window()->windowTitle(), QString("删除图层"));
             QCOMPARE(user.list->currentRow(), 0);
             user.list->clearSelection();
             user.press("okButton");
             user.press("helpButton");
-            QVERIFY(user.dialog->widget()->isVisible());
+            QVERIFY(user.dialog.window()->isVisible());
             user.press("cancelButton");
         }),
             2);
         QCOMPARE(driver.host.log(), QStringList{"help|0"});
         QVERIFY(!driver.staysOpen);
-        QVERIFY(!driver.root->HasKey("marker"));
+        QVERIFY(!host::hasKey(driver.root, "marker"));
     }
 
     void staysEmptyWithoutCommand()

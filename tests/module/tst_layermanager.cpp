@@ -1,5 +1,7 @@
+#include "hostextras.h"
 #include "managerdriver.h"
 #include "rows.h"
+#include "valuetree.h"
 
 #include <QButtonGroup>
 #include <QDialog>
@@ -124,14 +126,15 @@ private slots:
         QVERIFY(manager.host.log().isEmpty());
         QVERIFY(!manager.isApplyEnabled());
         QCOMPARE(manager.root->GetDataI("SelectCount", -1), 0);
-        QVERIFY(!manager.root->HasKey("LastIndex"));
-        QVERIFY(!manager.root->HasKey("ColumnWidthList"));
+        QVERIFY(!host::hasKey(manager.root, "LastIndex"));
+        QVERIFY(!host::hasKey(manager.root, "ColumnWidthList"));
     }
 
     void addsLayer()
     {
         const auto add = [](const VnJsonPtr& root) {
-            root->GetDataJ("LayerList")->Append(tree(layer("图层1", 1, R"(,"Selected":true)")));
+            hostextras::append(
+                root->GetDataJ("LayerList"), tree(layer("图层1", 1, R"(,"Selected":true)")));
         };
         ManagerDriver manager(m_module,
             layerTree({layer("0", 0), layer("A"), layer("B", 1, R"(,"Selected":true)")}), add);
@@ -250,7 +253,7 @@ private slots:
         QCOMPARE(manager.host.log().join('#'), asked);
         QCOMPARE(manager.record(0)->GetDataI("CurLayer"), changes ? 1 : 0);
         QCOMPARE(manager.record(1)->GetDataB("Selected"), !changes);
-        QCOMPARE(manager.root->HasKey("ColumnWidthList"), changes);
+        QCOMPARE(host::hasKey(manager.root, "ColumnWidthList"), changes);
         QCOMPARE(manager.isApplyEnabled(), changes);
         QTEST(manager.record(row)->GetDataB("Off"), "isOff");
         if (changes)
@@ -382,7 +385,7 @@ private slots:
         merge(manager.record(1), modified);
         if (answer)
             manager.host.answer(answer);
-        QSignalSpy finished(qobject_cast<QDialog*>(manager.dialog->widget()), &QDialog::finished);
+        QSignalSpy finished(qobject_cast<QDialog*>(manager.dialog.window()), &QDialog::finished);
         if (button.isEmpty())
             typeKey(manager.table, Qt::Key_Escape, "\x1b");
         else
@@ -390,8 +393,8 @@ private slots:
         QCOMPARE(finished.size(), 1);
         QTEST(finished[0][0].toInt(), "code");
         QTEST(manager.host.log().join('#'), "log");
-        QVERIFY(!manager.root->HasKey("ColumnWidthList"));
-        QVERIFY(!manager.root->HasKey("SelectCount"));
+        QVERIFY(!host::hasKey(manager.root, "ColumnWidthList"));
+        QVERIFY(!host::hasKey(manager.root, "SelectCount"));
     }
 
     void applies()
@@ -409,7 +412,7 @@ private slots:
         QVERIFY(!manager.record(0)->GetDataB("Selected", true));
         QVERIFY(manager.shows(1, 2, "on")); // Refilled from what the command answered.
         QVERIFY(!manager.isApplyEnabled());
-        QVERIFY(manager.dialog->widget()->isVisible());
+        QVERIFY(manager.dialog.window()->isVisible());
     }
 
     void worksWithoutCommandOrTree_data()
@@ -428,14 +431,14 @@ private slots:
         for (const char* name : buttons) {
             const VnJsonPtr root = json.isEmpty() ? VnJsonPtr() : tree(json);
             const auto dialog = m_module.createDialog("Dialog/CmdLayer", root);
-            dialog->widget()->show();
+            dialog.window()->show();
             ModuleFixture::child<QTableWidget>(dialog, "layerTable")->selectRow(1);
             auto* const button = ModuleFixture::child<QPushButton>(dialog, name);
             button->setEnabled(true);
             button->click();
             const bool closes =
                 button->objectName() == "okButton" || button->objectName() == "cancelButton";
-            QCOMPARE(dialog->widget()->isVisible(), !closes);
+            QCOMPARE(dialog.window()->isVisible(), !closes);
         }
         QVERIFY(host.log().isEmpty());
     }
@@ -443,7 +446,7 @@ private slots:
     void ignoresCellsThatAreNotThere()
     {
         ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
-        QWidget& dialog = *manager.dialog->widget();
+        QWidget& dialog = *manager.dialog.window();
         for (const auto& [row, column] : {std::pair(-1, 2), {2, 2}, {1, -1}, {1, 13}}) {
             for (const char* slot : {"slot_TableCellClicked", "slot_TableCellDoubleClicked"})
                 QVERIFY(
@@ -461,10 +464,10 @@ private slots:
         const VnJsonPtr second = tree(layerTree({layer("C", 0)}));
         manager.dialog->setData(second, manager.invoker);
         QCOMPARE(manager.table->rowCount(), 1);
-        auto* const group = manager.dialog->widget()->findChild<QButtonGroup*>();
+        auto* const group = manager.dialog.window()->findChild<QButtonGroup*>();
         QVERIFY(QMetaObject::invokeMethod(group, "buttonClicked", Q_ARG(int, 0)));
         QCOMPARE(manager.host.log(), QStringList{request(0)}); // Not once a connection.
-        QVERIFY(second->HasKey("marker") && !manager.root->HasKey("marker"));
+        QVERIFY(host::hasKey(second, "marker") && !host::hasKey(manager.root, "marker"));
     }
 
 private:

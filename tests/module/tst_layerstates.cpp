@@ -1,9 +1,11 @@
+#include "hostextras.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
 #include "rows.h"
 #include "sysvars.h"
 #include "trees.h"
 #include "useracts.h"
+#include "valuetree.h"
 #include "vnsettings.h"
 #include "vnstrings.h"
 
@@ -126,8 +128,8 @@ const MischiefRow kMischiefs[] = {
                 {"LayerStateName":"Other"}]},{}]})"));
         },
         1},
-    {"emptied", [](const VnJsonPtr& root) { root->GetDataJ(kElements)->Clear(); }, 0},
-    {"removed", [](const VnJsonPtr& root) { root->RemoveKey(kElements); }, 0},
+    {"emptied", [](const VnJsonPtr& root) { host::clear(*root->GetDataJ(kElements)); }, 0},
+    {"removed", [](const VnJsonPtr& root) { hostextras::removeKey(*root, kElements); }, 0},
 };
 
 } // namespace
@@ -147,7 +149,7 @@ private slots:
         host::setVar(L"TILEMODE", 1);
         const VnJsonPtr config = vn_user_config(L"LayerState_dialog");
         for (const char* key : {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand"})
-            config->RemoveKey(key);
+            hostextras::removeKey(*config, key);
     }
 
     void cleanup()
@@ -278,7 +280,8 @@ private slots:
         QFETCH(QString, name);
         openManager({0});
         m_host->answer([name](const VnJsonPtr& asked) {
-            asked->set("Success", true).set("NewName", OdString(name.toStdWString()));
+            asked->SetDataB("Success", true);
+            asked->SetDataSW("NewName", vnutQStringToOdString(name));
             return 1;
         });
         press("renameButton");
@@ -328,7 +331,7 @@ private slots:
     {
         QFETCH(QString, answer);
         openManager({0});
-        element(1)->set("LayerStateYesNoRestore", true);
+        element(1)->SetDataB("LayerStateYesNoRestore", true);
         m_invoker->setAnswer([&](const VnJsonPtr& node) {
             QVERIFY(node->GetDataJ("LayerStateList1") == node->GetDataJ("LayerStateList"));
             if (node->GetDataI("marker") == 6)
@@ -382,7 +385,7 @@ private slots:
         QCOMPARE(table.rowCount(), button->fillsAgain ? mischief->rowsLeft : 4);
         const bool restores = button->code() == 6 && mischief->rowsLeft > 0;
         QCOMPARE(codes(), QString::number(button->code()) + (restores ? " 5" : ""));
-        QCOMPARE(m_dialog->resultData()->GetDataI("result"), button->code() == 5 ? 1 : 0);
+        QCOMPARE(m_dialog.window()->isVisible(), button->code() != 5);
     }
 
     void deletesOnWithoutElements_data()
@@ -410,7 +413,7 @@ private slots:
         press("deleteLayerButton");
         press("okButton");
         QCOMPARE(codes(), QString(hasElements ? "2 1" : "2"));
-        QCOMPARE(m_dialog->resultData()->GetDataI("result"), 1);
+        QVERIFY(!m_dialog.window()->isVisible());
     }
 
     void brokenOff_data()
@@ -456,10 +459,10 @@ private slots:
         for (const char* box : {"referenceBox", "turnOffBox"})
             find<QCheckBox>(box).click();
         press("extendButton");
-        QVERIFY(!config->HasKey("IsExpand"));
-        m_dialog->widget()->close();
+        QVERIFY(!host::hasKey(config, "IsExpand"));
+        m_dialog.window()->close();
         QVERIFY(config->GetDataB("isRefLayerCBox") && config->GetDataB("isTCheckBox"));
-        QVERIFY(config->GetDataB("IsExpand") && config->HasKey("isWCheckBox"));
+        QVERIFY(config->GetDataB("IsExpand") && host::hasKey(config, "isWCheckBox"));
         QVERIFY(!config->GetDataB("isWCheckBox"));
         open(kManager, kTree);
         QCOMPARE(find("stateTable").rowCount(), 3);
@@ -504,15 +507,15 @@ private slots:
         press("okButton");
         QTEST(m_host->log().join(QLatin1Char('&')), "asked");
         QTEST(text(m_tree, "LayerStateNewName"), "taken");
-        const bool isTaken = m_tree->HasKey("LayerStateNewName");
-        QCOMPARE(m_dialog->resultData()->GetDataI("result"), isTaken ? 1 : 0);
-        QCOMPARE(m_tree->HasKey("desc"), isTaken);
+        const bool isTaken = host::hasKey(m_tree, "LayerStateNewName");
+        QCOMPARE(m_dialog.window()->isVisible(), !isTaken);
+        QCOMPARE(host::hasKey(m_tree, "desc"), isTaken);
     }
 
     void editFilled()
     {
         const auto& table = openEditor();
-        QCOMPARE(m_dialog->widget()->windowTitle(), QStringLiteral("编辑图层状态: A"));
+        QCOMPARE(m_dialog.window()->windowTitle(), QStringLiteral("编辑图层状态: A"));
         QStringList headers;
         for (int column = 0; column < table.columnCount(); ++column)
             headers += table.horizontalHeaderItem(column)->text();
@@ -642,7 +645,7 @@ private slots:
         selectRows(table, rows);
         press("okButton");
         QTEST(texts(list, "LayerName"), "kept"); // In place: the caller has the list in its hands.
-        QCOMPARE(m_dialog->resultData()->GetDataI("result"), 1);
+        QVERIFY(!m_dialog.window()->isVisible());
     }
 
 private:
@@ -651,13 +654,14 @@ private:
         m_tree = tree(json);
         m_invoker = RecordingInvoker::create(*m_host, keys);
         m_dialog = m_module.createDialog(name, m_tree, OdRxObjectPtr(m_invoker.get()));
+        m_dialog.window()->show();
     }
     template <class T = QTableWidget>
     T& find(const char* name) const
     {
         return *ModuleFixture::child<T>(m_dialog, name);
     }
-    void press(const char* button) const { ::press(*m_dialog->widget(), button); }
+    void press(const char* button) const { ::press(*m_dialog.window(), button); }
     /// The manager with these rows selected.
     QTableWidget& openManager(const QList<int>& rows, const QStringList& keys = {"none"})
     {
@@ -697,7 +701,7 @@ private:
     std::unique_ptr<RecordingHost> m_host;
     RecordingInvoker::Ptr m_invoker;
     VnJsonPtr m_tree;
-    VnUiModeDialogBasePtr m_dialog;
+    host::WatchedDialog m_dialog;
 };
 
 QTEST_MAIN(TestLayerStates)

@@ -42,13 +42,13 @@ private slots:
     void marksSources()
     {
         ListDriver driver(m_module, kName, layers(true));
-        QCOMPARE(driver.dialog->widget()->windowTitle(), QStringLiteral("合并图层"));
-        QVERIFY(!driver.dialog->widget()->findChild<QLineEdit*>());
+        QCOMPARE(driver.dialog.window()->windowTitle(), QStringLiteral("合并图层"));
+        QVERIFY(!driver.dialog.window()->findChild<QLineEdit*>());
         QCOMPARE(driver.list->selectionMode(), QAbstractItemView::ExtendedSelection);
         QCOMPARE(driver.run([](ListDriver& user) {
             user.list->clearSelection();
             user.press("okButton");
-            QVERIFY(user.dialog->widget()->isVisible());
+            QVERIFY(user.dialog.window()->isVisible());
             user.select({0, 3});
             user.press("okButton");
         }),
@@ -98,7 +98,7 @@ private slots:
         QFETCH(int, blocks);
         QFETCH(QString, question);
         ListDriver driver(m_module, kName, layers(false, sources, blocks));
-        QCOMPARE(driver.dialog->widget()->windowTitle(), QStringLiteral("合并到图层"));
+        QCOMPARE(driver.dialog.window()->windowTitle(), QStringLiteral("合并到图层"));
         driver.host.answer(7);
         driver.host.answer(6);
         const QList<int> marked{0, 11, 0, 0, 0}; // Only the first of that name.
@@ -106,7 +106,7 @@ private slots:
             QCOMPARE(user.edit()->text(), QStringLiteral("A"));
             user.select({1});
             user.press("okButton");
-            QVERIFY(user.dialog->widget()->isVisible());
+            QVERIFY(user.dialog.window()->isVisible());
             QCOMPARE(marks(user), marked); // Declined, and still marked.
             user.doubleClick(1);
         });

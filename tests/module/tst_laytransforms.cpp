@@ -3,6 +3,7 @@
 #include "rows.h"
 #include "trees.h"
 #include "useracts.h"
+#include "valuetree.h"
 #include "vnpickers.h"
 
 #include <QCheckBox>
@@ -16,7 +17,7 @@ const char kSettings[] = "Dialog/CmdLaytransSetting";
 const char kNewEdit[] = "Dialog/CmdLaytransNewEdit";
 
 template <class T>
-T& child(const VnUiModeDialogBasePtr& dialog, const char* name)
+T& child(const host::WatchedDialog& dialog, const char* name)
 {
     return *ModuleFixture::child<T>(dialog, name);
 }
@@ -65,7 +66,7 @@ private slots:
             QCOMPARE(box(option)->isChecked(), checked[option] == '1');
         box(4)->setTristate(true);
         box(4)->setCheckState(Qt::PartiallyChecked); // Which is not checked.
-        press(*dialog->widget(), "okButton");
+        press(*dialog.window(), "okButton");
         checked[4] = '0';
         const VnJsonPtr out = root->GetDataJ("LtransSettingParamOut");
         QCOMPARE(out.ArrayCount(), 6);
@@ -81,8 +82,8 @@ private slots:
             const VnJsonPtr root = tree(R"({"ltransInitIsEditLayer":true})");
             const QString before = toText(root);
             const auto dialog = m_module.createDialog(name, root);
-            press(*dialog->widget(), "helpButton");
-            press(*dialog->widget(), "cancelButton");
+            press(*dialog.window(), "helpButton");
+            press(*dialog.window(), "cancelButton");
             QCOMPARE(toText(root), before);
         }
         QCOMPARE(m_host->log(), (QStringList{"help|0", "help|0"}));
@@ -91,7 +92,7 @@ private slots:
     void preparesBoxes()
     {
         const auto dialog = m_module.createDialog(kNewEdit, tree("{}"));
-        QCOMPARE(dialog->widget()->windowTitle(), QStringLiteral("新图层"));
+        QCOMPARE(dialog.window()->windowTitle(), QStringLiteral("新图层"));
         QCOMPARE(textsOf(child<VnLineTypeComboBox>(dialog, "linetypeBox")),
             (QStringList{"Dashed", "CENTER", "Continuous"}));
         const auto& weights = child<VnLineWidthComboBox>(dialog, "lineWidthBox");
@@ -137,8 +138,8 @@ private slots:
                  // The names in use are not looked at: the layer may keep its own.
                  record + R"(},"newToLayerNameArray":{"ToLayerNameArray":["墙"]}})");
         const auto dialog = m_module.createDialog(kNewEdit, root);
-        QCOMPARE(dialog->widget()->windowTitle(), QStringLiteral("编辑图层"));
-        press(*dialog->widget(), "okButton");
+        QCOMPARE(dialog.window()->windowTitle(), QStringLiteral("编辑图层"));
+        press(*dialog.window(), "okButton");
         QCOMPARE(m_host->log(), QStringList());
         QCOMPARE(root->GetDataI("result"), 1);
         const QJsonObject result = toJsonObject(root->GetDataJ("ltransResultNewEditLayer"));
@@ -179,14 +180,14 @@ private slots:
         const VnJsonPtr root =
             tree(R"({"newToLayerNameArray":{"ToLayerNameArray":["0","WALL","墙%1"]}})");
         const auto dialog = m_module.createDialog(kNewEdit, root);
-        dialog->widget()->show();
+        dialog.window()->show();
         child<QLineEdit>(dialog, "nameEdit").setText(name);
         child<QComboBox>(dialog, "transparencyBox").setEditText(transparency);
-        press(*dialog->widget(), "okButton");
+        press(*dialog.window(), "okButton");
         QCOMPARE(m_host->log(),
             message.isEmpty() ? QStringList() : QStringList{"message|" + message + "||0"});
-        QCOMPARE(root->HasKey("ltransResultNewEditLayer"), message.isEmpty());
-        QCOMPARE(dialog->widget()->isVisible(), !message.isEmpty());
+        QCOMPARE(host::hasKey(root, "ltransResultNewEditLayer"), message.isEmpty());
+        QCOMPARE(dialog.window()->isVisible(), !message.isEmpty());
     }
 
 private:

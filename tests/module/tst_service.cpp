@@ -48,15 +48,15 @@ private slots:
     {
         QFETCH(QString, name);
         QFETCH(QByteArray, className);
-        const VnUiModeDialogBasePtr dialog = m_module.createDialog(name, {});
+        const host::WatchedDialog dialog = m_module.createDialog(name, {});
         QCOMPARE(!dialog.isNull(), !className.isEmpty());
         if (dialog.isNull())
             return;
-        QCOMPARE(QByteArray(dialog->widget()->metaObject()->className()), "vnsi::" + className);
-        QCOMPARE(dialog->widget()->objectName(), QString(name).replace('/', '_'));
+        QCOMPARE(QByteArray(dialog.window()->metaObject()->className()), "vnsi::" + className);
+        QCOMPARE(dialog.window()->objectName(), QString(name).replace('/', '_'));
         QCOMPARE(dialog->numRefs(), 1L);
-        const VnUiModeDialogBasePtr another = m_module.createDialog(name, {});
-        QVERIFY(another->widget() != dialog->widget());
+        const host::WatchedDialog another = m_module.createDialog(name, {});
+        QVERIFY(another.window() != dialog.window());
     }
 
     void hasOneModuleObjectOfItsRelease()

@@ -1,6 +1,7 @@
 #include "dialogsamples.h"
 
 #include "trees.h"
+#include "valuetree.h"
 
 #include <QSet>
 
@@ -150,6 +151,5 @@ std::vector<VnJsonPtr> containersIn(const VnJsonPtr& node)
 
 QStringList keysOf(const VnJsonPtr& node)
 {
-    return node->kind() == IElementValueBase::Kind::Object ? toJsonObject(node).keys()
-                                                           : QStringList();
+    return host::isObject(node) ? toJsonObject(node).keys() : QStringList();
 }

@@ -1,4 +1,5 @@
 #include "recordinghost.h"
+#include "valuetree.h"
 
 #include "trees.h"
 #include "vnmessages.h"
@@ -25,7 +26,7 @@ QStringList customButtons(const vnsi::VnJsonPtr& options)
 {
     QStringList texts;
     for (const char* key : kButtonKeys) {
-        if (options && options->HasKey(key))
+        if (options && host::hasKey(options, key))
             texts.append(plain(options->GetDataSW(key)));
     }
     return texts;
@@ -50,7 +51,8 @@ void RecordingHost::answer(int value)
 void RecordingHost::answer(int result, const QString& json)
 {
     m_answers.enqueue([result, json](const vnsi::VnJsonPtr& tree) {
-        merge(tree, json);
+        if (tree)
+            merge(tree, json);
         return result;
     });
 }
@@ -79,12 +81,12 @@ int RecordingHost::messageBoxEx(const OdString& caption, const OdString& text,
     return buttons == vnsi::kVnOk ? vnsi::kVnAnswerOk : take({});
 }
 
-int RecordingHost::taskDialog(const vnsi::CVnUiTaskDialog& dialog)
+int RecordingHost::taskDialog(const host::TaskQuestion& question)
 {
     QStringList commands;
-    for (const auto& [id, text] : dialog.commands())
+    for (const auto& [id, text] : question.commands)
         commands.append(QString::number(id) + QLatin1Char('=') + plain(text));
-    note(line({"task", plain(dialog.windowTitle()), plain(dialog.mainInstruction()),
+    note(line({"task", plain(question.title), plain(question.instruction),
         commands.join(QLatin1Char(';'))}));
     return take({});
 }

@@ -47,7 +47,7 @@ public:
     int messageBox(const OdString& text, const OdString& caption, int style) override;
     int messageBoxEx(const OdString& caption, const OdString& text, const vnsi::VnJsonPtr& options,
         int style, int code, int icon) override;
-    int taskDialog(const vnsi::CVnUiTaskDialog& dialog) override;
+    int taskDialog(const host::TaskQuestion& question) override;
     int showDialog(const OdString& service, const OdString& name, const vnsi::VnJsonPtr& tree,
         const OdRxObjectPtr& invoker, QWidget* parent) override;
     void help(int topic) override;

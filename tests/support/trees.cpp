@@ -1,4 +1,6 @@
 #include "trees.h"
+#include "hostextras.h"
+#include "valuetree.h"
 
 #include "vnstrings.h"
 
@@ -8,9 +10,9 @@
 
 namespace {
 
-OdAnsiString utf8(const QByteArray& bytes)
+vnsi::VnJsonPtr fromJson(const QJsonArray& array)
 {
-    return OdAnsiString(bytes.toStdString());
+    return host::fromJson(QJsonDocument(array).toJson(QJsonDocument::Compact).toStdString());
 }
 
 void mergeMember(const vnsi::VnJsonPtr& target, const QString& name, const QJsonValue& value)
@@ -22,23 +24,21 @@ void mergeMember(const vnsi::VnJsonPtr& target, const QString& name, const QJson
         target->SetDataB(key, value.toBool());
         return;
     case QJsonValue::Double:
-        target->SetDataL(key, value.toVariant().toLongLong());
+        target->SetDataJ(key, fromJson(QJsonArray{value})(0)); // Reads as either integer type.
         return;
     case QJsonValue::String:
         target->SetDataSW(key, vnsi::vnutQStringToOdString(value.toString()));
         return;
-    case QJsonValue::Array: {
-        const QByteArray json = QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact);
-        target->SetDataJ(key, vnsi::ElementValue::fromJson(utf8(json)));
+    case QJsonValue::Array:
+        target->SetDataJ(key, fromJson(value.toArray()));
         return;
-    }
     case QJsonValue::Object:
         if (!target->GetDataJ(key))
             target->SetDataJ(key, vnsi::ElementValue::createObject(4));
         merge(target->GetDataJ(key), value.toObject());
         return;
     default:
-        target->RemoveKey(key);
+        hostextras::removeKey(*target, key);
     }
 }
 
@@ -46,7 +46,7 @@ void mergeMember(const vnsi::VnJsonPtr& target, const QString& name, const QJson
 
 vnsi::VnJsonPtr tree(const QString& json)
 {
-    vnsi::VnJsonPtr node = vnsi::ElementValue::fromJson(utf8(json.toUtf8()));
+    vnsi::VnJsonPtr node = host::fromJson(json.toStdString());
     if (!node)
         QTest::qFail(qPrintable("no JSON: " + json), __FILE__, __LINE__);
     return node;
@@ -54,7 +54,7 @@ vnsi::VnJsonPtr tree(const QString& json)
 
 QString toText(const vnsi::VnJsonPtr& node)
 {
-    return QString::fromUtf8(vnsi::ElementValue::toJson(node).c_str());
+    return QString::fromUtf8(hostextras::jsonOf(node).c_str());
 }
 
 QJsonObject toJsonObject(const vnsi::VnJsonPtr& node)

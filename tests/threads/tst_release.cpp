@@ -1,5 +1,6 @@
 #include "RxObjectImpl.h"
 #include "documents.h"
+#include "hostextras.h"
 #include "hoststart.h"
 #include "requests.h"
 #include "vnjson.h"
@@ -200,7 +201,7 @@ void sharesReferences()
 void sharesTreesAndObjects()
 {
     VnJsonPtr tree = ElementValue::createObject(2);
-    tree->SetDataJ("LayerList", ElementValue::createArray());
+    tree->SetDataJ("LayerList", hostextras::createArray(0));
     const std::vector<VnJsonPtr> trees(kThreads, tree);
     const OdRxObjectPtr object = host::makeDocument();
     runOnThreads([&](int thread) {

@@ -1,6 +1,7 @@
 #include "../drawing/readback.h"
 #include "canvas.h"
 #include "commandfixture.h"
+#include "hostextras.h"
 #include "standardsfile.h"
 #include "vnsettings.h"
 
@@ -61,7 +62,7 @@ private:
 void LayerTranslateCommandTest::init()
 {
     start({"Dialog/CmdLaytrans", "Dialog/CmdLaytransNewEdit", "Dialog/CmdLaytransSetting"});
-    vnsi::vn_user_config(L"layertransset_dialog")->RemoveKey("LtransSettingDates");
+    hostextras::removeKey(*vnsi::vn_user_config(L"layertransset_dialog"), "LtransSettingDates");
     QFile::remove(inFolder("floor.dxf"));
     QVERIFY(QFile::copy(m_path, inFolder("floor.dxf"))); // The log goes beside it.
     open(inFolder("floor.dxf"));
@@ -158,7 +159,7 @@ void LayerTranslateCommandTest::refusals()
     QVERIFY(noDrawing.open(QIODevice::WriteOnly) && noDrawing.write("text") == 4);
     noDrawing.close();
     const auto config = vnsi::vn_user_config(L"layertransset_dialog");
-    config->SetDataJ("LtransSettingDates", vnsi::ElementValue::createArray());
+    config->SetDataJ("LtransSettingDates", hostextras::createArray(0));
     const auto message = [&] { return m_host->takeLog().filter("message|").join('\n'); };
     const auto acts = [&](QDialog& dialog) {
         load(dialog, {inFolder("text.dxf"), kStandard, inFolder("missing.dwg")});
@@ -202,7 +203,7 @@ void LayerTranslateCommandTest::refusals()
     };
     run("laytrans", {closing(acts), [](QDialog& settings) { press(settings, "cancelButton"); }});
     QVERIFY(!drawing().canUndo());
-    config->RemoveKey("LtransSettingDates");
+    hostextras::removeKey(*config, "LtransSettingDates");
 }
 
 void LayerTranslateCommandTest::purgesInOneStep()

@@ -1,4 +1,5 @@
 #include "layerrecords.h"
+#include "hostextras.h"
 
 #include "drawing.h"
 #include "vnstrings.h"
@@ -204,9 +205,9 @@ void Provider::write(LayerRecord& record, const Layer& layer, bool current) cons
 VnJsonPtr Provider::list(const drawing::Drawing& drawing, const Filter& passes) const
 {
     const std::vector<const Layer*> layers = sortedByName(drawing.layers(), passes);
-    VnJsonPtr list = vnsi::ElementValue::createArray(static_cast<int>(layers.size()));
+    VnJsonPtr list = hostextras::createArray(static_cast<int>(layers.size()));
     for (const Layer* layer : layers)
-        list->Append(make(*layer, layer->id == drawing.currentLayer()));
+        hostextras::append(list, make(*layer, layer->id == drawing.currentLayer()));
     return list;
 }
 

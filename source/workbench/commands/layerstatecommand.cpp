@@ -1,4 +1,5 @@
 #include "layerstatecommand.h"
+#include "hostextras.h"
 
 #include "commandinvoker.h"
 #include "drawing.h"
@@ -113,9 +114,9 @@ void LayerStateCommand::run(CommandContext& context)
 
 VnJsonPtr LayerStateCommand::makeTree()
 {
-    const VnJsonPtr elements = ElementValue::createArray(vnsi::kStateElementCount);
+    const VnJsonPtr elements = hostextras::createArray(vnsi::kStateElementCount);
     for (int i = 0; i < vnsi::kStateElementCount; ++i)
-        elements->Append(ElementValue::createObject(8));
+        hostextras::append(elements, ElementValue::createObject(8));
     m_manager = elements(vnsi::kStateManager);
     m_editor = elements(vnsi::kStateEditor);
     VnJsonPtr tree = ElementValue::createObject(2);
@@ -141,7 +142,7 @@ void LayerStateCommand::answer(const VnJsonPtr& node)
 
 void LayerStateCommand::showStates(const std::vector<LayerState>& states)
 {
-    const VnJsonPtr list = ElementValue::createArray(static_cast<int>(states.size()));
+    const VnJsonPtr list = hostextras::createArray(static_cast<int>(states.size()));
     QString current;
     for (const LayerState& state : states) {
         const bool isSame = drawing::isSameAsDrawing(state, drawing());
@@ -149,7 +150,7 @@ void LayerStateCommand::showStates(const std::vector<LayerState>& states)
             current = state.name;
         const VnJsonPtr entry = statelist::makeEntry(state);
         entry->SetDataB(key::kIsSameAsDrawing, isSame);
-        list->Append(entry);
+        hostextras::append(list, entry);
     }
     m_manager->SetDataJ(key::kList, list);
     m_manager->SetDataSW(key::kCurrent, od(current.isEmpty() ? tr("*未保存*") : current));
@@ -319,7 +320,7 @@ void LayerStateCommand::importStates(const VnJsonPtr& node)
     LayerStateImport import(drawing());
     const VnJsonPtr paths = node->GetDataJ(key::kImportPaths);
     for (int i = 0, count = paths.ArrayCount(); i < count; ++i)
-        import.read(vnsi::vnutOdStringToQString(paths(i)->asSW()),
+        import.read(vnsi::vnutOdStringToQString(hostextras::textOf(paths(i))),
             node->GetDataB(key::kImportSkipsReferences));
     const std::vector<LayerState> chosen = import.choose();
     m_problems += import.problems();

@@ -1,4 +1,5 @@
 #include "laymrgcommand.h"
+#include "hostextras.h"
 
 #include "drawing.h"
 #include "layerrecords.h"
@@ -61,14 +62,14 @@ VnJsonPtr LayerMergeCommand::makeTargetTree(const drawing::Drawing& drawing, con
     std::vector<drawing::LayerId> ids = idsOf(sources);
     std::sort(ids.begin(), ids.end());
     const VnJsonPtr all = tree->GetDataJ(key::kList);
-    const VnJsonPtr list = vnsi::ElementValue::createArray(all.ArrayCount());
+    const VnJsonPtr list = hostextras::createArray(all.ArrayCount());
     for (const bool isSource : {false, true}) {
         for (int i = 0, count = all.ArrayCount(); i < count; ++i) {
             const VnJsonPtr record = all(i);
             if (std::binary_search(ids.begin(), ids.end(), layerrecords::idOf(record)) != isSource)
                 continue;
             record->SetDataB(toolkey::kSourceLayer, isSource);
-            list->Append(record);
+            hostextras::append(list, record);
         }
     }
     tree->SetDataJ(key::kList, list);

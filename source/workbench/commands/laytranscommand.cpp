@@ -1,4 +1,5 @@
 #include "laytranscommand.h"
+#include "hostextras.h"
 
 #include "drawing.h"
 #include "layermarks.h"
@@ -67,7 +68,7 @@ QStringList selectedNames(const VnJsonPtr& tree)
     const VnJsonPtr several = tree->GetDataJ(kSelectedNames);
     QStringList names{text(tree, kSelectedName)};
     for (int i = 0, count = several.ArrayCount(); i < count; ++i)
-        names.append(vnsi::vnutOdStringToQString(several(i)->asSW()));
+        names.append(vnsi::vnutOdStringToQString(hostextras::textOf(several(i))));
     return names;
 }
 
@@ -93,7 +94,7 @@ const LayerTranslateCommand::RequestRow LayerTranslateCommand::kRequests[] = {
 void LayerTranslateCommand::run(CommandContext& context)
 {
     m_context = &context;
-    m_targets = ElementValue::createArray();
+    m_targets = hostextras::createArray(0);
     m_showsSelection = TranslationRecords::options(keptSettings()).showSelection;
     m_records.offerLinetypes(drawing());
     layermarks::show(context, kDialog, makeTree(), [this](const VnJsonPtr& tree) { answer(tree); });
@@ -174,7 +175,7 @@ void LayerTranslateCommand::save(const VnJsonPtr& tree)
         layermarks::warn(saved.error().text);
         return;
     }
-    tree->set(kSaveOutcome, 1);
+    tree->SetDataI(kSaveOutcome, 1);
     say(tr("已将 %1 个图层映射保存到“%2”。").arg(mappings.size()).arg(shown(path)));
     m_problems = *saved;
     tellProblems(tr("图层映射已保存，但以下内容除外："));
@@ -184,12 +185,12 @@ void LayerTranslateCommand::load(const VnJsonPtr& tree)
 {
     const bool isFirst = tree->GetDataB(kLoadIsFirst);
     const VnJsonPtr present = isFirst ? VnJsonPtr() : tree->GetDataJ(kLoadTargets);
-    m_targets = present ? present : ElementValue::createArray();
-    const VnJsonPtr mappings = ElementValue::createArray();
+    m_targets = present ? present : hostextras::createArray(0);
+    const VnJsonPtr mappings = hostextras::createArray(0);
     const VnJsonPtr paths = tree->GetDataJ(kLoadPaths);
     const int before = m_targets.ArrayCount();
     for (int i = 0, count = paths.ArrayCount(); i < count; ++i)
-        loadFile(vnsi::vnutOdStringToQString(paths(i)->asSW()), mappings);
+        loadFile(vnsi::vnutOdStringToQString(hostextras::textOf(paths(i))), mappings);
     m_records.offerLinetypes(drawing());
     tree->SetDataJ(kLoadedTargets, m_targets);
     tree->SetDataJ(kLoadedMappings, mappings);
@@ -207,7 +208,7 @@ void LayerTranslateCommand::loadFile(const QString& path, const VnJsonPtr& mappi
     }
     addTargets(standard->layers, path);
     for (const LayerMapping& mapping : standard->mappings)
-        mappings->Append(m_records.mapping(mapping));
+        hostextras::append(mappings, m_records.mapping(mapping));
     m_problems += standard->notices;
 }
 
@@ -224,7 +225,7 @@ void LayerTranslateCommand::addTargets(const std::vector<TargetLayer>& targets, 
             continue;
         }
         known.insert(vnsi::foldedName(target.name));
-        m_targets->Append(m_records.target(target));
+        hostextras::append(m_targets, m_records.target(target));
     }
     if (skipped > 0)
         say(tr("文件“%1”：%2 个图层与列表中的图层同名，保留列表中的。")
@@ -273,7 +274,7 @@ void LayerTranslateCommand::addTarget(const VnJsonPtr& tree)
     TargetRecord target(ElementValue::createObject(12));
     target.takeResult(*result);
     target.setUsed(false);
-    m_targets->Append(target.node());
+    hostextras::append(m_targets, target.node());
     tree->SetDataJ(kLoadedTargets, m_targets);
 }
 

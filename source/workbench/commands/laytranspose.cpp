@@ -1,3 +1,4 @@
+#include "hostextras.h"
 #include "laytranscommand.h"
 
 #include "drawing.h"
@@ -65,17 +66,17 @@ std::vector<TargetLayer> sampleTargets()
 void LayerTranslateCommand::answerWithSamples(const VnJsonPtr& tree)
 {
     const std::vector<TargetLayer> targets = sampleTargets();
-    const VnJsonPtr list = ElementValue::createArray();
+    const VnJsonPtr list = hostextras::createArray(0);
     for (const TargetLayer& target : targets)
-        list->Append(m_records.target(target));
-    const VnJsonPtr mappings = ElementValue::createArray();
+        hostextras::append(list, m_records.target(target));
+    const VnJsonPtr mappings = hostextras::createArray(0);
     for (const drawing::Layer& layer : drawing().layers()) {
         const int count = mappings.ArrayCount();
         const bool isTarget = std::any_of(targets.begin(), targets.end(),
             [&layer](const TargetLayer& target) { return target.name == layer.properties.name; });
         if (layermarks::mayGo(drawing(), layer) && !isTarget && layer.used() && count < kMostMapped)
-            mappings->Append(m_records.mapping(
-                {layer.properties.name, targets[static_cast<std::size_t>(count)]}));
+            hostextras::append(mappings, m_records.mapping({layer.properties.name,
+                                             targets[static_cast<std::size_t>(count)]}));
     }
     tree->SetDataJ(kLoadedTargets, list);
     tree->SetDataJ(kLoadedMappings, mappings);
@@ -103,11 +104,11 @@ void LayerTranslateCommand::pose(CommandContext& context, const Camera& camera)
     posing::showDialog(kService, L"Dialog/CmdLaytransNewEdit", layer, camera,
         QStringLiteral("layer-translator-layer"));
 
-    const VnJsonPtr options = ElementValue::createArray(vnsi::kTranslatorOptionCount);
+    const VnJsonPtr options = hostextras::createArray(vnsi::kTranslatorOptionCount);
     for (int option = 0; option < vnsi::kTranslatorOptionCount; ++option) {
         const VnJsonPtr setting = ElementValue::createObject(1);
         setting->SetDataB(kSetting, option % 2 == 0);
-        options->Append(setting);
+        hostextras::append(options, setting);
     }
     const VnJsonPtr settings = ElementValue::createObject(2);
     settings->SetDataJ(kSettingsIn, options);

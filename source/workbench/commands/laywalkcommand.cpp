@@ -1,4 +1,6 @@
 #include "laywalkcommand.h"
+#include "hostextras.h"
+#include "valuetree.h"
 
 #include "commandinvoker.h"
 #include "drawing.h"
@@ -53,8 +55,8 @@ QStringList namesToPurge(const VnJsonPtr& root)
     QStringList names;
     const VnJsonPtr list = root->GetDataJ(walkkey::kPurgeSeveral);
     for (int i = 0, count = list.ArrayCount(); i < count; ++i)
-        names.append(vnsi::vnutOdStringToQString(list(i)->asSW()));
-    if (root->HasKey(walkkey::kPurgeOne))
+        names.append(vnsi::vnutOdStringToQString(hostextras::textOf(list(i))));
+    if (host::hasKey(root, walkkey::kPurgeOne))
         names.append(vnsi::vnutOdStringToQString(root->GetDataSW(walkkey::kPurgeOne)));
     return names;
 }
@@ -295,14 +297,14 @@ void LayerWalkCommand::pick(const VnJsonPtr& root)
     if (!m_context->pick)
         return;
     QSet<int> seen;
-    const VnJsonPtr names = vnsi::ElementValue::createArray();
+    const VnJsonPtr names = hostextras::createArray(0);
     for (const int entity : m_context->pick()) {
         const LayerId id = drawing().entities()[static_cast<std::size_t>(entity)].layer;
         const Layer* layer = drawing().layer(id);
         if (!layer || seen.contains(static_cast<int>(id)))
             continue;
         seen.insert(static_cast<int>(id));
-        names->AppendSW(vnsi::vnutQStringToOdString(layer->properties.name));
+        hostextras::appendText(names, vnsi::vnutQStringToOdString(layer->properties.name));
     }
     root->SetDataJ(walkkey::kPickedNames, names);
 }

@@ -1,4 +1,6 @@
 #include "translationrecords.h"
+#include "hostextras.h"
+#include "valuetree.h"
 
 #include "drawing.h"
 #include "layerrecords.h"
@@ -78,12 +80,12 @@ VnJsonPtr TranslationRecords::sources(const drawing::Drawing& drawing)
     static const layerrecords::Provider names({vnsi::layerkey::kName, vnsi::layerkey::kUsed});
     const VnJsonPtr layers =
         names.list(drawing, [](const drawing::Layer& layer) { return !layer.dependsOnReference; });
-    VnJsonPtr records = ElementValue::createArray(layers.ArrayCount());
+    VnJsonPtr records = hostextras::createArray(layers.ArrayCount());
     for (int i = 0, count = layers.ArrayCount(); i < count; ++i) {
         const VnJsonPtr record = ElementValue::createObject(2);
         record->SetDataSW(kFromName, od(layerrecords::nameOf(layers(i))));
         record->SetDataB(kFromUsed, layers(i)->GetDataB(vnsi::layerkey::kUsed));
-        records->Append(record);
+        hostextras::append(records, record);
     }
     return records;
 }
@@ -147,7 +149,7 @@ TargetLayer TranslationRecords::target(const VnJsonPtr& node) const
     target.lineweight = record.lineWidth();
     target.transparency = record.transparency();
     target.plotStyle = filedPlotStyle(record.plotStyle());
-    if (node->HasKey(kPlotted))
+    if (host::hasKey(node, kPlotted))
         target.plotted = node->GetDataB(kPlotted);
     target.used = record.isUsed();
     return target;
