@@ -1,8 +1,8 @@
 #include "comparison.h"
+#include "hostcodes.h"
 #include "hostfrontend.h"
 #include "hoststart.h"
 #include "rows.h"
-#include "vnmessages.h"
 
 #include <benchmark/benchmark.h>
 

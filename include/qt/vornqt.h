@@ -75,11 +75,6 @@ private:
 VnQtAnswer vnqtAsk(VnJsonPtr node, OdSmartPtr<VnQtCommandInvoker> invoker, OdAnsiString dialogName,
     const VnQtRequest& request, const VnQtArgumentWriter& writeArguments = {});
 
-/// As `vnqtAsk`, for dialogs that read the answers from `root`.
-bool vnqtSendRequest(const VnJsonPtr& root, const OdRxObjectPtr& invoker,
-    const OdAnsiString& dialogName, const VnQtRequest& request,
-    const VnQtArgumentWriter& writeArguments);
-
 /// What every dialog's wrapper is to the host, apart from the dialog class.
 class VnQtUIModeDialogBase : public VnUiModeDialogBase
 {
@@ -230,12 +225,6 @@ protected:
     {
         return vnqtAsk(
             m_data ? node : VnJsonPtr(), m_callBack, m_dialogName, request, writeArguments);
-    }
-
-    /// As `askCommand`, for dialogs that read the answers from their tree.
-    bool sendRequest(const VnQtRequest& request, const VnQtArgumentWriter& writeArguments = {})
-    {
-        return vnqtSendRequest(m_data, m_invoker, m_dialogName, request, writeArguments);
     }
 
 private:

@@ -4,7 +4,6 @@
 #include "OdString.h"
 #include "vnsidef.h"
 
-#include <type_traits>
 #include <utility>
 
 namespace vnsi {
@@ -28,7 +27,6 @@ public:
     }
     ~VnJsonPtr();
 
-    bool isNull() const { return !m_node; }
     explicit operator bool() const { return m_node; }
     IElementValueBase* get() const { return m_node; }
     IElementValueBase* operator->() const { return m_node; }
@@ -56,18 +54,13 @@ private:
 class VNSI_EXPORT IElementValueBase
 {
 public:
-    enum class Kind { Null, Bool, Int, Long, Real, Text, Array, Object };
-
     virtual void addRef() = 0;
     virtual void release() = 0;
-    virtual Kind kind() const = 0;
 
     virtual bool GetDataB(const char* key, bool fallback = false) const = 0;
     virtual OdInt32 GetDataI(const char* key, OdInt32 fallback = 0) const = 0;
     virtual OdInt64 GetDataL(const char* key, OdInt64 fallback = 0) const = 0;
     virtual OdString GetDataSW(const char* key, const OdString& fallback = OdString()) const = 0;
-    virtual OdAnsiString GetDataS(
-        const char* key, const OdAnsiString& fallback = OdAnsiString()) const = 0;
     /// The object or array under `key`; empty where there is none.
     virtual VnJsonPtr GetDataJ(const char* key) const = 0;
 
@@ -80,34 +73,10 @@ public:
     /// that would become its own descendant, remove the key.
     virtual void SetDataJ(const char* key, const VnJsonPtr& value) = 0;
 
-    // Setters that can be chained: each replaces the value under `key` and gives back the node.
-    IElementValueBase& set(const char* key, bool value);
-    IElementValueBase& set(const char* key, OdInt32 value);
-    IElementValueBase& set(const char* key, const OdString& value);
-    IElementValueBase& set(const char* key, const wchar_t* value); // Else a literal is a bool.
-    template <class T>
-    std::enable_if_t<!std::is_convertible_v<const T&, OdString>, IElementValueBase&> set(
-        const char* key, const T& value) = delete;
-
-    virtual bool HasKey(const char* key) const = 0;
-    virtual void RemoveKey(const char* key) = 0;
-
     /// Number of elements of an array; 0 for other kinds.
     virtual int ArrayCount() const = 0;
     /// Element `index` of an array; a scalar element comes as a node of its own that reads alone.
     virtual VnJsonPtr operator()(int index) const = 0;
-    virtual void Append(const VnJsonPtr& value) = 0;
-    virtual void AppendI(OdInt32 value) = 0;
-    virtual void AppendSW(const OdString& value) = 0;
-    /// Inserts before element `index`; at the end when it is not below the count.
-    virtual void Insert(int index, const VnJsonPtr& value) = 0;
-    virtual void Remove(int index) = 0;
-    virtual void Clear() = 0;
-
-    // The value of a scalar node, with the getters' rules.
-    virtual bool asB(bool fallback = false) const = 0;
-    virtual OdInt32 asI(OdInt32 fallback = 0) const = 0;
-    virtual OdString asSW(const OdString& fallback = OdString()) const = 0;
 
 protected:
     virtual ~IElementValueBase() = default;
@@ -119,39 +88,7 @@ class VNSI_EXPORT ElementValue
 public:
     /// An empty object with room for `capacity` members.
     static VnJsonPtr createObject(int capacity);
-    /// An empty array with room for `capacity` elements.
-    static VnJsonPtr createArray(int capacity = 0);
-    /// A deep copy that shares nothing; empty for an empty handle.
-    static VnJsonPtr clone(const VnJsonPtr& node);
-    /// The tree of a JSON text in UTF-8; empty when it is no JSON object or array.
-    static VnJsonPtr fromJson(const OdAnsiString& json);
-    /// The tree as one line of JSON in UTF-8; "null" for an empty handle. Integers beyond 2^53 are
-    /// rounded, and what is nested deeper than 1024 containers is left out as null.
-    static OdAnsiString toJson(const VnJsonPtr& node);
 };
-
-inline IElementValueBase& IElementValueBase::set(const char* key, bool value)
-{
-    SetDataB(key, value);
-    return *this;
-}
-
-inline IElementValueBase& IElementValueBase::set(const char* key, OdInt32 value)
-{
-    SetDataI(key, value);
-    return *this;
-}
-
-inline IElementValueBase& IElementValueBase::set(const char* key, const OdString& value)
-{
-    SetDataSW(key, value);
-    return *this;
-}
-
-inline IElementValueBase& IElementValueBase::set(const char* key, const wchar_t* value)
-{
-    return set(key, OdString(value));
-}
 
 inline VnJsonPtr::VnJsonPtr(const VnJsonPtr& other) : m_node(other.m_node)
 {

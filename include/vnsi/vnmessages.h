@@ -1,6 +1,5 @@
 #pragma once
 
-#include "hostcodes.h"
 #include "vnjson.h"
 
 namespace vnsi {

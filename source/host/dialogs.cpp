@@ -1,9 +1,9 @@
 #include "vndialogs.h"
 
+#include "hostcodes.h"
 #include "hostfrontend.h"
 #include "settings.h"
 #include "vnmessages.h"
-#include "vnproduct.h"
 #include "vnrequests.h"
 #include "vnstrings.h"
 

@@ -272,27 +272,3 @@ void clear(IElementValueBase& node)
 }
 
 } // namespace host
-
-namespace vnsi {
-
-VnJsonPtr ElementValue::createArray(int capacity)
-{
-    return hostextras::createArray(capacity);
-}
-
-VnJsonPtr ElementValue::clone(const VnJsonPtr& node)
-{
-    return hostextras::copyOf(node);
-}
-
-VnJsonPtr ElementValue::fromJson(const OdAnsiString& json)
-{
-    return host::fromJson(std::string(json.view()));
-}
-
-OdAnsiString ElementValue::toJson(const VnJsonPtr& node)
-{
-    return OdAnsiString(hostextras::jsonOf(node));
-}
-
-} // namespace vnsi

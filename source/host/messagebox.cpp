@@ -1,5 +1,6 @@
 #include "messagebox.h"
 
+#include "hostcodes.h"
 #include "hostfrontend.h"
 #include "hostwindows.h"
 #include "readable.h"

@@ -1,8 +1,8 @@
 #include "taskdialog.h"
 
+#include "hostcodes.h"
 #include "hostfrontend.h"
 #include "readable.h"
-#include "vnmessages.h"
 #include "vnrequests.h"
 #include "vnstrings.h"
 #include "vntaskdialog.h"

@@ -71,13 +71,6 @@ OdString ValueNode::GetDataSW(const char* key, const OdString& fallback) const
     return value ? readText(*value, fallback) : fallback;
 }
 
-OdAnsiString ValueNode::GetDataS(const char* key, const OdAnsiString& fallback) const
-{
-    const Value* value = find(key);
-    const auto* text = value ? std::get_if<OdString>(value) : nullptr;
-    return text ? OdStringToUtf8String(*text) : fallback;
-}
-
 VnJsonPtr ValueNode::GetDataJ(const char* key) const
 {
     const Value* value = find(key);
@@ -139,24 +132,6 @@ void ValueNode::Insert(int, const VnJsonPtr&) {}
 void ValueNode::Remove(int) {}
 
 void ValueNode::Clear() {}
-
-bool ValueNode::asB(bool fallback) const
-{
-    const Value* value = scalar();
-    return value ? readBool(*value, fallback) : fallback;
-}
-
-OdInt32 ValueNode::asI(OdInt32 fallback) const
-{
-    const Value* value = scalar();
-    return value ? readInt(*value, fallback) : fallback;
-}
-
-OdString ValueNode::asSW(const OdString& fallback) const
-{
-    const Value* value = scalar();
-    return value ? readText(*value, fallback) : fallback;
-}
 
 const Value* ValueNode::find(const char*) const
 {

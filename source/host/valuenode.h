@@ -15,6 +15,9 @@ public:
     void addRef() override { m_references.fetch_add(1, std::memory_order_relaxed); }
     void release() override;
 
+    enum class Kind { Null, Bool, Int, Long, Real, Text, Array, Object };
+
+    virtual Kind kind() const = 0;
     /// The value of a scalar node; null for containers.
     virtual const Value* scalar() const { return nullptr; }
     /// Appends the containers that hang in this one.
@@ -29,7 +32,6 @@ public:
     OdInt32 GetDataI(const char* key, OdInt32 fallback) const override;
     OdInt64 GetDataL(const char* key, OdInt64 fallback) const override;
     OdString GetDataSW(const char* key, const OdString& fallback) const override;
-    OdAnsiString GetDataS(const char* key, const OdAnsiString& fallback) const override;
     VnJsonPtr GetDataJ(const char* key) const override;
 
     void SetDataB(const char* key, bool value) override;
@@ -38,21 +40,19 @@ public:
     void SetDataSW(const char* key, const OdString& value) override;
     void SetDataS(const char* key, const OdAnsiString& utf8) override;
     void SetDataJ(const char* key, const VnJsonPtr& value) override;
-    bool HasKey(const char* key) const override;
-    void RemoveKey(const char* key) override;
-
     int ArrayCount() const override;
     VnJsonPtr operator()(int index) const override;
-    void Append(const VnJsonPtr& value) override;
-    void AppendI(OdInt32 value) override;
-    void AppendSW(const OdString& value) override;
-    void Insert(int index, const VnJsonPtr& value) override;
-    void Remove(int index) override;
-    void Clear() override;
 
-    bool asB(bool fallback) const override;
-    OdInt32 asI(OdInt32 fallback) const override;
-    OdString asSW(const OdString& fallback) const override;
+    bool HasKey(const char* key) const;
+    virtual void RemoveKey(const char* key);
+    virtual void Append(const VnJsonPtr& value);
+    virtual void AppendI(OdInt32 value);
+    virtual void AppendSW(const OdString& value);
+    /// Inserts before element `index`; at the end when it is not below the count.
+    virtual void Insert(int index, const VnJsonPtr& value);
+    virtual void Remove(int index);
+    /// Removes all members or elements.
+    virtual void Clear();
 
 protected:
     /// What stands under `path`; null where there is nothing and on nodes that are no objects.

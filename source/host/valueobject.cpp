@@ -37,7 +37,7 @@ std::string_view takePart(std::string_view& path)
 
 ValueObject* asObject(ValueNode* node)
 {
-    const bool isObject = node && node->kind() == IElementValueBase::Kind::Object;
+    const bool isObject = node && node->kind() == ValueNode::Kind::Object;
     return isObject ? static_cast<ValueObject*>(node) : nullptr;
 }
 

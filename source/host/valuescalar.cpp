@@ -4,7 +4,7 @@
 
 namespace vnsi {
 
-IElementValueBase::Kind ValueScalar::kind() const
+ValueNode::Kind ValueScalar::kind() const
 {
     constexpr Kind kKinds[] = {
         Kind::Null, Kind::Bool, Kind::Int, Kind::Long, Kind::Long, Kind::Real, Kind::Text};

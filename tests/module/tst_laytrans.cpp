@@ -1,10 +1,12 @@
 #include "dialogsamples.h"
+#include "hostextras.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
 #include "rows.h"
 #include "translatorkeys.h"
 #include "trees.h"
 #include "useracts.h"
+#include "valuetree.h"
 #include "vnsettings.h"
 
 #include <QLineEdit>
@@ -109,13 +111,13 @@ private:
     std::unique_ptr<RecordingHost> m_host;
     RecordingInvoker::Ptr m_invoker;
     VnJsonPtr m_tree;
-    VnUiModeDialogBasePtr m_dialog;
+    host::WatchedDialog m_dialog;
 };
 
 void TestLaytrans::init()
 {
     m_host = std::make_unique<RecordingHost>();
-    vn_user_config(transkey::kConfigSection)->RemoveKey(transkey::kConfigSettings);
+    hostextras::removeKey(*vn_user_config(transkey::kConfigSection), transkey::kConfigSettings);
 }
 
 void TestLaytrans::cleanup()
@@ -130,7 +132,7 @@ void TestLaytrans::open(const QString& json, const QStringList& keys)
     m_invoker = RecordingInvoker::create(*m_host, keys);
     m_invoker->setMarkerKey(transkey::kRequestCode);
     m_dialog = m_module.createDialog("Dialog/CmdLaytrans", m_tree, OdRxObjectPtr(m_invoker.get()));
-    m_dialog->widget()->show();
+    m_dialog.window()->show();
 }
 
 void TestLaytrans::load(const QString& mappings)
@@ -298,7 +300,7 @@ void TestLaytrans::edited()
     QCOMPARE(m_host->log(), QStringList());
     VnJsonPtr question;
     m_host->answer([&](const VnJsonPtr& asked) {
-        question = ElementValue::clone(asked);
+        question = hostextras::copyOf(asked);
         merge(asked, kEdited);
         return 1;
     });
@@ -333,7 +335,7 @@ void TestLaytrans::savedUntilChanged()
             QCOMPARE(root->GetDataJ("ltransMapListArray").ArrayCount(), 1);
             QCOMPARE(root->GetDataJ("ltransSaveMapListdlg")->GetDataSW("filePath"),
                 OdString(L"/d/s.dws"));
-            root->set("result", result);
+            root->SetDataI("result", result);
         });
         m_host->answer(1, R"({"filePath":"/d/s.dws"})");
         press("saveButton");
@@ -431,7 +433,7 @@ void TestLaytrans::keepsItsLists_data()
 {
     const auto spoil = [](const VnJsonPtr& root) {
         for (const VnJsonPtr& node : containersIn(root))
-            node->Clear();
+            host::clear(*node);
     };
     const Rows<RecordingInvoker::Answer> row("answer");
     row("empties the tree", spoil);
@@ -464,7 +466,7 @@ void TestLaytrans::keepsItsLists()
     press("settingButton");
     clickCell(find<QListWidget>("fromList"), 0);
     press("translateButton");
-    QVERIFY(m_dialog->widget()->isVisible());
+    QVERIFY(m_dialog.window()->isVisible());
     QCOMPARE(from() + to() + rows(), before);
     m_invoker->setAnswer({});
     press("translateButton"); // Sends all that there was.
@@ -479,7 +481,7 @@ void TestLaytrans::settingsKept()
     select({"door"});
     m_invoker->setAnswer([](const VnJsonPtr& root) {
         QCOMPARE(root->GetDataSW("currentFromLName"), OdString(L"door"));
-        QVERIFY(!root->HasKey("currentFromLNames"));
+        QVERIFY(!host::hasKey(root, "currentFromLNames"));
         root->GetDataJ("LtransSettingParamset")(0)->SetDataB("LtransSettingData", true);
     });
     press("settingButton"); // What the command does to the question is no answer.
@@ -519,7 +521,7 @@ void TestLaytrans::translated()
         map(from().mid(0, mapped), 0);
     m_invoker->setAnswer([&](const VnJsonPtr& root) {
         QCOMPARE(root->GetDataI("laytransLMapRow", -1), mapped);
-        QCOMPARE(root->HasKey("laytransLMapOkDatas"), mapped > 0);
+        QCOMPARE(host::hasKey(root, "laytransLMapOkDatas"), mapped > 0);
         QCOMPARE(root->GetDataJ("laytransLMapOkDatas").ArrayCount(), mapped);
         QCOMPARE(root->GetDataJ("laytransLFromOkDatas").ArrayCount(), 4 - mapped);
         QCOMPARE(root->GetDataJ("LtransSettingParamOK").ArrayCount(), 6);
@@ -527,8 +529,7 @@ void TestLaytrans::translated()
             root->SetDataB("LaytransCloseDlg", true);
     });
     press("translateButton");
-    QCOMPARE(m_dialog->widget()->isVisible(), !closes);
-    QCOMPARE(m_dialog->resultData()->GetDataI("result", -1), closes ? 1 : -1);
+    QCOMPARE(m_dialog.window()->isVisible(), !closes);
 }
 
 /// Layers that are mapped do not come back with the layers that are left; mappings of layers that
@@ -557,7 +558,7 @@ void TestLaytrans::purged()
 void TestLaytrans::nobodyToAsk()
 {
     m_dialog = m_module.createDialog("Dialog/CmdLaytrans", {});
-    m_dialog->widget()->show();
+    m_dialog.window()->show();
     for (const char* button : {"translateButton", "settingButton", "editButton", "deleteButton"})
         press(button);
     m_host->answer(1, kFiles);
@@ -569,7 +570,7 @@ void TestLaytrans::nobodyToAsk()
     press("helpButton");
     QCOMPARE(m_host->log().last(), QStringLiteral("help|0"));
     press("cancelButton");
-    QVERIFY(!m_dialog->widget()->isVisible());
+    QVERIFY(!m_dialog.window()->isVisible());
 }
 
 Q_DECLARE_METATYPE(RecordingInvoker::Answer)

@@ -1,3 +1,4 @@
+#include "hostextras.h"
 #include "modaldriver.h"
 #include "modulefixture.h"
 #include "recordinghost.h"
@@ -5,6 +6,7 @@
 #include "rows.h"
 #include "settings.h"
 #include "trees.h"
+#include "valuetree.h"
 #include "vnsettings.h"
 
 #include <QAction>
@@ -67,7 +69,7 @@ public:
                                    answer(asked);
                                }))
                          : OdRxObjectPtr())),
-          dialog(wrapper->widget()),
+          dialog(wrapper.window()),
           list(child<QListWidget>("layerList")),
           filters(child<QComboBox>("filterCombo"))
     {
@@ -97,7 +99,7 @@ public:
     void changeCommand(const QString& how)
     {
         answer = [how](const VnJsonPtr& asked) {
-            const VnJsonPtr layers = ElementValue::clone(asked->GetDataJ("parameter"));
+            const VnJsonPtr layers = hostextras::copyOf(asked->GetDataJ("parameter"));
             if (how == "refuses")
                 asked->SetDataI("result", 0);
             else if (how == "fails")
@@ -171,7 +173,7 @@ public:
     Answer answer = [](const VnJsonPtr&) {};
     QStringList requests;
     VnJsonPtr root;
-    VnUiModeDialogBasePtr wrapper;
+    host::WatchedDialog wrapper;
     QWidget* dialog;
     QListWidget* list;
     QComboBox* filters;
@@ -199,7 +201,7 @@ private slots:
         QVERIFY(!walk.mayPurge() && !walk.child<QCheckBox>("filterBox")->isEnabled());
         QCOMPARE(walk.child<QToolButton>("pickButton")->toolTip(),
             QStringLiteral("选择对象\n选择对象及其图层。"));
-        QVERIFY(walk.requests.isEmpty() && !walk.root->HasKey("marker"));
+        QVERIFY(walk.requests.isEmpty() && !host::hasKey(walk.root, "marker"));
     }
 
     void acts_data()
@@ -416,7 +418,7 @@ private slots:
             "Dialog/CmdLaywalk/Verify", tree(R"({"LayerCount":60,"SelectLayerCount":1200})"));
         QStringList shown;
         for (const char* key : {"LayerCount", "SelectLayerCount", "SelectLayerEntitys"}) {
-            const auto* edit = ModuleFixture::child<QLineEdit>(report->widget(), key);
+            const auto* edit = ModuleFixture::child<QLineEdit>(report.window(), key);
             shown.append(edit->text());
             QVERIFY(edit->isReadOnly());
         }

@@ -1,8 +1,8 @@
 #include "recordinghost.h"
 #include "valuetree.h"
 
+#include "hostcodes.h"
 #include "trees.h"
-#include "vnmessages.h"
 #include "vnstrings.h"
 
 #include <QtTest>

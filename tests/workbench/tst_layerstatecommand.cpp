@@ -2,13 +2,13 @@
 #include "commandline.h"
 #include "drawing.h"
 #include "geometry.h"
+#include "hostcodes.h"
 #include "layerstatefile.h"
 #include "mainwindow.h"
 #include "modaldriver.h"
 #include "modulefixture.h"
 #include "recordinghost.h"
 #include "sheets.h"
-#include "vnmessages.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "../drawing/readback.h"
 #include "canvas.h"
 #include "commandfixture.h"
-#include "vnmessages.h"
+#include "hostcodes.h"
 
 #include <QLabel>
 #include <QLineEdit>

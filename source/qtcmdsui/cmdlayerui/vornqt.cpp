@@ -91,15 +91,6 @@ VnQtAnswer vnqtAsk(VnJsonPtr node, OdSmartPtr<VnQtCommandInvoker> invoker, OdAns
     return isAnswered ? VnQtAnswer(node) : VnQtAnswer();
 }
 
-bool vnqtSendRequest(const VnJsonPtr& root, const OdRxObjectPtr& invoker,
-    const OdAnsiString& dialogName, const VnQtRequest& request,
-    const VnQtArgumentWriter& writeArguments)
-{
-    const OdSmartPtr<VnQtCommandInvoker> guarded =
-        OdRxObjectImpl<VnQtCommandInvoker>::createObject(invoker);
-    return bool(vnqtAsk(root, guarded, dialogName, request, writeArguments));
-}
-
 VnQtUIModeDialogBase::VnQtUIModeDialogBase() : m_result(hostapi::makeObject()) {}
 
 VnQtUIModeDialogBase::~VnQtUIModeDialogBase()

@@ -1,8 +1,8 @@
 #include "layermarks.h"
 
 #include "commandinvoker.h"
+#include "hostcodes.h"
 #include "vnmessages.h"
-#include "vnproduct.h"
 #include "vnstrings.h"
 
 #include <QCoreApplication>

@@ -3,6 +3,7 @@
 
 #include "commandinvoker.h"
 #include "drawing.h"
+#include "hostcodes.h"
 #include "layerrecords.h"
 #include "layerstatefile.h"
 #include "layerstateimport.h"
@@ -12,7 +13,6 @@
 #include "staterecords.h"
 #include "sysvars.h"
 #include "vnmessages.h"
-#include "vnproduct.h"
 #include "vnstrings.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
 #include "layerstateimport.h"
 
 #include "drawing.h"
+#include "hostcodes.h"
 #include "layerstatefile.h"
 #include "namerule.h"
 #include "vnmessages.h"

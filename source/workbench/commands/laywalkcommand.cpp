@@ -221,7 +221,7 @@ void LayerWalkCommand::setOff(const Layer& layer, bool off)
 /// is the old one again as soon as that is shown.
 void LayerWalkCommand::makeCurrent(const VnJsonPtr& root, LayerId current, LayerId clicked)
 {
-    const bool isClick = root->HasKey(walkkey::kOldCurrent);
+    const bool isClick = host::hasKey(root, walkkey::kOldCurrent);
     if (isClick) {
         const Layer* old =
             drawing().findLayer(vnsi::vnutOdStringToQString(root->GetDataSW(walkkey::kOldCurrent)));

@@ -2,6 +2,7 @@
 
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "namerule.h"
 #include "vnstrings.h"
 

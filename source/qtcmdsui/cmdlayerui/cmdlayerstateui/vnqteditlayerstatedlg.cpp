@@ -4,6 +4,7 @@
 #include "dialoghelp.h"
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
+#include "hostcodes.h"
 #include "layeredits.h"
 #include "namerule.h"
 #include "statetexts.h"

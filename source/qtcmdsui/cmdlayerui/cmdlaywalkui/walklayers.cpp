@@ -42,7 +42,7 @@ void WalkLayers::take(const VnJsonPtr& layers)
             m_current = i;
         m_names[static_cast<std::size_t>(i)] = layer.name();
         m_firstOfName[static_cast<std::size_t>(i)] =
-            firsts.emplace(name(i).view(), i).first->second;
+            firsts.emplace(name(i).c_str(), i).first->second;
     }
 }
 
