@@ -1,7 +1,7 @@
 #include "commandfixture.h"
 #include "commands/layerrenames.h"
+#include "hostcodes.h"
 #include "rows.h"
-#include "vnmessages.h"
 
 #include <QLineEdit>
 #include <QRegularExpression>

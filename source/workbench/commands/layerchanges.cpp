@@ -1,4 +1,6 @@
 #include "layerchanges.h"
+#include "hostextras.h"
+#include "valuetree.h"
 
 #include "drawing.h"
 #include "layerrecords.h"
@@ -114,9 +116,9 @@ void LayerChanges::remove(const VnJsonPtr& list)
     }
     if (static_cast<int>(kept.size()) == list.ArrayCount())
         return;
-    list->Clear();
+    host::clear(*list);
     for (const VnJsonPtr& record : kept)
-        list->Append(record);
+        hostextras::append(list, record);
 }
 
 bool LayerChanges::note(const drawing::Expected<void>& outcome)

@@ -1,4 +1,5 @@
 #include "layercommand.h"
+#include "hostextras.h"
 
 #include "commandinvoker.h"
 #include "drawing.h"
@@ -47,9 +48,9 @@ VnJsonPtr makeTree(const drawing::Drawing& drawing)
     const QVariantList widths = QSettings().value(QLatin1String(kWidthsSetting)).toList();
     if (widths.isEmpty())
         return tree;
-    const VnJsonPtr array = vnsi::ElementValue::createArray(widths.size());
+    const VnJsonPtr array = hostextras::createArray(widths.size());
     for (const QVariant& width : widths)
-        array->AppendI(width.toInt());
+        hostextras::appendInt(array, width.toInt());
     tree->SetDataJ(vnsi::managerkey::kColumnWidths, array);
     return tree;
 }
@@ -118,7 +119,7 @@ void LayerPropertiesCommand::appendLayer(const drawing::Drawing& drawing, const 
     LayerRecord added(Provider::full().make(layer, false));
     added.setSelected(true);
     added.markModified();
-    layers.node()->Append(added.node());
+    hostextras::append(layers.node(), added.node());
 }
 
 void LayerPropertiesCommand::apply(CommandContext& context, const VnJsonPtr& tree)

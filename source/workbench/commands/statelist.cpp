@@ -1,4 +1,5 @@
 #include "statelist.h"
+#include "hostextras.h"
 
 #include "drawing.h"
 #include "layerkeys.h"
@@ -43,9 +44,9 @@ VnJsonPtr makeEntry(const drawing::LayerState& state)
 
 VnJsonPtr make(const drawing::Drawing& drawing)
 {
-    VnJsonPtr list = vnsi::ElementValue::createArray();
+    VnJsonPtr list = hostextras::createArray(0);
     for (const drawing::LayerState& state : drawing.layerStates())
-        list->Append(makeEntry(state));
+        hostextras::append(list, makeEntry(state));
     return list;
 }
 

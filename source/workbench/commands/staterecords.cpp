@@ -1,4 +1,5 @@
 #include "staterecords.h"
+#include "hostextras.h"
 
 #include "drawing.h"
 #include "layerrecords.h"
@@ -19,14 +20,14 @@ namespace staterecords {
 
 VnJsonPtr make(const LayerState& state)
 {
-    VnJsonPtr list = vnsi::ElementValue::createArray(static_cast<int>(state.layers.size()));
+    VnJsonPtr list = hostextras::createArray(static_cast<int>(state.layers.size()));
     for (const LayerStateLayer& layer : state.layers) {
         drawing::Layer shown;
         shown.properties = layer.properties;
         const VnJsonPtr node = layerrecords::Provider::full().make(shown, false);
         LayerRecord(node).setCurrentOfState(
             vnsi::isSameName(layer.properties.name, state.currentLayer));
-        list->Append(node);
+        hostextras::append(list, node);
     }
     return list;
 }

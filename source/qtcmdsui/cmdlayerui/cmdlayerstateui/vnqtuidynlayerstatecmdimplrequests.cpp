@@ -1,3 +1,4 @@
+#include "hostcodes.h"
 #include "vnqtuidynlayerstatecmdimpl.h"
 
 #include "dialoghelp.h"
