@@ -1,13 +1,6 @@
 #include "dialogsamples.h"
 
-#include "trees.h"
-#include "valuetree.h"
-
-#include <QSet>
-
 #include <algorithm>
-
-using namespace vnsi;
 
 namespace {
 
@@ -100,7 +93,7 @@ constexpr AnswerRow kAnswers[] = {
     {"ColorDialog", R"({"clrMethod":194,"selectClr":65280})"},
     {"FileDialogBox", R"({"filePath":"/tmp/a.las","filePaths":["/tmp/a.las","/tmp/b.las"]})"},
     {"Dialog/CmdsUI/ReNameDlg", R"({"Success":true,"NewName":"新名"})"},
-    {"Dialog/CmdLayerStateNew", R"({"LayerStateNewName":"C","LayerStateNewDesc":"d"})"},
+    {"Dialog/CmdLayerStateNew", R"({"LayerStateNewName":"C","desc":"d"})"},
     {"Dialog/CmdLayerStateAddNewLayer", R"({"NeedAddlayerList":[{"LayerName":"墙"}]})"},
     {"Dialog/CmdLaytransNewEdit",
         R"({"ltransResultNewEditLayer":{"ltransResultNewLayName":"新","ltransResultNewTparency":9,
@@ -126,30 +119,4 @@ QString answerOfDialog(const QString& name)
     const auto* const row = std::find_if(std::begin(kAnswers), std::end(kAnswers),
         [&](const AnswerRow& candidate) { return name == QLatin1String(candidate.name); });
     return row == std::end(kAnswers) ? QStringLiteral("{}") : filledIn(row->answer);
-}
-
-std::vector<VnJsonPtr> containersIn(const VnJsonPtr& node)
-{
-    std::vector<VnJsonPtr> all;
-    QSet<IElementValueBase*> known; // Nodes may hang in several places.
-    const auto add = [&](const VnJsonPtr& each) {
-        if (each && !known.contains(each.get())) {
-            known.insert(each.get());
-            all.push_back(each);
-        }
-    };
-    add(node);
-    for (std::size_t at = 0; at < all.size(); ++at) {
-        const VnJsonPtr each = all[at];
-        for (int i = 0, count = each.ArrayCount(); i < count; ++i)
-            add(each(i));
-        for (const QString& key : keysOf(each))
-            add(each->GetDataJ(key.toUtf8().constData()));
-    }
-    return all;
-}
-
-QStringList keysOf(const VnJsonPtr& node)
-{
-    return host::isObject(node) ? toJsonObject(node).keys() : QStringList();
 }

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "vnjson.h"
-
 #include <QMetaType>
-#include <QStringList>
+#include <QString>
 
-#include <functional>
 #include <vector>
 
 /// A dialog of the module with a tree that lets it do all it can.
@@ -24,8 +21,3 @@ const std::vector<DialogSample>& dialogSamples();
 /// What a dialog of the host or of the module answers when it is left with OK, as JSON; an empty
 /// object where it only says so.
 QString answerOfDialog(const QString& name);
-
-/// The node itself and all containers in it.
-std::vector<vnsi::VnJsonPtr> containersIn(const vnsi::VnJsonPtr& node);
-/// The keys of an object's members.
-QStringList keysOf(const vnsi::VnJsonPtr& node);

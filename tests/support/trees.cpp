@@ -6,6 +6,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSet>
 #include <QtTest>
 
 namespace {
@@ -74,4 +75,30 @@ void merge(const vnsi::VnJsonPtr& target, const QString& json)
     if (!document.isObject())
         QTest::qFail(qPrintable("no JSON object: " + json), __FILE__, __LINE__);
     merge(target, document.object());
+}
+
+std::vector<vnsi::VnJsonPtr> containersIn(const vnsi::VnJsonPtr& node)
+{
+    std::vector<vnsi::VnJsonPtr> all;
+    QSet<vnsi::IElementValueBase*> known; // Nodes may hang in several places.
+    const auto add = [&](const vnsi::VnJsonPtr& each) {
+        if (each && !known.contains(each.get())) {
+            known.insert(each.get());
+            all.push_back(each);
+        }
+    };
+    add(node);
+    for (std::size_t at = 0; at < all.size(); ++at) {
+        const vnsi::VnJsonPtr each = all[at];
+        for (int i = 0, count = each.ArrayCount(); i < count; ++i)
+            add(each(i));
+        for (const QString& key : keysOf(each))
+            add(each->GetDataJ(key.toUtf8().constData()));
+    }
+    return all;
+}
+
+QStringList keysOf(const vnsi::VnJsonPtr& node)
+{
+    return host::isObject(node) ? toJsonObject(node).keys() : QStringList();
 }

@@ -3,7 +3,9 @@
 #include "vnjson.h"
 
 #include <QJsonObject>
-#include <QString>
+#include <QStringList>
+
+#include <vector>
 
 /// The tree of a JSON text; fails the test when it is none.
 vnsi::VnJsonPtr tree(const QString& json);
@@ -14,3 +16,8 @@ QJsonObject toJsonObject(const vnsi::VnJsonPtr& node);
 /// Writes the members of `json` into `target`, through nested objects.
 void merge(const vnsi::VnJsonPtr& target, const QJsonObject& json);
 void merge(const vnsi::VnJsonPtr& target, const QString& json);
+
+/// The node itself and all containers in it.
+std::vector<vnsi::VnJsonPtr> containersIn(const vnsi::VnJsonPtr& node);
+/// The keys of an object's members.
+QStringList keysOf(const vnsi::VnJsonPtr& node);
