@@ -107,6 +107,7 @@ void VnQtUIModeDialogBase::endDialog(int code)
 
 int VnQtUIModeDialogBase::doModal()
 {
+    const OdRxObjectPtr self(this); // The command may let go of the dialog while it answers.
     if (auto* dialog = qobject_cast<QDialog*>(m_dialog.data())) {
         m_result->SetDataI("result", kUndecided);
         int exitCode = dialog->exec();
