@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DbObjectId.h"
 #include "OdArray.h"
 #include "OdString.h"
 #include "RxObjectImpl.h"
@@ -46,6 +47,12 @@ VNSI_EXPORT void removeKey(vnsi::IElementValueBase& object, const char* key);
 /// The node as one line of JSON in UTF-8, for the request log. Integers beyond 2^53 are rounded,
 /// and what is nested deeper than 1024 containers is left out as null.
 VNSI_EXPORT std::string jsonOf(const vnsi::VnJsonPtr& node);
+
+/// The number under which the linetype pickers name a record of the drawing; 0 for none.
+inline OdInt64 numberOf(const OdDbObjectId& id)
+{
+    return static_cast<OdInt64>(id.getHandle());
+}
 
 // Services that are found in the service dictionary and used as what they are.
 

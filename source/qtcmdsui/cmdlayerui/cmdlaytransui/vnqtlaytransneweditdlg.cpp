@@ -218,7 +218,7 @@ void VnQtLaytransNewEditWgt::showLinetype(const QString& name, OdInt64 id)
         if (m_linetype->itemText(row).compare(name, Qt::CaseInsensitive) != 0)
             continue;
         m_linetype->setCurrentIndex(row);
-        if (static_cast<OdInt64>(m_linetype->getCurrentLineType().getHandle()) == id)
+        if (hostapi::numberOf(m_linetype->getCurrentLineType()) == id)
             return;
     }
     m_linetype->setCurrentIndex(first);
@@ -290,8 +290,7 @@ VnJsonPtr VnQtLaytransNewEditWgt::makeResult(const QString& name, int transparen
     VnJsonPtr result = hostapi::makeObject();
     result->SetDataSW(kResultName, vnutQStringToOdString(name));
     result->SetDataSW(kResultLinetype, m_linetype->getCurrentLineTypeString());
-    result->SetDataL(
-        kResultLinetypeId, static_cast<OdInt64>(m_linetype->getCurrentLineType().getHandle()));
+    result->SetDataL(kResultLinetypeId, hostapi::numberOf(m_linetype->getCurrentLineType()));
     result->SetDataI(kResultLineWidth, m_lineWidth->GetCurrentLineWeight());
     result->SetDataSW(kResultLineWidthText, vnutQStringToOdString(m_lineWidth->currentText()));
     result->SetDataL(kResultColorMethod, color.method);

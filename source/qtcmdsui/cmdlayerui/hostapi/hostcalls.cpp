@@ -118,6 +118,11 @@ OdString colorText(const OdCmColor& color)
     });
 }
 
+OdInt64 numberOf(const OdDbObjectId& id)
+{
+    return hostextras::numberOf(id);
+}
+
 bool matchesWildcard(const OdString& text, const OdString& pattern)
 {
     return guarded("vnsiutWcMatchEx", false, [&] { return vnsiutWcMatchEx(text, pattern, true); });

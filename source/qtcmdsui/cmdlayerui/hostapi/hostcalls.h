@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CmColor.h"
+#include "DbObjectId.h"
 #include "OdString.h"
 #include "RxObject.h"
 #include "vnjson.h"
@@ -46,6 +47,8 @@ int systemVariable(const OdString& name);
 void showHelp();
 /// How the host names a colour in the current document; empty where it fails.
 OdString colorText(const OdCmColor& color);
+/// The number that stands for an object of the drawing in a value tree; 0 for none.
+OdInt64 numberOf(const OdDbObjectId& id);
 /// Whether the text matches the host's kind of wildcard pattern, letter case aside.
 bool matchesWildcard(const OdString& text, const OdString& pattern);
 
