@@ -1,0 +1,417 @@
+#include "contract.h"
+#include "dialogsamples.h"
+#include "hostextras.h"
+#include "otherhost.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QRegExp>
+#include <QThread>
+
+using namespace otherhost;
+
+namespace {
+
+QHash<QString, OdRxObjectPtr>& services()
+{
+    static QHash<QString, OdRxObjectPtr> all;
+    return all;
+}
+
+OtherHost& host()
+{
+    return OtherHost::instance();
+}
+
+QString text(const OdString& wide)
+{
+    return vnsi::vnutOdStringToQString(wide);
+}
+
+/// What the core offers under "Core/...", each of which is used by name alone here.
+class CoreService : public OdRxObject
+{
+    OTHER_DECLARE_CLASS(CoreService, OdRxObject)
+};
+
+class Work : public OdRxObject
+{
+    OTHER_DECLARE_CLASS(Work, OdRxObject)
+    explicit Work(std::function<void()> itsWork) : work(std::move(itsWork)) {}
+    const std::function<void()> work;
+};
+
+void hangAll(vnsi::IElementValueBase& node, const QString& json)
+{
+    const vnsi::VnJsonPtr values = treeOf(json);
+    for (const auto& [key, value] : values->members)
+        node.hang(key.c_str(), value);
+}
+
+class Command : public vnsi::VnUiDialogInvoker
+{
+public:
+    void invoke(vnsi::VnJsonPtr tree) override { host().answerRequest(tree); }
+};
+
+} // namespace
+
+OdAnsiString OdStringToUtf8String(const OdString& wide)
+{
+    return text(wide).toUtf8().constData();
+}
+
+namespace vnsi {
+
+QString vnutOdStringToQString(const OdString& wide)
+{
+    return QString::fromWCharArray(wide.c_str());
+}
+
+OdString vnutQStringToOdString(const QString& text)
+{
+    return text.toStdWString().c_str();
+}
+
+bool vnsiutWcMatchEx(const OdString& name, const OdString& pattern, bool ignoreCase)
+{
+    const auto letterCase = ignoreCase ? Qt::CaseInsensitive : Qt::CaseSensitive;
+    return QRegExp(text(pattern), letterCase, QRegExp::WildcardUnix).exactMatch(text(name));
+}
+
+OdString formatColor(const OdCmColor& color, const OdArray<ODCOLORREF>&, OdDbObjectId)
+{
+    return host().may(kNoColorText) ? OdString()
+                                    : vnutQStringToOdString(QString::number(color.colorIndex()));
+}
+
+void vn_arbitDict_regservice(const OdString& name, const OdRxObjectPtr& service)
+{
+    services().insert(text(name), service);
+}
+
+OdRxObjectPtr vn_arbitDict_getservice(const OdString& name)
+{
+    if (!text(name).startsWith("Core/"))
+        return services().value(text(name));
+    if (host().may(kNoServices))
+        return {};
+    if (host().may(kOddServices))
+        return OdRxObjectImpl<Work>::createObject(nullptr);
+    return OdRxObjectImpl<CoreService>::createObject();
+}
+
+void vn_arbitDict_clearservice(const OdString& name)
+{
+    services().remove(text(name));
+}
+
+void vnedPushUIScrap(int) {}
+void vnedPopUIScrap(int) {}
+
+bool vnedIsRunningInUI()
+{
+    return QThread::currentThread() == QCoreApplication::instance()->thread();
+}
+
+bool vnedIsRunningInCommand()
+{
+    return true;
+}
+
+VnJsonPtr vnuiShowModelDialogEx(const OdString& serviceName, const OdString& dialogName,
+    const VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget*)
+{
+    return host().show(serviceName, dialogName, tree, invoker);
+}
+
+VnJsonPtr vnuiShowModelDialog(
+    const OdString& serviceName, const OdString& dialogName, const VnJsonPtr& tree)
+{
+    return host().show(serviceName, dialogName, tree, {});
+}
+
+void* vnuiCurTargetWindow()
+{
+    static auto* const window = new QWidget; // Lives as long as the program.
+    return host().may(kWindow) ? window : nullptr;
+}
+
+QWidget* qt_windowHandle_to_widget(void* handle)
+{
+    return static_cast<QWidget*>(handle);
+}
+
+int vnuiMessageBox(const OdString&, const OdString&, int style)
+{
+    return host().press(style);
+}
+
+VnJsonPtr vnuiMessageBoxEx(
+    const OdString&, const OdString&, const VnJsonPtr&, int style, int, int icon)
+{
+    const int button = host().press(style | icon);
+    if (host().may(kEmptyAnswers))
+        return {};
+    const VnJsonPtr answer = ElementValue::createObject(1);
+    answer->SetDataI("ControlBtn", button);
+    return answer;
+}
+
+int CVnUiTaskDialog::DoModal()
+{
+    const int answer = host().press(4);
+    return m_ids.at(answer == 6 ? 0 : 1);
+}
+
+VnJsonPtr vn_user_config(const OdString& section)
+{
+    if (host().may(kNoSettings))
+        return {};
+    const VnJsonPtr settings = ElementValue::createObject(0);
+    if (host().may(kOddSettings)) {
+        const char* const keys[] = {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand",
+            "RecoverBoxChecked", "FilterComboBoxList", "LtransSettingDates"};
+        for (const char* key : keys)
+            settings->hang(key, hostextras::scalarOf(section));
+    }
+    return settings;
+}
+
+OdInt16 getVar(const OdString&)
+{
+    return host().may(kOddSettings) ? 1 : 0;
+}
+
+VnText* vnsiutNewRb(int)
+{
+    return new VnText{};
+}
+
+wchar_t* vnsiutNewString(const OdString& text)
+{
+    return wcsdup(text.c_str());
+}
+
+VnColorComboBox::VnColorComboBox(QWidget* parent) : QComboBox(parent)
+{
+    for (OdInt16 index = 1; index < 8; ++index) {
+        OdCmColor color;
+        color.setColorMethod(OdCmColor::kByACI);
+        color.setColorIndex(index);
+        AppendColorItem(color);
+    }
+}
+
+OdCmColor VnColorComboBox::GetCurrentColorEx() const
+{
+    return currentIndex() < 0 ? OdCmColor() : m_colors.at(static_cast<std::size_t>(currentIndex()));
+}
+
+int VnColorComboBox::FindColor(const OdCmColor& color) const
+{
+    for (std::size_t i = 0; i < m_colors.size(); ++i) {
+        if (m_colors[i].colorMethod() == color.colorMethod() &&
+            m_colors[i].colorIndex() == color.colorIndex() && m_colors[i].red() == color.red())
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+int VnColorComboBox::AppendColorItem(const OdCmColor& color)
+{
+    m_colors.push_back(color);
+    addItem(QString::number(color.colorIndex()));
+    return count() - 1;
+}
+
+VnLineTypeComboBox::VnLineTypeComboBox(QWidget* parent) : QComboBox(parent)
+{
+    addItems({"ByLayer", "ByBlock", "Continuous", "DASHED"});
+}
+
+OdString VnLineTypeComboBox::getCurrentLineTypeString() const
+{
+    return vnutQStringToOdString(currentText());
+}
+
+VnLineWidthComboBox::VnLineWidthComboBox(QWidget* parent) : QComboBox(parent)
+{
+    addItems({QStringLiteral("随层"), QStringLiteral("随块"), QStringLiteral("默认"), "0.25 mm"});
+}
+
+} // namespace vnsi
+
+namespace hostextras {
+
+OdArray<ODCOLORREF> currentColorTable(const OdRxObjectPtr&)
+{
+    return {};
+}
+
+void callHelp(const OdRxObjectPtr& server, int topic)
+{
+    if (CoreService::cast(server.get()))
+        host().note(QStringLiteral("help %1").arg(topic));
+}
+
+UiProxy* currentProxy(const OdRxObjectPtr& server)
+{
+    static UiProxy proxy;
+    return CoreService::cast(server.get()) ? &proxy : nullptr;
+}
+
+OdRxObjectPtr makeRequest(const std::function<void()>& work)
+{
+    return OdRxObjectImpl<Work>::createObject(work);
+}
+
+int post(UiProxy&, const OdString& name, const OdRxObjectPtr& request)
+{
+    if (text(name) != "proxyRequest")
+        host().fault("posts " + text(name));
+    QMetaObject::invokeMethod(QCoreApplication::instance(), Work::cast(request.get())->work,
+        Qt::BlockingQueuedConnection);
+    return -5018;
+}
+
+} // namespace hostextras
+
+namespace otherhost {
+
+OtherHost& OtherHost::instance()
+{
+    static OtherHost one;
+    return one;
+}
+
+void OtherHost::fault(const QString& text)
+{
+    const QString line = dialogName + ": " + text;
+    if (!faults.contains(line))
+        faults.append(line);
+}
+
+void OtherHost::note(const QString& question)
+{
+    asked.append(question);
+    seen.insert(question);
+}
+
+/// Which button the user presses: the one to go on with, or the one that refuses.
+int OtherHost::press(int style)
+{
+    constexpr int kAnswers[][3] = {{0, 1, 1}, {1, 1, 2}, {4, 6, 7}, {6, 0, 3}};
+    note(QStringLiteral("box %1").arg(style));
+    if (mischief && mischief->questions)
+        mischief->questions(root);
+    for (const auto& [buttons, yes, no] : kAnswers) {
+        if ((style & 15) == buttons)
+            return may(kSaysNo) ? no : yes;
+    }
+    fault(QStringLiteral("asks with style %1").arg(style));
+    return 0;
+}
+
+vnsi::VnJsonPtr OtherHost::show(const OdString& service, const OdString& name,
+    const vnsi::VnJsonPtr& tree, const OdRxObjectPtr& command)
+{
+    note(text(name));
+    const auto* const question = contract::findQuestion(text(service), text(name));
+    if (!question) {
+        fault("shows " + text(service) + ", " + text(name));
+        return {};
+    }
+    for (const QString& key : QString::fromLatin1(question->keys).split(' ', Qt::SkipEmptyParts)) {
+        if (!tree || !tree->member(key.toLatin1().constData()))
+            fault(text(name) + " is shown without " + key);
+    }
+    if (mischief && mischief->questions)
+        mischief->questions(root);
+    if (may(kEmptyAnswers))
+        return {};
+    const vnsi::VnJsonPtr answer = tree ? tree : vnsi::ElementValue::createObject(0);
+    int result = may(kSaysNo) ? 0 : 1;
+    if (may(kRealDialogs) && text(service) == "Dialog/CmdLayer") {
+        const QString outer = std::exchange(dialogName, text(name));
+        const auto maker = vnsi::VnUiService::cast(vnsi::vn_arbitDict_getservice(service).get());
+        const vnsi::VnUiModeDialogBasePtr shown = maker->dialogOf(name);
+        shown->setData(tree, command);
+        result = shown->doModal();
+        dialogName = outer;
+    } else if (result) {
+        hangAll(*answer, answerOfDialog(text(name)));
+    }
+    answer->hang("result", hostextras::scalarOf(result));
+    return answer;
+}
+
+void OtherHost::answerRequest(const vnsi::VnJsonPtr& tree)
+{
+    checkRequest(*tree);
+    if (mischief && mischief->command)
+        mischief->command(tree);
+    else
+        answer(tree);
+}
+
+void OtherHost::answer(const vnsi::VnJsonPtr& tree)
+{
+    const vnsi::VnJsonPtr code = tree->member(contract::codeKeyOf(dialogName));
+    const auto* const request =
+        contract::findRequest(dialogName, code ? hostextras::intOf(code, -1) : -1);
+    if (!request)
+        return;
+    hangAll(*tree, QString::fromUtf8(request->answer));
+}
+
+void OtherHost::checkRequest(const vnsi::IElementValueBase& tree)
+{
+    const vnsi::VnJsonPtr code = tree.member(contract::codeKeyOf(dialogName));
+    const int number = code ? hostextras::intOf(code, -1) : -1;
+    const QString name = QStringLiteral("request %1").arg(number);
+    note(dialogName + ' ' + name);
+    const auto* const request = contract::findRequest(dialogName, number);
+    if (!request)
+        return fault("unknown " + name);
+
+    const auto has = [](const vnsi::IElementValueBase& node, const QString& path) {
+        return !node.member(path.toLatin1().constData()).isNull();
+    };
+    const vnsi::VnJsonPtr parameter = tree.member("parameter");
+    const bool isTree = parameter && parameter->form == vnsi::IElementValueBase::Form::Object;
+    const QString said =
+        isTree ? "tree" : QString::number(parameter ? hostextras::intOf(parameter, -1) : -1);
+    if (said != QLatin1String(request->parameter))
+        fault(name + " has the parameter " + said);
+    for (const QString& keys :
+        QString::fromLatin1(request->arguments).split(' ', Qt::SkipEmptyParts)) {
+        const QStringList any = keys.split('|');
+        if (!may(kTakesArguments) && std::none_of(any.begin(), any.end(),
+                                         [&](const QString& key) { return has(tree, key); }))
+            fault(name + " lacks " + keys);
+    }
+    for (const QString& key :
+        QString::fromLatin1(request->answers).split(' ', Qt::SkipEmptyParts)) {
+        const vnsi::VnJsonPtr left = tree.member(key.toLatin1().constData());
+        if (left && hostextras::valueOf(left, true))
+            fault(name + " leaves an earlier " + key);
+    }
+    const QStringList inList = QString::fromLatin1(request->inList).split(' ', Qt::SkipEmptyParts);
+    const vnsi::VnJsonPtr list =
+        inList.isEmpty() ? vnsi::VnJsonPtr() : tree.member(inList[0].toLatin1().constData());
+    for (int i = 0; list && i < list.ArrayCount(); ++i) {
+        if (list(i) && list(i)->form == vnsi::IElementValueBase::Form::Object &&
+            !has(*list(i), inList[1]))
+            fault(name + " has a record without " + inList[1]);
+    }
+}
+
+OdRxObjectPtr makeCommand(bool isDumb)
+{
+    if (isDumb)
+        return OdRxObjectImpl<vnsi::VnUiDialogInvoker>::createObject();
+    return OdRxObjectImpl<Command>::createObject();
+}
+
+} // namespace otherhost
