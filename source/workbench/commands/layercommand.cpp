@@ -37,7 +37,7 @@ void storeWidths(const VnJsonPtr& tree)
     QVariantList widths;
     const VnJsonPtr told = tree->GetDataJ(vnsi::managerkey::kColumnWidths);
     for (int column = 0; column < told.ArrayCount(); ++column)
-        widths.append(told(column)->asI());
+        widths.append(hostextras::intOf(told(column), 0));
     if (!widths.isEmpty())
         QSettings().setValue(QLatin1String(kWidthsSetting), widths);
 }
