@@ -2,14 +2,7 @@
 
 #include "drawingloader.h"
 #include "drawingtexts.h"
-#include "entityedits.h"
 #include "filewriter.h"
-#include "layeredits.h"
-#include "layerstatefile.h"
-#include "layerstates.h"
-#include "linetypetable.h"
-#include "references.h"
-#include "symboltables.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -43,7 +36,7 @@ Expected<void> Drawing::Private::map(const QString& fileName)
     if (!info.isFile())
         return refusal(info.isDir() ? Texts::tr("它是文件夹") : Texts::tr("它不是普通文件"));
     path = fileName;
-    data.statesPath = statesPathOf(fileName);
+    data.layerStates.setPath(statesPathOf(fileName));
     file.setFileName(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return refusal(info.isReadable() ? file.errorString() : Texts::tr("没有读取权限"));
@@ -52,43 +45,8 @@ Expected<void> Drawing::Private::map(const QString& fileName)
     const uchar* bytes = file.map(0, file.size());
     if (!bytes)
         return refusal(file.errorString());
-    data.bytes = {reinterpret_cast<const char*>(bytes), static_cast<size_t>(file.size())};
+    data.file.setBytes({reinterpret_cast<const char*>(bytes), static_cast<size_t>(file.size())});
     return {};
-}
-
-/// Formats without objects: the layer states go beside the drawing, when they are others than
-/// there.
-Expected<void> Drawing::Private::saveStatesAside(const QString& drawingPath)
-{
-    const LayerStates states(data);
-    if (states.liveInDrawing() || !data.statesFault.isEmpty())
-        return {};
-    const QString target = statesPathOf(drawingPath);
-    const std::vector<LayerState> all = states.all();
-    if (target == data.statesPath ? savedStates == data.state.layerStates : all.empty())
-        return {};
-    return writeLayerStateFile(target, all).map([&] {
-        data.statesPath = target;
-        savedStates = data.state.layerStates;
-    });
-}
-
-UndoStep Drawing::Private::takeStep()
-{
-    UndoStep step;
-    step.name = stepName;
-    step.edits = data.journal.takeChanges();
-    step.layers = data.layers.takeChanges();
-    step.entities.swap(data.entityChanges);
-    step.before = stateBefore;
-    step.after = data.state;
-    stepIsOpen = false;
-    return step;
-}
-
-bool Drawing::Private::stepChanged() const
-{
-    return stepIsOpen && (data.journal.hasChanges() || !(stateBefore == data.state));
 }
 
 Drawing::Drawing() : d(std::make_unique<Private>()) {}
@@ -123,13 +81,13 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
     };
     if (d->stepIsOpen)
         return refusal(Texts::tr("还有未完成的操作"));
-    const auto size = static_cast<qint64>(d->data.bytes.size());
+    const auto size = static_cast<qint64>(d->data.file.bytes().size());
     // The bytes that were not edited are still read from it.
     if (d->file.size() != size)
         return refusal(Texts::tr("原文件已被其他程序改写"));
-    if (auto aside = d->saveStatesAside(path); !aside)
+    if (auto aside = d->data.layerStates.saveAside(statesPathOf(path)); !aside)
         return aside;
-    auto written = writeFile(d->data.journal, size, path, progress);
+    auto written = writeFile(d->data.file.journal(), size, path, progress);
     if (!written)
         return written;
     d->path = path;
@@ -150,7 +108,7 @@ QStringList Drawing::openingNotices() const
 
 bool Drawing::isModified() const
 {
-    return d->stepChanged() || !d->steps.isClean();
+    return (d->stepIsOpen && d->data.hasChanges()) || !d->steps.isClean();
 }
 
 const std::vector<Layer>& Drawing::layers() const
@@ -170,38 +128,38 @@ const Layer* Drawing::findLayer(const QString& name) const
 
 LayerId Drawing::currentLayer() const
 {
-    return d->data.state.current;
+    return d->data.layers.current();
 }
 
 const std::vector<Entity>& Drawing::entities() const
 {
-    return d->data.index.entities;
+    return d->data.entities.all();
 }
 
 const std::vector<Block>& Drawing::blocks() const
 {
-    return d->data.index.blocks;
+    return d->data.entities.blocks();
 }
 
 const Block* Drawing::findBlock(const QString& name) const
 {
-    const int at = d->data.blockByName.value(name.toCaseFolded(), -1);
+    const int at = d->data.entities.block(name);
     return at < 0 ? nullptr : &blocks()[static_cast<size_t>(at)];
 }
 
 TagReader Drawing::tags(const Entity& entity) const
 {
-    return d->data.tags(entity.range());
+    return d->data.file.tags(entity.range());
 }
 
 QString Drawing::decoded(std::string_view value) const
 {
-    return d->data.codec.decode(value);
+    return d->data.file.decoded(value);
 }
 
 const TextCodec& Drawing::codec() const
 {
-    return d->data.codec;
+    return d->data.file.codec();
 }
 
 Expected<void> Drawing::readyToEdit() const
@@ -213,172 +171,163 @@ Expected<void> Drawing::readyToEdit() const
 
 Expected<void> Drawing::setLayerProperties(LayerId id, const LayerProperties& properties)
 {
-    return readyToEdit().and_then(
-        [&] { return LayerEdits(d->data).setProperties(id, properties); });
+    return readyToEdit().and_then([&] { return d->data.layerEdits.setProperties(id, properties); });
 }
 
 Expected<LayerId> Drawing::addLayer(const LayerProperties& properties)
 {
-    return readyToEdit().and_then([&] { return LayerEdits(d->data).add(properties); });
+    return readyToEdit().and_then([&] { return d->data.layerEdits.add(properties); });
 }
 
 Expected<void> Drawing::removeLayer(LayerId id)
 {
-    return readyToEdit().and_then([&] { return LayerEdits(d->data).remove(id); });
+    return readyToEdit().and_then([&] { return d->data.layerEdits.remove(id); });
 }
 
 Expected<void> Drawing::setCurrentLayer(LayerId id)
 {
-    return readyToEdit().and_then([&] { return LayerEdits(d->data).setCurrent(id); });
+    return readyToEdit().and_then([&] { return d->data.layerEdits.setCurrent(id); });
 }
 
 std::vector<LayerState> Drawing::layerStates() const
 {
-    return LayerStates(d->data).all();
+    return d->data.layerStates.all();
 }
 
 QStringList Drawing::linetypes() const
 {
-    return LinetypeTable(d->data).names();
+    return d->data.linetypes.names();
 }
 
 LinetypePointer Drawing::linetype(const QString& name) const
 {
-    return LinetypeTable(d->data).find(name);
+    return d->data.linetypes.find(name);
 }
 
 Expected<void> Drawing::addLinetype(const LinetypeDefinition& definition)
 {
-    return readyToEdit().map([&] { LinetypeTable(d->data).add(definition); });
+    return readyToEdit().map([&] { d->data.linetypes.add(definition); });
 }
 
 QStringList Drawing::layerStateNames() const
 {
-    return LayerStates(d->data).names();
+    return d->data.layerStates.names();
 }
 
 std::optional<LayerState> Drawing::layerState(const QString& name) const
 {
-    return LayerStates(d->data).find(name);
+    return d->data.layerStates.find(name);
 }
 
 QString Drawing::layerStatesPath() const
 {
-    return LayerStates(d->data).liveInDrawing() ? QString() : d->data.statesPath;
+    return d->data.layerStates.path();
 }
 
 bool Drawing::hasNamedPlotStyles() const
 {
-    return !d->data.plotStylesByColor;
+    return !d->data.plotStyles.areByColor();
 }
 
 bool Drawing::isModelSpace() const
 {
-    return d->data.state.modelSpace;
+    return d->data.layouts.isModelSpace();
 }
 
 const std::vector<Layout>& Drawing::layouts() const
 {
-    return d->data.layouts;
+    return d->data.layouts.all();
 }
 
 int Drawing::shownLayout() const
 {
-    return d->data.state.layout;
+    return d->data.layouts.shownIndex();
 }
 
 bool Drawing::isShown(const Entity& entity) const
 {
-    const bool isModel = entity.block < 0 && !entity.paperSpace;
-    return isModelSpace() ? isModel : holds(layouts()[static_cast<size_t>(shownLayout())], entity);
+    return d->data.layouts.isShown(entity);
 }
 
 Expected<void> Drawing::checkViewport() const
 {
-    return ViewportLayers(d->data).check();
+    return d->data.viewports.check();
 }
 
 std::vector<LayerId> Drawing::frozenInViewport() const
 {
-    return ViewportLayers(d->data).frozen();
+    return d->data.viewports.frozen();
 }
 
 Expected<void> Drawing::putLayerStates(const std::vector<LayerState>& states)
 {
-    return readyToEdit().and_then([&] { return LayerStates(d->data).put(states); });
+    return readyToEdit().and_then([&] { return d->data.layerStates.put(states); });
 }
 
 Expected<void> Drawing::removeLayerStates(const QStringList& names)
 {
-    return readyToEdit().and_then([&] { return LayerStates(d->data).remove(names); });
+    return readyToEdit().and_then([&] { return d->data.layerStates.remove(names); });
 }
 
 Expected<void> Drawing::renameLayerState(const QString& name, const QString& newName)
 {
-    return readyToEdit().and_then([&] { return LayerStates(d->data).rename(name, newName); });
+    return readyToEdit().and_then([&] { return d->data.layerStates.rename(name, newName); });
 }
 
 Expected<void> Drawing::setModelSpace(bool modelSpace)
 {
-    return readyToEdit().map([&] {
-        if (d->data.state.modelSpace == modelSpace)
-            return;
-        d->data.state.modelSpace = modelSpace;
-        SymbolTables(d->data).writeTileMode();
-    });
+    return readyToEdit().map([&] { d->data.layouts.showModelSpace(d->data.file, modelSpace); });
 }
 
 Expected<void> Drawing::showLayout(int layout)
 {
-    return setModelSpace(false).map([&] { d->data.state.layout = layout; });
+    return readyToEdit().map([&] { d->data.layouts.showLayout(d->data.file, layout); });
 }
 
 Expected<void> Drawing::setFrozenInViewport(const std::vector<LayerId>& layers)
 {
-    return readyToEdit().and_then([&] { return ViewportLayers(d->data).setFrozen(layers); });
+    return readyToEdit().and_then([&] { return d->data.viewports.setFrozen(layers); });
 }
 
 Expected<std::vector<LayerId>> Drawing::overrideInViewport(
     const std::vector<LayerInViewport>& layers, int properties)
 {
-    return readyToEdit().and_then(
-        [&] { return ViewportLayers(d->data).override(layers, properties); });
+    return readyToEdit().and_then([&] { return d->data.viewports.override(layers, properties); });
 }
 
 Expected<int> Drawing::moveEntities(const std::vector<int>& entities, LayerId target)
 {
-    return readyToEdit().and_then([&] { return EntityEdits(d->data).move(entities, target); });
+    return readyToEdit().and_then([&] { return d->data.moveEntities(entities, target); });
 }
 
 Expected<void> Drawing::mergeLayers(const std::vector<LayerId>& sources, LayerId target)
 {
-    return readyToEdit().and_then([&] { return EntityEdits(d->data).merge(sources, target); });
+    return readyToEdit().and_then([&] { return d->data.mergeLayers(sources, target); });
 }
 
 Expected<void> Drawing::deleteLayers(const std::vector<LayerId>& layers)
 {
-    return readyToEdit().and_then([&] { return EntityEdits(d->data).removeLayers(layers); });
+    return readyToEdit().and_then([&] { return d->data.deleteLayers(layers); });
 }
 
 bool Drawing::isReferencedInBlocks(const std::vector<LayerId>& layers) const
 {
-    return EntityEdits(d->data).isReferencedInBlocks(layers);
+    return d->data.entityEdits.isReferencedInBlocks(layers);
 }
 
 int Drawing::countBlockReferences(const std::vector<LayerId>& layers) const
 {
-    return EntityEdits(d->data).countBlockReferences(layers);
+    return d->data.entityEdits.countBlockReferences(layers);
 }
 
 QByteArray Drawing::version() const
 {
-    const std::string_view value = d->data.index.variable(HeaderVariable::Version).trimmed();
-    return QByteArray(value.data(), static_cast<int>(value.size()));
+    return bytesOf(d->data.file.variable(HeaderVariable::Version).trimmed());
 }
 
 bool Drawing::isBinary() const
 {
-    return false;
+    return drawing::isBinary(d->data.file.spelling());
 }
 
 ByteRange Drawing::recordRange(LayerId id) const
@@ -386,22 +335,19 @@ ByteRange Drawing::recordRange(LayerId id) const
     if (!d->data.layers.isValid(id))
         return {};
     const LayerEntry& entry = d->data.layers.entry(id);
-    const bool isInFile = entry.hasRecord && entry.place.order == EditPlace::kReplacement;
-    return isInFile ? entry.range() : ByteRange();
+    return entry.isOfFile() ? entry.range() : ByteRange();
 }
 
 QStringList Drawing::takeNotices()
 {
-    QStringList notices = d->data.leftOut.sentences();
-    d->data.leftOut = {};
-    return notices;
+    return d->data.leftOut.take();
 }
 
 void Drawing::beginStep(const QString& name)
 {
     Q_ASSERT(!d->stepIsOpen);
     d->stepName = name;
-    d->stateBefore = d->data.state;
+    d->data.begin();
     d->stepIsOpen = true;
     d->stepIsPublished = false;
 }
@@ -410,13 +356,14 @@ void Drawing::commitStep()
 {
     if (!d->stepIsOpen)
         return;
-    updateReferences(d->data);
-    UndoStep step = d->takeStep();
-    if (step.isEmpty()) {
+    d->data.followLayers();
+    UndoStep step{d->stepName, d->data.take()};
+    d->stepIsOpen = false;
+    if (step.changes.isEmpty()) {
         announce(d->stepIsPublished, false);
         return;
     }
-    const bool entities = !step.entities.empty();
+    const bool entities = !step.changes.entities.empty();
     d->steps.push(std::move(step));
     announce(true, entities);
 }
@@ -425,17 +372,18 @@ void Drawing::rollbackStep()
 {
     if (!d->stepIsOpen)
         return;
-    const UndoStep step = d->takeStep();
-    step.apply(d->data, false);
-    announce(d->stepIsPublished || !step.isEmpty(), !step.entities.empty());
+    const DrawingData::Changes changes = d->data.take();
+    d->stepIsOpen = false;
+    d->data.apply(changes, false);
+    announce(d->stepIsPublished || !changes.isEmpty(), !changes.entities.empty());
 }
 
 void Drawing::publishStep()
 {
-    if (!d->stepChanged())
+    if (!d->stepIsOpen || !d->data.hasChanges())
         return;
     d->stepIsPublished = true;
-    announce(true, !d->data.entityChanges.empty());
+    announce(true, d->data.entities.hasChanges());
 }
 
 bool Drawing::inStep() const
@@ -468,9 +416,9 @@ void Drawing::undo()
     if (!canUndo())
         return;
     const UndoStep* step = d->steps.undoStep();
-    step->apply(d->data, false);
+    d->data.apply(step->changes, false);
     d->steps.stepBack();
-    announce(true, !step->entities.empty());
+    announce(true, !step->changes.entities.empty());
 }
 
 void Drawing::redo()
@@ -478,9 +426,9 @@ void Drawing::redo()
     if (!canRedo())
         return;
     const UndoStep* step = d->steps.redoStep();
-    step->apply(d->data, true);
+    d->data.apply(step->changes, true);
     d->steps.stepForward();
-    announce(true, !step->entities.empty());
+    announce(true, !step->changes.entities.empty());
 }
 
 void Drawing::announce(bool layers, bool entities)

@@ -7,6 +7,7 @@
 #include "layouts.h"
 #include "linetypedefinition.h"
 #include "openoptions.h"
+#include "progress.h"
 #include "tagreader.h"
 #include "textcodec.h"
 #include "viewportlayers.h"
@@ -14,20 +15,11 @@
 #include <QObject>
 #include <QStringList>
 
-#include <atomic>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
 namespace drawing {
-
-/// Told of long work as it goes on; called on the working thread.
-struct Progress
-{
-    std::function<void(int percent)> report; ///< May be empty.
-    std::atomic<bool> cancelled{false};      ///< Set from any thread to stop the work.
-};
 
 /// A drawing held in a DXF file: its layers, its entities' places, its edits.
 ///
@@ -202,6 +194,32 @@ private:
 
     class Private;
     std::unique_ptr<Private> d;
+};
+
+/// A step of a drawing that is taken back when it is left early.
+class DrawingStep
+{
+public:
+    DrawingStep(Drawing& drawing, const QString& name) : m_drawing(drawing)
+    {
+        drawing.beginStep(name);
+    }
+    ~DrawingStep()
+    {
+        if (m_isOpen)
+            m_drawing.rollbackStep();
+    }
+    Q_DISABLE_COPY(DrawingStep)
+
+    void commit()
+    {
+        m_isOpen = false;
+        m_drawing.commitStep();
+    }
+
+private:
+    Drawing& m_drawing;
+    bool m_isOpen = true;
 };
 
 } // namespace drawing

@@ -2,107 +2,104 @@
 
 #include "drawingtexts.h"
 
+#include <algorithm>
+#include <tuple>
+
 namespace drawing {
 
-namespace {
-
-constexpr int kLastColorIndex = 255;
-
-} // namespace
-
-void LeftOut::note(Kind kind, const QString& name)
+bool DrawingData::State::operator==(const State& other) const
 {
-    Note& note = m_notes[kind];
-    if (note.name.isEmpty())
-        note.name = name;
-    else
-        note.more = note.more || note.name != name;
+    return std::tie(file, linetypes, layouts, layerStates, current) ==
+           std::tie(other.file, other.linetypes, other.layouts, other.layerStates, other.current);
 }
 
-QStringList LeftOut::sentences() const
+bool DrawingData::Changes::isEmpty() const
 {
-    constexpr const char* kTexts[] = {
-        QT_TRANSLATE_NOOP(
-            "drawing", "此图形的 DXF 版本不能保存打印开关：图层“%1”%2的该设置未改动。"),
-        QT_TRANSLATE_NOOP("drawing", "此图形的 DXF 版本不能保存线宽：图层“%1”%2的该设置未改动。"),
-        QT_TRANSLATE_NOOP(
-            "drawing", "此图形的 DXF 版本不能保存真彩色：图层“%1”%2只保存了颜色索引。"),
-        QT_TRANSLATE_NOOP(
-            "drawing", "此图形的 DXF 版本不能保存线型中的文字和形：线型“%1”%2只保存了划线和间隔。"),
-        QT_TRANSLATE_NOOP("drawing",
-            "线型“%1”%2所用的文字样式或形文件在其来源图形中找不到：只保存了划线和间隔。"),
-    };
-    static_assert(std::size(kTexts) == KindCount);
-    QStringList sentences;
-    for (size_t kind = 0; kind < KindCount; ++kind) {
-        const Note& note = m_notes[kind];
-        if (!note.name.isEmpty())
-            sentences +=
-                Texts::tr(kTexts[kind]).arg(note.name, note.more ? Texts::tr("等") : QString());
-    }
-    return sentences;
+    return edits.empty() && layers.empty() && entities.empty() && before == after;
 }
 
-TagReader DrawingData::allTags() const
+DrawingData::State DrawingData::state() const
 {
-    return TagReader(bytes.substr(firstTag), static_cast<qint64>(firstTag), spelling);
+    return {
+        file.state(), linetypes.state(), layouts.state(), layerStates.state(), layers.current()};
 }
 
-ByteRange DrawingData::valueRange(qint64 offset) const
+void DrawingData::setState(const State& state)
 {
-    return {offset,
-        valueEnd(bytes.data() + offset, bytes.data() + bytes.size(), spelling) - bytes.data()};
+    file.state() = state.file;
+    linetypes.state() = state.linetypes;
+    layouts.state() = state.layouts;
+    layerStates.state() = state.layerStates;
+    layers.setCurrent(state.current);
 }
 
-void DrawingData::changeEntity(size_t entity, LayerId layer, bool removed)
+bool DrawingData::hasChanges() const
 {
-    Entity& changed = index.entities[entity];
-    const bool byLayer = changed.colorByLayer;
-    entityChanges.push_back({static_cast<int>(entity), {changed.layer, changed.removed, byLayer},
-        {layer, removed, byLayer}});
-    changed.layer = layer;
-    changed.removed = removed;
+    return file.journal().hasChanges() || !(m_before == state());
 }
 
-void DrawingData::dropColor(size_t entity)
+DrawingData::Changes DrawingData::take()
 {
-    Entity& changed = index.entities[entity];
-    if (changed.colorByLayer)
+    return {file.journal().takeChanges(), layers.takeChanges(), entities.takeChanges(), m_before,
+        state()};
+}
+
+void DrawingData::apply(const Changes& changes, bool forward)
+{
+    file.journal().apply(changes.edits, forward);
+    layers.apply(changes.layers, forward);
+    entities.apply(changes.entities, forward);
+    setState(forward ? changes.after : changes.before);
+}
+
+void DrawingData::followLayers()
+{
+    if (LayerFates(layers, file.codec()).isEmpty())
         return;
-    const EntityChange::State before{changed.layer, changed.removed, false};
-    entityChanges.push_back(
-        {static_cast<int>(entity), before, {changed.layer, changed.removed, true}});
-    changed.colorByLayer = true;
+    copies.follow();
+    const LayerFates fates(layers, file.codec());
+    entityEdits.follow(fates);
+    if (const QByteArray& name = fates.of(layers.current()).name; !name.isNull())
+        file.writeVariable(HeaderVariable::CurrentLayer, name);
+    viewports.follow(fates);
+    layerStates.follow(fates);
+    mappings.follow(fates);
+    const QSet<quint64> understood =
+        layerObjects.follow(fates) + layerStates.records() + mappings.records();
+    noteOpaque(file, fates, understood, leftOut);
 }
 
-QString DrawingData::linetypeName(const QString& key) const
+Expected<int> DrawingData::moveEntities(const std::vector<int>& chosen, LayerId target)
 {
-    const auto known = linetypes.constFind(key);
-    if (known != linetypes.constEnd())
-        return known->name;
-    const LinetypePointer added = state.newLinetypes.value(key);
-    return added ? added->name : QString();
+    if (const auto checked = layerEdits.checkTarget(target); !checked)
+        return tl::make_unexpected(checked.error());
+    return entityEdits.move(chosen, target);
 }
 
-const ObjectPlace* DrawingData::objectByHandle(quint64 handle)
+Expected<void> DrawingData::mergeLayers(const std::vector<LayerId>& sources, LayerId target)
 {
-    if (!handles)
-        handles.emplace(index.objects);
-    return handles->find(handle);
+    if (auto checked = layerEdits.checkTarget(target).and_then(
+            [&] { return layerEdits.checkLeaving(sources); });
+        !checked)
+        return checked;
+    if (std::find(sources.begin(), sources.end(), target) != sources.end())
+        return refusal(
+            Texts::tr("图层“%1”不能合并到它自己。").arg(layers.layer(target)->properties.name));
+    entityEdits.merge(sources, target);
+    for (const LayerId source : sources)
+        layerEdits.drop(source, target);
+    return {};
 }
 
-QString DrawingData::plotStyleName(int colorIndex, quint64 handle) const
+Expected<void> DrawingData::deleteLayers(const std::vector<LayerId>& chosen)
 {
-    if (!plotStylesByColor)
-        return plotStyles.value(handle);
-    // Shared by all layers of a colour.
-    static const std::vector<QString> names = [] {
-        std::vector<QString> made;
-        for (int color = 0; color <= kLastColorIndex; ++color)
-            made.push_back(QStringLiteral("Color_%1").arg(color));
-        return made;
-    }();
-    return names.at(static_cast<size_t>(colorIndex));
+    if (auto checked = layerEdits.checkLeaving(chosen); !checked)
+        return checked;
+    const std::vector<LayerId> all = copies.withCopies(chosen);
+    entityEdits.removeOn(all);
+    for (const LayerId layer : all)
+        layerEdits.drop(layer, LayerId::None);
+    return {};
 }
 
 } // namespace drawing

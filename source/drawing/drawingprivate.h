@@ -12,20 +12,15 @@ class Drawing::Private
 {
 public:
     Expected<void> map(const QString& fileName);
-    Expected<void> saveStatesAside(const QString& drawingPath);
-    UndoStep takeStep();
-    bool stepChanged() const;
 
     QString path;
     QFile file; // Keeps the mapping; its inode lives on when saving replaces the file.
     DrawingData data;
     UndoStack steps;
-    DocumentState stateBefore;
     QString stepName;
     bool stepIsOpen = false;
     bool stepIsPublished = false;
     bool wasModified = false;
-    std::shared_ptr<const LayerStateTable> savedStates; // As `DocumentState` has them.
 };
 
 /// The inside of a drawing, for what edits it in ways that are no concern of its users.

@@ -228,12 +228,9 @@ void MainWindow::showSpace(int layout)
     if (!drawing() || isBusy())
         return;
     const bool toModel = layout == StatusFields::kModelSpace;
-    drawing()->beginStep(toModel ? tr("切换到模型空间") : tr("切换到布局"));
-    if (toModel)
-        drawing()->setModelSpace(true);
-    else
-        drawing()->showLayout(layout);
-    drawing()->commitStep();
+    drawing::DrawingStep step(*drawing(), toModel ? tr("切换到模型空间") : tr("切换到布局"));
+    if (toModel ? drawing()->setModelSpace(true) : drawing()->showLayout(layout))
+        step.commit();
     m_status->showLayers(drawing()); // Also where the space shown was chosen again.
     m_canvas->zoomToExtents();
 }
@@ -287,13 +284,12 @@ void MainWindow::runLayerCommand(const CommandRow& row)
     CommandContext context = commandContext();
     m_commandRunning = true;
     updateState();
-    drawing()->beginStep(row.displayTitle());
     try {
+        drawing::DrawingStep step(*drawing(), row.displayTitle());
         const host::CommandScope running;
         row.create()->run(context);
-        drawing()->commitStep();
+        step.commit();
     } catch (const std::exception& error) {
-        drawing()->rollbackStep();
         messages::showCommandFailure(this, row.displayTitle(), QString::fromUtf8(error.what()));
     }
     m_commandRunning = false;

@@ -69,10 +69,10 @@ void TestViewportLayers::layouts()
         return ends;
     };
     QCOMPARE(shown(), QByteArray("100"));
-    step(*drawing, [&] { drawing->showLayout(0); });
+    step(*drawing, [&] { QVERIFY(drawing->showLayout(0)); });
     QCOMPARE(shown(), QByteArray("300"));
     QVERIFY(captureLayerState(*drawing, {}).fromLayout);
-    step(*drawing, [&] { drawing->showLayout(kNewest); });
+    step(*drawing, [&] { QVERIFY(drawing->showLayout(kNewest)); });
     QCOMPARE(shown(), QByteArray("200"));
     QVERIFY(!opened(saved(*drawing))->isModelSpace());
     drawing->undo();
@@ -112,7 +112,7 @@ void TestViewportLayers::visibility()
     QFETCH(QByteArray, list);
     const auto drawing = opened(sheetsDrawing());
     if (layout >= 0)
-        step(*drawing, [&] { drawing->showLayout(layout); });
+        step(*drawing, [&] { QVERIFY(drawing->showLayout(layout)); });
     const QByteArray untouched = saved(*drawing);
     QTEST(names(*drawing, drawing->frozenInViewport()), "before");
     LayerState state = captureLayerState(*drawing, QStringLiteral("S"));
@@ -141,7 +141,7 @@ void TestViewportLayers::visibility()
 void TestViewportLayers::forgetsLayers()
 {
     const auto drawing = opened(sheetsDrawing());
-    step(*drawing, [&] { drawing->showLayout(kNewest); });
+    step(*drawing, [&] { QVERIFY(drawing->showLayout(kNewest)); });
     const LayerId door = drawing->findLayer(QStringLiteral("Door"))->id;
     step(*drawing, [&] {
         QVERIFY(drawing->setFrozenInViewport({door}));
@@ -168,7 +168,7 @@ void TestViewportLayers::forgetsViewports()
         tagged("5 52\n100 AcDbEntity\n67 1\n8 Door\n"));
     const auto drawing = opened(bytes);
     step(*drawing, [&] {
-        drawing->showLayout(kNewest);
+        QVERIFY(drawing->showLayout(kNewest));
         LayerProperties red = drawing->findLayer(QStringLiteral("Wall"))->properties;
         red.colorIndex = 2;
         const LayerId wall = drawing->findLayer(QStringLiteral("Wall"))->id;
@@ -193,7 +193,7 @@ void TestViewportLayers::overridesSeenByOthers()
         return drawing->save(result) ? readback::seen(result, QStringLiteral(STATES_SCRIPT))
                                      : QJsonObject();
     };
-    step(*drawing, [&] { drawing->showLayout(0); });
+    step(*drawing, [&] { QVERIFY(drawing->showLayout(0)); });
     const QJsonObject before = seen();
     const QByteArray untouched = read(result);
     const LayerState plain = captureLayerState(*drawing, QStringLiteral("S"));
@@ -256,7 +256,7 @@ void TestViewportLayers::cannotOverride()
     QFETCH(int, layout);
     const auto drawing = opened(bytes);
     if (layout >= 0)
-        step(*drawing, [&] { drawing->showLayout(layout); });
+        step(*drawing, [&] { QVERIFY(drawing->showLayout(layout)); });
     LayerState state = captureLayerState(*drawing, QStringLiteral("S"));
     state.layers.resize(1);
     state.layers.front().properties.colorIndex = 3;

@@ -71,6 +71,37 @@ private slots:
         QVERIFY(known > 2);
     }
 
+    /// The drawing library's floors: what stands lower knows nothing of what stands on it.
+    void keepsTheFloorsOfDrawings()
+    {
+        const QHash<QString, int> floors{{"file", 0}, {"layers", 1}, {"entities", 1},
+            {"geometry", 2}, {"states", 2}, {"translation", 2}, {"drawing", 3}};
+        const QDir library(kRoot.filePath("source/drawing"));
+        const QStringList sources = sourcesIn(library);
+        QHash<QString, QString> folders; // Of headers.
+        for (const QString& path : sources)
+            folders.insert(QFileInfo(path).fileName(), QFileInfo(path).dir().dirName());
+        const QRegularExpression include(
+            "^#include \"([^\"]+)\"", QRegularExpression::MultilineOption);
+        QStringList strangers;
+        int count = 0;
+        for (const QString& path : sources) {
+            const QString own = QFileInfo(path).dir().dirName();
+            auto match = include.globalMatch(read(path));
+            while (match.hasNext()) {
+                const QString name = match.next().captured(1);
+                const QString other = folders.value(name, own);
+                ++count;
+                // The upper floors also work on whole drawings, as anybody who uses the library.
+                const bool isFace = floors[own] == 2 && name.startsWith("drawing");
+                if (floors[other] > floors[own] && !isFace)
+                    strangers.append(path + ": " + name);
+            }
+        }
+        QCOMPARE(strangers, QStringList());
+        QVERIFY(count > 200);
+    }
+
     void includesPublicHeadersOnly()
     {
         QSet<QString> allowed;

@@ -115,7 +115,7 @@ void LayerWalkCommandTest::restoresEveryByte()
         const QString name = fullest().properties.name;
         click(dialog, name);
         QCOMPARE(shown(), QStringList{name});
-        if (path.contains("floor"))
+        if (QFileInfo(path).fileName().contains("floor"))
             QVERIFY(m_window->canvas()->grab().toImage() != empty);
         trigger(dialog, "keep");
         trigger(dialog, "reverse");

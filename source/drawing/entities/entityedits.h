@@ -1,19 +1,14 @@
 #pragma once
 
 #include "entityeditsbytes.h"
-#include "error.h"
+#include "layertable.h"
 
 namespace drawing {
 
-/// For each entity the one it follows as a vertex, an attribute or an end mark; itself where it
-/// stands alone.
-std::vector<int> ownersOf(const std::vector<Entity>& entities);
+class LayerFates;
 
-/// Whether an entity stands in a block definition and not in a layout.
-bool isInBlock(const DrawingData& data, const Entity& entity);
-
-/// A flag for each layer of the drawing by its id, set for these.
-std::vector<char> layerMarks(const DrawingData& data, const std::vector<LayerId>& layers);
+/// A flag for each layer by its id.
+using LayerMarks = std::vector<char>;
 
 /// What is on a layer, and where it goes. The rest is filled in when it went.
 struct ContentMove
@@ -35,28 +30,39 @@ struct ContentRules
 class EntityEdits
 {
 public:
-    explicit EntityEdits(DrawingData& data) : m_data(data) {}
+    EntityEdits(DrawingFile& file, EntityTable& entities, LayerTable& layers)
+        : m_file(file),
+          m_entities(entities),
+          m_layers(layers)
+    {
+    }
 
-    Expected<int> move(const std::vector<int>& entities, LayerId target);
-    Expected<void> merge(const std::vector<LayerId>& sources, LayerId target);
-    Expected<void> removeLayers(const std::vector<LayerId>& layers);
+    /// The targets must be there. Returns how many entities came from another layer.
+    int move(const std::vector<int>& entities, LayerId target);
+    void merge(const std::vector<LayerId>& sources, LayerId target);
+    void removeOn(const std::vector<LayerId>& layers);
     /// Moves the contents of layers, all at once: an entity, or a part of one, goes by the layer
     /// that it was on before. The layers must be there, and each be the source of one move.
     void moveContents(std::vector<ContentMove>& moves, const ContentRules& rules);
-    /// Takes out a layer that nothing is on; what names it names its heir then.
-    void dropRecord(LayerId layer, LayerId heir);
+    /// What names a layer that got another name, or went, names what became of it.
+    void follow(const LayerFates& fates);
 
     bool isReferencedInBlocks(const std::vector<LayerId>& layers) const;
     int countBlockReferences(const std::vector<LayerId>& layers) const;
 
 private:
-    Expected<void> checkTarget(LayerId target) const;
-    Expected<void> checkLeaving(const std::vector<LayerId>& layers) const;
+    LayerMarks marks(const std::vector<LayerId>& layers) const;
+    std::vector<char> blocksOn(const std::vector<LayerId>& layers) const;
+    QByteArray encodedName(LayerId layer) const;
     void put(size_t entity, LayerId target, const QByteArray& name);
     void count(const Entity& entity, LayerId layer, int by);
     void settleCounts();
+    void followNames(const LayerFates& fates);
+    ByteRange viewportTag(qint64 value) const;
 
-    DrawingData& m_data;
+    DrawingFile& m_file;
+    EntityTable& m_entities;
+    LayerTable& m_layers;
     std::vector<int> m_counts; ///< Entities come and gone, by layer id.
 };
 

@@ -1,7 +1,7 @@
 #include "entityeditsbytes.h"
 
-#include "layerrecord.h"
-#include "taglist.h"
+#include "insertionorder.h"
+#include "owntags.h"
 
 #include <algorithm>
 
@@ -9,18 +9,18 @@ namespace drawing {
 
 namespace {
 
-constexpr quint32 kInsertion = 0;
+constexpr std::string_view kCommonData = "AcDbEntity";
 
 /// Where the layer's group belongs: behind the marker of the common data, which old formats lack.
-qint64 layerGroupPlace(const DrawingData& data, const Entity& entity)
+qint64 layerGroupPlace(const DrawingFile& file, const Entity& entity)
 {
-    TagReader tags = data.tags(entity.range());
+    TagReader tags = file.tags(entity.range());
     Tag tag;
     qint64 behindType = entity.end;
     if (tags.next(tag))
         behindType = tag.end();
     while (tags.next(tag)) {
-        if (tag.code == 100 && tag.trimmed() == "AcDbEntity")
+        if (tag.code == group::kSubclass && tag.trimmed() == kCommonData)
             return tag.end();
     }
     return behindType;
@@ -31,77 +31,83 @@ struct OwnGroup
 {
     int code;
     bool ByLayerGroups::*kind;
-    std::string_view byLayer; ///< In small letters; empty where any value is the entity's own.
+    bool isOwn(const Tag& tag) const;
 };
 
 constexpr OwnGroup kOwnGroups[] = {
-    {62, &ByLayerGroups::color, "256"},
-    {420, &ByLayerGroups::color, {}},
-    {430, &ByLayerGroups::color, {}},
-    {6, &ByLayerGroups::linetype, "bylayer"},
-    {440, &ByLayerGroups::transparency, "0"},
+    {group::kColor, &ByLayerGroups::color},
+    {group::kTrueColor, &ByLayerGroups::color},
+    {group::kColorName, &ByLayerGroups::color},
+    {group::kLinetype, &ByLayerGroups::linetype},
+    {group::kTransparency, &ByLayerGroups::transparency},
 };
+
+bool OwnGroup::isOwn(const Tag& tag) const
+{
+    constexpr qint64 kColorByLayer = 256;
+    constexpr std::string_view kByLayer = "bylayer";
+    const std::string_view text = tag.trimmed();
+    switch (code) {
+    case group::kColor:
+        return tag.integer() != kColorByLayer;
+    case group::kTransparency:
+        return tag.integer() != 0;
+    case group::kLinetype:
+        return !std::equal(text.begin(), text.end(), kByLayer.begin(), kByLayer.end(),
+            [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
+    default:
+        return true;
+    }
+}
 
 bool isOwn(const Tag& tag, const ByLayerGroups& groups)
 {
-    const auto* const group = std::find_if(std::begin(kOwnGroups), std::end(kOwnGroups),
+    const auto* const found = std::find_if(std::begin(kOwnGroups), std::end(kOwnGroups),
         [&tag](const OwnGroup& known) { return known.code == tag.code; });
-    if (group == std::end(kOwnGroups) || !(groups.*group->kind))
-        return false;
-    const QByteArray value = tag.printed();
-    return !std::equal(value.begin(), value.end(), group->byLayer.begin(), group->byLayer.end(),
-        [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
+    return found != std::end(kOwnGroups) && groups.*found->kind && found->isOwn(tag);
 }
 
 } // namespace
 
 /// Looks at the common data alone: other subclasses use the same codes for their own things. Old
 /// formats have no markers, and nothing else in these groups.
-void forceByLayer(DrawingData& data, size_t entity, const ByLayerGroups& groups)
+void forceByLayer(
+    DrawingFile& file, EntityTable& entities, size_t entity, const ByLayerGroups& groups)
 {
-    constexpr int kEmbeddedObject = 101;
-    constexpr int kExtendedData = 1000;
     if (!groups.color && !groups.linetype && !groups.transparency)
         return;
-    const Entity& place = data.index.entities[entity];
-    TagReader tags = data.tags(place.range());
-    bool isCommon = true;
-    bool inGroup = false;
+    OwnTags tags(file.tags(entities[entity].range()));
     Tag tag;
-    while (tags.next(tag) && tag.code < kExtendedData && tag.code != kEmbeddedObject) {
-        if (tag.code == 100)
-            isCommon = tag.trimmed() == "AcDbEntity";
-        if (tag.code == 100 || tag.code == 102)
-            inGroup = opensGroup(tag.code, tag.trimmed());
-        if (!isCommon || inGroup || !isOwn(tag, groups))
+    while (tags.next(tag)) {
+        const std::string_view subclass = tags.place().subclass();
+        if ((!subclass.empty() && subclass != kCommonData) || !isOwn(tag, groups))
             continue;
-        data.journal.replace(tag.range(), {});
-        if (tag.code == 62 || tag.code == 420)
-            data.dropColor(entity);
+        file.journal().replace(tag.range(), {});
+        if (tag.code == group::kColor || tag.code == group::kTrueColor)
+            entities.dropColor(entity);
     }
 }
 
-void writeLayerName(DrawingData& data, size_t entity, const QByteArray& name)
+void writeLayerName(
+    DrawingFile& file, const EntityTable& entities, size_t entity, const QByteArray& name)
 {
-    const Entity& place = data.index.entities[entity];
-    const quint32 nameAt = data.index.layerNameAt[entity];
-    if (nameAt == 0) {
-        const TagStyle style = data.styleOf(place.range());
-        data.journal.insert(layerGroupPlace(data, place), kInsertion, style.tag(8, name));
-        return;
-    }
-    const qint64 value = place.begin + nameAt;
+    const Entity& place = entities[entity];
+    const qint64 value = entities.layerName(entity);
     // Refused within an entity that was taken out.
-    data.journal.overwrite(data.valueRange(value), kInsertion, name);
+    if (value >= 0)
+        file.journal().overwrite(file.valueRange(value), kNewLayerName, name);
+    else
+        file.journal().insert(layerGroupPlace(file, place), kNewLayerName,
+            file.styleOf(place.range()).tag(group::kLayer, name));
 }
 
-void removeEntityBytes(DrawingData& data, size_t entity)
+void removeEntityBytes(DrawingFile& file, const EntityTable& entities, size_t entity)
 {
-    const Entity& place = data.index.entities[entity];
+    const Entity& place = entities[entity];
     // Behind an entity of a single group its insertion stands outside of it.
-    if (data.index.layerNameAt[entity] == 0)
-        data.journal.removeInsertion(layerGroupPlace(data, place), kInsertion);
-    data.journal.replace(place.range(), {});
+    if (entities.layerName(entity) < 0)
+        file.journal().removeInsertion(layerGroupPlace(file, place), kNewLayerName);
+    file.journal().replace(place.range(), {});
 }
 
 } // namespace drawing

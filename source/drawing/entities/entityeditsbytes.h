@@ -1,11 +1,13 @@
 #pragma once
 
-#include "drawingdata.h"
+#include "drawingfile.h"
+#include "entitytable.h"
 
 namespace drawing {
 
 /// Writes the name of the layer that an entity is on. An entity that names none gets the group.
-void writeLayerName(DrawingData& data, size_t entity, const QByteArray& name);
+void writeLayerName(
+    DrawingFile& file, const EntityTable& entities, size_t entity, const QByteArray& name);
 
 /// What an entity can have of its own or take from its layer.
 struct ByLayerGroups
@@ -16,9 +18,10 @@ struct ByLayerGroups
 };
 
 /// Lets an entity take these from its layer.
-void forceByLayer(DrawingData& data, size_t entity, const ByLayerGroups& groups);
+void forceByLayer(
+    DrawingFile& file, EntityTable& entities, size_t entity, const ByLayerGroups& groups);
 
 /// Takes out an entity with all its groups.
-void removeEntityBytes(DrawingData& data, size_t entity);
+void removeEntityBytes(DrawingFile& file, const EntityTable& entities, size_t entity);
 
 } // namespace drawing

@@ -1,16 +1,12 @@
 #include "entityeditspointers.h"
 
+#include "owntags.h"
+
 #include <algorithm>
 
 namespace drawing {
 
 namespace {
-
-bool isPointer(int code)
-{
-    return (code >= 320 && code <= 369) || (code >= 390 && code <= 399) || code == 480 ||
-           code == 481 || code == 1005;
-}
 
 bool isType(const std::vector<Tag>& tags, std::string_view type)
 {
@@ -30,15 +26,15 @@ struct PointerRemoval::Rule
 };
 
 const PointerRemoval::Rule PointerRemoval::kRules[] = {
-    {"DICTIONARY", 350, Rule::TagBefore},
-    {"DICTIONARY", 360, Rule::TagBefore},
-    {"ACDBDICTIONARYWDFLT", 350, Rule::TagBefore},
-    {"ACDBDICTIONARYWDFLT", 360, Rule::TagBefore},
-    {"GROUP", 340, Rule::Alone},
-    {"IDBUFFER", 330, Rule::Alone},
+    {"DICTIONARY", group::kSoftOwner, Rule::TagBefore},
+    {"DICTIONARY", group::kHardOwner, Rule::TagBefore},
+    {"ACDBDICTIONARYWDFLT", group::kSoftOwner, Rule::TagBefore},
+    {"ACDBDICTIONARYWDFLT", group::kHardOwner, Rule::TagBefore},
+    {"GROUP", group::kHardPointer, Rule::Alone},
+    {"IDBUFFER", group::kSoftPointer, Rule::Alone},
     {"SORTENTSTABLE", 331, Rule::TagBehind},
-    {"VIEWPORT", 340, Rule::Alone},
-    {"LEADER", 340, Rule::Alone},
+    {"VIEWPORT", group::kHardPointer, Rule::Alone},
+    {"LEADER", group::kHardPointer, Rule::Alone},
 };
 
 /// What else of an entity says that the pointer is there.
@@ -52,32 +48,29 @@ struct PointerRemoval::Flag
 };
 
 const PointerRemoval::Flag PointerRemoval::kFlags[] = {
-    {"VIEWPORT", 340, 90, ~qint64(0x10000), 0}, // Clipped by an entity.
-    {"LEADER", 340, 73, 0, 3},                  // The kind of its annotation: none.
-    {"HATCH", 330, 71, 0, 0},                   // Follows its boundary.
+    {"VIEWPORT", group::kHardPointer, 90, ~qint64(0x10000), 0}, // Clipped by an entity.
+    {"LEADER", group::kHardPointer, 73, 0, 3},                  // The kind of its annotation: none.
+    {"HATCH", group::kSoftPointer, 71, 0, 0},                   // Follows its boundary.
 };
 
 void PointerRemoval::addEntity(size_t entity)
 {
-    const Entity& place = m_data.index.entities[entity];
-    TagReader tags = m_data.tags(place.range());
-    Tag tag;
-    while (tags.next(tag) && tag.code != 5) {
-    }
-    if (tag.code != 5 || tag.handle() == 0)
+    const ByteRange place = m_entities[entity].range();
+    const quint64 handle = ownHandle(m_file.tags(place));
+    if (handle == 0)
         return;
-    m_gone.insert(tag.handle());
-    m_open.push_back(tag.handle());
-    addOwned(place.range(), false);
+    m_gone.insert(handle);
+    m_open.push_back(handle);
+    addOwned(place, false);
 }
 
 void PointerRemoval::addOwned(const ByteRange& range, bool isDictionary)
 {
-    TagReader tags = m_data.tags(range);
+    TagReader tags = m_file.tags(range);
     Tag tag;
     while (tags.next(tag)) {
-        if (tag.code == 360 || (tag.code == 350 && isDictionary))
-            addObject(m_data.objectByHandle(tag.handle()));
+        if (tag.code == group::kHardOwner || (tag.code == group::kSoftOwner && isDictionary))
+            addObject(m_file.objects().find(tag.handle()));
     }
 }
 
@@ -86,23 +79,20 @@ void PointerRemoval::addObject(const ObjectPlace* object)
     if (!object || !m_gone.insert(object->handle).second)
         return;
     m_open.push_back(object->handle);
-    m_objectGoes.resize(m_data.index.objects.size());
-    m_objectGoes[static_cast<size_t>(object - m_data.index.objects.data())] = true;
+    m_objectGoes.resize(m_file.index().objects.size());
+    m_objectGoes[static_cast<size_t>(object - m_file.index().objects.data())] = true;
 }
 
 /// Objects that go with another one: those it owns, and what ties a dimension to what it measures.
 void PointerRemoval::findDependents()
 {
-    for (const ObjectPlace& object : m_data.index.objects) {
-        TagReader tags = m_data.tags(object.range);
+    for (const ObjectPlace& object : m_file.index().objects) {
+        OwnTags tags(m_file.tags(object.range));
         Tag tag;
         const bool isTie = tags.next(tag) && tag.trimmed() == "DIMASSOC";
-        bool inGroup = false;
-        while (tags.next(tag) && (isTie || tag.code != 100)) {
-            if (tag.code == 102)
-                inGroup = tag.trimmed() != "}";
-            const bool isOwner = tag.code == 330;
-            if (!inGroup && (isOwner || (isTie && (tag.code == 331 || tag.code == 332))))
+        while (tags.next(tag) && (isTie || tag.code != group::kSubclass)) {
+            const bool ties = isTie && (tag.code == 331 || tag.code == 332);
+            if (tag.code == group::kSoftPointer || ties)
                 m_dependents.emplace(tag.handle(), &object);
         }
     }
@@ -113,7 +103,7 @@ void PointerRemoval::addDependents()
     while (!m_open.empty()) {
         const quint64 handle = m_open.back();
         m_open.pop_back();
-        if (const ObjectPlace* object = m_data.objectByHandle(handle))
+        if (const ObjectPlace* object = m_file.objects().find(handle))
             addOwned(object->range, object->kind == ObjectKind::Dictionary);
         const auto [from, to] = m_dependents.equal_range(handle);
         for (auto dependent = from; dependent != to; ++dependent)
@@ -125,21 +115,21 @@ void PointerRemoval::run()
 {
     if (m_gone.empty())
         return;
-    m_objectGoes.resize(m_data.index.objects.size());
+    m_objectGoes.resize(m_file.index().objects.size());
     findDependents();
     addDependents();
-    for (const Entity& entity : m_data.index.entities) {
+    for (const Entity& entity : m_entities.all()) {
         if (!entity.removed)
             clean(entity.range());
     }
-    for (const TablePlace& table : m_data.index.tables) {
+    for (const TablePlace& table : m_file.index().tables) {
         for (const ByteRange& record : table.records)
             clean(record);
     }
     for (size_t i = 0; i < m_objectGoes.size(); ++i) {
-        const ObjectPlace& object = m_data.index.objects[i];
+        const ObjectPlace& object = m_file.index().objects[i];
         if (m_objectGoes[i])
-            m_data.journal.replace(object.range, {});
+            m_file.journal().replace(object.range, {});
         else
             clean(object.range);
     }
@@ -147,12 +137,12 @@ void PointerRemoval::run()
 
 bool PointerRemoval::pointsAtGone(const Tag& tag) const
 {
-    return isPointer(tag.code) && m_gone.count(tag.handle()) != 0;
+    return group::isPointer(tag.code) && m_gone.count(tag.handle()) != 0;
 }
 
 bool PointerRemoval::touches(const ByteRange& range) const
 {
-    TagReader tags = m_data.tags(range);
+    TagReader tags = m_file.tags(range);
     Tag tag;
     while (tags.next(tag)) {
         if (pointsAtGone(tag))
@@ -166,7 +156,7 @@ void PointerRemoval::clean(const ByteRange& range)
     if (!touches(range))
         return;
     m_tags.clear();
-    TagReader tags = m_data.tags(range);
+    TagReader tags = m_file.tags(range);
     Tag tag;
     while (tags.next(tag))
         m_tags.push_back(tag);
@@ -180,16 +170,15 @@ void PointerRemoval::clean(const ByteRange& range)
 void PointerRemoval::readGroups()
 {
     m_groupHead.assign(m_tags.size(), -1);
+    TagSorter sorter;
     int head = -1;
     for (size_t at = 0; at < m_tags.size(); ++at) {
-        const Tag& tag = m_tags[at];
-        if (tag.code == 100)
+        sorter.take(m_tags[at]);
+        if (sorter.group().empty())
             head = -1;
-        else if (tag.code == 102 && tag.trimmed() != "}")
+        else if (head < 0 || sorter.opensGroup())
             head = static_cast<int>(at);
         m_groupHead[at] = head;
-        if (tag.code == 102 && tag.trimmed() == "}")
-            head = -1;
     }
 }
 
@@ -211,7 +200,7 @@ void PointerRemoval::drop(size_t at)
         else if (rule->with == Rule::TagBehind && at + 1 < m_tags.size())
             erase(at + 1);
     } else if (!dropCounted(at)) {
-        m_data.journal.replace(m_tags[at].valueRange(), "0");
+        m_file.journal().replace(m_tags[at].valueRange(), "0");
     }
     settleFlags(code);
 }
@@ -223,11 +212,11 @@ void PointerRemoval::dropFromGroup(size_t at)
     erase(at);
     const int head = m_groupHead[at];
     for (size_t i = at + 1; m_tags[at].code == kViewport && i < m_tags.size() &&
-                            m_groupHead[i] == head && m_tags[i].code != 102;
+                            m_groupHead[i] == head && m_tags[i].code != group::kBrace;
          ++i)
         erase(i);
     size_t end = static_cast<size_t>(head) + 1;
-    while (end < m_tags.size() && m_groupHead[end] == head && m_tags[end].code != 102) {
+    while (end < m_tags.size() && m_groupHead[end] == head && m_tags[end].code != group::kBrace) {
         if (!isErased(m_tags[end]))
             return;
         ++end;
@@ -267,8 +256,8 @@ bool PointerRemoval::dropCounted(size_t at)
 void PointerRemoval::settleCount(size_t at, int dropped)
 {
     const Tag& count = m_tags[at];
-    const TagList now = m_data.tagList(m_data.journal.current(count.range()));
-    m_data.journal.replace(count.valueRange(), numberInPlace(count, now.integer(0) - dropped));
+    const TagList now = m_file.current(count.range());
+    m_file.journal().replace(count.valueRange(), numberInPlace(count, now.integer(0) - dropped));
 }
 
 void PointerRemoval::settleFlags(int code)
@@ -279,19 +268,19 @@ void PointerRemoval::settleFlags(int code)
         const auto tag = std::find_if(m_tags.begin(), m_tags.end(),
             [&flag](const Tag& candidate) { return candidate.code == flag.code; });
         if (tag != m_tags.end())
-            m_data.journal.replace(
+            m_file.journal().replace(
                 tag->valueRange(), numberInPlace(*tag, (tag->integer() & flag.kept) | flag.set));
     }
 }
 
 void PointerRemoval::erase(size_t at)
 {
-    m_data.journal.replace(m_tags[at].range(), {});
+    m_file.journal().replace(m_tags[at].range(), {});
 }
 
 bool PointerRemoval::isErased(const Tag& tag) const
 {
-    return m_data.journal.current(tag.range()).isEmpty();
+    return m_file.journal().current(tag.range()).isEmpty();
 }
 
 } // namespace drawing

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "drawingdata.h"
+#include "drawingfile.h"
+#include "entitytable.h"
 
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 namespace drawing {
 
@@ -12,7 +14,11 @@ namespace drawing {
 class PointerRemoval
 {
 public:
-    explicit PointerRemoval(DrawingData& data) : m_data(data) {}
+    PointerRemoval(DrawingFile& file, const EntityTable& entities)
+        : m_file(file),
+          m_entities(entities)
+    {
+    }
 
     /// Notes an entity that goes.
     void addEntity(size_t entity);
@@ -40,7 +46,8 @@ private:
     void erase(size_t at);
     bool isErased(const Tag& tag) const;
 
-    DrawingData& m_data;
+    DrawingFile& m_file;
+    const EntityTable& m_entities;
     std::unordered_set<quint64> m_gone; ///< Handles.
     std::vector<quint64> m_open;        ///< Those whose dependents are still to be found.
     std::vector<char> m_objectGoes;     ///< By the objects' indices.

@@ -2,27 +2,14 @@
 
 #include "entityeditsbytes.h"
 #include "entityeditspointers.h"
+#include "owntags.h"
+#include "viewports.h"
 
 namespace drawing {
 
-/// The viewport with number 1 of a layout is the sheet itself.
-bool EntityRemoval::isSheetViewport(const Entity& entity) const
+void EntityRemoval::choose(const std::vector<char>& isLeaving, LayerId zero)
 {
-    if (entity.kind != EntityKind::Viewport)
-        return false;
-    TagReader tags = m_data.tags(entity.range());
-    Tag tag;
-    while (tags.next(tag)) {
-        if (tag.code == 69)
-            return tag.integer() == 1;
-    }
-    return false;
-}
-
-void EntityRemoval::choose(const std::vector<char>& isLeaving)
-{
-    const std::vector<Entity>& all = m_data.index.entities;
-    const LayerId zero = m_data.layers.find(QStringLiteral("0"))->id;
+    const std::vector<Entity>& all = m_entities.all();
     size_t end = 0;
     for (size_t owner = 0; owner < all.size(); owner = end) {
         end = owner + 1;
@@ -32,12 +19,13 @@ void EntityRemoval::choose(const std::vector<char>& isLeaving)
             continue;
         if (!isLeaving[static_cast<size_t>(all[owner].layer)]) {
             chooseParts(owner, end, isLeaving);
-        } else if (isSheetViewport(all[owner])) {
+        } else if (all[owner].kind == EntityKind::Viewport &&
+                   isSheetsOwn(m_file.tags(all[owner].range()))) {
             m_moves.push_back({static_cast<int>(owner), zero});
         } else {
             for (size_t i = owner; i < end; ++i) {
                 if (!all[i].removed)
-                    m_entities.push_back(static_cast<int>(i));
+                    m_chosen.push_back(static_cast<int>(i));
             }
         }
     }
@@ -45,10 +33,10 @@ void EntityRemoval::choose(const std::vector<char>& isLeaving)
 
 void EntityRemoval::chooseParts(size_t owner, size_t end, const std::vector<char>& isLeaving)
 {
-    const std::vector<Entity>& all = m_data.index.entities;
+    const std::vector<Entity>& all = m_entities.all();
     int attributesLeft = 0;
     int endMark = -1;
-    const size_t before = m_entities.size();
+    const size_t before = m_chosen.size();
     for (size_t i = owner + 1; i < end; ++i) {
         const bool leaves = !all[i].removed && isLeaving[static_cast<size_t>(all[i].layer)];
         const bool isAttribute = all[i].kind == EntityKind::Attrib;
@@ -56,40 +44,39 @@ void EntityRemoval::chooseParts(size_t owner, size_t end, const std::vector<char
         if (all[i].kind == EntityKind::Seqend)
             endMark = static_cast<int>(i);
         if (leaves && isAttribute)
-            m_entities.push_back(static_cast<int>(i));
+            m_chosen.push_back(static_cast<int>(i));
         else if (leaves)
             m_moves.push_back({static_cast<int>(i), all[owner].layer});
     }
-    if (m_entities.size() == before || attributesLeft > 0)
+    if (m_chosen.size() == before || attributesLeft > 0)
         return;
     m_bared.push_back(static_cast<int>(owner));
     if (endMark < 0)
         return;
     if (!m_moves.empty() && m_moves.back().entity == endMark)
         m_moves.pop_back();
-    m_entities.push_back(endMark);
+    m_chosen.push_back(endMark);
 }
 
 /// Group 66 tells that attributes follow.
 void EntityRemoval::forgetAttributes(size_t reference)
 {
-    const Entity& entity = m_data.index.entities[reference];
-    TagReader tags = m_data.tags(entity.range());
+    OwnTags tags(m_file.tags(m_entities[reference].range()));
     Tag tag;
     while (tags.next(tag)) {
-        if (tag.code == 66)
-            m_data.journal.replace(tag.range(), {});
+        if (tag.code == group::kHasAttributes)
+            m_file.journal().replace(tag.range(), {});
     }
 }
 
 void EntityRemoval::run()
 {
-    PointerRemoval pointers(m_data);
-    for (const int index : m_entities) {
+    PointerRemoval pointers(m_file, m_entities);
+    for (const int index : m_chosen) {
         const auto entity = static_cast<size_t>(index);
         pointers.addEntity(entity);
-        removeEntityBytes(m_data, entity);
-        m_data.changeEntity(entity, m_data.index.entities[entity].layer, true);
+        removeEntityBytes(m_file, m_entities, entity);
+        m_entities.remove(entity);
     }
     for (const int reference : m_bared)
         forgetAttributes(static_cast<size_t>(reference));

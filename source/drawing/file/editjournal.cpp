@@ -6,11 +6,6 @@ namespace drawing {
 
 namespace {
 
-std::string_view view(const QByteArray& bytes)
-{
-    return {bytes.constData(), static_cast<size_t>(bytes.size())};
-}
-
 bool byPlace(const EditChange& a, const EditChange& b)
 {
     return a.place < b.place;
@@ -48,14 +43,13 @@ bool EditJournal::replace(const ByteRange& range, const QByteArray& text)
         m_changes.push_back({inner->first, inner->second, {}});
         inner = m_edits.erase(inner);
     }
-    put(place, view(text) == originalBytes(range) ? Edit{} : Edit{range.end, text});
+    put(place, viewOf(text) == originalBytes(range) ? Edit{} : Edit{range.end, text});
     return true;
 }
 
 bool EditJournal::restore(const ByteRange& range)
 {
-    const std::string_view original = originalBytes(range);
-    return replace(range, {original.data(), static_cast<int>(original.size())});
+    return replace(range, bytesOf(originalBytes(range)));
 }
 
 bool EditJournal::overwrite(const ByteRange& range, quint32 order, const QByteArray& text)
@@ -123,7 +117,7 @@ bool EditJournal::stream(const Sink& sink) const
         const std::string_view untouched = originalBytes({from, place.begin});
         if (!untouched.empty() && !sink(untouched))
             return false;
-        if (!edit.text.isEmpty() && !sink(view(edit.text)))
+        if (!edit.text.isEmpty() && !sink(viewOf(edit.text)))
             return false;
         from = edit.end;
     }

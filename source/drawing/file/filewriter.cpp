@@ -1,7 +1,7 @@
 #include "filewriter.h"
 
-#include "drawing.h"
 #include "drawingtexts.h"
+#include "progress.h"
 
 #include <QDir>
 #include <QFileInfo>

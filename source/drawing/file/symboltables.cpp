@@ -1,7 +1,10 @@
 #include "symboltables.h"
 
-#include "handles.h"
-#include "layerrecordedit.h"
+#include "drawingfile.h"
+#include "groupcode.h"
+#include "insertionorder.h"
+#include "owntags.h"
+#include "symbolname.h"
 
 #include <algorithm>
 #include <limits>
@@ -9,12 +12,6 @@
 namespace drawing {
 
 namespace {
-
-// Orders of insertions at one offset: section head, then each table with head, records and
-// tail, then the section's tail.
-constexpr quint32 kSectionHead = 1;
-constexpr quint32 kTableSpan = 0x10000000;
-constexpr quint32 kSectionTail = 0x70000000;
 
 struct TableNames
 {
@@ -36,230 +33,167 @@ const TableNames& namesOf(TableKind kind)
         [kind](const TableNames& names) { return names.kind == kind; });
 }
 
-TagStyle styleAt(const DrawingData& data, qint64 offset)
+/// The order of a table's head; its records follow.
+quint32 headOrder(TableKind kind)
 {
-    constexpr qint64 kSample = 400;
-    const auto end = static_cast<qint64>(data.bytes.size());
-    return data.styleOf({offset, std::min(offset + kSample, end)});
+    return kNewTables + static_cast<quint32>(kind) * kTableSpan;
 }
 
 } // namespace
 
-/// Where new records of a table go, and how they are to look.
-struct SymbolTables::Spot
+void SymbolTables::load()
 {
-    qint64 at = 0;
-    quint32 first = 0; // Order of the table's head.
-    bool hasTable = false;
-    bool hasSection = false;
-    TagStyle style;
-};
-
-SymbolTables::Spot SymbolTables::spot(TableKind kind) const
-{
-    const DrawingIndex& index = m_data.index;
-    const TablePlace& table = index.table(kind);
-    Spot spot;
-    spot.first = (static_cast<quint32>(kind) + 1) * kTableSpan;
-    spot.hasTable = !table.isNull();
-    spot.hasSection = index.tablesEnd >= 0;
-    if (spot.hasTable) {
-        spot.at = table.endTab;
-        spot.style = m_data.styleOf(table.head);
-    } else {
-        spot.at = spot.hasSection ? index.tablesEnd : index.firstBody;
-        spot.style = styleAt(m_data, index.firstSection);
-    }
-    return spot;
+    for (const ByteRange& record : m_file.table(TableKind::AppId).records)
+        m_appIds.insert(foldedName(nameOf(record)));
 }
 
-quint64 SymbolTables::tableHandle(TableKind kind) const
+TagStyle SymbolTables::sectionStyle() const
 {
-    const TablePlace& table = m_data.index.table(kind);
-    TagReader tags = m_data.tags(table.head);
-    Tag tag;
-    while (tags.next(tag)) {
-        if (tag.code == 5)
-            return tag.handle();
-    }
-    return 0;
+    constexpr qint64 kSample = 400;
+    const qint64 from = m_file.index().firstSection;
+    return m_file.styleOf(
+        {from, std::min(from + kSample, static_cast<qint64>(m_file.bytes().size()))});
 }
 
-quint64 SymbolTables::takeHandle()
+TagStyle SymbolTables::style(TableKind kind) const
 {
-    if (!m_data.limits.markers)
-        return 0;
-    if (m_data.freeHandle == 0)
-        m_data.freeHandle = firstFreeHandle(m_data);
-    const quint64 handle = m_data.freeHandle + m_data.state.handlesTaken++;
-    writeHeader("$HANDSEED", HeaderVariable::HandleSeed, 5, handleText(handle + 1));
-    return handle;
+    const TablePlace& table = m_file.table(kind);
+    return table.isNull() ? sectionStyle() : m_file.styleOf(table.head);
 }
 
-void SymbolTables::writeHeader(
-    std::string_view name, HeaderVariable which, int code, const QByteArray& text)
+quint64 SymbolTables::handle(TableKind kind) const
 {
-    const DrawingIndex& index = m_data.index;
-    const Tag& old = index.variable(which);
-    const auto order = kSectionHead + 1 + static_cast<quint32>(which);
-    const TagStyle style = styleAt(m_data, index.firstSection);
-    if (!old.isNull()) {
-        m_data.journal.overwrite(old.valueRange(), order, style.value(old.code, text));
+    const TablePlace& table = m_file.table(kind);
+    if (!table.isNull())
+        return ownHandle(m_file.tags(table.head));
+    const QByteArray made = m_file.journal().inserted(place(kind), headOrder(kind));
+    return ownHandle(TagReader(made, m_file.spelling()));
+}
+
+QString SymbolTables::nameOf(const ByteRange& record) const
+{
+    return m_file.decoded(findOwn(m_file.tags(record), group::kName).trimmed());
+}
+
+/// Where new records of a table go.
+qint64 SymbolTables::place(TableKind kind) const
+{
+    const FileIndex& index = m_file.index();
+    if (!index.tables[kind].isNull())
+        return index.tables[kind].endTab;
+    return index.tablesEnd >= 0 ? index.tablesEnd : index.firstBody;
+}
+
+EditPlace SymbolTables::insert(TableKind kind, const QByteArray& record)
+{
+    const EditPlace place{this->place(kind), headOrder(kind) + ++m_file.state().recordsMade[kind]};
+    m_file.journal().insert(place.begin, place.order, record);
+    return place;
+}
+
+/// Sets the count of a table to what the file says and what came and went since.
+void SymbolTables::count(TableKind kind, int added)
+{
+    const int all = m_file.state().recordsAdded[kind] += added;
+    const TablePlace& table = m_file.table(kind);
+    if (table.isNull()) {
+        makeFrame(kind);
         return;
     }
-    const QByteArray variable =
-        style.tag(9, QByteArray(name.data(), static_cast<int>(name.size()))) +
-        style.tag(code, text);
-    if (index.headerEnd >= 0) {
-        m_data.journal.insert(index.headerEnd, order, variable);
+    const Tag old = findOwn(m_file.tags(table.head), group::kFlags);
+    const qint64 count = old.integer();
+    // A count that is not there or that lies tells nobody anything.
+    if (old.raw().empty() || count < 0 || count > std::numeric_limits<int>::max() - std::abs(all))
         return;
-    }
-    // Below the orders of a TABLES section that may have to be made at the same place.
-    m_data.journal.insert(index.firstSection, 0,
-        style.tag(0, "SECTION") + style.tag(2, "HEADER") + variable + style.tag(0, "ENDSEC"));
-}
-
-void SymbolTables::writeCurrentLayer()
-{
-    const Layer& layer = m_data.layers.entry(m_data.state.current).layer;
-    writeHeader(
-        "$CLAYER", HeaderVariable::CurrentLayer, 8, m_data.codec.encode(layer.properties.name));
-}
-
-void SymbolTables::writeTileMode()
-{
-    const Tag& old = m_data.index.variable(HeaderVariable::TileMode);
-    writeHeader("$TILEMODE", HeaderVariable::TileMode, 70,
-        numberInPlace(old, m_data.state.modelSpace ? 1 : 0));
-}
-
-/// Sets the count of a table to what the file says plus `added`.
-void SymbolTables::countRecords(const Spot& spot, TableKind kind, int added)
-{
-    if (!spot.hasTable) {
-        makeFrame(spot, kind, added);
-        return;
-    }
-    TagReader tags = m_data.tags(m_data.index.table(kind).head);
-    Tag tag;
-    while (tags.next(tag)) {
-        if (tag.code == 70)
-            break;
-    }
-    if (tag.code != 70 || tag.raw().empty())
-        return;
-    const qint64 count = tag.integer();
-    if (count < 0 || count > std::numeric_limits<int>::max() - std::abs(added))
-        return; // A count that lies; it tells nobody anything.
-    m_data.journal.replace(
-        tag.valueRange(), numberInPlace(tag, std::max<qint64>(0, count + added)));
+    m_file.journal().replace(
+        old.valueRange(), numberInPlace(old, std::max<qint64>(0, count + all)));
 }
 
 /// Makes a missing table around its records, and a missing TABLES section around the table.
-void SymbolTables::makeFrame(const Spot& spot, TableKind kind, int records)
+void SymbolTables::makeFrame(TableKind kind)
 {
-    const TagStyle& style = spot.style;
-    EditJournal& journal = m_data.journal;
-    if (!spot.hasSection) {
-        journal.insert(spot.at, kSectionHead, style.tag(0, "SECTION") + style.tag(2, "TABLES"));
-        journal.insert(spot.at, kSectionTail, style.tag(0, "ENDSEC"));
+    const TagStyle style = sectionStyle();
+    EditJournal& journal = m_file.journal();
+    const qint64 at = place(kind);
+    if (m_file.index().tablesEnd < 0) {
+        journal.insert(at, kTablesHead,
+            style.tag(group::kType, "SECTION") + style.tag(group::kName, "TABLES"));
+        journal.insert(at, kTablesTail, style.tag(group::kType, "ENDSEC"));
     }
-    QByteArray head = journal.inserted(spot.at, spot.first);
+    const quint32 first = headOrder(kind);
+    QByteArray head = journal.inserted(at, first);
     if (head.isEmpty()) {
-        head = style.tag(0, "TABLE") + style.tag(2, namesOf(kind).table);
-        if (m_data.limits.markers)
-            head += style.handle(5, takeHandle()) + style.handle(330, 0) +
-                    style.tag(100, "AcDbSymbolTable");
-        head += style.number(70, 0);
+        head = style.tag(group::kType, "TABLE") + style.tag(group::kName, namesOf(kind).table);
+        if (m_file.limits().markers)
+            head += style.handle(group::kHandle, m_file.takeHandle()) +
+                    style.handle(group::kSoftPointer, 0) +
+                    style.tag(group::kSubclass, "AcDbSymbolTable");
+        head += style.number(group::kFlags, 0);
     }
-    TagList tags = m_data.tagList(head);
-    tags.setInteger(tags.find(70, 0, tags.size()), records);
-    journal.insert(spot.at, spot.first, tags.bytes());
-    journal.insert(spot.at, spot.first + kTableSpan - 1, style.tag(0, "ENDTAB"));
+    TagList tags = m_file.tagList(head);
+    tags.setInteger(findOwn(tags, group::kFlags), m_file.state().recordsAdded[kind]);
+    journal.insert(at, first, tags.bytes());
+    journal.insert(at, first + kTableSpan - 1, style.tag(group::kType, "ENDTAB"));
 }
 
-void SymbolTables::addLayerRecord(LayerEntry& entry)
+SymbolTables::NewRecord SymbolTables::begin(TableKind kind)
 {
-    const Spot spot = this->spot(TableKind::Layer);
-    countRecords(spot, TableKind::Layer, ++m_data.state.layerRecordsAdded);
-    NewLayerRecord plan;
-    plan.limits = m_data.limits;
-    plan.style = spot.style;
-    plan.handle = takeHandle();
-    plan.owner = plan.handle != 0 ? tableHandle(TableKind::Layer) : 0;
-    // What layer 0 has of these is what the drawing's other layers have.
-    const LayerEntry& model = m_data.layers.entry(m_data.layers.find(QStringLiteral("0"))->id);
-    if (model.hasRecord && model.place.order == EditPlace::kReplacement) {
-        const LayerRecord zero = LayerRecordReader(m_data.codec).read(m_data.tags(model.range()));
-        plan.plotStyle = zero.plotStyle;
-        plan.material = zero.material;
+    count(kind, 1);
+    const TagStyle style = this->style(kind);
+    const TableNames& names = namesOf(kind);
+    NewRecord made{m_file.takeHandle(), style.tag(group::kType, names.table)};
+    if (made.handle == 0)
+        return made;
+    made.head += style.handle(group::kHandle, made.handle);
+    if (const quint64 owner = handle(kind))
+        made.head += style.handle(group::kSoftPointer, owner);
+    made.head += style.tag(group::kSubclass, "AcDbSymbolTableRecord") +
+                 style.tag(group::kSubclass, names.record);
+    return made;
+}
+
+quint64 SymbolTables::add(TableKind kind, const std::vector<TextTag>& tags)
+{
+    const TagStyle style = this->style(kind);
+    NewRecord made = begin(kind);
+    for (const TextTag& tag : tags) {
+        const bool isFlag = tag.code >= 60 && tag.code <= 79;
+        made.head += isFlag ? style.number(tag.code, tag.value.toLongLong())
+                            : style.tag(tag.code, m_file.encoded(tag.value));
     }
-    entry.hasRecord = true;
-    entry.handle = plan.handle;
-    entry.plotStyle = plan.plotStyle;
-    entry.place = {spot.at, spot.first + 1 + m_data.state.recordsMade++};
-    entry.end = spot.at;
-    m_data.journal.insert(
-        spot.at, entry.place.order, newLayerRecord(plan, entry.layer.properties, m_data.codec));
+    insert(kind, made.head);
+    return made.handle;
 }
 
-void SymbolTables::removeLayerRecord(const LayerEntry& entry)
+/// The head may have been edited besides: it is not replaced as a whole.
+void SymbolTables::linkExtension(TableKind kind, quint64 dictionary)
 {
-    if (!entry.hasRecord)
-        return;
-    if (entry.place.order == EditPlace::kReplacement)
-        m_data.journal.replace(entry.range(), {});
-    else
-        m_data.journal.removeInsertion(entry.place.begin, entry.place.order);
-    countRecords(spot(TableKind::Layer), TableKind::Layer, --m_data.state.layerRecordsAdded);
-}
-
-QByteArray SymbolTables::layerRecord(const LayerEntry& entry) const
-{
-    return entry.place.order == EditPlace::kReplacement
-               ? m_data.journal.current(entry.range())
-               : m_data.journal.inserted(entry.place.begin, entry.place.order);
-}
-
-void SymbolTables::setLayerRecord(const LayerEntry& entry, const QByteArray& record)
-{
-    if (entry.place.order == EditPlace::kReplacement)
-        m_data.journal.replace(entry.range(), record);
-    else
-        m_data.journal.insert(entry.place.begin, entry.place.order, record);
+    const TagStyle style = this->style(kind);
+    OwnTags all(m_file.tags(m_file.table(kind).head));
+    qint64 behind = -1;
+    Tag tag;
+    while (all.nextOfAll(tag)) {
+        if (all.place().group() == kExtensionGroup && tag.code == group::kHardOwner) {
+            m_file.journal().replace(
+                tag.valueRange(), style.value(tag.code, handleText(dictionary)));
+            return;
+        }
+        if (tag.code == group::kHandle || (tag.code == group::kName && behind < 0))
+            behind = tag.end();
+    }
+    m_file.journal().insert(behind, kNewExtension,
+        style.tag(group::kBrace, kExtensionGroup) + style.handle(group::kHardOwner, dictionary) +
+            style.tag(group::kBrace, "}"));
 }
 
 void SymbolTables::needAppId(const QString& name)
 {
-    const QString key = name.toCaseFolded();
-    if (m_data.appIds.contains(key) || m_data.state.newAppIds.contains(key))
+    const QString key = foldedName(name);
+    QSet<QString>& added = m_file.state().newAppIds;
+    if (m_appIds.contains(key) || added.contains(key))
         return;
-    m_data.state.newAppIds.insert(key);
-    addRecord(
-        TableKind::AppId, m_data.state.newAppIds.size(), {{2, name}, {70, QStringLiteral("0")}});
-}
-
-quint64 SymbolTables::addRecord(TableKind kind, int added, const std::vector<TextTag>& tags)
-{
-    const Spot spot = this->spot(kind);
-    const TagStyle& style = spot.style;
-    const TableNames& names = namesOf(kind);
-    countRecords(spot, kind, added);
-    QByteArray record = style.tag(0, names.table);
-    const quint64 handle = takeHandle();
-    if (handle != 0) {
-        record += style.handle(5, handle);
-        if (const quint64 owner = tableHandle(kind))
-            record += style.handle(330, owner);
-        record += style.tag(100, "AcDbSymbolTableRecord") + style.tag(100, names.record);
-    }
-    for (const TextTag& tag : tags) {
-        const bool isFlag = tag.code >= 60 && tag.code <= 79;
-        record += isFlag ? style.number(tag.code, tag.value.toLongLong())
-                         : style.tag(tag.code, m_data.codec.encode(tag.value));
-    }
-    m_data.journal.insert(spot.at, spot.first + static_cast<quint32>(added), record);
-    return handle;
+    added.insert(key);
+    add(TableKind::AppId, {{group::kName, name}, {group::kFlags, QStringLiteral("0")}});
 }
 
 } // namespace drawing

@@ -1,47 +1,62 @@
 #pragma once
 
-#include "drawingdata.h"
+#include "editjournal.h"
+#include "fileindex.h"
+#include "tagstyle.h"
+#include "texttag.h"
+
+#include <QSet>
+#include <QString>
+
+#include <vector>
 
 namespace drawing {
 
-/// Adds and removes records of the TABLES section, and what goes with them: handles, the handle
-/// seed, the tables' counts. A table or section that is missing is made.
+class DrawingFile;
+
+/// Adds and removes records of the TABLES section, and what goes with them: handles and the tables'
+/// counts. A table or section that is missing is made.
 class SymbolTables
 {
 public:
-    explicit SymbolTables(DrawingData& data) : m_data(data) {}
+    explicit SymbolTables(DrawingFile& file) : m_file(file) {}
+    /// Looks at what the file has.
+    void load();
 
-    /// Adds a record for `entry`, filling in its place and handle.
-    void addLayerRecord(LayerEntry& entry);
-    void removeLayerRecord(const LayerEntry& entry);
-    /// The bytes of the layer's record as edited so far.
-    QByteArray layerRecord(const LayerEntry& entry) const;
-    void setLayerRecord(const LayerEntry& entry, const QByteArray& record);
+    /// How a section is written.
+    TagStyle sectionStyle() const;
+    /// How the records of a table are written.
+    TagStyle style(TableKind kind) const;
+    /// 0 for a table without a handle, and for none.
+    quint64 handle(TableKind kind) const;
+    /// The name of a record in the file.
+    QString nameOf(const ByteRange& record) const;
 
-    /// Adds a record with these tags behind its head to a table other than the layers'. `added`
-    /// tells how many that makes since the file was read. Returns its handle; 0 in formats without.
-    quint64 addRecord(TableKind kind, int added, const std::vector<TextTag>& tags);
+    /// What a new record begins with, its handle among it; it is counted in.
+    struct NewRecord
+    {
+        quint64 handle = 0; ///< 0 in formats without.
+        QByteArray head;
+    };
+    NewRecord begin(TableKind kind);
+    /// Puts a record behind those of its table.
+    EditPlace insert(TableKind kind, const QByteArray& record);
+    /// Counts a record out that was taken out of its table.
+    void countOut(TableKind kind) { count(kind, -1); }
+    /// Adds a record with these tags behind its head. Returns its handle; 0 in formats without.
+    quint64 add(TableKind kind, const std::vector<TextTag>& tags);
     /// Lists an XDATA application, where it is not listed yet.
     void needAppId(const QString& name);
-    /// Writes the current layer's name to the header.
-    void writeCurrentLayer();
-    /// Writes whether model space or a layout is shown to the header.
-    void writeTileMode();
-
-    /// A handle for a new object, and the seed behind it; 0 in formats without handles.
-    quint64 takeHandle();
-    /// 0 for a table without a handle.
-    quint64 tableHandle(TableKind kind) const;
+    /// Writes the handle of an extension dictionary into the head of a table.
+    void linkExtension(TableKind kind, quint64 dictionary);
 
 private:
-    struct Spot;
+    qint64 place(TableKind kind) const;
+    void count(TableKind kind, int added);
+    void makeFrame(TableKind kind);
 
-    Spot spot(TableKind kind) const;
-    void countRecords(const Spot& spot, TableKind kind, int added);
-    void makeFrame(const Spot& spot, TableKind kind, int records);
-    void writeHeader(std::string_view name, HeaderVariable which, int code, const QByteArray& text);
-
-    DrawingData& m_data;
+    DrawingFile& m_file;
+    QSet<QString> m_appIds; ///< Folded names.
 };
 
 } // namespace drawing

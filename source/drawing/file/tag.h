@@ -70,4 +70,13 @@ struct Tag
 /// `text` without blanks and tabs around it.
 std::string_view trimmedView(std::string_view text);
 
+inline std::string_view viewOf(const QByteArray& bytes)
+{
+    return {bytes.constData(), static_cast<size_t>(bytes.size())};
+}
+inline QByteArray bytesOf(std::string_view view)
+{
+    return {view.data(), static_cast<int>(view.size())};
+}
+
 } // namespace drawing

@@ -4,17 +4,8 @@
 
 namespace drawing {
 
-namespace {
-
-std::string_view view(const QByteArray& bytes)
-{
-    return {bytes.constData(), static_cast<size_t>(bytes.size())};
-}
-
-} // namespace
-
 TagList::TagList(const QByteArray& bytes, Spelling spelling)
-    : m_style(TagStyle::of(view(bytes), spelling))
+    : m_style(TagStyle::of(viewOf(bytes), spelling))
 {
     TagReader reader(bytes, spelling);
     Tag tag;

@@ -20,11 +20,7 @@ public:
     {
     }
 
-    TagReader(const QByteArray& bytes, Spelling spelling)
-        : TagReader(
-              std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())), 0, spelling)
-    {
-    }
+    TagReader(const QByteArray& bytes, Spelling spelling) : TagReader(viewOf(bytes), 0, spelling) {}
 
     /// Reads the next tag; false, with `tag` untouched, when there is none.
     bool next(Tag& tag) { return read(tag) == ScanResult::Tag; }

@@ -1,14 +1,15 @@
 #include "geometrytags.h"
 
+#include "owntags.h"
+
 namespace drawing {
 
-void EntityTags::load(TagReader reader)
+void EntityTags::load(const TagReader& reader)
 {
-    constexpr int kExtendedData = 1000;
-    constexpr int kEmbeddedObject = 101;
     m_tags.clear();
+    OwnTags own(reader);
     Tag tag;
-    while (reader.next(tag) && tag.code < kExtendedData && tag.code != kEmbeddedObject)
+    while (own.next(tag))
         m_tags.push_back(tag);
 }
 

@@ -8,12 +8,11 @@
 
 namespace drawing {
 
-/// The tags of one entity, looked up by code. Extended data and embedded objects are left out: they
-/// use the same codes for other things.
+/// The own tags of one entity, looked up by code.
 class EntityTags
 {
 public:
-    void load(TagReader reader);
+    void load(const TagReader& reader);
 
     std::string_view type() const;   ///< What the `0` group says.
     const Tag* find(int code) const; ///< The first of that code.

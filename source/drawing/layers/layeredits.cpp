@@ -1,8 +1,8 @@
 #include "layeredits.h"
 
 #include "drawingtexts.h"
-#include "layerrecordedit.h"
-#include "symboltables.h"
+#include "layerrecord.h"
+#include "symbolname.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,19 +11,7 @@ namespace drawing {
 
 namespace {
 
-constexpr int kLongestName = 255;
 constexpr int kLongestDescription = 255;
-
-tl::unexpected<Error> refusal(const QString& text)
-{
-    return tl::make_unexpected(Error{text, 0, false});
-}
-
-bool mayStandInName(QChar c)
-{
-    const QLatin1String never("\\<>/\":;?*|,=`");
-    return c.unicode() >= 0x20 && c.unicode() != 0x7f && !QString(never).contains(c);
-}
 
 /// What the record says, as far as it is not known from the name alone.
 LayerProperties stored(LayerProperties before, const LayerProperties& after)
@@ -47,15 +35,10 @@ QString oneLine(QString text)
 
 Expected<void> LayerEdits::checkName(const QString& name, LayerId own) const
 {
-    if (name.isEmpty())
-        return refusal(Texts::tr("图层名不能为空。"));
-    if (name.size() > kLongestName)
-        return refusal(Texts::tr("图层名“%1…”超过 255 个字符。").arg(name.left(20)));
-    if (!std::all_of(name.begin(), name.end(), mayStandInName))
-        return refusal(
-            Texts::tr("图层名“%1”含有不能使用的字符：\\ < > / \" : ; ? * | , = ` 或控制字符。")
-                .arg(name));
-    const Layer* other = m_data.layers.find(name);
+    const QString fault = nameRefusal(name, Texts::tr("图层名"), m_file.limits());
+    if (!fault.isEmpty())
+        return refusal(fault);
+    const Layer* other = m_layers.find(name);
     if (other && other->id != own)
         return refusal(Texts::tr("已有名为“%1”的图层。").arg(other->properties.name));
     return {};
@@ -103,13 +86,13 @@ Expected<LayerProperties> LayerEdits::settled(
     after.name = wanted.name.trimmed();
     after.description = oneLine(wanted.description);
     after.plotted = wanted.plotted && !isNeverPlotted(after.name);
-    const QString key = wanted.linetype.trimmed().toCaseFolded();
+    const QString linetype = wanted.linetype.trimmed();
     const QString continuous = QStringLiteral("Continuous");
-    if (key == before.linetype.toCaseFolded())
+    if (isSameName(linetype, before.linetype))
         after.linetype = before.linetype;
-    else if (const QString known = m_data.linetypeName(key); !known.isNull())
+    else if (const QString known = m_linetypes.spelled(linetype); !known.isNull())
         after.linetype = known;
-    else if (key == continuous.toCaseFolded())
+    else if (isSameName(linetype, continuous))
         after.linetype = continuous;
     else
         return refusal(
@@ -122,12 +105,12 @@ Expected<LayerProperties> LayerEdits::settled(
 /// Older formats lack some groups: what they would hold stays as it was, and a notice says so.
 void LayerEdits::dropUnsupported(const LayerProperties& before, LayerProperties& after)
 {
-    const LayerRecordLimits& limits = m_data.limits;
+    const FormatLimits& limits = m_file.limits();
     const auto drop = [&](bool isStored, auto LayerProperties::*member, LeftOut::Kind kind) {
         if (isStored || after.*member == before.*member)
             return;
         after.*member = before.*member;
-        m_data.leftOut.note(kind, after.name);
+        m_leftOut.note(kind, after.name);
     };
     drop(limits.plotFlag, &LayerProperties::plotted, LeftOut::PlotFlag);
     drop(limits.lineweight, &LayerProperties::lineweight, LeftOut::Lineweight);
@@ -136,31 +119,18 @@ void LayerEdits::dropUnsupported(const LayerProperties& before, LayerProperties&
 
 void LayerEdits::needApplications(const LayerProperties& before, const LayerProperties& after)
 {
-    SymbolTables tables(m_data);
+    SymbolTables& tables = m_file.tables();
     if (before.transparency != after.transparency)
         tables.needAppId(QLatin1String(kTransparencyApp));
     if (before.description != after.description)
         tables.needAppId(QLatin1String(kStandardApp));
 }
 
-/// The handle of a named plot style; what the layer has where styles go by colour, and where there
-/// is none of that name.
-quint64 LayerEdits::plotStyleHandle(const LayerEntry& entry, const QString& wanted) const
-{
-    if (m_data.plotStylesByColor)
-        return entry.plotStyle;
-    const auto& styles = m_data.plotStyles;
-    const auto found = std::find_if(styles.begin(), styles.end(),
-        [&wanted](const QString& name) { return name.compare(wanted, Qt::CaseInsensitive) == 0; });
-    const bool isKept = found == styles.end() || *found == styles.value(entry.plotStyle);
-    return isKept ? entry.plotStyle : found.key();
-}
-
 Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& properties)
 {
-    if (!m_data.layers.layer(id))
+    if (!m_layers.layer(id))
         return refusal(Texts::tr("图层“%1”已不存在。").arg(properties.name));
-    LayerEntry entry = m_data.layers.entry(id);
+    LayerEntry entry = m_layers.entry(id);
     const LayerProperties before = entry.layer.properties;
     auto wanted = settled(before, properties);
     if (!wanted)
@@ -172,23 +142,22 @@ Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& prop
     }
     dropUnsupported(before, after);
     const quint64 oldStyle =
-        std::exchange(entry.plotStyle, plotStyleHandle(entry, after.plotStyle));
-    after.plotStyle = m_data.plotStyleName(after.colorIndex, entry.plotStyle);
+        std::exchange(entry.plotStyle, m_plotStyles.handle(after.plotStyle, entry.plotStyle));
+    after.plotStyle = m_plotStyles.name(after.colorIndex, entry.plotStyle);
     if (after == before)
         return {};
     needApplications(before, after);
     entry.layer.properties = after;
-    SymbolTables tables(m_data);
     if (!entry.hasRecord) {
-        tables.addLayerRecord(entry);
+        m_records.add(entry);
     } else {
-        const QByteArray record = editedLayerRecord(
-            m_data.tagList(tables.layerRecord(entry)), stored(before, after), after, m_data.codec);
-        tables.setLayerRecord(entry, entry.plotStyle == oldStyle
-                                         ? record
-                                         : withPlotStyle(m_data.tagList(record), entry.plotStyle));
+        const QByteArray record =
+            editedLayerRecord(m_records.tags(entry), stored(before, after), after, m_file.codec());
+        m_records.store(entry, entry.plotStyle == oldStyle
+                                   ? record
+                                   : withPlotStyle(m_file.tagList(record), entry.plotStyle));
     }
-    m_data.layers.change(id, entry);
+    m_layers.change(id, entry);
     return {};
 }
 
@@ -203,40 +172,83 @@ Expected<LayerId> LayerEdits::add(const LayerProperties& properties)
     entry.layer.properties = *wanted;
     dropUnsupported({}, entry.layer.properties);
     needApplications({}, entry.layer.properties);
-    SymbolTables(m_data).addLayerRecord(entry);
+    m_records.add(entry);
     LayerProperties& p = entry.layer.properties;
-    p.plotStyle = m_data.plotStyleName(p.colorIndex, entry.plotStyle);
-    return m_data.layers.add(entry);
+    p.plotStyle = m_plotStyles.name(p.colorIndex, entry.plotStyle);
+    return m_layers.add(entry);
 }
 
-Expected<void> LayerEdits::remove(LayerId id)
+Expected<void> LayerEdits::checkTarget(LayerId target) const
 {
-    const Layer* layer = m_data.layers.layer(id);
+    const Layer* layer = m_layers.layer(target);
+    if (!layer)
+        return refusal(Texts::tr("目标图层已不存在。"));
+    if (layer->dependsOnReference)
+        return refusal(
+            Texts::tr("图层“%1”依赖外部参照，不能作为目标图层。").arg(layer->properties.name));
+    return {};
+}
+
+/// Layer 0 and the current layer stay.
+Expected<void> LayerEdits::checkLeaving(LayerId id) const
+{
+    const Layer* layer = m_layers.layer(id);
     if (!layer)
         return refusal(Texts::tr("图层已不存在。"));
     const QString& name = layer->properties.name;
     if (name == QLatin1String("0"))
         return refusal(Texts::tr("图层“0”不能删除。"));
-    if (id == m_data.state.current)
+    if (id == m_layers.current())
         return refusal(Texts::tr("当前图层“%1”不能删除。").arg(name));
-    if (layer->used())
-        return refusal(
-            Texts::tr("图层“%1”上有 %2 个对象，不能删除。").arg(name).arg(layer->entityCount));
-    LayerEntry entry = m_data.layers.entry(id);
-    SymbolTables(m_data).removeLayerRecord(entry);
-    entry.present = false;
-    m_data.layers.change(id, entry);
     return {};
+}
+
+Expected<void> LayerEdits::checkLeaving(const std::vector<LayerId>& layers) const
+{
+    for (const LayerId id : layers) {
+        if (auto checked = checkLeaving(id); !checked)
+            return checked;
+        const Layer* layer = m_layers.layer(id);
+        if (layer->dependsOnReference)
+            return refusal(
+                Texts::tr("图层“%1”依赖外部参照，不能删除。").arg(layer->properties.name));
+    }
+    return {};
+}
+
+Expected<void> LayerEdits::remove(LayerId id)
+{
+    if (auto checked = checkLeaving(id); !checked)
+        return checked;
+    const Layer* layer = m_layers.layer(id);
+    if (layer->used())
+        return refusal(Texts::tr("图层“%1”上有 %2 个对象，不能删除。")
+                           .arg(layer->properties.name)
+                           .arg(layer->entityCount));
+    drop(id, LayerId::None);
+    return {};
+}
+
+void LayerEdits::drop(LayerId layer, LayerId heir)
+{
+    LayerEntry entry = m_layers.entry(layer);
+    if (!entry.present)
+        return; // Named twice.
+    m_records.remove(entry);
+    entry.present = false;
+    entry.heir = heir;
+    m_layers.change(layer, entry);
 }
 
 Expected<void> LayerEdits::setCurrent(LayerId id)
 {
-    if (!m_data.layers.layer(id))
+    if (!m_layers.layer(id))
         return refusal(Texts::tr("图层已不存在。"));
-    if (id == m_data.state.current)
+    if (id == m_layers.current())
         return {};
-    m_data.state.current = id;
-    SymbolTables(m_data).writeCurrentLayer();
+    m_layers.setCurrent(id);
+    m_file.writeVariable(
+        HeaderVariable::CurrentLayer, m_file.encoded(m_layers.layer(id)->properties.name));
     return {};
 }
 

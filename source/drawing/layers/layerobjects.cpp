@@ -1,10 +1,9 @@
 #include "layerobjects.h"
 
-#include "dxfnames.h"
-#include "handles.h"
-#include "layerstates.h"
-#include "objectedits.h"
-#include "taglist.h"
+#include "groupcode.h"
+#include "layerfilters.h"
+#include "owntags.h"
+#include "symbolname.h"
 
 #include <unordered_set>
 
@@ -12,230 +11,223 @@ namespace drawing {
 
 namespace {
 
-/// Where an XRECORD's own data begin.
-int dataBegin(const TagList& tags)
+// Groups of LAYER_INDEX and of filters.
+constexpr int kEntityCount = 90;
+constexpr int kText = 1; ///< Of filters: what they are, or their name and patterns.
+constexpr int kExpression = 301;
+
+/// A layer in a list or index, from its name to the next.
+struct ListedLayer
 {
-    const int marker = tags.find(100, 0, tags.size());
-    return marker == TagList::kNone ? tags.size() : marker + 1;
-}
-
-class ObjectUpdate
-{
-public:
-    ObjectUpdate(DrawingData& data, const LayerRenames& renames) : m_data(data), m_renames(renames)
-    {
-    }
-
-    void run();
-
-private:
-    using Rewrite = void (ObjectUpdate::*)(TagList&) const;
-
-    void rewrite(const ObjectPlace& object, Rewrite how) const;
-    void rewriteAll(const ObjectPlace* dictionary, Rewrite how) const;
-    void rewriteList(TagList& tags) const;
-    void rewriteState(TagList& tags) const;
-    void rewriteFilter(TagList& tags) const;
-    void rewriteGroup(TagList& tags) const;
-    QString keyAt(const TagList& tags, int at) const;
-    bool renameAt(TagList& tags, int at) const;
-    QString renamedPattern(const QString& pattern) const;
-    void forgetAt(TagList& tags, int at) const;
-    bool isRemoved(const TagList& tags, int at) const;
-
-    DrawingData& m_data;
-    const LayerRenames& m_renames;
+    int begin = 0;
+    int end = 0;
+    QString key;
+    int buffer = TagList::kNone; ///< The tag that owns the index of its entities.
+    int count = TagList::kNone;
 };
 
-void ObjectUpdate::run()
+std::vector<ListedLayer> listedLayers(const TagList& tags, const TextCodec& codec)
 {
-    for (const ObjectPlace& object : m_data.index.objects) {
-        if (object.kind == ObjectKind::LayerList)
-            rewrite(object, &ObjectUpdate::rewriteList);
-    }
-    const TablePlace& table = m_data.index.table(TableKind::Layer);
-    const quint64 handle = extensionDictionary(m_data.tags(table.head));
-    const ObjectPlace* extension = handle != 0 ? m_data.objectByHandle(handle) : nullptr;
-    LayerStates(m_data).rewrite([this](TagList& tags) { rewriteState(tags); });
-    rewriteAll(
-        dictionaryEntry(m_data, extension, "ACAD_LAYERFILTERS"), &ObjectUpdate::rewriteFilter);
-    rewriteAll(dictionaryEntry(m_data, extension, "ACLYDICTIONARY"), &ObjectUpdate::rewriteGroup);
-}
-
-void ObjectUpdate::rewriteAll(const ObjectPlace* dictionary, Rewrite how) const
-{
-    for (const ObjectPlace* object : dictionaryObjects(m_data, dictionary)) {
-        if (object->kind == ObjectKind::XRecord)
-            rewrite(*object, how);
-    }
-}
-
-void ObjectUpdate::rewrite(const ObjectPlace& object, Rewrite how) const
-{
-    const QByteArray before = m_data.journal.current(object.range);
-    TagList tags = m_data.tagList(before);
-    (this->*how)(tags);
-    const QByteArray after = tags.bytes();
-    if (after != before)
-        m_data.journal.replace(object.range, after);
-}
-
-/// The name at this tag as a key.
-QString ObjectUpdate::keyAt(const TagList& tags, int at) const
-{
-    return m_data.codec.decode(tags.trimmed(at)).toCaseFolded();
-}
-
-bool ObjectUpdate::renameAt(TagList& tags, int at) const
-{
-    const auto renamed = m_renames.newNames.constFind(keyAt(tags, at));
-    if (renamed == m_renames.newNames.constEnd())
-        return false;
-    tags.setText(at, m_data.codec.encode(*renamed));
-    return true;
-}
-
-/// The current layer of a state may not be one that is gone: its heir takes its place, or layer 0.
-void ObjectUpdate::forgetAt(TagList& tags, int at) const
-{
-    const QString key = keyAt(tags, at);
-    if (m_renames.removedNames.contains(key))
-        tags.setText(at, m_data.codec.encode(m_renames.heirs.value(key, QStringLiteral("0"))));
-}
-
-/// The new name of a layer as a pattern, where `pattern` is a name and that layer got a new one or
-/// was merged.
-QString ObjectUpdate::renamedPattern(const QString& pattern) const
-{
-    const QLatin1Char escape('`');
-    const QString name = QString(pattern).remove(escape);
-    const QString key = name.toCaseFolded();
-    const QString renamed = m_renames.newNames.value(key, m_renames.heirs.value(key));
-    QString escaped;
-    for (const QChar c : renamed) {
-        if (QStringLiteral("#@[]~").contains(c))
-            escaped += escape;
-        escaped += c;
-    }
-    return escaped;
-}
-
-bool ObjectUpdate::isRemoved(const TagList& tags, int at) const
-{
-    if (tags.code(at) == 330)
-        return m_renames.removedHandles.contains(tags.handle(at));
-    return tags.code(at) == 8 && m_renames.removedNames.contains(keyAt(tags, at));
-}
-
-/// A list of layers: what belongs to one runs from its name to the next name. An heir that is not
-/// listed itself takes the place of a merged layer.
-void ObjectUpdate::rewriteList(TagList& tags) const
-{
-    std::vector<int> keep;
-    QSet<QString> listed;
-    for (int at = 0; at < tags.size(); ++at) {
-        if (tags.code(at) == 8)
-            listed.insert(keyAt(tags, at));
-    }
-    bool isKept = true;
+    std::vector<ListedLayer> listed;
     for (int at = 0; at < tags.size(); ++at) {
         const int code = tags.code(at);
-        if (code == 8) {
-            const QString key = keyAt(tags, at);
-            const QString heir = m_renames.heirs.value(key).toCaseFolded();
-            isKept = !m_renames.removedNames.contains(key) ||
-                     (!heir.isEmpty() && !listed.contains(heir));
-            if (isKept && !renameAt(tags, at))
-                forgetAt(tags, at);
-            listed.insert(heir);
-        }
-        isKept = isKept || code == 100 || code == 1001;
-        if (isKept)
-            keep.push_back(at);
-        else if (code == 360)
-            removeOwnedObjects(m_data, tags.handle(at));
-    }
-    tags.keepOnly(keep);
-}
-
-/// A layer state: a layer's tags run from its handle or name to the next layer's.
-void ObjectUpdate::rewriteState(TagList& tags) const
-{
-    std::vector<int> keep;
-    bool isKept = true;
-    const int begin = dataBegin(tags);
-    for (int at = 0; at < tags.size(); ++at) {
-        const bool isData = at >= begin;
-        const int code = tags.code(at);
-        if (isData && (code == 8 || code == 330 || code == 1001))
-            isKept = code == 1001 || !isRemoved(tags, at);
-        if (isKept && isData && (code == 8 || code == 302) && !renameAt(tags, at) && code == 302)
-            forgetAt(tags, at);
-        if (isKept)
-            keep.push_back(at);
-    }
-    tags.keepOnly(keep);
-}
-
-/// A filter of the older kind: its own name, then the pattern of layer names.
-void ObjectUpdate::rewriteFilter(TagList& tags) const
-{
-    const int own = tags.find(1, dataBegin(tags), tags.size());
-    const int pattern = own == TagList::kNone ? own : tags.find(1, own + 1, tags.size());
-    if (pattern == TagList::kNone)
-        return;
-    const QString renamed = renamedPattern(m_data.codec.decode(tags.trimmed(pattern)));
-    if (!renamed.isEmpty())
-        tags.setText(pattern, m_data.codec.encode(renamed));
-}
-
-/// A filter of the newer kind: a group lists handles, a filter compares names in its
-/// expression.
-void ObjectUpdate::rewriteGroup(TagList& tags) const
-{
-    std::vector<int> keep;
-    const int begin = dataBegin(tags);
-    for (int at = 0; at < tags.size(); ++at) {
-        if (at < begin || tags.code(at) != 330 || !isRemoved(tags, at))
-            keep.push_back(at);
-        if (at < begin || tags.code(at) != 301)
+        if (code == group::kSubclass || code >= group::kXdata)
             continue;
-        QString expression = m_data.codec.decode(tags.text(at));
-        const int name = expression.indexOf(QLatin1String("NAME==\""), 0, Qt::CaseInsensitive);
-        const int from = name + 7;
-        const int to = name < 0 ? -1 : expression.indexOf(QLatin1Char('"'), from);
-        const QString renamed =
-            to < 0 ? QString() : renamedPattern(expression.mid(from, to - from));
-        if (!renamed.isEmpty())
-            tags.setText(at, m_data.codec.encode(expression.replace(from, to - from, renamed)));
+        if (code == group::kLayer)
+            listed.push_back({at, at + 1, foldedName(codec.decode(tags.trimmed(at)))});
+        if (listed.empty() || (listed.back().end != at && code != group::kLayer))
+            continue;
+        ListedLayer& layer = listed.back();
+        layer.end = at + 1;
+        if (code == group::kHardOwner)
+            layer.buffer = at;
+        else if (code == kEntityCount)
+            layer.count = at;
     }
-    tags.keepOnly(keep);
+    return listed;
 }
 
 } // namespace
 
-void updateLayerObjects(DrawingData& data, const LayerRenames& renames)
+QSet<quint64> LayerObjects::follow(const LayerFates& fates)
 {
-    ObjectUpdate(data, renames).run();
+    for (const ObjectPlace& object : m_file.index().objects) {
+        if (object.kind == ObjectKind::LayerList)
+            rewrite(object.handle, [&](TagList& tags) { followList(tags, fates); });
+    }
+    for (const LayerEntry& removed : fates.removed())
+        m_file.objects().eraseOwned(removed.extension);
+    return followFilters(fates);
 }
 
-void removeOwnedObjects(DrawingData& data, quint64 handle)
+void LayerObjects::rewrite(quint64 handle, const std::function<void(TagList&)>& change)
 {
-    ObjectEdits objects(data);
-    std::unordered_set<quint64> seen;
-    std::vector<quint64> open = {handle};
+    TagList tags = m_file.objects().tags(handle);
+    const QByteArray before = tags.bytes();
+    change(tags);
+    const QByteArray after = tags.bytes();
+    if (after != before)
+        m_file.objects().store(handle, after);
+}
+
+void LayerObjects::setText(TagList& tags, int at, const QString& text) const
+{
+    if (text != m_file.decoded(tags.text(at)))
+        tags.setText(at, m_file.encoded(text));
+}
+
+/// A layer's heir takes its place, unless it is listed itself: then its index takes in what was on
+/// the other.
+void LayerObjects::followList(TagList& tags, const LayerFates& fates)
+{
+    const std::vector<ListedLayer> listed = listedLayers(tags, m_file.codec());
+    QHash<QString, const ListedLayer*> byName;
+    for (const ListedLayer& layer : listed)
+        byName.insert(layer.key, &layer);
+    std::vector<char> isDropped(static_cast<size_t>(tags.size()));
+    for (const ListedLayer& layer : listed) {
+        if (const QString name = fates.newName(layer.key); !name.isNull()) {
+            setText(tags, layer.begin, name);
+            continue;
+        }
+        if (!fates.isRemoved(layer.key))
+            continue;
+        const QString heir = fates.heir(layer.key);
+        const ListedLayer* const other = byName.value(foldedName(heir));
+        if (!heir.isNull() && !other) {
+            setText(tags, layer.begin, heir);
+            byName.insert(foldedName(heir), &layer);
+            continue;
+        }
+        if (other && layer.buffer != TagList::kNone && other->buffer != TagList::kNone)
+            joinBuffers(tags.handle(layer.buffer), tags.handle(other->buffer));
+        if (other && layer.count != TagList::kNone && other->count != TagList::kNone)
+            tags.setInteger(other->count, tags.integer(other->count) + tags.integer(layer.count));
+        if (layer.buffer != TagList::kNone)
+            m_file.objects().eraseOwned(tags.handle(layer.buffer));
+        std::fill(isDropped.begin() + layer.begin, isDropped.begin() + layer.end, true);
+    }
+    std::vector<int> kept;
+    for (int at = 0; at < tags.size(); ++at) {
+        if (!isDropped[static_cast<size_t>(at)])
+            kept.push_back(at);
+    }
+    tags.keepOnly(kept);
+}
+
+/// Appends the handles that one index of entities lists to another.
+void LayerObjects::joinBuffers(quint64 from, quint64 to)
+{
+    const TagList source = m_file.objects().tags(from);
+    rewrite(to, [&source](TagList& target) {
+        int at = target.find(group::kApplication, 0, target.size());
+        at = at == TagList::kNone ? target.size() : at;
+        const int data = source.find(group::kSubclass, 0, source.size());
+        for (int i = data + 1; data != TagList::kNone && i < source.size(); ++i) {
+            if (source.code(i) == group::kSoftPointer)
+                target.insert(at++, target.style().handle(group::kSoftPointer, source.handle(i)));
+        }
+    });
+}
+
+/// The newer filters may hold others: in their extension dictionaries, at once or in a dictionary
+/// there.
+QSet<quint64> LayerObjects::followFilters(const LayerFates& fates)
+{
+    Objects& objects = m_file.objects();
+    const quint64 extension = extensionOf(m_file.tags(m_file.table(TableKind::Layer).head));
+    const quint64 old = objects.entry(extension, "ACAD_LAYERFILTERS");
+    QSet<quint64> seen;
+    for (const Dictionary::Entry& entry : objects.dictionary(old).entries()) {
+        if (objects.kind(entry.object) != ObjectKind::XRecord)
+            continue;
+        rewrite(entry.object, [&](TagList& tags) { followOldFilter(tags, fates); });
+        seen.insert(entry.object);
+    }
+    std::vector<quint64> open = {objects.entry(extension, "ACLYDICTIONARY")};
     while (!open.empty()) {
         const quint64 next = open.back();
         open.pop_back();
-        const TagList tags = data.tagList(next != 0 ? objects.bytes(next) : QByteArray());
-        if (tags.size() == 0 || !seen.insert(next).second)
+        const ObjectPlace* object = objects.find(next);
+        if (!object || seen.contains(next))
             continue;
-        const bool isDictionary = objectKind(tags.trimmed(0)) == ObjectKind::Dictionary;
-        for (int at = 0; at < tags.size(); ++at) {
-            if (tags.code(at) == 360 || (tags.code(at) == 350 && isDictionary))
-                open.push_back(tags.handle(at));
+        seen.insert(next);
+        if (object->kind == ObjectKind::XRecord) {
+            rewrite(next, [&](TagList& tags) { followFilter(tags, fates); });
+            open.push_back(extensionOf(m_file.tags(object->range)));
+        } else if (object->kind == ObjectKind::Dictionary) {
+            for (const Dictionary::Entry& entry : objects.dictionary(next).entries())
+                open.push_back(entry.object);
         }
-        objects.erase(next);
+    }
+    return seen;
+}
+
+/// A filter of the older kind: its own name, then the pattern of layer names; an expression stands
+/// in its extended data.
+void LayerObjects::followOldFilter(TagList& tags, const LayerFates& fates) const
+{
+    const RecordData data(tags);
+    const int own = tags.find(kText, data.begin, data.end);
+    const int pattern = own == TagList::kNone ? own : tags.find(kText, own + 1, data.end);
+    if (pattern != TagList::kNone)
+        setText(tags, pattern, followedPattern(m_file.decoded(tags.text(pattern)), fates));
+    for (int at = data.end; at < tags.size(); ++at) {
+        if (tags.code(at) == group::kXdata)
+            setText(tags, at, followedExpression(m_file.decoded(tags.text(at)), fates));
+    }
+}
+
+/// A filter of the newer kind: a group lists handles, a filter compares names in its expression.
+void LayerObjects::followFilter(TagList& tags, const LayerFates& fates) const
+{
+    const RecordData data(tags);
+    const int kind = tags.find(kText, data.begin, data.end);
+    if (kind == TagList::kNone || tags.trimmed(kind).substr(0, 4) != "AcLy")
+        return;
+    std::unordered_set<quint64> listed;
+    for (int at = data.begin; at < data.end; ++at) {
+        if (tags.code(at) == group::kSoftPointer)
+            listed.insert(tags.handle(at));
+    }
+    std::vector<int> kept;
+    for (int at = 0; at < tags.size(); ++at) {
+        if (data.contains(at) && tags.code(at) == kExpression)
+            setText(tags, at, followedExpression(m_file.decoded(tags.text(at)), fates));
+        const bool isLayer = data.contains(at) && tags.code(at) == group::kSoftPointer;
+        if (isLayer && fates.isRemovedHandle(tags.handle(at))) {
+            const quint64 heir = fates.heirHandle(tags.handle(at));
+            if (heir == 0 || !listed.insert(heir).second)
+                continue;
+            tags.setHandle(at, heir);
+        }
+        kept.push_back(at);
+    }
+    tags.keepOnly(kept);
+}
+
+void noteOpaque(const DrawingFile& file, const LayerFates& fates, const QSet<quint64>& understood,
+    LeftOut& leftOut)
+{
+    const auto isText = [](int code) {
+        return (code >= 1 && code <= 9 && code != group::kHandle) || (code >= 300 && code <= 309) ||
+               code == group::kXdata;
+    };
+    for (const ObjectPlace& object : file.index().objects) {
+        const bool isOpaque =
+            object.kind == ObjectKind::XRecord || object.kind == ObjectKind::Proxy;
+        if (!isOpaque || understood.contains(object.handle))
+            continue;
+        const TagList tags = file.current(object.range);
+        for (int at = RecordData(tags).begin; at < tags.size(); ++at) {
+            if (group::isPointer(tags.code(at)) && fates.isRemovedHandle(tags.handle(at)))
+                leftOut.note(LeftOut::Opaque, fates.removedName(tags.handle(at)));
+            if (!isText(tags.code(at)))
+                continue;
+            const QString text = file.decoded(tags.trimmed(at));
+            if (fates.isRemoved(text) || !fates.newName(text).isNull())
+                leftOut.note(LeftOut::Opaque, text);
+        }
     }
 }
 

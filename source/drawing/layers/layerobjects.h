@@ -1,22 +1,39 @@
 #pragma once
 
-#include "drawingdata.h"
+#include "drawingfile.h"
+#include "layerfates.h"
+#include "leftout.h"
+
+#include <functional>
 
 namespace drawing {
 
-/// What happened to layers in a step, as the objects of a drawing need to know it.
-struct LayerRenames
+/// The objects of a drawing that name layers: filters of both kinds, lists and indices of layers,
+/// and what the layers themselves own.
+class LayerObjects
 {
-    QHash<QString, QString> newNames; ///< By the folded old name.
-    QSet<QString> removedNames;       ///< Folded.
-    QHash<QString, QString> heirs;    ///< Of merged layers: names by the folded old name.
-    QSet<quint64> removedHandles;
+public:
+    explicit LayerObjects(DrawingFile& file) : m_file(file) {}
+
+    /// Returns the handles of the records it understands, which need no notice.
+    QSet<quint64> follow(const LayerFates& fates);
+
+private:
+    void rewrite(quint64 handle, const std::function<void(TagList&)>& change);
+    void followList(TagList& tags, const LayerFates& fates);
+    QSet<quint64> followFilters(const LayerFates& fates);
+    void followOldFilter(TagList& tags, const LayerFates& fates) const;
+    void followFilter(TagList& tags, const LayerFates& fates) const;
+    void setText(TagList& tags, int at, const QString& text) const;
+    void joinBuffers(quint64 from, quint64 to);
+
+    DrawingFile& m_file;
 };
 
-/// Makes the objects that name layers follow: layer states, layer filters, lists of layers.
-void updateLayerObjects(DrawingData& data, const LayerRenames& renames);
-
-/// Takes out the object with this handle and all that it owns as a dictionary.
-void removeOwnedObjects(DrawingData& data, quint64 handle);
+/// Notes the layers that went or got another name and that objects still mention which nobody here
+/// understands: proxies, and records that applications keep. `understood` are handles of records
+/// that may go on naming layers. To be called when all else has followed.
+void noteOpaque(const DrawingFile& file, const LayerFates& fates, const QSet<quint64>& understood,
+    LeftOut& leftOut);
 
 } // namespace drawing

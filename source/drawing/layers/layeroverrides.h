@@ -1,9 +1,8 @@
 #pragma once
 
-#include "drawingdata.h"
-#include "layerstate.h"
-
-#include <optional>
+#include "layermask.h"
+#include "layerrecords.h"
+#include "linetypetable.h"
 
 namespace drawing {
 
@@ -12,7 +11,14 @@ namespace drawing {
 class LayerOverrides
 {
 public:
-    explicit LayerOverrides(DrawingData& data) : m_data(data) {}
+    LayerOverrides(DrawingFile& file, const LayerTable& layers, LayerRecords& records,
+        const LinetypeTable& linetypes)
+        : m_file(file),
+          m_layers(layers),
+          m_records(records),
+          m_linetypes(linetypes)
+    {
+    }
 
     /// The properties that can be overridden, as `LayerStateMask` bits.
     static constexpr int kProperties =
@@ -26,16 +32,13 @@ private:
     struct Row;
     static const Row kRows[];
 
-    QByteArray value(int property, const LayerProperties& shown);
-    quint64 linetypeHandle(const QString& name);
-    void write(LayerId layer, const Row& row, quint64 viewport, const QByteArray& value);
-    quint64 madeExtension(LayerId layer);
+    QByteArray group(const Row& row, quint64 viewport, const LayerProperties& shown) const;
+    void write(LayerId layer, const Row& row, quint64 viewport, const QByteArray& group);
 
-    DrawingData& m_data;
-    std::optional<QHash<QString, quint64>> m_linetypes; ///< By folded name.
+    DrawingFile& m_file;
+    const LayerTable& m_layers;
+    LayerRecords& m_records;
+    const LinetypeTable& m_linetypes;
 };
-
-/// Handle of the layer's extension dictionary; 0 when it has none.
-quint64 layerExtension(DrawingData& data, const LayerEntry& entry);
 
 } // namespace drawing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "layer.h"
+#include "taglist.h"
 #include "tagreader.h"
 #include "textcodec.h"
 
@@ -13,48 +14,33 @@ struct LayerRecord
     quint64 handle = 0;         ///< 0 when the record has none.
     quint64 plotStyle = 0;      ///< Handle of the plot style name object.
     quint64 material = 0;
+    quint64 extension = 0;           ///< Handle of its extension dictionary.
     bool dependsOnReference = false; ///< By its flags; a `|` in the name counts too.
 };
-
-/// Tells of a 102 or 100 tag whether a group of other data begins with it; a subclass marker ends
-/// one that was never closed.
-bool opensGroup(int code, std::string_view value);
 
 /// Reads LAYER records; remembers the last linetype, as runs of layers share theirs.
 class LayerRecordReader
 {
 public:
     explicit LayerRecordReader(const TextCodec& codec) : m_codec(codec) {}
-    LayerRecord read(TagReader tags);
+    LayerRecord read(const TagReader& tags);
 
 private:
-    void readTag(const Tag& tag, LayerRecord& record);
-    void readXdata(const Tag& tag, LayerRecord& record);
+    void readOwn(const Tag& tag, LayerRecord& record);
+    void readXdata(const Tag& tag, std::string_view application, LayerRecord& record);
 
     const TextCodec& m_codec;
     std::string_view m_linetypeBytes;
     QString m_linetype;
-    std::string_view m_application; // Whose XDATA is being read.
-    int m_strings = 0;              // Of that application so far.
+    int m_strings = 0; // Of the application read, so far.
 };
 
-/// Bits of a LAYER record's flags, group 70.
-constexpr qint64 kLayerFrozen = 1;
-constexpr qint64 kLayerFrozenInNewViewports = 2;
-constexpr qint64 kLayerLocked = 4;
-constexpr qint64 kLayerFromReference = 16;
+/// The record with only those groups changed in which `after` differs from `before`.
+QByteArray editedLayerRecord(TagList record, const LayerProperties& before,
+    const LayerProperties& after, const TextCodec& codec);
 
-/// What a format version can store in a LAYER record.
-struct LayerRecordLimits
-{
-    bool markers = true;      ///< Handle, owner and subclass markers.
-    bool plotFlag = true;     ///< 290.
-    bool lineweight = true;   ///< 370.
-    bool trueColor = true;    ///< 420.
-    bool softPointers = true; ///< Viewports list frozen layers in 331 groups, before in 341.
-
-    static LayerRecordLimits of(std::string_view version);
-};
+/// The record with another plot style name object.
+QByteArray withPlotStyle(TagList record, quint64 handle);
 
 /// XDATA applications the layer properties need.
 constexpr char kTransparencyApp[] = "AcCmTransparency";

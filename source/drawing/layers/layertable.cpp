@@ -1,5 +1,7 @@
 #include "layertable.h"
 
+#include "symbolname.h"
+
 #include <algorithm>
 #include <tuple>
 
@@ -19,7 +21,7 @@ bool isSame(const LayerEntry& a, const LayerEntry& b)
 
 QString keyOf(const LayerEntry& entry)
 {
-    return entry.layer.properties.name.toCaseFolded();
+    return foldedName(entry.layer.properties.name);
 }
 
 } // namespace
@@ -80,6 +82,8 @@ void LayerTable::put(LayerId id, const LayerEntry& after)
     entry = after;
     entry.layer.id = id;
     m_isListed = false;
+    if (after.handle != 0)
+        m_byHandle.insert(after.handle, id);
     if (wasPresent == after.present && oldKey == newKey)
         return;
     if (wasPresent && m_byName.value(oldKey, LayerId::None) == id)
@@ -102,7 +106,13 @@ const Layer* LayerTable::layer(LayerId id) const
 
 const Layer* LayerTable::find(const QString& name) const
 {
-    return layer(m_byName.value(name.toCaseFolded(), LayerId::None));
+    return layer(m_byName.value(foldedName(name), LayerId::None));
+}
+
+const Layer* LayerTable::byHandle(quint64 handle) const
+{
+    const Layer* found = layer(m_byHandle.value(handle, LayerId::None));
+    return found && entry(found->id).handle == handle ? found : nullptr;
 }
 
 const std::vector<Layer>& LayerTable::listed() const

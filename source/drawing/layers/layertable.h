@@ -18,12 +18,14 @@ struct LayerEntry
     qint64 end = -1; ///< Of the record's range; the insertion's place itself.
     quint64 handle = 0;
     quint64 plotStyle = 0; ///< Handle of its plot style name object.
-    quint64 extension = 0; ///< Handle of an extension dictionary made since the file was read.
+    quint64 extension = 0; ///< Handle of its extension dictionary.
     /// Of a layer that is gone: the layer it was merged into; None when it was deleted.
     LayerId heir = LayerId::None;
     bool hasRecord = false; ///< Layers that only entities name have none.
     bool present = false;   ///< False when deleted, or not added yet.
 
+    /// Whether the record was in the file when it was read.
+    bool isOfFile() const { return hasRecord && place.order == EditPlace::kReplacement; }
     ByteRange range() const { return {place.begin, end}; }
 };
 
@@ -55,6 +57,12 @@ public:
 
     const Layer* layer(LayerId id) const;
     const Layer* find(const QString& name) const;
+    /// Null when no layer that is there has this handle.
+    const Layer* byHandle(quint64 handle) const;
+    /// Layer 0, which is always there.
+    LayerId zero() const { return find(QStringLiteral("0"))->id; }
+    LayerId current() const { return m_current; }
+    void setCurrent(LayerId id) { m_current = id; }
     const std::vector<Layer>& listed() const;
 
     /// What changed since the last call, one change a layer; what changed back is left out.
@@ -67,7 +75,9 @@ private:
     void note(LayerId id, const LayerEntry& before, const LayerEntry& after);
 
     std::deque<LayerEntry> m_entries; // A deque, so that pointers to layers stay good.
-    QHash<QString, LayerId> m_byName;
+    QHash<QString, LayerId> m_byName; // By folded name.
+    QHash<quint64, LayerId> m_byHandle;
+    LayerId m_current = LayerId::None;
     std::vector<LayerChange> m_changes;
     QHash<int, int> m_changeOf; // Layer id -> its place in m_changes.
     mutable std::vector<Layer> m_listed;

@@ -1,6 +1,10 @@
 #include "layouts.h"
 
-#include "handles.h"
+#include "drawingfile.h"
+#include "entitytable.h"
+#include "owntags.h"
+#include "symbolname.h"
+#include "viewports.h"
 
 #include <algorithm>
 #include <map>
@@ -18,73 +22,53 @@ struct LayoutRecord
     quint64 viewport = 0; // The one last active.
 };
 
-LayoutRecord readRecord(const DrawingData& data, const ObjectPlace& object)
+/// What stands before the layout's own subclass belongs to the plot settings.
+LayoutRecord readRecord(const DrawingFile& file, const ObjectPlace& object)
 {
+    constexpr int kLayoutName = 1;
+    constexpr int kTab = 71;
+    constexpr int kLastViewport = 331;
     LayoutRecord record;
-    TagReader tags = data.tags(object.range);
-    bool isOwn = false; // What stands before belongs to the plot settings.
+    OwnTags tags(file.tags(object.range));
     Tag tag;
-    while (tags.next(tag) && tag.code < 1000) {
-        if (tag.code == 100)
-            isOwn = tag.trimmed() == "AcDbLayout";
-        if (!isOwn)
+    while (tags.next(tag)) {
+        if (tags.place().subclass() != "AcDbLayout")
             continue;
-        if (tag.code == 1)
-            record.layout.name = data.codec.decode(tag.text());
-        else if (tag.code == 71)
+        if (tag.code == kLayoutName)
+            record.layout.name = file.decoded(tag.text());
+        else if (tag.code == kTab)
             record.tab = tag.integer();
-        else if (tag.code == 330)
+        else if (tag.code == group::kSoftPointer)
             record.block = tag.handle();
-        else if (tag.code == 331)
+        else if (tag.code == kLastViewport)
             record.viewport = tag.handle();
     }
     return record;
 }
 
 /// Names of the block definitions by the handles of their records.
-std::map<quint64, QString> blockNames(const DrawingData& data)
+std::map<quint64, QString> blockNames(const DrawingFile& file)
 {
     std::map<quint64, QString> names;
-    for (const ByteRange& record : data.index.table(TableKind::BlockRecord).records) {
-        TagReader tags = data.tags(record);
-        Tag tag;
-        while (tags.next(tag) && tag.code != 2) {
-        }
-        if (tag.code == 2)
-            names[ownHandle(data.tags(record))] = data.codec.decode(tag.trimmed());
-    }
+    for (const ByteRange& record : file.table(TableKind::BlockRecord).records)
+        names[ownHandle(file.tags(record))] =
+            file.decoded(findOwn(file.tags(record), group::kName).trimmed());
     return names;
 }
 
-/// A sheet sees itself through a viewport too: number 1, or one that shows its own place as it is.
-bool isSheetsOwn(const DrawingData& data, const Entity& viewport)
+void findViewports(
+    const DrawingFile& file, const EntityTable& entities, std::vector<LayoutRecord>& records)
 {
-    constexpr int kCodes[] = {10, 20, 41, 12, 22, 45}; // Place and height, then those of the view.
-    std::map<int, double> values;
-    TagReader tags = data.tags(viewport.range());
-    Tag tag;
-    while (tags.next(tag) && tag.code < 1000) {
-        if (tag.code == 69 && tag.integer() == 1)
-            return true;
-        if (std::find(std::begin(kCodes), std::end(kCodes), tag.code) != std::end(kCodes))
-            values.emplace(tag.code, tag.real());
-    }
-    return values.size() == std::size(kCodes) && values[10] == values[12] &&
-           values[20] == values[22] && values[41] == values[45];
-}
-
-void findViewports(const DrawingData& data, std::vector<LayoutRecord>& records)
-{
-    for (size_t i = 0; i < data.index.entities.size(); ++i) {
-        const Entity& entity = data.index.entities[i];
-        if (entity.kind != EntityKind::Viewport || isSheetsOwn(data, entity))
+    for (size_t i = 0; i < entities.size(); ++i) {
+        const Entity& entity = entities[i];
+        if (entity.kind != EntityKind::Viewport || isSheetsOwn(file.tags(entity.range())))
             continue;
         for (LayoutRecord& record : records) {
             std::vector<int>& viewports = record.layout.viewports;
             if (!holds(record.layout, entity))
                 continue;
             const bool isLastActive =
-                record.viewport != 0 && ownHandle(data.tags(entity.range())) == record.viewport;
+                record.viewport != 0 && ownHandle(file.tags(entity.range())) == record.viewport;
             viewports.insert(
                 isLastActive ? viewports.begin() : viewports.end(), static_cast<int>(i));
         }
@@ -98,19 +82,19 @@ bool holds(const Layout& layout, const Entity& entity)
     return entity.block >= 0 ? entity.block == layout.block : entity.paperSpace && layout.isActive;
 }
 
-std::vector<Layout> readLayouts(DrawingData& data)
+std::vector<Layout> readLayouts(const DrawingFile& file, const EntityTable& entities)
 {
-    const std::map<quint64, QString> names = blockNames(data);
+    const std::map<quint64, QString> names = blockNames(file);
     std::vector<LayoutRecord> records;
-    for (const ObjectPlace& object : data.index.objects) {
+    for (const ObjectPlace& object : file.index().objects) {
         if (object.kind != ObjectKind::Layout)
             continue;
-        LayoutRecord record = readRecord(data, object);
+        LayoutRecord record = readRecord(file, object);
         const auto name = names.find(record.block);
-        const QString key = name == names.end() ? QString() : name->second.toCaseFolded();
+        const QString key = name == names.end() ? QString() : foldedName(name->second);
         if (key.isEmpty() || key == QLatin1String("*model_space"))
             continue;
-        record.layout.block = data.blockByName.value(key, -1);
+        record.layout.block = entities.block(key);
         record.layout.isActive = key == QLatin1String("*paper_space");
         records.push_back(record);
     }
@@ -120,11 +104,52 @@ std::vector<Layout> readLayouts(DrawingData& data)
     }
     std::stable_sort(records.begin(), records.end(),
         [](const LayoutRecord& a, const LayoutRecord& b) { return a.tab < b.tab; });
-    findViewports(data, records);
+    findViewports(file, entities, records);
     std::vector<Layout> layouts;
     for (LayoutRecord& record : records)
         layouts.push_back(std::move(record.layout));
     return layouts;
+}
+
+/// A layout is shown, if one is, by its active flag.
+void LayoutTable::load(DrawingFile& file, const EntityTable& entities)
+{
+    m_layouts = readLayouts(file, entities);
+    m_state.modelSpace = file.variable(HeaderVariable::TileMode).printed() != "0";
+    const auto active = std::find_if(
+        m_layouts.begin(), m_layouts.end(), [](const Layout& layout) { return layout.isActive; });
+    if (active != m_layouts.end())
+        m_state.layout = static_cast<int>(active - m_layouts.begin());
+}
+
+bool LayoutTable::isShown(const Entity& entity) const
+{
+    const bool isModel = entity.block < 0 && !entity.paperSpace;
+    return isModelSpace() ? isModel : holds(shown(), entity);
+}
+
+int LayoutTable::currentViewport(const EntityTable& entities) const
+{
+    if (isModelSpace())
+        return -1;
+    const std::vector<int>& viewports = shown().viewports;
+    const auto found = std::find_if(viewports.begin(), viewports.end(),
+        [&](int viewport) { return !entities[static_cast<size_t>(viewport)].removed; });
+    return found == viewports.end() ? -1 : *found;
+}
+
+void LayoutTable::showModelSpace(DrawingFile& file, bool modelSpace)
+{
+    if (m_state.modelSpace == modelSpace)
+        return;
+    m_state.modelSpace = modelSpace;
+    file.writeVariable(HeaderVariable::TileMode, qint64(modelSpace ? 1 : 0));
+}
+
+void LayoutTable::showLayout(DrawingFile& file, int layout)
+{
+    showModelSpace(file, false);
+    m_state.layout = layout;
 }
 
 } // namespace drawing

@@ -6,7 +6,8 @@
 
 namespace drawing {
 
-struct DrawingData;
+class DrawingFile;
+class EntityTable;
 struct Entity;
 
 /// A layout: a sheet, and the viewports on it.
@@ -24,6 +25,43 @@ struct Layout
 bool holds(const Layout& layout, const Entity& entity);
 
 /// The layouts in the order of their tabs; a file that does not name any has one.
-std::vector<Layout> readLayouts(DrawingData& data);
+std::vector<Layout> readLayouts(const DrawingFile& file, const EntityTable& entities);
+
+/// The layouts of a drawing, and what of them is shown.
+class LayoutTable
+{
+public:
+    struct State
+    {
+        bool modelSpace = true; ///< Model space is shown: TILEMODE.
+        int layout = 0;         ///< The one shown, or shown last.
+
+        bool operator==(const State& other) const
+        {
+            return modelSpace == other.modelSpace && layout == other.layout;
+        }
+    };
+
+    void load(DrawingFile& file, const EntityTable& entities);
+
+    const std::vector<Layout>& all() const { return m_layouts; } ///< One at least.
+    const Layout& shown() const { return m_layouts[static_cast<size_t>(m_state.layout)]; }
+    bool isModelSpace() const { return m_state.modelSpace; }
+    int shownIndex() const { return m_state.layout; }
+    bool isShown(const Entity& entity) const;
+    /// The entity that is the current viewport of the layout shown: the one last active in it, else
+    /// its first; -1 in model space and where the layout has none.
+    int currentViewport(const EntityTable& entities) const;
+
+    void showModelSpace(DrawingFile& file, bool modelSpace);
+    void showLayout(DrawingFile& file, int layout);
+
+    State& state() { return m_state; }
+    const State& state() const { return m_state; }
+
+private:
+    std::vector<Layout> m_layouts;
+    State m_state;
+};
 
 } // namespace drawing

@@ -1,23 +1,13 @@
 #pragma once
 
+#include "texttag.h"
+
 #include <QString>
 
 #include <memory>
 #include <vector>
 
 namespace drawing {
-
-/// A group of a definition, its text decoded.
-struct TextTag
-{
-    int code = -1;
-    QString value;
-};
-
-inline bool operator==(const TextTag& a, const TextTag& b)
-{
-    return a.code == b.code && a.value == b.value;
-}
 
 /// A text style or shape file that a linetype takes its letters or shapes from.
 struct LinetypeStyle

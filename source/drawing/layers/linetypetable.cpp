@@ -1,6 +1,8 @@
 #include "linetypetable.h"
 
-#include "layerrecord.h"
+#include "groupcode.h"
+#include "owntags.h"
+#include "symbolname.h"
 
 #include <algorithm>
 
@@ -11,13 +13,13 @@ namespace {
 // Groups of LTYPE records.
 constexpr int kDash = 49;
 constexpr int kDashKind = 74; ///< 0 for a plain dash.
-constexpr int kStyle = 340;
+constexpr int kStyle = group::kHardPointer;
 /// Tell of letters or a shape at a dash, behind its kind.
 constexpr int kEmbedded[] = {75, kStyle, 46, 50, 44, 45, 9};
 constexpr int kPlain[] = {3, 72, 73, 40, kDash, kDashKind};
 
 // Groups of STYLE records, and the bits of their flags that say what the style is like.
-constexpr int kFlags = 70;
+constexpr int kFlags = group::kFlags;
 constexpr int kFont = 3;
 constexpr int kStyleGroups[] = {kFlags, 40, 41, 50, 71, 42, kFont, 4};
 constexpr qint64 kShapeFile = 1;
@@ -36,49 +38,13 @@ TextTag* findTag(std::vector<TextTag>& tags, int code)
     return found == tags.end() ? nullptr : &*found;
 }
 
-/// A record's own groups: not those of other data in 102 groups, nor XDATA.
-template <class Visit>
-void visitOwnTags(TagReader tags, Visit visit)
-{
-    constexpr int kExtendedData = 1000;
-    bool inGroup = false;
-    Tag tag;
-    while (tags.next(tag) && tag.code < kExtendedData) {
-        if (tag.code == 102 || tag.code == 100)
-            inGroup = opensGroup(tag.code, tag.trimmed());
-        else if (!inGroup)
-            visit(tag);
-    }
-}
-
-QString printedText(const DrawingData& data, const Tag& tag)
-{
-    const QByteArray printed = tag.printed();
-    return data.codec.decode({printed.constData(), static_cast<size_t>(printed.size())});
-}
-
-LinetypeStyle readStyle(const DrawingData& data, const ByteRange& record)
-{
-    LinetypeStyle style;
-    visitOwnTags(data.tags(record), [&](const Tag& tag) {
-        if (tag.code == 2)
-            style.name = data.codec.decode(tag.trimmed());
-        else if (tag.code == kFlags)
-            style.tags.push_back(
-                {kFlags, QString::number(tag.integer() & (kShapeFile | kVertical))});
-        else if (isOneOf(kStyleGroups, tag.code))
-            style.tags.push_back({tag.code, printedText(data, tag)});
-    });
-    return style;
-}
-
 /// Styles are told apart by their names, shape files, which have none, by their fonts.
 QString styleKey(LinetypeStyle style)
 {
     if (!style.name.isEmpty())
-        return style.name.toCaseFolded();
+        return foldedName(style.name);
     const TextTag* font = findTag(style.tags, kFont);
-    return QLatin1Char('\n') + (font ? font->value.toCaseFolded() : QString());
+    return QLatin1Char('\n') + (font ? foldedName(font->value) : QString());
 }
 
 /// The same dashes without letters and shapes.
@@ -107,75 +73,106 @@ std::vector<TextTag> withDashKinds(const std::vector<TextTag>& tags)
 
 } // namespace
 
+void LinetypeTable::load()
+{
+    for (const ByteRange& record : m_file.table(TableKind::Linetype).records) {
+        const Entry entry{m_file.tables().nameOf(record), record, ownHandle(m_file.tags(record))};
+        const QString key = foldedName(entry.name);
+        m_entries.insert(key, entry);
+        if (entry.handle != 0)
+            m_byHandle.insert(entry.handle, entry.name);
+        if (!key.isEmpty() && key != QLatin1String("bylayer") && key != QLatin1String("byblock"))
+            m_names += entry.name;
+    }
+}
+
 QStringList LinetypeTable::names() const
 {
-    QStringList names;
-    for (const ByteRange& record : m_data.index.table(TableKind::Linetype).records) {
-        QString name;
-        visitOwnTags(m_data.tags(record), [&](const Tag& tag) {
-            if (tag.code == 2)
-                name = m_data.codec.decode(tag.trimmed());
-        });
-        const QString key = name.toCaseFolded();
-        if (!name.isEmpty() && key != QLatin1String("bylayer") && key != QLatin1String("byblock"))
-            names += name;
-    }
     QStringList added;
-    for (const LinetypePointer& linetype : m_data.state.newLinetypes)
+    for (const LinetypePointer& linetype : m_state.linetypes)
         added += linetype->name;
     added.sort(Qt::CaseInsensitive);
-    return names + added;
+    return m_names + added;
+}
+
+QString LinetypeTable::spelled(const QString& name) const
+{
+    const QString key = foldedName(name);
+    const auto known = m_entries.constFind(key);
+    if (known != m_entries.constEnd())
+        return known->name;
+    const LinetypePointer added = m_state.linetypes.value(key);
+    return added ? added->name : QString();
+}
+
+quint64 LinetypeTable::handle(const QString& name) const
+{
+    return m_entries.value(foldedName(name)).handle;
 }
 
 LinetypePointer LinetypeTable::find(const QString& name) const
 {
-    const QString key = name.trimmed().toCaseFolded();
-    const auto known = m_data.linetypes.constFind(key);
-    return known == m_data.linetypes.constEnd() ? m_data.state.newLinetypes.value(key)
-                                                : read(*known);
+    const QString key = foldedName(name.trimmed());
+    const auto known = m_entries.constFind(key);
+    return known == m_entries.constEnd() ? m_state.linetypes.value(key) : read(*known);
 }
 
-const StyleIndex& LinetypeTable::styles() const
+LinetypeStyle LinetypeTable::readStyle(const ByteRange& record) const
 {
-    if (m_data.styles)
-        return *m_data.styles;
+    LinetypeStyle style;
+    OwnTags tags(m_file.tags(record));
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == group::kName)
+            style.name = m_file.decoded(tag.trimmed());
+        else if (tag.code == kFlags)
+            style.tags.push_back(
+                {kFlags, QString::number(tag.integer() & (kShapeFile | kVertical))});
+        else if (isOneOf(kStyleGroups, tag.code))
+            style.tags.push_back({tag.code, m_file.decoded(viewOf(tag.printed()))});
+    }
+    return style;
+}
+
+const LinetypeTable::StyleIndex& LinetypeTable::styles() const
+{
+    if (m_styles)
+        return *m_styles;
     StyleIndex index;
-    for (const ByteRange& record : m_data.index.table(TableKind::Style).records) {
-        quint64 handle = 0;
-        visitOwnTags(m_data.tags(record), [&handle](const Tag& tag) {
-            if (tag.code == 5)
-                handle = tag.handle();
-        });
+    for (const ByteRange& record : m_file.table(TableKind::Style).records) {
+        const quint64 handle = ownHandle(m_file.tags(record));
         if (handle == 0)
             continue;
         index.records.insert(handle, record);
-        const QString key = styleKey(readStyle(m_data, record));
+        const QString key = styleKey(readStyle(record));
         if (!index.handles.contains(key))
             index.handles.insert(key, handle);
     }
-    return m_data.styles.emplace(std::move(index));
+    return m_styles.emplace(std::move(index));
 }
 
-LinetypePointer LinetypeTable::read(const LinetypeEntry& entry) const
+LinetypePointer LinetypeTable::read(const Entry& entry) const
 {
     auto definition = std::make_shared<LinetypeDefinition>();
     definition->name = entry.name;
     QHash<quint64, int> styleAt;
-    visitOwnTags(m_data.tags(entry.record), [&](const Tag& tag) {
-        QString value = printedText(m_data, tag);
+    OwnTags tags(m_file.tags(entry.record));
+    Tag tag;
+    while (tags.next(tag)) {
+        QString value = m_file.decoded(viewOf(tag.printed()));
         if (tag.code == kStyle) {
             const quint64 handle = tag.handle();
             const ByteRange record = styles().records.value(handle);
             definition->isSimplified = definition->isSimplified || record.isNull();
             if (!styleAt.contains(handle)) {
                 styleAt.insert(handle, static_cast<int>(definition->styles.size()));
-                definition->styles.push_back(readStyle(m_data, record));
+                definition->styles.push_back(readStyle(record));
             }
             value = QString::number(styleAt.value(handle));
         }
         if (isOneOf(kPlain, tag.code) || isOneOf(kEmbedded, tag.code))
             definition->tags.push_back({tag.code, value});
-    });
+    }
     if (definition->isSimplified) {
         definition->tags = plainDashes(definition->tags);
         definition->styles.clear();
@@ -185,14 +182,14 @@ LinetypePointer LinetypeTable::read(const LinetypeEntry& entry) const
 
 void LinetypeTable::add(const LinetypeDefinition& definition)
 {
-    const QString key = definition.name.trimmed().toCaseFolded();
-    if (key.isEmpty() || !m_data.linetypeName(key).isNull())
+    const QString key = foldedName(definition.name.trimmed());
+    if (key.isEmpty() || !spelled(key).isNull())
         return;
     if (definition.isSimplified)
-        m_data.leftOut.note(LeftOut::LinetypeStyles, definition.name);
-    const bool hasStyles = m_data.limits.markers;
+        m_leftOut.note(LeftOut::LinetypeStyles, definition.name);
+    const bool hasStyles = m_file.limits().markers;
     if (definition.hasLettersOrShapes() && !hasStyles)
-        m_data.leftOut.note(LeftOut::LinetypeParts, definition.name);
+        m_leftOut.note(LeftOut::LinetypeParts, definition.name);
     std::vector<TextTag> tags =
         hasStyles ? withDashKinds(definition.tags) : plainDashes(definition.tags);
     for (TextTag& tag : tags) {
@@ -201,25 +198,25 @@ void LinetypeTable::add(const LinetypeDefinition& definition)
         const auto at = static_cast<size_t>(tag.value.toULongLong());
         const quint64 handle =
             at < definition.styles.size() ? styleHandle(definition.styles[at]) : 0;
-        tag.value = QString::number(handle, 16).toUpper();
+        tag.value = QString::fromLatin1(handleText(handle));
     }
-    tags.insert(tags.begin(), {{2, definition.name.trimmed()}, {kFlags, QStringLiteral("0")}});
-    m_data.state.newLinetypes.insert(key, std::make_shared<const LinetypeDefinition>(definition));
-    SymbolTables(m_data).addRecord(TableKind::Linetype, m_data.state.newLinetypes.size(), tags);
+    tags.insert(
+        tags.begin(), {{group::kName, definition.name.trimmed()}, {kFlags, QStringLiteral("0")}});
+    m_state.linetypes.insert(key, std::make_shared<const LinetypeDefinition>(definition));
+    m_file.tables().add(TableKind::Linetype, tags);
 }
 
 /// The handle of the drawing's style of that name, which is made where it is missing.
 quint64 LinetypeTable::styleHandle(const LinetypeStyle& style)
 {
     const QString key = styleKey(style);
-    const quint64 known = styles().handles.value(key, m_data.state.newStyles.value(key));
+    const quint64 known = styles().handles.value(key, m_state.styles.value(key));
     if (known != 0)
         return known;
-    std::vector<TextTag> tags{{2, style.name}};
+    std::vector<TextTag> tags{{group::kName, style.name}};
     tags.insert(tags.end(), style.tags.begin(), style.tags.end());
-    const quint64 handle =
-        SymbolTables(m_data).addRecord(TableKind::Style, m_data.state.newStyles.size() + 1, tags);
-    m_data.state.newStyles.insert(key, handle);
+    const quint64 handle = m_file.tables().add(TableKind::Style, tags);
+    m_state.styles.insert(key, handle);
     return handle;
 }
 

@@ -1,44 +1,75 @@
 #include "plotstyles.h"
 
-#include "handles.h"
-#include "objectedits.h"
-#include "symboltables.h"
+#include "colorindex.h"
+#include "groupcode.h"
+#include "symbolname.h"
+
+#include <algorithm>
 
 namespace drawing {
 
-void makePlotStyles(DrawingData& data, const QStringList& names)
+quint64 PlotStyles::dictionary() const
 {
-    const Tag& mode = data.index.variable(HeaderVariable::PlotStyleMode);
-    const ObjectPlace* dictionary =
-        dictionaryEntry(data, &data.index.objects.front(), "ACAD_PLOTSTYLENAME");
-    if (mode.isNull() || !dictionary)
+    const ObjectPlace* root = m_file.objects().root();
+    return root ? m_file.objects().entry(root->handle, "ACAD_PLOTSTYLENAME") : 0;
+}
+
+void PlotStyles::load()
+{
+    m_areByColor = m_file.variable(HeaderVariable::PlotStyleMode).printed() != "0";
+    if (m_areByColor)
         return;
-    data.journal.replace(mode.valueRange(), numberInPlace(mode, 0));
-    data.plotStylesByColor = false;
-    ObjectEdits objects(data);
+    for (const Dictionary::Entry& entry : m_file.objects().dictionary(dictionary()).entries())
+        m_names.insert(entry.object, m_file.decoded(viewOf(entry.key)));
+}
+
+QString PlotStyles::name(int colorIndex, quint64 handle) const
+{
+    if (!m_areByColor)
+        return m_names.value(handle);
+    // Shared by all layers of a colour.
+    static const std::vector<QString> names = [] {
+        std::vector<QString> made;
+        for (int color = 0; color < kColorByLayer; ++color)
+            made.push_back(QStringLiteral("Color_%1").arg(color));
+        return made;
+    }();
+    return names.at(static_cast<size_t>(colorIndex));
+}
+
+quint64 PlotStyles::handle(const QString& name, quint64 otherwise) const
+{
+    if (m_areByColor)
+        return otherwise;
+    const auto found = std::find_if(m_names.begin(), m_names.end(),
+        [&name](const QString& known) { return isSameName(known, name); });
+    const bool isKept = found == m_names.end() || *found == m_names.value(otherwise);
+    return isKept ? otherwise : found.key();
+}
+
+void PlotStyles::make(const QStringList& names)
+{
+    const quint64 handle = this->dictionary();
+    if (m_file.variable(HeaderVariable::PlotStyleMode).isNull() || handle == 0)
+        return;
+    m_file.writeVariable(HeaderVariable::PlotStyleMode, qint64(0));
+    m_areByColor = false;
+    Objects& objects = m_file.objects();
     const TagStyle style = objects.style();
-    TagList tags = data.tagList(data.journal.current(dictionary->range));
-    // The second part of the dictionary tells of its default alone.
-    const int own = tags.find(100, 0, tags.size());
-    int at = tags.find(100, own + 1, tags.size());
-    QSet<QString> known;
-    for (const DictionaryEntry& entry : dictionaryEntries(data, dictionary)) {
-        const QString name = data.codec.decode(entry.key);
-        known.insert(name.toCaseFolded());
-        if (entry.object)
-            data.plotStyles.insert(entry.object->handle, name);
-    }
+    Dictionary dictionary = objects.dictionary(handle);
+    for (const Dictionary::Entry& entry : dictionary.entries())
+        m_names.insert(entry.object, m_file.decoded(viewOf(entry.key)));
     for (const QString& name : names) {
-        if (known.contains(name.toCaseFolded()))
+        if (this->handle(name, 0) != 0)
             continue;
-        const quint64 handle = SymbolTables(data).takeHandle();
-        tags.insert(at++, style.tag(3, data.codec.encode(name)));
-        tags.insert(at++, style.handle(350, handle));
-        objects.store(handle, style.tag(0, "ACDBPLACEHOLDER") + style.handle(5, handle) +
-                                  style.handle(330, dictionary->handle));
-        data.plotStyles.insert(handle, name);
+        const quint64 made = m_file.takeHandle();
+        dictionary.add(m_file.encoded(name), made);
+        objects.store(made, style.tag(group::kType, "ACDBPLACEHOLDER") +
+                                style.handle(group::kHandle, made) +
+                                style.handle(group::kSoftPointer, handle));
+        m_names.insert(made, name);
     }
-    data.journal.replace(dictionary->range, tags.bytes());
+    objects.store(handle, dictionary.tags());
 }
 
 } // namespace drawing

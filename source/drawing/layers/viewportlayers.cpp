@@ -1,11 +1,9 @@
 #include "viewportlayers.h"
 
-#include "drawingdata.h"
 #include "drawingtexts.h"
-#include "handles.h"
-#include "layeroverrides.h"
-#include "symboltables.h"
-#include "taglist.h"
+#include "insertionorder.h"
+#include "layerfates.h"
+#include "owntags.h"
 
 #include <algorithm>
 
@@ -13,24 +11,13 @@ namespace drawing {
 
 namespace {
 
-constexpr quint32 kAddedHandles = 1; // Order of the insertion that holds them.
+// Lists of frozen layers.
+constexpr int kFrozenSince2004 = 331;
+constexpr int kFrozenBefore2004 = 341;
 
 bool isFrozenCode(int code)
 {
-    return code == 331 || code == 341;
-}
-
-/// Layers by the handles of their records.
-QHash<quint64, LayerId> layersByHandle(const DrawingData& data)
-{
-    QHash<quint64, LayerId> layers;
-    layers.reserve(data.layers.entryCount());
-    for (int i = 0; i < data.layers.entryCount(); ++i) {
-        const LayerEntry& entry = data.layers.entry(static_cast<LayerId>(i));
-        if (entry.present && entry.handle != 0)
-            layers.insert(entry.handle, entry.layer.id);
-    }
-    return layers;
+    return code == kFrozenSince2004 || code == kFrozenBefore2004;
 }
 
 } // namespace
@@ -41,33 +28,31 @@ struct ViewportLayers::FrozenList
     std::vector<Tag> tags;
     std::vector<quint64> added;
     qint64 at = -1; ///< Where new ones go.
-    int code = 331;
+    int code = kFrozenSince2004;
     TagStyle style;
 };
 
-ViewportLayers::FrozenList ViewportLayers::list(int viewport) const
+ViewportLayers::FrozenList ViewportLayers::list(const Entity& viewport) const
 {
-    const Entity& entity = m_data.index.entities[static_cast<size_t>(viewport)];
+    constexpr int kStatus = 90;
     FrozenList list;
-    list.style = m_data.styleOf(entity.range());
-    list.code = m_data.limits.softPointers ? 331 : 341;
-    list.at = entity.end;
-    TagReader tags = m_data.tags(entity.range());
-    bool isOwn = true; // Old files have no markers.
+    list.style = m_file.styleOf(viewport.range());
+    list.code = m_file.limits().softPointers ? kFrozenSince2004 : kFrozenBefore2004;
+    list.at = viewport.end;
+    OwnTags tags(m_file.tags(viewport.range()));
     Tag tag;
-    while (tags.next(tag) && tag.code < 1000) {
-        if (tag.code == 100)
-            isOwn = tag.trimmed() == "AcDbViewport";
-        if (!isOwn)
-            continue;
+    while (tags.next(tag)) {
+        const std::string_view subclass = tags.place().subclass();
+        if (!subclass.empty() && subclass != "AcDbViewport")
+            continue; // Old files have no markers.
         if (isFrozenCode(tag.code)) {
             list.code = tag.code;
             list.tags.push_back(tag);
         }
-        if (list.at == entity.end && (isFrozenCode(tag.code) || tag.code == 90))
+        if (list.at == viewport.end && (isFrozenCode(tag.code) || tag.code == kStatus))
             list.at = tag.begin();
     }
-    const TagList inserted = m_data.tagList(m_data.journal.inserted(list.at, kAddedHandles));
+    const TagList inserted = m_file.tagList(m_file.journal().inserted(list.at, kNewFrozenLayers));
     for (int i = 0; i < inserted.size(); ++i)
         list.added.push_back(inserted.handle(i));
     return list;
@@ -79,33 +64,24 @@ void ViewportLayers::write(const FrozenList& list, const std::vector<quint64>& a
     for (const quint64 handle : added)
         bytes += list.style.handle(list.code, handle);
     if (!bytes.isEmpty())
-        m_data.journal.insert(list.at, kAddedHandles, bytes);
+        m_file.journal().insert(list.at, kNewFrozenLayers, bytes);
     else if (!list.added.empty())
-        m_data.journal.removeInsertion(list.at, kAddedHandles);
+        m_file.journal().removeInsertion(list.at, kNewFrozenLayers);
 }
 
-int ViewportLayers::current() const
+const Entity& ViewportLayers::current() const
 {
-    if (m_data.state.modelSpace)
-        return -1;
-    for (const int viewport : m_data.layouts[static_cast<size_t>(m_data.state.layout)].viewports) {
-        if (!m_data.index.entities[static_cast<size_t>(viewport)].removed)
-            return viewport;
-    }
-    return -1;
+    return m_entities[static_cast<size_t>(m_layouts.currentViewport(m_entities))];
 }
 
 Expected<void> ViewportLayers::check() const
 {
-    const auto refusal = [](const QString& text) {
-        return tl::make_unexpected(Error{text, 0, false});
-    };
-    if (!m_data.limits.markers)
+    if (!m_file.limits().markers)
         return refusal(Texts::tr("此图形的格式不能保存视口中的图层特性"));
-    if (m_data.state.modelSpace)
+    if (m_layouts.isModelSpace())
         return refusal(Texts::tr("当前不在布局中"));
-    const QString& name = m_data.layouts[static_cast<size_t>(m_data.state.layout)].name;
-    if (current() < 0)
+    const QString& name = m_layouts.shown().name;
+    if (m_layouts.currentViewport(m_entities) < 0)
         return refusal(
             Texts::tr("布局%1中没有视口").arg(name.isEmpty() ? name : Texts::tr("“%1”").arg(name)));
     return {};
@@ -119,15 +95,12 @@ std::vector<LayerId> ViewportLayers::frozen() const
     const FrozenList list = this->list(current());
     std::vector<quint64> handles = list.added;
     for (const Tag& tag : list.tags) {
-        if (!m_data.journal.current(tag.range()).isEmpty())
+        if (!m_file.journal().current(tag.range()).isEmpty())
             handles.push_back(tag.handle());
     }
-    if (handles.empty())
-        return frozen;
-    const QHash<quint64, LayerId> layers = layersByHandle(m_data);
     for (const quint64 handle : handles) {
-        if (const LayerId layer = layers.value(handle, LayerId::None); layer != LayerId::None)
-            frozen.push_back(layer);
+        if (const Layer* layer = m_layers.byHandle(handle))
+            frozen.push_back(layer->id);
     }
     std::sort(frozen.begin(), frozen.end());
     frozen.erase(std::unique(frozen.begin(), frozen.end()), frozen.end());
@@ -141,23 +114,16 @@ Expected<void> ViewportLayers::setFrozen(const std::vector<LayerId>& layers)
     QSet<quint64> missing;
     std::vector<quint64> handles;
     for (const LayerId layer : layers) {
-        LayerEntry entry = m_data.layers.entry(layer);
-        if (!entry.hasRecord) {
-            SymbolTables(m_data).addLayerRecord(entry);
-            m_data.layers.change(layer, entry);
-        }
-        handles.push_back(entry.handle);
-        missing.insert(entry.handle);
+        handles.push_back(m_records.madeHandle(layer));
+        missing.insert(handles.back());
     }
     const FrozenList list = this->list(current());
-    const QHash<quint64, LayerId> known = layersByHandle(m_data);
     for (const Tag& tag : list.tags) {
         // What is no layer of ours is not ours to drop.
-        const bool isKept = missing.remove(tag.handle()) || !known.contains(tag.handle());
-        if (isKept)
-            m_data.journal.restore(tag.range());
+        if (missing.remove(tag.handle()) || !m_layers.byHandle(tag.handle()))
+            m_file.journal().restore(tag.range());
         else
-            m_data.journal.replace(tag.range(), {});
+            m_file.journal().replace(tag.range(), {});
     }
     handles.erase(std::remove_if(handles.begin(), handles.end(),
                       [&](quint64 handle) { return !missing.contains(handle); }),
@@ -171,31 +137,30 @@ Expected<std::vector<LayerId>> ViewportLayers::override(
 {
     if (const auto checked = check(); !checked)
         return tl::make_unexpected(checked.error());
-    const Entity& entity = m_data.index.entities[static_cast<size_t>(current())];
-    const quint64 viewport = ownHandle(m_data.tags(entity.range()));
-    LayerOverrides overrides(m_data);
+    const quint64 viewport = ownHandle(m_file.tags(current().range()));
     std::vector<LayerId> incomplete;
     for (const LayerInViewport& layer : layers) {
-        if (!overrides.set(layer.layer, viewport, layer.shown, properties))
+        if (!m_overrides.set(layer.layer, viewport, layer.shown, properties))
             incomplete.push_back(layer.layer);
     }
     return incomplete;
 }
 
-void ViewportLayers::forget(const QSet<quint64>& handles)
+void ViewportLayers::follow(const LayerFates& fates)
 {
-    for (size_t i = 0; i < m_data.index.entities.size(); ++i) {
-        const Entity& entity = m_data.index.entities[i];
+    if (fates.removed().empty())
+        return;
+    for (const Entity& entity : m_entities.all()) {
         if (entity.kind != EntityKind::Viewport || entity.removed)
             continue;
-        const FrozenList list = this->list(static_cast<int>(i));
+        const FrozenList list = this->list(entity);
         for (const Tag& tag : list.tags) {
-            if (handles.contains(tag.handle()))
-                m_data.journal.replace(tag.range(), {});
+            if (fates.isRemovedHandle(tag.handle()))
+                m_file.journal().replace(tag.range(), {});
         }
         std::vector<quint64> kept = list.added;
         kept.erase(std::remove_if(kept.begin(), kept.end(),
-                       [&](quint64 handle) { return handles.contains(handle); }),
+                       [&](quint64 handle) { return fates.isRemovedHandle(handle); }),
             kept.end());
         write(list, kept);
     }

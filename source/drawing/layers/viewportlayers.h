@@ -1,15 +1,15 @@
 #pragma once
 
+#include "entitytable.h"
 #include "error.h"
-#include "layer.h"
-
-#include <QSet>
+#include "layeroverrides.h"
+#include "layouts.h"
 
 #include <vector>
 
 namespace drawing {
 
-struct DrawingData;
+class LayerFates;
 
 /// A layer and how it shall look in a viewport.
 struct LayerInViewport
@@ -22,13 +22,19 @@ struct LayerInViewport
 class ViewportLayers
 {
 public:
-    explicit ViewportLayers(DrawingData& data) : m_data(data) {}
+    ViewportLayers(DrawingFile& file, const EntityTable& entities, const LayoutTable& layouts,
+        const LayerTable& layers, LayerRecords& records, LayerOverrides& overrides)
+        : m_file(file),
+          m_entities(entities),
+          m_layouts(layouts),
+          m_layers(layers),
+          m_records(records),
+          m_overrides(overrides)
+    {
+    }
 
     /// Refuses where there is no current viewport, or the format keeps nothing of this.
     Expected<void> check() const;
-    /// The entity that is the current viewport of the layout shown: the one last active in it, else
-    /// its first; -1 in model space and where the layout has none.
-    int current() const;
     /// The layers frozen in the current viewport, ascending.
     std::vector<LayerId> frozen() const;
     /// Refuses as `check` does.
@@ -37,16 +43,22 @@ public:
     /// refuses as `check` does.
     Expected<std::vector<LayerId>> override(
         const std::vector<LayerInViewport>& layers, int properties);
-    /// Takes layers that go, by their handles, out of every viewport's list.
-    void forget(const QSet<quint64>& handles);
+    /// Takes layers that went out of every viewport's list.
+    void follow(const LayerFates& fates);
 
 private:
     struct FrozenList;
 
-    FrozenList list(int viewport) const;
+    const Entity& current() const;
+    FrozenList list(const Entity& viewport) const;
     void write(const FrozenList& list, const std::vector<quint64>& added);
 
-    DrawingData& m_data;
+    DrawingFile& m_file;
+    const EntityTable& m_entities;
+    const LayoutTable& m_layouts;
+    const LayerTable& m_layers;
+    LayerRecords& m_records;
+    LayerOverrides& m_overrides;
 };
 
 } // namespace drawing

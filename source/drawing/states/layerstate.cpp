@@ -13,31 +13,6 @@ namespace drawing {
 
 namespace {
 
-/// What one bit of the mask stands for.
-struct MaskRow
-{
-    int bit;
-    void (*copy)(LayerProperties& to, const LayerProperties& from);
-};
-
-constexpr MaskRow kRows[] = {
-    {kStateOnOff, [](auto& to, auto& from) { to.off = from.off; }},
-    {kStateFreeze, [](auto& to, auto& from) { to.frozen = from.frozen; }},
-    {kStateLock, [](auto& to, auto& from) { to.locked = from.locked; }},
-    {kStatePlot, [](auto& to, auto& from) { to.plotted = from.plotted; }},
-    {kStateNewViewportFreeze,
-        [](auto& to, auto& from) { to.frozenInNewViewports = from.frozenInNewViewports; }},
-    {kStateColor,
-        [](auto& to, auto& from) {
-            to.colorIndex = from.colorIndex;
-            to.trueColor = from.trueColor;
-        }},
-    {kStateLinetype, [](auto& to, auto& from) { to.linetype = from.linetype; }},
-    {kStateLineweight, [](auto& to, auto& from) { to.lineweight = from.lineweight; }},
-    {kStatePlotStyle, [](auto& to, auto& from) { to.plotStyle = from.plotStyle; }},
-    {kStateTransparency, [](auto& to, auto& from) { to.transparency = from.transparency; }},
-};
-
 /// What a viewport may show otherwise than the layer says.
 constexpr int kOverridable =
     kStateColor | kStateLinetype | kStateLineweight | kStatePlotStyle | kStateTransparency;
@@ -260,7 +235,9 @@ void Restoring::apply(LayerId id, const LayerProperties& after)
     m_notices += applied.error().text;
     LayerProperties rest = after;
     rest.linetype = m_drawing.layer(id)->properties.linetype;
-    m_drawing.setLayerProperties(id, rest);
+    if (const auto done = m_drawing.setLayerProperties(id, rest);
+        !done && done.error().text != applied.error().text)
+        m_notices += done.error().text;
 }
 
 } // namespace
@@ -290,16 +267,6 @@ LayerState captureLayerState(const Drawing& drawing, const QString& name)
         state.layers.push_back(std::move(saved));
     }
     return state;
-}
-
-LayerProperties maskedProperties(const LayerProperties& now, const LayerProperties& saved, int mask)
-{
-    LayerProperties after = now;
-    for (const MaskRow& row : kRows) {
-        if (mask & row.bit)
-            row.copy(after, saved);
-    }
-    return after;
 }
 
 bool isSameAsDrawing(const LayerState& state, const Drawing& drawing)

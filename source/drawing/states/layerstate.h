@@ -1,7 +1,7 @@
 #pragma once
 
 #include "error.h"
-#include "layer.h"
+#include "layermask.h"
 
 #include <QStringList>
 
@@ -10,22 +10,6 @@
 namespace drawing {
 
 class Drawing;
-
-/// The properties a layer state restores, as the bits of its mask.
-enum LayerStateMask : int {
-    kStateOnOff = 1,
-    kStateFreeze = 2,
-    kStateLock = 4,
-    kStatePlot = 8,
-    kStateNewViewportFreeze = 16,
-    kStateColor = 32,
-    kStateLinetype = 64,
-    kStateLineweight = 128,
-    kStatePlotStyle = 256,
-    kStateCurrentViewport = 512,
-    kStateTransparency = 1024,
-    kStateEverything = 2047
-};
 
 /// One layer as a state holds it. The description is not part of a state.
 struct LayerStateLayer
@@ -55,10 +39,6 @@ bool operator==(const LayerState& a, const LayerState& b);
 /// The layers of the drawing as they are now; in a layout also which of them its current viewport
 /// hides.
 LayerState captureLayerState(const Drawing& drawing, const QString& name);
-
-/// `now` with the properties of `saved` that the mask names.
-LayerProperties maskedProperties(
-    const LayerProperties& now, const LayerProperties& saved, int mask);
 
 /// Whether restoring the state, over its own mask, would change nothing. Layers the state does not
 /// hold do not count; one the drawing lacks does. What a viewport hides counts in layouts, for

@@ -72,8 +72,7 @@ private:
 
 qint64 FileReader::run()
 {
-    const LayerStateNames noHandles;
-    LayerStateReader reader(m_codec, noHandles);
+    LayerStateReader reader(m_codec, {});
     TagReader tags(m_bytes);
     Tag tag;
     while (tags.next(tag)) {

@@ -1,11 +1,15 @@
 #pragma once
 
-#include "drawingdata.h"
+#include "drawingfile.h"
 #include "error.h"
+#include "layerfates.h"
+#include "layerstatetable.h"
 #include "layerstatetags.h"
-#include "symboltables.h"
+#include "layertable.h"
+#include "linetypetable.h"
 
-#include <functional>
+#include <memory>
+#include <optional>
 
 namespace drawing {
 
@@ -14,10 +18,25 @@ namespace drawing {
 class LayerStates
 {
 public:
-    explicit LayerStates(DrawingData& data) : m_data(data) {}
+    /// Null: as the file was read.
+    using State = std::shared_ptr<const LayerStateTable>;
+
+    LayerStates(DrawingFile& file, const LayerTable& layers, const LinetypeTable& linetypes)
+        : m_file(file),
+          m_layers(layers),
+          m_linetypes(linetypes)
+    {
+    }
+    /// Where a format without objects keeps layer states.
+    void setPath(const QString& path) { m_path = path; }
 
     /// Whether the format has a place for states in the drawing itself.
-    bool liveInDrawing() const { return m_data.limits.markers; }
+    bool liveInDrawing() const { return m_file.limits().markers; }
+    /// The file beside the drawing; empty where they live in the drawing itself.
+    QString path() const { return liveInDrawing() ? QString() : m_path; }
+    /// Formats without objects: puts the states beside the drawing, when they are others than
+    /// there.
+    Expected<void> saveAside(const QString& path);
     QStringList names() const;
     std::vector<LayerState> all() const;
     std::optional<LayerState> find(const QString& name) const;
@@ -27,25 +46,35 @@ public:
     Expected<void> remove(const QStringList& names);
     Expected<void> rename(const QString& name, const QString& newName);
 
-    /// Runs `change` over the tags of every state.
-    void rewrite(const std::function<void(TagList&)>& change);
+    /// Layers in states follow what became of them: those that went are forgotten.
+    void follow(const LayerFates& fates);
+    /// Handles of the objects that hold states.
+    QSet<quint64> records() const;
+
+    State& state() { return m_state; }
+    const State& state() const { return m_state; }
 
 private:
     const LayerStateTable& table() const;
     void keep(LayerStateTable table);
     LayerStateTable load() const;
-    QByteArray bytes(const LayerStateEntry& entry) const;
-    LayerState read(const LayerStateEntry& entry, const LayerStateNames& names) const;
-    LayerStateNames namesByHandle() const;
-    LayerStateHandles handlesByName() const;
+    TagList tags(const LayerStateEntry& entry) const;
+    LayerState read(const LayerStateEntry& entry) const;
 
     void store(LayerStateEntry& entry, const QByteArray& record);
     void makeDictionary(LayerStateTable& table);
-    void linkExtension(quint64 handle);
     void writeDictionary(const LayerStateTable& table, const std::vector<quint64>& gone);
     Expected<void> readyToWrite() const;
+    bool follow(TagList& tags, const LayerFates& fates) const;
 
-    DrawingData& m_data;
+    DrawingFile& m_file;
+    const LayerTable& m_layers;
+    const LinetypeTable& m_linetypes;
+    QString m_path;
+    mutable QString m_fault; ///< Why the file beside the drawing could not be read.
+    mutable State m_loaded;  ///< Null until they are asked for.
+    State m_state;
+    State m_saved; ///< What the file beside the drawing has.
 };
 
 } // namespace drawing

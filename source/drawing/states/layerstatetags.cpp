@@ -11,15 +11,12 @@ enum Code {
     kPlotStyleByName = 1,
     kPlotStyle = 2,
     kLinetype = 6,
-    kLayerName = 8,
     kColorIndex = 62,
     kFlags = 90,
     kMask = 91,
     kTrueColor = 92,
     kFromLayout = 290,
     kDescription = 301,
-    kCurrentLayer = 302,
-    kLayerHandle = 330,
     kLinetypeHandle = 331,
     kLineweight = 370,
     kTransparency = 440
@@ -51,18 +48,34 @@ qint64 flagsOf(const LayerStateLayer& layer)
 
 } // namespace
 
-LayerStateReader::LayerStateReader(const TextCodec& codec, const LayerStateNames& names)
-    : m_codec(codec),
-      m_names(names)
+QString LayerStateHandles::layerName(quint64 handle) const
 {
+    const Layer* layer = layers ? layers->byHandle(handle) : nullptr;
+    return layer ? layer->properties.name : QString();
+}
+
+QString LayerStateHandles::linetypeName(quint64 handle) const
+{
+    return linetypes ? linetypes->name(handle) : QString();
+}
+
+quint64 LayerStateHandles::layer(const QString& name) const
+{
+    const Layer* found = layers ? layers->find(name) : nullptr;
+    return found ? layers->entry(found->id).handle : 0;
+}
+
+quint64 LayerStateHandles::linetype(const QString& name) const
+{
+    return linetypes ? linetypes->handle(name) : 0;
 }
 
 void LayerStateReader::take(const Tag& tag)
 {
-    if (tag.code == kLayerName)
+    if (tag.code == kStateLayerName)
         openLayer(m_codec.decode(tag.trimmed()));
-    else if (tag.code == kLayerHandle)
-        openLayer(m_names.layers.value(tag.handle()));
+    else if (tag.code == kStateLayerHandle)
+        openLayer(m_handles.layerName(tag.handle()));
     else if (m_isLayerOpen)
         takeLayer(tag);
     else
@@ -85,7 +98,7 @@ void LayerStateReader::takeHead(const Tag& tag)
     case kFromLayout:
         m_state.fromLayout = tag.integer() != 0;
         break;
-    case kCurrentLayer:
+    case kStateCurrentLayer:
         m_state.currentLayer = m_codec.decode(tag.trimmed());
         break;
     default:
@@ -105,7 +118,8 @@ void LayerStateReader::takeLayer(const Tag& tag)
         p.linetype = decoded(m_linetype, tag.trimmed());
         break;
     case kLinetypeHandle:
-        p.linetype = m_names.linetypes.value(tag.handle(), p.linetype);
+        if (const QString name = m_handles.linetypeName(tag.handle()); !name.isNull())
+            p.linetype = name;
         break;
     case kColorIndex:
         if (const qint64 index = std::abs(tag.integer()); index >= 1 && index <= kLastColorIndex)
@@ -179,13 +193,13 @@ QByteArray layerStateTags(const LayerState& state, const LayerStateHandles& hand
     QByteArray bytes = style.number(kMask, state.mask) +
                        style.tag(kDescription, codec.encode(state.description)) +
                        style.number(kFromLayout, state.fromLayout ? 1 : 0) +
-                       style.tag(kCurrentLayer, codec.encode(state.currentLayer));
+                       style.tag(kStateCurrentLayer, codec.encode(state.currentLayer));
     for (const LayerStateLayer& layer : state.layers) {
         const LayerProperties& p = layer.properties;
-        const quint64 own = handles.layers.value(p.name.toCaseFolded());
-        const quint64 linetype = handles.linetypes.value(p.linetype.toCaseFolded());
-        bytes += own != 0 ? style.handle(kLayerHandle, own)
-                          : style.tag(kLayerName, codec.encode(p.name));
+        const quint64 own = handles.layer(p.name);
+        const quint64 linetype = handles.linetype(p.linetype);
+        bytes += own != 0 ? style.handle(kStateLayerHandle, own)
+                          : style.tag(kStateLayerName, codec.encode(p.name));
         bytes += style.number(kFlags, flagsOf(layer)) + style.number(kColorIndex, p.colorIndex) +
                  style.number(kLineweight, p.lineweight);
         bytes += linetype != 0 ? style.handle(kLinetypeHandle, linetype)

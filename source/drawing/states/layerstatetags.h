@@ -1,28 +1,32 @@
 #pragma once
 
 #include "layerstate.h"
+#include "layertable.h"
+#include "linetypetable.h"
 #include "taglist.h"
 #include "textcodec.h"
-
-#include <QHash>
 
 #include <set>
 
 namespace drawing {
 
-/// What the handles in a state stand for.
-struct LayerStateNames
-{
-    QHash<quint64, QString> layers;
-    QHash<quint64, QString> linetypes;
-};
-
-/// The handles of what a state names, by folded name; what has none is written by name.
+/// What the handles in a drawing's states stand for; files of states have none.
 struct LayerStateHandles
 {
-    QHash<QString, quint64> layers;
-    QHash<QString, quint64> linetypes;
+    const LayerTable* layers = nullptr;
+    const LinetypeTable* linetypes = nullptr;
+
+    QString layerName(quint64 handle) const;
+    QString linetypeName(quint64 handle) const;
+    /// 0 for what has none and is written by name.
+    quint64 layer(const QString& name) const;
+    quint64 linetype(const QString& name) const;
 };
+
+/// The groups of a state that name layers.
+constexpr int kStateLayerName = 8;
+constexpr int kStateCurrentLayer = 302;
+constexpr int kStateLayerHandle = 330;
 
 /// What of the tags of states said nothing that can be used.
 struct LayerStateUnused
@@ -36,8 +40,12 @@ struct LayerStateUnused
 class LayerStateReader
 {
 public:
-    /// Both must outlive the reader.
-    LayerStateReader(const TextCodec& codec, const LayerStateNames& names);
+    /// `codec` must outlive the reader.
+    LayerStateReader(const TextCodec& codec, const LayerStateHandles& handles)
+        : m_codec(codec),
+          m_handles(handles)
+    {
+    }
 
     void take(const Tag& tag);
     /// Forgets the layer whose tags were being read.
@@ -61,7 +69,7 @@ private:
     const QString& decoded(Decoded& last, std::string_view bytes) const;
 
     const TextCodec& m_codec;
-    const LayerStateNames& m_names;
+    LayerStateHandles m_handles;
     LayerState m_state;
     LayerStateLayer m_layer;
     LayerStateUnused m_unused;

@@ -112,8 +112,8 @@ void Translation::findBlockContents()
     m_hasBlockContents.assign(static_cast<size_t>(m_data.layers.entryCount()), false);
     if (m_options.inBlocks)
         return;
-    for (const Entity& entity : m_data.index.entities) {
-        if (!entity.removed && isInBlock(m_data, entity))
+    for (const Entity& entity : m_data.entities.all()) {
+        if (!entity.removed && m_data.entities.isInBlock(entity))
             m_hasBlockContents[static_cast<size_t>(entity.layer)] = true;
     }
 }
@@ -199,8 +199,7 @@ void Translation::moveContents()
     moves.reserve(m_plans.size());
     for (const Plan& plan : m_plans)
         moves.push_back({plan.from, plan.to});
-    EntityEdits edits(m_data);
-    edits.moveContents(moves,
+    m_data.entityEdits.moveContents(moves,
         {m_options.inBlocks,
             {m_options.colorByLayer, m_options.linetypeByLayer, m_options.transparencyByLayer}});
     for (size_t i = 0; i < moves.size(); ++i) {
@@ -209,7 +208,7 @@ void Translation::moveContents()
         result.leftInBlocks = moves[i].leftInBlocks;
         if (!mayGo(m_plans[i], moves[i]))
             continue;
-        edits.dropRecord(m_plans[i].from, m_plans[i].to);
+        m_data.layerEdits.drop(m_plans[i].from, m_plans[i].to);
         result.sourceRemoved = true;
     }
 }

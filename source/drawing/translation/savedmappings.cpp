@@ -1,9 +1,8 @@
 #include "savedmappings.h"
 
 #include "drawingtexts.h"
-#include "handles.h"
-#include "objectedits.h"
-#include "symboltables.h"
+#include "groupcode.h"
+#include "owntags.h"
 
 namespace drawing {
 
@@ -16,98 +15,96 @@ constexpr char kIdleZeroKey[] = "*0";
 // Groups of a mapping's record.
 constexpr int kFrom = 1;
 constexpr int kTo = 2;
-constexpr int kToHandle = 340; // A hard pointer: the layer is not purged as long as it is a target.
-
-QHash<quint64, QString> layerNames(const LayerTable& layers)
-{
-    QHash<quint64, QString> names;
-    for (const Layer& layer : layers.listed())
-        names.insert(layers.entry(layer.id).handle, layer.properties.name);
-    return names;
-}
+/// A hard pointer: the layer is not purged as long as it is a target.
+constexpr int kToHandle = group::kHardPointer;
 
 } // namespace
 
-const ObjectPlace* SavedMappings::root() const
+std::vector<Dictionary::Entry> SavedMappings::entries() const
 {
-    const std::vector<ObjectPlace>& objects = m_data.index.objects;
-    const bool hasRoot = !objects.empty() && objects.front().kind == ObjectKind::Dictionary;
-    return hasRoot ? &objects.front() : nullptr;
-}
-
-const ObjectPlace* SavedMappings::dictionary() const
-{
-    return dictionaryEntry(m_data, root(), kDictionaryKey);
+    const Objects& objects = m_file.objects();
+    const ObjectPlace* root = objects.root();
+    return root ? objects.dictionary(objects.entry(root->handle, kDictionaryKey)).entries()
+                : std::vector<Dictionary::Entry>();
 }
 
 SavedMappingList SavedMappings::read() const
 {
-    const QHash<quint64, QString> names = layerNames(m_data.layers);
     SavedMappingList list;
-    for (const DictionaryEntry& entry : dictionaryEntries(m_data, dictionary())) {
+    for (const Dictionary::Entry& entry : entries()) {
         if (entry.key == kIdleZeroKey)
             list.isZeroIdle = true;
-        if (entry.key == kIdleZeroKey || !entry.object || entry.object->kind != ObjectKind::XRecord)
+        if (entry.key == kIdleZeroKey || m_file.objects().kind(entry.object) != ObjectKind::XRecord)
             continue;
         SavedMapping mapping;
-        QString known;
-        TagReader tags = m_data.tags(entry.object->range);
-        Tag tag;
-        while (tags.next(tag)) {
-            if (tag.code == kFrom)
-                mapping.from = m_data.codec.decode(tag.trimmed());
-            else if (tag.code == kTo)
-                mapping.to = m_data.codec.decode(tag.trimmed());
-            else if (tag.code == kToHandle)
-                known = names.value(tag.handle());
+        const TagList tags = m_file.objects().tags(entry.object);
+        const Layer* known = nullptr;
+        for (int at = 0; at < tags.size(); ++at) {
+            if (tags.code(at) == kFrom)
+                mapping.from = m_file.decoded(tags.trimmed(at));
+            else if (tags.code(at) == kTo)
+                mapping.to = m_file.decoded(tags.trimmed(at));
+            else if (tags.code(at) == kToHandle)
+                known = m_layers.byHandle(tags.handle(at));
         }
-        if (!known.isEmpty())
-            mapping.to = known;
+        if (known)
+            mapping.to = known->properties.name;
         list.mappings.push_back(mapping);
     }
     return list;
 }
 
-void SavedMappings::writeRecord(quint64 handle, quint64 owner, const QByteArray& data)
-{
-    ObjectEdits objects(m_data);
-    objects.store(handle, newRecordHead(objects.style(), handle, owner) + data);
-}
-
 Expected<void> SavedMappings::write(const SavedMappingList& list)
 {
-    const ObjectPlace* root = this->root();
-    if (!m_data.limits.markers || !root)
-        return tl::make_unexpected(
-            Error{Texts::tr("此文件的格式（DXF R12 或没有对象字典）不能保存图层映射。"), 0, false});
-    ObjectEdits objects(m_data);
-    SymbolTables tables(m_data);
+    Objects& objects = m_file.objects();
+    const ObjectPlace* root = objects.root();
+    if (!m_file.limits().markers || !root)
+        return refusal(Texts::tr("此文件的格式（DXF R12 或没有对象字典）不能保存图层映射。"));
     const TagStyle style = objects.style();
-    const ObjectPlace* old = dictionary();
-    for (const ObjectPlace* record : dictionaryObjects(m_data, old))
-        m_data.journal.replace(record->range, {});
-    const quint64 handle = old ? old->handle : tables.takeHandle();
-    QByteArray entries;
-    if (list.isZeroIdle) {
-        const quint64 record = tables.takeHandle();
-        entries += style.tag(3, kIdleZeroKey) + style.handle(360, record);
-        writeRecord(record, handle, {});
-    }
-    for (const SavedMapping& mapping : list.mappings) {
-        const quint64 record = tables.takeHandle();
-        const QByteArray from = m_data.codec.encode(mapping.from);
-        entries += style.tag(3, from) + style.handle(360, record);
-        const Layer* target = m_data.layers.find(mapping.to);
-        QByteArray data = style.tag(kFrom, from) + style.tag(kTo, m_data.codec.encode(mapping.to));
-        if (target)
-            data += style.handle(kToHandle, m_data.layers.entry(target->id).handle);
-        writeRecord(record, handle, data);
-    }
-    const QByteArray bytes = newDictionary(style, handle, root->handle, entries);
-    objects.store(handle, bytes);
-    if (!old)
+    for (const Dictionary::Entry& entry : entries())
+        objects.erase(entry.object);
+    quint64 handle = objects.entry(root->handle, kDictionaryKey);
+    if (handle == 0) {
+        handle = m_file.takeHandle();
         objects.addEntry(root->handle, kDictionaryKey, handle);
+    }
+    Dictionary dictionary(m_file.tagList(newDictionary(style, handle, root->handle)));
+    if (list.isZeroIdle)
+        dictionary.add(kIdleZeroKey, objects.addRecord(handle, {}));
+    for (const SavedMapping& mapping : list.mappings) {
+        const QByteArray from = m_file.encoded(mapping.from);
+        QByteArray data = style.tag(kFrom, from) + style.tag(kTo, m_file.encoded(mapping.to));
+        if (const Layer* target = m_layers.find(mapping.to))
+            data += style.handle(kToHandle, m_layers.entry(target->id).handle);
+        dictionary.add(from, objects.addRecord(handle, data));
+    }
+    objects.store(handle, dictionary.tags());
     return {};
+}
+
+void SavedMappings::follow(const LayerFates& fates)
+{
+    for (const Dictionary::Entry& entry : entries()) {
+        TagList tags = m_file.objects().tags(entry.object);
+        const int to = tags.find(kTo, 0, tags.size());
+        if (to == TagList::kNone)
+            continue;
+        const QString follower = fates.follower(m_file.decoded(tags.trimmed(to)));
+        if (!follower.isNull())
+            tags.setText(to, m_file.encoded(follower));
+        const int pointer = tags.find(kToHandle, to, tags.size());
+        if (pointer != TagList::kNone && fates.isRemovedHandle(tags.handle(pointer)))
+            tags.setHandle(pointer, fates.heirHandle(tags.handle(pointer)));
+        m_file.objects().store(entry.object, tags);
+    }
+}
+
+QSet<quint64> SavedMappings::records() const
+{
+    QSet<quint64> records;
+    for (const Dictionary::Entry& entry : entries())
+        records.insert(entry.object);
+    return records;
 }
 
 } // namespace drawing

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "drawingdata.h"
+#include "drawingfile.h"
 #include "error.h"
+#include "layerfates.h"
+#include "layertable.h"
 
 namespace drawing {
 
@@ -23,20 +25,24 @@ struct SavedMappingList
 class SavedMappings
 {
 public:
-    explicit SavedMappings(DrawingData& data) : m_data(data) {}
+    SavedMappings(DrawingFile& file, const LayerTable& layers) : m_file(file), m_layers(layers) {}
 
-    /// As the file was read. A target that was renamed since they were saved has its new name.
+    /// As edited so far.
     SavedMappingList read() const;
-    /// Puts mappings in the place of those the file has; once while the file is open. Refuses a
-    /// format without objects, and a file without a root dictionary.
+    /// Puts mappings in the place of those the file has. Refuses a format without objects, and a
+    /// file without a root dictionary.
     Expected<void> write(const SavedMappingList& list);
+    /// Targets that were renamed or merged are named as they are now. One that is gone stays named,
+    /// so that who reads the mappings can tell what is missing.
+    void follow(const LayerFates& fates);
+    /// Handles of the records, which also name layers of other drawings.
+    QSet<quint64> records() const;
 
 private:
-    const ObjectPlace* root() const;
-    const ObjectPlace* dictionary() const;
-    void writeRecord(quint64 handle, quint64 owner, const QByteArray& data);
+    std::vector<Dictionary::Entry> entries() const;
 
-    DrawingData& m_data;
+    DrawingFile& m_file;
+    const LayerTable& m_layers;
 };
 
 } // namespace drawing

@@ -2,7 +2,6 @@
 
 #include "drawingprivate.h"
 #include "drawingtexts.h"
-#include "plotstyles.h"
 #include "savedmappings.h"
 #include "targetlayers.h"
 
@@ -69,7 +68,7 @@ class StandardWriter
 public:
     explicit StandardWriter(Drawing& drawing)
         : m_drawing(drawing),
-          m_saved(DrawingAccess::data(drawing)),
+          m_saved(DrawingAccess::data(drawing).mappings),
           m_layers(drawing)
     {
     }
@@ -80,7 +79,7 @@ public:
 
 private:
     Drawing& m_drawing;
-    SavedMappings m_saved;
+    SavedMappings& m_saved;
     TargetLayers m_layers;
     QHash<QString, TargetLayer> m_put; // By folded name.
     QStringList m_notices;
@@ -136,7 +135,7 @@ Expected<Standard> readStandard(const QString& path)
     if (!opened)
         return tl::make_unexpected(opened.error());
     Drawing& drawing = **opened;
-    const SavedMappingList saved = SavedMappings(DrawingAccess::data(drawing)).read();
+    const SavedMappingList saved = DrawingAccess::data(drawing).mappings.read();
     Standard standard;
     standard.layers = targetLayers(drawing);
     QHash<QString, const TargetLayer*> byName;
@@ -174,9 +173,9 @@ Expected<QStringList> saveStandard(const QString& path, const std::vector<LayerM
         return refusal(path, opened.error().text);
     Drawing& drawing = **opened;
     StandardWriter writer(drawing);
-    drawing.beginStep({});
+    DrawingStep step(drawing, {});
     if (const QStringList styles = namedPlotStyles(mappings, targets); isNew && !styles.isEmpty())
-        makePlotStyles(DrawingAccess::data(drawing), styles);
+        DrawingAccess::data(drawing).plotStyles.make(styles);
     Expected<void> done;
     for (auto mapping = mappings.begin(); done && mapping != mappings.end(); ++mapping)
         done = writer.putTarget(mapping->to);
@@ -186,7 +185,7 @@ Expected<QStringList> saveStandard(const QString& path, const std::vector<LayerM
         done = writer.putMappings(mappings, isNew);
     if (!done)
         return refusal(path, done.error().text);
-    drawing.commitStep();
+    step.commit();
     const QStringList notices = writer.takeNotices() + drawing.takeNotices();
     return drawing.save(path).map([&notices] { return notices; });
 }

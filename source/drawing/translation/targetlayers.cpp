@@ -1,6 +1,7 @@
 #include "targetlayers.h"
 
 #include "drawingtexts.h"
+#include "symbolname.h"
 
 #include <tuple>
 
@@ -13,7 +14,7 @@ bool isNamedPlotStyle(const QString& style)
 
 QString nameKey(const QString& name)
 {
-    return name.trimmed().toCaseFolded();
+    return foldedName(name.trimmed());
 }
 
 bool isSameTarget(const TargetLayer& a, const TargetLayer& b)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "drawingindex.h"
+#include "entitytable.h"
+#include "fileindex.h"
 #include "tagreader.h"
 
 #include <optional>
@@ -19,7 +20,7 @@ struct IndexFault
     std::string_view section; ///< The section it was found in; may be empty.
 };
 
-/// Makes the index in one pass over the tags.
+/// Finds where all stands, in one pass over the tags.
 class DrawingIndexer
 {
 public:
@@ -28,8 +29,8 @@ public:
     {
     }
 
-    /// Fills `index`; the fault that stopped it, if any.
-    std::optional<IndexFault> run(DrawingIndex& index);
+    /// Fills both; the fault that stopped it, if any.
+    std::optional<IndexFault> run(FileIndex& file, EntityIndex& entities);
 
 private:
     bool next();
@@ -55,7 +56,8 @@ private:
     qint64 m_nextReport = 0;
     Progress* m_progress = nullptr;
     Tag m_tag;
-    DrawingIndex* m_index = nullptr;
+    FileIndex* m_file = nullptr;
+    EntityIndex* m_entities = nullptr;
     std::string_view m_section;
     std::string_view m_lastKindName;
     EntityKind m_lastKind = EntityKind::Other;

@@ -1,7 +1,8 @@
 #include "drawingindexer.h"
 
-#include "drawing.h"
-#include "dxfnames.h"
+#include "entitykind.h"
+#include "groupcode.h"
+#include "progress.h"
 
 namespace drawing {
 
@@ -11,9 +12,10 @@ constexpr qint64 kReportEvery = 1 << 20;
 
 } // namespace
 
-std::optional<IndexFault> DrawingIndexer::run(DrawingIndex& index)
+std::optional<IndexFault> DrawingIndexer::run(FileIndex& file, EntityIndex& entities)
 {
-    m_index = &index;
+    m_file = &file;
+    m_entities = &entities;
     readSections();
     return m_fault;
 }
@@ -72,14 +74,13 @@ void DrawingIndexer::report()
 
 bool DrawingIndexer::readSections()
 {
-    constexpr int kComment = 999;
     do {
         if (!m_tags.next(m_tag))
             return fail(IndexFaultKind::NotTagged, 0);
-    } while (m_tag.code == kComment);
+    } while (m_tag.code == group::kComment);
     if (m_tag.code != 0 || m_tag.text() != "SECTION")
         return fail(IndexFaultKind::NotTagged, 0);
-    m_index->firstSection = m_tag.begin();
+    m_file->firstSection = m_tag.begin();
     while (m_tag.code != 0 || m_tag.text() != "EOF") {
         const bool isSection = m_tag.code == 0 && m_tag.text() == "SECTION";
         if (isSection && !readSection())
@@ -88,9 +89,9 @@ bool DrawingIndexer::readSections()
         if (!next())
             return false;
     }
-    m_index->eof = m_tag.begin();
-    if (m_index->firstBody < 0)
-        m_index->firstBody = m_tag.begin();
+    m_file->eof = m_tag.begin();
+    if (m_file->firstBody < 0)
+        m_file->firstBody = m_tag.begin();
     return true;
 }
 
@@ -100,11 +101,11 @@ bool DrawingIndexer::readSection()
     const qint64 begin = m_tag.begin();
     if (!next())
         return false;
-    if (m_tag.code == 2)
+    if (m_tag.code == group::kName)
         m_section = m_tag.text();
     const bool isBody = m_section != "HEADER" && m_section != "CLASSES" && m_section != "TABLES";
-    if (isBody && m_index->firstBody < 0)
-        m_index->firstBody = begin;
+    if (isBody && m_file->firstBody < 0)
+        m_file->firstBody = begin;
     if (m_section == "HEADER")
         readHeader();
     else if (m_section == "TABLES")
@@ -120,11 +121,11 @@ bool DrawingIndexer::readSection()
     if (m_fault)
         return false;
     if (m_section == "HEADER")
-        m_index->headerEnd = m_tag.begin();
+        m_file->headerEnd = m_tag.begin();
     if (m_section == "TABLES")
-        m_index->tablesEnd = m_tag.begin();
+        m_file->tablesEnd = m_tag.begin();
     if (m_section == "OBJECTS")
-        m_index->objectsEnd = m_tag.begin();
+        m_file->objectsEnd = m_tag.begin();
     return true;
 }
 
@@ -143,10 +144,9 @@ bool DrawingIndexer::readHeader()
     while (next()) {
         if (m_tag.code == 0 && !goesOn())
             break;
-        if (m_tag.code == 9) {
+        if (m_tag.code == group::kVariable) {
             const HeaderVariable which = headerVariable(m_tag.text());
-            value = which == HeaderVariable::Count ? nullptr
-                                                   : &m_index->header[static_cast<size_t>(which)];
+            value = which == HeaderVariable::Count ? nullptr : &m_file->header[which];
         } else if (value) {
             *value = m_tag;
             value = nullptr;
@@ -177,9 +177,9 @@ bool DrawingIndexer::readTable()
     std::string_view name;
     bool isRecord = false;
     while (next()) {
-        if (m_tag.code == 1003)
-            m_index->xdataNames.push_back(m_tag.valueRange().begin);
-        if (m_tag.code == 2 && name.empty() && read.endTab < 0)
+        if (m_tag.code == group::kXdataLayer)
+            m_entities->xdataNames.push_back(m_tag.valueRange().begin);
+        if (m_tag.code == group::kName && name.empty() && read.endTab < 0)
             name = m_tag.text();
         if (m_tag.code != 0)
             continue;
@@ -195,7 +195,7 @@ bool DrawingIndexer::readTable()
             read.records.push_back({m_tag.begin(), m_tag.begin()});
     }
     const TableKind kind = tableKind(name);
-    TablePlace& place = m_index->tables[static_cast<size_t>(kind)];
+    TablePlace& place = m_file->tables[kind];
     if (place.isNull())
         place = std::move(read);
     else
@@ -219,12 +219,12 @@ bool DrawingIndexer::readBlocks()
         const bool isEnd = m_tag.text() == "ENDBLK";
         if (isHead || isEnd) {
             readBlockHead();
-            block = isHead ? static_cast<int>(m_index->blocks.size()) - 1 : -1;
+            block = isHead ? static_cast<int>(m_entities->blocks.size()) - 1 : -1;
             continue;
         }
         readEntity(block);
         if (block >= 0)
-            ++m_index->blocks.back().count;
+            ++m_entities->blocks.back().count;
     }
     return !m_fault;
 }
@@ -234,18 +234,18 @@ bool DrawingIndexer::readBlockHead()
 {
     const bool isHead = m_tag.text() == "BLOCK";
     Block block;
-    block.first = static_cast<int>(m_index->entities.size());
+    block.first = static_cast<int>(m_entities->entities.size());
     Tag name;
     bool onLayer = false;
     while (next() && m_tag.code != 0) {
         switch (m_tag.code) {
-        case 2:
+        case group::kName:
             name = name.isNull() ? m_tag : name;
             break;
-        case 8:
+        case group::kLayer:
             if (!onLayer)
-                m_index->blockLayers.push_back({m_tag.valueRange().begin,
-                    static_cast<LayerId>(m_index->layerSpellings.intern(m_tag.text()))});
+                m_entities->blockLayers.push_back({m_tag.valueRange().begin,
+                    static_cast<LayerId>(m_entities->layerSpellings.intern(m_tag.text()))});
             onLayer = true;
             break;
         case 10:
@@ -254,16 +254,16 @@ bool DrawingIndexer::readBlockHead()
         case 20:
             block.baseY = m_tag.real();
             break;
-        case 1003:
-            m_index->xdataNames.push_back(m_tag.valueRange().begin);
+        case group::kXdataLayer:
+            m_entities->xdataNames.push_back(m_tag.valueRange().begin);
             break;
         default:
             break;
         }
     }
     if (isHead) {
-        m_index->blocks.push_back(block);
-        m_index->blockNames.push_back(name);
+        m_entities->blocks.push_back(block);
+        m_entities->blockNames.push_back(name);
     }
     return !m_fault;
 }
@@ -296,21 +296,21 @@ bool DrawingIndexer::readEntity(int block)
     Tag tag;
     ScanResult result = ScanResult::Tag;
     while ((result = tags.read(tag)) == ScanResult::Tag && tag.code != 0) {
-        if (tag.code == 8 && nameAt == 0) {
+        if (tag.code == group::kLayer && nameAt == 0) {
             nameAt = static_cast<quint32>(tag.value - m_tag.first);
-            entity.layer = static_cast<LayerId>(m_index->layerSpellings.intern(tag.text()));
-        } else if (tag.code == 67) {
+            entity.layer = static_cast<LayerId>(m_entities->layerSpellings.intern(tag.text()));
+        } else if (tag.code == group::kPaperSpace) {
             entity.paperSpace = tag.integer() == 1;
-        } else if (tag.code == 1003) {
-            m_index->xdataNames.push_back(tag.valueRange().begin);
+        } else if (tag.code == group::kXdataLayer) {
+            m_entities->xdataNames.push_back(tag.valueRange().begin);
         }
     }
     m_tags = tags;
     m_tag = tag;
     const bool isWhole = result == ScanResult::Tag || failed(result);
     entity.end = isWhole ? m_tag.begin() : m_tags.end();
-    m_index->entities.push_back(entity);
-    m_index->layerNameAt.push_back(nameAt);
+    m_entities->entities.push_back(entity);
+    m_entities->layerNameAt.push_back(nameAt);
     return isWhole;
 }
 
@@ -334,13 +334,13 @@ bool DrawingIndexer::readObjects()
         object.range.begin = m_tag.begin();
         object.kind = objectKind(m_tag.text());
         while (next() && m_tag.code != 0) {
-            if (m_tag.code == 5 && object.handle == 0)
+            if (m_tag.code == group::kHandle && object.handle == 0)
                 object.handle = m_tag.handle();
-            else if (m_tag.code == 1003)
-                m_index->xdataNames.push_back(m_tag.valueRange().begin);
+            else if (m_tag.code == group::kXdataLayer)
+                m_entities->xdataNames.push_back(m_tag.valueRange().begin);
         }
         object.range.end = m_tag.begin();
-        m_index->objects.push_back(object);
+        m_file->objects.push_back(object);
     }
     return !m_fault;
 }

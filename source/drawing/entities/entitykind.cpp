@@ -1,4 +1,4 @@
-#include "dxfnames.h"
+#include "entitykind.h"
 
 #include <algorithm>
 
@@ -38,22 +38,6 @@ constexpr NamedKind kKinds[] = {
     {"VIEWPORT", EntityKind::Viewport},
 };
 
-constexpr std::string_view kVariables[] = {
-    "$ACADVER", "$DWGCODEPAGE", "$CLAYER", "$HANDSEED", "$PSTYLEMODE", "$TILEMODE"};
-static_assert(std::size(kVariables) == static_cast<size_t>(HeaderVariable::Count));
-
-constexpr std::string_view kTables[] = {"LTYPE", "LAYER", "STYLE", "APPID", "BLOCK_RECORD"};
-static_assert(std::size(kTables) == static_cast<size_t>(TableKind::Other));
-
-constexpr std::pair<std::string_view, ObjectKind> kObjects[] = {
-    {"DICTIONARY", ObjectKind::Dictionary},
-    {"ACDBDICTIONARYWDFLT", ObjectKind::Dictionary},
-    {"XRECORD", ObjectKind::XRecord},
-    {"LAYER_FILTER", ObjectKind::LayerList},
-    {"LAYER_INDEX", ObjectKind::LayerList},
-    {"LAYOUT", ObjectKind::Layout},
-};
-
 } // namespace
 
 EntityKind entityKind(std::string_view name)
@@ -61,27 +45,6 @@ EntityKind entityKind(std::string_view name)
     const auto* known = std::lower_bound(std::begin(kKinds), std::end(kKinds), name,
         [](const NamedKind& kind, std::string_view wanted) { return kind.name < wanted; });
     return known != std::end(kKinds) && known->name == name ? known->kind : EntityKind::Other;
-}
-
-ObjectKind objectKind(std::string_view name)
-{
-    for (const auto& [known, kind] : kObjects) {
-        if (known == name)
-            return kind;
-    }
-    return ObjectKind::Other;
-}
-
-TableKind tableKind(std::string_view name)
-{
-    const auto* known = std::find(std::begin(kTables), std::end(kTables), name);
-    return static_cast<TableKind>(known - std::begin(kTables));
-}
-
-HeaderVariable headerVariable(std::string_view name)
-{
-    const auto* known = std::find(std::begin(kVariables), std::end(kVariables), name);
-    return static_cast<HeaderVariable>(known - std::begin(kVariables));
 }
 
 bool isSubEntity(EntityKind kind)

@@ -6,19 +6,11 @@
 
 namespace drawing {
 
-/// All that one step changed.
+/// A step that was done.
 struct UndoStep
 {
     QString name;
-    std::vector<EditChange> edits;
-    std::vector<LayerChange> layers;
-    std::vector<EntityChange> entities;
-    DocumentState before;
-    DocumentState after;
-
-    bool isEmpty() const;
-    /// Applies the step to the drawing, or takes it back.
-    void apply(DrawingData& data, bool forward) const;
+    DrawingData::Changes changes;
 };
 
 /// The steps done and undone, and which of them the file on disk has.

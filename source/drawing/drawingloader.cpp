@@ -1,0 +1,333 @@
+#include "drawingloader.h"
+
+#include "codepages.h"
+#include "drawingindexer.h"
+#include "drawingtexts.h"
+#include "layerrecord.h"
+#include "symbolname.h"
+
+#include <algorithm>
+
+namespace drawing {
+
+namespace {
+
+/// The line at an offset, from 1; 0 in files without lines.
+qint64 lineOf(const DrawingFile& file, qint64 offset)
+{
+    const char lineEnd = file.spelling() == Spelling::OldText ? '\r' : '\n';
+    return isBinary(file.spelling())
+               ? 0
+               : 1 + std::count(file.bytes().begin(), file.bytes().begin() + offset, lineEnd);
+}
+
+QString placeText(qint64 line, qint64 offset)
+{
+    return line > 0 ? Texts::tr("第 %1 行").arg(line) : Texts::tr("第 %1 字节").arg(offset + 1);
+}
+
+QString shown(std::string_view text)
+{
+    constexpr size_t kMost = 40;
+    const std::string_view part = trimmedView(text.substr(0, kMost));
+    return QString::fromUtf8(part.data(), static_cast<int>(part.size()));
+}
+
+Error faultError(const DrawingFile& file, const IndexFault& fault, const QString& fileName)
+{
+    Error error;
+    // Of a line that is too long it is known where its group begins, a line above.
+    error.line = lineOf(file, fault.offset);
+    if (error.line > 0 && fault.kind == IndexFaultKind::TooLong)
+        ++error.line;
+    const QString place = placeText(error.line, fault.offset);
+    const QString section = shown(fault.section);
+    switch (fault.kind) {
+    case IndexFaultKind::Cancelled:
+        error.cancelled = true;
+        error.text = Texts::tr("已取消打开文件“%1”。").arg(fileName);
+        break;
+    case IndexFaultKind::NotTagged:
+        error.text =
+            Texts::tr("文件“%1”不是 DXF 图形：它不以 SECTION 段开头（%2）。").arg(fileName, place);
+        break;
+    case IndexFaultKind::BadCode:
+        error.text =
+            isBinary(file.spelling())
+                ? Texts::tr("文件“%1”%2的组码不存在。").arg(fileName, place)
+                : Texts::tr("文件“%1”%2的组码“%3”不是数字。")
+                      .arg(fileName, place, shown(file.view(file.valueRange(fault.offset))));
+        break;
+    case IndexFaultKind::TooLong:
+        error.text = Texts::tr("文件“%1”%2太长，超过 %3 MB，不能读取。")
+                         .arg(fileName, place)
+                         .arg(kLongestLine >> 20);
+        break;
+    case IndexFaultKind::SectionNotEnded:
+        error.text =
+            Texts::tr("文件“%1”不完整：%3 段到%2仍没有 ENDSEC。").arg(fileName, place, section);
+        break;
+    case IndexFaultKind::CutOff:
+        error.text = section.isEmpty()
+                         ? Texts::tr("文件“%1”不完整：在%2中断，缺少 EOF。").arg(fileName, place)
+                         : Texts::tr("文件“%1”不完整：在%2、%3 段中中断，缺少 ENDSEC 和 EOF。")
+                               .arg(fileName, place, section);
+        break;
+    }
+    return error;
+}
+
+/// What is no tagged text at all is told apart by how it begins.
+Expected<void> checkFormat(std::string_view bytes, const QString& fileName)
+{
+    const auto refusal = [&fileName](const char* text) {
+        return tl::make_unexpected(Error{Texts::tr(text).arg(fileName), 1, false});
+    };
+    if (bytes.empty())
+        return refusal(QT_TRANSLATE_NOOP("drawing", "文件“%1”是空的，不是 DXF 图形（第 1 行）。"));
+    if (bytes.substr(0, 4) == "AC10")
+        return refusal(QT_TRANSLATE_NOOP(
+            "drawing", "文件“%1”是 DWG 图形，不能读取；请先另存为 DXF（第 1 行）。"));
+    return {};
+}
+
+class Loader
+{
+public:
+    Loader(DrawingData& data, FileIndex index, EntityIndex entities)
+        : m_data(data),
+          m_index(std::move(index)),
+          m_entities(std::move(entities))
+    {
+    }
+
+    Expected<void> run(const OpenOptions& options, const QString& fileName);
+
+private:
+    Expected<TextCodec> chosenCodec(const OpenOptions& options);
+    TextEvidence textEvidence() const;
+    Expected<void> checkLayerTable(const QString& fileName) const;
+    void loadLayerRecords();
+    void loadNamedLayers();
+    void loadEntities();
+    std::vector<LayerNamePlace> namePlaces() const;
+    void nameBlocks();
+
+    std::string_view variable(HeaderVariable which) const
+    {
+        return m_index.header[which].trimmed();
+    }
+    /// Files without a version come from programs that write R12.
+    std::string_view version() const
+    {
+        const std::string_view stated = variable(HeaderVariable::Version);
+        return stated.empty() ? "AC1009" : stated;
+    }
+    LayerId layerNamed(std::string_view spelling);
+    LayerId layerOf(LayerId spelling) const;
+
+    DrawingData& m_data;
+    FileIndex m_index; // Until the file takes it.
+    EntityIndex m_entities;
+    std::vector<LayerId> m_layerOfSpelling;
+};
+
+Expected<void> Loader::run(const OpenOptions& options, const QString& fileName)
+{
+    auto codec = chosenCodec(options);
+    if (!codec)
+        return tl::make_unexpected(codec.error());
+    if (isBinary(m_data.file.spelling()))
+        codec->setControls(TextCodec::Controls::Raw);
+    const std::string_view current = variable(HeaderVariable::CurrentLayer);
+    const FormatLimits limits = FormatLimits::of(version());
+    m_data.file.setIndex(std::move(m_index), *codec, limits);
+    if (auto checked = checkLayerTable(fileName); !checked)
+        return checked;
+    m_data.linetypes.load();
+    m_data.plotStyles.load();
+    loadLayerRecords();
+    loadNamedLayers();
+    m_data.layers.setCurrent(current.empty() ? m_data.layers.zero() : layerNamed(current));
+    loadEntities();
+    m_data.layouts.load(m_data.file, m_data.entities);
+    return {};
+}
+
+/// The code page wanted, else the file's own; texts that are plainly UTF-8 are read so, whatever an
+/// old file says. What had to be guessed is noted.
+Expected<TextCodec> Loader::chosenCodec(const OpenOptions& options)
+{
+    const std::string_view named = variable(HeaderVariable::CodePage);
+    if (!options.codePage.isEmpty()) {
+        const auto wanted = TextCodec::ofCodePage(
+            {options.codePage.constData(), static_cast<size_t>(options.codePage.size())});
+        if (!wanted)
+            return tl::make_unexpected(Error{
+                Texts::tr("没有代码页“%1”。").arg(QString::fromUtf8(options.codePage)), 0, false});
+        return *wanted;
+    }
+    const TextCodec codec(version(), named);
+    if (codec == TextCodec::utf8())
+        return codec;
+    const bool isKnown = TextCodec::ofCodePage(named).has_value();
+    const TextEvidence evidence = textEvidence();
+    if (evidence.speaksForUtf8(codec))
+        return TextCodec::utf8();
+    if (!isKnown && !isNoCodePage(named))
+        m_data.openingNotices += Texts::tr("图形声明的代码页“%1”无法识别，文字按 %2 读取；"
+                                           "可以用其他代码页重新打开。")
+                                     .arg(shown(named), codec.title());
+    else if (!isKnown && !evidence.isAscii())
+        m_data.openingNotices += Texts::tr("图形没有说明文字的代码页，按 %1 读取；"
+                                           "可以用其他代码页重新打开。")
+                                     .arg(codec.title());
+    return codec;
+}
+
+TextEvidence Loader::textEvidence() const
+{
+    TextEvidence evidence;
+    if (!isBinary(m_data.file.spelling())) {
+        evidence.add(m_data.file.bytes());
+        return evidence;
+    }
+    TagReader tags = m_data.file.allTags();
+    Tag tag;
+    while (tags.next(tag))
+        evidence.add(tag.text());
+    return evidence;
+}
+
+Expected<void> Loader::checkLayerTable(const QString& fileName) const
+{
+    const DrawingFile& file = m_data.file;
+    if (!file.limits().markers || !file.table(TableKind::Layer).isNull())
+        return {};
+    const qint64 offset =
+        file.index().tablesEnd < 0 ? file.index().firstBody : file.index().tablesEnd;
+    const qint64 line = lineOf(file, offset);
+    return tl::make_unexpected(
+        Error{Texts::tr("文件“%1”没有图层表（LAYER），到第 %2 行 TABLES 段已结束。")
+                  .arg(fileName, QString::number(line)),
+            line, false});
+}
+
+void Loader::loadLayerRecords()
+{
+    const std::vector<ByteRange>& records = m_data.file.table(TableKind::Layer).records;
+    LayerRecordReader reader(m_data.file.codec());
+    m_data.layers.reserve(records.size());
+    for (const ByteRange& range : records) {
+        const LayerRecord record = reader.read(m_data.file.tags(range));
+        // Nothing can be on it: entities that name no layer are on layer 0.
+        if (record.properties.name.isEmpty())
+            continue;
+        LayerEntry entry;
+        entry.layer.properties = record.properties;
+        LayerProperties& p = entry.layer.properties;
+        p.plotStyle = m_data.plotStyles.name(p.colorIndex, record.plotStyle);
+        entry.layer.dependsOnReference =
+            record.dependsOnReference || p.name.contains(QLatin1Char('|'));
+        entry.place = {range.begin};
+        entry.end = range.end;
+        entry.handle = record.handle;
+        entry.plotStyle = record.plotStyle;
+        entry.extension = record.extension;
+        entry.hasRecord = true;
+        entry.present = true;
+        m_data.layers.load(entry);
+    }
+}
+
+/// Layers that only entities name are layers too, with everything as a plain layer has it.
+LayerId Loader::layerNamed(std::string_view spelling)
+{
+    QString name = m_data.file.decoded(trimmedView(spelling));
+    if (name.isEmpty())
+        name = QStringLiteral("0");
+    if (const Layer* layer = m_data.layers.find(name))
+        return layer->id;
+    LayerEntry entry;
+    LayerProperties& p = entry.layer.properties;
+    p.name = name;
+    p.plotStyle = m_data.plotStyles.name(p.colorIndex, 0);
+    entry.layer.dependsOnReference = name.contains(QLatin1Char('|'));
+    entry.present = true;
+    return m_data.layers.load(entry);
+}
+
+void Loader::loadNamedLayers()
+{
+    layerNamed("0");
+    for (const std::string_view spelling : m_entities.layerSpellings.names())
+        m_layerOfSpelling.push_back(layerNamed(spelling));
+}
+
+LayerId Loader::layerOf(LayerId spelling) const
+{
+    return spelling == LayerId::None ? m_data.layers.zero()
+                                     : m_layerOfSpelling[static_cast<size_t>(spelling)];
+}
+
+void Loader::loadEntities()
+{
+    std::vector<int> counts(static_cast<size_t>(m_data.layers.entryCount()));
+    const LayerId zero = m_data.layers.zero();
+    for (Entity& entity : m_entities.entities) {
+        entity.layer = entity.layer == LayerId::None ? zero : layerOf(entity.layer);
+        if (!entity.subEntity)
+            ++counts[static_cast<size_t>(entity.layer)];
+    }
+    for (int i = 0; i < m_data.layers.entryCount(); ++i)
+        m_data.layers.setEntityCount(static_cast<LayerId>(i), counts[static_cast<size_t>(i)]);
+    nameBlocks();
+    std::vector<LayerNamePlace> places = namePlaces();
+    m_data.entities.load(std::move(m_entities.entities), std::move(m_entities.layerNameAt),
+        std::move(m_entities.blocks), std::move(places));
+}
+
+std::vector<LayerNamePlace> Loader::namePlaces() const
+{
+    std::vector<LayerNamePlace> places;
+    for (const LayerNamePlace& place : m_entities.blockLayers)
+        places.push_back({place.value, layerOf(place.layer)});
+    // XDATA may name layers that are no more; it brings none about.
+    const DrawingFile& file = m_data.file;
+    for (const qint64 value : m_entities.xdataNames) {
+        const QString name = file.decoded(trimmedView(file.view(file.valueRange(value))));
+        if (const Layer* layer = m_data.layers.find(name))
+            places.push_back({value, layer->id});
+    }
+    return places;
+}
+
+void Loader::nameBlocks()
+{
+    for (size_t i = 0; i < m_entities.blocks.size(); ++i) {
+        Block& block = m_entities.blocks[i];
+        block.name = m_data.file.decoded(m_entities.blockNames[i].trimmed());
+        const QString name = foldedName(block.name);
+        block.layout = name.startsWith(QLatin1String("*model_space")) ||
+                       name.startsWith(QLatin1String("*paper_space")) ||
+                       name == QLatin1String("$model_space") ||
+                       name == QLatin1String("$paper_space");
+    }
+}
+
+} // namespace
+
+Expected<void> loadDrawing(
+    DrawingData& data, const QString& fileName, const OpenOptions& options, Progress* progress)
+{
+    const DrawingFile& file = data.file;
+    if (auto known = checkFormat(file.bytes(), fileName); !known)
+        return known;
+    FileIndex index;
+    EntityIndex entities;
+    if (const auto fault = DrawingIndexer(file.allTags(), progress).run(index, entities))
+        return tl::make_unexpected(faultError(file, *fault, fileName));
+    return Loader(data, std::move(index), std::move(entities)).run(options, fileName);
+}
+
+} // namespace drawing

@@ -1,0 +1,94 @@
+#include "layerfates.h"
+
+#include "symbolname.h"
+
+namespace drawing {
+
+LayerFates::LayerFates(const LayerTable& layers, const TextCodec& codec)
+{
+    std::vector<char> changed(static_cast<size_t>(layers.entryCount()));
+    std::vector<const LayerChange*> removals;
+    for (const LayerChange& change : layers.changes()) {
+        const QString& oldName = change.before.layer.properties.name;
+        const QString& name = change.after.layer.properties.name;
+        const bool isRemoved = change.before.present && !change.after.present;
+        if (!change.before.present || (!isRemoved && oldName == name))
+            continue;
+        changed[static_cast<size_t>(change.id)] = true;
+        if (isRemoved)
+            removals.push_back(&change);
+        else
+            m_newNames.insert(foldedName(oldName), name);
+    }
+    if (removals.empty() && m_newNames.isEmpty())
+        return;
+    follow(layers, codec, changed);
+    for (const LayerChange* removal : removals) {
+        const LayerEntry& before = removal->before;
+        const QString key = foldedName(before.layer.properties.name);
+        m_removed.push_back(before);
+        m_removedNames.insert(key);
+        const bool hasHeir = removal->after.heir != LayerId::None;
+        const LayerEntry& heir = layers.entry(of(removal->id).layer);
+        if (hasHeir)
+            m_heirs.insert(key, heir.layer.properties.name);
+        if (before.handle != 0)
+            m_removedHandles.insert(
+                before.handle, {before.layer.properties.name, hasHeir ? heir.handle : 0});
+    }
+}
+
+/// Follows every layer over those it was merged into, in this step and before, to one that is
+/// there.
+void LayerFates::follow(
+    const LayerTable& layers, const TextCodec& codec, const std::vector<char>& changed)
+{
+    const LayerId zero = layers.zero();
+    m_fates.resize(changed.size());
+    std::vector<size_t> path;
+    for (size_t id = 0; id < m_fates.size(); ++id) {
+        size_t at = id;
+        while (m_fates[at].layer == LayerId::None) {
+            const LayerEntry& entry = layers.entry(static_cast<LayerId>(at));
+            if (entry.present) {
+                m_fates[at].layer = static_cast<LayerId>(at);
+                if (changed[at])
+                    m_fates[at].name = codec.encode(entry.layer.properties.name);
+                break;
+            }
+            path.push_back(at);
+            at = static_cast<size_t>(entry.heir != LayerId::None ? entry.heir : zero);
+        }
+        for (; !path.empty(); path.pop_back()) {
+            const size_t gone = path.back();
+            m_fates[gone] = m_fates[at];
+            if (changed[gone] && m_fates[gone].name.isNull())
+                m_fates[gone].name =
+                    codec.encode(layers.entry(m_fates[at].layer).layer.properties.name);
+            at = gone;
+        }
+    }
+}
+
+QString LayerFates::newName(const QString& name) const
+{
+    return m_newNames.value(foldedName(name));
+}
+
+bool LayerFates::isRemoved(const QString& name) const
+{
+    return m_removedNames.contains(foldedName(name));
+}
+
+QString LayerFates::heir(const QString& name) const
+{
+    return m_heirs.value(foldedName(name));
+}
+
+QString LayerFates::follower(const QString& name) const
+{
+    const QString key = foldedName(name);
+    return m_newNames.value(key, m_heirs.value(key));
+}
+
+} // namespace drawing

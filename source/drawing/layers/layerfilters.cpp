@@ -1,0 +1,54 @@
+#include "layerfilters.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace drawing {
+
+namespace {
+
+constexpr QLatin1Char kEscape('`');
+
+/// The name as a pattern that only it fits.
+QString escaped(const QString& name)
+{
+    QString pattern;
+    for (const QChar c : name) {
+        if (QStringLiteral("#@.[]~").contains(c))
+            pattern += kEscape;
+        pattern += c;
+    }
+    return pattern;
+}
+
+} // namespace
+
+QString followedPattern(const QString& pattern, const LayerFates& fates)
+{
+    // No name holds a comma or an escape.
+    QStringList parts = pattern.split(QLatin1Char(','));
+    for (QString& part : parts) {
+        const QString follower = fates.follower(QString(part).remove(kEscape));
+        if (!follower.isEmpty())
+            part = escaped(follower);
+    }
+    return parts.join(QLatin1Char(','));
+}
+
+QString followedExpression(const QString& expression, const LayerFates& fates)
+{
+    static const QRegularExpression term(
+        QStringLiteral("\\bNAME\\s*==\\s*\"([^\"]*)\""), QRegularExpression::CaseInsensitiveOption);
+    QString followed;
+    int from = 0;
+    auto terms = term.globalMatch(expression);
+    while (terms.hasNext()) {
+        const QRegularExpressionMatch match = terms.next();
+        followed += expression.midRef(from, match.capturedStart(1) - from);
+        followed += followedPattern(match.captured(1), fates);
+        from = match.capturedEnd(1);
+    }
+    return followed + expression.midRef(from);
+}
+
+} // namespace drawing
