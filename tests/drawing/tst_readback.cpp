@@ -46,7 +46,7 @@ private slots:
         }
     }
 
-    void changed_data() { everyDrawing({m_twins.path()}); }
+    void changed_data() { everyDrawing(folders()); }
     void changed()
     {
         QFETCH(QString, path);
@@ -55,21 +55,21 @@ private slots:
         checkStep(*drawing, path, [&] { changeAll(*drawing); });
     }
 
-    void deleted_data() { everyDrawing({m_twins.path()}); }
+    void deleted_data() { everyDrawing(folders()); }
     void deleted()
     {
         QFETCH(QString, path);
         const auto drawing = opened(read(path));
-        const std::vector<LayerId> layers = everyOther(*drawing);
+        const std::vector<LayerId> layers = leaving(*drawing, 2);
         checkStep(*drawing, path, [&] { QVERIFY(drawing->deleteLayers(layers)); });
     }
 
-    void movedAndMerged_data() { everyDrawing({m_twins.path()}); }
+    void movedAndMerged_data() { everyDrawing(folders()); }
     void movedAndMerged()
     {
         QFETCH(QString, path);
         const auto drawing = opened(read(path));
-        const std::vector<LayerId> layers = everyOther(*drawing);
+        const std::vector<LayerId> layers = leaving(*drawing, 1);
         const LayerId zero = id(*drawing, "0");
         std::vector<int> entities;
         for (size_t i = 0; i < drawing->entities().size(); i += 3)
@@ -81,11 +81,18 @@ private slots:
     }
 
 private:
+    /// The twins, and whatever folders of drawings DRAWING_FOLDERS names, with colons between them.
+    QStringList folders() const
+    {
+        const QString more = QString::fromLocal8Bit(qgetenv("DRAWING_FOLDERS"));
+        return QStringList{m_twins.path()} + more.split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    }
+
     /// Breaks between lines are no numbers, which equal nothing.
     static bool isSame(const std::vector<QPointF>& a, const std::vector<QPointF>& b)
     {
-        return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-            [](const QPointF& one, const QPointF& other) {
+        return std::equal(
+            a.begin(), a.end(), b.begin(), b.end(), [](const QPointF& one, const QPointF& other) {
                 return one == other || (qIsNaN(one.x()) && qIsNaN(other.x()));
             });
     }
@@ -167,15 +174,15 @@ private:
         QVERIFY(made && drawing.setCurrentLayer(*made));
     }
 
-    /// Every other layer that may go.
-    static std::vector<LayerId> everyOther(const Drawing& drawing)
+    /// Of the layers that may go each one so many.
+    static std::vector<LayerId> leaving(const Drawing& drawing, int one)
     {
         std::vector<LayerId> layers;
         int number = 0;
         for (const Layer& layer : drawing.layers()) {
             const bool mayGo = layer.properties.name != "0" && layer.id != drawing.currentLayer() &&
                                !layer.dependsOnReference;
-            if (mayGo && number++ % 2 == 0)
+            if (mayGo && number++ % one == 0)
                 layers.push_back(layer.id);
         }
         return layers;

@@ -1,0 +1,209 @@
+#include "fixture.h"
+#include "rows.h"
+
+using namespace drawing;
+
+/// What names a layer follows it, and only it. Each row is the house with objects in it, a step,
+/// and the same objects afterwards.
+class TestReferences : public Fixture
+{
+    Q_OBJECT
+
+    enum Act { Rename, Merge, Delete };
+
+    /// The table's dictionary leads to old filters (D0), newer ones (D1), and an index is there.
+    static QByteArray house(const QByteArray& objects)
+    {
+        QByteArray lines = House::lines();
+        const int at = lines.indexOf("0 DICTIONARY\n5 A0");
+        lines.remove(at, lines.indexOf("0 ENDSEC", at) - at);
+        lines.insert(
+            at, "0 DICTIONARY\n5 A0\n3 ACAD_LAYERFILTERS\n360 D0\n3 ACLYDICTIONARY\n360 D1\n" +
+                    QByteArray(objects).replace(" | ", "\n"));
+        House made;
+        made.current = "0";
+        made.moreLayers = "0 LAYER\n5 13\n100 AcDbLayerTableRecord\n2 Third\n70 0\n"
+                          "0 LAYER\n5 14\n102 {ACAD_XDICTIONARY\n360 C0\n102 }\n"
+                          "100 AcDbLayerTableRecord\n2 Third @ 1\n70 0\n";
+        return made.filledIn(lines);
+    }
+
+private slots:
+    void objects_data()
+    {
+        const Rows<int, QByteArray, QByteArray> row("act", "before", "after");
+        const auto filter = [](const QByteArray& expression) {
+            return "0 DICTIONARY | 5 D1 | 3 *A1 | 350 D2\n0 XRECORD | 5 D2 | 100 AcDbXrecord\n"
+                   "280 1 | 1 AcLyLayerFilter | 90 1 | 300 Third | 301 " +
+                   expression + "\n";
+        };
+        row("term with blanks", Rename, filter("( NAME== \"third\" )"),
+            filter("( NAME== \"N`.1\" )"));
+        row("every term", Rename,
+            filter("NAME==\"A\" OR ( name == \"Third\" AND NAME==\"THIRD\" )"),
+            filter("NAME==\"A\" OR ( name == \"N`.1\" AND NAME==\"N`.1\" )"));
+        row("names in a list", Rename, filter("NAME==\"A*,Third\""), filter("NAME==\"A*,N`.1\""));
+        row("wildcards", Rename,
+            filter("NAME==\"Third*\" AND COLOR==\"Third\" AND LNAME==\"Third\""),
+            filter("NAME==\"Third*\" AND COLOR==\"Third\" AND LNAME==\"Third\""));
+        row("filter of a merged layer", Merge, filter("NAME==\"Third\""),
+            filter("NAME==\"Empty\""));
+        row("filter of a deleted layer", Delete, filter("NAME==\"Third\""),
+            filter("NAME==\"Third\""));
+
+        const QByteArray old =
+            "0 DICTIONARY | 5 D0 | 3 F | 350 D2\n0 XRECORD | 5 D2 | 100 AcDbXrecord\n"
+            "280 1 | 1 Third | 1 @ | 1 * | 70 0 | 1001 ACAD | 1000 ( NAME== \"@\" )\n";
+        row("old filter", Rename, QByteArray(old).replace("@", "THIRD"),
+            QByteArray(old).replace("@", "N`.1"));
+
+        const auto group = [](const QByteArray& layers) {
+            return "0 DICTIONARY | 5 D1 | 3 *A1 | 350 D2\n0 XRECORD | 5 D2\n102 {ACAD_XDICTIONARY\n"
+                   "360 D3 | 102 } | 100 AcDbXrecord | 1 AcLyLayerGroup\n300 G | " +
+                   layers +
+                   "\n0 DICTIONARY | 5 D3 | 3 ACLYDICTIONARY | 360 D4\n0 DICTIONARY | 5 D4 | 3 *A1 "
+                   "| "
+                   "350 D5\n0 XRECORD | 5 D5 | 100 AcDbXrecord\n1 AcLyLayerGroup | " +
+                   layers + "\n";
+        };
+        row("group within a group, renamed", Rename, group("330 10 | 330 13"),
+            group("330 10 | 330 13"));
+        row("merged", Merge, group("330 10 | 330 13"), group("330 10 | 330 12"));
+        row("merged, target listed", Merge, group("330 12 | 330 13"), group("330 12"));
+        row("deleted", Delete, group("330 10 | 330 13"), group("330 10"));
+
+        const QByteArray index =
+            "0 LAYER_INDEX | 5 E0 | 100 AcDbIndex | 40 1.5 | 100 AcDbLayerIndex\n";
+        row("index", Rename, index + "8 0 | 360 E1 | 90 1 | 8 Third | 360 E2 | 90 0\n",
+            index + "8 0 | 360 E1 | 90 1 | 8 N.1 | 360 E2 | 90 0\n");
+        row("index of a merged layer", Merge,
+            index + "8 Empty | 360 E1 | 90 1 | 8 Third | 360 E2 | 90 2\n"
+                    "0 IDBUFFER | 5 E1 | 330 0 | 100 AcDbIdBuffer | 330 70\n"
+                    "0 IDBUFFER | 5 E2 | 330 0 | 100 AcDbIdBuffer | 330 71 | 330 72\n",
+            index + "8 Empty | 360 E1 | 90 3\n"
+                    "0 IDBUFFER | 5 E1 | 330 0 | 100 AcDbIdBuffer | 330 70 | 330 71 | 330 72\n");
+        row("index of a deleted layer", Delete,
+            index + "8 0 | 360 E1 | 90 1 | 8 Third | 360 E2 | 90 0\n0 IDBUFFER | 5 E2 | 330 0\n",
+            index + "8 0 | 360 E1 | 90 1\n");
+    }
+
+    void objects()
+    {
+        QFETCH(int, act);
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        const auto drawing = opened(house(before));
+        const QByteArray original = saved(*drawing);
+        change(*drawing, act);
+        const QByteArray expected = house(after);
+        const int from = expected.indexOf("ACLYDICTIONARY");
+        QCOMPARE(objectsOf(saved(*drawing)), expected.mid(from));
+        QVERIFY(drawing->takeNotices().isEmpty());
+        checkUndo(*drawing, original);
+    }
+
+    void annotationCopies_data()
+    {
+        const Rows<int, QByteArray, QStringList, QByteArray> row(
+            "act", "record", "layers", "pointer");
+        row("renamed", Rename, "340 50\n340 13",
+            {"0", "Wall", "Empty", "N.1", "N.1 @ 1", "Implicit"}, "13");
+        row("merged", Merge, "340 50\n340 13", {"0", "Wall", "Empty", "Empty @ 1", "Implicit"},
+            "12");
+        row("deleted", Delete, "340 50\n340 13", {"0", "Wall", "Empty", "Implicit"}, "");
+        row("alike in name only", Rename, "340 50\n340 51",
+            {"0", "Wall", "Empty", "N.1", "Third @ 1", "Implicit"}, "51");
+    }
+
+    void annotationCopies()
+    {
+        QFETCH(int, act);
+        QFETCH(QByteArray, record);
+        QFETCH(QByteArray, pointer);
+        const auto drawing =
+            opened(house("0 DICTIONARY\n5 C0\n3 ASDK_XREC_ANNO_SCALE_INFO\n360 C1\n"
+                         "0 XRECORD\n5 C1\n100 AcDbXrecord\n280 1\n70 1\n" +
+                         record + "\n70 -1\n"));
+        const QByteArray original = saved(*drawing);
+        change(*drawing, act);
+        QStringList names;
+        for (const Layer& layer : drawing->layers())
+            names += layer.properties.name;
+        QTEST(names, "layers");
+        const QByteArray after = saved(*drawing);
+        QCOMPARE(
+            after.contains(tagged("340 50\n340 " + pointer + "\n70 -1\n")), !pointer.isEmpty());
+        QCOMPARE(after.contains(tagged("0 XRECORD\n5 C1\n")), !pointer.isEmpty());
+        checkUndo(*drawing, original);
+    }
+
+    /// What nobody understands keeps its bytes, and the user is told.
+    void opaque_data()
+    {
+        const Rows<int, QByteArray, bool> row("act", "object", "isNoted");
+        row("a name in a record", Rename, "0 XRECORD\n5 E0\n100 AcDbXrecord\n1 THIRD\n", true);
+        row("a handle in a record", Delete, "0 XRECORD\n5 E0\n100 AcDbXrecord\n330 13\n", true);
+        row("a handle of a layer that stays", Rename, "0 XRECORD\n5 E0\n100 AcDbXrecord\n330 13\n",
+            false);
+        row("a proxy", Merge, "0 ACAD_PROXY_OBJECT\n5 E0\n100 AcDbProxyObject\n90 499\n340 13\n",
+            true);
+        row("another name", Rename, "0 XRECORD\n5 E0\n100 AcDbXrecord\n1 Thirds\n", false);
+    }
+
+    void opaque()
+    {
+        QFETCH(int, act);
+        QFETCH(QByteArray, object);
+        QFETCH(bool, isNoted);
+        const auto drawing = opened(house(object));
+        change(*drawing, act);
+        QVERIFY(saved(*drawing).contains(tagged(object)));
+        const QString notices = drawing->takeNotices().join(QString());
+        QCOMPARE(notices.contains(QStringLiteral("“Third"), Qt::CaseInsensitive), isNoted);
+    }
+
+    void oldNames_data()
+    {
+        const Rows<QString, bool> row("name", "isTaken");
+        row("longest", QString(31, 'W'), true);
+        row("too long", QString(32, 'W'), false);
+        row("letters of the code page", QStringLiteral("墙体_1$-"), true);
+        row("blank", QStringLiteral("Wall 1"), false);
+    }
+
+    /// Formats up to R12 hold less; what such a file has is kept.
+    void oldNames()
+    {
+        QFETCH(QString, name);
+        House house;
+        house.version = "AC1009";
+        house.wall = QByteArray(40, 'w');
+        house.current = house.wall;
+        const auto drawing = opened(house.bytes());
+        const QString wall = QString::fromLatin1(house.wall);
+        QCOMPARE(edit(*drawing, wall, [](LayerProperties& p) { p.locked = true; }), QString());
+        const QString refused = edit(*drawing, wall, [&](LayerProperties& p) { p.name = name; });
+        QTEST(refused.isEmpty(), "isTaken");
+    }
+
+private:
+    static QByteArray objectsOf(const QByteArray& file)
+    {
+        return file.mid(file.indexOf("ACLYDICTIONARY"));
+    }
+
+    static void change(Drawing& drawing, int act)
+    {
+        const LayerId third = id(drawing, "Third");
+        LayerProperties properties = drawing.layer(third)->properties;
+        properties.name = "N.1";
+        QVERIFY(inStep(drawing, [&] {
+            return act == Rename  ? drawing.setLayerProperties(third, properties)
+                   : act == Merge ? drawing.mergeLayers({third}, id(drawing, "Empty"))
+                                  : drawing.deleteLayers({third});
+        }));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestReferences)
+#include "tst_references.moc"
