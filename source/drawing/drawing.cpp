@@ -17,6 +17,11 @@ QString statesPathOf(const QString& drawingPath)
     return info.dir().filePath(info.completeBaseName() + QStringLiteral(".las"));
 }
 
+bool isSameFile(const QString& path, const QString& other)
+{
+    return path == other || (QFileInfo::exists(path) && QFileInfo(path) == QFileInfo(other));
+}
+
 } // namespace
 
 DrawingData& DrawingAccess::data(Drawing& drawing)
@@ -66,6 +71,7 @@ Expected<std::unique_ptr<Drawing>> Drawing::open(
         return tl::make_unexpected(
             Error{Texts::tr("无法打开文件“%1”：内存不足。").arg(path), 0, false});
     }
+    drawing->d->isIncomplete = !drawing->d->data.wholePart.isNull();
     if (owner) {
         drawing->d->file.moveToThread(owner);
         drawing->moveToThread(owner);
@@ -81,9 +87,11 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
     };
     if (d->stepIsOpen)
         return refusal(Texts::tr("还有未完成的操作"));
+    if (d->isIncomplete && isSameFile(path, d->path))
+        return refusal(Texts::tr("图形不完整，不能覆盖原文件，请另存为其他文件"));
     const auto size = static_cast<qint64>(d->data.file.bytes().size());
     // The bytes that were not edited are still read from it.
-    if (d->file.size() != size)
+    if (d->data.wholePart.isNull() && d->file.size() != size)
         return refusal(Texts::tr("原文件已被其他程序改写"));
     if (auto aside = d->data.layerStates.saveAside(statesPathOf(path)); !aside)
         return aside;
@@ -91,6 +99,7 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
     if (!written)
         return written;
     d->path = path;
+    d->isIncomplete = false;
     d->steps.setClean();
     announce(false, false);
     return {};
@@ -99,6 +108,11 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
 QString Drawing::path() const
 {
     return d->path;
+}
+
+bool Drawing::isIncomplete() const
+{
+    return d->isIncomplete;
 }
 
 QStringList Drawing::openingNotices() const

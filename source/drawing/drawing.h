@@ -51,6 +51,8 @@ public:
     ByteRange recordRange(LayerId id) const;
     /// What had to be guessed when the file was read, a sentence each.
     QStringList openingNotices() const;
+    /// Whether only what is whole of a file that is cut off was opened; until it is saved.
+    bool isIncomplete() const;
     /// True when the drawing differs from what its file holds.
     bool isModified() const;
 

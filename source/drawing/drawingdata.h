@@ -55,6 +55,7 @@ public:
     DrawingFile file;
     LeftOut leftOut;
     QStringList openingNotices; ///< What had to be guessed or left out when it was read.
+    QByteArray wholePart;       ///< Of a file that was cut off: the bytes of `file`.
     EntityTable entities;
     LayerTable layers;
     LinetypeTable linetypes{file, leftOut};

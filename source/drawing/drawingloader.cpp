@@ -5,6 +5,7 @@
 #include "drawingtexts.h"
 #include "layerrecord.h"
 #include "symbolname.h"
+#include "wholepart.h"
 
 #include <algorithm>
 
@@ -33,6 +34,26 @@ QString shown(std::string_view text)
     return QString::fromUtf8(part.data(), static_cast<int>(part.size()));
 }
 
+/// Programs before the formats of today wrote no sections: their files are told by the version they
+/// may state, or by their groups.
+QString notTagged(const DrawingFile& file, const QString& fileName, const QString& place)
+{
+    constexpr std::pair<std::string_view, const char*> kOldVersions[] = {
+        {"AC1002", "R2.5"}, {"AC1003", "R2.6"}, {"AC1004", "R9"}, {"AC1006", "R10"}};
+    constexpr int kMostTags = 1000;
+    TagReader tags = file.allTags();
+    Tag tag;
+    for (int i = 0; i < kMostTags && tags.next(tag); ++i) {
+        for (const auto& [version, release] : kOldVersions) {
+            if (tag.trimmed() == version)
+                return Texts::tr("文件“%1”是 %2 的 DXF，其中没有 SECTION 段，不能读取（%3）。")
+                    .arg(fileName, QLatin1String(release), place);
+        }
+    }
+    return Texts::tr("文件“%1”不是 DXF 图形，或者来自 R9 以前的版本：它不以 SECTION 段开头（%2）。")
+        .arg(fileName, place);
+}
+
 Error faultError(const DrawingFile& file, const IndexFault& fault, const QString& fileName)
 {
     Error error;
@@ -48,8 +69,7 @@ Error faultError(const DrawingFile& file, const IndexFault& fault, const QString
         error.text = Texts::tr("已取消打开文件“%1”。").arg(fileName);
         break;
     case IndexFaultKind::NotTagged:
-        error.text =
-            Texts::tr("文件“%1”不是 DXF 图形：它不以 SECTION 段开头（%2）。").arg(fileName, place);
+        error.text = notTagged(file, fileName, place);
         break;
     case IndexFaultKind::BadCode:
         error.text =
@@ -63,6 +83,18 @@ Error faultError(const DrawingFile& file, const IndexFault& fault, const QString
                          .arg(fileName, place)
                          .arg(kLongestLine >> 20);
         break;
+    case IndexFaultKind::SectionWithoutName:
+        error.text = Texts::tr("文件“%1”%2的段没有名称，不能读取。").arg(fileName, place);
+        break;
+    case IndexFaultKind::OutsideSections:
+        error.text = Texts::tr("文件“%1”%2的内容不在任何段中，不能读取。").arg(fileName, place);
+        break;
+    case IndexFaultKind::TableWithoutName:
+        error.text = Texts::tr("文件“%1”%2的表没有名称，不能读取。").arg(fileName, place);
+        break;
+    case IndexFaultKind::OutsideTables:
+        error.text = Texts::tr("文件“%1”%2的记录不在任何表中，不能读取。").arg(fileName, place);
+        break;
     case IndexFaultKind::SectionNotEnded:
         error.text =
             Texts::tr("文件“%1”不完整：%3 段到%2仍没有 ENDSEC。").arg(fileName, place, section);
@@ -74,6 +106,7 @@ Error faultError(const DrawingFile& file, const IndexFault& fault, const QString
                                .arg(fileName, place, section);
         break;
     }
+    error.hasWholePart = hasWholePart(fault);
     return error;
 }
 
@@ -101,12 +134,11 @@ public:
     {
     }
 
-    Expected<void> run(const OpenOptions& options, const QString& fileName);
+    Expected<void> run(const OpenOptions& options);
 
 private:
     Expected<TextCodec> chosenCodec(const OpenOptions& options);
     TextEvidence textEvidence() const;
-    Expected<void> checkLayerTable(const QString& fileName) const;
     void loadLayerRecords();
     void loadNamedLayers();
     void loadEntities();
@@ -132,7 +164,7 @@ private:
     std::vector<LayerId> m_layerOfSpelling;
 };
 
-Expected<void> Loader::run(const OpenOptions& options, const QString& fileName)
+Expected<void> Loader::run(const OpenOptions& options)
 {
     auto codec = chosenCodec(options);
     if (!codec)
@@ -142,8 +174,6 @@ Expected<void> Loader::run(const OpenOptions& options, const QString& fileName)
     const std::string_view current = variable(HeaderVariable::CurrentLayer);
     const FormatLimits limits = FormatLimits::of(version());
     m_data.file.setIndex(std::move(m_index), *codec, limits);
-    if (auto checked = checkLayerTable(fileName); !checked)
-        return checked;
     m_data.linetypes.load();
     m_data.plotStyles.load();
     loadLayerRecords();
@@ -197,20 +227,6 @@ TextEvidence Loader::textEvidence() const
     while (tags.next(tag))
         evidence.add(tag.text());
     return evidence;
-}
-
-Expected<void> Loader::checkLayerTable(const QString& fileName) const
-{
-    const DrawingFile& file = m_data.file;
-    if (!file.limits().markers || !file.table(TableKind::Layer).isNull())
-        return {};
-    const qint64 offset =
-        file.index().tablesEnd < 0 ? file.index().firstBody : file.index().tablesEnd;
-    const qint64 line = lineOf(file, offset);
-    return tl::make_unexpected(
-        Error{Texts::tr("文件“%1”没有图层表（LAYER），到第 %2 行 TABLES 段已结束。")
-                  .arg(fileName, QString::number(line)),
-            line, false});
 }
 
 void Loader::loadLayerRecords()
@@ -325,9 +341,20 @@ Expected<void> loadDrawing(
         return known;
     FileIndex index;
     EntityIndex entities;
-    if (const auto fault = DrawingIndexer(file.allTags(), progress).run(index, entities))
+    auto fault = DrawingIndexer(file.allTags(), progress).run(index, entities);
+    if (fault && options.wholePart && hasWholePart(*fault)) {
+        const Error cut = faultError(file, *fault, fileName);
+        data.wholePart = wholePart(file, *fault, index, entities);
+        data.file.setBytes(viewOf(data.wholePart));
+        index = {};
+        entities = {};
+        fault = DrawingIndexer(file.allTags(), progress).run(index, entities);
+        data.openingNotices +=
+            Texts::tr("%1此后的内容没有读入；只能另存为其他文件。").arg(cut.text);
+    }
+    if (fault)
         return tl::make_unexpected(faultError(file, *fault, fileName));
-    return Loader(data, std::move(index), std::move(entities)).run(options, fileName);
+    return Loader(data, std::move(index), std::move(entities)).run(options);
 }
 
 } // namespace drawing

@@ -21,6 +21,7 @@ public:
     bool stepIsOpen = false;
     bool stepIsPublished = false;
     bool wasModified = false;
+    bool isIncomplete = false;
 };
 
 /// The inside of a drawing, for what edits it in ways that are no concern of its users.

@@ -20,9 +20,15 @@ DrawingSession::DrawingSession(QWidget* window)
         emit saved(path);
     });
     connect(worker, &FileWorker::openFailed, this,
-        [this](const QString& path, const drawing::Error& error) {
+        [this](const QString& path, drawing::OpenOptions options, const drawing::Error& error) {
             emit failed(path);
-            report(tr("无法打开图形"), path, error);
+            if (!error.hasWholePart) {
+                report(tr("无法打开图形"), path, error);
+                return;
+            }
+            options.wholePart = messages::askToOpenPart(m_window, path, error);
+            if (options.wholePart)
+                m_worker->open(path, options);
         });
     connect(worker, &FileWorker::saveFailed, this,
         [this](const QString& path, const drawing::Error& error) {

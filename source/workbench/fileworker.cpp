@@ -50,7 +50,7 @@ void FileWorker::open(const QString& path, const drawing::OpenOptions& options)
         [this, path, owner, options]() -> std::function<void()> {
             auto result = readFile(path, &m_progress, owner, options);
             if (!result)
-                return [=, error = result.error()] { emit openFailed(path, error); };
+                return [=, error = result.error()] { emit openFailed(path, options, error); };
             auto file = std::make_shared<OpenedFile>(std::move(*result));
             return [=] { emit opened(file); };
         });

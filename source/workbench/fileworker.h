@@ -41,7 +41,8 @@ signals:
     void progress(int percent);
     void opened(const std::shared_ptr<OpenedFile>& file);
     void saved(const QString& path);
-    void openFailed(const QString& path, const drawing::Error& error);
+    void openFailed(
+        const QString& path, const drawing::OpenOptions& options, const drawing::Error& error);
     void saveFailed(const QString& path, const drawing::Error& error);
     void finished(); ///< Right before one of the four above; the next job may start.
 

@@ -451,7 +451,9 @@ void MainWindow::updateState()
         action(row.name)->setEnabled(idle);
     if (m_session->isBusy())
         return; // The saving thread has the drawing to itself; this runs again when it is done.
-    const QString file = drawing() ? QFileInfo(drawing()->path()).fileName() : tr("无图形");
+    QString file = drawing() ? QFileInfo(drawing()->path()).fileName() : tr("无图形");
+    if (drawing() && drawing()->isIncomplete())
+        file = tr("%1（不完整）").arg(file);
     setWindowTitle(tr("图层工作台 - %1[*]").arg(file));
     setWindowModified(drawing() && drawing()->isModified());
 }

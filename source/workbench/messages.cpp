@@ -55,6 +55,18 @@ void showFailure(
     showWarning(parent, title, describe(path, error));
 }
 
+bool askToOpenPart(QWidget* parent, const QString& path, const drawing::Error& error)
+{
+    QMessageBox box(QMessageBox::Question, tr("无法打开图形"),
+        tr("%1\n\n可以打开中断处之前完整的部分；它只能另存为其他文件。").arg(describe(path, error)),
+        QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    QAbstractButton* const open = box.addButton(tr("打开完整的部分"), QMessageBox::AcceptRole);
+    box.setEscapeButton(box.addButton(tr("取消"), QMessageBox::RejectRole));
+    box.exec();
+    return box.clickedButton() == open;
+}
+
 void showCommandFailure(QWidget* parent, const QString& command, const QString& cause)
 {
     showWarning(

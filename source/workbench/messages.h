@@ -23,6 +23,9 @@ QString describe(const QString& path, const drawing::Error& error);
 void showFailure(
     QWidget* parent, const QString& title, const QString& path, const drawing::Error& error);
 
+/// The same of a file that is cut off; whether what is whole of it shall be opened.
+bool askToOpenPart(QWidget* parent, const QString& path, const drawing::Error& error);
+
 /// Says that a command failed, why, and that what it did was taken back.
 void showCommandFailure(QWidget* parent, const QString& command, const QString& cause);
 

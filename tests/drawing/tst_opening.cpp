@@ -33,9 +33,15 @@ private slots:
             lines(broken("  0\nENDSEC\n  0\nEOF\n", "").replace("EOF", "")));
         row("a line too many", broken("  0\nVIEWPORT", "x\n  0\nVIEWPORT"), "组码“x”",
             lines(cut("  0\nVIEWPORT")));
-        row("no layer table", broken("LAYER\n  5\n2\n", "UCS\n  5\n2\n"), "图层表",
-            lines(broken("LAYER\n  5\n2\n", "UCS\n  5\n2\n")
-                      .left(house.indexOf("  0\nSECTION\n  2\nBLOCKS") - 10)));
+        row("older than sections", "9\n$ACADVER\n1\nAC1004\n0\nLINE\n", "R9", 1);
+        const auto section = [](const QByteArray& text) { return tagged("0 SECTION\n" + text); };
+        row("a section without a name", section("0 LINE\n8 A\n0 ENDSEC\n0 EOF"), "段没有名称", 3);
+        row("an entity between sections", section("2 HEADER\n0 ENDSEC\n0 LINE\n8 A\n0 EOF"),
+            "不在任何段中", 7);
+        row("a table without a name", section("2 TABLES\n0 TABLE\n0 LAYER\n2 A\n0 ENDSEC\n0 EOF"),
+            "表没有名称", 5);
+        row("a layer in no table", section("2 TABLES\n0 LAYER\n2 A\n0 ENDSEC\n0 EOF"),
+            "不在任何表中", 5);
     }
 
     void badFiles()
@@ -222,6 +228,12 @@ private slots:
         row("entities only", tagged(entities), layers);
         row("no line end at the end", tagged(entities).trimmed(), layers);
         row("CR LF", tagged(entities, "\r\n"), layers);
+        row("CR alone", tagged(entities, "\r"), layers);
+        row("blank lines in front", "\xef\xbb\xbf\r\n \n" + tagged(entities), layers);
+        row("blanks behind names", tagged("0 SECTION \n2 ENTITIES \n" + line + "0 ENDSEC \n0 EOF "),
+            layers);
+        row("a section that nobody knows",
+            tagged("0 SECTION\n2 ENTITES\n" + line + "0 ENDSEC\n0 EOF"), layers);
         row("codes not aligned", tagged(entities).replace("  ", ""), layers);
         row("byte order mark", QByteArray("\xef\xbb\xbf") + tagged(entities), layers);
         row("comments", tagged("999 made by hand\n" + entities), layers);
@@ -245,6 +257,78 @@ private slots:
         QCOMPARE(names, layers);
         QCOMPARE(drawing->layer(drawing->currentLayer())->properties.name, QStringLiteral("0"));
         QCOMPARE(saved(*drawing), bytes);
+        drawing->beginStep("rename");
+        LayerProperties renamed = drawing->layers().back().properties;
+        renamed.name = "Wand";
+        const bool isRenamed =
+            drawing->setLayerProperties(drawing->layers().back().id, renamed).has_value();
+        drawing->commitStep();
+        QCOMPARE(isRenamed, layers.size() > 1);
+        QCOMPARE(opened(saved(*drawing))->findLayer("wand") != nullptr, isRenamed);
+        checkUndo(*drawing, bytes);
+    }
+
+    /// Tables that are missing are made where something goes into them.
+    void missingTables_data()
+    {
+        const Rows<QByteArray> row("tables");
+        row("none", "");
+        row("a section without any", "0 SECTION\n2 TABLES\n0 ENDSEC\n");
+        row("one without a handle",
+            "0 SECTION\n2 TABLES\n0 TABLE\n2 LAYER\n70 1\n0 LAYER\n2 0\n0 ENDTAB\n0 ENDSEC\n");
+    }
+
+    void missingTables()
+    {
+        QFETCH(QByteArray, tables);
+        const QByteArray bytes =
+            tagged("0 SECTION\n2 HEADER\n9 $ACADVER\n1 AC1027\n0 ENDSEC\n" + tables +
+                   "0 SECTION\n2 ENTITIES\n0 LINE\n5 9\n8 Wall\n" + "0 ENDSEC\n0 EOF\n");
+        const auto drawing = opened(bytes);
+        QVERIFY(inStep(
+            *drawing, [&] { return drawing->putLayerStates({captureLayerState(*drawing, "S")}); }));
+        QCOMPARE(edit(*drawing, "Wall", [](LayerProperties& p) { p.off = true; }), QString());
+        const auto again = opened(saved(*drawing));
+        QVERIFY(again->findLayer("Wall")->properties.off);
+        QCOMPARE(again->layerStateNames(), QStringList("S"));
+        QVERIFY(!saved(*drawing).contains("360\n0\n") && !saved(*drawing).contains("  5\n0\n"));
+        drawing->undo();
+        checkUndo(*drawing, bytes);
+    }
+
+    /// Of a file that is cut off what is whole can be opened, and saved elsewhere.
+    void wholePart_data()
+    {
+        const Rows<QByteArray, int, int> row("bytes", "entities", "layers");
+        const QByteArray house = House().bytes();
+        const auto cut = [&house](const char* at) { return house.left(house.indexOf(at)); };
+        row("in the header", cut("$CLAYER"), 0, 1);
+        row("in the layer table", cut("Empty"), 0, 2);
+        row("in a polyline", cut("  0\nSEQEND"), 3, 4);
+        row("in the entities", cut("VIEWPORT"), 8, 4);
+        row("in the objects", cut("LAYER_FILTER"), 9, 4);
+        row("before the end", cut("EOF"), 9, 4);
+        row("zeros at the end", cut("VIEWPORT") + QByteArray(100, '\0'), 8, 4);
+    }
+
+    void wholePart()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, entities);
+        QFETCH(int, layers);
+        const QString path = write(bytes);
+        const auto refused = Drawing::open(path);
+        QVERIFY(!refused && refused.error().hasWholePart);
+        const auto part = Drawing::open(path, nullptr, nullptr, {{}, true});
+        QVERIFY(part && (*part)->isIncomplete());
+        QCOMPARE((*part)->entities().size(), size_t(entities));
+        QCOMPARE((*part)->layers().size(), size_t(layers));
+        QVERIFY((*part)->openingNotices().value(0).contains(path));
+        const auto kept = (*part)->save(path);
+        QVERIFY(!kept && kept.error().text.contains("另存"));
+        QCOMPARE(read(path), bytes);
+        QVERIFY(opened(saved(**part))->entities().size() == size_t(entities));
+        QVERIFY(!(*part)->isIncomplete());
     }
 
     void colors_data()

@@ -27,6 +27,7 @@ private slots:
     void layouts();
     void visibility_data();
     void visibility();
+    void missingHandles();
     void forgetsLayers();
     void forgetsViewports();
     void overridesSeenByOthers();
@@ -135,6 +136,23 @@ void TestViewportLayers::visibility()
         drawing->undo();
         QCOMPARE(saved(*drawing), untouched);
     }
+}
+
+/// What is pointed at gets a handle where it has none.
+void TestViewportLayers::missingHandles()
+{
+    const QByteArray bytes =
+        sheetsDrawing().replace(tagged("0 LAYER\n5 11\n"), tagged("0 LAYER\n"));
+    QVERIFY(bytes != sheetsDrawing());
+    const auto drawing = opened(bytes);
+    const LayerId wall = id(*drawing, "Wall");
+    step(
+        *drawing, [&] { QVERIFY(drawing->showLayout(0) && drawing->setFrozenInViewport({wall})); });
+    QCOMPARE(names(*drawing, drawing->frozenInViewport()), QStringList("Wall"));
+    const auto again = opened(saved(*drawing));
+    step(*again, [&] { QVERIFY(again->showLayout(0)); });
+    QCOMPARE(names(*again, again->frozenInViewport()), QStringList("Wall"));
+    checkUndo(*drawing, bytes);
 }
 
 /// A layer that goes is in no viewport's list, and what viewports overrode of it goes with it.

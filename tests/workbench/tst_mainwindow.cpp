@@ -130,7 +130,7 @@ private slots:
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
         file.close();
 
-        BoxAnswerer answerer({QStringLiteral("确定")});
+        BoxAnswerer answerer({QStringLiteral("取消")});
         m_window->openFile(path);
         QVERIFY(answerer.waitForAll());
         QVERIFY(answerer.texts()[0].contains("broken.dxf"));
@@ -160,6 +160,25 @@ private slots:
         QVERIFY(answerer.texts().value(0).contains("MARTIAN"));
         QVERIFY(opened.wait());
         QVERIFY(m_window->drawing()->findLayer(QStringLiteral("С")));
+    }
+
+    void whatIsWholeOfACutFileIsOffered()
+    {
+        const QString path = m_sketch->write(kLine + kLine);
+        const QByteArray whole = contentOf(path);
+        QFile(path).resize(whole.size() - 20);
+        const QByteArray content = contentOf(path);
+        BoxAnswerer answerer({QStringLiteral("打开完整的部分"), QStringLiteral("确定")});
+        QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
+        m_window->openFile(path);
+        QVERIFY(opened.wait());
+        QVERIFY(answerer.texts()[0].contains("sketch.dxf"));
+        QVERIFY(m_window->windowTitle().contains(QStringLiteral("不完整")));
+        turnOff("A", "x");
+        action("SAVE")->trigger();
+        QVERIFY(answerer.waitForAll());
+        QVERIFY(answerer.texts()[1].contains(QStringLiteral("另存")));
+        QCOMPARE(contentOf(path), content);
     }
 
     void cancelledOpeningLeavesNothing()

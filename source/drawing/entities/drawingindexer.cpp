@@ -4,6 +4,8 @@
 #include "groupcode.h"
 #include "progress.h"
 
+#include <algorithm>
+
 namespace drawing {
 
 namespace {
@@ -22,7 +24,10 @@ std::optional<IndexFault> DrawingIndexer::run(FileIndex& file, EntityIndex& enti
 
 bool DrawingIndexer::fail(IndexFaultKind kind, qint64 offset)
 {
-    m_fault = IndexFault{kind, offset, m_section};
+    m_fault = m_whole;
+    m_fault->kind = kind;
+    m_fault->offset = offset;
+    m_fault->section = m_section;
     return false;
 }
 
@@ -53,9 +58,12 @@ bool DrawingIndexer::goesOn()
         report();
     if (m_fault)
         return false;
-    const std::string_view name = m_tag.text();
+    markWhole(m_tag.begin());
+    const std::string_view name = m_tag.trimmed();
     if (name == "ENDSEC")
         return false;
+    if (name == "SECTION")
+        markWhole(-1); // What follows may be whole as well.
     if (name == "SECTION" || name == "EOF")
         return fail(IndexFaultKind::SectionNotEnded, m_tag.begin());
     return true;
@@ -78,14 +86,15 @@ bool DrawingIndexer::readSections()
         if (!m_tags.next(m_tag))
             return fail(IndexFaultKind::NotTagged, 0);
     } while (m_tag.code == group::kComment);
-    if (m_tag.code != 0 || m_tag.text() != "SECTION")
+    if (m_tag.code != 0 || m_tag.trimmed() != "SECTION")
         return fail(IndexFaultKind::NotTagged, 0);
     m_file->firstSection = m_tag.begin();
-    while (m_tag.code != 0 || m_tag.text() != "EOF") {
-        const bool isSection = m_tag.code == 0 && m_tag.text() == "SECTION";
+    while (m_tag.code != 0 || m_tag.trimmed() != "EOF") {
+        const bool isSection = m_tag.code == 0 && m_tag.trimmed() == "SECTION";
+        if (!isSection && m_tag.code != group::kComment)
+            return fail(IndexFaultKind::OutsideSections, m_tag.begin());
         if (isSection && !readSection())
             return false;
-        m_section = {};
         if (!next())
             return false;
     }
@@ -101,23 +110,15 @@ bool DrawingIndexer::readSection()
     const qint64 begin = m_tag.begin();
     if (!next())
         return false;
-    if (m_tag.code == group::kName)
-        m_section = m_tag.text();
+    m_section = m_tag.trimmed();
+    if (m_tag.code != group::kName || m_section.empty())
+        return fail(IndexFaultKind::SectionWithoutName, m_tag.begin());
+    markWhole(m_tag.end());
+    m_whole.inSection = true;
     const bool isBody = m_section != "HEADER" && m_section != "CLASSES" && m_section != "TABLES";
     if (isBody && m_file->firstBody < 0)
         m_file->firstBody = begin;
-    if (m_section == "HEADER")
-        readHeader();
-    else if (m_section == "TABLES")
-        readTables();
-    else if (m_section == "BLOCKS")
-        readBlocks();
-    else if (m_section == "ENTITIES")
-        readEntities();
-    else if (m_section == "OBJECTS")
-        readObjects();
-    else
-        skipRest();
+    readContents();
     if (m_fault)
         return false;
     if (m_section == "HEADER")
@@ -126,7 +127,28 @@ bool DrawingIndexer::readSection()
         m_file->tablesEnd = m_tag.begin();
     if (m_section == "OBJECTS")
         m_file->objectsEnd = m_tag.begin();
+    m_section = {};
+    m_whole = {};
+    markWhole(m_tag.end());
     return true;
+}
+
+/// A section that nobody knows may name layers as well: it is read as entities are, which are seen
+/// by all edits.
+bool DrawingIndexer::readContents()
+{
+    constexpr std::string_view kNamingNoLayers[] = {"CLASSES", "THUMBNAILIMAGE", "ACDSDATA"};
+    if (m_section == "HEADER")
+        return readHeader();
+    if (m_section == "TABLES")
+        return readTables();
+    if (m_section == "BLOCKS")
+        return readBlocks();
+    if (m_section == "OBJECTS")
+        return readObjects();
+    const bool isIdle = std::find(std::begin(kNamingNoLayers), std::end(kNamingNoLayers),
+                            m_section) != std::end(kNamingNoLayers);
+    return isIdle ? skipRest() : readEntities();
 }
 
 bool DrawingIndexer::skipRest()
@@ -145,7 +167,7 @@ bool DrawingIndexer::readHeader()
         if (m_tag.code == 0 && !goesOn())
             break;
         if (m_tag.code == group::kVariable) {
-            const HeaderVariable which = headerVariable(m_tag.text());
+            const HeaderVariable which = headerVariable(m_tag.trimmed());
             value = which == HeaderVariable::Count ? nullptr : &m_file->header[which];
         } else if (value) {
             *value = m_tag;
@@ -160,11 +182,25 @@ bool DrawingIndexer::readTables()
     if (!next())
         return false;
     for (;;) {
-        if (m_tag.code == 0 && !goesOn())
+        if (m_tag.code != group::kType) {
+            if (!next())
+                return false;
+            continue;
+        }
+        if (!goesOn())
             return !m_fault;
-        const bool isTable = m_tag.code == 0 && m_tag.text() == "TABLE";
-        if (!(isTable ? readTable() : next()))
-            return false;
+        const std::string_view name = m_tag.trimmed();
+        if (name == "TABLE") {
+            if (!readTable())
+                return false;
+        } else if (name == "ENDTAB") {
+            if (!next())
+                return false;
+            m_whole.inTable = false;
+            markWhole(m_tag.begin());
+        } else {
+            return fail(IndexFaultKind::OutsideTables, m_tag.begin());
+        }
     }
 }
 
@@ -174,23 +210,27 @@ bool DrawingIndexer::readTable()
 {
     TablePlace read;
     read.head.begin = m_tag.begin();
+    m_whole.inTable = false; // What has no head is no table yet.
     std::string_view name;
     bool isRecord = false;
     while (next()) {
         if (m_tag.code == group::kXdataLayer)
             m_entities->xdataNames.push_back(m_tag.valueRange().begin);
         if (m_tag.code == group::kName && name.empty() && read.endTab < 0)
-            name = m_tag.text();
+            name = m_tag.trimmed();
         if (m_tag.code != 0)
             continue;
+        if (name.empty())
+            return fail(IndexFaultKind::TableWithoutName, read.head.begin);
+        m_whole.inTable = true;
         if (isRecord)
             read.records.back().end = m_tag.begin();
         if (read.endTab < 0)
             read.head.end = m_tag.begin();
         read.endTab = m_tag.begin();
-        if (!goesOn() || m_tag.text() == "ENDTAB" || m_tag.text() == "TABLE")
+        if (!goesOn() || m_tag.trimmed() == "ENDTAB" || m_tag.trimmed() == "TABLE")
             break;
-        isRecord = m_tag.text() == name;
+        isRecord = m_tag.trimmed() == name;
         if (isRecord)
             read.records.push_back({m_tag.begin(), m_tag.begin()});
     }
@@ -215,10 +255,12 @@ bool DrawingIndexer::readBlocks()
         }
         if (!goesOn())
             break;
-        const bool isHead = m_tag.text() == "BLOCK";
-        const bool isEnd = m_tag.text() == "ENDBLK";
+        const bool isHead = m_tag.trimmed() == "BLOCK";
+        const bool isEnd = m_tag.trimmed() == "ENDBLK";
         if (isHead || isEnd) {
-            readBlockHead();
+            if (!readBlockHead())
+                break;
+            m_whole.inBlock = isHead;
             block = isHead ? static_cast<int>(m_entities->blocks.size()) - 1 : -1;
             continue;
         }
@@ -232,7 +274,7 @@ bool DrawingIndexer::readBlocks()
 /// Reads a BLOCK or ENDBLK record and stops at the `0` group behind it.
 bool DrawingIndexer::readBlockHead()
 {
-    const bool isHead = m_tag.text() == "BLOCK";
+    const bool isHead = m_tag.trimmed() == "BLOCK";
     Block block;
     block.first = static_cast<int>(m_entities->entities.size());
     Tag name;
@@ -288,7 +330,7 @@ bool DrawingIndexer::readEntity(int block)
 {
     Entity entity;
     entity.begin = m_tag.begin();
-    entity.kind = kindOf(m_tag.text());
+    entity.kind = kindOf(m_tag.trimmed());
     entity.block = block;
     entity.subEntity = isSubEntity(entity.kind);
     quint32 nameAt = 0;
@@ -332,7 +374,7 @@ bool DrawingIndexer::readObjects()
             break;
         ObjectPlace object;
         object.range.begin = m_tag.begin();
-        object.kind = objectKind(m_tag.text());
+        object.kind = objectKind(m_tag.trimmed());
         while (next() && m_tag.code != 0) {
             if (m_tag.code == group::kHandle && object.handle == 0)
                 object.handle = m_tag.handle();

@@ -10,7 +10,18 @@ namespace drawing {
 
 struct Progress;
 
-enum class IndexFaultKind { NotTagged, BadCode, TooLong, CutOff, SectionNotEnded, Cancelled };
+enum class IndexFaultKind {
+    NotTagged,
+    BadCode,
+    TooLong,
+    CutOff,
+    SectionNotEnded,
+    SectionWithoutName,
+    OutsideSections,
+    TableWithoutName,
+    OutsideTables,
+    Cancelled
+};
 
 /// Why a file cannot be indexed, and where.
 struct IndexFault
@@ -18,6 +29,12 @@ struct IndexFault
     IndexFaultKind kind = IndexFaultKind::NotTagged;
     qint64 offset = 0;
     std::string_view section; ///< The section it was found in; may be empty.
+    /// Up to here all is whole; -1 where that is not worth having.
+    qint64 wholeEnd = -1;
+    /// What has to be closed there.
+    bool inSection = false;
+    bool inTable = false;
+    bool inBlock = false;
 };
 
 /// Finds where all stands, in one pass over the tags.
@@ -38,10 +55,12 @@ private:
     bool failed(ScanResult result);
     bool goesOn();
     bool skipRest();
+    void markWhole(qint64 end) { m_whole.wholeEnd = end; }
     void report();
 
     bool readSections();
     bool readSection();
+    bool readContents();
     bool readHeader();
     bool readTables();
     bool readTable();
@@ -59,6 +78,7 @@ private:
     FileIndex* m_file = nullptr;
     EntityIndex* m_entities = nullptr;
     std::string_view m_section;
+    IndexFault m_whole; // What of it is known as the reading goes on.
     std::string_view m_lastKindName;
     EntityKind m_lastKind = EntityKind::Other;
     std::optional<IndexFault> m_fault;

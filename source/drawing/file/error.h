@@ -15,6 +15,8 @@ struct Error
     QString text;    ///< A Chinese sentence that names the thing and the cause.
     qint64 line = 0; ///< Line of the file where it was found, from 1; 0 when no line is to blame.
     bool cancelled = false; ///< The user stopped the work: nothing to report.
+    /// Of a file that is cut off: what is whole can be opened, see `OpenOptions`.
+    bool hasWholePart = false;
 };
 
 /// What a function gives back that can fail; a refusal must not be overlooked.

@@ -9,6 +9,7 @@ namespace drawing {
 enum InsertionOrder : quint32 {
     kHeaderHead,
     // Within records and entities, where no section begins.
+    kNewHandle,
     kNewLayerName,
     kNewExtension,
     kNewFrozenLayers,

@@ -70,7 +70,7 @@ quint64 Objects::entry(quint64 dictionary, std::string_view key) const
 
 TagStyle Objects::style() const
 {
-    return m_file.styleOf(m_file.table(TableKind::Layer).head);
+    return m_file.tables().style(TableKind::Layer);
 }
 
 /// Where a new object with this handle stands.

@@ -64,10 +64,30 @@ TagStyle SymbolTables::style(TableKind kind) const
 quint64 SymbolTables::handle(TableKind kind) const
 {
     const TablePlace& table = m_file.table(kind);
-    if (!table.isNull())
-        return ownHandle(m_file.tags(table.head));
-    const QByteArray made = m_file.journal().inserted(place(kind), headOrder(kind));
+    if (const quint64 known = table.isNull() ? 0 : ownHandle(m_file.tags(table.head)))
+        return known;
+    const QByteArray made = table.isNull()
+                                ? m_file.journal().inserted(place(kind), headOrder(kind))
+                                : m_file.journal().inserted(behindName(kind), kNewHandle);
     return ownHandle(TagReader(made, m_file.spelling()));
+}
+
+quint64 SymbolTables::madeHandle(TableKind kind)
+{
+    if (m_file.table(kind).isNull())
+        count(kind, 0);
+    if (const quint64 known = handle(kind))
+        return known;
+    const quint64 taken = m_file.takeHandle();
+    m_file.journal().insert(
+        behindName(kind), kNewHandle, style(kind).handle(group::kHandle, taken));
+    return taken;
+}
+
+/// Where in the head of a table of the file its name ends.
+qint64 SymbolTables::behindName(TableKind kind) const
+{
+    return findOwn(m_file.tags(m_file.table(kind).head), group::kName).end();
 }
 
 QString SymbolTables::nameOf(const ByteRange& record) const
@@ -169,6 +189,13 @@ quint64 SymbolTables::add(TableKind kind, const std::vector<TextTag>& tags)
 void SymbolTables::linkExtension(TableKind kind, quint64 dictionary)
 {
     const TagStyle style = this->style(kind);
+    if (m_file.table(kind).isNull()) {
+        EditJournal& journal = m_file.journal();
+        const QByteArray head = journal.inserted(place(kind), headOrder(kind));
+        journal.insert(
+            place(kind), headOrder(kind), withExtension(m_file.tagList(head), dictionary));
+        return;
+    }
     OwnTags all(m_file.tags(m_file.table(kind).head));
     qint64 behind = -1;
     Tag tag;

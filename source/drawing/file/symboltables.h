@@ -47,11 +47,14 @@ public:
     quint64 add(TableKind kind, const std::vector<TextTag>& tags);
     /// Lists an XDATA application, where it is not listed yet.
     void needAppId(const QString& name);
-    /// Writes the handle of an extension dictionary into the head of a table.
+    /// Writes the handle of an extension dictionary into the head of a table, which must be there.
     void linkExtension(TableKind kind, quint64 dictionary);
+    /// Handle of a table; one that is missing is made, and one without a handle gets one.
+    quint64 madeHandle(TableKind kind);
 
 private:
     qint64 place(TableKind kind) const;
+    qint64 behindName(TableKind kind) const;
     void count(TableKind kind, int added);
     void makeFrame(TableKind kind);
 

@@ -37,15 +37,6 @@ Number read(const char* bytes)
 
 } // namespace
 
-std::string_view trimmedView(std::string_view text)
-{
-    constexpr std::string_view kBlanks = " \t\r";
-    const size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 double Tag::real() const
 {
     if (!isBinary(spelling) || valueKind(code) == ValueKind::Text)
@@ -91,11 +82,6 @@ QByteArray Tag::printed() const
     if (isBinary(spelling) && valueKind(code) != ValueKind::Text)
         return QByteArray::number(integer());
     return {trimmed().data(), static_cast<int>(trimmed().size())};
-}
-
-std::string_view Tag::trimmed() const
-{
-    return trimmedView(text());
 }
 
 } // namespace drawing

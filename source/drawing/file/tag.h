@@ -27,6 +27,21 @@ struct ByteRange
     bool contains(qint64 offset) const { return offset >= begin && offset < end; }
 };
 
+constexpr bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r';
+}
+
+/// `text` without blanks and tabs around it.
+inline std::string_view trimmedView(std::string_view text)
+{
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
 /// One group of a file, its code and its value, and where these stand. It points into the bytes it
 /// was read from, which must outlive it.
 struct Tag
@@ -55,7 +70,7 @@ struct Tag
         return isText ? raw() : std::string_view();
     }
     /// The same without the blanks around it.
-    std::string_view trimmed() const;
+    std::string_view trimmed() const { return trimmedView(text()); }
     /// The same with numbers as text files have them.
     QByteArray printed() const;
     /// The bytes of the value, as the file spells it.
@@ -66,9 +81,6 @@ struct Tag
     ByteRange range() const { return {begin(), end()}; }
     ByteRange valueRange() const { return {value - origin, valueEnd - origin}; }
 };
-
-/// `text` without blanks and tabs around it.
-std::string_view trimmedView(std::string_view text);
 
 inline std::string_view viewOf(const QByteArray& bytes)
 {

@@ -62,10 +62,17 @@ void LayerRecords::remove(const LayerEntry& entry)
 quint64 LayerRecords::madeHandle(LayerId layer)
 {
     LayerEntry entry = m_layers.entry(layer);
-    if (!entry.hasRecord) {
+    if (entry.hasRecord && entry.handle != 0)
+        return entry.handle;
+    if (entry.hasRecord) {
+        entry.handle = m_file.takeHandle();
+        TagList record = tags(entry);
+        record.insert(1, record.style().handle(group::kHandle, entry.handle));
+        store(entry, record.bytes());
+    } else {
         add(entry);
-        m_layers.change(layer, entry);
     }
+    m_layers.change(layer, entry);
     return entry.handle;
 }
 

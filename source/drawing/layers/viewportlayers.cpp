@@ -1,6 +1,7 @@
 #include "viewportlayers.h"
 
 #include "drawingtexts.h"
+#include "groupcode.h"
 #include "insertionorder.h"
 #include "layerfates.h"
 #include "owntags.h"
@@ -132,12 +133,28 @@ Expected<void> ViewportLayers::setFrozen(const std::vector<LayerId>& layers)
     return {};
 }
 
+/// The handle of a viewport; one without gets one.
+quint64 ViewportLayers::madeHandle(const Entity& viewport)
+{
+    TagReader tags = m_file.tags(viewport.range());
+    if (const quint64 known = ownHandle(tags))
+        return known;
+    Tag type;
+    const qint64 at = tags.next(type) ? type.end() : viewport.end;
+    EditJournal& journal = m_file.journal();
+    if (const TagList made = m_file.tagList(journal.inserted(at, kNewHandle)); made.size() > 0)
+        return made.handle(0);
+    const quint64 taken = m_file.takeHandle();
+    journal.insert(at, kNewHandle, m_file.styleOf(viewport.range()).handle(group::kHandle, taken));
+    return taken;
+}
+
 Expected<std::vector<LayerId>> ViewportLayers::override(
     const std::vector<LayerInViewport>& layers, int properties)
 {
     if (const auto checked = check(); !checked)
         return tl::make_unexpected(checked.error());
-    const quint64 viewport = ownHandle(m_file.tags(current().range()));
+    const quint64 viewport = madeHandle(current());
     std::vector<LayerId> incomplete;
     for (const LayerInViewport& layer : layers) {
         if (!m_overrides.set(layer.layer, viewport, layer.shown, properties))

@@ -50,6 +50,7 @@ private:
     struct FrozenList;
 
     const Entity& current() const;
+    quint64 madeHandle(const Entity& viewport);
     FrozenList list(const Entity& viewport) const;
     void write(const FrozenList& list, const std::vector<quint64>& added);
 

@@ -133,7 +133,7 @@ void LayerStates::makeDictionary(LayerStateTable& table)
     SymbolTables& tables = m_file.tables();
     quint64 extension = extensionOf(m_file.tags(m_file.table(TableKind::Layer).head));
     if (objects.kind(extension) != ObjectKind::Dictionary) {
-        extension = objects.addDictionary(tables.handle(TableKind::Layer));
+        extension = objects.addDictionary(tables.madeHandle(TableKind::Layer));
         tables.linkExtension(TableKind::Layer, extension);
     }
     table.dictionary = objects.addDictionary(extension);
