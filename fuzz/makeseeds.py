@@ -5,6 +5,9 @@ import pathlib
 import random
 import sys
 
+sys.path.append(str(pathlib.Path(__file__).parent.parent / "tests" / "support"))
+from binarytwin import twin
+
 KEPT_OF_A_KIND = 2
 DIALOG_SEEDS = 200
 DIALOG_SEED_SIZE = 400
@@ -59,6 +62,8 @@ def main():
         small = cut_down(drawing.read_bytes())
         for number in range(8):
             write("drawing", f"{drawing.stem}-{number}", small + chance.randbytes(24))
+            write("drawing", f"{drawing.stem}-binary-{number}", twin(small) + chance.randbytes(24))
+        write("drawing", f"{drawing.stem}-cut", small[:chance.randrange(len(small))])
         write("standards", drawing.stem, small)
     for kind in handmade.iterdir():
         for seed in kind.iterdir():
