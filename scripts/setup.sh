@@ -5,11 +5,11 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build
-    qtbase5-dev qttranslations5-l10n libexpected-dev libcli11-dev libxxhash-dev libbenchmark-dev libdxflib-dev
+    qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libexpected-dev libcli11-dev libxxhash-dev libbenchmark-dev libdxflib-dev
     fonts-wqy-zenhei
 )
 if [ "${1:-}" = "--tests" ]; then
-    packages+=(python3-ezdxf)
+    packages+=(python3-ezdxf python3-jsonschema)
 elif [ "${1:-}" = "--fuzz" ]; then
     packages+=(clang libclang-rt-dev python3)
 fi

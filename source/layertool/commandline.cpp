@@ -1,6 +1,5 @@
 #include "commandline.h"
 
-#include "engine/console.h"
 #include "engine/run.h"
 #include "texts.h"
 
@@ -17,11 +16,6 @@ namespace {
 EarlyExit misuse(const QString& text)
 {
     return {kMisuse, Texts::tr("layertool: %1\n用 layertool help 查看用法。\n").arg(text)};
-}
-
-QStringList wordsOf(const char* words)
-{
-    return QString::fromLatin1(words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 /// The name most like a word that was not understood; empty when none is near.
@@ -182,26 +176,6 @@ tl::expected<void, EarlyExit> VerbLine::parse(const QStringList& words)
     }
 }
 
-QString optionHead(const OptionRow& row)
-{
-    const QString name = QStringLiteral("  --") + QLatin1String(row.name);
-    switch (row.kind) {
-    case OptionKind::Flag:
-        return name;
-    case OptionKind::Text:
-        return name + Texts::tr(" 文字");
-    case OptionKind::File:
-        return name + Texts::tr(" 文件");
-    case OptionKind::Folder:
-        return name + Texts::tr(" 文件夹");
-    case OptionKind::Number:
-        return name + Texts::tr(" 数");
-    case OptionKind::Choice:
-        return name + QLatin1Char(' ') + wordsOf(row.choices).join(QLatin1Char('|'));
-    }
-    return name;
-}
-
 } // namespace
 
 std::vector<OptionRow> optionsOf(const VerbRow& verb)
@@ -217,40 +191,6 @@ std::vector<OptionRow> optionsOf(const VerbRow& verb)
         all.push_back(row);
     }
     return all;
-}
-
-QString helpText()
-{
-    QString text = Texts::tr("用法：layertool 命令 [选项...] 图形或文件夹...\n\n"
-                             "处理一个或许多 DXF 图形的图层，不需要窗口。\n\n命令：\n");
-    for (const VerbRow& row : verbs())
-        text += QStringLiteral("  ") + padded(QLatin1String(row.name), 12) + Texts::tr(row.text) +
-                QLatin1Char('\n');
-    text += Texts::tr("  completion  输出 bash 或 zsh 的命令补全脚本\n"
-                      "  help        显示用法，或一个命令的用法\n\n"
-                      "完成且没有发现时返回 0；有发现、有差别或有图形失败时返回 1；"
-                      "用法、标准或表格有误时返回 2；中断时返回 128 加信号的编号。\n");
-    return text;
-}
-
-QString helpText(const VerbRow& verb)
-{
-    const QString actions = wordsOf(verb.actions).join(QLatin1Char('|'));
-    QString text =
-        Texts::tr("用法：layertool %1%2 [选项...] %3\n\n%4\n\n选项：\n")
-            .arg(QLatin1String(verb.name),
-                actions.isEmpty() ? QString() : QLatin1Char(' ') + actions,
-                verb.inputs == Inputs::Pairs ? Texts::tr("甲 乙") : Texts::tr("图形或文件夹..."),
-                Texts::tr(verb.text));
-    constexpr int kHeadWidth = 28;
-    for (const OptionRow& row : optionsOf(verb)) {
-        const QString head = optionHead(row);
-        text += widthOf(head) < kHeadWidth
-                    ? padded(head, kHeadWidth)
-                    : head + QLatin1Char('\n') + QString(kHeadWidth, QLatin1Char(' '));
-        text += Texts::tr(row.text) + QLatin1Char('\n');
-    }
-    return text;
 }
 
 tl::expected<Arguments, EarlyExit> readCommandLine(const QStringList& arguments)

@@ -16,10 +16,6 @@ struct EarlyExit
 /// the word, what they do not know.
 tl::expected<Arguments, EarlyExit> readCommandLine(const QStringList& arguments);
 
-/// Help as people read it, of the program or of one verb.
-QString helpText();
-QString helpText(const VerbRow& verb);
-
 /// The options a verb takes, with those all verbs have; the choices of --format are the verb's.
 std::vector<OptionRow> optionsOf(const VerbRow& verb);
 

@@ -20,15 +20,18 @@ void install(QTranslator& translator, const QString& name, const QString& folder
 void useLanguage(const QString& language)
 {
     static QTranslator ofQt;
+    static QTranslator ofDrawings;
     static QTranslator ours;
     const bool isChinese = language.isEmpty() ? QLocale::system().language() == QLocale::Chinese ||
                                                     QLocale::system().language() == QLocale::C
                                               : language == QLatin1String("zh");
-    if (isChinese)
+    if (isChinese) {
         install(ofQt, QStringLiteral("qtbase_zh_CN"),
             QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    else
-        install(ours, QStringLiteral("layertool_en"), QStringLiteral(":/i18n"));
+        return;
+    }
+    install(ofDrawings, QStringLiteral("drawing_en"), QStringLiteral(":/i18n"));
+    install(ours, QStringLiteral("layertool_en"), QStringLiteral(":/i18n"));
 }
 
 } // namespace layertool

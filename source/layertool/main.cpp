@@ -2,6 +2,7 @@
 #include "engine/console.h"
 #include "engine/run.h"
 #include "engine/worker.h"
+#include "help.h"
 #include "language.h"
 #include "texts.h"
 
@@ -12,12 +13,6 @@
 namespace {
 
 using namespace layertool;
-
-void say(const QString& text)
-{
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
-}
 
 int help(const QString& verb)
 {
@@ -38,12 +33,37 @@ QString languageOf(const QStringList& words)
     return at >= 0 ? words.value(at + 1) : joined.value(0).section(QLatin1Char('='), 1);
 }
 
+/// The verb that help is asked for; empty for all of them.
+QString helpTopic(const QStringList& words)
+{
+    for (int i = 2; i < words.size(); ++i) {
+        if (words.at(i) == QLatin1String("--language"))
+            ++i;
+        else if (!words.at(i).startsWith(QLatin1Char('-')))
+            return words.at(i);
+    }
+    return {};
+}
+
+/// The words with a "--language" from in front of the verb put behind it, where options are read.
+QStringList verbFirst(QStringList words)
+{
+    int options = 0;
+    if (words.value(1) == QLatin1String("--language"))
+        options = 2;
+    else if (words.value(1).startsWith(QLatin1String("--language=")))
+        options = 1;
+    if (options > 0 && words.size() > options + 1)
+        words.move(options + 1, 1);
+    return words;
+}
+
 int run(const QStringList& words)
 {
     const QString first = words.value(1);
     if (first.isEmpty() || first == QLatin1String("--help") || first == QLatin1String("-h") ||
         first == QLatin1String("help"))
-        return help(words.value(2).startsWith(QLatin1Char('-')) ? QString() : words.value(2));
+        return help(helpTopic(words));
     if (first == QLatin1String("--version") || first == QLatin1String("-v")) {
         say(QStringLiteral("layertool %1\n").arg(QCoreApplication::applicationVersion()));
         return kFine;
@@ -69,7 +89,7 @@ int main(int argc, char** argv)
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication::setApplicationName(QStringLiteral("layertool"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LAYERTOOL_VERSION));
-    const QStringList words = QCoreApplication::arguments();
+    const QStringList words = verbFirst(QCoreApplication::arguments());
     if (words.value(1) == QLatin1String(kWorkerOption))
         return runWorker();
     useLanguage(languageOf(words));

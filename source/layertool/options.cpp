@@ -1,6 +1,6 @@
 #include "options.h"
 
-#include <QCoreApplication>
+#include "texts.h"
 
 namespace layertool {
 
@@ -68,6 +68,30 @@ constexpr OptionRow kEditing[] = {
 };
 
 } // namespace
+
+QStringList wordsOf(const char* words)
+{
+    return QString::fromLatin1(words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+QString valueText(const OptionRow& row)
+{
+    switch (row.kind) {
+    case OptionKind::Flag:
+        break;
+    case OptionKind::Text:
+        return Texts::tr("文字").toUpper();
+    case OptionKind::File:
+        return Texts::tr("文件").toUpper();
+    case OptionKind::Folder:
+        return Texts::tr("文件夹").toUpper();
+    case OptionKind::Number:
+        return Texts::tr("数").toUpper();
+    case OptionKind::Choice:
+        return wordsOf(row.choices).join(QLatin1Char('|'));
+    }
+    return {};
+}
 
 std::vector<OptionRow> joined(OptionRows first, OptionRows second)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QStringList>
 
 #include <vector>
 
@@ -45,6 +45,12 @@ struct OptionRows
     const OptionRow* begin() const { return first; }
     const OptionRow* end() const { return first + count; }
 };
+
+/// The words of a table's cell that holds several, with blanks between them.
+QStringList wordsOf(const char* words);
+/// What stands for the option's value in help, "FILE" say; its choices with bars between them.
+/// Empty for flags.
+QString valueText(const OptionRow& row);
 
 /// Two parts of a table as one.
 std::vector<OptionRow> joined(OptionRows first, OptionRows second);

@@ -26,8 +26,8 @@ Expected<void> Verb::write(
 
 bool editsDrawings(const VerbRow& verb, const Arguments& arguments)
 {
-    const QStringList reading = QString::fromLatin1(verb.readingActions).split(QLatin1Char(' '));
-    return verb.edits && (arguments.action.isEmpty() || !reading.contains(arguments.action));
+    return verb.edits &&
+           (arguments.action.isEmpty() || !wordsOf(verb.readingActions).contains(arguments.action));
 }
 
 const VerbRow* findVerb(const QString& name)

@@ -75,6 +75,8 @@ struct VerbRow
     Inputs inputs = Inputs::Drawings;
     /// Of commands that work on no drawings: does all there is to do and returns the exit code.
     int (*runAlone)(const Arguments& arguments) = nullptr;
+    const char* operands =
+        ""; ///< What such a command is given, as help shows it; to be translated.
 };
 
 /// All verbs, in the order in which help shows them.

@@ -18,6 +18,10 @@ const std::vector<VerbRow>& verbs()
         statesVerb(),
         splitVerb(),
         reportVerb(),
+        rulesVerb(),
+        explainVerb(),
+        completionVerb(),
+        manVerb(),
     };
     return all;
 }

@@ -24,6 +24,7 @@ VerbRow reportVerb()
         QT_TRANSLATE_NOOP("layertool", "由输出文件夹中的日志做出 CSV 报告，不处理图形。"),
         OptionRows::of(kOptions), "", false, nullptr};
     row.runAlone = runReport;
+    row.operands = QT_TRANSLATE_NOOP("layertool", "输出文件夹");
     return row;
 }
 

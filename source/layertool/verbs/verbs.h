@@ -18,5 +18,9 @@ VerbRow diffVerb();
 VerbRow statesVerb();
 VerbRow splitVerb();
 VerbRow reportVerb();
+VerbRow rulesVerb();
+VerbRow explainVerb();
+VerbRow completionVerb();
+VerbRow manVerb();
 
 } // namespace layertool
