@@ -44,7 +44,7 @@ constexpr TypeRow kTypes[] = {
         "ltransResultNewLineWidthName ltransResultNewPlotstyle"},
     {kNarrow, "caption"},
     {kEitherInteger, "Color/clrMethod Color/selectClr clrMethod selectClr transToColor/clrMethod "
-                    "transToColor/selectClr"},
+                     "transToColor/selectClr"},
     {kTree,
         "LayerList LayerStateMgr LayerStateList LayerStateList1 LayerStateListHaveRef parameter "
         "LStatefilePaths LayerStateDeleteNames ColumnWidthList NeedAddlayerList filePaths Color "

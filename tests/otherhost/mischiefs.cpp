@@ -1,7 +1,6 @@
-#include "mischiefs.h"
-
 #include "dialogpresser.h"
 #include "hostextras.h"
+#include "otherhost.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -80,6 +79,13 @@ VnJsonPtr filledWithOthers(const VnJsonPtr& member)
     member->elements.emplace_back();
     member->elements.push_back(hostextras::scalarOf(OdString(L"?")));
     return member;
+}
+
+VnJsonPtr sharedList(const VnJsonPtr&)
+{
+    static const VnJsonPtr list = hostextras::createArray(1);
+    list->elements = {vnsi::ElementValue::createObject(0)};
+    return list;
 }
 
 /// The value with another type: what was a bool is a number, what was wide is narrow.
@@ -202,7 +208,8 @@ std::vector<Mischief> makeMischiefs()
         const char* name;
         VnJsonPtr (*change)(const VnJsonPtr&);
     } kChanges[] = {{"replaces", replaced}, {"empties", emptied}, {"removes", removed},
-        {"makes a number of", madeNumber}, {"fills with others", filledWithOthers}};
+        {"makes a number of", madeNumber}, {"fills with others", filledWithOthers},
+        {"shares one list as", sharedList}};
     static std::vector<std::string> names; // What the rows point to.
     names.reserve(32);
     for (const auto& [name, change] : kChanges) {
@@ -216,7 +223,7 @@ std::vector<Mischief> makeMischiefs()
 
 } // namespace
 
-const std::vector<Mischief>& mischiefs()
+const std::vector<Mischief>& otherhost::mischiefs()
 {
     static const std::vector<Mischief> all = makeMischiefs();
     return all;

@@ -43,6 +43,9 @@ struct Mischief
     const char* key = "";  ///< What it is done to; nothing happens in trees without it.
 };
 
+/// Everything that this host does to dialogs, a row each.
+const std::vector<Mischief>& mischiefs();
+
 /// The host's state: how it behaves now, what it shows and what it noticed.
 class OtherHost
 {

@@ -2,7 +2,7 @@
 #include "dialogpresser.h"
 #include "dialogsamples.h"
 #include "hostextras.h"
-#include "mischiefs.h"
+#include "otherhost.h"
 
 #include <QAbstractButton>
 #include <QApplication>

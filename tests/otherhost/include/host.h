@@ -57,7 +57,6 @@ public:
     int ArrayCount() const { return static_cast<int>(elements.size()); }
     VnJsonPtr operator()(int index) const;
 
-
     // What this host has besides, under names of its own.
 
     explicit IElementValueBase(Form itsForm) : form(itsForm) {}
@@ -85,7 +84,6 @@ class ElementValue
 public:
     static VnJsonPtr createObject(int room);
 };
-
 
 // Texts.
 QString vnutOdStringToQString(const OdString& text);

@@ -20,14 +20,6 @@ using OdUInt32 = std::uint32_t;
 using OdInt64 = std::int64_t;
 using ODCOLORREF = std::uint32_t;
 
-inline void* odrxAlloc(std::size_t size)
-{
-    return std::malloc(size);
-}
-inline void odrxFree(void* memory)
-{
-    std::free(memory);
-}
 /// An assertion that does not hold ends the process here.
 [[noreturn]] inline void OdAssert(const char*, const char*, int)
 {
@@ -41,7 +33,6 @@ public:
     OdString(const wchar_t* text) : m_text(text ? text : L"") {}
     const wchar_t* c_str() const { return m_text.c_str(); }
     bool isEmpty() const { return m_text.empty(); }
-    int getLength() const { return static_cast<int>(m_text.size()); }
     friend bool operator==(const OdString& a, const OdString& b) { return a.m_text == b.m_text; }
     friend bool operator!=(const OdString& a, const OdString& b) { return a.m_text != b.m_text; }
 
@@ -67,23 +58,9 @@ class OdError : public std::exception
 {
 };
 
-class OdError_InvalidIndex : public OdError
-{
-};
-
 template <class T>
 class OdArray
 {
-public:
-    void append(const T& item) { m_items.push_back(item); }
-    unsigned length() const { return static_cast<unsigned>(m_items.size()); }
-    const T& operator[](unsigned index) const
-    {
-        return index < length() ? m_items[index] : throw OdError_InvalidIndex();
-    }
-
-private:
-    std::vector<T> m_items;
 };
 
 enum OdRxObjMod { kOdRxObjAttach };
