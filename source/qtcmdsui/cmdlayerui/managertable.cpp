@@ -10,6 +10,8 @@
 #include <QSignalBlocker>
 #include <QTableWidget>
 
+#include <string_view>
+
 namespace vnsi {
 
 namespace {
@@ -37,7 +39,7 @@ constexpr LayerColumn kColumns[] = {
 constexpr int kColumnCount = static_cast<int>(std::size(kColumns));
 
 /// The column that shows a member of the record.
-constexpr int columnOf(const char* key)
+constexpr int columnOf(std::string_view key)
 {
     int column = 0;
     while (kColumns[column].key != key)
