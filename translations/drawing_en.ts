@@ -208,10 +208,6 @@
         <translation>Opening the file “%1” was canceled.</translation>
     </message>
     <message>
-        <source>文件“%1”不是 DXF 图形：它不以 SECTION 段开头（%2）。</source>
-        <translation>The file “%1” is not a DXF drawing: it does not begin with a SECTION (%2).</translation>
-    </message>
-    <message>
         <source>文件“%1”%2的组码不存在。</source>
         <translation>The file “%1” has a group code at %2 that does not exist.</translation>
     </message>
@@ -256,10 +252,6 @@
         <translation>The drawing does not say in what code page its text is; it was read as %1. It can be opened again with another code page.</translation>
     </message>
     <message>
-        <source>文件“%1”没有图层表（LAYER），到第 %2 行 TABLES 段已结束。</source>
-        <translation>The file “%1” has no layer table (LAYER): the section TABLES ends at line %2 without one.</translation>
-    </message>
-    <message>
         <source>文件夹不存在</source>
         <translation>the folder does not exist</translation>
     </message>
@@ -290,18 +282,6 @@
     <message>
         <source>已取消。</source>
         <translation>Canceled.</translation>
-    </message>
-    <message>
-        <source>图层名不能为空。</source>
-        <translation>A layer name cannot be empty.</translation>
-    </message>
-    <message>
-        <source>图层名“%1…”超过 255 个字符。</source>
-        <translation>The layer name “%1…” is longer than 255 characters.</translation>
-    </message>
-    <message>
-        <source>图层名“%1”含有不能使用的字符：\ &lt; &gt; / &quot; : ; ? * | , = ` 或控制字符。</source>
-        <translation>The layer name “%1” holds characters that cannot be used: \ &lt; &gt; / &quot; : ; ? * | , = ` or control characters.</translation>
     </message>
     <message>
         <source>已有名为“%1”的图层。</source>
@@ -614,6 +594,66 @@
     <message>
         <source>无法写入日志文件“%1”：%2。</source>
         <translation>Cannot write the log file “%1”: %2.</translation>
+    </message>
+    <message>
+        <source>图形不完整，不能覆盖原文件，请另存为其他文件</source>
+        <translation>the drawing is incomplete and may not replace the original file; save it as another file</translation>
+    </message>
+    <message>
+        <source>文件“%1”是 %2 的 DXF，其中没有 SECTION 段，不能读取（%3）。</source>
+        <translation>The file “%1” is a DXF of %2 without any SECTION and cannot be read (%3).</translation>
+    </message>
+    <message>
+        <source>文件“%1”不是 DXF 图形，或者来自 R9 以前的版本：它不以 SECTION 段开头（%2）。</source>
+        <translation>The file “%1” is no DXF drawing, or of a version before R9: it does not begin with a SECTION (%2).</translation>
+    </message>
+    <message>
+        <source>文件“%1”%2的段没有名称，不能读取。</source>
+        <translation>The file “%1” cannot be read: the section at %2 has no name.</translation>
+    </message>
+    <message>
+        <source>文件“%1”%2的内容不在任何段中，不能读取。</source>
+        <translation>The file “%1” cannot be read: what stands at %2 is in no section.</translation>
+    </message>
+    <message>
+        <source>文件“%1”%2的表没有名称，不能读取。</source>
+        <translation>The file “%1” cannot be read: the table at %2 has no name.</translation>
+    </message>
+    <message>
+        <source>文件“%1”%2的记录不在任何表中，不能读取。</source>
+        <translation>The file “%1” cannot be read: the record at %2 is in no table.</translation>
+    </message>
+    <message>
+        <source>%1此后的内容没有读入；只能另存为其他文件。</source>
+        <translation>%1 What follows was not read; it can only be saved as another file.</translation>
+    </message>
+    <message>
+        <source>%1不能为空。</source>
+        <translation>%1 must not be empty.</translation>
+    </message>
+    <message>
+        <source>%1“%2…”超过 %3 个字符。</source>
+        <translation>%1 “%2…” is longer than %3 characters.</translation>
+    </message>
+    <message>
+        <source>%1“%2”含有不能使用的字符：\ &lt; &gt; / &quot; : ; ? * | , = ` 或控制字符。</source>
+        <translation>%1 “%2” contains characters that may not be used: \ &lt; &gt; / &quot; : ; ? * | , = ` or control characters.</translation>
+    </message>
+    <message>
+        <source>%1“%2…”超过 %3 个字符，此图形的 DXF 版本不能保存。</source>
+        <translation>%1 “%2…” is longer than %3 characters, which this drawing&apos;s DXF version cannot hold.</translation>
+    </message>
+    <message>
+        <source>%1“%2”：此图形的 DXF 版本只能使用字母、数字和 $ - _。</source>
+        <translation>%1 “%2”: this drawing&apos;s DXF version allows only letters, digits and $ - _.</translation>
+    </message>
+    <message>
+        <source>图层名</source>
+        <translation>The layer name</translation>
+    </message>
+    <message>
+        <source>图形中有本程序读不懂的自定义对象，其中提到图层“%1”%2：这些数据原样保留，没有随之改动。</source>
+        <translation>The drawing holds custom objects that this program cannot read and that mention the layer “%1”%2: these data were kept as they are and did not follow.</translation>
     </message>
 </context>
 </TS>
