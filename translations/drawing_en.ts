@@ -597,15 +597,15 @@
     </message>
     <message>
         <source>图形不完整，不能覆盖原文件，请另存为其他文件</source>
-        <translation>the drawing is incomplete and may not replace the original file; save it as another file</translation>
+        <translation>the drawing is incomplete and cannot take the place of the original; save it as another file</translation>
     </message>
     <message>
         <source>文件“%1”是 %2 的 DXF，其中没有 SECTION 段，不能读取（%3）。</source>
-        <translation>The file “%1” is a DXF of %2 without any SECTION and cannot be read (%3).</translation>
+        <translation>The file “%1” is a DXF of %2 without any SECTION, which cannot be read (%3).</translation>
     </message>
     <message>
         <source>文件“%1”不是 DXF 图形，或者来自 R9 以前的版本：它不以 SECTION 段开头（%2）。</source>
-        <translation>The file “%1” is no DXF drawing, or of a version before R9: it does not begin with a SECTION (%2).</translation>
+        <translation>The file “%1” is not a DXF drawing, or of a version before R9: it does not begin with a SECTION (%2).</translation>
     </message>
     <message>
         <source>文件“%1”%2的段没有名称，不能读取。</source>
@@ -629,7 +629,7 @@
     </message>
     <message>
         <source>%1不能为空。</source>
-        <translation>%1 must not be empty.</translation>
+        <translation>%1 cannot be empty.</translation>
     </message>
     <message>
         <source>%1“%2…”超过 %3 个字符。</source>
@@ -637,15 +637,15 @@
     </message>
     <message>
         <source>%1“%2”含有不能使用的字符：\ &lt; &gt; / &quot; : ; ? * | , = ` 或控制字符。</source>
-        <translation>%1 “%2” contains characters that may not be used: \ &lt; &gt; / &quot; : ; ? * | , = ` or control characters.</translation>
+        <translation>%1 “%2” holds characters that cannot be used: \ &lt; &gt; / &quot; : ; ? * | , = ` or control characters.</translation>
     </message>
     <message>
         <source>%1“%2…”超过 %3 个字符，此图形的 DXF 版本不能保存。</source>
-        <translation>%1 “%2…” is longer than %3 characters, which this drawing&apos;s DXF version cannot hold.</translation>
+        <translation>%1 “%2…” is longer than %3 characters, which the drawing&apos;s DXF version cannot hold.</translation>
     </message>
     <message>
         <source>%1“%2”：此图形的 DXF 版本只能使用字母、数字和 $ - _。</source>
-        <translation>%1 “%2”: this drawing&apos;s DXF version allows only letters, digits and $ - _.</translation>
+        <translation>%1 “%2”: the drawing&apos;s DXF version allows letters, digits and $ - _ only.</translation>
     </message>
     <message>
         <source>图层名</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>图形中有本程序读不懂的自定义对象，其中提到图层“%1”%2：这些数据原样保留，没有随之改动。</source>
-        <translation>The drawing holds custom objects that this program cannot read and that mention the layer “%1”%2: these data were kept as they are and did not follow.</translation>
+        <translation>The drawing has custom objects that this program cannot read and that name layer “%1”%2: their data were kept as they are and did not follow the change.</translation>
     </message>
 </context>
 </TS>

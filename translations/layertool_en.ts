@@ -1135,5 +1135,25 @@ See layertool help.
         <source>按标准文件转换图层：改名、合并、改特性、把对象移到目标图层。</source>
         <translation>Translates layers to a standards file: renames, merges, changes properties, moves entities to target layers.</translation>
     </message>
+    <message>
+        <source>字段“%1”没有名为“%2”的键。</source>
+        <translation>The field “%1” has no key named “%2”.</translation>
+    </message>
+    <message>
+        <source>字段“%1”只能有 values 或 pattern 之一。</source>
+        <translation>The field “%1” can have “values” or “pattern”, not both.</translation>
+    </message>
+    <message>
+        <source>naming 没有名为“%1”的键。</source>
+        <translation>“naming” has no key named “%1”.</translation>
+    </message>
+    <message>
+        <source>naming 的 case 应为 upper 或 any，不是“%1”。</source>
+        <translation>The “case” of “naming” must be upper or any, not “%1”.</translation>
+    </message>
+    <message>
+        <source>规则文件“%1”的 extends 又回到它自己。</source>
+        <translation>The “extends” of the rule file “%1” leads back to the file itself.</translation>
+    </message>
 </context>
 </TS>

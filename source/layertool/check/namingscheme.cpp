@@ -18,6 +18,16 @@ tl::unexpected<Error> refuse(const QString& text)
     return tl::make_unexpected(Error{text});
 }
 
+/// The first key that is none of those known; empty when all are.
+QString unknownKey(const QJsonObject& json, const QStringList& known)
+{
+    for (const QString& key : json.keys()) {
+        if (!known.contains(key))
+            return key;
+    }
+    return {};
+}
+
 bool readWidth(const QJsonValue& value, NameField& field)
 {
     if (value.isUndefined() || value.isNull())
@@ -45,6 +55,13 @@ Expected<NameField> readField(const QJsonObject& json)
     field.name = json.value(QLatin1String("name")).toString();
     if (field.name.isEmpty())
         return refuse(Texts::tr("naming 的 fields 中有一个字段没有 name。"));
+    static const QStringList keys{QStringLiteral("name"), QStringLiteral("width"),
+        QStringLiteral("values"), QStringLiteral("pattern"), QStringLiteral("optional"),
+        QStringLiteral("before")};
+    if (const QString key = unknownKey(json, keys); !key.isEmpty())
+        return refuse(Texts::tr("字段“%1”没有名为“%2”的键。").arg(field.name, key));
+    if (json.contains(QLatin1String("values")) && json.contains(QLatin1String("pattern")))
+        return refuse(Texts::tr("字段“%1”只能有 values 或 pattern 之一。").arg(field.name));
     if (!readWidth(json.value(QLatin1String("width")), field))
         return refuse(
             Texts::tr("字段“%1”的 width 应为一个正整数，或由小到大两个。").arg(field.name));
@@ -66,9 +83,16 @@ Expected<NameField> readField(const QJsonObject& json)
 
 Expected<NamingScheme> NamingScheme::read(const QJsonObject& json)
 {
+    static const QStringList keys{QStringLiteral("separator"), QStringLiteral("case"),
+        QStringLiteral("maxLength"), QStringLiteral("fields")};
+    if (const QString key = unknownKey(json, keys); !key.isEmpty())
+        return refuse(Texts::tr("naming 没有名为“%1”的键。").arg(key));
+    const QString letterCase = json.value(QLatin1String("case")).toString(QStringLiteral("any"));
+    if (letterCase != QLatin1String("upper") && letterCase != QLatin1String("any"))
+        return refuse(Texts::tr("naming 的 case 应为 upper 或 any，不是“%1”。").arg(letterCase));
     NamingScheme scheme;
     scheme.m_separator = json.value(QLatin1String("separator")).toString();
-    scheme.m_isUpper = json.value(QLatin1String("case")).toString() == QLatin1String("upper");
+    scheme.m_isUpper = letterCase == QLatin1String("upper");
     scheme.m_mostCharacters = json.value(QLatin1String("maxLength")).toInt(255);
     for (const QJsonValue& value : json.value(QLatin1String("fields")).toArray()) {
         auto field = readField(value.toObject());

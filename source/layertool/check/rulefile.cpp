@@ -6,6 +6,7 @@
 #include "standardsfile.h"
 #include "texts.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -128,6 +129,7 @@ Expected<void> readLevels(const QJsonValue& value, LayerRules& rules)
 constexpr KeyRow kKeys[] = {
     {"$schema", readNothing},
     {"source", readNothing},
+    {"extends", readNothing}, // Read before all else.
     {"name", readName},
     {"exempt", readPatterns<&LayerRules::exempt>},
     {"required", readRequired},
@@ -149,6 +151,51 @@ Expected<void> readKeys(const QJsonObject& json, LayerRules& rules)
         if (auto read = row->read(it.value(), rules); !read)
             return read;
     }
+    return {};
+}
+
+Expected<QJsonObject> jsonOf(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return refuse(Texts::tr("无法读取规则文件“%1”：%2。").arg(path, file.errorString()));
+    QJsonParseError fault;
+    const QByteArray bytes = file.readAll();
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &fault);
+    if (!document.isObject())
+        return refuse(Texts::tr("规则文件“%1”的第 %2 行不是 JSON：%3。")
+                          .arg(path)
+                          .arg(bytes.left(fault.offset).count('\n') + 1)
+                          .arg(fault.errorString()));
+    return document.object();
+}
+
+/// The files that a rule file builds on, one or a list of them, by paths from its folder.
+QStringList basesOf(const QString& path, const QJsonValue& value)
+{
+    QStringList bases;
+    const QJsonArray names = value.isString() ? QJsonArray{value} : value.toArray();
+    for (const QJsonValue& name : names)
+        bases += QFileInfo(path).dir().filePath(name.toString());
+    return bases;
+}
+
+/// Reads a file after those it builds on; `readers` are the files that led here.
+Expected<void> readChain(const QString& path, const QStringList& readers, LayerRules& rules)
+{
+    const QString place = QFileInfo(path).absoluteFilePath();
+    if (readers.contains(QDir::cleanPath(place)))
+        return refuse(Texts::tr("规则文件“%1”的 extends 又回到它自己。").arg(path));
+    const auto json = jsonOf(path);
+    if (!json)
+        return tl::make_unexpected(json.error());
+    for (const QString& base : basesOf(path, json->value(QLatin1String("extends")))) {
+        if (auto read = readChain(base, readers + QStringList{QDir::cleanPath(place)}, rules);
+            !read)
+            return read;
+    }
+    if (const auto read = readKeys(*json, rules); !read)
+        return refuse(Texts::tr("规则文件“%1”：%2").arg(path, read.error().text));
     return {};
 }
 
@@ -212,20 +259,7 @@ Expected<void> readStandardDrawing(const QString& path, LayerRules& rules)
 
 Expected<void> readRuleFile(const QString& path, LayerRules& rules)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refuse(Texts::tr("无法读取规则文件“%1”：%2。").arg(path, file.errorString()));
-    QJsonParseError fault;
-    const QByteArray bytes = file.readAll();
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &fault);
-    if (!document.isObject())
-        return refuse(Texts::tr("规则文件“%1”的第 %2 行不是 JSON：%3。")
-                          .arg(path)
-                          .arg(bytes.left(fault.offset).count('\n') + 1)
-                          .arg(fault.errorString()));
-    if (const auto read = readKeys(document.object(), rules); !read)
-        return refuse(Texts::tr("规则文件“%1”：%2").arg(path, read.error().text));
-    return {};
+    return readChain(path, {}, rules);
 }
 
 } // namespace layertool
