@@ -27,10 +27,17 @@ def layer_facts(layer):
     }
 
 
+def layer_of(entity):
+    if entity.dxf.is_supported("layer"):
+        return entity.dxf.get("layer", "0")
+    # Of kinds that it does not know it keeps the tags.
+    return entity.xtags.get_subclass("AcDbEntity").get_first_value(8, "0")
+
+
 def main():
     doc = ezdxf.readfile(sys.argv[1])
     counts = Counter(
-        text(entity.dxf.get("layer", "0")).lower()
+        text(layer_of(entity)).lower()
         for entity in doc.chain_layouts_and_blocks()
         if entity.dxftype() != "DICTIONARY"
     )

@@ -125,6 +125,10 @@ private slots:
                             "0 SORTENTSTABLE\n5 D2\n330 1F\n331 BB\n5 AA\n"
                             "0 IDBUFFER\n5 D3\n330 C\n100 AcDbIdBuffer\n330 BB\n"
                             "0 FIELDLIST\n5 D4\n330 C\n100 AcDbIdSet\n90 1\n330 BB\n"));
+        row("group without members",
+            withObjects(
+                kGone, "0 DICTIONARY\n5 D0\n330 C\n3 G\n350 D1\n0 GROUP\n5 D1\n330 D0\n340 AA\n"),
+            withObjects("", "0 DICTIONARY\n5 D0\n330 C\n"));
         row("what only it owned goes along, however deep",
             withObjects("0 LINE\n5 AA\n102 {ACAD_XDICTIONARY\n360 D1\n102 }\n8 Wall\n",
                 "0 DICTIONARY\n5 D1\n330 AA\n3 X\n360 D2\n0 XRECORD\n5 D2\n330 D1\n"
@@ -304,7 +308,7 @@ private slots:
         QVERIFY(inStep(*drawing, [&] { return drawing->deleteLayers({id(*drawing, "Wall")}); }));
         QVERIFY(inStep(*drawing, [&] { return drawing->moveEntities({2}, id(*drawing, "0")); }));
         QVERIFY(inStep(*drawing, [&] { return drawing->deleteLayers({id(*drawing, "Keep")}); }));
-        Yard after = withObjects("0 HATCH\n8 0\n71 0\n97 0\n", "0 GROUP\n5 D1\n");
+        Yard after = withEntities("0 HATCH\n8 0\n71 0\n97 0\n");
         after.hasWall = false;
         QCOMPARE(saved(*drawing), after.bytes()
                                       .replace("  0\nLAYER\n  5\n12\n  2\nKeep\n 70\n0\n 62\n2\n"

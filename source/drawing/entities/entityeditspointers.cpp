@@ -111,12 +111,36 @@ void PointerRemoval::addDependents()
     }
 }
 
+/// A group that loses all its members goes with them.
+void PointerRemoval::addEmptiedGroups()
+{
+    for (const ObjectPlace& object : m_file.index().objects) {
+        TagReader type = m_file.tags(object.range);
+        Tag tag;
+        if (!type.next(tag) || tag.trimmed() != "GROUP")
+            continue;
+        const TagList now = m_file.current(object.range);
+        int members = 0;
+        int gone = 0;
+        for (int at = 0; at < now.size(); ++at) {
+            if (now.code(at) != group::kHardPointer)
+                continue;
+            ++members;
+            gone += m_gone.count(now.handle(at)) != 0 ? 1 : 0;
+        }
+        if (gone > 0 && gone == members)
+            addObject(&object);
+    }
+}
+
 void PointerRemoval::run()
 {
     if (m_gone.empty())
         return;
     m_objectGoes.resize(m_file.index().objects.size());
     findDependents();
+    addDependents();
+    addEmptiedGroups();
     addDependents();
     for (const Entity& entity : m_entities.all()) {
         if (!entity.removed)

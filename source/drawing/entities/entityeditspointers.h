@@ -34,6 +34,7 @@ private:
     void addOwned(const ByteRange& range, bool isDictionary);
     void findDependents();
     void addDependents();
+    void addEmptiedGroups();
     bool pointsAtGone(const Tag& tag) const;
     bool touches(const ByteRange& range) const;
     void clean(const ByteRange& range);
