@@ -123,6 +123,13 @@ private slots:
             withApp(wallAs("62 5\n1001 AcAecLayerStandard\n1000 \n1000 old"), "AcAecLayerStandard"),
             set(&P::description, ""),
             withApp(wallAs("62 5\n1001 AcAecLayerStandard\n1000 \n1000 "), "AcAecLayerStandard"));
+        const auto longDescription = [](const QByteArray& flags) {
+            return withApp(wallAs(flags + "\n62 5\n1001 AcAecLayerStandard\n1000 \n1000 " +
+                                  QByteArray(256, 'd')),
+                "AcAecLayerStandard");
+        };
+        row("frozen with a description beyond the limit", longDescription("70 64"),
+            set(&P::frozen, true), longDescription("70 65"));
         row(
             "group of another program", wallAs("102 {OTHER\n62 1\n370 1\n102 }\n62 5"),
             [](P& p) {

@@ -72,7 +72,8 @@ Expected<void> LayerEdits::checkValues(
     if (after.transparency < 0 || after.transparency > kMostTransparent)
         return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：透明度 %2 不在 0 到 90 之间。"),
             QString::number(after.transparency));
-    if (after.description.size() > kLongestDescription)
+    // Drawings of other programs may hold longer ones, which stay.
+    if (after.description != before.description && after.description.size() > kLongestDescription)
         return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：说明“%2…”超过 255 个字符。"),
             after.description.left(20));
     return {};
@@ -84,7 +85,8 @@ Expected<LayerProperties> LayerEdits::settled(
 {
     LayerProperties after = wanted;
     after.name = wanted.name.trimmed();
-    after.description = oneLine(wanted.description);
+    if (wanted.description != before.description)
+        after.description = oneLine(wanted.description);
     after.plotted = wanted.plotted && !isNeverPlotted(after.name);
     const QString linetype = wanted.linetype.trimmed();
     const QString continuous = QStringLiteral("Continuous");
