@@ -4,6 +4,7 @@
 #include "commandinvoker.h"
 #include "drawing.h"
 #include "hostcodes.h"
+#include "layermarks.h"
 #include "layerrecords.h"
 #include "layerstatefile.h"
 #include "layerstateimport.h"
@@ -30,7 +31,6 @@ namespace {
 namespace key = vnsi::statekey;
 
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
-constexpr int kMostProblemsShown = 10;
 
 constexpr std::pair<int, int> kMaskBits[] = {
     {vnsi::kMaskOnOff, drawing::kStateOnOff},
@@ -197,15 +197,7 @@ bool LayerStateCommand::put(const std::vector<LayerState>& states)
 
 void LayerStateCommand::report(const QString& title)
 {
-    if (m_problems.isEmpty())
-        return;
-    QString message = title;
-    for (const QString& problem : m_problems.mid(0, kMostProblemsShown))
-        message += QLatin1Char('\n') + problem;
-    if (m_problems.size() > kMostProblemsShown)
-        message += tr("\n（共 %1 条）").arg(m_problems.size());
-    m_problems.clear();
-    vnsi::vnuiMessageBox(od(message), vnsi::kProductName, vnsi::kVnIconWarning);
+    layermarks::report(*m_context, title, m_problems);
 }
 
 void LayerStateCommand::fillEditor(const VnJsonPtr& node, const LayerState& state)

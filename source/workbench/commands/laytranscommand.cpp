@@ -30,7 +30,6 @@ using namespace vnsi::transkey;
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaytrans";
 constexpr wchar_t kSettingsDialog[] = L"Dialog/CmdLaytransSetting";
-constexpr int kMostProblemsShown = 10;
 /// Endings of a format that is not written here: programs would take the file for damaged.
 constexpr const char* kOtherFormats[] = {"dwg", "dws", "dwt"};
 
@@ -119,14 +118,7 @@ void LayerTranslateCommand::answer(const VnJsonPtr& tree)
 
 void LayerTranslateCommand::tellProblems(const QString& title)
 {
-    if (m_problems.isEmpty())
-        return;
-    QString message = title + QLatin1Char('\n') +
-                      QStringList(m_problems.mid(0, kMostProblemsShown)).join(QLatin1Char('\n'));
-    if (m_problems.size() > kMostProblemsShown)
-        message += tr("\n（共 %1 条）").arg(m_problems.size());
-    m_problems.clear();
-    layermarks::warn(message);
+    layermarks::report(*m_context, title, m_problems);
 }
 
 /// A name for mappings that were to be saved as `file`; the drawing's own is no such name.

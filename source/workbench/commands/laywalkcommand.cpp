@@ -29,8 +29,6 @@ namespace walkdialog = vnsi::walkdialog;
 namespace walkkey = vnsi::walkkey;
 using vnsi::LayerRecord;
 
-constexpr int kMostProblemsShown = 10;
-
 const layerrecords::Provider& records()
 {
     static const layerrecords::Provider provider(
@@ -163,15 +161,7 @@ void LayerWalkCommand::answer(const VnJsonPtr& root)
     (this->*row->answer)(root);
     for (const QString& notice : drawing().takeNotices())
         m_context->say(notice);
-    if (m_problems.isEmpty())
-        return;
-    QString text = tr(row->failure);
-    for (const QString& problem : m_problems.mid(0, kMostProblemsShown))
-        text += QLatin1Char('\n') + problem;
-    if (m_problems.size() > kMostProblemsShown)
-        text += tr("\n（共 %1 条）").arg(m_problems.size());
-    m_problems.clear();
-    layermarks::warn(text);
+    layermarks::report(*m_context, tr(row->failure), m_problems);
 }
 
 void LayerWalkCommand::apply(const VnJsonPtr& root)
