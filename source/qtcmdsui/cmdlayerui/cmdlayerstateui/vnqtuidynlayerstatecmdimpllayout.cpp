@@ -1,6 +1,6 @@
+#include "buttongroupclick.h"
 #include "vnqtuidynlayerstatecmdimpl.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -217,11 +217,7 @@ void VnQtUiDynLayerStateCmdImpl::connectWidgets()
     connect(m_table, &QTableWidget::itemClicked, this, &Self::slot_tableitClickedDesc, once);
     connect(
         m_referenceBox, &QCheckBox::stateChanged, this, &Self::slot_checkboxstateChangedRef, once);
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED // The signal's newer name is not the one agreed.
-        connect(m_selectGroup, QOverload<int>::of(&QButtonGroup::buttonClicked), this,
-            &Self::slot_SelectBtnGroupClicked, once);
-    QT_WARNING_POP
+    connect(m_selectGroup, buttonClickedWithId(), this, &Self::slot_SelectBtnGroupClicked, once);
 }
 
 } // namespace vnsi
