@@ -86,6 +86,9 @@ public:
     /// The wrapper's own way of ending the dialog, for dialogs without one: writes `code` as
     /// "result" and closes the window.
     virtual void endDialog(int code);
+    /// Builds the window under `parent` (may be null); true when it is there, also from an earlier
+    /// call. By place the last of the wrapper's virtual functions.
+    virtual bool createDialog(QWidget* parent, unsigned flags, const char* objectName) = 0;
     /// The tree that carries "result".
     const VnJsonPtr& resultData() const { return m_result; }
 

@@ -34,9 +34,6 @@ class VNSI_EXPORT VnUiModeDialogBase : public VnUiDialogBase
 public:
     /// Runs the dialog. Returns 1 for OK, 2 for cancel, or what the dialog wrote as its "result".
     virtual int doModal() = 0;
-    /// Builds the window under `parent` (may be null); true when it is there, also from an earlier
-    /// call.
-    virtual bool createDialog(QWidget* parent, unsigned flags, const char* objectName) = 0;
 };
 
 using VnUiModeDialogBasePtr = OdSmartPtr<VnUiModeDialogBase>;

@@ -17,7 +17,8 @@ public:
     static vnsi::VnUiModeDialogBasePtr create(QWidget* parent, const char* objectName)
     {
         const auto dialog = OdRxObjectImpl<HostModeDialog<T>>::createObject();
-        dialog->createDialog(parent, 0, objectName);
+        dialog->m_dialog = new T(parent);
+        dialog->m_dialog->setObjectName(QString::fromUtf8(objectName));
         return dialog;
     }
 
@@ -39,15 +40,6 @@ public:
         if (m_dialog)
             m_dialog->writeAnswers(m_data, isAccepted);
         return isAccepted ? kAccepted : kCancelled;
-    }
-
-    bool createDialog(QWidget* parent, unsigned, const char* objectName) override
-    {
-        if (m_dialog)
-            return true;
-        m_dialog = new T(parent);
-        m_dialog->setObjectName(QString::fromUtf8(objectName));
-        return true;
     }
 
 private:

@@ -48,16 +48,18 @@ public:
     void endDialog(int code) override { VnQtModeDialog<T>::endDialog(code + 20); }
 };
 
+using WrapperPtr = OdSmartPtr<VnQtUIModeDialogBase>;
+
 template <class Wrapper = VnQtModeDialog<Probe>>
-VnUiModeDialogBasePtr makeUnbuilt()
+WrapperPtr makeUnbuilt()
 {
     return VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
 }
 
 template <class Wrapper = VnQtModeDialog<Probe>>
-VnUiModeDialogBasePtr make()
+WrapperPtr make()
 {
-    VnUiModeDialogBasePtr made = makeUnbuilt<Wrapper>();
+    WrapperPtr made = makeUnbuilt<Wrapper>();
     made->createDialog(nullptr, 0, "probe");
     return made;
 }
@@ -141,7 +143,7 @@ private slots:
 
     void buildsOnce()
     {
-        const VnUiModeDialogBasePtr dialog = makeUnbuilt();
+        const WrapperPtr dialog = makeUnbuilt();
         QCOMPARE(dialog->doModal(), -1); // Nothing to run yet.
         QCOMPARE(dialog->setData(ElementValue::createObject(2), {}), 0);
         QVERIFY(dialog->createDialog(nullptr, 0, "first"));
@@ -159,14 +161,14 @@ private slots:
     void failsWhenItCannotBeBuilt()
     {
         canBuild = false;
-        const VnUiModeDialogBasePtr dialog = makeUnbuilt();
+        const WrapperPtr dialog = makeUnbuilt();
         QVERIFY(!dialog->createDialog(nullptr, 0, nullptr));
     }
 
     void survivesItsParent()
     {
         auto parent = std::make_unique<QWidget>();
-        VnUiModeDialogBasePtr dialog = makeUnbuilt();
+        WrapperPtr dialog = makeUnbuilt();
         dialog->createDialog(parent.get(), 0, "child");
         parent.reset();
         QVERIFY(!lastBuilt);

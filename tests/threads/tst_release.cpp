@@ -133,7 +133,7 @@ using Wrapper = VnQtModeDialog<Probe>;
 
 VnUiModeDialogBasePtr makeDialog()
 {
-    VnUiModeDialogBasePtr dialog = VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
+    const auto dialog = VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
     dialog->createDialog(nullptr, 0, "probe");
     return dialog;
 }

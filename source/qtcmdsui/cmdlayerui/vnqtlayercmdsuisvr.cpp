@@ -24,8 +24,10 @@ namespace vnsi {
 
 namespace {
 
+using WrapperPtr = OdSmartPtr<VnQtUIModeDialogBase>;
+
 template <class T>
-VnUiModeDialogBasePtr makeDialog()
+WrapperPtr makeDialog()
 {
     return VnQtRxObjectImpl<VnQtModeDialog<T>, VnQtModeDialog<T>>::createObject();
 }
@@ -33,7 +35,7 @@ VnUiModeDialogBasePtr makeDialog()
 struct DialogRow
 {
     const wchar_t* name;
-    VnUiModeDialogBasePtr (*make)();
+    WrapperPtr (*make)();
 };
 
 constexpr DialogRow kDialogs[] = {
@@ -71,8 +73,8 @@ VnUiModeDialogBasePtr VnQtLayerCmdsUISvr::makeDialog(const OdString& dialogName)
     if (row == std::end(kDialogs))
         return {};
 
-    VnUiModeDialogBasePtr dialog = row->make();
     QWidget* parent = hostapi::currentWindow();
+    const WrapperPtr dialog = row->make();
     if (!dialog.isNull() && dialog->createDialog(parent, 0, objectNameOf(dialogName).c_str()))
         return dialog;
     return {};

@@ -117,7 +117,6 @@ class VnUiModeDialogBase : public VnUiDialogBase
 {
     OTHER_DECLARE_CLASS(VnUiModeDialogBase, VnUiDialogBase)
     virtual int doModal() = 0;
-    virtual bool createDialog(QWidget* parent, unsigned flags, const char* objectName) = 0;
 };
 
 using VnUiModeDialogBasePtr = OdSmartPtr<VnUiModeDialogBase>;
