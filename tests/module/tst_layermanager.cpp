@@ -1,10 +1,12 @@
 #include "hostextras.h"
 #include "managerdriver.h"
 #include "rows.h"
+#include "useracts.h"
 #include "valuetree.h"
 
 #include <QButtonGroup>
 #include <QDialog>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -151,6 +153,35 @@ private slots:
         QVERIFY(manager.isApplyEnabled());
         manager.press("newLayerButton"); // Widths are replaced, not added.
         QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
+    }
+
+    void tellsOnlyDrawnWidths()
+    {
+        ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
+        manager.table->setColumnWidth(1, 222);
+        manager.press("applyButton");
+        QVERIFY(!host::hasKey(manager.root, "ColumnWidthList"));
+        drawColumn(*manager.table, 1, 180);
+        const VnJsonPtr widths = manager.root->GetDataJ("ColumnWidthList");
+        QCOMPARE(widths.ArrayCount(), 13);
+        QCOMPARE(hostextras::intOf(widths(1), 0), 180);
+    }
+
+    void showsWholeLastRow()
+    {
+        const auto add = [](const VnJsonPtr& root) {
+            hostextras::append(
+                root->GetDataJ("LayerList"), tree(layer("new", 1, R"(,"Selected":true)")));
+        };
+        QStringList records{layer("0", 0)};
+        for (int i = 0; i < 60; ++i)
+            records.append(layer(QString::number(i)));
+        ManagerDriver manager(m_module, layerTree(records), add);
+        manager.table->setColumnWidth(12, 4000);
+        manager.press("newLayerButton");
+        const QRect last = manager.table->visualItemRect(manager.cell(61, 1));
+        QVERIFY(manager.table->horizontalScrollBar()->isVisible());
+        QVERIFY(last.bottom() <= manager.table->viewport()->rect().bottom());
     }
 
     void writesSelectionByRanges()

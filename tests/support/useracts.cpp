@@ -1,6 +1,7 @@
 #include "useracts.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QListWidget>
 #include <QMenu>
 #include <QTableWidget>
@@ -13,6 +14,18 @@ void chooseEntry(const QWidget& menuOwner, const QString& text)
             return action->trigger();
     }
     QTest::qFail(qPrintable("no menu entry " + text), __FILE__, __LINE__);
+}
+
+void drawColumn(const QTableWidget& table, int column, int width)
+{
+    QHeaderView* const header = table.horizontalHeader();
+    const int left = header->sectionViewportPosition(column);
+    const QPoint edge(left + table.columnWidth(column) - 1, header->height() / 2);
+    const QPoint wanted(left + width - 1, edge.y());
+    QTest::mousePress(header->viewport(), Qt::LeftButton, {}, edge);
+    QMouseEvent move(QEvent::MouseMove, wanted, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(header->viewport(), &move);
+    QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, wanted);
 }
 
 void clickCell(QAbstractItemView& view, int row, int column, bool twice)

@@ -20,6 +20,8 @@ inline void press(const QWidget& window, const char* button)
 
 /// Chooses an entry of the menu that a widget has; fails the test when there is none of that text.
 void chooseEntry(const QWidget& menuOwner, const QString& text);
+/// Draws the right edge of a column's header until the column has that width.
+void drawColumn(const QTableWidget& table, int column, int width);
 /// Clicks into the middle of a cell; `twice` for a double click.
 void clickCell(QAbstractItemView& view, int row, int column = 0, bool twice = false);
 /// Selects the items of those texts and no others.

@@ -176,10 +176,8 @@ private slots:
     void keepsColumnWidths()
     {
         run("layer", {[](QDialog& dialog) {
-            table(dialog).setColumnWidth(kName, 234);
-            table(dialog).selectRow(1);
-            press(dialog, "setCurrentButton"); // Tells the widths.
-            press(dialog, "okButton");
+            drawColumn(table(dialog), kName, 234);
+            press(dialog, "cancelButton"); // No request goes out.
         }});
         run("layer", {[](QDialog& dialog) {
             QCOMPARE(table(dialog).columnWidth(kName), 234);

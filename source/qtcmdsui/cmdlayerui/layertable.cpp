@@ -2,13 +2,48 @@
 
 #include "hostapi/hosttree.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTableWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace vnsi::layertable {
+
+namespace {
+
+/// Compares a header before and after the mouse was down on it: the header's own signals do not
+/// tell whether a width comes from the user.
+class DrawnWidths : public QObject
+{
+public:
+    DrawnWidths(QTableWidget& table, std::function<void()> react)
+        : QObject(&table),
+          m_header(*table.horizontalHeader()),
+          m_react(std::move(react))
+    {
+        m_header.viewport()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonPress)
+            m_pressed = m_header.saveState();
+        else if (event->type() == QEvent::MouseButtonRelease && m_header.saveState() != m_pressed)
+            m_react();
+        return false;
+    }
+
+private:
+    QHeaderView& m_header;
+    std::function<void()> m_react;
+    QByteArray m_pressed;
+};
+
+} // namespace
 
 void setUp(QTableWidget& table, const QStringList& headers)
 {
@@ -40,6 +75,19 @@ void writeWidths(const QTableWidget& table, const VnJsonPtr& node)
         hostapi::removeItem(widths, last);
     for (int column = 0; column < table.columnCount(); ++column)
         hostapi::append(widths, table.columnWidth(column));
+}
+
+void whenUserSizes(QTableWidget& table, std::function<void()> react)
+{
+    new DrawnWidths(table, std::move(react)); // The table owns it.
+}
+
+void settle(QTableWidget& table)
+{
+    table.doItemsLayout();
+    // A scroll bar is shown by a queued call. Until then the view is higher than it will be, and a
+    // last row that is scrolled to would end half hidden.
+    QCoreApplication::sendPostedEvents(&table, QEvent::MetaCall);
 }
 
 void moveCursor(QTableWidget& table, int row, int column)

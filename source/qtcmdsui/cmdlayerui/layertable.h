@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 class QTableWidget;
 
 /// What tables of layers have in common beside their cells.
@@ -16,6 +18,13 @@ void setUp(QTableWidget& table, const QStringList& headers);
 void applyWidths(QTableWidget& table, const VnJsonPtr& node);
 /// Writes the widths of all columns into a node.
 void writeWidths(const QTableWidget& table, const VnJsonPtr& node);
+
+/// Calls `react` whenever the user has drawn a column to another width; widths that the program
+/// gives do not count.
+void whenUserSizes(QTableWidget& table, std::function<void()> react);
+
+/// Lets the scroll bars follow the present rows and widths at once instead of later.
+void settle(QTableWidget& table);
 
 /// Puts the keyboard's cursor into a cell, and its row into view, without selecting it.
 void moveCursor(QTableWidget& table, int row, int column);

@@ -87,6 +87,7 @@ void ManagerTable::fill()
         m_table->setFocus();
     }
     layertable::applyWidths(*m_table, m_tree);
+    layertable::settle(*m_table);
     m_table->verticalScrollBar()->setValue(scrolledTo);
     layertable::moveCursor(*m_table, cursor >= 0 ? cursor : m_currentRow, kNameColumn);
 }

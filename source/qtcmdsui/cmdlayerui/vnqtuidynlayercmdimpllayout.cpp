@@ -1,3 +1,4 @@
+#include "layertable.h"
 #include "vnqtlayerqtablewgt.h"
 #include "vnqtuidynlayercmdimpl.h"
 
@@ -48,6 +49,8 @@ bool VnQtUiDynLayerCmdImpl::initDialog()
     m_table = new VnQtLayerQTableWgt(this);
     m_table->setObjectName(QStringLiteral("layerTable"));
     m_table->setTabKeyNavigation(false); // Tab goes on to the buttons.
+    // What the user draws is kept also where no request follows; closing itself writes nothing.
+    layertable::whenUserSizes(*m_table, [this] { layertable::writeWidths(*m_table, data()); });
     // The table would take the key for a search by typing, so it never came up to the dialog.
     m_deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), this);
     m_deleteKey->setAutoRepeat(false);
