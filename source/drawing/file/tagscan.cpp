@@ -46,4 +46,16 @@ FileForm FileForm::of(std::string_view bytes)
     return form;
 }
 
+ScanResult scanRare(const char* p, const char* end, Spelling spelling, Tag& tag)
+{
+    switch (spelling) {
+    case Spelling::OldText:
+        return scanText<'\r'>(p, end, tag);
+    case Spelling::Binary:
+        return scanBinary<false>(p, end, tag);
+    default:
+        return scanBinary<true>(p, end, tag);
+    }
+}
+
 } // namespace drawing

@@ -135,20 +135,14 @@ ScanResult scanBinary(const char* p, const char* end, Tag& tag)
     return ScanResult::Tag;
 }
 
-/// Reads the group at `p` as the file spells it.
+/// Reads the group at `p` of a file that is not spelled as plain text.
+ScanResult scanRare(const char* p, const char* end, Spelling spelling, Tag& tag);
+
+/// Reads the group at `p` as the file spells it. Most files are plain text: their way stays short.
 inline ScanResult scanTag(const char* p, const char* end, Spelling spelling, Tag& tag)
 {
-    switch (spelling) {
-    case Spelling::Text:
-        return scanText<'\n'>(p, end, tag);
-    case Spelling::OldText:
-        return scanText<'\r'>(p, end, tag);
-    case Spelling::Binary:
-        return scanBinary<false>(p, end, tag);
-    case Spelling::OldBinary:
-        break;
-    }
-    return scanBinary<true>(p, end, tag);
+    return spelling == Spelling::Text ? scanText<'\n'>(p, end, tag)
+                                      : scanRare(p, end, spelling, tag);
 }
 
 /// How the groups of a file are written, and where the first one stands.
