@@ -2,6 +2,7 @@
 #include "vnqtuidynlayerstatecmdimpl.h"
 
 #include "dialoghelp.h"
+#include "hostapi/filequestion.h"
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "layeredits.h"
@@ -35,23 +36,6 @@ bool answersYes(const wchar_t* caption, const QString& question)
 {
     return hostapi::messageBoxEx(caption, od(question), hostapi::makeObject(), kVnYesNo, 1,
                kVnIconInformation) == kVnAnswerYes;
-}
-
-VnJsonPtr askForFile(const VnJsonPtr& question, QWidget* parent)
-{
-    return hostapi::showDialogEx(L"Dialog/Common", L"FileDialogBox", question, {}, parent);
-}
-
-VnJsonPtr fileQuestion(const char* caption, const wchar_t* filter, bool open)
-{
-    VnJsonPtr question = hostapi::makeObject();
-    question->SetDataS("caption", caption);
-    Members(question)
-        .set("filter", filter)
-        .set("Open", open)
-        .set("MutiFile", false) // The key's agreed spelling.
-        .set("defFilter", kStateFilter);
-    return question;
 }
 
 } // namespace
@@ -241,9 +225,10 @@ void VnQtUiDynLayerStateCmdImpl::sendDeletions(const QStringList& names)
 
 void VnQtUiDynLayerStateCmdImpl::slot_ImportBtnClicked(bool)
 {
-    const VnJsonPtr file = askForFile(fileQuestion("输入图层状态", kImportFilter, true), this);
-    const VnJsonPtr paths = file->GetDataJ("filePaths");
-    if (file->GetDataI("result") != kVnAnswerOk || !paths)
+    const VnJsonPtr file = askForFile(
+        makeFileQuestion({"输入图层状态", kImportFilter, kStateFilter, true, false}), this);
+    const VnJsonPtr paths = file ? file->GetDataJ("filePaths") : VnJsonPtr();
+    if (!paths)
         return;
     const auto arguments = [&](IElementValueBase& node) {
         Members(node)
@@ -263,12 +248,13 @@ void VnQtUiDynLayerStateCmdImpl::slot_ImportBtnClicked(bool)
 void VnQtUiDynLayerStateCmdImpl::slot_ExportBtnClicked(bool)
 {
     const QString name = selectedName();
-    const VnJsonPtr file = fileQuestion("输出图层状态", kStateFilter, false);
+    const VnJsonPtr file =
+        makeFileQuestion({"输出图层状态", kStateFilter, kStateFilter, false, false});
     if (m_table->currentRow() >= 0)
-        Members(file).set("dir", od(name));
+        setStartPlace(file, od(name));
     const VnJsonPtr answer = askForFile(file, this);
-    const OdString path = answer->GetDataSW("filePath");
-    if (answer->GetDataI("result") != kVnAnswerOk || path.isEmpty())
+    const OdString path = answer ? answer->GetDataSW("filePath") : OdString();
+    if (path.isEmpty())
         return;
     askCommandOn(file, {kStateExport, {}, kStateManager}, [&](IElementValueBase& node) {
         Members(node).set(statekey::kExportPath, path).set(statekey::kExportName, od(name));

@@ -1,6 +1,7 @@
 #include "vnqtlaytransuidlg.h"
 
 #include "dialoghelp.h"
+#include "hostapi/filequestion.h"
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "vnqtlaytranslistwgt.h"
@@ -129,29 +130,13 @@ void VnQtUiLaytransCmd::slot_pbFromSelectClicked()
     m_fromList->addToSelection(m_filterEdit->text());
 }
 
-VnJsonPtr VnQtUiLaytransCmd::askForFile(const wchar_t* caption, const wchar_t* filter,
-    const wchar_t* firstFilter, bool open, const QString& place)
-{
-    const VnJsonPtr question = hostapi::makeObject();
-    const hostapi::Members keys(question);
-    keys.set("caption", caption)
-        .set("filter", filter)
-        .set("Open", open)
-        .set("MutiFile", open) // The key's agreed spelling.
-        .set("defFilter", firstFilter);
-    if (!place.isEmpty())
-        keys.set("dir", od(place));
-    const VnJsonPtr answer =
-        hostapi::showDialogEx(L"Dialog/Common", L"FileDialogBox", question, {}, this);
-    return answer->GetDataI("result") == 1 ? answer : VnJsonPtr();
-}
-
 void VnQtUiLaytransCmd::slot_m_pbLoadClicked()
 {
-    const QString folder =
-        m_loadedFiles.isEmpty() ? QString() : QFileInfo(m_loadedFiles.first()).absolutePath();
-    const VnJsonPtr chosen =
-        askForFile(L"选择图形文件", kLoadFilters, kDrawingFilter, true, folder);
+    const VnJsonPtr question =
+        makeFileQuestion({"选择图形文件", kLoadFilters, kDrawingFilter, true, true});
+    if (!m_loadedFiles.isEmpty())
+        setStartPlace(question, od(QFileInfo(m_loadedFiles.first()).absolutePath()));
+    const VnJsonPtr chosen = askForFile(question, this);
     const QStringList paths = textsIn(chosen ? chosen->GetDataJ("filePaths") : VnJsonPtr());
     if (paths.isEmpty())
         return;
@@ -288,8 +273,10 @@ void VnQtUiLaytransCmd::slot_m_pbMapListDelete()
 
 void VnQtUiLaytransCmd::slot_m_pbMapListSave()
 {
-    const VnJsonPtr chosen = askForFile(L"保存图层映射", kSaveFilters, kStandardFilter, false,
-        m_drawingName + QStringLiteral(".dws"));
+    const VnJsonPtr question =
+        makeFileQuestion({"保存图层映射", kSaveFilters, kStandardFilter, false, false});
+    setStartPlace(question, od(m_drawingName + QStringLiteral(".dws")));
+    const VnJsonPtr chosen = askForFile(question, this);
     if (!chosen)
         return;
     const auto arguments = [&](IElementValueBase& tree) {

@@ -93,8 +93,6 @@ private:
     void sendClicked(const QString& layer, bool inTable);
     /// The layer as the user defines it, from `initial` on; empty when cancelled.
     VnJsonPtr askForLayer(bool isEdit, const TargetRecord& initial);
-    VnJsonPtr askForFile(const wchar_t* caption, const wchar_t* filter, const wchar_t* firstFilter,
-        bool open, const QString& place);
     /// Without a node when none is.
     TargetRecord currentTarget() const;
 

@@ -1,3 +1,4 @@
+#include "hostapi/filequestion.h"
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
@@ -11,6 +12,21 @@ namespace vnsi {
 namespace {
 
 constexpr wchar_t kCommonService[] = L"Dialog/Common";
+constexpr wchar_t kFileDialog[] = L"FileDialogBox";
+constexpr wchar_t kNavigationDialog[] = L"FileNavDialogBox";
+
+// Two of the keys have an agreed spelling of their own.
+constexpr char kTitle[] = "title";
+constexpr char kDefaultName[] = "defawlt";
+constexpr char kCaption[] = "caption";
+constexpr char kDialogName[] = "dlgname";
+constexpr char kOpens[] = "Open";
+constexpr char kSeveral[] = "MutiFile";
+constexpr char kFilter[] = "filter";
+constexpr char kFirstFilter[] = "defFilter";
+constexpr char kPlace[] = "dir";
+constexpr char kFlags[] = "flags";
+
 constexpr int kSaveFlag = 0x1;
 constexpr int kSeveralFlag = 0x1000;
 constexpr int kStringType = 5005;
@@ -23,14 +39,13 @@ OdString hostFilter(const OdString& filter)
     return OdString(text.c_str());
 }
 
-/// "defawlt" is the key's agreed spelling.
 VnJsonPtr makeQuestion(const OdString& title, const OdString& defaultName, const OdString& filter)
 {
     VnJsonPtr question = hostapi::makeObject();
     hostapi::Members(question)
-        .set("title", title)
-        .set("defawlt", defaultName)
-        .set("filter", hostFilter(filter));
+        .set(kTitle, title)
+        .set(kDefaultName, defaultName)
+        .set(kFilter, hostFilter(filter));
     return question;
 }
 
@@ -83,12 +98,35 @@ hostextras::ResultBuffer* chosenPaths(const IElementValueBase& answer, bool seve
 
 } // namespace
 
+VnJsonPtr makeFileQuestion(const FileQuestion& question)
+{
+    VnJsonPtr tree = hostapi::makeObject();
+    tree->SetDataS(kCaption, question.caption);
+    hostapi::Members(tree)
+        .set(kFilter, question.filter)
+        .set(kOpens, question.opens)
+        .set(kSeveral, question.several)
+        .set(kFirstFilter, question.firstFilter);
+    return tree;
+}
+
+void setStartPlace(const VnJsonPtr& question, const OdString& place)
+{
+    hostapi::Members(question).set(kPlace, place);
+}
+
+VnJsonPtr askForFile(const VnJsonPtr& question, QWidget* parent)
+{
+    const VnJsonPtr answer = show(kFileDialog, question, parent);
+    return answer->GetDataI("result") == kVnAnswerOk ? answer : VnJsonPtr();
+}
+
 int vnqtGetFileName(const OdString& title, const OdString& defaultName, const OdString& filter,
     int flags, OdString& path, QWidget* parent)
 {
     const VnJsonPtr question = makeQuestion(title, defaultName, filter);
-    question->SetDataI("flags", flags);
-    const VnJsonPtr answer = show(L"FileDialogBox", question, parent);
+    question->SetDataI(kFlags, flags);
+    const VnJsonPtr answer = show(kFileDialog, question, parent);
     const int result = answer->GetDataI("result");
     if (result == kVnAnswerOk)
         path = answer->GetDataSW("filePath");
@@ -102,12 +140,12 @@ int vnqtGetNavFileName(const OdString& title, const OdString& defaultName, const
     const bool several = flags & kSeveralFlag;
     const VnJsonPtr question = makeQuestion(title, defaultName, filter);
     hostapi::Members(question)
-        .set("caption", caption)
-        .set("dlgname", dialogName)
-        .set("Open", !(flags & kSaveFlag))
-        .set("MutiFile", several) // The key's agreed spelling.
-        .set("flags", flags);
-    const VnJsonPtr answer = show(L"FileNavDialogBox", question, parent);
+        .set(kCaption, caption)
+        .set(kDialogName, dialogName)
+        .set(kOpens, !(flags & kSaveFlag))
+        .set(kSeveral, several)
+        .set(kFlags, flags);
+    const VnJsonPtr answer = show(kNavigationDialog, question, parent);
     const int result = answer->GetDataI("result");
     if (result == kVnAnswerOk)
         paths = chosenPaths(*answer, several);
