@@ -24,7 +24,8 @@ struct LayerTreeMark
 
 inline bool operator!=(const LayerTreeMark& a, const LayerTreeMark& b)
 {
-    return a.tree != b.tree || a.list != b.list || a.count != b.count;
+    return !hostapi::isSameNode(a.tree, b.tree) || !hostapi::isSameNode(a.list, b.list) ||
+           a.count != b.count;
 }
 
 /// The layers a walk goes through: a copy of the tree that is the dialog's own.

@@ -70,6 +70,12 @@ inline OdString textAt(const VnJsonPtr& array, int index)
     return element ? hostextras::textOf(element) : OdString();
 }
 
+/// Whether two handles are on one node; two empty ones count as the same.
+inline bool isSameNode(const VnJsonPtr& a, const VnJsonPtr& b)
+{
+    return a.get() == b.get();
+}
+
 /// A deep copy; empty for an empty handle.
 inline VnJsonPtr copyOf(const VnJsonPtr& node)
 {
