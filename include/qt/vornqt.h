@@ -211,7 +211,7 @@ protected:
     const VnJsonPtr& data() const { return m_data; }
     const OdRxObjectPtr& invoker() const { return m_invoker; }
     /// Whether there is a tree to ask about and somebody to ask.
-    bool canRequest() const { return m_data && m_invoker; }
+    bool canRequest() const { return m_data && m_callBack && m_callBack->hasCommand(); }
     VnQtUIModeDialogBase* wrapper() const { return m_wrapper; }
     VnJsonPtr result() const { return m_wrapper->resultData(); }
 
