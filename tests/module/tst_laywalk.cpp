@@ -271,6 +271,8 @@ private slots:
                  "parameter/LayerList", "result"})
             row(qPrintable("anew: " + place), {"command " + place, "double 1"},
                 {"4 0: -+-*--", "4: -*-*--"}, ".@.@..");
+        row("anew: another star stays", {"click 1", "keep", "command parameter", "double 3"},
+            {"4 0: -+-*--", "4: -*-*--", "4 0: -*-*--", "4: -*-+--"}, ".@.#..");
     }
 
     void acts()

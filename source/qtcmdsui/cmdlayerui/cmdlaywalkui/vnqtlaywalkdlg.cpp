@@ -261,8 +261,12 @@ void VnQtLayWalkDlg::slot_LayerListItemClicked(QListWidgetItem*)
     walk(oldCurrent);
 }
 
+/// It means the rows that its first click selected, though the command may have handed the layers
+/// back anew since, which selects all that are visible.
 void VnQtLayWalkDlg::slot_LayerListItemDoubleClicked(QListWidgetItem* item)
 {
+    if (m_list->clickedRows().size() == m_rows.size())
+        m_list->selectRows(m_list->clickedRows());
     if (item->text().startsWith(QLatin1Char('*')))
         slot_ReleaseSelActionTriggered();
     else

@@ -15,7 +15,10 @@ VnQtLayWalkListWgt::VnQtLayWalkListWgt(QWidget* parent) : QListWidget(parent)
     setItemDelegate(new LayerNameDelegate(this));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(this, &QListWidget::itemClicked, this, [this] { m_isEdited = false; });
+    connect(this, &QListWidget::itemClicked, this, [this] {
+        m_isEdited = false;
+        m_clicked = selectedRows();
+    });
 }
 
 void VnQtLayWalkListWgt::setTexts(const QStringList& texts)

@@ -23,6 +23,8 @@ public:
     void setTexts(const QStringList& texts);
     Rows selectedRows() const;
     bool hasSelection() const { return selectionModel()->hasSelection(); }
+    /// Those that the latest click on a row left selected, whatever was selected since.
+    const Rows& clickedRows() const { return m_clicked; }
     /// Selects exactly these rows; the current one stays current.
     void selectRows(const Rows& rows);
 
@@ -42,6 +44,7 @@ protected:
 private:
     void tellIfEdited();
 
+    Rows m_clicked;
     bool m_isEdited = false; ///< Selected otherwise by the user since the last key or press.
 };
 
