@@ -1,6 +1,7 @@
 #include "canvas.h"
 #include "commandfixture.h"
 #include "rows.h"
+#include "sheets.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -24,6 +25,8 @@ private slots:
     void cleanup() { stop(); }
     void restoresEveryByte_data();
     void restoresEveryByte();
+    void selectsWhatIsSeen_data();
+    void selectsWhatIsSeen();
     void goingOnIsOneStep();
     void currentLayerFollows_data();
     void currentLayerFollows();
@@ -127,6 +130,35 @@ void LayerWalkCommandTest::restoresEveryByte()
     QCOMPARE(drawing().currentLayer(), wasCurrent);
     QVERIFY(!drawing().canUndo() && !drawing().isModified());
     QVERIFY(savedBytes() == m_original);
+}
+
+void LayerWalkCommandTest::selectsWhatIsSeen_data()
+{
+    const Rows<int, bool> row("layout", "isSelected");
+    row("model space", -1, true);
+    row("frozen in the viewport", 0, false);
+    row("frozen in another one", 1, true);
+}
+
+/// What new viewports do with a layer does not count.
+void LayerWalkCommandTest::selectsWhatIsSeen()
+{
+    QFETCH(int, layout);
+    QFile sheets(m_folder.filePath("sheets.dxf"));
+    QVERIFY(sheets.open(QIODevice::WriteOnly) && sheets.write(sheetsDrawing()) > 0);
+    sheets.close();
+    open(sheets.fileName());
+    drawing().beginStep("freeze");
+    Layer door = *drawing().findLayer("Door");
+    door.properties.frozenInNewViewports = true;
+    QVERIFY(drawing().setLayerProperties(door.id, door.properties));
+    if (layout >= 0)
+        QVERIFY(drawing().showLayout(layout));
+    drawing().commitStep();
+    walk(true, [](QDialog& dialog) {
+        QTEST(list(dialog).findItems("  Door", Qt::MatchExactly).value(0)->isSelected(),
+            "isSelected");
+    });
 }
 
 void LayerWalkCommandTest::goingOnIsOneStep()

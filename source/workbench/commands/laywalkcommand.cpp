@@ -32,7 +32,7 @@ using vnsi::LayerRecord;
 const layerrecords::Provider& records()
 {
     static const layerrecords::Provider provider(
-        {key::kName, key::kStatus, key::kOff, key::kFrozen, key::kVPortFrozen, key::kUsed});
+        {key::kName, key::kStatus, key::kOff, key::kFrozen, key::kUsed});
     return provider;
 }
 
@@ -105,9 +105,15 @@ void LayerWalkCommand::run(CommandContext& context)
         walkdialog::kService, walkdialog::kWalk, tree, invoker, context.parent);
 }
 
+/// The walk is about what is seen now: it takes a layer for hidden that is frozen in the viewport
+/// shown, and new viewports do not matter to it.
 VnJsonPtr LayerWalkCommand::makeLayers()
 {
     const VnJsonPtr layers = records().tree(drawing());
+    const std::vector<LayerId> hidden = drawing().frozenInViewport();
+    for (LayerRecord record : vnsi::LayerRecordList::of(layers))
+        record.setFlag(key::kVPortFrozen,
+            std::binary_search(hidden.begin(), hidden.end(), layerrecords::idOf(record.node())));
     layers->SetDataJ(vnsi::statekey::kList, statelist::make(drawing()));
     return layers;
 }
