@@ -1,6 +1,7 @@
 #include "../drawing/readback.h"
 #include "canvas.h"
 #include "commandfixture.h"
+#include "hostcodes.h"
 #include "hostextras.h"
 #include "standardsfile.h"
 #include "vnsettings.h"
@@ -169,8 +170,10 @@ void LayerTranslateCommandTest::refusals()
         QCOMPARE(table(dialog).rowCount(), 18);
         press(dialog, "settingButton");
         QVERIFY(message().contains("不是六项"));
-        const auto save = [&](const QString& path) {
+        const auto save = [&](const QString& path, int answer = 0) {
             m_host->answer(1, R"({"filePath":")" + path + "\"}");
+            if (answer)
+                m_host->answer(answer);
             press(dialog, "saveButton");
         };
         save(inFolder("floor.dxf"));
@@ -178,16 +181,21 @@ void LayerTranslateCommandTest::refusals()
         save(inFolder("text.dxf"));
         QVERIFY(message().contains("text.dxf"));
         for (const char* name : {"new.dws", "new.DWG", "new.dwt", "floor.dws"}) {
-            save(inFolder(name));
+            save(inFolder(name), vnsi::kVnAnswerNo);
             const QString refusal = message();
             // The drawing's own name is not offered.
             QVERIFY(refusal.contains(name) && refusal.contains(".dxf"));
             QVERIFY(refusal.contains("new.dxf") || refusal.contains("floor-图层标准.dxf"));
-            QVERIFY(!QFile::exists(inFolder(name)));
+            QVERIFY(!QFile::exists(inFolder(name)) && !QFile::exists(inFolder("new.dxf")));
         }
+        save(inFolder("new.dws"), vnsi::kVnAnswerYes);
+        QVERIFY(QFile::exists(inFolder("new.dxf")) && !message().contains("将被替换"));
+        QMetaObject::invokeMethod(&dialog, "slot_m_pbMapSameClicked"); // There is news to save.
+        save(inFolder("new.dws"), vnsi::kVnAnswerNo);
+        QVERIFY(message().contains("将被替换"));
         QMetaObject::invokeMethod(&dialog, "slot_MenuMapListAllDelete");
-        save(inFolder("new.dxf"));
-        QVERIFY(message().contains("还没有图层映射") && !QFile::exists(inFolder("new.dxf")));
+        save(inFolder("none.dxf"));
+        QVERIFY(message().contains("还没有图层映射") && !QFile::exists(inFolder("none.dxf")));
         press(dialog, "translateButton");
         QVERIFY(message().contains("还没有图层映射"));
         QVERIFY(dialog.isVisible());

@@ -93,6 +93,12 @@ void warn(const QString& text)
         vnsi::vnutQStringToOdString(text), vnsi::kProductName, vnsi::kVnIconWarning);
 }
 
+bool confirms(const QString& question)
+{
+    return vnsi::vnuiMessageBox(vnsi::vnutQStringToOdString(question), vnsi::kProductName,
+               vnsi::kVnYesNo | vnsi::kVnIconQuestion) == vnsi::kVnAnswerYes;
+}
+
 void report(CommandContext& context, const QString& heading, QStringList& problems)
 {
     if (problems.isEmpty())

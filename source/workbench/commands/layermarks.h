@@ -33,6 +33,8 @@ std::vector<drawing::LayerId> present(CommandContext& context, const std::vector
 void tell(CommandContext& context, const QString& text);
 /// A message box on why something could not be done.
 void warn(const QString& text);
+/// Asks whether to do something; true for yes.
+bool confirms(const QString& question);
 /// A message box with what could not be done, a sentence each, which starts anew then; nothing
 /// without any. A box has room for the first ten: of more, all are echoed.
 void report(CommandContext& context, const QString& heading, QStringList& problems);

@@ -335,8 +335,7 @@ bool LayerStateCommand::offersRestore(const std::vector<LayerState>& imported)
         imported.size() == 1
             ? tr("已输入图层状态“%1”。是否立即恢复?").arg(last)
             : tr("已输入 %1 个图层状态。是否立即恢复“%2”?").arg(imported.size()).arg(last);
-    return vnsi::vnuiMessageBox(od(question), vnsi::kProductName,
-               vnsi::kVnYesNo | vnsi::kVnIconQuestion) == vnsi::kVnAnswerYes;
+    return layermarks::confirms(question);
 }
 
 void LayerStateCommand::exportState(const VnJsonPtr& node)

@@ -130,37 +130,41 @@ QString LayerTranslateCommand::offeredName(const QFileInfo& file) const
     return isDrawing ? base + tr("-图层标准") + QStringLiteral(".dxf") : name;
 }
 
-bool LayerTranslateCommand::maySave(const QString& path) const
+QString LayerTranslateCommand::acceptedPath(const QString& path) const
 {
     const QFileInfo file(path);
     const QString ending = file.suffix();
     const bool isOtherFormat = std::any_of(std::begin(kOtherFormats), std::end(kOtherFormats),
         [&](const char* format) { return ending.compare(format, Qt::CaseInsensitive) == 0; });
     if (isOtherFormat) {
-        layermarks::warn(tr("没有写入文件“%1”：图层映射以 DXF 格式保存，文件名不能以 .%2 结尾。"
-                            "请保存为“%3”。")
-                             .arg(shown(path), ending, offeredName(file)));
-        return false;
+        const QFileInfo offered(file.dir(), offeredName(file));
+        QString question = tr("没有写入文件“%1”：图层映射以 DXF 格式保存，文件名不能以 .%2 结尾。"
+                              "是否改为保存到“%3”？")
+                               .arg(shown(path), ending, offered.fileName());
+        if (offered.exists())
+            question += tr("\n该文件已存在，将被替换。");
+        return layermarks::confirms(question) ? offered.filePath() : QString();
     }
     if (file == QFileInfo(drawing().path())) {
         layermarks::warn(tr("“%1”是正在转换的图形，图层映射要保存到另一个文件。").arg(shown(path)));
-        return false;
+        return {};
     }
-    return true;
+    return path;
 }
 
 void LayerTranslateCommand::save(const VnJsonPtr& tree)
 {
     const VnJsonPtr answer = tree->GetDataJ(kSaveAnswer);
-    const QString path = answer ? text(answer, "filePath") : QString();
+    const QString chosen = answer ? text(answer, "filePath") : QString();
     const std::vector<LayerMapping> mappings = m_records.mappings(tree->GetDataJ(kSaveMappings));
-    if (path.isEmpty())
+    if (chosen.isEmpty())
         return;
     if (mappings.empty()) {
-        layermarks::warn(tr("还没有图层映射，没有写入文件“%1”。").arg(shown(path)));
+        layermarks::warn(tr("还没有图层映射，没有写入文件“%1”。").arg(shown(chosen)));
         return;
     }
-    if (!maySave(path))
+    const QString path = acceptedPath(chosen);
+    if (path.isEmpty())
         return;
     const auto saved = drawing::saveStandard(path, mappings);
     if (!saved) {

@@ -35,8 +35,9 @@ private:
     void addTargets(const std::vector<drawing::TargetLayer>& targets, const QString& path);
     void sayLoaded(const vnsi::VnJsonPtr& mappings) const;
     QString offeredName(const QFileInfo& file) const;
-    /// Whether mappings may be saved under this name; tells the user why not.
-    bool maySave(const QString& path) const;
+    /// Where mappings that are to be saved as `path` go: a name that none can have is told to the
+    /// user, who may take another one instead. Empty where they are not saved.
+    QString acceptedPath(const QString& path) const;
     /// Shows those layers alone if the user wants that; names of none change nothing.
     void showAlone(const QStringList& layers) const;
     void report(const drawing::TranslationReport& report);
