@@ -336,17 +336,21 @@ bool DrawingIndexer::readEntity(int block)
     quint32 nameAt = 0;
     TagReader tags = m_tags; // A copy, which needs no memory of its own.
     Tag tag;
-    ScanResult result = ScanResult::Tag;
-    while ((result = tags.read(tag)) == ScanResult::Tag && tag.code != 0) {
-        if (tag.code == group::kLayer && nameAt == 0) {
-            nameAt = static_cast<quint32>(tag.value - m_tag.first);
-            entity.layer = static_cast<LayerId>(m_entities->layerSpellings.intern(tag.text()));
-        } else if (tag.code == group::kPaperSpace) {
-            entity.paperSpace = tag.integer() == 1;
-        } else if (tag.code == group::kXdataLayer) {
-            m_entities->xdataNames.push_back(tag.valueRange().begin);
+    const ScanResult result = withSpelling(m_tags.spelling(), [&](auto spelling) {
+        ScanResult last = ScanResult::Tag;
+        while ((last = tags.readAs<decltype(spelling)::value>(tag)) == ScanResult::Tag &&
+               tag.code != group::kType) {
+            if (tag.code == group::kLayer && nameAt == 0) {
+                nameAt = static_cast<quint32>(tag.value - m_tag.first);
+                entity.layer = static_cast<LayerId>(m_entities->layerSpellings.intern(tag.text()));
+            } else if (tag.code == group::kPaperSpace) {
+                entity.paperSpace = tag.integer() == 1;
+            } else if (tag.code == group::kXdataLayer) {
+                m_entities->xdataNames.push_back(tag.valueRange().begin);
+            }
         }
-    }
+        return last;
+    });
     m_tags = tags;
     m_tag = tag;
     const bool isWhole = result == ScanResult::Tag || failed(result);

@@ -25,9 +25,12 @@ public:
     /// Reads the next tag; false, with `tag` untouched, when there is none.
     bool next(Tag& tag) { return read(tag) == ScanResult::Tag; }
     /// The same, with the reason. The reader stays where it is when nothing could be read.
-    ScanResult read(Tag& tag)
+    ScanResult read(Tag& tag);
+    /// The same of a file that is known to be spelled so.
+    template <Spelling spelling>
+    [[gnu::always_inline]] ScanResult readAs(Tag& tag)
     {
-        m_last = scanTag(m_next, m_end, m_spelling, tag);
+        m_last = scanAs<spelling>(m_next, m_end, tag);
         if (m_last != ScanResult::Tag)
             return m_last;
         tag.spelling = m_spelling;
@@ -35,6 +38,7 @@ public:
         m_next = tag.after;
         return m_last;
     }
+    Spelling spelling() const { return m_spelling; }
     bool isCutOff() const { return m_last == ScanResult::CutOff; }
     bool broken() const { return m_last != ScanResult::Tag && m_last != ScanResult::End; }
 

@@ -1,4 +1,4 @@
-#include "tagscan.h"
+#include "tagreader.h"
 
 namespace drawing {
 
@@ -25,6 +25,12 @@ Spelling binarySpelling(std::string_view bytes)
 
 } // namespace
 
+ScanResult TagReader::read(Tag& tag)
+{
+    return withSpelling(
+        m_spelling, [&](auto spelling) { return readAs<decltype(spelling)::value>(tag); });
+}
+
 FileForm FileForm::of(std::string_view bytes)
 {
     if (isBinaryFile(bytes))
@@ -44,18 +50,6 @@ FileForm FileForm::of(std::string_view bytes)
                          bytes.substr(lineEnd + 1, 1) == "\n";
     form.spelling = hasFeed ? Spelling::Text : Spelling::OldText;
     return form;
-}
-
-ScanResult scanRare(const char* p, const char* end, Spelling spelling, Tag& tag)
-{
-    switch (spelling) {
-    case Spelling::OldText:
-        return scanText<'\r'>(p, end, tag);
-    case Spelling::Binary:
-        return scanBinary<false>(p, end, tag);
-    default:
-        return scanBinary<true>(p, end, tag);
-    }
 }
 
 } // namespace drawing

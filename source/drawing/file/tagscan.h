@@ -3,6 +3,7 @@
 #include "tag.h"
 
 #include <cstring>
+#include <type_traits>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -17,7 +18,7 @@ enum class ScanResult { Tag, End, TooLong, CutOff, BadCode };
 
 /// The next such byte from `p` on, or `end`.
 template <char wanted>
-const char* findByte(const char* p, const char* end)
+[[gnu::always_inline]] inline const char* findByte(const char* p, const char* end)
 {
 #ifdef __SSE2__
     // Most lines are shorter than 16 bytes: one compare here beats the call of memchr.
@@ -54,7 +55,7 @@ inline const char* valueEnd(const char* p, const char* end, Spelling spelling)
 /// Reads the pair of lines at `p`; `tag` is left alone unless there is one. A value line without a
 /// line end counts when it ends the bytes.
 template <char lineFeed>
-ScanResult scanText(const char* p, const char* end, Tag& tag)
+[[gnu::always_inline]] inline ScanResult scanText(const char* p, const char* end, Tag& tag)
 {
     constexpr int kMostDigits = 5;
     if (p == end)
@@ -95,7 +96,7 @@ ScanResult scanText(const char* p, const char* end, Tag& tag)
 /// Reads the group of a binary file at `p`, with a code of one byte in old files; otherwise as
 /// `scanText`.
 template <bool isOld>
-ScanResult scanBinary(const char* p, const char* end, Tag& tag)
+[[gnu::always_inline]] inline ScanResult scanBinary(const char* p, const char* end, Tag& tag)
 {
     constexpr uchar kLongCode = 255; // The code itself follows in two bytes.
     if (p == end)
@@ -135,14 +136,31 @@ ScanResult scanBinary(const char* p, const char* end, Tag& tag)
     return ScanResult::Tag;
 }
 
-/// Reads the group at `p` of a file that is not spelled as plain text.
-ScanResult scanRare(const char* p, const char* end, Spelling spelling, Tag& tag);
-
-/// Reads the group at `p` as the file spells it. Most files are plain text: their way stays short.
-inline ScanResult scanTag(const char* p, const char* end, Spelling spelling, Tag& tag)
+/// Reads the group at `p` of a file that spells it so. Opening a file is this, over and over.
+template <Spelling spelling>
+[[gnu::always_inline]] inline ScanResult scanAs(const char* p, const char* end, Tag& tag)
 {
-    return spelling == Spelling::Text ? scanText<'\n'>(p, end, tag)
-                                      : scanRare(p, end, spelling, tag);
+    if constexpr (isBinary(spelling))
+        return scanBinary<spelling == Spelling::OldBinary>(p, end, tag);
+    else
+        return scanText<(spelling == Spelling::Text ? '\n' : '\r')>(p, end, tag);
+}
+
+/// Calls `act` with the spelling as a constant.
+template <class Act>
+auto withSpelling(Spelling spelling, Act act)
+{
+    switch (spelling) {
+    case Spelling::Text:
+        return act(std::integral_constant<Spelling, Spelling::Text>());
+    case Spelling::OldText:
+        return act(std::integral_constant<Spelling, Spelling::OldText>());
+    case Spelling::Binary:
+        return act(std::integral_constant<Spelling, Spelling::Binary>());
+    case Spelling::OldBinary:
+        break;
+    }
+    return act(std::integral_constant<Spelling, Spelling::OldBinary>());
 }
 
 /// How the groups of a file are written, and where the first one stands.
