@@ -89,8 +89,9 @@ QString emptied(const QString& path)
 double translateSeconds(const Batch& batch)
 {
     const QString out = emptied(batch.folder + QStringLiteral("/translated"));
-    return processSeconds(QCoreApplication::applicationDirPath() + QStringLiteral("/layertrans"),
-        QStringList{QStringLiteral("--standard"), batch.standard, QStringLiteral("--option"),
+    return processSeconds(QCoreApplication::applicationDirPath() + QStringLiteral("/layertool"),
+        QStringList{QStringLiteral("translate"), QStringLiteral("--quiet"),
+            QStringLiteral("--root"), batch.folder, QStringLiteral("--standard"), batch.standard, QStringLiteral("--option"),
             QStringLiteral("blocks"), QStringLiteral("--out"), out} +
             batch.drawings);
 }

@@ -9,7 +9,7 @@ packages=(
     fonts-wqy-zenhei
 )
 if [ "${1:-}" = "--tests" ]; then
-    packages+=(python3-ezdxf python3-jsonschema)
+    packages+=(python3-ezdxf python3-jsonschema parallel)
 elif [ "${1:-}" = "--fuzz" ]; then
     packages+=(clang libclang-rt-dev python3)
 fi

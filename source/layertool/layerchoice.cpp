@@ -60,16 +60,20 @@ Expected<void> LayerChoice::read(const Arguments& arguments)
     return {};
 }
 
+bool LayerChoice::names(const QString& name) const
+{
+    return std::any_of(m_names.begin(), m_names.end(),
+        [&name](const QString& given) { return isSame(given, name); });
+}
+
 bool LayerChoice::matches(const QString& name) const
 {
     const std::wstring wide = name.toStdWString();
-    return std::any_of(m_names.begin(), m_names.end(), [&name](const QString& given) {
-        return isSame(given, name);
-    }) || std::any_of(m_patterns.begin(), m_patterns.end(), [&wide](const auto& pattern) {
-        return pattern->matches(wide);
-    }) || std::any_of(m_regexes.begin(), m_regexes.end(), [&name](const QRegularExpression& regex) {
-        return regex.match(name).hasMatch();
-    });
+    return names(name) ||
+           std::any_of(m_patterns.begin(), m_patterns.end(),
+               [&wide](const auto& pattern) { return pattern->matches(wide); }) ||
+           std::any_of(m_regexes.begin(), m_regexes.end(),
+               [&name](const QRegularExpression& regex) { return regex.match(name).hasMatch(); });
 }
 
 std::vector<drawing::LayerId> LayerChoice::in(const drawing::Drawing& drawing) const

@@ -27,6 +27,8 @@ public:
     bool isEmpty() const { return m_names.isEmpty() && m_patterns.empty() && m_regexes.isEmpty(); }
 
     bool matches(const QString& name) const;
+    /// Whether the layer is meant by its name, not by a pattern or an expression.
+    bool names(const QString& name) const;
     /// The layers of a drawing that are meant, in its order.
     std::vector<drawing::LayerId> in(const drawing::Drawing& drawing) const;
     /// The names given that the drawing has no layer of.

@@ -1,8 +1,10 @@
 #include "renaming.h"
 
 #include "drawing.h"
+#include "namerule.h"
 #include "texts.h"
 
+#include <QSet>
 #include <QUuid>
 
 #include <algorithm>
@@ -27,7 +29,9 @@ public:
 private:
     void collect(const std::vector<Renaming>& renamings);
     void settleReady();
-    Expected<void> openCircle();
+    std::vector<LayerId> circles() const;
+    Expected<void> openCircle(LayerId id);
+    void releaseLater();
     void settle(LayerId id);
     void wake(LayerId owner);
     void rename(LayerId id, const QString& name);
@@ -38,6 +42,7 @@ private:
     {
         QString to;
         size_t place = 0;
+        bool isLater = false; ///< Another one wants the name, too, and comes first.
     };
 
     Drawing& m_drawing;
@@ -45,6 +50,8 @@ private:
     std::map<LayerId, Pending> m_pending;
     std::multimap<LayerId, LayerId> m_waiting; ///< By the layer that has the name wanted.
     std::vector<LayerId> m_ready;
+    std::vector<LayerId> m_later;
+    QSet<QString> m_wanted; ///< Folded names.
     std::vector<Renamed> m_results;
 };
 
@@ -54,9 +61,12 @@ void Renamer::collect(const std::vector<Renaming>& renamings)
         const QString from = nameOf(renaming.layer);
         if (from == renaming.to || m_pending.count(renaming.layer) > 0)
             continue;
-        m_pending[renaming.layer] = {renaming.to, m_results.size()};
+        const QString folded = vnsi::foldedName(renaming.to);
+        const bool isLater = m_wanted.contains(folded);
+        m_pending[renaming.layer] = {renaming.to, m_results.size(), isLater};
         m_results.push_back({renaming.layer, from, renaming.to, Renamed::Outcome::Refused, {}});
-        m_ready.push_back(renaming.layer);
+        (isLater ? m_later : m_ready).push_back(renaming.layer);
+        m_wanted.insert(folded);
     }
 }
 
@@ -128,26 +138,63 @@ void Renamer::settleReady()
     }
 }
 
-/// All that is left wait for each other in circles. One of them steps aside under a name nobody
-/// uses, so that the others can go round; it must come to its own name in the end.
-Expected<void> Renamer::openCircle()
+/// A layer of each chain of names wanted that comes round to itself.
+std::vector<LayerId> Renamer::circles() const
 {
-    const LayerId id = m_pending.begin()->first;
-    const Pending pending = m_pending.begin()->second;
+    std::vector<LayerId> found;
+    std::map<LayerId, LayerId> startOf; // Each layer that was seen, with where its chain began.
+    const auto isWaiting = [this](LayerId id) {
+        const auto pending = m_pending.find(id);
+        return pending != m_pending.end() && !pending->second.isLater;
+    };
+    for (const auto& start : m_pending) {
+        LayerId id = start.first;
+        while (isWaiting(id) && startOf.emplace(id, start.first).second) {
+            const Layer* const owner = m_drawing.findLayer(m_pending.at(id).to);
+            id = owner ? owner->id : LayerId::None;
+        }
+        if (isWaiting(id) && startOf.at(id) == start.first)
+            found.push_back(id);
+    }
+    return found;
+}
+
+void Renamer::releaseLater()
+{
+    for (const LayerId id : m_later)
+        m_pending.at(id).isLater = false;
+    m_ready.swap(m_later);
+    m_later.clear();
+    settleReady();
+}
+
+/// One of those that wait for each other in a circle steps aside under a name nobody uses, so that
+/// the others can go round; it must come to its own name, or back to its old one, in the end.
+Expected<void> Renamer::openCircle(LayerId id)
+{
+    const Pending pending = m_pending.at(id);
     drawing::LayerProperties properties = m_drawing.layer(id)->properties;
+    const QString from = properties.name;
     properties.name =
         QStringLiteral("X$") + QUuid::createUuid().toString(QUuid::Id128).left(20).toUpper();
-    if (const auto done = m_drawing.setLayerProperties(id, properties); !done)
-        return done;
+    if (const auto done = m_drawing.setLayerProperties(id, properties); !done) {
+        refuse(id, done.error().text);
+        settleReady();
+        return {};
+    }
     m_pending.erase(id);
     wake(id);
     settleReady();
     properties = m_drawing.layer(id)->properties;
     properties.name = pending.to;
     const auto done = m_drawing.setLayerProperties(id, properties);
-    if (done)
+    if (done) {
         m_results[pending.place].outcome = Renamed::Outcome::Renamed;
-    return done;
+        return {};
+    }
+    m_results[pending.place].cause = done.error().text;
+    properties.name = from;
+    return m_drawing.setLayerProperties(id, properties);
 }
 
 Expected<std::vector<Renamed>> Renamer::run(const std::vector<Renaming>& renamings)
@@ -156,8 +203,15 @@ Expected<std::vector<Renamed>> Renamer::run(const std::vector<Renaming>& renamin
     std::reverse(m_ready.begin(), m_ready.end());
     settleReady();
     while (!m_pending.empty()) {
-        if (const auto done = openCircle(); !done)
-            return tl::make_unexpected(done.error());
+        const std::vector<LayerId> circles = this->circles();
+        for (const LayerId id : circles) {
+            if (m_pending.count(id) == 0)
+                continue;
+            if (const auto done = openCircle(id); !done)
+                return tl::make_unexpected(done.error());
+        }
+        if (circles.empty())
+            releaseLater();
     }
     return std::move(m_results);
 }

@@ -40,16 +40,20 @@ constexpr OwnGroup kOwnGroups[] = {
     {group::kColorName, &ByLayerGroups::color},
     {group::kLinetype, &ByLayerGroups::linetype},
     {group::kTransparency, &ByLayerGroups::transparency},
+    {group::kLineweight, &ByLayerGroups::lineweight},
 };
 
 bool OwnGroup::isOwn(const Tag& tag) const
 {
     constexpr qint64 kColorByLayer = 256;
+    constexpr qint64 kLineweightByLayer = -1;
     constexpr std::string_view kByLayer = "bylayer";
     const std::string_view text = tag.trimmed();
     switch (code) {
     case group::kColor:
         return tag.integer() != kColorByLayer;
+    case group::kLineweight:
+        return tag.integer() != kLineweightByLayer;
     case group::kTransparency:
         return tag.integer() != 0;
     case group::kLinetype:
@@ -74,7 +78,7 @@ bool isOwn(const Tag& tag, const ByLayerGroups& groups)
 void forceByLayer(
     DrawingFile& file, EntityTable& entities, size_t entity, const ByLayerGroups& groups)
 {
-    if (!groups.color && !groups.linetype && !groups.transparency)
+    if (!groups.color && !groups.linetype && !groups.transparency && !groups.lineweight)
         return;
     OwnTags tags(file.tags(entities[entity].range()));
     Tag tag;

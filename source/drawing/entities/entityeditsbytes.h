@@ -15,6 +15,7 @@ struct ByLayerGroups
     bool color = false;
     bool linetype = false;
     bool transparency = false;
+    bool lineweight = false;
 };
 
 /// Lets an entity take these from its layer.

@@ -200,8 +200,8 @@ void Translation::moveContents()
     for (const Plan& plan : m_plans)
         moves.push_back({plan.from, plan.to});
     m_data.entityEdits.moveContents(moves,
-        {m_options.inBlocks,
-            {m_options.colorByLayer, m_options.linetypeByLayer, m_options.transparencyByLayer}});
+        {m_options.inBlocks, {m_options.colorByLayer, m_options.linetypeByLayer,
+                                 m_options.transparencyByLayer, m_options.lineweightByLayer}});
     for (size_t i = 0; i < moves.size(); ++i) {
         MappingResult& result = this->result(m_plans[i]);
         result.translated = moves[i].moved;

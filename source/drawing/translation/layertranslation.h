@@ -36,7 +36,7 @@ struct LayerMapping
     TargetLayer to;
 };
 
-/// The six options, in the order in which they are shown.
+/// The six options that are shown, in their order, and one for programs.
 struct TranslationOptions
 {
     bool colorByLayer = false;
@@ -45,6 +45,7 @@ struct TranslationOptions
     bool inBlocks = false;      ///< What stands in block definitions is translated too.
     bool writeLog = false;      ///< For the caller, see `writeTranslationLog`.
     bool showSelection = false; ///< For the caller: of no concern to the translation.
+    bool lineweightByLayer = false;
 };
 
 /// What became of one mapping.

@@ -26,6 +26,7 @@ constexpr const char* kLevelWords[] = {"off", "note", "warning", "error"};
 struct KeyRow
 {
     const char* key;
+    QJsonValue::Type type;
     Expected<void> (*read)(const QJsonValue& value, LayerRules& rules);
 };
 
@@ -127,19 +128,27 @@ Expected<void> readLevels(const QJsonValue& value, LayerRules& rules)
 }
 
 constexpr KeyRow kKeys[] = {
-    {"$schema", readNothing},
-    {"source", readNothing},
-    {"extends", readNothing}, // Read before all else.
-    {"name", readName},
-    {"exempt", readPatterns<&LayerRules::exempt>},
-    {"required", readRequired},
-    {"allowed", readPatterns<&LayerRules::allowed>},
-    {"forbidden", readPatterns<&LayerRules::forbidden>},
-    {"naming", readNaming},
-    {"layers", readLayers},
-    {"renames", readRenames},
-    {"rules", readLevels},
+    {"$schema", QJsonValue::String, readNothing},
+    {"source", QJsonValue::String, readNothing},
+    {"extends", QJsonValue::Undefined, readNothing}, // A text or a list, read before all else.
+    {"name", QJsonValue::String, readName},
+    {"exempt", QJsonValue::Array, readPatterns<&LayerRules::exempt>},
+    {"required", QJsonValue::Array, readRequired},
+    {"allowed", QJsonValue::Array, readPatterns<&LayerRules::allowed>},
+    {"forbidden", QJsonValue::Array, readPatterns<&LayerRules::forbidden>},
+    {"naming", QJsonValue::Object, readNaming},
+    {"layers", QJsonValue::Array, readLayers},
+    {"renames", QJsonValue::Object, readRenames},
+    {"rules", QJsonValue::Object, readLevels},
 };
+
+/// Lists hold texts, but for those of objects.
+bool holdsTexts(const QJsonValue& value)
+{
+    const QJsonArray list = value.toArray();
+    return std::all_of(list.begin(), list.end(),
+        [](const QJsonValue& one) { return one.isObject() || !one.toString().isEmpty(); });
+}
 
 Expected<void> readKeys(const QJsonObject& json, LayerRules& rules)
 {
@@ -148,6 +157,9 @@ Expected<void> readKeys(const QJsonObject& json, LayerRules& rules)
             [&it](const KeyRow& known) { return it.key() == QLatin1String(known.key); });
         if (row == std::end(kKeys))
             return refuse(Texts::tr("没有名为“%1”的键。").arg(it.key()));
+        if ((row->type != QJsonValue::Undefined && it.value().type() != row->type) ||
+            !holdsTexts(it.value()))
+            return refuse(Texts::tr("“%1”的值不是它应有的种类。").arg(it.key()));
         if (auto read = row->read(it.value(), rules); !read)
             return read;
     }

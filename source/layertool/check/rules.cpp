@@ -95,6 +95,8 @@ std::array<bool, LayerContent::kOwnProperties> ownProperties(
 {
     std::array<bool, LayerContent::kOwnProperties> own = {};
     drawing::TagReader tags = drawing.tags(entity);
+    constexpr int kTrueColor = 420, kColorName = 430;
+    bool hasTrueColor = false;
     int subclasses = 0;
     for (drawing::Tag tag; tags.next(tag);) {
         if (tag.code >= 1000 || tag.code == 101)
@@ -105,7 +107,9 @@ std::array<bool, LayerContent::kOwnProperties> ownProperties(
             if (tag.code == kOwn[i].code)
                 own[i] = !isByLayer(tag);
         }
+        hasTrueColor = hasTrueColor || tag.code == kTrueColor || tag.code == kColorName;
     }
+    own[0] = own[0] || hasTrueColor;
     if (entity.colorByLayer)
         own[0] = false;
     return own;

@@ -1,5 +1,6 @@
 #include "batch.h"
 
+#include "interruption.h"
 #include "texts.h"
 #include "worker.h"
 
@@ -35,7 +36,7 @@ void Batch::run(const std::vector<Job>& jobs, const Listener& listener)
     m_listener = listener;
     m_waiting.assign(jobs.rbegin(), jobs.rend());
     const auto count = std::min(static_cast<size_t>(m_limits.processes), m_waiting.size());
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count && !isStopping(); ++i)
         startWorker();
     const auto isBusy = [](const std::unique_ptr<Worker>& worker) { return !worker->hasEnded; };
     while (std::any_of(m_workers.begin(), m_workers.end(), isBusy))
@@ -80,7 +81,7 @@ void Batch::connectWorker(Worker& worker)
 
 void Batch::feed(Worker& worker)
 {
-    if (m_isInterrupted || m_waiting.empty()) {
+    if (isStopping() || m_waiting.empty()) {
         worker.process.closeWriteChannel();
         return;
     }
@@ -105,6 +106,30 @@ void Batch::readAnswers(Worker& worker)
     }
 }
 
+/// A signal reaches the workers as soon as this process, and the event loop hears of it later.
+bool Batch::isStopping() const
+{
+    return m_isInterrupted || Interruption::signalNumber() != 0;
+}
+
+void Batch::failOrCancel(const Worker& worker, Result& result) const
+{
+    const bool isOutOfMemory = worker.process.exitStatus() == QProcess::NormalExit &&
+                               worker.process.exitCode() == kOutOfMemoryExit;
+    if (worker.isLate)
+        result.fail(
+            errorid::kTime, Texts::tr("处理它用时超过了 %1 秒，已放弃。").arg(m_limits.seconds));
+    else if (isOutOfMemory)
+        result.fail(errorid::kMemory,
+            m_limits.megabytes > 0
+                ? Texts::tr("处理它所需的内存超过了 %1 MB，已放弃。").arg(m_limits.megabytes)
+                : Texts::tr("处理它时内存不足，已放弃。"));
+    else if (Interruption::signalNumber() != 0)
+        result.status = Result::Status::Cancelled;
+    else
+        result.fail(errorid::kCrash, Texts::tr("处理它的进程意外结束。"));
+}
+
 void Batch::onFinished(Worker& worker)
 {
     if (worker.hasEnded)
@@ -115,30 +140,29 @@ void Batch::onFinished(Worker& worker)
     const bool wasBusy = worker.job.has_value();
     if (wasBusy) {
         Result result(*worker.job);
-        if (worker.isLate)
-            result.fail(errorid::kTime,
-                Texts::tr("处理它用时超过了 %1 秒，已放弃。").arg(m_limits.seconds));
-        else if (m_isInterrupted)
-            result.status = Result::Status::Cancelled;
-        else
-            result.fail(errorid::kCrash, Texts::tr("处理它的进程意外结束。"));
+        failOrCancel(worker, result);
         settle(result);
     }
-    if (m_isInterrupted || m_waiting.empty())
+    if (isStopping() || m_waiting.empty())
         return;
-    // One that ended before it took a job was never at work: others would do the same.
-    if (!wasBusy)
-        failNext(errorid::kStart,
-            Texts::tr("不能启动处理它的进程：%1。").arg(worker.process.errorString()));
-    startWorker();
+    if (wasBusy) {
+        startWorker();
+        return;
+    }
+    // One that could not be started leaves the work to the others, as long as there are any.
+    if (std::all_of(m_workers.begin(), m_workers.end(),
+            [](const std::unique_ptr<Worker>& other) { return other->hasEnded; }))
+        failWaiting(worker.process.errorString());
 }
 
-void Batch::failNext(const char* id, const QString& text)
+void Batch::failWaiting(const QString& cause)
 {
-    Result result(m_waiting.back());
-    m_waiting.pop_back();
-    result.fail(id, text);
-    settle(result);
+    while (!m_waiting.empty() && !isStopping()) {
+        Result result(m_waiting.back());
+        m_waiting.pop_back();
+        result.fail(errorid::kStart, Texts::tr("不能启动处理它的进程：%1。").arg(cause));
+        settle(result);
+    }
 }
 
 void Batch::settle(const Result& result)

@@ -15,6 +15,7 @@ struct BatchLimits
 {
     int processes = 1;
     int seconds = 0;        ///< For each drawing; 0 for no limit.
+    int megabytes = 0;      ///< For each process, which keeps to it by itself; 0 for no limit.
     bool failsFast = false; ///< Begins nothing new once a drawing has failed.
 };
 
@@ -45,7 +46,9 @@ private:
     void readAnswers(Worker& worker);
     void onFinished(Worker& worker);
     void settle(const Result& result);
-    void failNext(const char* id, const QString& text);
+    void failWaiting(const QString& cause);
+    void failOrCancel(const Worker& worker, Result& result) const;
+    bool isStopping() const;
 
     const Arguments& m_arguments;
     BatchLimits m_limits;

@@ -4,6 +4,7 @@
 #include "texts.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 
 #include <cerrno>
@@ -26,10 +27,14 @@ tl::unexpected<Error> inUse(const QString& folder)
         Texts::tr("输出文件夹“%1”正被另一次运行使用：请等它结束，或用 --wait 等待。").arg(folder)});
 }
 
+/// A killed run keeps its lock until its worker processes have ended, too.
+constexpr int kGraceMilliseconds = 1000;
+
+/// Worker processes inherit the lock: while one lives, it may still put files into their places.
 int openLock(const QString& folder, const QString& name)
 {
     const QString path = QDir(Journal::folderOf(folder)).filePath(name);
-    return ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    return ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT, 0666);
 }
 
 bool lock(int file, int kind, bool waits)
@@ -39,6 +44,13 @@ bool lock(int file, int kind, bool waits)
         done = ::flock(file, kind | (waits ? 0 : LOCK_NB));
     } while (done != 0 && errno == EINTR);
     return done == 0;
+}
+
+/// What killed runs had not put into its place; nobody else is at work.
+void removeLeftBehind(const QString& folder)
+{
+    for (const QString& name : QDir(folder).entryList({QStringLiteral("staging-*")}, QDir::Dirs))
+        QDir(QDir(folder).filePath(name)).removeRecursively();
 }
 
 int readCount(int file)
@@ -75,23 +87,27 @@ Expected<void> FolderLock::lockFolder(const QString& folder, const Shard& shard,
     m_folder = openLock(folder, QStringLiteral("lock"));
     if (m_folder < 0)
         return tl::make_unexpected(Error{Texts::tr("无法在输出文件夹“%1”中写日志。").arg(folder)});
+    QElapsedTimer clock;
+    clock.start();
     for (;;) {
         if (lock(m_folder, LOCK_EX, false)) {
+            removeLeftBehind(Journal::folderOf(folder));
             if (!writeCount(m_folder, shard.count))
                 return tl::make_unexpected(
                     Error{Texts::tr("无法在输出文件夹“%1”中写日志。").arg(folder)});
-            if (shard.count > 1)
-                lock(m_folder, LOCK_SH, true);
-            return {};
+            if (shard.count == 1)
+                return {};
+            // On the way to the shared lock another division may come in between.
+            lock(m_folder, LOCK_UN, true);
         }
         if (shard.count > 1 && lock(m_folder, LOCK_SH, false)) {
             if (readCount(m_folder) == shard.count)
                 return {};
             lock(m_folder, LOCK_UN, true);
         }
-        if (!waits)
+        if (!waits && clock.elapsed() > kGraceMilliseconds)
             return inUse(folder);
-        ::usleep(kRetryMicroseconds);
+        ::usleep(50'000);
     }
 }
 
@@ -100,8 +116,13 @@ Expected<void> FolderLock::lockShard(const QString& folder, const Shard& shard, 
     if (shard.count == 1)
         return {};
     m_shard = openLock(folder, QStringLiteral("lock-%1").arg(shard.number));
-    if (m_shard < 0 || !lock(m_shard, LOCK_EX, waits))
-        return inUse(folder);
+    QElapsedTimer clock;
+    clock.start();
+    while (m_shard < 0 || !lock(m_shard, LOCK_EX, waits)) {
+        if (m_shard < 0 || clock.elapsed() > kGraceMilliseconds)
+            return inUse(folder);
+        ::usleep(50'000);
+    }
     return {};
 }
 

@@ -25,6 +25,13 @@ QString identity(const QString& path)
     return QDir(folder.isEmpty() ? info.absolutePath() : folder).absoluteFilePath(info.fileName());
 }
 
+/// As given, unless ".." behind a link leads elsewhere than the words say.
+QString absolutePath(const QString& path)
+{
+    const QString cleaned = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    return identity(cleaned) == identity(path) ? cleaned : identity(path);
+}
+
 tl::unexpected<Error> refuse(const QString& text)
 {
     return tl::make_unexpected(Error{text});
@@ -167,9 +174,9 @@ void Planner::add(const QString& path, const QString& other)
     m_known.insert(known);
     Job job;
     job.number = static_cast<int>(m_plan.jobs.size());
-    job.input = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    job.input = absolutePath(path);
     if (!other.isEmpty())
-        job.other = QDir::cleanPath(QFileInfo(other).absoluteFilePath());
+        job.other = absolutePath(other);
     job.name = nameOf(path);
     const bool writes = editsDrawings(m_verb, m_arguments) && !m_arguments.isSet("dry-run");
     if (writes && m_arguments.isSet("in-place"))
@@ -192,6 +199,7 @@ Expected<void> Planner::checkOutputs(const QStringList& precious) const
 {
     if (m_arguments.isSet("in-place"))
         return {};
+    QSet<QString> taken;
     QSet<QString> kept = m_known;
     for (const QString& path : precious)
         kept.insert(identity(path));
@@ -199,6 +207,14 @@ Expected<void> Planner::checkOutputs(const QStringList& precious) const
         if (!job.output.isEmpty() && kept.contains(identity(job.output)))
             return refuse(
                 Texts::tr("输出“%1”会覆盖一个原文件：请换一个输出文件夹。").arg(job.output));
+        // Logs, layer states and parts go by the name without its suffix.
+        const QFileInfo output(job.output);
+        const QString base = output.dir().filePath(output.completeBaseName());
+        if (!job.output.isEmpty() && taken.contains(base))
+            return refuse(Texts::tr("“%1”与另一个图形的输出同名：请分两次处理，或用 --root "
+                                    "给出它们共同的文件夹。")
+                              .arg(job.input));
+        taken.insert(base);
     }
     return {};
 }

@@ -114,6 +114,7 @@ void Result::notes(const char* id, const QStringList& sentences)
 void Result::fail(const char* id, const QString& sentence)
 {
     status = Status::Failed;
+    output.clear();
     error = QLatin1String(id);
     text = sentence;
 }

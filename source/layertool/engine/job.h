@@ -24,6 +24,7 @@ struct Job
     QString staging; ///< A folder on the output's file system for what is not whole yet.
     bool keepsBackup = false;
     bool isProven = false; ///< The result is to hold the stamps that prove it later.
+    bool isStamped() const { return isProven || output == input; }
 
     QByteArray toLine() const;
     static Job fromLine(const QByteArray& line);
@@ -93,6 +94,7 @@ inline constexpr char kWrite[] = "not-written";
 inline constexpr char kCrash[] = "process-ended";
 inline constexpr char kStart[] = "process-not-started";
 inline constexpr char kTime[] = "time-limit";
+inline constexpr char kMemory[] = "memory-limit";
 } // namespace errorid
 
 /// The English word for a status, as reports have it.

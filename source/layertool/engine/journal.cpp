@@ -10,6 +10,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <tuple>
 #include <unistd.h>
 
 namespace layertool {
@@ -23,6 +24,8 @@ QByteArray lineFrom(const JournalEntry& entry)
     QJsonObject json = entry.result.toJson();
     json.insert(QStringLiteral("version"), kVersion);
     json.insert(QStringLiteral("run"), QString::fromLatin1(entry.run));
+    json.insert(QStringLiteral("verb"), entry.verb.name);
+    json.insert(QStringLiteral("edits"), entry.verb.edits);
     json.insert(QStringLiteral("when"), QString::number(entry.when));
     return lineOf(json);
 }
@@ -32,8 +35,15 @@ JournalEntry entryFrom(const QJsonObject& json)
     JournalEntry entry;
     entry.result = Result::fromJson(json);
     entry.run = json.value(QLatin1String("run")).toString().toLatin1();
+    entry.verb = {
+        json.value(QLatin1String("verb")).toString(), json.value(QLatin1String("edits")).toBool()};
     entry.when = json.value(QLatin1String("when")).toString().toLongLong();
     return entry;
+}
+
+QString keyOf(const QString& input, const RunVerb& verb)
+{
+    return (verb.edits ? QString() : verb.name) + QLatin1Char('\n') + input;
 }
 
 QString causeOf(int number)
@@ -63,7 +73,7 @@ QString Journal::folderOf(const QString& outFolder)
     return QDir(outFolder).filePath(QStringLiteral(".layertool"));
 }
 
-drawing::Expected<Journal> Journal::open(const QString& outFolder)
+drawing::Expected<Journal> Journal::open(const QString& outFolder, const RunVerb& verb)
 {
     if (!QDir().mkpath(folderOf(outFolder)))
         return tl::make_unexpected(
@@ -73,6 +83,7 @@ drawing::Expected<Journal> Journal::open(const QString& outFolder)
         journal = Journal();
         journal->m_path = QDir(folderOf(outFolder)).filePath(QStringLiteral("journal.jsonl"));
     }
+    journal->m_verb = verb;
     return journal;
 }
 
@@ -101,27 +112,29 @@ void Journal::load(const QByteArray& bytes)
 /// append as they come.
 void Journal::take(const JournalEntry& entry)
 {
-    const auto known = m_newest.find(entry.result.input);
+    const QString key = keyOf(entry.result.input, entry.verb);
+    const auto known = m_newest.find(key);
     if (known == m_newest.end())
-        m_newest.insert(entry.result.input, entry);
+        m_newest.insert(key, entry);
     else if (known->when <= entry.when)
         *known = entry;
 }
 
 const JournalEntry* Journal::find(const QString& input) const
 {
-    const auto known = m_newest.find(input);
+    const auto known = m_newest.find(keyOf(input, m_verb));
     return known == m_newest.end() ? nullptr : &*known;
 }
 
-Results Journal::results() const
+std::vector<JournalEntry> Journal::entries() const
 {
-    Results all;
+    std::vector<JournalEntry> all;
     all.reserve(static_cast<size_t>(m_newest.size()));
     for (const JournalEntry& entry : m_newest)
-        all.push_back(entry.result);
-    std::sort(all.begin(), all.end(), [](const Result& a, const Result& b) {
-        return a.name != b.name ? a.name < b.name : a.input < b.input;
+        all.push_back(entry);
+    std::sort(all.begin(), all.end(), [](const JournalEntry& a, const JournalEntry& b) {
+        return std::tie(a.result.name, a.result.input, a.verb.name) <
+               std::tie(b.result.name, b.result.input, b.verb.name);
     });
     return all;
 }

@@ -7,11 +7,20 @@
 
 namespace layertool {
 
+/// The verb of a run, with its action. Those that change drawings write the same outputs, so the
+/// newest of their results is the one that stands; the others have each a result of its own.
+struct RunVerb
+{
+    QString name;
+    bool edits = false;
+};
+
 /// One line of a journal: a result, and what it was made with.
 struct JournalEntry
 {
     Result result;
-    QByteArray run;  ///< See `runFingerprint`.
+    QByteArray run; ///< See `runFingerprint`.
+    RunVerb verb;
     qint64 when = 0; ///< Milliseconds since 1970, UTC, when the result was whole.
 };
 
@@ -23,14 +32,15 @@ class Journal
 public:
     /// The journal of an output folder; what is there is read. Refuses a folder where none can be
     /// written.
-    static drawing::Expected<Journal> open(const QString& outFolder);
+    static drawing::Expected<Journal> open(const QString& outFolder, const RunVerb& verb);
     /// The same for reading alone. Refuses a folder without a journal.
     static drawing::Expected<Journal> read(const QString& outFolder);
 
-    /// The newest entry for an input; null when there is none.
+    const RunVerb& verb() const { return m_verb; }
+    /// The newest entry of the run's verb for an input; null when there is none.
     const JournalEntry* find(const QString& input) const;
-    /// The newest entry for each input, in the order of their names.
-    Results results() const;
+    /// The newest entries for each input, in the order of their names.
+    std::vector<JournalEntry> entries() const;
     /// Whether the journal proves that `job` was done: the input, the run and the output it tells
     /// of are, by their hashes, those of today.
     bool proves(const Job& job, const QByteArray& run) const;
@@ -43,7 +53,8 @@ private:
     void take(const JournalEntry& entry);
 
     QString m_path;
-    QHash<QString, JournalEntry> m_newest; ///< By input.
+    RunVerb m_verb;
+    QHash<QString, JournalEntry> m_newest; ///< By input and verb, see `keyOf`.
 };
 
 } // namespace layertool

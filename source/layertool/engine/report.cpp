@@ -19,11 +19,11 @@ QString joined(const QJsonArray& notices, const char* key, const char* separator
     return parts.join(QLatin1String(separator));
 }
 
-QStringList countWords(const Results& results)
+QStringList countWords(const std::vector<ReportRow>& rows)
 {
     QSet<QString> words;
-    for (const Result& result : results) {
-        for (const QString& word : result.counts.keys())
+    for (const ReportRow& row : rows) {
+        for (const QString& word : row.result.counts.keys())
             words.insert(word);
     }
     QStringList sorted = words.values();
@@ -67,19 +67,20 @@ QStringList Totals::lines() const
     return all;
 }
 
-QByteArray reportCsv(const Results& results)
+QByteArray reportCsv(const std::vector<ReportRow>& rows)
 {
-    const QStringList words = countWords(results);
-    QByteArray bytes =
-        csv::row(QStringList{QStringLiteral("drawing"), QStringLiteral("input"),
-                     QStringLiteral("output"), QStringLiteral("status"), QStringLiteral("changed"),
-                     QStringLiteral("found"), QStringLiteral("error"), QStringLiteral("text"),
-                     QStringLiteral("notice-ids"), QStringLiteral("notices")} +
-                 words);
-    for (const Result& result : results) {
-        QStringList row{result.name, result.input, result.output, statusWord(result.status),
-            flag(result.changed), flag(result.found), result.error, result.text,
-            joined(result.notices, "id", " "), joined(result.notices, "text", "\n")};
+    const QStringList words = countWords(rows);
+    QByteArray bytes = csv::row(
+        QStringList{QStringLiteral("drawing"), QStringLiteral("verb"), QStringLiteral("input"),
+            QStringLiteral("output"), QStringLiteral("status"), QStringLiteral("changed"),
+            QStringLiteral("found"), QStringLiteral("error"), QStringLiteral("text"),
+            QStringLiteral("notice-ids"), QStringLiteral("notices")} +
+        words);
+    for (const ReportRow& one : rows) {
+        const Result& result = one.result;
+        QStringList row{result.name, one.verb, result.input, result.output,
+            statusWord(result.status), flag(result.changed), flag(result.found), result.error,
+            result.text, joined(result.notices, "id", " "), joined(result.notices, "text", "\n")};
         for (const QString& word : words)
             row += result.counts.contains(word)
                        ? QString::number(result.counts.value(word).toDouble(), 'g', 15)
@@ -89,9 +90,9 @@ QByteArray reportCsv(const Results& results)
     return bytes;
 }
 
-drawing::Expected<void> writeReport(const QString& path, const Results& results)
+drawing::Expected<void> writeReport(const QString& path, const std::vector<ReportRow>& rows)
 {
-    const QByteArray bytes = csv::kByteOrderMark + reportCsv(results);
+    const QByteArray bytes = csv::kByteOrderMark + reportCsv(rows);
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return {};

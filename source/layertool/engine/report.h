@@ -24,12 +24,19 @@ struct Totals
     QStringList lines() const;
 };
 
+/// A result, and the verb that it is of.
+struct ReportRow
+{
+    QString verb;
+    const Result& result;
+};
+
 /// Writes a CSV file (UTF-8, with a mark for spreadsheets), a row a drawing: what became of it, its
 /// counts, and the identifiers and sentences of its notices. Replaces the file when it is whole;
 /// refuses with a sentence.
-drawing::Expected<void> writeReport(const QString& path, const Results& results);
+drawing::Expected<void> writeReport(const QString& path, const std::vector<ReportRow>& rows);
 
 /// The report's bytes, with no mark in front.
-QByteArray reportCsv(const Results& results);
+QByteArray reportCsv(const std::vector<ReportRow>& rows);
 
 } // namespace layertool

@@ -39,6 +39,12 @@ QString formatOf(const Arguments& arguments, const VerbRow& row)
         "format", QString::fromLatin1(row.formats).section(QLatin1Char(' '), 0, 0));
 }
 
+RunVerb runVerbOf(const VerbRow& row, const Arguments& arguments)
+{
+    const QString name = (arguments.verb + QLatin1Char(' ') + arguments.action).trimmed();
+    return {name, editsDrawings(row, arguments)};
+}
+
 /// Where results are printed: standard output, or a file that replaces the one before when whole.
 class Sink
 {
@@ -59,6 +65,12 @@ public:
             Error{Texts::tr("无法写入“%1”：%2。").arg(m_path, device().errorString())});
     }
     bool isFile() const { return !m_path.isEmpty(); }
+    /// Whoever reads along sees what there is so far.
+    void showNow()
+    {
+        if (!isFile())
+            m_stdout.flush();
+    }
 
 private:
     QString m_path;
@@ -89,6 +101,7 @@ private:
     void take(const Result& result);
     void printReady();
     void record(const Result& result);
+    void removeOutdated(const Result& result) const;
     int finish();
     BatchLimits limits() const;
 
@@ -176,7 +189,7 @@ Expected<void> Run::openJournal()
     if (!lock)
         return tl::make_unexpected(lock.error());
     m_lock = std::move(*lock);
-    auto journal = Journal::open(out);
+    auto journal = Journal::open(out, runVerbOf(m_row, m_arguments));
     if (!journal)
         return tl::make_unexpected(journal.error());
     m_journal = std::move(*journal);
@@ -208,7 +221,7 @@ void Run::skipProven()
     if (!m_journal || m_arguments.isSet("force"))
         return;
     const auto isProven = [this](const Job& job) {
-        if (!m_journal->proves(job, m_fingerprint))
+        if (Interruption::signalNumber() != 0 || !m_journal->proves(job, m_fingerprint))
             return false;
         Result result = m_journal->find(job.input)->result;
         result.number = job.number;
@@ -224,10 +237,26 @@ void Run::record(const Result& result)
     if (!m_journal || result.status == Result::Status::Skipped ||
         result.status == Result::Status::Cancelled)
         return;
-    const JournalEntry entry{
-        result, m_fingerprint, QDateTime::currentDateTimeUtc().toMSecsSinceEpoch()};
+    const JournalEntry entry{result, m_fingerprint, m_journal->verb(),
+        QDateTime::currentDateTimeUtc().toMSecsSinceEpoch()};
+    removeOutdated(result);
     if (const auto written = m_journal->append(entry); !written && m_journalFault.isEmpty())
         m_journalFault = written.error().text;
+}
+
+/// What an earlier run wrote for a drawing, and this one does not, would pass for a part of its
+/// result; it goes unless somebody changed it since.
+void Run::removeOutdated(const Result& result) const
+{
+    const JournalEntry* const earlier = m_journal->find(result.input);
+    if (!earlier || result.status != Result::Status::Done)
+        return;
+    for (const WrittenFile& file : earlier->result.written) {
+        const bool isWritten = std::any_of(result.written.begin(), result.written.end(),
+            [&file](const WrittenFile& now) { return now.path == file.path; });
+        if (!isWritten && stampOf(file.path) == file.stamp)
+            QFile::remove(file.path);
+    }
 }
 
 void Run::take(const Result& result)
@@ -251,6 +280,7 @@ void Run::printReady()
         if (result.status == Result::Status::Failed)
             complainOf(Texts::tr("图形“%1”失败：%2").arg(result.input, result.text));
     }
+    m_sink->showNow();
 }
 
 BatchLimits Run::limits() const
@@ -258,6 +288,7 @@ BatchLimits Run::limits() const
     BatchLimits limits;
     limits.processes = std::max(1, m_arguments.number("jobs", QThread::idealThreadCount()));
     limits.seconds = m_arguments.number("time-limit", 0);
+    limits.megabytes = m_arguments.number("memory-limit", 0);
     limits.failsFast = m_arguments.isSet("fail-fast");
     return limits;
 }
@@ -267,10 +298,10 @@ int Run::execute()
     for (const Job& job : m_jobs)
         m_results.push_back(Result(job));
     m_isHere.resize(m_jobs.size());
+    const Interruption interruption;
     m_printer->begin();
     skipProven();
     Batch batch(m_arguments, limits());
-    const Interruption interruption;
     QObject::connect(&interruption, &Interruption::interrupted, &batch, &Batch::interrupt);
     batch.run(m_jobs, [this](const Result& result) { take(result); });
     m_progress.clear();
@@ -289,7 +320,10 @@ int Run::finish()
     if (!m_journalFault.isEmpty())
         return fail(kFound, m_journalFault);
     if (m_arguments.isSet("report")) {
-        if (const auto written = writeReport(m_arguments.value("report"), m_results); !written)
+        std::vector<ReportRow> rows;
+        for (const Result& result : m_results)
+            rows.push_back({runVerbOf(m_row, m_arguments).name, result});
+        if (const auto written = writeReport(m_arguments.value("report"), rows); !written)
             return fail(kFound, written.error().text);
     }
     if (Interruption::signalNumber() != 0)
@@ -315,22 +349,25 @@ int runReport(const Arguments& arguments)
     const auto journal = Journal::read(arguments.paths.front());
     if (!journal)
         return fail(kMisuse, journal.error().text);
-    const Results results = journal->results();
+    const std::vector<JournalEntry> entries = journal->entries();
     Totals totals;
-    for (const Result& result : results)
-        totals.add(result);
+    std::vector<ReportRow> rows;
+    for (const JournalEntry& entry : entries) {
+        totals.add(entry.result);
+        rows.push_back({entry.verb.name, entry.result});
+    }
     if (arguments.isSet("output")) {
-        if (const auto written = writeReport(arguments.value("output"), results); !written)
+        if (const auto written = writeReport(arguments.value("output"), rows); !written)
             return fail(kFound, written.error().text);
     } else {
-        const QByteArray bytes = reportCsv(results);
+        const QByteArray bytes = reportCsv(rows);
         std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
     }
     if (!arguments.isSet("quiet")) {
         for (const QString& line : totals.lines())
             complain(line);
     }
-    return totals.isComplete() ? kFine : kFound;
+    return totals.isComplete() && totals.found == 0 ? kFine : kFound;
 }
 
 } // namespace layertool

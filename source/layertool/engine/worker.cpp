@@ -13,8 +13,13 @@
 #include <QJsonDocument>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <exception>
+#include <new>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 
 namespace layertool {
@@ -23,9 +28,29 @@ namespace {
 
 using drawing::Drawing;
 
+[[noreturn]] void endOutOfMemory()
+{
+    std::_Exit(kOutOfMemoryExit);
+}
+
+/// Where an exception finds nobody to catch it, as in functions that throw none.
+void endForException()
+{
+    try {
+        if (const std::exception_ptr thrown = std::current_exception())
+            std::rethrow_exception(thrown);
+    } catch (const std::bad_alloc&) {
+        endOutOfMemory();
+    } catch (...) {
+    }
+    std::abort();
+}
+
 /// A process over the limit is refused memory and ends; what it was at is lost, nothing else.
 void limitMemory(int megabytes)
 {
+    std::set_new_handler(endOutOfMemory);
+    std::set_terminate(endForException);
     if (megabytes <= 0)
         return;
     const auto bytes = static_cast<rlim_t>(megabytes) * 1024 * 1024;
@@ -47,9 +72,11 @@ Expected<void> moveInto(const StagedFile& file)
 Expected<void> keepBackup(const QString& path)
 {
     const QString backup = path + QStringLiteral(".bak");
-    QFile::remove(backup);
-    if (QFile::copy(path, backup))
+    const QString fresh = backup + QStringLiteral("-new");
+    QFile::remove(fresh);
+    if (QFile::copy(path, fresh) && moveInto({fresh, backup}))
         return {};
+    QFile::remove(fresh);
     return tl::make_unexpected(
         Error{Texts::tr("无法把原图形留为“%1”，图形没有改动。").arg(backup)});
 }
@@ -66,7 +93,7 @@ public:
 
 private:
     void answer(const Job& job, Result& result);
-    void proveResult(const Job& job, Result& result) const;
+    bool isAsRead(const Job& job, const Result& result) const;
     Expected<void> write(Drawing& drawing, const Job& job, Result& result);
 
     const Arguments& m_arguments;
@@ -86,26 +113,22 @@ Result Worker::run(const Job& job)
     QElapsedTimer clock;
     clock.start();
     Result result(job);
-    if (job.isProven) {
+    if (job.isStamped()) {
         result.inputStamp = stampOf(job.input);
         result.otherStamp = job.other.isEmpty() ? FileStamp() : stampOf(job.other);
     }
     answer(job, result);
-    if (job.isProven && result.status == Result::Status::Done)
-        proveResult(job, result);
     result.seconds = static_cast<double>(clock.elapsed()) / 1000;
     return result;
 }
 
-/// A drawing that somebody saved while it was read is not what the stamp says.
-void Worker::proveResult(const Job& job, Result& result) const
+/// A drawing that somebody saved while it was read is not what the stamp says, and must not be
+/// replaced in its place.
+bool Worker::isAsRead(const Job& job, const Result& result) const
 {
-    if (job.output != job.input && !(stampOf(job.input) == result.inputStamp)) {
-        result.fail(errorid::kChanged, Texts::tr("图形在处理期间被改动，请重做。"));
-        return;
-    }
-    for (WrittenFile& file : result.written)
-        file.stamp = stampOf(file.path);
+    return !job.isStamped() ||
+           (stampOf(job.input) == result.inputStamp &&
+               (job.other.isEmpty() || stampOf(job.other) == result.otherStamp));
 }
 
 void Worker::answer(const Job& job, Result& result)
@@ -115,6 +138,11 @@ void Worker::answer(const Job& job, Result& result)
         if (error.cancelled)
             result.status = Result::Status::Cancelled;
     };
+    // Files are mapped, which the limit counts, too.
+    const qint64 limit = m_arguments.number("memory-limit", 0);
+    if (limit > 0 && QFileInfo(job.input).size() >= limit * 1024 * 1024)
+        return result.fail(
+            errorid::kMemory, Texts::tr("处理它所需的内存超过了 %1 MB，已放弃。").arg(limit));
     const auto opened = openDrawing(job.input, m_arguments, m_progress);
     if (!opened)
         return refuse(errorid::kDrawing, opened.error());
@@ -131,10 +159,15 @@ void Worker::answer(const Job& job, Result& result)
     result.notes("drawing", drawing.takeNotices());
     // In place, what did not change is left alone; elsewhere the tree of outputs is to be whole.
     const bool writes = !job.output.isEmpty() && (result.changed || job.output != job.input);
+    const auto refuseChanged = [&result] {
+        result.fail(errorid::kChanged, Texts::tr("图形在处理期间被改动，请重做。"));
+    };
+    if (!isAsRead(job, result))
+        return refuseChanged();
     if (!writes) {
         result.output.clear();
     } else if (const auto written = write(drawing, job, result); !written) {
-        return refuse(errorid::kWrite, written.error());
+        return isAsRead(job, result) ? refuse(errorid::kWrite, written.error()) : refuseChanged();
     }
     result.status = Result::Status::Done;
 }
@@ -148,11 +181,14 @@ Expected<void> Worker::write(Drawing& drawing, const Job& job, Result& result)
             return kept;
     }
     auto done = m_verb->write(drawing, job, m_progress, result);
+    if (done && !result.staged.empty() && !isAsRead(job, result))
+        done = tl::make_unexpected(Error{Texts::tr("图形在处理期间被改动，请重做。")});
     for (const StagedFile& file : result.staged) {
         if (done && QFile::exists(file.from)) {
             QDir().mkpath(QFileInfo(file.to).path());
+            const FileStamp stamp = stampOf(file.from);
             done = moveInto(file);
-            result.written.push_back({file.to, {}});
+            result.written.push_back({file.to, stamp});
         }
         QFile::remove(file.from);
     }
@@ -163,6 +199,8 @@ Expected<void> Worker::write(Drawing& drawing, const Job& job, Result& result)
 
 int runWorker()
 {
+    // What a killed run was at must not come into its place behind the back of the next one.
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     QFile in;
     QFile out;
     if (!in.open(stdin, QIODevice::ReadOnly) || !out.open(stdout, QIODevice::WriteOnly))

@@ -95,8 +95,9 @@ void Parser::endRow()
 {
     m_row += m_field;
     m_field.clear();
-    if (std::any_of(m_row.begin(), m_row.end(), [](const QString& f) { return !f.isEmpty(); }))
-        m_rows.push_back(m_row);
+    const bool isBlank =
+        std::all_of(m_row.begin(), m_row.end(), [](const QString& f) { return f.isEmpty(); });
+    m_rows.push_back(isBlank ? QStringList() : m_row);
     m_row.clear();
 }
 

@@ -20,7 +20,8 @@ QByteArray row(const QStringList& fields);
 
 /// Takes a table apart, whoever wrote it: with a mark in front, separated by commas, semicolons or
 /// tabs (the one that the first row holds most of), in UTF-8, UTF-16 with a mark, or GBK. Rows
-/// without any field are left out. Refuses a quote that is never closed, naming its line.
+/// without any text are empty lists, so that places are those a spreadsheet shows. Refuses a quote
+/// that is never closed, naming its line.
 drawing::Expected<std::vector<QStringList>> parse(const QByteArray& bytes);
 
 /// The table in a file. Refuses one that cannot be read.

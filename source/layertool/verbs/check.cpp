@@ -125,18 +125,27 @@ private:
         Mend mend;
     };
     static const MendRow kMends[];
+    static QString mendKey(const QString& property, const QString& layer)
+    {
+        return property + QLatin1Char('\n') + vnsi::foldedName(layer);
+    }
 
+    Expected<int> mendMissing(
+        Drawing& drawing, const std::vector<Finding>& findings, Result& result);
     Expected<int> mendNames(Drawing& drawing, const std::vector<Finding>& findings, Result& result);
     Expected<int> mendProperties(
         Drawing& drawing, const std::vector<Finding>& findings, Result& result);
     Expected<int> mendOwn(Drawing& drawing, const std::vector<Finding>& findings, Result& result);
     Expected<int> mendUnused(
         Drawing& drawing, const std::vector<Finding>& findings, Result& result);
+
+    QSet<QString> m_mended; ///< Properties that a layer's entities have from it now, see `mendKey`.
 };
 
 // In this order: a layer that has its standard's name has its standard's properties then.
 const FixVerb::MendRow FixVerb::kMends[] = {
     {"layer-renamed", "renamed", &FixVerb::mendNames},
+    {"layer-required", "layers-made", &FixVerb::mendMissing},
     {"layer-property", "properties-set", &FixVerb::mendProperties},
     {"entity-", "layers-by-layer", &FixVerb::mendOwn},
     {"layer-unused", "layers-removed", &FixVerb::mendUnused},
@@ -168,6 +177,25 @@ Expected<int> FixVerb::mendNames(
         if (one.outcome == Renamed::Outcome::Refused)
             result.note("rename-refused",
                 Texts::tr("“%1”没有改名为“%2”：%3").arg(one.from, one.to, one.cause));
+    }
+    return count;
+}
+
+/// Makes the layers that are required and that the standard describes; their properties follow.
+Expected<int> FixVerb::mendMissing(
+    Drawing& drawing, const std::vector<Finding>& findings, Result& result)
+{
+    int count = 0;
+    for (const Finding& finding : findings) {
+        const auto standard = m_rules.layers.constFind(vnsi::foldedName(finding.layer));
+        if (standard == m_rules.layers.constEnd())
+            continue;
+        drawing::LayerProperties properties;
+        properties.name = standard->name;
+        const auto added = drawing.addLayer(properties);
+        count += added ? 1 : 0;
+        if (!added)
+            result.note("layer-refused", added.error().text);
     }
     return count;
 }
@@ -208,6 +236,7 @@ Expected<int> FixVerb::mendOwn(
     } kOptionRows[] = {
         {"color", &drawing::TranslationOptions::colorByLayer},
         {"linetype", &drawing::TranslationOptions::linetypeByLayer},
+        {"lineweight", &drawing::TranslationOptions::lineweightByLayer},
         {"transparency", &drawing::TranslationOptions::transparencyByLayer},
     };
     const std::vector<drawing::TargetLayer> targets = drawing::targetLayers(drawing);
@@ -231,6 +260,12 @@ Expected<int> FixVerb::mendOwn(
         const auto report = drawing::translateLayers(drawing, mappings, options);
         if (!report)
             return tl::make_unexpected(report.error());
+        for (const drawing::MappingResult& mapping : report->mappings) {
+            if (mapping.isApplied())
+                m_mended.insert(mendKey(row.property, mapping.to));
+            else
+                result.note("by-layer-refused", mapping.cause);
+        }
         result.notes("by-layer", report->notices);
         count += report->appliedCount();
     }
@@ -251,6 +286,7 @@ Expected<int> FixVerb::mendUnused(Drawing& drawing, const std::vector<Finding>& 
 
 Expected<void> FixVerb::run(Drawing& drawing, const Job&, Result& result)
 {
+    m_mended.clear();
     for (const MendRow& row : kMends) {
         const auto findings = findingsOf(checkDrawing(drawing, m_rules), row.rule);
         const auto count = (this->*row.mend)(drawing, findings, result);
@@ -258,7 +294,15 @@ Expected<void> FixVerb::run(Drawing& drawing, const Job&, Result& result)
             return tl::make_unexpected(count.error());
         result.counts.insert(QLatin1String(row.count), *count);
     }
-    addAll(checkDrawing(drawing, m_rules), drawing, result);
+    // Entities' tags tell what they had when the drawing was opened.
+    std::vector<Finding> left = checkDrawing(drawing, m_rules);
+    left.erase(std::remove_if(left.begin(), left.end(),
+                   [this](const Finding& finding) {
+                       return QLatin1String(finding.rule).startsWith(QLatin1String("entity-")) &&
+                              m_mended.contains(mendKey(finding.property, finding.layer));
+                   }),
+        left.end());
+    addAll(left, drawing, result);
     return {};
 }
 

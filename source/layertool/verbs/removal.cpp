@@ -97,6 +97,8 @@ Expected<void> RemovalVerb::run(Drawing& drawing, const Job&, Result& result)
                 cause.isEmpty() ? QStringLiteral("removed") : QStringLiteral("kept")},
             {QStringLiteral("cause"), cause}});
         if (!cause.isEmpty()) {
+            // A pattern may well mean layers that stay; one that was named was to go.
+            result.found = result.found || m_choice.names(layer.properties.name);
             result.note(
                 "layer-kept", Texts::tr("图层“%1”保留：%2").arg(layer.properties.name, cause));
             continue;

@@ -50,6 +50,7 @@ private:
     std::vector<Renaming> renamingsIn(const Drawing& drawing) const;
 
     QHash<QString, QString> m_names; ///< New ones by the old ones in lower case.
+    QString m_from;                  ///< The one name given, where it is but one.
     QRegularExpression m_regex;
     QString m_replacement;
     bool m_merges = false;
@@ -62,7 +63,7 @@ Expected<void> RenameVerb::readTable(const QString& path)
         return tl::make_unexpected(rows.error());
     for (size_t i = 0; i < rows->size(); ++i) {
         const QStringList& row = (*rows)[i];
-        if (i == 0 && isHead(row))
+        if (row.isEmpty() || (i == 0 && isHead(row)))
             continue;
         if (row.size() < 2 || row.at(0).isEmpty() || row.at(1).isEmpty())
             return tl::make_unexpected(
@@ -100,7 +101,8 @@ Expected<void> RenameVerb::prepare(const Arguments& arguments)
         return readPattern(arguments);
     if (!arguments.isSet("to"))
         return tl::make_unexpected(Error{Texts::tr("缺少 --to：改成什么名？")});
-    m_names.insert(arguments.value("from").toLower(), arguments.value("to"));
+    m_from = arguments.value("from");
+    m_names.insert(m_from.toLower(), arguments.value("to"));
     return {};
 }
 
@@ -129,6 +131,8 @@ std::vector<Renaming> RenameVerb::renamingsIn(const Drawing& drawing) const
 
 Expected<void> RenameVerb::run(Drawing& drawing, const Job&, Result& result)
 {
+    if (!m_from.isEmpty() && !drawing.findLayer(m_from))
+        result.note("no-such-layer", Texts::tr("没有名为“%1”的图层。").arg(m_from));
     const auto renamed = renameLayers(drawing, renamingsIn(drawing), m_merges);
     if (!renamed)
         return tl::make_unexpected(renamed.error());

@@ -6,6 +6,7 @@
 #include "renaming.h"
 #include "texts.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace layertool {
@@ -73,6 +74,7 @@ private:
     QString m_path;
     bool m_merges = false;
     std::vector<TableColumn> m_columns;
+    QStringList m_unknownColumns;
     int m_drawingColumn = -1;
     int m_nameColumn = -1;
     int m_newNameColumn = -1;
@@ -82,8 +84,23 @@ private:
     QHash<int, TableRow> m_renamingRows; ///< By the layers' ids.
 };
 
+/// The layer of just that name, or else one that differs in letter case: broken drawings have both.
+const Layer* layerCalled(const Drawing& drawing, const QString& name)
+{
+    const Layer* const found = drawing.findLayer(name);
+    if (!found || found->properties.name == name)
+        return found;
+    const auto& layers = drawing.layers();
+    const auto exact = std::find_if(layers.begin(), layers.end(),
+        [&name](const Layer& layer) { return layer.properties.name == name; });
+    return exact == layers.end() ? found : &*exact;
+}
+
 Expected<void> SetVerb::readHead(const QStringList& head)
 {
+    // What `list` tells besides, and nobody can set.
+    static const QStringList kListed{QStringLiteral("current"), QStringLiteral("model"),
+        QStringLiteral("layouts"), QStringLiteral("blocks"), QStringLiteral("used-in-blocks")};
     for (int i = 0; i < head.size(); ++i) {
         const QString name = head.at(i).trimmed();
         TableColumn column{name, nullptr};
@@ -99,6 +116,10 @@ Expected<void> SetVerb::readHead(const QStringList& head)
             m_newNameColumn = i;
         else if (column.field == &layerFields().front())
             m_nameColumn = i;
+        const bool isKnown = column.field || i == m_drawingColumn || i == m_newNameColumn ||
+                             name.isEmpty() || kListed.contains(word);
+        if (!isKnown)
+            m_unknownColumns += name;
         m_columns.push_back(column);
     }
     if (m_nameColumn < 0)
@@ -115,11 +136,15 @@ Expected<void> SetVerb::prepare(const Arguments& arguments)
     const auto rows = csv::read(m_path);
     if (!rows)
         return tl::make_unexpected(rows.error());
-    if (rows->empty())
+    const auto head = std::find_if(
+        rows->begin(), rows->end(), [](const QStringList& row) { return !row.isEmpty(); });
+    if (head == rows->end())
         return tl::make_unexpected(Error{Texts::tr("表格“%1”是空的。").arg(m_path)});
-    if (auto head = readHead(rows->front()); !head)
-        return head;
-    for (size_t i = 1; i < rows->size(); ++i) {
+    if (auto read = readHead(*head); !read)
+        return read;
+    for (auto i = static_cast<size_t>(head - rows->begin()) + 1; i < rows->size(); ++i) {
+        if ((*rows)[i].isEmpty())
+            continue;
         const TableRow row{static_cast<int>(i) + 1, (*rows)[i]};
         m_rows[m_drawingColumn < 0 ? QString() : row.cells.value(m_drawingColumn)].push_back(row);
     }
@@ -182,7 +207,7 @@ std::optional<LayerProperties> SetVerb::wanted(
 void SetVerb::setRow(Drawing& drawing, const TableRow& row, Result& result)
 {
     const QString name = row.cells.value(m_nameColumn);
-    const Layer* const layer = drawing.findLayer(name);
+    const Layer* const layer = layerCalled(drawing, name);
     LayerProperties fresh;
     fresh.name = name;
     const LayerProperties now = layer ? layer->properties : fresh;
@@ -216,6 +241,11 @@ Expected<void> SetVerb::run(Drawing& drawing, const Job& job, Result& result)
 {
     m_renamings.clear();
     m_renamingRows.clear();
+    for (const QString& column : m_unknownColumns)
+        result.note(
+            "column-unknown", Texts::tr("表格的“%1”一列不是图层的特性，没有使用。").arg(column));
+    if (rowsFor(job).empty())
+        result.note("no-rows", Texts::tr("表格中没有这个图形的行。"));
     for (const TableRow& row : rowsFor(job))
         setRow(drawing, row, result);
     const auto renamed = renameLayers(drawing, m_renamings, m_merges);

@@ -149,6 +149,8 @@ Expected<void> SplitVerb::keepOnly(Drawing& drawing, const QString& part) const
     }
     drawing::LayerProperties properties;
     properties.name = QStringLiteral("SPLIT$OUT");
+    while (drawing.findLayer(properties.name))
+        properties.name += QLatin1Char('$');
     const auto bin = drawing.addLayer(properties);
     if (!bin)
         return tl::make_unexpected(bin.error());

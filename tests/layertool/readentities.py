@@ -18,6 +18,8 @@ def main():
     layers = defaultdict(lambda: dict.fromkeys(KEYS, 0))
     for block in doc.blocks:
         for entity in block:
+            if entity.dxftype() == "VIEWPORT" and entity.dxf.get("id") == 1:
+                continue  # A layout's own: it is not content, and a layout without it is broken.
             counts = layers[entity.dxf.get("layer", "0").lower()]
             counts["layouts" if block.block_record.is_any_layout else "blocks"] += 1
             counts["ownColor"] += entity.dxf.get("color", 256) != 256 or entity.dxf.hasattr("true_color")

@@ -1,0 +1,119 @@
+#pragma once
+
+#include "../drawing/readback.h"
+#include "rows.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QTemporaryDir>
+
+/// What a run of the program gave.
+struct Run
+{
+    int code = -1;
+    QByteArray output;
+    QString error;
+
+    /// What the format "json" tells of a drawing; null when it tells nothing of it.
+    QJsonObject drawing(const QString& name) const
+    {
+        const QJsonObject json = QJsonDocument::fromJson(output).object();
+        for (const QJsonValue& value : json.value("drawings").toArray()) {
+            if (value.toObject().value("name") == name)
+                return value.toObject();
+        }
+        return {};
+    }
+    QJsonArray rows(const QString& name) const { return drawing(name).value("data").toArray(); }
+    /// The one row whose `key` is `value`; null when there is none.
+    QJsonObject row(const QString& name, const char* key, const QString& value) const
+    {
+        for (const QJsonValue& row : rows(name)) {
+            if (row.toObject().value(QLatin1String(key)).toString() == value)
+                return row.toObject();
+        }
+        return {};
+    }
+    /// The words under a key of all drawings, counted.
+    QMap<QString, int> counted(const char* key) const
+    {
+        QMap<QString, int> counts;
+        const QJsonObject json = QJsonDocument::fromJson(output).object();
+        for (const QJsonValue& value : json.value("drawings").toArray())
+            ++counts[value.toObject().value(QLatin1String(key)).toString()];
+        return counts;
+    }
+    QByteArray told() const { return output + error.toUtf8(); }
+};
+
+/// A folder of its own, in which the program runs.
+class ToolFolder
+{
+public:
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    QString write(const QString& name, const QByteArray& bytes) const
+    {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write the fixture");
+        return path(name);
+    }
+    QByteArray read(const QString& name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    }
+    void copy(const char* sample, const QString& name) const
+    {
+        QFile file(QDir(QStringLiteral(SAMPLES_DIR)).filePath(QLatin1String(sample)));
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("no such sample");
+        write(name, file.readAll());
+    }
+    void copies(const char* sample, int count) const
+    {
+        for (int i = 0; i < count; ++i)
+            copy(sample, QStringLiteral("in/%1.dxf").arg(i));
+    }
+    /// Every file below a folder, without what the program keeps for itself, by its name.
+    QMap<QString, QByteArray> tree(const QString& folder) const
+    {
+        QMap<QString, QByteArray> files;
+        QDirIterator walk(path(folder), QDir::Files, QDirIterator::Subdirectories);
+        while (walk.hasNext()) {
+            const QString name = QDir(path(folder)).relativeFilePath(walk.next());
+            files.insert(name, read(folder + '/' + name));
+        }
+        return files;
+    }
+    void prepare(QProcess& process, const QStringList& words, const char* program = LAYERTOOL) const
+    {
+        process.setWorkingDirectory(m_folder.path());
+        process.setProgram(QLatin1String(program));
+        process.setArguments(words);
+    }
+    static Run finished(QProcess& process)
+    {
+        process.waitForFinished(120000);
+        const QByteArray output = process.readAllStandardOutput();
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, output,
+            QString::fromUtf8(process.readAllStandardError())};
+    }
+    Run run(const QStringList& words) const
+    {
+        QProcess process;
+        prepare(process, words);
+        process.start();
+        return finished(process);
+    }
+    /// Words with blanks between them; one within another's quotes cannot be said.
+    Run run(const QByteArray& line) const { return run(words(line)); }
+    static QStringList words(const QByteArray& line)
+    {
+        return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
