@@ -1155,5 +1155,29 @@ See layertool help.
         <source>规则文件“%1”的 extends 又回到它自己。</source>
         <translation>The “extends” of the rule file “%1” leads back to the file itself.</translation>
     </message>
+    <message>
+        <source>“%1”的值不是它应有的种类。</source>
+        <translation>The value of “%1” is not of the kind it should be.</translation>
+    </message>
+    <message>
+        <source>处理它所需的内存超过了 %1 MB，已放弃。</source>
+        <translation>It took more than %1 MB of memory and was given up.</translation>
+    </message>
+    <message>
+        <source>处理它时内存不足，已放弃。</source>
+        <translation>There was not enough memory for it; it was given up.</translation>
+    </message>
+    <message>
+        <source>“%1”与另一个图形的输出同名：请分两次处理，或用 --root 给出它们共同的文件夹。</source>
+        <translation>“%1” would have an output of the same name as another drawing: work on them in two runs, or give the folder they share with --root.</translation>
+    </message>
+    <message>
+        <source>表格的“%1”一列不是图层的特性，没有使用。</source>
+        <translation>The column “%1” of the table is no property of layers and was not used.</translation>
+    </message>
+    <message>
+        <source>表格中没有这个图形的行。</source>
+        <translation>The table has no rows for this drawing.</translation>
+    </message>
 </context>
 </TS>

@@ -225,7 +225,8 @@ void TestEngine::newerLine()
 /// A verb that reads keeps its results beside those of another, and its exit code with them.
 void TestEngine::verbsApart()
 {
-    m->write("rules.json", R"({"forbidden": ["A-WALL"]})");
+    m->write("rules.json", R"({"forbidden": ["A-WALL"], "extends": "base.json"})");
+    m->write("base.json", "{}");
     const char* const check = "check --standard rules.json --out out --format json plan.dxf";
     const Run first = m->run(check);
     QCOMPARE(first.code, 1);
@@ -234,6 +235,9 @@ void TestEngine::verbsApart()
     QCOMPARE(again.code, 1);
     QCOMPARE(again.drawing("plan.dxf").value("status"), "skipped");
     QCOMPARE(again.rows("plan.dxf"), first.rows("plan.dxf"));
+    // What a rule file builds on is a part of it.
+    m->write("base.json", R"({"forbidden": ["A-DOOR"]})");
+    QCOMPARE(m->run(check).drawing("plan.dxf").value("status"), "done");
     QCOMPARE(m->run(QByteArray(kRename) + "plan.dxf").counted("status").firstKey(), "skipped");
     QCOMPARE(m->run("report out").output.count("\r\n"), 3);
 }

@@ -226,6 +226,11 @@ bool NamePatterns::matches(const QString& name) const
         [&wide](const auto& pattern) { return pattern->matches(wide); });
 }
 
+bool isRuleFile(const QString& path)
+{
+    return path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+}
+
 std::optional<Level> levelOf(const QString& word)
 {
     for (const Level level : {Level::Off, Level::Note, Level::Warning, Level::Error}) {
@@ -272,6 +277,22 @@ Expected<void> readStandardDrawing(const QString& path, LayerRules& rules)
 Expected<void> readRuleFile(const QString& path, LayerRules& rules)
 {
     return readChain(path, {}, rules);
+}
+
+QStringList rulesBehind(const QString& path)
+{
+    QStringList known{path};
+    for (int i = 0; i < known.size(); ++i) {
+        const auto json = isRuleFile(known.at(i)) ? jsonOf(known.at(i)) : QJsonObject();
+        if (!json)
+            continue; // It is refused when it is read.
+        for (const QString& base : basesOf(known.at(i), json->value(QLatin1String("extends")))) {
+            const QString place = QDir::cleanPath(base);
+            if (!known.contains(place))
+                known += place;
+        }
+    }
+    return known.mid(1);
 }
 
 } // namespace layertool

@@ -61,8 +61,12 @@ struct LayerRules
 
 /// Reads the layers of a standard drawing into `rules`: each must look so where a drawing has it.
 drawing::Expected<void> readStandardDrawing(const QString& path, LayerRules& rules);
+/// Whether a standard is a rule file, going by its name; others are drawings.
+bool isRuleFile(const QString& path);
 /// Reads a rule file (JSON, see docs/layer-rules.schema.json). Refuses keys and values that make no
 /// sense, naming them.
 drawing::Expected<void> readRuleFile(const QString& path, LayerRules& rules);
+/// The files that a rule file builds on, and those that they do; empty for other files.
+QStringList rulesBehind(const QString& path);
 
 } // namespace layertool

@@ -1,5 +1,6 @@
 #include "fingerprint.h"
 
+#include "check/rulefile.h"
 #include "texts.h"
 
 #include <QJsonArray>
@@ -24,6 +25,8 @@ drawing::Expected<QByteArray> runFingerprint(
                             drawing::Error{Texts::tr("无法读取 --%1 所指的文件“%2”。")
                                                .arg(QLatin1String(row.name), path)});
                     values.append(QString::fromLatin1(stamp.hash));
+                    for (const QString& behind : rulesBehind(path))
+                        values.append(QString::fromLatin1(stampOf(behind).hash));
                 }
             }
             parts.append(QLatin1String(row.name));

@@ -29,6 +29,7 @@ tl::unexpected<Error> inUse(const QString& folder)
 
 /// A killed run keeps its lock until its worker processes have ended, too.
 constexpr int kGraceMilliseconds = 1000;
+constexpr useconds_t kPollMicroseconds = 50000;
 
 /// Worker processes inherit the lock: while one lives, it may still put files into their places.
 int openLock(const QString& folder, const QString& name)
@@ -107,7 +108,7 @@ Expected<void> FolderLock::lockFolder(const QString& folder, const Shard& shard,
         }
         if (!waits && clock.elapsed() > kGraceMilliseconds)
             return inUse(folder);
-        ::usleep(50'000);
+        ::usleep(kPollMicroseconds);
     }
 }
 
@@ -121,7 +122,7 @@ Expected<void> FolderLock::lockShard(const QString& folder, const Shard& shard, 
     while (m_shard < 0 || !lock(m_shard, LOCK_EX, waits)) {
         if (m_shard < 0 || clock.elapsed() > kGraceMilliseconds)
             return inUse(folder);
-        ::usleep(50'000);
+        ::usleep(kPollMicroseconds);
     }
     return {};
 }

@@ -57,9 +57,8 @@ Expected<void> StandardVerb::prepare(const Arguments& arguments)
     if (!arguments.isSet("standard"))
         return tl::make_unexpected(Error{Texts::tr("缺少 --standard：按什么标准检查？")});
     for (const QString& path : arguments.values("standard")) {
-        const bool isRules = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
         const auto read =
-            isRules ? readRuleFile(path, m_rules) : readStandardDrawing(path, m_rules);
+            isRuleFile(path) ? readRuleFile(path, m_rules) : readStandardDrawing(path, m_rules);
         if (!read)
             return read;
     }
