@@ -573,8 +573,6 @@ void TestLaytrans::nobodyToAsk()
     QVERIFY(!m_dialog.window()->isVisible());
 }
 
-Q_DECLARE_METATYPE(RecordingInvoker::Answer)
-
 QTEST_MAIN(TestLaytrans)
 
 #include "tst_laytrans.moc"

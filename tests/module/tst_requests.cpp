@@ -73,7 +73,6 @@ private:
 } // namespace
 
 Q_DECLARE_METATYPE(OdRxObjectPtr)
-Q_DECLARE_METATYPE(RecordingInvoker::Answer)
 
 class TestRequests : public QObject
 {

@@ -3,6 +3,7 @@
 #include "RxObjectImpl.h"
 #include "vndialogs.h"
 
+#include <QMetaType>
 #include <QStringList>
 
 #include <functional>
@@ -33,3 +34,5 @@ private:
     Answer m_answer;
     std::string m_markerKey = "marker";
 };
+
+Q_DECLARE_METATYPE(RecordingInvoker::Answer)
