@@ -151,6 +151,9 @@ void Canvas::render()
         for (std::size_t i = 0; i < m_looks.size(); ++i)
             vertices += m_looks[i].visible ? m_geometry->groups[i].vertices.size() : 0;
         QPainter painter(&m_frame.image);
+        // Only with a rectangular clip are thin lines written pixel by pixel instead of by spans,
+        // which takes a third of the time and paints the same.
+        painter.setClipRect(rect());
         painter.setRenderHint(QPainter::Antialiasing, vertices < kSmoothVertices);
         m_painter.paint(painter, *m_geometry, m_looks, m_view);
     }
