@@ -3,7 +3,7 @@
 #include "codepages.h"
 #include "drawingindexer.h"
 #include "drawingtexts.h"
-#include "layerrecord.h"
+#include "layertablerecord.h"
 #include "symbolname.h"
 #include "wholepart.h"
 

@@ -1,7 +1,7 @@
 #include "layeredits.h"
 
 #include "drawingtexts.h"
-#include "layerrecord.h"
+#include "layertablerecord.h"
 #include "symbolname.h"
 
 #include <algorithm>

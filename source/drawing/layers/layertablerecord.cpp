@@ -1,4 +1,4 @@
-#include "layerrecord.h"
+#include "layertablerecord.h"
 
 #include "colorindex.h"
 #include "owntags.h"
