@@ -1,7 +1,7 @@
 #include "layerrecords.h"
 
 #include "groupcode.h"
-#include "layerrecord.h"
+#include "layertablerecord.h"
 
 namespace drawing {
 
