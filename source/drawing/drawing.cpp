@@ -166,6 +166,13 @@ TagReader Drawing::tags(const Entity& entity) const
     return d->data.file.tags(entity.range());
 }
 
+TagReader Drawing::headerTags() const
+{
+    const DrawingFile& file = d->data.file;
+    const FileIndex& index = file.index();
+    return file.tags({index.firstSection, std::max(index.firstSection, index.headerEnd)});
+}
+
 QString Drawing::decoded(std::string_view value) const
 {
     return d->data.file.decoded(value);

@@ -102,6 +102,8 @@ public:
     const Block* findBlock(const QString& name) const; ///< Without regard to letter case.
     /// The tags of an entity as they stand in the file read; valid as long as the drawing is open.
     TagReader tags(const Entity& entity) const;
+    /// The tags of the HEADER section as they stand in the file read.
+    TagReader headerTags() const;
     /// Text of a value in the file's code page, escapes resolved.
     QString decoded(std::string_view value) const;
     const TextCodec& codec() const; ///< Of the file's text.

@@ -78,6 +78,8 @@ const MainWindow::ActionRow MainWindow::kActions[] = {
         ActionRow::View, &MainWindow::zoomToExtents},
     {"BACKGROUND", QT_TR_NOOP("白底(&B)"), "background", QKeySequence::UnknownKey, ActionRow::View,
         &MainWindow::toggleBackground},
+    {"LWDISPLAY", QT_TR_NOOP("显示线宽(&W)"), nullptr, QKeySequence::UnknownKey, ActionRow::View,
+        &MainWindow::toggleLineweights},
     {"ABOUT", QT_TR_NOOP("关于(&A)..."), nullptr, QKeySequence::UnknownKey, ActionRow::Help,
         &MainWindow::about},
 };
@@ -138,6 +140,8 @@ void MainWindow::createActions()
     bar->insertSeparator(action("UNDO"));
     bar->insertSeparator(action("ZOOM"));
     action("BACKGROUND")->setCheckable(true);
+    action("LWDISPLAY")->setCheckable(true);
+    m_status->addSwitch(action("LWDISPLAY"), tr("线宽"));
 }
 
 void MainWindow::createCommandLine()
@@ -211,6 +215,7 @@ void MainWindow::showDrawing(const std::shared_ptr<const drawing::Geometry>& geo
     connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
     m_canvas->clearSelection();
     m_canvas->setScene(geometry);
+    m_canvas->setShowsLineweights(geometry->switches.showsLineweights);
     m_shownSpace = shownSpace();
     showLayers();
     m_canvas->zoomToExtents();
@@ -244,6 +249,8 @@ void MainWindow::showLayers()
         rebuildGeometry();
         return;
     }
+    // A linetype may have been loaded since.
+    m_canvas->setLinetypes(std::make_shared<const drawing::LinetypePatterns>(*drawing()));
     m_canvas->setLayers(drawing()->layers());
     m_status->showLayers(drawing());
     updateState();
@@ -418,6 +425,12 @@ void MainWindow::toggleBackground()
     updateState();
 }
 
+void MainWindow::toggleLineweights()
+{
+    m_canvas->setShowsLineweights(!m_canvas->showsLineweights());
+    updateState();
+}
+
 void MainWindow::about()
 {
     messages::showAbout(this);
@@ -447,6 +460,7 @@ void MainWindow::updateState()
         canRedo ? tr("重做 %1(&R)").arg(drawing()->redoName()) : tr("重做(&R)"));
     action("ZOOM")->setEnabled(drawing() != nullptr);
     action("BACKGROUND")->setChecked(!m_canvas->isDark());
+    action("LWDISPLAY")->setChecked(m_canvas->showsLineweights());
     for (const CommandRow& row : CommandTable())
         action(row.name)->setEnabled(idle);
     if (m_session->isBusy())

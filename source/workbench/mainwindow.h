@@ -61,6 +61,7 @@ private:
     void redo();
     void zoomToExtents();
     void toggleBackground();
+    void toggleLineweights();
     void about();
 
     QString askForFile();

@@ -47,6 +47,17 @@ QToolButton* StatusFields::makeSpaceSwitch()
     return button;
 }
 
+void StatusFields::addSwitch(QAction* action, const QString& title)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(action->objectName() + QStringLiteral("Switch"));
+    button->setDefaultAction(action);
+    button->setText(title);
+    button->setAutoRaise(true);
+    insertPermanentWidget(2, button); // Behind what tells of long work.
+    connect(action, &QAction::changed, button, [button, title] { button->setText(title); });
+}
+
 void StatusFields::showSpaces(const drawing::Drawing* drawing)
 {
     m_spaces->clear();

@@ -21,6 +21,8 @@ public:
 
     explicit StatusFields(QWidget* parent = nullptr);
 
+    /// A button for a switch of the window, with a short title of its own.
+    void addSwitch(QAction* action, const QString& title);
     void showLayers(const drawing::Drawing* drawing); ///< Null: no drawing is open.
     void showSelection(int count);                    ///< Of entities; 0 shows nothing.
     void showCursor(const QPointF& point);

@@ -285,7 +285,7 @@ private slots:
         QCOMPARE(geometry.groups.size(), std::size_t(1));
         const GeometryGroup& group = geometry.groups.front();
         const auto name = [&](LayerId id) { return drawing->layer(id)->properties.name; };
-        const GeometryColor& color = group.color;
+        const GeometryColor& color = group.style.color;
         const QString colorText =
             color.source == GeometryColor::Source::Layer
                 ? QStringLiteral("by ") + name(static_cast<LayerId>(color.value))

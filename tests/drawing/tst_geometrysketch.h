@@ -15,6 +15,12 @@ public:
     /// Layers besides "0": each "name code value code value ...".
     QByteArray layers = "A 62 1;B 62 5";
     QByteArray blocks;
+    QByteArray header; ///< Variables: "9 $LTSCALE 40 2".
+    /// "DASHED" draws 6 units and leaves out 4; what is added stands behind it.
+    QByteArray linetypes = kDashed;
+    QByteArray objects;
+
+    static constexpr char kDashed[] = "0 LTYPE 2 DASHED 70 0 3 x 72 65 73 2 40 10 49 6 49 -4 ";
 
     QString write(const QByteArray& entities, const QString& name = QStringLiteral("sketch.dxf"))
     {
@@ -22,14 +28,19 @@ public:
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly))
             return {};
-        file.write("0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1021\n0\nENDSEC\n"
-                   "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n9\n");
+        file.write("0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1021\n");
+        writeTags(file, header);
+        file.write("0\nENDSEC\n0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLTYPE\n70\n9\n");
+        writeTags(file, linetypes);
+        file.write("0\nENDTAB\n0\nTABLE\n2\nLAYER\n70\n9\n");
         for (const QByteArray& layer : ("0 62 7;" + layers).split(';'))
             writeLayer(file, layer.split(' '));
         file.write("0\nENDTAB\n0\nENDSEC\n0\nSECTION\n2\nBLOCKS\n");
         writeTags(file, blocks);
         file.write("0\nENDSEC\n0\nSECTION\n2\nENTITIES\n");
         writeTags(file, entities);
+        file.write("0\nENDSEC\n0\nSECTION\n2\nOBJECTS\n");
+        writeTags(file, objects);
         file.write("0\nENDSEC\n0\nEOF\n");
         return path;
     }
@@ -45,7 +56,9 @@ public:
 private:
     static void writeLayer(QFile& file, const QList<QByteArray>& words)
     {
-        file.write("0\nLAYER\n2\n" + words[0] + "\n70\n0\n6\nContinuous\n");
+        file.write("0\nLAYER\n2\n" + words[0] + "\n70\n0\n");
+        if (!words.contains("6"))
+            file.write("6\nContinuous\n");
         for (int i = 1; i + 1 < words.size(); i += 2)
             file.write(words[i] + "\n" + words[i + 1] + "\n");
     }

@@ -385,7 +385,7 @@ void TestTranslation::colorFollowsOnTheCanvas()
     const auto drawing = opened(site.bytes());
     const auto isByLayer = [&drawing] {
         const auto geometry = buildGeometry(*drawing);
-        return geometry->groups.at(0).color.source == GeometryColor::Source::Layer;
+        return geometry->groups.at(0).style.color.source == GeometryColor::Source::Layer;
     };
     QVERIFY(!isByLayer());
     TranslationOptions options;

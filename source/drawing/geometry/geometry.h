@@ -2,27 +2,19 @@
 
 #include "error.h"
 #include "geometrymath.h"
-#include "layer.h"
+#include "geometrystyle.h"
+#include "linetypepattern.h"
+#include "pictureswitches.h"
 
 #include <QString>
 
+#include <memory>
 #include <vector>
 
 namespace drawing {
 
 class Drawing;
 struct Progress;
-
-/// Where the colour of something drawn comes from; ByBlock is resolved by then.
-struct GeometryColor
-{
-    enum class Source : quint8 { Layer, Index, True };
-
-    Source source = Source::Layer;
-    quint32 value = 0; ///< A layer's id, a colour index 1..255, or 0x00RRGGBB.
-};
-
-bool operator==(const GeometryColor& a, const GeometryColor& b);
 
 /// A run of a group's vertices that belong together. A vertex of NaN begins a new part.
 struct Primitive
@@ -33,7 +25,10 @@ struct Primitive
     quint32 count = 0;
     int entity = -1;      ///< Index into `Drawing::entities()` of what was drawn in model space.
     quint32 sequence = 0; ///< Order of drawing among all groups.
-    Shape shape = Shape::Lines; ///< Fills are even-odd.
+    Shape shape = Shape::Lines;   ///< Fills are even-odd.
+    bool patternRestarts = false; ///< The linetype begins anew at each vertex.
+    float linetypeScale = 1;      ///< The entity's own, and that of the blocks around it.
+    float width = 0;              ///< Of lines, in drawing units; 0 = by the lineweight.
     Box bounds;
 };
 
@@ -54,12 +49,12 @@ struct TextRun
     Box bounds; ///< Estimated.
 };
 
-/// Everything that is shown, hidden and coloured as one.
+/// Everything that is shown, hidden and styled as one.
 struct GeometryGroup
 {
     LayerId layer = LayerId::None;
     int owners = 0; ///< Index into `Geometry::owners`.
-    GeometryColor color;
+    GeometryStyle style;
     std::vector<QPointF> vertices;
     std::vector<Primitive> primitives;
     std::vector<TextRun> texts;
@@ -67,13 +62,15 @@ struct GeometryGroup
     Box bounds;
 };
 
-/// A drawing's model space, flattened and grouped by what decides on visibility and colour.
+/// A space of a drawing, flattened and grouped by what decides on visibility and style.
 struct Geometry
 {
     std::vector<GeometryGroup> groups;
     /// Layers of the block references around a group: one of them frozen hides the group.
     std::vector<std::vector<LayerId>> owners;
-    bool truncated = false; ///< There was more than can be shown.
+    PictureSwitches switches;
+    std::shared_ptr<const LinetypePatterns> linetypes; ///< What the groups' styles number.
+    bool truncated = false;                            ///< There was more than can be shown.
 };
 
 /// Flattens model space. Works on any thread while the drawing is left alone; refuses only when

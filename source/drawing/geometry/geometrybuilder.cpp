@@ -39,11 +39,14 @@ Box estimatedBounds(const TextRun& run)
 GeometryBuilder::GeometryBuilder(const Drawing& drawing, Progress* progress)
     : m_drawing(drawing),
       m_progress(progress),
-      m_reader(drawing)
+      m_linetypes(std::make_shared<const LinetypePatterns>(drawing)),
+      m_reader(drawing, *m_linetypes)
 {
     m_definitions.resize(drawing.blocks().size());
     m_active.resize(drawing.blocks().size());
     m_geometry.owners.emplace_back();
+    m_geometry.switches = readPictureSwitches(drawing.headerTags());
+    m_geometry.linetypes = m_linetypes;
     if (const Layer* zero = drawing.findLayer(QStringLiteral("0")))
         m_layerZero = zero->id;
 }
@@ -116,13 +119,28 @@ GeometryColor GeometryBuilder::colorOf(const EntityStyle& style, const Context& 
     case EntityStyle::Color::ByLayer:
         return {GeometryColor::Source::Layer, static_cast<quint32>(layerOf(style, context))};
     case EntityStyle::Color::ByBlock:
-        return context.color;
+        return context.style.color;
     case EntityStyle::Color::Index:
         return {GeometryColor::Source::Index, style.value};
     case EntityStyle::Color::True:
         break;
     }
     return {GeometryColor::Source::True, style.value};
+}
+
+GeometryStyle GeometryBuilder::styleOf(const EntityStyle& style, const Context& context) const
+{
+    const LayerId layer = layerOf(style, context);
+    const auto resolved = [layer](const EntitySetting& setting, const GeometrySetting& ofBlock) {
+        if (setting.source == EntitySetting::Source::Block)
+            return ofBlock;
+        return setting.source == EntitySetting::Source::Layer
+                   ? GeometrySetting{layer, 0}
+                   : GeometrySetting{LayerId::None, setting.value};
+    };
+    return {colorOf(style, context), resolved(style.linetype, context.style.linetype),
+        resolved(style.lineweight, context.style.lineweight),
+        resolved(style.transparency, context.style.transparency)};
 }
 
 int GeometryBuilder::ownersWith(int owners, LayerId layer)
@@ -143,14 +161,14 @@ int GeometryBuilder::ownersWith(int owners, LayerId layer)
 GeometryGroup& GeometryBuilder::groupFor(const EntityStyle& style, const Context& context)
 {
     const GroupKey key{
-        layerOf(style, context), ownersWith(context.owners, style.owner), colorOf(style, context)};
+        layerOf(style, context), ownersWith(context.owners, style.owner), styleOf(style, context)};
     auto found = m_groupIndex.constFind(key);
     if (found == m_groupIndex.constEnd()) {
         found = m_groupIndex.insert(key, m_geometry.groups.size());
         GeometryGroup& group = m_geometry.groups.emplace_back();
         group.layer = key.layer;
         group.owners = key.owners;
-        group.color = key.color;
+        group.style = key.style;
     }
     return m_geometry.groups[found.value()];
 }
@@ -201,6 +219,12 @@ void GeometryBuilder::emitShape(const Definition& definition, const Definition::
         return;
     primitive.entity = m_entity;
     primitive.shape = shape.shape;
+    primitive.patternRestarts = shape.patternRestarts;
+    const double scale = place.planarScale();
+    primitive.linetypeScale = static_cast<float>(shape.style.linetypeScale * scale);
+    primitive.width = static_cast<float>(shape.width * scale);
+    if (primitive.shape == Primitive::Shape::Lines && primitive.width > 0)
+        primitive.bounds.grow(primitive.width * 0.5);
     primitive.sequence = static_cast<quint32>(m_pieces++);
     m_vertices += primitive.count;
     group.bounds.add(primitive.bounds);
@@ -279,7 +303,7 @@ void GeometryBuilder::emitReference(const Definition::Reference& reference, cons
     const Definition& definition = definitionOf(reference.block);
     Context inner;
     inner.layer = layerOf(reference.style, context);
-    inner.color = colorOf(reference.style, context);
+    inner.style = styleOf(reference.style, context);
     inner.owners = ownersWith(context.owners, inner.layer);
 
     m_active[block] = true;

@@ -22,29 +22,31 @@ public:
     Expected<Geometry> build();
 
 private:
+    /// What ByBlock stands for where there is no block.
+    static constexpr GeometryStyle kUnstyled{{GeometryColor::Source::Index, kColorForeground},
+        {LayerId::None, LinetypePatterns::kContinuous}, {LayerId::None, kDefaultLineweight}, {}};
     /// What the block references around a definition decide for it.
     struct Context
     {
-        LayerId layer = LayerId::None; ///< Taken by what is on layer 0; None in model space.
-        GeometryColor color{GeometryColor::Source::Index, kColorForeground}; ///< For ByBlock.
+        LayerId layer = LayerId::None;   ///< Taken by what is on layer 0; None in model space.
+        GeometryStyle style = kUnstyled; ///< For ByBlock.
         int owners = 0;
     };
     struct GroupKey
     {
         LayerId layer;
         int owners;
-        GeometryColor color;
+        GeometryStyle style;
 
         friend bool operator==(const GroupKey& a, const GroupKey& b)
         {
-            return a.layer == b.layer && a.owners == b.owners && a.color == b.color;
+            return a.layer == b.layer && a.owners == b.owners && a.style == b.style;
         }
         friend uint qHash(const GroupKey& key, uint seed = 0)
         {
             return ::qHash(
-                quint64(static_cast<uint>(key.layer)) << 32 ^ quint64(key.color.value) << 8 ^
-                    quint64(static_cast<uint>(key.owners)) << 40 ^ quint64(key.color.source),
-                seed);
+                quint64(static_cast<uint>(key.layer)) << 32 ^ static_cast<uint>(key.owners),
+                drawing::qHash(key.style, seed));
         }
     };
     /// A ray or a construction line.
@@ -65,6 +67,7 @@ private:
     bool isFull();
     LayerId layerOf(const EntityStyle& style, const Context& context) const;
     GeometryColor colorOf(const EntityStyle& style, const Context& context) const;
+    GeometryStyle styleOf(const EntityStyle& style, const Context& context) const;
     /// The list of `owners` with one more layer.
     int ownersWith(int owners, LayerId layer);
     GeometryGroup& groupFor(const EntityStyle& style, const Context& context);
@@ -85,6 +88,7 @@ private:
 
     const Drawing& m_drawing;
     Progress* m_progress;
+    std::shared_ptr<const LinetypePatterns> m_linetypes;
     EntityReader m_reader;
     LayerId m_layerZero = LayerId::None;
     std::vector<std::optional<Definition>> m_definitions;

@@ -142,6 +142,12 @@ void appendBulges(Path& path, const std::vector<BulgeVertex>& vertices, bool clo
         appendBulge(path, vertices.back().point, vertices.front().point, vertices.back().bulge);
 }
 
+void appendSegment(Path& path, const BulgeVertex& from, const Vec3& to)
+{
+    path.push_back(from.point);
+    appendBulge(path, from.point, to, from.bulge);
+}
+
 void appendSpline(Path& path, const Spline& spline)
 {
     if (!evaluable(spline)) {

@@ -14,6 +14,8 @@ struct BulgeVertex
 {
     Vec3 point;
     double bulge = 0;
+    double startWidth = 0; ///< Of the segment, where it starts at this vertex.
+    double endWidth = 0;   ///< Where it ends at the next.
 };
 
 /// A spline as files hold it. Weights may be missing; fit points serve when the rest is unusable.
@@ -35,6 +37,8 @@ void appendEllipse(Path& path, const Vec3& center, const Vec3& major, const Vec3
 void appendArc(Path& path, const Vec3& center, double radius, double start, double sweep);
 /// Adds a polyline with its bulges; a closed one ends where it began.
 void appendBulges(Path& path, const std::vector<BulgeVertex>& vertices, bool closed);
+/// Adds a segment of a polyline, both ends included.
+void appendSegment(Path& path, const BulgeVertex& from, const Vec3& to);
 void appendSpline(Path& path, const Spline& spline);
 /// The way from `start` to `end` in radians, always forward: more than 0, at most a full turn.
 double forwardSweep(double start, double end);

@@ -5,7 +5,16 @@
 
 namespace drawing {
 
-/// Colour and layer as an entity states them, before the block reference around it has its say.
+/// A property as an entity states it.
+struct EntitySetting
+{
+    enum class Source : quint8 { Layer, Block, Own };
+
+    Source source = Source::Layer;
+    int value = 0; ///< As in `GeometrySetting`, where it is the entity's own.
+};
+
+/// Layer and style as an entity states them, before the block reference around it has its say.
 struct EntityStyle
 {
     enum class Color : quint8 { ByLayer, ByBlock, Index, True };
@@ -14,6 +23,10 @@ struct EntityStyle
     LayerId owner = LayerId::None; ///< The layer of the block reference an attribute belongs to.
     Color color = Color::ByLayer;
     quint32 value = 0;
+    EntitySetting linetype;
+    EntitySetting lineweight;
+    EntitySetting transparency;
+    float linetypeScale = 1;
 };
 
 /// A block's (or one entity's) content in its own coordinates, read once and drawn many times.
@@ -25,6 +38,8 @@ struct Definition
         Primitive::Shape shape = Primitive::Shape::Lines;
         std::size_t first = 0;
         std::size_t count = 0;
+        float width = 0;
+        bool patternRestarts = false;
     };
     struct Text
     {

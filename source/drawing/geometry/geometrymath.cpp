@@ -81,6 +81,11 @@ bool Transform3::isFinite() const
     return m_x.isFinite() && m_y.isFinite() && m_z.isFinite() && m_origin.isFinite();
 }
 
+double Transform3::planarScale() const
+{
+    return std::sqrt(m_x.length() * m_y.length());
+}
+
 Transform3 operator*(const Transform3& outer, const Transform3& inner)
 {
     return {outer.mapDirection(inner.m_x), outer.mapDirection(inner.m_y),
@@ -106,6 +111,14 @@ void Box::add(const Box& other)
         return;
     add(QPointF(other.minX, other.minY));
     add(QPointF(other.maxX, other.maxY));
+}
+
+void Box::grow(double by)
+{
+    minX -= by;
+    minY -= by;
+    maxX += by;
+    maxY += by;
 }
 
 } // namespace drawing

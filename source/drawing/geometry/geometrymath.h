@@ -55,6 +55,8 @@ public:
         return m_x * direction.x + m_y * direction.y + m_z * direction.z;
     }
     bool isFinite() const;
+    /// By how much lengths in the xy plane grow, on the average of its directions.
+    double planarScale() const;
 
     /// The map that does `inner` first.
     friend Transform3 operator*(const Transform3& outer, const Transform3& inner);
@@ -80,6 +82,7 @@ struct Box
     QPointF center() const { return {(minX + maxX) / 2, (minY + maxY) / 2}; }
     void add(const QPointF& point);
     void add(const Box& other);
+    void grow(double by); ///< On all sides.
     bool intersects(const Box& other) const
     {
         return minX <= other.maxX && maxX >= other.minX && minY <= other.maxY && maxY >= other.minY;

@@ -8,7 +8,15 @@ namespace drawing {
 
 namespace {
 
-enum PolylineFlag { Closed = 1, Spatial = 8, Grid = 16, ClosedAcross = 32, Faces = 64 };
+enum PolylineFlag {
+    Closed = 1,
+    Fitted = 2 | 4,
+    Spatial = 8,
+    Grid = 16,
+    ClosedAcross = 32,
+    Faces = 64,
+    Continuous = 128
+};
 enum VertexFlag { Smoothed = 8, Control = 16, FaceVertex = 64, FaceRecord = 128 };
 
 void appendEdge(Path& path, const Vec3& from, const Vec3& to)
@@ -32,6 +40,8 @@ void Polyline::add(const EntityTags& vertex)
     PolylineVertex added;
     added.point = vertex.point(10);
     added.bulge = vertex.number(42);
+    added.startWidth = vertex.number(40, m_head.number(40));
+    added.endWidth = vertex.number(41, m_head.number(41));
     added.flags = vertex.integer(70);
     for (std::size_t i = 0; i < added.corners.size(); ++i)
         added.corners[i] = vertex.integer(71 + static_cast<int>(i));
@@ -46,22 +56,32 @@ bool Polyline::isPlanar() const
 
 Path Polyline::lines() const
 {
-    if (m_flags & Faces)
-        return faces();
-    return m_flags & Grid ? grid() : flat();
+    return m_flags & Faces ? faces() : grid();
 }
 
-/// Of a curve-fitted polyline the curve, not its frame.
-Path Polyline::flat() const
+bool Polyline::isFlat() const
+{
+    return !(m_flags & (Grid | Faces));
+}
+
+bool Polyline::isClosed() const
+{
+    return m_flags & Closed;
+}
+
+bool Polyline::isContinuous() const
+{
+    return m_flags & (Continuous | Fitted);
+}
+
+std::vector<BulgeVertex> Polyline::vertices() const
 {
     std::vector<BulgeVertex> vertices;
     for (const PolylineVertex& vertex : m_vertices) {
         if (!(vertex.flags & Control))
-            vertices.push_back({vertex.point, vertex.bulge});
+            vertices.push_back({vertex.point, vertex.bulge, vertex.startWidth, vertex.endWidth});
     }
-    Path path;
-    appendBulges(path, vertices, m_flags & Closed);
-    return path;
+    return vertices;
 }
 
 Path Polyline::grid() const

@@ -15,6 +15,8 @@ struct PolylineVertex
 {
     Vec3 point;
     double bulge = 0;
+    double startWidth = 0;
+    double endWidth = 0;
     qint64 flags = 0;
     std::array<qint64, 4> corners{}; ///< Of a face: numbers of vertices from 1, 0 = no corner.
 };
@@ -30,10 +32,15 @@ public:
     void add(const EntityTags& vertex);
     /// Its coordinates are those of the plane its extrusion stands for.
     bool isPlanar() const;
+    /// Runs through its vertices, in a plane or not; the others have `lines` alone.
+    bool isFlat() const;
+    bool isClosed() const;
+    bool isContinuous() const; ///< Its linetype is, at the vertices.
+    /// Of a curve-fitted polyline the curve, not its frame.
+    std::vector<BulgeVertex> vertices() const;
     Path lines() const;
 
 private:
-    Path flat() const;
     Path grid() const;
     Path faces() const;
 

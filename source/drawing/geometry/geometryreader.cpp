@@ -1,9 +1,11 @@
 #include "geometryreader.h"
 
+#include "colorindex.h"
 #include "geometryhatchreader.h"
 #include "geometrymultileader.h"
 #include "geometrypolyline.h"
 #include "geometrytext.h"
+#include "symbolname.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +16,9 @@ namespace drawing {
 namespace {
 
 constexpr double kDegree = kPi / 180;
-constexpr qint64 kClosed = 1; ///< Bit of a polyline's or spline's flags.
+// Bits of a polyline's or spline's flags.
+constexpr qint64 kClosed = 1;
+constexpr qint64 kContinuous = 128;
 
 Transform3 turnedAt(const Vec3& origin, double degrees)
 {
@@ -59,7 +63,9 @@ const EntityReader::HandlerRow EntityReader::kHandlers[] = {
     {"MULTILEADER", &EntityReader::multiLeader},
 };
 
-EntityReader::EntityReader(const Drawing& drawing) : m_drawing(drawing)
+EntityReader::EntityReader(const Drawing& drawing, const LinetypePatterns& linetypes)
+    : m_drawing(drawing),
+      m_linetypes(linetypes)
 {
     if (const Layer* zero = drawing.findLayer(QStringLiteral("0")))
         m_layerZero = zero->id;
@@ -71,7 +77,7 @@ void EntityReader::read(std::size_t index, bool inBlock, Definition& definition)
     m_inBlock = inBlock;
     m_owner = LayerId::None;
     m_definition = &definition;
-    m_tags.load(m_drawing.tags(m_drawing.entities()[index]));
+    load(index);
     if (m_tags.integer(60) == 1)
         return; // Invisible.
     const auto row = std::find_if(std::begin(kHandlers), std::end(kHandlers),
@@ -80,27 +86,109 @@ void EntityReader::read(std::size_t index, bool inBlock, Definition& definition)
         (this->*row->handler)();
 }
 
-EntityStyle EntityReader::style() const
+void EntityReader::load(std::size_t index)
+{
+    m_index = index;
+    m_tags.load(m_drawing.tags(m_drawing.entities()[index]));
+    m_style = readStyle();
+}
+
+EntityStyle EntityReader::readStyle()
 {
     EntityStyle style;
-    style.layer = m_drawing.entities()[m_index].layer;
+    const Entity& entity = m_drawing.entities()[m_index];
+    style.layer = entity.layer;
     style.owner = m_owner;
     if (m_owner != LayerId::None && style.layer == m_layerZero)
         style.layer = m_owner;
-    if (m_drawing.entities()[m_index].colorByLayer)
-        return style;
-    if (const Tag* color = m_tags.find(420)) {
-        style.color = EntityStyle::Color::True;
-        style.value = static_cast<quint32>(color->integer()) & 0xffffff;
-        return style;
-    }
-    const qint64 index = std::abs(m_tags.integer(62, 256));
-    if (index == 0)
-        style.color = EntityStyle::Color::ByBlock;
-    else if (index < 256)
-        style.color = EntityStyle::Color::Index;
-    style.value = static_cast<quint32>(index & 0xff);
+    // Backwards, so that of several groups of one code the first counts.
+    for (auto tag = m_tags.end(); tag != m_tags.begin();)
+        takeStyle(style, *--tag);
+    if (entity.colorByLayer)
+        style.color = EntityStyle::Color::ByLayer;
     return style;
+}
+
+void EntityReader::takeStyle(EntityStyle& style, const Tag& tag)
+{
+    enum Code {
+        Linetype = 6,
+        LinetypeScale = 48,
+        Index = 62,
+        Lineweight = 370,
+        True = 420,
+        Transparency = 440
+    };
+    switch (tag.code) {
+    case Linetype:
+        style.linetype = linetypeOf(tag);
+        return;
+    case LinetypeScale:
+        if (const double scale = tag.real(); scale > 0 && std::isfinite(scale))
+            style.linetypeScale = static_cast<float>(scale);
+        return;
+    case Index:
+        // Beside a true colour it only stands in for it.
+        if (style.color != EntityStyle::Color::True)
+            takeColor(style, std::abs(tag.integer()));
+        return;
+    case True:
+        style.color = EntityStyle::Color::True;
+        style.value = static_cast<quint32>(tag.integer()) & 0xffffff;
+        return;
+    case Lineweight:
+        style.lineweight = lineweightOf(tag.integer());
+        return;
+    case Transparency:
+        style.transparency = transparencyOf(tag.integer());
+        return;
+    default:
+        return;
+    }
+}
+
+void EntityReader::takeColor(EntityStyle& style, qint64 index)
+{
+    style.color = index == kColorByBlock  ? EntityStyle::Color::ByBlock
+                  : index < kColorByLayer ? EntityStyle::Color::Index
+                                          : EntityStyle::Color::ByLayer;
+    style.value = static_cast<quint32>(index & 0xff);
+}
+
+EntitySetting EntityReader::lineweightOf(qint64 stored)
+{
+    enum Stored { ByLayer = -1, ByBlock = -2 };
+    constexpr int kWidest = 211;
+    if (stored == ByLayer || stored == ByBlock)
+        return {stored == ByLayer ? EntitySetting::Source::Layer : EntitySetting::Source::Block, 0};
+    return {EntitySetting::Source::Own,
+        static_cast<int>(std::clamp<qint64>(stored, kDefaultLineweight, kWidest))};
+}
+
+EntitySetting EntityReader::transparencyOf(qint64 stored)
+{
+    constexpr qint64 kByBlock = 0x01000000;
+    if (stored == 0)
+        return {};
+    if (stored == kByBlock)
+        return {EntitySetting::Source::Block, 0};
+    return {EntitySetting::Source::Own, transparencyPercent(stored)};
+}
+
+EntitySetting EntityReader::linetypeOf(const Tag& name)
+{
+    const QByteArray spelled = bytesOf(name.trimmed());
+    if (spelled == m_linetypeName)
+        return m_linetype;
+    m_linetypeName = spelled;
+    const QString folded = foldedName(m_drawing.decoded(name.trimmed()));
+    if (folded.isEmpty() || folded == QLatin1String("bylayer"))
+        m_linetype = {};
+    else if (folded == QLatin1String("byblock"))
+        m_linetype = {EntitySetting::Source::Block, 0};
+    else
+        m_linetype = {EntitySetting::Source::Own, m_linetypes.find(folded)};
+    return m_linetype;
 }
 
 Transform3 EntityReader::plane() const
@@ -108,7 +196,8 @@ Transform3 EntityReader::plane() const
     return Transform3::fromExtrusion(m_tags.extrusion());
 }
 
-void EntityReader::addShape(Primitive::Shape shape, const Path& path, const Transform3& place)
+Definition::Shape* EntityReader::addShape(
+    Primitive::Shape shape, const Path& path, const Transform3& place)
 {
     Path& vertices = m_definition->vertices;
     const std::size_t first = vertices.size();
@@ -119,8 +208,24 @@ void EntityReader::addShape(Primitive::Shape shape, const Path& path, const Tran
         else if (std::isnan(vertex.x) && vertices.size() > first)
             vertices.push_back(pathBreak());
     }
-    if (vertices.size() > first)
-        m_definition->shapes.push_back({style(), shape, first, vertices.size() - first});
+    if (vertices.size() == first)
+        return nullptr;
+    Definition::Shape& added = m_definition->shapes.emplace_back();
+    added.style = style();
+    added.shape = shape;
+    added.first = first;
+    added.count = vertices.size() - first;
+    return &added;
+}
+
+void EntityReader::addPolyline(const PolylinePicture& picture, const Transform3& place)
+{
+    if (Definition::Shape* lines = addShape(Primitive::Shape::Lines, picture.lines, place)) {
+        lines->width = static_cast<float>(picture.width);
+        lines->patternRestarts = picture.patternRestarts;
+    }
+    for (const Path& surface : picture.surfaces)
+        addShape(Primitive::Shape::Fill, surface, place);
 }
 
 void EntityReader::line()
@@ -132,17 +237,25 @@ void EntityReader::lwPolyline()
 {
     std::vector<BulgeVertex> vertices;
     const double elevation = m_tags.number(38);
+    const double width = m_tags.number(43);
     for (const Tag& tag : m_tags) {
-        if (tag.code == 10)
-            vertices.push_back({{tag.real(), 0, elevation}, 0});
-        else if (tag.code == 20 && !vertices.empty())
+        if (tag.code == 10) {
+            vertices.push_back({{tag.real(), 0, elevation}, 0, width, width});
+            continue;
+        }
+        if (vertices.empty())
+            continue;
+        if (tag.code == 20)
             vertices.back().point.y = tag.real();
-        else if (tag.code == 42 && !vertices.empty())
+        else if (tag.code == 40)
+            vertices.back().startWidth = tag.real();
+        else if (tag.code == 41)
+            vertices.back().endWidth = tag.real();
+        else if (tag.code == 42)
             vertices.back().bulge = tag.real();
     }
-    Path path;
-    appendBulges(path, vertices, m_tags.integer(70) & kClosed);
-    addShape(Primitive::Shape::Lines, path, plane());
+    const qint64 flags = m_tags.integer(70);
+    addPolyline(pictureOf(vertices, flags & kClosed, flags & kContinuous), plane());
 }
 
 void EntityReader::polyline()
@@ -154,8 +267,13 @@ void EntityReader::polyline()
         vertex.load(m_drawing.tags(entities[i]));
         polyline.add(vertex);
     }
-    addShape(
-        Primitive::Shape::Lines, polyline.lines(), polyline.isPlanar() ? plane() : Transform3());
+    if (!polyline.isFlat()) {
+        addShape(Primitive::Shape::Lines, polyline.lines());
+        return;
+    }
+    const Transform3 place = polyline.isPlanar() ? plane() : Transform3();
+    addPolyline(
+        pictureOf(polyline.vertices(), polyline.isClosed(), polyline.isContinuous()), place);
 }
 
 void EntityReader::mesh()
@@ -500,7 +618,7 @@ void EntityReader::attributes()
         ++m_index;
         if (entities[m_index].removed)
             continue;
-        m_tags.load(m_drawing.tags(entities[m_index]));
+        load(m_index);
         if (m_tags.type() == "ATTRIB" && m_tags.integer(60) != 1)
             attribute();
     }

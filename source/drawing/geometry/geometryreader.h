@@ -3,6 +3,7 @@
 #include "drawing.h"
 #include "geometrydefinition.h"
 #include "geometrytags.h"
+#include "geometrywidths.h"
 
 #include <cstddef>
 
@@ -12,7 +13,8 @@ namespace drawing {
 class EntityReader
 {
 public:
-    explicit EntityReader(const Drawing& drawing);
+    /// Both must outlive this.
+    EntityReader(const Drawing& drawing, const LinetypePatterns& linetypes);
 
     /// Adds entity `index` to `definition` with what follows it as its own (vertices, attributes).
     /// `inBlock`: attribute definitions are left out there, the references bring the attributes.
@@ -62,12 +64,26 @@ private:
     void addLines(const QStringList& lines, const Transform3& place, const Paragraph& paragraph);
     void addArrow(const Path& path, double size);
     void addEndless(bool bothWays);
-    void addShape(Primitive::Shape shape, const Path& path, const Transform3& place = {});
+    void load(std::size_t index);
+    /// The shape added; null when nothing was left of it.
+    Definition::Shape* addShape(
+        Primitive::Shape shape, const Path& path, const Transform3& place = {});
+    void addPolyline(const PolylinePicture& picture, const Transform3& place);
     void addReference(const QString& name, Definition::Reference reference);
-    EntityStyle style() const;
+    EntityStyle readStyle();
+    void takeStyle(EntityStyle& style, const Tag& tag);
+    static void takeColor(EntityStyle& style, qint64 index);
+    static EntitySetting lineweightOf(qint64 stored);
+    static EntitySetting transparencyOf(qint64 stored);
+    EntitySetting linetypeOf(const Tag& name);
+    const EntityStyle& style() const { return m_style; }
 
     const Drawing& m_drawing;
+    const LinetypePatterns& m_linetypes;
+    QByteArray m_linetypeName; ///< The one looked up last.
+    EntitySetting m_linetype;  ///< What it means.
     LayerId m_layerZero = LayerId::None;
+    EntityStyle m_style;
     EntityTags m_tags;
     std::size_t m_index = 0;
     bool m_inBlock = false;

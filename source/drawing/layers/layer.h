@@ -32,6 +32,8 @@ struct LayerProperties
 bool operator==(const LayerProperties& a, const LayerProperties& b);
 bool operator!=(const LayerProperties& a, const LayerProperties& b);
 
+/// Stands for a lineweight that a program chooses.
+constexpr int kDefaultLineweight = -3;
 /// The lineweights that exist, in hundredths of a millimetre: -3 default, -2 by block, -1 by layer.
 constexpr int kLineweights[] = {-3, -2, -1, 0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70,
     80, 90, 100, 106, 120, 140, 158, 200, 211};

@@ -48,6 +48,19 @@ void Canvas::setLayers(const std::vector<drawing::Layer>& layers)
     updateLooks();
 }
 
+void Canvas::setLinetypes(std::shared_ptr<const drawing::LinetypePatterns> linetypes)
+{
+    m_linetypes = std::move(linetypes);
+}
+
+void Canvas::setShowsLineweights(bool shows)
+{
+    if (m_showsLineweights == shows)
+        return;
+    m_showsLineweights = shows;
+    invalidate();
+}
+
 void Canvas::setDark(bool dark)
 {
     if (m_dark == dark)
@@ -59,7 +72,8 @@ void Canvas::setDark(bool dark)
 
 void Canvas::updateLooks()
 {
-    m_looks = m_geometry ? looksOf(*m_geometry, m_layers, m_dark) : std::vector<GroupLook>();
+    m_looks = m_geometry ? looksOf(*m_geometry, {m_layers, m_linetypes.get(), m_dark})
+                         : std::vector<GroupLook>();
     setSelection(m_selection);
     invalidate();
 }
@@ -155,6 +169,8 @@ void Canvas::render()
         // which takes a third of the time and paints the same.
         painter.setClipRect(rect());
         painter.setRenderHint(QPainter::Antialiasing, vertices < kSmoothVertices);
+        constexpr double kMillimetresPerInch = 25.4;
+        m_painter.setLineweightScale(m_showsLineweights ? logicalDpiY() / kMillimetresPerInch : 0);
         m_painter.paint(painter, *m_geometry, m_looks, m_view);
     }
     m_renderMilliseconds = timer.elapsed();

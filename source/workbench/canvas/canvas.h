@@ -33,6 +33,12 @@ public:
     /// Takes over the state of the layers and redraws.
     void setLayers(const std::vector<drawing::Layer>& layers);
 
+    /// Where the layers' linetypes are looked up from the next `setLayers` on; null: where those of
+    /// the scene are.
+    void setLinetypes(std::shared_ptr<const drawing::LinetypePatterns> linetypes);
+    bool showsLineweights() const { return m_showsLineweights; }
+    void setShowsLineweights(bool shows);
+
     bool isDark() const { return m_dark; }
     void setDark(bool dark); ///< White on black or black on white.
     /// What the visible layers hold, or all of them when none is visible.
@@ -92,7 +98,9 @@ private:
 
     std::shared_ptr<const drawing::Geometry> m_geometry;
     std::vector<drawing::Layer> m_layers;
+    std::shared_ptr<const drawing::LinetypePatterns> m_linetypes;
     std::vector<GroupLook> m_looks;
+    bool m_showsLineweights = false;
     ScenePainter m_painter;
     CanvasView m_view;
     bool m_dark = true;

@@ -11,17 +11,26 @@ namespace {
 
 using drawing::GeometryColor;
 using drawing::GeometryGroup;
+using drawing::GeometrySetting;
 using drawing::Layer;
 using drawing::LayerId;
+using drawing::LayerProperties;
+using drawing::LinetypePatternPointer;
+using drawing::LinetypePatterns;
+
+/// What lines get whose lineweight is left to the program.
+constexpr int kUsualLineweight = 25;
 
 class Looks
 {
 public:
-    Looks(const std::vector<Layer>& layers, bool darkBackground)
-        : m_foreground(darkBackground ? Qt::white : Qt::black)
+    Looks(const drawing::Geometry& geometry, const LookSource& source)
+        : m_ownLinetypes(*geometry.linetypes),
+          m_layerLinetypes(source.linetypes ? *source.linetypes : *geometry.linetypes),
+          m_foreground(source.isDark ? Qt::white : Qt::black)
     {
-        m_layers.reserve(static_cast<int>(layers.size()));
-        for (const Layer& layer : layers)
+        m_layers.reserve(static_cast<int>(source.layers.size()));
+        for (const Layer& layer : source.layers)
             m_layers.insert(static_cast<int>(layer.id), &layer);
     }
 
@@ -34,14 +43,36 @@ public:
             const Layer* around = find(owner);
             return around && around->properties.frozen;
         });
-        look.color = colorOf(group.color);
-        if (layer)
-            look.color.setAlphaF(1 - layer->properties.transparency / 100.0);
+        look.color = colorOf(group.style.color);
+        look.color.setAlphaF(
+            1 - settingOf(group.style.transparency, &LayerProperties::transparency) / 100.0);
+        look.linetype = linetypeOf(group.style.linetype);
+        look.lineweight = settingOf(group.style.lineweight, &LayerProperties::lineweight);
+        if (look.lineweight < 0)
+            look.lineweight = kUsualLineweight;
         return look;
     }
 
 private:
     const Layer* find(LayerId id) const { return m_layers.value(static_cast<int>(id)); }
+
+    int settingOf(const GeometrySetting& setting, int LayerProperties::*property) const
+    {
+        if (setting.layer == LayerId::None)
+            return setting.value;
+        const Layer* layer = find(setting.layer);
+        return layer ? layer->properties.*property : LayerProperties().*property;
+    }
+
+    LinetypePatternPointer linetypeOf(const GeometrySetting& setting) const
+    {
+        if (setting.layer == LayerId::None)
+            return m_ownLinetypes.at(setting.value);
+        const Layer* layer = find(setting.layer);
+        if (!layer)
+            return nullptr;
+        return m_layerLinetypes.at(m_layerLinetypes.find(layer->properties.linetype));
+    }
 
     QColor ofIndex(int index) const
     {
@@ -66,15 +97,16 @@ private:
     }
 
     QHash<int, const Layer*> m_layers;
+    const LinetypePatterns& m_ownLinetypes;
+    const LinetypePatterns& m_layerLinetypes;
     QColor m_foreground;
 };
 
 } // namespace
 
-std::vector<GroupLook> looksOf(const drawing::Geometry& geometry,
-    const std::vector<drawing::Layer>& layers, bool darkBackground)
+std::vector<GroupLook> looksOf(const drawing::Geometry& geometry, const LookSource& source)
 {
-    const Looks looks(layers, darkBackground);
+    const Looks looks(geometry, source);
     std::vector<GroupLook> result;
     result.reserve(geometry.groups.size());
     for (const GeometryGroup& group : geometry.groups)

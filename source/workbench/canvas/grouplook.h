@@ -12,9 +12,19 @@ struct GroupLook
 {
     bool visible = true;
     QColor color;
+    drawing::LinetypePatternPointer linetype; ///< Null for unbroken lines.
+    int lineweight = 0;                       ///< Hundredths of a millimetre.
+};
+
+/// What decides on the looks of groups, besides what the drawing says of each.
+struct LookSource
+{
+    const std::vector<drawing::Layer>& layers;
+    /// Where the layers' linetypes are; null: where those of the geometry are.
+    const drawing::LinetypePatterns* linetypes = nullptr;
+    bool isDark = true; ///< The background.
 };
 
 /// One look per group, by the layers' present state: off and frozen layers hide what is on them, a
 /// frozen layer hides all of the block references on it. Colour 7 is white on dark, black on light.
-std::vector<GroupLook> looksOf(const drawing::Geometry& geometry,
-    const std::vector<drawing::Layer>& layers, bool darkBackground);
+std::vector<GroupLook> looksOf(const drawing::Geometry& geometry, const LookSource& source);

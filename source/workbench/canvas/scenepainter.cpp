@@ -18,6 +18,9 @@ constexpr int kMaxOutlines = 50000;     ///< Kept at most; more different texts 
 constexpr double kReadablePixels = 2.5; ///< Lower texts are drawn as a bar.
 constexpr double kTinyPixels = 0.8;
 constexpr int kBatch = 8192;
+constexpr double kHairline = 1.3;     ///< Lines thinner than these pixels are as thin as can be.
+constexpr int kHundredths = 100;      ///< Of a millimetre, in which lineweights are stated.
+constexpr double kMarginPixels = 100; ///< Around the view, where dashes are still cut.
 
 QPen hairline(const QColor& color)
 {
@@ -44,13 +47,18 @@ void ScenePainter::paint(QPainter& painter, const drawing::Geometry& geometry,
     m_painter = &painter;
     m_view = view;
     m_visible = view.visibleBox();
+    m_mark.emplace(geometry.switches, view.scale(), view.size().height());
+    m_linetypeScale = geometry.switches.linetypeScale * view.scale();
+    m_dasher.setSeen(QRectF(QPointF(), view.size())
+                         .adjusted(-kMarginPixels, -kMarginPixels, kMarginPixels, kMarginPixels));
     paintFills(geometry, looks);
     for (std::size_t i = 0; i < geometry.groups.size(); ++i) {
         const GeometryGroup& group = geometry.groups[i];
         if (!looks[i].visible || !isSeen(group.bounds))
             continue;
+        painter.setPen(penOf(looks[i]));
+        paintLines(group, looks[i]);
         painter.setPen(hairline(looks[i].color));
-        paintLines(group);
         paintTexts(group, looks[i].color);
         flush();
     }
@@ -112,18 +120,65 @@ void ScenePainter::paintFill(const GeometryGroup& group, const Primitive& primit
     m_painter->drawPath(path);
 }
 
-void ScenePainter::paintLines(const GeometryGroup& group)
+QPen ScenePainter::penOf(const GroupLook& look) const
 {
+    QPen pen = hairline(look.color);
+    const double pixels = look.lineweight * m_lineweightScale / kHundredths;
+    if (pixels < kHairline)
+        return pen;
+    pen.setWidthF(pixels);
+    pen.setJoinStyle(Qt::RoundJoin);
+    // Round ends would fill the gaps of a linetype.
+    pen.setCapStyle(look.linetype ? Qt::FlatCap : Qt::RoundCap);
+    return pen;
+}
+
+void ScenePainter::paintLines(const GeometryGroup& group, const GroupLook& look)
+{
+    m_pattern = look.linetype.get();
     for (const Primitive& primitive : group.primitives) {
-        if (primitive.shape == Primitive::Shape::Fill || !isSeen(primitive.bounds))
+        if (primitive.shape == Primitive::Shape::Fill)
+            continue;
+        if (primitive.shape == Primitive::Shape::Dot && !m_mark->isDot) {
+            paintPoint(group.vertices[primitive.first]);
+            continue;
+        }
+        if (!isSeen(primitive.bounds))
             continue;
         if (isTiny(primitive.bounds))
             m_dots.append(m_view.toScreen(primitive.bounds.center()));
+        else if (primitive.width * m_view.scale() >= kHairline)
+            paintWide(group, primitive);
         else
             addLines(group, primitive);
-        if (m_lines.size() + m_dots.size() > kBatch)
+        if (m_lines.size() + m_dots.size() + m_dasher.lines.size() > kBatch)
             flush();
     }
+    flush();
+    paintLetters(look.color);
+}
+
+void ScenePainter::paintWide(const GeometryGroup& group, const Primitive& primitive)
+{
+    flush();
+    const QPen pen = m_painter->pen();
+    QPen wide = pen;
+    wide.setWidthF(primitive.width * m_view.scale());
+    wide.setCapStyle(Qt::FlatCap);
+    wide.setJoinStyle(Qt::MiterJoin);
+    m_painter->setPen(wide);
+    addLines(group, primitive);
+    flush();
+    m_painter->setPen(pen);
+}
+
+void ScenePainter::paintPoint(const QPointF& place)
+{
+    Box around;
+    around.add(place);
+    around.grow(m_mark->reach / m_view.scale());
+    if (isSeen(around) && !m_mark->path.isEmpty())
+        m_painter->drawPath(m_mark->path.translated(m_view.toScreen(place)));
 }
 
 void ScenePainter::addLines(const GeometryGroup& group, const Primitive& primitive)
@@ -132,7 +187,7 @@ void ScenePainter::addLines(const GeometryGroup& group, const Primitive& primiti
     const QPointF* const end = begin + primitive.count;
     for (const QPointF* vertex = begin; vertex != end; ++vertex) {
         if (std::isnan(vertex->x())) {
-            addPart();
+            addPart(primitive);
             continue;
         }
         const QPointF pixel = m_view.toScreen(*vertex);
@@ -143,12 +198,15 @@ void ScenePainter::addLines(const GeometryGroup& group, const Primitive& primiti
         if (!near || last)
             m_part.append(pixel);
     }
-    addPart();
+    addPart(primitive);
 }
 
-void ScenePainter::addPart()
+void ScenePainter::addPart(const Primitive& primitive)
 {
-    if (m_part.size() == 1)
+    if (m_pattern && m_part.size() > 1)
+        m_dasher.dash(m_part, *m_pattern, primitive.linetypeScale * m_linetypeScale,
+            primitive.patternRestarts);
+    else if (m_part.size() == 1)
         m_dots.append(m_part.first());
     else if (m_part.size() == 2)
         m_lines.append(QLineF(m_part[0], m_part[1]));
@@ -163,14 +221,47 @@ void ScenePainter::flush()
     m_painter->drawPoints(m_dots.constData(), m_dots.size());
     m_lines.resize(0);
     m_dots.resize(0);
+    m_painter->drawLines(m_dasher.lines);
+    for (const QPolygonF& bend : m_dasher.bends)
+        m_painter->drawPolyline(bend);
+    m_painter->drawPoints(m_dasher.dots.constData(), m_dasher.dots.size());
+    m_dasher.lines.resize(0);
+    m_dasher.bends.resize(0);
+    m_dasher.dots.resize(0);
 }
 
-void ScenePainter::paintTexts(const GeometryGroup& group, const QColor& color)
+/// What the linetypes write along the lines.
+void ScenePainter::paintLetters(const QColor& color)
+{
+    if (m_dasher.letters.empty())
+        return;
+    beginTexts(color);
+    for (const LineDasher::Letters& letters : m_dasher.letters) {
+        TextRun run;
+        run.text = letters.text;
+        run.origin = m_view.toDrawing(letters.place);
+        const double height = letters.height / m_view.scale();
+        // The view's y grows upwards.
+        run.right = QPointF(std::cos(letters.angle), -std::sin(letters.angle)) * height;
+        run.up = QPointF(-run.right.y(), run.right.x());
+        if (letters.height >= kReadablePixels)
+            paintText(run, false);
+    }
+    m_dasher.letters.clear();
+    m_painter->restore();
+}
+
+void ScenePainter::beginTexts(const QColor& color)
 {
     m_painter->save();
     m_painter->setRenderHint(QPainter::Antialiasing);
     m_painter->setPen(Qt::NoPen);
     m_painter->setBrush(color);
+}
+
+void ScenePainter::paintTexts(const GeometryGroup& group, const QColor& color)
+{
+    beginTexts(color);
     for (const TextRun& run : group.texts) {
         if (!isSeen(run.bounds))
             continue;
