@@ -2,6 +2,7 @@
 
 #include "layer.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -12,21 +13,52 @@ namespace readback {
 
 inline bool isInstalled()
 {
-    QProcess python;
-    python.start(
-        QStringLiteral("/usr/bin/python3"), {QStringLiteral("-c"), QStringLiteral("import ezdxf")});
-    return python.waitForFinished() && python.exitCode() == 0;
+    static const bool isThere = QProcess::execute("/usr/bin/python3", {"-c", "import ezdxf"}) == 0;
+    return isThere;
 }
 
-/// Layers, entities and audit errors; "failure" when the file cannot be read.
-inline QJsonObject seen(
-    const QString& path, const QString& script = QStringLiteral(READBACK_SCRIPT))
+/// The reader at work. It is started once, as that takes longer than reading most drawings.
+class Reader : public QObject
 {
-    QProcess reader;
-    reader.start(QStringLiteral("/usr/bin/python3"), {script, path});
-    if (!reader.waitForFinished(120000) || reader.exitCode() != 0)
-        return {{QStringLiteral("failure"), QString::fromUtf8(reader.readAllStandardError())}};
-    return QJsonDocument::fromJson(reader.readAllStandardOutput()).object();
+public:
+    static Reader& instance()
+    {
+        static auto* const reader = new Reader;
+        return *reader;
+    }
+    ~Reader() override
+    {
+        m_process.closeWriteChannel();
+        m_process.waitForFinished();
+    }
+
+    QByteArray answer(const QString& line)
+    {
+        m_process.write(line.toUtf8() + '\n');
+        while (!m_process.canReadLine()) {
+            if (!m_process.waitForReadyRead(120000))
+                return {};
+        }
+        return m_process.readLine();
+    }
+
+private:
+    Reader() : QObject(QCoreApplication::instance())
+    {
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start("/usr/bin/python3", {READBACK_SCRIPT});
+    }
+
+    QProcess m_process;
+};
+
+/// "layers" and their "entities", the "states" of layers and what viewports show, or the "entities"
+/// by layers; always audit errors. "failure" when the file cannot be read.
+inline QJsonObject seen(const QString& path, const QString& what = "layers")
+{
+    const QByteArray answer = Reader::instance().answer(what + ' ' + path);
+    return QJsonDocument::fromJson(answer.isEmpty() ? R"({"failure":"no answer"})" : answer)
+        .object();
 }
 
 /// A layer as `seen` gives it.
@@ -43,17 +75,19 @@ inline QJsonObject facts(const drawing::LayerProperties& p)
 inline QHash<QString, QJsonObject> layers(const QJsonObject& seen)
 {
     QHash<QString, QJsonObject> layers;
-    for (const QJsonValue& value : seen.value(QLatin1String("layers")).toArray())
+    for (const QJsonValue& value : seen.value("layers").toArray())
         layers.insert(value.toObject().value("name").toString(), value.toObject());
     return layers;
 }
 
-/// The audit errors that `after` has more of than `before`.
+/// The audit errors that `after` has more of than `before`, or why it cannot be read.
 inline QStringList newErrors(const QJsonObject& before, const QJsonObject& after)
 {
+    if (after.contains("failure"))
+        return {after.value("failure").toString()};
     QStringList codes;
-    const QJsonObject old = before.value(QLatin1String("errors")).toObject();
-    const QJsonObject now = after.value(QLatin1String("errors")).toObject();
+    const QJsonObject old = before.value("errors").toObject();
+    const QJsonObject now = after.value("errors").toObject();
     for (const QString& code : now.keys()) {
         if (now.value(code).toInt() > old.value(code).toInt())
             codes += code;

@@ -1,7 +1,7 @@
 #include "geometry.h"
 #include "geometrytext.h"
 #include "rows.h"
-#include "tst_geometrysketch.h"
+#include "sketch.h"
 
 #include <QLineF>
 #include <QtTest>
@@ -277,7 +277,7 @@ private slots:
         QFETCH(QString, look);
         Sketch sketch;
         sketch.blocks = block("U", inBlock) + block("V", "0 LINE 8 0 62 0 10 0 20 0 11 1 21 0 ");
-        if (look == QLatin1String("A by A [B A]"))
+        if (look == "A by A [B A]")
             sketch.blocks = block("U", inBlock) + block("V", "0 LINE 8 0 10 0 20 0 11 1 21 0 ");
         const auto drawing = sketch.open(insert);
         QVERIFY(drawing);
@@ -288,10 +288,9 @@ private slots:
         const GeometryColor& color = group.style.color;
         const QString colorText =
             color.source == GeometryColor::Source::Layer
-                ? QStringLiteral("by ") + name(static_cast<LayerId>(color.value))
+                ? "by " + name(static_cast<LayerId>(color.value))
                 : QStringLiteral("%1 %2")
-                      .arg(color.source == GeometryColor::Source::Index ? QStringLiteral("index")
-                                                                        : QStringLiteral("true"))
+                      .arg(color.source == GeometryColor::Source::Index ? "index" : "true")
                       .arg(color.value);
         QStringList owners;
         for (const LayerId owner : geometry.owners[static_cast<std::size_t>(group.owners)])
@@ -379,7 +378,7 @@ private slots:
         QFETCH(QString, text);
         QFETCH(double, width);
         QFETCH(QString, lines);
-        QCOMPARE(plainLines(text, width).join(QLatin1Char('|')), lines);
+        QCOMPARE(plainLines(text, width).join('|'), lines);
     }
 
     void textPlaces_data()

@@ -1,5 +1,4 @@
 #include "fixture.h"
-#include "rows.h"
 
 #include <QSignalSpy>
 
@@ -8,7 +7,6 @@
 using namespace drawing;
 using Change = std::function<void(LayerProperties&)>;
 Q_DECLARE_METATYPE(Change)
-Q_DECLARE_METATYPE(House)
 
 namespace {
 
@@ -24,7 +22,6 @@ House withApp(House house, const QByteArray& name)
     house.appIds = "0 APPID\n5 100\n330 9\n100 AcDbSymbolTableRecord\n"
                    "100 AcDbRegAppTableRecord\n2 " +
                    name + "\n70 0\n";
-    house.appIdCount = "2";
     house.seed = "101";
     return house;
 }
@@ -36,7 +33,6 @@ House withRecord(const QByteArray& groups, const QByteArray& current)
     house.moreLayers = "0 LAYER\n5 100\n330 2\n100 AcDbSymbolTableRecord\n"
                        "100 AcDbLayerTableRecord\n2 " +
                        groups + "\n6 Continuous\n370 -3\n390 F\n347 47\n";
-    house.layerCount = "4";
     house.seed = "101";
     house.current = current;
     return house;
@@ -184,7 +180,7 @@ private slots:
 
         using P = LayerProperties;
         row("不能为空", "Wall", set(&P::name, "  "));
-        row("超过 255 个字符", "Wall", set(&P::name, QString(256, QLatin1Char('a'))));
+        row("超过 255 个字符", "Wall", set(&P::name, QString(256, 'a')));
         row("已有名为“Empty”", "Wall", set(&P::name, "eMPTY"));
         row("已有名为“Implicit”", "Wall", set(&P::name, "implicit"));
         row("图层“0”不能重命名", "0", set(&P::name, "Zero"));
@@ -196,7 +192,7 @@ private slots:
         row("没有线宽 51", "Wall", set(&P::lineweight, 51));
         row("透明度 91", "Wall", set(&P::transparency, 91));
         row("透明度 -1", "Wall", set(&P::transparency, -1));
-        row("说明“dddd", "Wall", set(&P::description, QString(256, QLatin1Char('d'))));
+        row("说明“dddd", "Wall", set(&P::description, QString(256, 'd')));
     }
 
     void refusals()
@@ -260,12 +256,9 @@ private slots:
             "1 AcLyLayerFilter\n301 OFF==\"0\" AND NAME==\"@\"\n0 XRECORD\n"
             "5 D4\n100 AcDbXrecord\n1 AcLyLayerFilter\n301 NAME==\"Wall*\"\n"
             "0 XRECORD\n5 D5\n100 AcDbXrecord\n1 Wall\n1 Wall\n";
-        const auto house = [&filters](House made, QByteArray pattern) {
-            QByteArray lines = House::lines();
-            const int objects = lines.indexOf("0 DICTIONARY\n5 A0");
-            lines.remove(objects, lines.indexOf("0 LAYER_FILTER") - objects);
-            lines.insert(objects, QByteArray(filters).replace("@", pattern));
-            return made.filledIn(lines);
+        const auto house = [&filters](House made, const char* pattern) {
+            made.objects = QByteArray(filters).replace("@", pattern);
+            return made.bytes();
         };
         const auto drawing = opened(house(House(), "WALL"));
         QCOMPARE(edit(*drawing, "Wall", [](LayerProperties& p) { p.name = "W#1"; }), QString());
@@ -296,11 +289,11 @@ private slots:
     {
         const House before;
         const auto drawing = opened(before.bytes());
-        drawing->beginStep("add");
         LayerProperties properties = named("新");
         properties.off = true;
         properties.locked = true;
         properties.trueColor = 0x010203;
+        drawing->beginStep("add");
         const auto added = drawing->addLayer(properties);
         QVERIFY(added);
         QVERIFY(!drawing->addLayer(properties)); // Its name is taken now.
@@ -333,15 +326,13 @@ private slots:
         QVERIFY(inStep(*drawing, [&] { return drawing->removeLayer(id(*drawing, "Empty")); }));
         QVERIFY(!drawing->findLayer("Empty"));
 
-        QByteArray lines = House::lines();
-        const int record = lines.indexOf("0 LAYER\n5 12");
-        lines.remove(record, lines.indexOf("@moreLayers") - record);
-        lines.replace("8 Empty", "8 0").replace("331 12\n", "").replace("330 12\n90 9\n", "");
-        const int objects = lines.indexOf("0 DICTIONARY\n5 B0");
-        lines.remove(objects, lines.indexOf("0 ENDSEC", objects) - objects);
-        House after;
-        after.layerCount = "2";
-        QCOMPARE(saved(*drawing), after.filledIn(lines));
+        Plan after = House().plan();
+        after.layers.truncate(after.layers.indexOf("0 LAYER | 5 12"));
+        after.blocks.replace("8 Empty", "8 0");
+        after.entities.replace(" | 331 12", "");
+        after.objects.truncate(after.objects.indexOf("0 DICTIONARY | 5 B0"));
+        after.objects.replace(" | 330 12 | 90 9", "");
+        QCOMPARE(saved(*drawing), House().filledIn(after.lines()));
         checkUndo(*drawing, before);
     }
 
@@ -457,10 +448,10 @@ private slots:
             return isDone;
         };
         QVERIFY(!drawing->setLayerProperties(wall, named("X"))); // No step is open.
-        QVERIFY(turn(QStringLiteral("one"), true));
-        QVERIFY(turn(QStringLiteral("none"), true)); // Changes nothing: leaves no trace.
+        QVERIFY(turn("one", true));
+        QVERIFY(turn("none", true)); // Changes nothing: leaves no trace.
         QCOMPARE(drawing->undoName(), "one");
-        QVERIFY(turn(QStringLiteral("two"), false));
+        QVERIFY(turn("two", false));
         QCOMPARE(changed.count(), 2);
         QCOMPARE(modified.count(), 1);
 
@@ -474,7 +465,7 @@ private slots:
         drawing->undo();
         drawing->undo();
         QVERIFY(!drawing->canUndo());
-        QVERIFY(turn(QStringLiteral("other"), true)); // The saved state cannot be reached any more.
+        QVERIFY(turn("other", true)); // The saved state cannot be reached any more.
         QVERIFY(drawing->isModified() && !drawing->canRedo());
         drawing->undo();
         QVERIFY(drawing->isModified());
@@ -491,10 +482,10 @@ private slots:
         drawing->publishStep();
         QCOMPARE(changed.count(), 0);
         LayerProperties properties = wall->properties;
-        properties.name = QStringLiteral("Wand");
+        properties.name = "Wand";
         QVERIFY(drawing->setLayerProperties(wall->id, properties));
         const auto id = drawing->addLayer(named("New"));
-        QVERIFY(drawing->isModified() && !drawing->save(m_folder.filePath("x.dxf")));
+        QVERIFY(drawing->isModified() && !drawing->save(inFolder("x.dxf")));
         drawing->publishStep();
         QCOMPARE(changed.count(), 1);
         drawing->rollbackStep();
@@ -529,7 +520,7 @@ private slots:
         drawing->beginStep("rename");
         for (const Layer& layer : drawing->layers()) {
             LayerProperties properties = layer.properties;
-            properties.name.replace(QLatin1Char('A'), QLatin1Char('B'));
+            properties.name.replace('A', 'B');
             QVERIFY(drawing->setLayerProperties(layer.id, properties));
         }
         drawing->commitStep();

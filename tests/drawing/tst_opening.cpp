@@ -1,5 +1,4 @@
 #include "fixture.h"
-#include "rows.h"
 
 using namespace drawing;
 
@@ -57,7 +56,7 @@ private slots:
         QTEST(error.line, "line");
         QVERIFY2(error.text.contains(QString::number(error.line)), qPrintable(error.text));
         QVERIFY(!error.cancelled);
-        QCOMPARE(read(path), bytes);
+        QCOMPARE(contentOf(path), bytes);
     }
 
     void unreadable_data()
@@ -99,23 +98,20 @@ private slots:
             "0 LAYER\n2  \n70 0\n"; // Without a name, it is none.
         const auto drawing = opened(house.bytes());
 
-        QStringList names;
-        for (const Layer& layer : drawing->layers())
-            names += layer.properties.name;
-        QCOMPARE(
-            names, QStringList({"0", "墙", "Empty", "plan|A", "PlanB", "DEFPOINTS", "Implicit"}));
+        QCOMPARE(layerNames(*drawing),
+            QStringList({"0", "墙", "Empty", "plan|A", "PlanB", "DEFPOINTS", "Implicit"}));
         const Layer* wall = drawing->findLayer("墙");
         LayerProperties expected;
-        expected.name = QStringLiteral("墙");
+        expected.name = "墙";
         expected.off = true;
         expected.plotted = false;
         expected.colorIndex = 30;
         expected.trueColor = 0xff0000;
-        expected.linetype = QStringLiteral("DASHED");
+        expected.linetype = "DASHED";
         expected.lineweight = 50;
         expected.transparency = 50;
-        expected.plotStyle = QStringLiteral("Color_30");
-        expected.description = QStringLiteral("墙 !");
+        expected.plotStyle = "Color_30";
+        expected.description = "墙 !";
         QVERIFY(wall->properties == expected);
         QCOMPARE(drawing->currentLayer(), wall->id);
 
@@ -132,7 +128,7 @@ private slots:
     {
         const Rows<QByteArray, QByteArray, QByteArray, QByteArray, QString, QString> row(
             "version", "codePage", "chosen", "wall", "name", "notice");
-        const QString wall = QStringLiteral("墙");
+        const QString wall = "墙";
         row("as declared", "AC1018", "ANSI_936", "", "\xc7\xbd", wall, "");
         row("UTF-8 though another is declared", "AC1018", "ANSI_936", "", "\xe5\xa2\x99", wall, "");
         row("UTF-8 in R12", "AC1009", "", "", "\xe5\xa2\x99", wall, "");
@@ -189,9 +185,8 @@ private slots:
     void entities()
     {
         const auto drawing = opened(House().bytes());
-        const auto count = [&drawing](const char* name) {
-            return drawing->findLayer(QString::fromLatin1(name))->entityCount;
-        };
+        const auto count = [&drawing](
+                               const char* name) { return drawing->findLayer(name)->entityCount; };
         // Block heads and what follows an owner do not count.
         QCOMPARE(count("wall"), 2);
         QCOMPARE(count("0"), 2);
@@ -251,18 +246,11 @@ private slots:
         QFETCH(QByteArray, bytes);
         QFETCH(QStringList, layers);
         const auto drawing = opened(bytes);
-        QStringList names;
-        for (const Layer& layer : drawing->layers())
-            names += layer.properties.name;
-        QCOMPARE(names, layers);
-        QCOMPARE(drawing->layer(drawing->currentLayer())->properties.name, QStringLiteral("0"));
+        QCOMPARE(layerNames(*drawing), layers);
+        QCOMPARE(currentName(*drawing), "0");
         QCOMPARE(saved(*drawing), bytes);
-        drawing->beginStep("rename");
-        LayerProperties renamed = drawing->layers().back().properties;
-        renamed.name = "Wand";
         const bool isRenamed =
-            drawing->setLayerProperties(drawing->layers().back().id, renamed).has_value();
-        drawing->commitStep();
+            edit(*drawing, layers.last(), [](LayerProperties& p) { p.name = "Wand"; }).isEmpty();
         QCOMPARE(isRenamed, layers.size() > 1);
         QCOMPARE(opened(saved(*drawing))->findLayer("wand") != nullptr, isRenamed);
         checkUndo(*drawing, bytes);
@@ -326,7 +314,7 @@ private slots:
         QVERIFY((*part)->openingNotices().value(0).contains(path));
         const auto kept = (*part)->save(path);
         QVERIFY(!kept && kept.error().text.contains("另存"));
-        QCOMPARE(read(path), bytes);
+        QCOMPARE(contentOf(path), bytes);
         QVERIFY(opened(saved(**part))->entities().size() == size_t(entities));
         QVERIFY(!(*part)->isIncomplete());
     }
@@ -357,22 +345,12 @@ private slots:
 
     void plotStyles()
     {
-        House house;
-        house.wallRecord = "62 5\n390 E1";
-        const QByteArray named =
-            house.bytes()
-                .replace("  9\n$CLAYER", "  9\n$PSTYLEMODE\n290\n     0\n  9\n$CLAYER")
-                .replace("DICTIONARY\n  5\nC\n",
-                    tagged(
-                        "0 DICTIONARY\n5 C\n3 ACAD_PLOTSTYLENAME\n350 E0\n"
-                        "0 ACDBDICTIONARYWDFLT\n5 E0\n3 Normal\n350 F\n3 \\U+534A\\U+8272\n350 E1")
-                        .mid(4));
-        const auto drawing = opened(named);
+        const auto drawing = opened(House::withNamedStyles().bytes());
         const auto style = [&](const char* name) {
-            return drawing->findLayer(QString::fromLatin1(name))->properties.plotStyle;
+            return drawing->findLayer(name)->properties.plotStyle;
         };
-        QCOMPARE(style("0"), QStringLiteral("Normal"));
-        QCOMPARE(style("Wall"), QStringLiteral("半色"));
+        QCOMPARE(style("0"), "Normal");
+        QCOMPARE(style("Wall"), "半色");
         QCOMPARE(style("Empty"), QString());
     }
 };

@@ -1,5 +1,4 @@
 #include "fixture.h"
-#include "rows.h"
 
 using namespace drawing;
 
@@ -14,18 +13,15 @@ class TestReferences : public Fixture
     /// The table's dictionary leads to old filters (D0), newer ones (D1), and an index is there.
     static QByteArray house(const QByteArray& objects)
     {
-        QByteArray lines = House::lines();
-        const int at = lines.indexOf("0 DICTIONARY\n5 A0");
-        lines.remove(at, lines.indexOf("0 ENDSEC", at) - at);
-        lines.insert(
-            at, "0 DICTIONARY\n5 A0\n3 ACAD_LAYERFILTERS\n360 D0\n3 ACLYDICTIONARY\n360 D1\n" +
-                    QByteArray(objects).replace(" | ", "\n"));
         House made;
         made.current = "0";
         made.moreLayers = "0 LAYER\n5 13\n100 AcDbLayerTableRecord\n2 Third\n70 0\n"
                           "0 LAYER\n5 14\n102 {ACAD_XDICTIONARY\n360 C0\n102 }\n"
                           "100 AcDbLayerTableRecord\n2 Third @ 1\n70 0\n";
-        return made.filledIn(lines);
+        made.objects =
+            "0 DICTIONARY | 5 A0 | 3 ACAD_LAYERFILTERS | 360 D0 | 3 ACLYDICTIONARY | 360 D1\n" +
+            objects;
+        return made.bytes();
     }
 
 private slots:
@@ -126,10 +122,7 @@ private slots:
                          record + "\n70 -1\n"));
         const QByteArray original = saved(*drawing);
         change(*drawing, act);
-        QStringList names;
-        for (const Layer& layer : drawing->layers())
-            names += layer.properties.name;
-        QTEST(names, "layers");
+        QTEST(layerNames(*drawing), "layers");
         const QByteArray after = saved(*drawing);
         QCOMPARE(
             after.contains(tagged("340 50\n340 " + pointer + "\n70 -1\n")), !pointer.isEmpty());
@@ -159,7 +152,7 @@ private slots:
         change(*drawing, act);
         QVERIFY(saved(*drawing).contains(tagged(object)));
         const QString notices = drawing->takeNotices().join(QString());
-        QCOMPARE(notices.contains(QStringLiteral("“Third"), Qt::CaseInsensitive), isNoted);
+        QCOMPARE(notices.contains("“Third", Qt::CaseInsensitive), isNoted);
     }
 
     void oldNames_data()
@@ -167,8 +160,8 @@ private slots:
         const Rows<QString, bool> row("name", "isTaken");
         row("longest", QString(31, 'W'), true);
         row("too long", QString(32, 'W'), false);
-        row("letters of the code page", QStringLiteral("墙体_1$-"), true);
-        row("blank", QStringLiteral("Wall 1"), false);
+        row("letters of the code page", "墙体_1$-", true);
+        row("blank", "Wall 1", false);
     }
 
     /// Formats up to R12 hold less; what such a file has is kept.

@@ -1,8 +1,5 @@
+#include "filelimit.h"
 #include "fixture.h"
-#include "rows.h"
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace drawing;
 
@@ -16,7 +13,7 @@ private slots:
     void unchanged()
     {
         QFETCH(QString, path);
-        const QByteArray bytes = read(path);
+        const QByteArray bytes = contentOf(path);
         QVERIFY(saved(*opened(bytes)) == bytes);
     }
 
@@ -25,17 +22,17 @@ private slots:
     {
         const auto drawing = changed();
         const QString path = drawing->path();
-        const QByteArray bytes = read(path);
+        const QByteArray bytes = contentOf(path);
         QVERIFY(drawing->save(path));
         QVERIFY(!drawing->isModified());
         QCOMPARE(edit(*drawing, "Wall", [](LayerProperties& p) { p.name = "Wand"; }), QString());
         QVERIFY(drawing->save(path));
-        QCOMPARE(opened(read(path))->findLayer("wand")->properties.off, true);
+        QCOMPARE(opened(contentOf(path))->findLayer("wand")->properties.off, true);
         drawing->undo();
         drawing->undo();
-        const QString other = m_folder.filePath("other.dxf");
+        const QString other = inFolder("other.dxf");
         QVERIFY(drawing->save(other));
-        QCOMPARE(read(other), bytes);
+        QCOMPARE(contentOf(other), bytes);
         QCOMPARE(drawing->path(), other);
     }
 
@@ -62,23 +59,17 @@ private slots:
         QCOMPARE(drawing->path(), own);
     }
 
-    /// A limit on file sizes fails a write half-way, as a full disk does.
     void fullDisk()
     {
         const auto drawing = changed();
-        const QByteArray bytes = read(drawing->path());
+        const QByteArray bytes = contentOf(drawing->path());
         const QStringList files = QDir(m_folder.path()).entryList();
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit old{};
-        getrlimit(RLIMIT_FSIZE, &old);
-        rlimit low = old;
-        low.rlim_cur = 100;
-        setrlimit(RLIMIT_FSIZE, &low);
-        const auto result = drawing->save(drawing->path());
-        setrlimit(RLIMIT_FSIZE, &old);
-        QVERIFY(!result);
+        {
+            const FileLimit limit(100);
+            QVERIFY(!drawing->save(drawing->path()));
+        }
         QVERIFY(drawing->isModified());
-        QCOMPARE(read(drawing->path()), bytes);
+        QCOMPARE(contentOf(drawing->path()), bytes);
         QCOMPARE(QDir(m_folder.path()).entryList(), files);
         QVERIFY(drawing->save(drawing->path()));
         QVERIFY(!drawing->isModified());
@@ -87,21 +78,20 @@ private slots:
     void cancelled()
     {
         const auto drawing = changed();
-        const QByteArray bytes = read(drawing->path());
+        const QByteArray bytes = contentOf(drawing->path());
         Progress progress;
         progress.cancelled = true;
         const auto result = drawing->save(drawing->path(), &progress);
         QVERIFY(!result && result.error().cancelled);
         QVERIFY(drawing->isModified());
-        QCOMPARE(read(drawing->path()), bytes);
+        QCOMPARE(contentOf(drawing->path()), bytes);
     }
 
     void rewrittenMeanwhile()
     {
         const auto drawing = opened(House().bytes());
-        QFile file(drawing->path());
-        QVERIFY(file.resize(100));
-        const auto result = drawing->save(m_folder.filePath("other.dxf"));
+        QVERIFY(QFile::resize(drawing->path(), 100));
+        const auto result = drawing->save(inFolder("other.dxf"));
         QVERIFY(!result);
         QVERIFY(result.error().text.contains("其他程序"));
     }

@@ -18,7 +18,7 @@ private slots:
         const Rows<QByteArray, QByteArray, QByteArray, QString> row(
             "version", "codePage", "bytes", "text");
 
-        const QString wall = QStringLiteral("墙");
+        const QString wall = "墙";
         row("UTF-8", "AC1021", "ANSI_936", "\xe5\xa2\x99", wall);
         row("GBK", "AC1018", "ANSI_936", "\xc7\xbd", wall);
         row("GBK in lower case", "AC1018", "ansi_936 ", "\xc7\xbd", wall);
@@ -98,7 +98,7 @@ private slots:
     {
         TextCodec codec("AC1027", "");
         codec.setControls(TextCodec::Controls::Raw);
-        QCOMPARE(codec.decode("a\n^J^ "), QStringLiteral("a\n^J^ "));
+        QCOMPARE(codec.decode("a\n^J^ "), "a\n^J^ ");
         QCOMPARE(codec.encode(QString("a\n^") + QChar(0)), QByteArray("a\n^\\U+0000"));
     }
 

@@ -74,7 +74,10 @@ private slots:
 
 private:
     QStringList layers(const QString& name) const;
-    QJsonObject seen(const QString& name) const { return readback::seen(m->path(name)); }
+    QJsonObject seen(const QString& name) const
+    {
+        return readback::seen(m->path(name), "entities");
+    }
 
     std::unique_ptr<ToolFolder> m;
 };

@@ -5,10 +5,10 @@
 #include "recordinghost.h"
 #include "recordinginvoker.h"
 #include "trees.h"
+#include "useracts.h"
 
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QtTest>
 
 #include <functional>
@@ -24,7 +24,7 @@ public:
         : root(tree(json)),
           dialog(module.createDialog(
               name, root, RecordingInvoker::create(host, {"marker", "LayerList"}, answer))),
-          list(ModuleFixture::child<QListWidget>(dialog, "layerList"))
+          list(&child<QListWidget>(dialog, "layerList"))
     {
     }
 
@@ -40,29 +40,11 @@ public:
         return dialog->doModal();
     }
 
-    QStringList texts() const
-    {
-        QStringList all;
-        for (int row = 0; row < list->count(); ++row)
-            all.append(list->item(row)->text());
-        return all;
-    }
-    QLineEdit* edit() const { return ModuleFixture::child<QLineEdit>(dialog, "layerNameEdit"); }
-    void select(const QList<int>& rows) const
-    {
-        list->clearSelection();
-        for (const int row : rows)
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, centre(row));
-    }
-    void doubleClick(int row) const
-    {
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, centre(row));
-        QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, centre(row));
-    }
-    void press(const char* button) const
-    {
-        QTest::mouseClick(ModuleFixture::child<QPushButton>(dialog, button), Qt::LeftButton);
-    }
+    QLineEdit& edit() const { return child<QLineEdit>(dialog, "layerNameEdit"); }
+    void select(const QList<int>& rows) const { pickRows(*list, rows); }
+    void doubleClick(int row) const { clickCell(*list, row, 0, true); }
+    void press(const char* button) const { ::press(*dialog.window(), button); }
+    vnsi::VnJsonPtr record(int row) const { return root->GetDataJ("LayerList")(row); }
     QString listText() const { return toText(root->GetDataJ("LayerList")); }
 
     RecordingHost host;
@@ -70,7 +52,4 @@ public:
     host::WatchedDialog dialog;
     QListWidget* list;
     bool staysOpen = false;
-
-private:
-    QPoint centre(int row) const { return list->visualItemRect(list->item(row)).center(); }
 };

@@ -5,16 +5,6 @@
 
 #include <algorithm>
 
-namespace {
-
-QPoint centreOf(QTableWidget& table, int row, int column)
-{
-    table.scrollToItem(table.item(row, column));
-    return table.visualItemRect(table.item(row, column)).center();
-}
-
-} // namespace
-
 QString layer(const QString& name, int status, const QString& more)
 {
     return QStringLiteral(R"({"LayerName":"%1","CurLayer":%2%3})").arg(name).arg(status).arg(more);
@@ -30,21 +20,16 @@ ManagerDriver::ManagerDriver(ModuleFixture& module, const QString& json,
     : root(json.isEmpty() ? vnsi::VnJsonPtr() : tree(json)),
       invoker(RecordingInvoker::create(host, keys, std::move(answer))),
       dialog(module.createDialog("Dialog/CmdLayer", root, invoker)),
-      table(ModuleFixture::child<QTableWidget>(dialog, "layerTable"))
+      table(&child<QTableWidget>(dialog, "layerTable"))
 {
     dialog.window()->show();
     if (!QTest::qWaitForWindowActive(dialog.window()))
         QTest::qFail("the window did not come up", __FILE__, __LINE__);
 }
 
-QPushButton* ManagerDriver::button(const char* name) const
-{
-    return ModuleFixture::child<QPushButton>(dialog, name);
-}
-
 QString ManagerDriver::label(const char* name) const
 {
-    return ModuleFixture::child<QLabel>(dialog, name)->text();
+    return child<QLabel>(dialog, name).text();
 }
 
 QList<int> ManagerDriver::selectedRows() const
@@ -62,30 +47,4 @@ bool ManagerDriver::shows(int row, int column, const char* name) const
     const QIcon expected(QStringLiteral(":/res/Resources/layer_%1.bmp").arg(name));
     const QImage image = cell(row, column)->icon().pixmap(size).toImage();
     return !image.isNull() && image == expected.pixmap(size).toImage();
-}
-
-void ManagerDriver::click(int row, int column) const
-{
-    QTest::mouseClick(
-        table->viewport(), Qt::LeftButton, Qt::NoModifier, centreOf(*table, row, column));
-}
-
-void ManagerDriver::doubleClick(int row, int column) const
-{
-    click(row, column);
-    QTest::mouseDClick(
-        table->viewport(), Qt::LeftButton, Qt::NoModifier, centreOf(*table, row, column));
-}
-
-void ManagerDriver::select(const QList<int>& rows) const
-{
-    table->clearSelection();
-    for (const int row : rows)
-        QTest::mouseClick(
-            table->viewport(), Qt::LeftButton, Qt::ControlModifier, centreOf(*table, row, 1));
-}
-
-void ManagerDriver::press(const char* name) const
-{
-    QTest::mouseClick(button(name), Qt::LeftButton);
 }

@@ -4,8 +4,8 @@
 #include "recordinghost.h"
 #include "recordinginvoker.h"
 #include "trees.h"
+#include "useracts.h"
 
-#include <QPushButton>
 #include <QTableWidget>
 
 /// The record of a layer; `more` are further members, with a comma before each.
@@ -26,16 +26,16 @@ public:
     vnsi::VnJsonPtr record(int row) const { return root->GetDataJ("LayerList")(row); }
     QString recordText(int row) const { return toText(record(row)); }
     bool isApplyEnabled() const { return button("applyButton")->isEnabled(); }
-    QPushButton* button(const char* name) const;
+    QPushButton* button(const char* name) const { return &child<QPushButton>(dialog, name); }
     QString label(const char* name) const;
     QList<int> selectedRows() const;
     /// Whether the cell shows the bitmap "layer_<name>.bmp".
     bool shows(int row, int column, const char* name) const;
 
-    void click(int row, int column) const;
-    void doubleClick(int row, int column) const;
-    void select(const QList<int>& rows) const;
-    void press(const char* button) const;
+    void click(int row, int column) const { clickCell(*table, row, column); }
+    void doubleClick(int row, int column) const { clickCell(*table, row, column, true); }
+    void select(const QList<int>& rows) const { pickRows(*table, rows, 1); }
+    void press(const char* name) const { button(name)->click(); }
 
     RecordingHost host;
     vnsi::VnJsonPtr root;

@@ -52,7 +52,7 @@ private slots:
             user.select(rows);
             user.press("okButton"); // Declined first.
             for (int i = 0; i < 3; ++i) {
-                const VnJsonPtr record = user.root->GetDataJ("LayerList")(i);
+                const VnJsonPtr record = user.record(i);
                 QCOMPARE(record->GetDataB("IsSelected", !rows.contains(i)), rows.contains(i));
                 QVERIFY(!host::hasKey(record, "CurLayer") && !host::hasKey(record, "Modified"));
             }
@@ -65,7 +65,7 @@ private slots:
         QVERIFY(driver.host.log()[0].startsWith("request|6|0|"));
         QCOMPARE(driver.host.log()[1], "messageEx|图层删除 - 删除确认|" + question + "|1|1|32");
         for (int i = 0; i < 3; ++i) {
-            const VnJsonPtr record = driver.root->GetDataJ("LayerList")(i);
+            const VnJsonPtr record = driver.record(i);
             QCOMPARE(record->GetDataI("CurLayer", -1), rows.contains(i) ? 2 : -1);
             QCOMPARE(record->GetDataI("Modified", -1), rows.contains(i) ? 1 : -1);
         }
@@ -77,14 +77,14 @@ private slots:
         driver.host.answer(1);
         QCOMPARE(driver.run([](ListDriver& user) { user.doubleClick(1); }), 1);
         QVERIFY(driver.host.log().last().contains("图层 b 将被删除"));
-        QVERIFY(!host::hasKey(driver.root->GetDataJ("LayerList")(2), "CurLayer")); // Not "B".
+        QVERIFY(!host::hasKey(driver.record(2), "CurLayer")); // Not "B".
     }
 
     void doesNothingUnselected()
     {
         ListDriver driver(m_module, kName, kLayers);
         QCOMPARE(driver.run([](ListDriver& user) {
-            QCOMPARE(user.texts(), (QStringList{"A%1", "b", "B"}));
+            QCOMPARE(textsOf(*user.list), (QStringList{"A%1", "b", "B"}));
             QCOMPARE(user.dialog.window()->windowTitle(), QString("删除图层"));
             QCOMPARE(user.list->currentRow(), 0);
             user.list->clearSelection();
@@ -102,7 +102,7 @@ private slots:
     void staysEmptyWithoutCommand()
     {
         const auto dialog = m_module.createDialog(kName, tree(kLayers));
-        QCOMPARE(ModuleFixture::child<QListWidget>(dialog, "layerList")->count(), 0);
+        QCOMPARE(child<QListWidget>(dialog, "layerList").count(), 0);
     }
 
 private:

@@ -112,9 +112,9 @@ private slots:
         for (const char* focused : {"layerTable", "okButton"}) {
             ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
             manager.select({0, 1});
-            auto* const widget = ModuleFixture::child<QWidget>(manager.dialog, focused);
-            widget->setFocus();
-            typeKey(widget, Qt::Key_Delete, "\x7f");
+            auto& widget = child<QWidget>(manager.dialog, focused);
+            widget.setFocus();
+            typeKey(&widget, Qt::Key_Delete, "\x7f");
             QCOMPARE(manager.host.log(), (QStringList{refusal(1, 2), request(1)}));
             QVERIFY(manager.shows(1, 0, "deleted"));
             QCOMPARE(manager.table->currentRow(), 1); // The keyboard goes on from here.
@@ -145,7 +145,7 @@ private slots:
         manager.press("newLayerButton");
         QCOMPARE(manager.host.log(), QStringList{request(0)});
         QCOMPARE(manager.table->rowCount(), 4);
-        QCOMPARE(manager.label("layerCountLabel"), QStringLiteral("全部：共4个图层"));
+        QCOMPARE(manager.label("layerCountLabel"), "全部：共4个图层");
         QCOMPARE(manager.selectedRows(), (QList<int>{1, 3}));
         QVERIFY(!manager.record(2)->GetDataB("Selected", true));
         QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
@@ -251,7 +251,7 @@ private slots:
         manager.select(rows);
         manager.press("setCurrentButton");
         QVERIFY(manager.host.log().isEmpty());
-        QCOMPARE(manager.label("currentLayerLabel"), QStringLiteral("当前图层：A"));
+        QCOMPARE(manager.label("currentLayerLabel"), "当前图层：A");
         QVERIFY(!manager.record(0)->GetDataB("Modified"));
         QTEST(manager.isApplyEnabled(), "enables");
     }
@@ -349,7 +349,7 @@ private slots:
         ManagerDriver manager(m_module, layerTree({layer("A", 0)}));
         manager.host.answer(1, R"({"Success":true,"NewName":" <> "})");
         manager.doubleClick(0, 1);
-        QCOMPARE(manager.text(0, 1), QStringLiteral(" <> "));
+        QCOMPARE(manager.text(0, 1), " <> ");
     }
 
     void refusesToRename_data()
@@ -386,7 +386,7 @@ private slots:
         manager.doubleClick(0, 12);
         QCOMPARE(manager.host.log(), QStringList{"dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|"
                                                  R"({"DefaultName":"旧","Tip":"说明:"})"});
-        QCOMPARE(manager.text(0, 12), QStringLiteral(" <新> "));
+        QCOMPARE(manager.text(0, 12), " <新> ");
         QCOMPARE(manager.cell(0, 12)->textAlignment(), 129);
         QVERIFY(manager.record(0)->GetDataB("Modified"));
     }
@@ -457,19 +457,17 @@ private slots:
     {
         QFETCH(QString, json);
         RecordingHost host;
-        const QList<const char*> buttons{"newLayerButton", "deleteLayerButton", "setCurrentButton",
+        const QStringList buttons{"newLayerButton", "deleteLayerButton", "setCurrentButton",
             "applyButton", "cancelButton", "okButton"};
-        for (const char* name : buttons) {
+        for (const QString& name : buttons) {
             const VnJsonPtr root = json.isEmpty() ? VnJsonPtr() : tree(json);
             const auto dialog = m_module.createDialog("Dialog/CmdLayer", root);
             dialog.window()->show();
-            ModuleFixture::child<QTableWidget>(dialog, "layerTable")->selectRow(1);
-            auto* const button = ModuleFixture::child<QPushButton>(dialog, name);
-            button->setEnabled(true);
-            button->click();
-            const bool closes =
-                button->objectName() == "okButton" || button->objectName() == "cancelButton";
-            QCOMPARE(dialog.window()->isVisible(), !closes);
+            child<QTableWidget>(dialog, "layerTable").selectRow(1);
+            auto& button = child<QPushButton>(dialog, qPrintable(name));
+            button.setEnabled(true);
+            button.click();
+            QCOMPARE(dialog.window()->isVisible(), buttons.indexOf(name) < 4);
         }
         QVERIFY(host.log().isEmpty());
     }

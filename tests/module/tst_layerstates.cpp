@@ -1,10 +1,7 @@
+#include "dialogfixture.h"
 #include "hostextras.h"
-#include "recordinghost.h"
-#include "recordinginvoker.h"
 #include "rows.h"
 #include "sysvars.h"
-#include "trees.h"
-#include "useracts.h"
 #include "valuetree.h"
 #include "vnsettings.h"
 #include "vnstrings.h"
@@ -46,8 +43,7 @@ const QString kEditTree = QStringLiteral(R"({"LayerStateMgr":[{},{},{"selectItem
 constexpr char kManager[] = "Dialog/CmdLayerState";
 constexpr char kElements[] = "LayerStateMgr";
 
-const QString kBadCharacters =
-    QStringLiteral("名称包含不支持的字符。\n 不支持以下字符：\n  \\<>/?\":;*|,=`|");
+const QString kBadCharacters = "名称包含不支持的字符。\n 不支持以下字符：\n  \\<>/?\":;*|,=`|";
 
 QString text(const VnJsonPtr& node, const char* key)
 {
@@ -60,7 +56,7 @@ QString texts(const VnJsonPtr& list, const char* key)
     QStringList texts;
     for (int i = 0; i < list.ArrayCount(); ++i)
         texts += text(list(i), key);
-    return texts.join(QLatin1Char(' '));
+    return texts.join(' ');
 }
 
 /// A button of the manager: what it asks, how the host answers that, and what it sends then.
@@ -138,43 +134,39 @@ Q_DECLARE_METATYPE(const ButtonRow*)
 Q_DECLARE_METATYPE(const MischiefRow*)
 
 /// The four dialogs of layer states, by what they show, ask and send.
-class TestLayerStates : public QObject
+class TestLayerStates : public DialogFixture
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_host = std::make_unique<RecordingHost>();
+        start();
         host::setVar(L"TILEMODE", 1);
         const VnJsonPtr config = vn_user_config(L"LayerState_dialog");
         for (const char* key : {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand"})
             hostextras::removeKey(*config, key);
     }
 
-    void cleanup()
-    {
-        m_dialog = {};
-        m_host.reset();
-    }
+    void cleanup() { stop(); }
 
     /// Whatever the records say, the last row is the one selected.
     void filled()
     {
         open(kManager, kTree);
-        auto& table = find("stateTable");
+        auto& table = find<QTableWidget>("stateTable");
         QCOMPARE(rowTexts(table),
             QStringList({"A|模型|是|first", "B|布局|否|", "X|R|外部参照|否|", "D|模型|否|"}));
         QCOMPARE(table.selectionModel()->selectedRows().size(), 1);
         QVERIFY(table.item(3, 0)->isSelected());
-        QCOMPARE(find<QLabel>("statusLabel").text(), QStringLiteral("当前图层状态: B"));
+        QCOMPARE(find<QLabel>("statusLabel").text(), "当前图层状态: B");
         find<QCheckBox>("referenceBox").click();
         QCOMPARE(table.rowCount(), 3);
         QVERIFY(table.item(2, 0)->isSelected());
 
         m_dialog = m_module.createDialog(kManager, {});
-        QCOMPARE(find<QLabel>("statusLabel").text(), QStringLiteral("当前图层状态: *未保存*"));
-        QVERIFY(!find<QPushButton>("restoreButton").isEnabled());
+        QCOMPARE(find<QLabel>("statusLabel").text(), "当前图层状态: *未保存*");
+        QVERIFY(!isEnabled("restoreButton"));
     }
 
     /// Eleven boxes in the order of the screen, each with its bit; they show the selected state's
@@ -186,10 +178,10 @@ private slots:
         QStringList shown;
         for (const QCheckBox* box : panel.findChild<QGroupBox*>()->findChildren<QCheckBox*>())
             shown += box->text() + box->objectName().mid(7);
-        QCOMPARE(shown.join(QLatin1Char(' ')),
-            QStringLiteral("开/关(&O)1 冻结/解冻(&F)2 在当前视口中的可见性(&U)512 锁定/解锁(&K)4 "
-                           "打印/不打印(&P)8 颜色(&L)32 线型(&P)64 线宽(&G)128 透明度(&T)1024 "
-                           "打印样式(&V)256 新视口冻结/解冻(&Z)16"));
+        QCOMPARE(shown.join(' '),
+            "开/关(&O)1 冻结/解冻(&F)2 在当前视口中的可见性(&U)512 锁定/解锁(&K)4 "
+            "打印/不打印(&P)8 颜色(&L)32 线型(&P)64 线宽(&G)128 透明度(&T)1024 "
+            "打印样式(&V)256 新视口冻结/解冻(&Z)16");
         const auto checkedBits = [&] {
             int bits = 0;
             for (const QCheckBox* box : panel.findChildren<QCheckBox*>())
@@ -230,7 +222,7 @@ private slots:
         openManager(rows);
         QStringList enabled;
         const auto note = [&](const QString& before, const QString& shown, const QString& after) {
-            if (find<QWidget>((before + shown + after).toUtf8().constData()).isEnabled())
+            if (isEnabled((before + shown + after).toUtf8().constData()))
                 enabled += shown;
         };
         for (const char* button : {"save", "edit", "rename", "delete", "export", "restore"})
@@ -239,7 +231,7 @@ private slots:
             note({}, box, "Box");
         for (const char* bit : {"1", "2", "512", "32"})
             note("maskBox", bit, {});
-        QTEST(enabled.join(QLatin1Char(' ')), "enabled");
+        QTEST(enabled.join(' '), "enabled");
     }
 
     void requests_data()
@@ -285,7 +277,7 @@ private slots:
             return 1;
         });
         press("renameButton");
-        QTEST(m_host->log().mid(1).join('&'), "outcome");
+        QTEST(log().mid(1).join('&'), "outcome");
     }
 
     void deletedSeveral_data()
@@ -312,10 +304,9 @@ private slots:
         for (const int answer : answers)
             m_host->answer(answer);
         press("deleteButton");
-        QCOMPARE(m_host->log().first(),
-            QStringLiteral("messageEx|图层 - 删除图层状态|是否确实要删除图层状态 A?|6|1|64|是|"
-                           "全部删除|否|取消"));
-        QTEST(sent.join(QLatin1Char(',')), "sent");
+        QCOMPARE(log().first(), "messageEx|图层 - 删除图层状态|是否确实要删除图层状态 A?|6|1|64|是|"
+                                "全部删除|否|取消");
+        QTEST(sent.join(','), "sent");
     }
 
     void imported_data()
@@ -354,9 +345,9 @@ private slots:
             press("exportButton");
         }
         emit table.itemClicked(table.item(1, kDescription));
-        QCOMPARE(m_host->log().size(), 3);
-        QVERIFY(m_host->log().first().contains(R"("dir":"A")"));
-        QCOMPARE(m_host->log().at(1), QStringLiteral(R"(request|7|1|{"LStateName":"A"})"));
+        QCOMPARE(log().size(), 3);
+        QVERIFY(log().first().contains(R"("dir":"A")"));
+        QCOMPARE(log().at(1), QStringLiteral(R"(request|7|1|{"LStateName":"A"})"));
     }
 
     void elementsChange_data()
@@ -385,7 +376,7 @@ private slots:
         QCOMPARE(table.rowCount(), button->fillsAgain ? mischief->rowsLeft : 4);
         const bool restores = button->code() == 6 && mischief->rowsLeft > 0;
         QCOMPARE(codes(), QString::number(button->code()) + (restores ? " 5" : ""));
-        QCOMPARE(m_dialog.window()->isVisible(), button->code() != 5);
+        QCOMPARE(isOpen(), button->code() != 5);
     }
 
     void deletesOnWithoutElements_data()
@@ -413,7 +404,7 @@ private slots:
         press("deleteLayerButton");
         press("okButton");
         QCOMPARE(codes(), QString(hasElements ? "2 1" : "2"));
-        QVERIFY(!m_dialog.window()->isVisible());
+        QVERIFY(!isOpen());
     }
 
     void brokenOff_data()
@@ -449,7 +440,7 @@ private slots:
         press("restoreButton");
         m_host->answer(6);
         press("saveButton");
-        QCOMPARE(m_host->log().size(), 1);
+        QCOMPARE(log().size(), 1);
     }
 
     void settings()
@@ -465,7 +456,7 @@ private slots:
         QVERIFY(config->GetDataB("IsExpand") && host::hasKey(config, "isWCheckBox"));
         QVERIFY(!config->GetDataB("isWCheckBox"));
         open(kManager, kTree);
-        QCOMPARE(find("stateTable").rowCount(), 3);
+        QCOMPARE(find<QTableWidget>("stateTable").rowCount(), 3);
         QVERIFY(find<QPushButton>("extendButton").isChecked());
         QVERIFY(!find<QWidget>("maskPanel").isHidden());
     }
@@ -496,35 +487,31 @@ private slots:
         auto& box = find<QComboBox>("nameBox");
         const auto& ok = find<QPushButton>("okButton");
         QVERIFY(box.currentText().isEmpty() && !ok.isEnabled());
-        box.setEditText(QStringLiteral("  "));
+        box.setEditText("  ");
         QVERIFY(!ok.isEnabled());
         box.setCurrentIndex(0); // Picked from the list; its description comes along.
-        QCOMPARE(find<QTextEdit>("descriptionEdit").toPlainText(), QStringLiteral("old"));
+        QCOMPARE(find<QTextEdit>("descriptionEdit").toPlainText(), "old");
         QVERIFY(ok.isEnabled());
         box.setEditText(name);
         if (answer != kNotAsked)
             m_host->answer(answer);
         press("okButton");
-        QTEST(m_host->log().join(QLatin1Char('&')), "asked");
+        QTEST(log().join('&'), "asked");
         QTEST(text(m_tree, "LayerStateNewName"), "taken");
         const bool isTaken = host::hasKey(m_tree, "LayerStateNewName");
-        QCOMPARE(m_dialog.window()->isVisible(), !isTaken);
+        QCOMPARE(isOpen(), !isTaken);
         QCOMPARE(host::hasKey(m_tree, "desc"), isTaken);
     }
 
     void editFilled()
     {
         const auto& table = openEditor();
-        QCOMPARE(m_dialog.window()->windowTitle(), QStringLiteral("编辑图层状态: A"));
-        QStringList headers;
-        for (int column = 0; column < table.columnCount(); ++column)
-            headers += table.horizontalHeaderItem(column)->text();
-        QCOMPARE(headers.join(QLatin1Char(' ')),
-            QStringLiteral(
-                "名称 开 在所有视口中冻结 锁定 颜色 线型 线宽 透明度 打印样式 打印 新视口冻结"));
+        QCOMPARE(title(), "编辑图层状态: A");
+        QCOMPARE(headersOf(table),
+            "名称 开 在所有视口中冻结 锁定 颜色 线型 线宽 透明度 打印样式 打印 新视口冻结");
         QCOMPARE(table.rowCount(), 3);
-        QCOMPARE(rowTexts(table).at(1).section('|', -6, -4), QStringLiteral("Dashed|0.50 mm|20"));
-        QVERIFY(rowTexts(table).at(0).startsWith(QLatin1String("0|")));
+        QCOMPARE(rowTexts(table).at(1).section('|', -6, -4), "Dashed|0.50 mm|20");
+        QVERIFY(rowTexts(table).at(0).startsWith("0|"));
     }
 
     void editClicks_data()
@@ -554,7 +541,7 @@ private slots:
         QFETCH(int, answer);
         QFETCH(QString, key);
         auto& table = openEditor();
-        if (key == QLatin1String("Color"))
+        if (key == "Color")
             m_host->answer(1, QStringLiteral(R"({"clrMethod":194,"selectClr":5})"));
         else if (answer != kNotAsked)
             m_host->answer(answer);
@@ -564,7 +551,7 @@ private slots:
         const QJsonArray member{toJsonObject(record).value(key)};
         const QByteArray json = QJsonDocument(member).toJson(QJsonDocument::Compact);
         QTEST(QString::fromUtf8(json.mid(1, json.size() - 2)), "value");
-        if (key == QLatin1String("CurLayer"))
+        if (key == "CurLayer")
             QCOMPARE(list(0)->GetDataI("CurLayer"), row == 0 ? 1 : 0);
     }
 
@@ -584,7 +571,7 @@ private slots:
         QCOMPARE(table.rowCount(), 2);
         m_host->answer(choose);
         press("newLayerButton");
-        QCOMPARE(offered, QStringLiteral("0 New gone"));
+        QCOMPARE(offered, "0 New gone");
         QCOMPARE(table.rowCount(), 5);
         const VnJsonPtr list = element(2)->GetDataJ("LayerStateList");
         QCOMPARE(list.ArrayCount(), 7);
@@ -599,9 +586,8 @@ private slots:
         m_host->takeLog();
         press("newLayerButton");
         QCOMPARE(m_host->takeLog(),
-            QStringList(
-                QStringLiteral("messageEx|图层状态 - 添加图层|所有图层都已包含在此图层状态中。"
-                               "没有可添加的图层。|6|1|0|关闭(&C)")));
+            QStringList("messageEx|图层状态 - 添加图层|所有图层都已包含在此图层状态中。"
+                        "没有可添加的图层。|6|1|0|关闭(&C)"));
     }
 
     void editSends_data()
@@ -620,7 +606,7 @@ private slots:
             press("deleteLayerButton");
         press("okButton");
         QTEST(codes(), "codes");
-        QCOMPARE(m_host->log().filter(QRegularExpression("^request\\|\\d\\|2\\|")), m_host->log());
+        QCOMPARE(log().filter(QRegularExpression("^request\\|\\d\\|2\\|")), log());
     }
 
     void addDialog_data()
@@ -637,43 +623,32 @@ private slots:
         open("Dialog/CmdLayerStateAddNewLayer",
             QStringLiteral(R"({"NeedAddlayerList":[{"LayerName":"Wall","Description":"d"},
                 {"LayerName":"wall","Selected":true},{"LayerName":"Door"}]})"));
-        auto& table = find("candidateTable");
+        auto& table = find<QTableWidget>("candidateTable");
         QVERIFY(table.itemDelegate()); // Else the rows are there, but nothing of them is painted.
-        QCOMPARE(rowTexts(table).first(), QStringLiteral("Wall|d"));
+        QCOMPARE(rowTexts(table).first(), "Wall|d");
         QVERIFY(table.selectedItems().isEmpty());
         const VnJsonPtr list = m_tree->GetDataJ("NeedAddlayerList");
         selectRows(table, rows);
         press("okButton");
         QTEST(texts(list, "LayerName"), "kept"); // In place: the caller has the list in its hands.
-        QVERIFY(!m_dialog.window()->isVisible());
+        QVERIFY(!isOpen());
     }
 
 private:
-    void open(const char* name, const QString& json, const QStringList& keys = {"none"})
-    {
-        m_tree = tree(json);
-        m_invoker = RecordingInvoker::create(*m_host, keys);
-        m_dialog = m_module.createDialog(name, m_tree, OdRxObjectPtr(m_invoker.get()));
-        m_dialog.window()->show();
-    }
-    template <class T = QTableWidget>
-    T& find(const char* name) const
-    {
-        return *ModuleFixture::child<T>(m_dialog, name);
-    }
-    void press(const char* button) const { ::press(*m_dialog.window(), button); }
     /// The manager with these rows selected.
     QTableWidget& openManager(const QList<int>& rows, const QStringList& keys = {"none"})
     {
         open(kManager, kTree, keys);
-        selectRows(find("stateTable"), rows);
-        return find("stateTable");
+        auto& table = find<QTableWidget>("stateTable");
+        selectRows(table, rows);
+        return table;
     }
     QTableWidget& openEditor()
     {
         open("Dialog/CmdLayerStateEdit", kEditTree);
-        return find("stateLayerTable");
+        return find<QTableWidget>("stateLayerTable");
     }
+    using DialogFixture::press;
     void press(const ButtonRow& row)
     {
         if (row.answer != kNotAsked)
@@ -684,7 +659,7 @@ private:
     {
         if (row.name)
             return press(row.name);
-        auto& table = find("stateTable");
+        auto& table = find<QTableWidget>("stateTable");
         emit table.itemClicked(table.item(0, kDescription));
     }
     VnJsonPtr element(int index) const { return m_tree->GetDataJ(kElements)(index); }
@@ -692,16 +667,10 @@ private:
     QString codes() const
     {
         QStringList all;
-        for (const QString& line : m_host->log().filter(QRegularExpression("^request")))
+        for (const QString& line : log().filter(QRegularExpression("^request")))
             all += line.section('|', 1, 1);
-        return all.join(QLatin1Char(' '));
+        return all.join(' ');
     }
-
-    ModuleFixture m_module;
-    std::unique_ptr<RecordingHost> m_host;
-    RecordingInvoker::Ptr m_invoker;
-    VnJsonPtr m_tree;
-    host::WatchedDialog m_dialog;
 };
 
 QTEST_MAIN(TestLayerStates)

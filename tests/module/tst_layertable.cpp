@@ -16,15 +16,12 @@ private slots:
     void columnsAreAsAgreed()
     {
         const ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
-        const QStringList headers{"状态", "名称", "开", "冻结", "锁定", "颜色", "线型", "线宽",
-            "透明度", "打印样式", "打印", "新视口冻结", "说明"};
+        QCOMPARE(headersOf(*manager.table),
+            "状态 名称 开 冻结 锁定 颜色 线型 线宽 透明度 打印样式 打印 新视口冻结 说明");
         const QList<int> alignments{
             129, 129, 132, 132, 132, 132, 129, 129, 129, 129, 132, 132, 129};
-        QCOMPARE(manager.table->columnCount(), headers.size());
-        for (int column = 0; column < headers.size(); ++column) {
-            QCOMPARE(manager.table->horizontalHeaderItem(column)->text(), headers[column]);
+        for (int column = 0; column < alignments.size(); ++column)
             QCOMPARE(manager.cell(0, column)->textAlignment(), alignments[column]);
-        }
         QVERIFY(manager.table->hasFocus());
     }
 

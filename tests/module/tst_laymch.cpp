@@ -51,7 +51,7 @@ private slots:
         if (answer)
             driver.host.answer(answer);
         const int result = driver.run([&](ListDriver& user) {
-            user.edit()->setText(typed);
+            user.edit().setText(typed);
             user.press("okButton");
         });
         QTEST(result, "result");
@@ -64,18 +64,18 @@ private slots:
     {
         ListDriver driver(m_module, kName, kLayers);
         QCOMPARE(driver.run([](ListDriver& user) {
-            QCOMPARE(user.edit()->text(), QStringLiteral("0"));
+            QCOMPARE(user.edit().text(), "0");
             QTest::keyClick(user.list, Qt::Key_Down);
-            QCOMPARE(user.edit()->text(), QStringLiteral("Layer1"));
-            user.edit()->setText("other");
+            QCOMPARE(user.edit().text(), "Layer1");
+            user.edit().setText("other");
             user.select({1}); // A click on the current item copies it again.
-            QCOMPARE(user.edit()->text(), QStringLiteral("Layer1"));
+            QCOMPARE(user.edit().text(), "Layer1");
             user.press("helpButton");
             user.doubleClick(0);
         }),
             1);
         QCOMPARE(driver.host.log(), QStringList{"help|0"}); // No request is sent.
-        QCOMPARE(driver.root->GetDataJ("LayerList")(0)->GetDataI("CurLayer"), 4);
+        QCOMPARE(driver.record(0)->GetDataI("CurLayer"), 4);
     }
 
     void createsWithoutAnyRecord()
@@ -83,11 +83,11 @@ private slots:
         ListDriver driver(m_module, kName, R"({"LayerList":[]})");
         driver.host.answer(6);
         QCOMPARE(driver.run([](ListDriver& user) {
-            user.edit()->setText("x");
+            user.edit().setText("x");
             user.press("okButton");
         }),
             1);
-        QCOMPARE(driver.listText(), QStringLiteral("[]"));
+        QCOMPARE(driver.listText(), "[]");
     }
 
 private:

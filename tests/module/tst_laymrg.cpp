@@ -26,7 +26,7 @@ QList<int> marks(const ListDriver& driver)
 {
     QList<int> all;
     for (int i = 0; i < driver.list->count(); ++i) {
-        const vnsi::VnJsonPtr record = driver.root->GetDataJ("LayerList")(i);
+        const vnsi::VnJsonPtr record = driver.record(i);
         all.append(record->GetDataI("Modified") ? record->GetDataI("CurLayer") : 0);
     }
     return all;
@@ -42,7 +42,7 @@ private slots:
     void marksSources()
     {
         ListDriver driver(m_module, kName, layers(true));
-        QCOMPARE(driver.dialog.window()->windowTitle(), QStringLiteral("合并图层"));
+        QCOMPARE(driver.dialog.window()->windowTitle(), "合并图层");
         QVERIFY(!driver.dialog.window()->findChild<QLineEdit*>());
         QCOMPARE(driver.list->selectionMode(), QAbstractItemView::ExtendedSelection);
         QCOMPARE(driver.run([](ListDriver& user) {
@@ -73,7 +73,7 @@ private slots:
         QFETCH(QString, typed);
         ListDriver driver(m_module, kName, layers(false, 1));
         const int result = driver.run([&](ListDriver& user) {
-            user.edit()->setText(typed);
+            user.edit().setText(typed);
             user.press("okButton");
         });
         QCOMPARE(result, 2);
@@ -98,12 +98,12 @@ private slots:
         QFETCH(int, blocks);
         QFETCH(QString, question);
         ListDriver driver(m_module, kName, layers(false, sources, blocks));
-        QCOMPARE(driver.dialog.window()->windowTitle(), QStringLiteral("合并到图层"));
+        QCOMPARE(driver.dialog.window()->windowTitle(), "合并到图层");
         driver.host.answer(7);
         driver.host.answer(6);
         const QList<int> marked{0, 11, 0, 0, 0}; // Only the first of that name.
         const int result = driver.run([&](ListDriver& user) {
-            QCOMPARE(user.edit()->text(), QStringLiteral("A"));
+            QCOMPARE(user.edit().text(), "A");
             user.select({1});
             user.press("okButton");
             QVERIFY(user.dialog.window()->isVisible());

@@ -1,8 +1,6 @@
+#include "dialogfixture.h"
 #include "linetypes.h"
-#include "recordinghost.h"
 #include "rows.h"
-#include "trees.h"
-#include "useracts.h"
 #include "valuetree.h"
 #include "vnpickers.h"
 
@@ -16,26 +14,20 @@ namespace {
 const char kSettings[] = "Dialog/CmdLaytransSetting";
 const char kNewEdit[] = "Dialog/CmdLaytransNewEdit";
 
-template <class T>
-T& child(const host::WatchedDialog& dialog, const char* name)
-{
-    return *ModuleFixture::child<T>(dialog, name);
-}
-
 } // namespace
 
 /// The two small dialogs of the layer translator.
-class TestLaytransForms : public QObject
+class TestLaytransForms : public DialogFixture
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_host = std::make_unique<RecordingHost>();
+        start();
         host::setLineTypes({{L"Dashed", OdDbObjectId(0x20)}, {L"CENTER", OdDbObjectId(0x21)}});
     }
-    void cleanup() { m_host.reset(); }
+    void cleanup() { stop(); }
 
     /// What six elements say is shown and given back; any other number is no record.
     void settings_data()
@@ -55,58 +47,54 @@ private slots:
         // 1 and 0 stand for the two values, 2 for an element without one.
         given.replace('1', R"({"LtransSettingData":true})");
         given.replace('0', R"({"LtransSettingData":false})").replace('2', "{}");
-        const VnJsonPtr root =
-            tree(given.isEmpty() ? "{}" : R"({"qLtransSettingParamset":)" + given + "}");
-        const auto dialog = m_module.createDialog(kSettings, root);
-        const auto box = [&](int option) {
-            return ModuleFixture::child<QCheckBox>(
-                dialog, ("optionBox" + QByteArray::number(option)).constData());
-        };
+        open(kSettings, given.isEmpty() ? "{}" : R"({"qLtransSettingParamset":)" + given + "}");
         for (int option = 0; option < 6; ++option)
-            QCOMPARE(box(option)->isChecked(), checked[option] == '1');
-        box(4)->setTristate(true);
-        box(4)->setCheckState(Qt::PartiallyChecked); // Which is not checked.
-        press(*dialog.window(), "okButton");
+            QCOMPARE(
+                find<QCheckBox>(("optionBox" + QByteArray::number(option)).constData()).isChecked(),
+                checked[option] == '1');
+        auto& partial = find<QCheckBox>("optionBox4");
+        partial.setTristate(true);
+        partial.setCheckState(Qt::PartiallyChecked); // Which is not checked.
+        press("okButton");
         checked[4] = '0';
-        const VnJsonPtr out = root->GetDataJ("LtransSettingParamOut");
+        const VnJsonPtr out = m_tree->GetDataJ("LtransSettingParamOut");
         QCOMPARE(out.ArrayCount(), 6);
         for (int option = 0; option < 6; ++option)
             QCOMPARE(out(option)->GetDataB("LtransSettingData", checked[option] != '1'),
                 checked[option] == '1');
-        QCOMPARE(root->GetDataI("result"), 1);
+        QCOMPARE(m_tree->GetDataI("result"), 1);
     }
 
     void cancelWritesNothing()
     {
         for (const char* name : {kSettings, kNewEdit}) {
-            const VnJsonPtr root = tree(R"({"ltransInitIsEditLayer":true})");
-            const QString before = toText(root);
-            const auto dialog = m_module.createDialog(name, root);
-            press(*dialog.window(), "helpButton");
-            press(*dialog.window(), "cancelButton");
-            QCOMPARE(toText(root), before);
+            open(name, R"({"ltransInitIsEditLayer":true})");
+            const QString before = toText(m_tree);
+            press("helpButton");
+            press("cancelButton");
+            QCOMPARE(toText(m_tree), before);
         }
-        QCOMPARE(m_host->log(), (QStringList{"help|0", "help|0"}));
+        QCOMPARE(log(), (QStringList{"help|0", "help|0"}));
     }
 
     void preparesBoxes()
     {
-        const auto dialog = m_module.createDialog(kNewEdit, tree("{}"));
-        QCOMPARE(dialog.window()->windowTitle(), QStringLiteral("新图层"));
-        QCOMPARE(textsOf(child<VnLineTypeComboBox>(dialog, "linetypeBox")),
+        open(kNewEdit, "{}");
+        QCOMPARE(title(), "新图层");
+        QCOMPARE(textsOf(find<VnLineTypeComboBox>("linetypeBox")),
             (QStringList{"Dashed", "CENTER", "Continuous"}));
-        const auto& weights = child<VnLineWidthComboBox>(dialog, "lineWidthBox");
+        const auto& weights = find<VnLineWidthComboBox>("lineWidthBox");
         QCOMPARE(textsOf(weights).mid(0, 2), (QStringList{"默认", "0.00 mm"}));
         QCOMPARE(weights.currentIndex(), 6);
-        const auto& colors = child<VnColorComboBox>(dialog, "colorBox");
+        const auto& colors = find<VnColorComboBox>("colorBox");
         QCOMPARE(colors.currentIndex(), 1);
         QCOMPARE(colors.GetCurrentColorEx().colorIndex(), OdInt16(2));
-        const auto& transparency = child<QComboBox>(dialog, "transparencyBox");
-        QCOMPARE(textsOf(transparency).join(' '), QStringLiteral("0 10 20 30 40 50 60 70 80 90"));
+        const auto& transparency = find<QComboBox>("transparencyBox");
+        QCOMPARE(textsOf(transparency).join(' '), "0 10 20 30 40 50 60 70 80 90");
         QVERIFY(transparency.isEditable());
-        const auto& plotStyle = child<QComboBox>(dialog, "plotStyleBox");
+        const auto& plotStyle = find<QComboBox>("plotStyleBox");
         QCOMPARE(textsOf(plotStyle), (QStringList{"普通", "ByLayer", "ByBlock"}));
-        QCOMPARE(plotStyle.currentText(), QStringLiteral("ByLayer"));
+        QCOMPARE(plotStyle.currentText(), "ByLayer");
         QVERIFY(!plotStyle.isEnabled());
     }
 
@@ -133,16 +121,15 @@ private slots:
     void givesBack()
     {
         QFETCH(QString, record);
-        const VnJsonPtr root =
-            tree(R"({"ltransInitIsEditLayer":true,"ltransInitNewEditLayer":{"transToName":"墙",)" +
-                 // The names in use are not looked at: the layer may keep its own.
-                 record + R"(},"newToLayerNameArray":{"ToLayerNameArray":["墙"]}})");
-        const auto dialog = m_module.createDialog(kNewEdit, root);
-        QCOMPARE(dialog.window()->windowTitle(), QStringLiteral("编辑图层"));
-        press(*dialog.window(), "okButton");
-        QCOMPARE(m_host->log(), QStringList());
-        QCOMPARE(root->GetDataI("result"), 1);
-        const QJsonObject result = toJsonObject(root->GetDataJ("ltransResultNewEditLayer"));
+        open(kNewEdit,
+            R"({"ltransInitIsEditLayer":true,"ltransInitNewEditLayer":{"transToName":"墙",)" +
+                // The names in use are not looked at: the layer may keep its own.
+                record + R"(},"newToLayerNameArray":{"ToLayerNameArray":["墙"]}})");
+        QCOMPARE(title(), "编辑图层");
+        press("okButton");
+        QCOMPARE(log(), QStringList());
+        QCOMPARE(m_tree->GetDataI("result"), 1);
+        const QJsonObject result = toJsonObject(m_tree->GetDataJ("ltransResultNewEditLayer"));
         QStringList values;
         for (const char* key : {"LayName", "LineType", "LineTypeId", "LineWidth", "LineWidthName",
                  "clrMethod", "selectClr", "Tparency", "Plotstyle"})
@@ -154,9 +141,9 @@ private slots:
     {
         // Each of the refusals comes before those behind it. Without a message the layer is taken.
         const Rows<QString, QString, QString> row("name", "transparency", "message");
-        const QString invalid = QStringLiteral("名称不是有效符号名。");
-        const QString number = QStringLiteral("请输入一个 0-90 之间的整数");
-        const QString inUse = QStringLiteral("名称 %s 已在使用。\n您需要输入其他名称。");
+        const QString invalid = "名称不是有效符号名。";
+        const QString number = "请输入一个 0-90 之间的整数";
+        const QString inUse = "名称 %s 已在使用。\n您需要输入其他名称。";
         row("empty", "", "x", "名称必须赋值。");
         row("leading blank", " a", "x", invalid);
         row("trailing blank", "WALL ", "x", invalid);
@@ -177,22 +164,15 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QString, transparency);
         QFETCH(QString, message);
-        const VnJsonPtr root =
-            tree(R"({"newToLayerNameArray":{"ToLayerNameArray":["0","WALL","墙%1"]}})");
-        const auto dialog = m_module.createDialog(kNewEdit, root);
-        dialog.window()->show();
-        child<QLineEdit>(dialog, "nameEdit").setText(name);
-        child<QComboBox>(dialog, "transparencyBox").setEditText(transparency);
-        press(*dialog.window(), "okButton");
-        QCOMPARE(m_host->log(),
-            message.isEmpty() ? QStringList() : QStringList{"message|" + message + "||0"});
-        QCOMPARE(host::hasKey(root, "ltransResultNewEditLayer"), message.isEmpty());
-        QCOMPARE(dialog.window()->isVisible(), !message.isEmpty());
+        open(kNewEdit, R"({"newToLayerNameArray":{"ToLayerNameArray":["0","WALL","墙%1"]}})");
+        find<QLineEdit>("nameEdit").setText(name);
+        find<QComboBox>("transparencyBox").setEditText(transparency);
+        press("okButton");
+        QCOMPARE(
+            log(), message.isEmpty() ? QStringList() : QStringList{"message|" + message + "||0"});
+        QCOMPARE(host::hasKey(m_tree, "ltransResultNewEditLayer"), message.isEmpty());
+        QCOMPARE(isOpen(), !message.isEmpty());
     }
-
-private:
-    ModuleFixture m_module;
-    std::unique_ptr<RecordingHost> m_host;
 };
 
 QTEST_MAIN(TestLaytransForms)

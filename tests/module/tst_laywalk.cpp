@@ -6,6 +6,7 @@
 #include "rows.h"
 #include "settings.h"
 #include "trees.h"
+#include "useracts.h"
 #include "valuetree.h"
 #include "vnsettings.h"
 
@@ -70,16 +71,11 @@ public:
                                }))
                          : OdRxObjectPtr())),
           dialog(wrapper.window()),
-          list(child<QListWidget>("layerList")),
-          filters(child<QComboBox>("filterCombo"))
+          list(&child<QListWidget>(wrapper, "layerList")),
+          filters(&child<QComboBox>(wrapper, "filterCombo"))
     {
     }
 
-    template <class T>
-    T* child(const char* name) const
-    {
-        return ModuleFixture::child<T>(dialog, name);
-    }
     /// Code, arguments and layers.
     void note(const VnJsonPtr& asked)
     {
@@ -131,7 +127,7 @@ public:
         else if (act == "leave")
             leaveFilters();
         else if (act == "press")
-            child<QAbstractButton>(qPrintable(what))->click();
+            child<QAbstractButton>(wrapper, qPrintable(what)).click();
         else
             trigger(act + "Action");
         if (act == "double" || act == "right")
@@ -160,14 +156,7 @@ public:
         }
         return signs;
     }
-    QStringList texts() const
-    {
-        QStringList all;
-        for (int row = 0; row < list->count(); ++row)
-            all += list->item(row)->text();
-        return all;
-    }
-    bool mayPurge() const { return child<QPushButton>("purgeButton")->isEnabled(); }
+    bool mayPurge() const { return child<QPushButton>(wrapper, "purgeButton").isEnabled(); }
 
     RecordingHost host;
     Answer answer = [](const VnJsonPtr&) {};
@@ -194,13 +183,13 @@ private slots:
     void opens()
     {
         Walk walk(m_module);
-        QCOMPARE(
-            walk.texts(), (QStringList{"  0", "  WALL", "  wall-2", "* door", "  ice", "  a*[1]"}));
-        QCOMPARE(walk.rows(), QStringLiteral("##.@.."));
-        QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: 6"));
-        QVERIFY(!walk.mayPurge() && !walk.child<QCheckBox>("filterBox")->isEnabled());
-        QCOMPARE(walk.child<QToolButton>("pickButton")->toolTip(),
-            QStringLiteral("选择对象\n选择对象及其图层。"));
+        QCOMPARE(textsOf(*walk.list),
+            (QStringList{"  0", "  WALL", "  wall-2", "* door", "  ice", "  a*[1]"}));
+        QCOMPARE(walk.rows(), "##.@..");
+        QCOMPARE(walk.dialog->windowTitle(), "图层漫游 - 图层数: 6");
+        QVERIFY(!walk.mayPurge() && !child<QCheckBox>(walk.wrapper, "filterBox").isEnabled());
+        QCOMPARE(child<QToolButton>(walk.wrapper, "pickButton").toolTip(),
+            "选择对象\n选择对象及其图层。");
         QVERIFY(walk.requests.isEmpty() && !host::hasKey(walk.root, "marker"));
     }
 
@@ -285,15 +274,15 @@ private slots:
         QCOMPARE(walk.rows(), rows);
         QCOMPARE(walk.dialog->windowTitle(),
             rows.size() == 6
-                ? QStringLiteral("图层漫游 - 图层数: 6")
+                ? "图层漫游 - 图层数: 6"
                 : QStringLiteral("图层漫游 - 图层: 第 %1 层，共 6 层").arg(rows.size()));
-        QCOMPARE(walk.child<QCheckBox>("filterBox")->isChecked(), rows.size() < 6);
+        QCOMPARE(child<QCheckBox>(walk.wrapper, "filterBox").isChecked(), rows.size() < 6);
         if (!walk.requests.isEmpty())
             QCOMPARE(walk.mayPurge(), rows.contains('#') || rows.contains('@'));
         QCOMPARE(walk.filters->count(), 0);
         // The caller's tree is not the one worked on.
         if (!acts.first().contains("LayerStateMgr"))
-            QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")), QStringLiteral("C+-*++"));
+            QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")), "C+-*++");
     }
 
     void copiesNamesAsTheyAre()
@@ -303,9 +292,9 @@ private slots:
             records += QStringLiteral("{\"LayerName\":\"%1\"}").arg(name);
         Walk walk(m_module, treeText("[" + records.join(',') + "]"));
         walk.perform({"click 0", "ctrl 1", "ctrl 2", "ctrl 3", "copyAsFilter"});
-        QCOMPARE(walk.filters->currentText(), QStringLiteral("A-WALL,b]~c,`~`,``x,`#`@`.`*`?`["));
+        QCOMPARE(walk.filters->currentText(), "A-WALL,b]~c,`~`,``x,`#`@`.`*`?`[");
         walk.perform({"key enter"});
-        QCOMPARE(walk.rows(), QStringLiteral("####"));
+        QCOMPARE(walk.rows(), "####");
     }
 
     void deletingAFilterMarksItsLayers()
@@ -331,10 +320,10 @@ private slots:
         QJsonObject json = toJsonObject(tree(treeText(kLayers)));
         for (const char* stale : {"LayerCount", "SelectLayerCount", "SelectLayerEntitys"})
             json[stale] = 77;
-        json["laywalkpickLNameS"] = QStringLiteral("another's");
+        json["laywalkpickLNameS"] = "another's";
         Walk walk(m_module, QJsonDocument(json).toJson(), hasCommand);
         walk.perform({"type W*", "key enter"});
-        QCOMPARE(walk.rows(), QStringLiteral("##"));
+        QCOMPARE(walk.rows(), "##");
         QCOMPARE(walk.root->GetDataI("LayerCount"), 77);
         walk.host.answer(2);
         walk.trigger("verifyAction");
@@ -378,9 +367,9 @@ private slots:
         QCOMPARE(walk.requests.size(), 2);
         QVERIFY(walk.requests[0].startsWith("4: ") && walk.requests[0].at(7) == 'c');
         QVERIFY2(walk.requests[1].startsWith(request), qPrintable(walk.requests[1]));
-        QCOMPARE(walk.texts(), (QStringList{"  left", "  x"}));
-        QCOMPARE(walk.rows(), QStringLiteral("#."));
-        QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: 2"));
+        QCOMPARE(textsOf(*walk.list), (QStringList{"  left", "  x"}));
+        QCOMPARE(walk.rows(), "#.");
+        QCOMPARE(walk.dialog->windowTitle(), "图层漫游 - 图层数: 2");
     }
 
     void menuEnables_data()
@@ -420,9 +409,9 @@ private slots:
             "Dialog/CmdLaywalk/Verify", tree(R"({"LayerCount":60,"SelectLayerCount":1200})"));
         QStringList shown;
         for (const char* key : {"LayerCount", "SelectLayerCount", "SelectLayerEntitys"}) {
-            const auto* edit = ModuleFixture::child<QLineEdit>(report.window(), key);
-            shown.append(edit->text());
-            QVERIFY(edit->isReadOnly());
+            const auto& edit = child<QLineEdit>(report, key);
+            shown.append(edit.text());
+            QVERIFY(edit.isReadOnly());
         }
         QCOMPARE(shown, (QStringList{"60", "1200", "0"}));
     }
@@ -446,7 +435,7 @@ private slots:
         user.then([&](QDialog& dialog) {
             const auto close = [&] {
                 if (way == 0)
-                    walk.child<QPushButton>("closeButton")->click();
+                    press(*walk.dialog, "closeButton");
                 else if (way == 1)
                     dialog.close();
                 else
@@ -454,7 +443,7 @@ private slots:
             };
             walk.filters->setEditText("A*");
             walk.trigger("saveFilterAction");
-            walk.child<QCheckBox>("restoreBox")->setChecked(restores);
+            child<QCheckBox>(walk.wrapper, "restoreBox").setChecked(restores);
             walk.perform("click", "1");
             if (!restores) {
                 walk.host.answer(1);
@@ -470,7 +459,7 @@ private slots:
         QCOMPARE(asked.size(), restores ? 0 : 2);
         QCOMPARE(walk.requests.size(), restores ? 2 : 1);
         if (restores)
-            QCOMPARE(walk.requests[1], QStringLiteral("4: C+-*++"));
+            QCOMPARE(walk.requests[1], "4: C+-*++");
         else
             QVERIFY(asked.first().startsWith(
                 "messageEx|图层 - 图层状态更改|关闭对话框时某些图层状态可能会发生更改。希望执行什么"
@@ -479,8 +468,8 @@ private slots:
             QStringLiteral(R"({"FilterComboBoxList":[{"Item":"A*"}],"RecoverBoxChecked":%1})")
                 .arg(restores ? 2 : 0));
         Walk again(m_module);
-        QCOMPARE(again.child<QCheckBox>("restoreBox")->isChecked(), restores);
-        QCOMPARE(again.filters->itemText(0), QStringLiteral("A*"));
+        QCOMPARE(child<QCheckBox>(again.wrapper, "restoreBox").isChecked(), restores);
+        QCOMPARE(again.filters->itemText(0), "A*");
         QCOMPARE(again.filters->currentIndex(), -1);
         QCOMPARE(again.filters->currentText(), QString());
     }
@@ -508,10 +497,10 @@ private slots:
             walk.host.answer(2); // Without a tree no state can be saved.
         for (QAction* action : walk.dialog->findChild<QMenu*>()->actions())
             action->trigger();
-        for (const QString& pattern : {QString(10000, '*') + "a[" + QString(10000, '?'),
-                 QStringLiteral("[a"), QString("~*,").repeated(5000)})
+        for (const QString& pattern : QStringList{QString(10000, '*') + "a[" + QString(10000, '?'),
+                 "[a", QString("~*,").repeated(5000)})
             walk.perform({"type " + pattern, "key enter"});
-        QVERIFY(walk.child<QPushButton>("closeButton")->isEnabled());
+        QVERIFY(child<QPushButton>(walk.wrapper, "closeButton").isEnabled());
     }
 
     void doublesGoTogether()

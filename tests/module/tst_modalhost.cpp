@@ -150,7 +150,7 @@ private slots:
         const QPointer<QDialog> window = lastBuilt;
         QVERIFY(dialog->createDialog(nullptr, 0, "second"));
         QCOMPARE(built, 1);
-        QCOMPARE(window->objectName(), QStringLiteral("first"));
+        QCOMPARE(window->objectName(), "first");
         QVERIFY(!window->isVisible());
 
         const VnJsonPtr data = ElementValue::createObject(2);
@@ -212,11 +212,11 @@ private slots:
         QVERIFY(!deletedOn);
 
         odSetAssertHandler([](const char* expression, const char* file, int) {
-            assertion = QString::fromUtf8(expression) + QLatin1Char('@') + QString::fromUtf8(file);
+            assertion = QString::fromUtf8(expression) + '@' + QString::fromUtf8(file);
         });
         dialog->release();
         odSetAssertHandler(nullptr);
-        QCOMPARE(assertion, QStringLiteral("(m_nRefCounter > 0)@include/qt/vornqt.h"));
+        QCOMPARE(assertion, "(m_nRefCounter > 0)@include/qt/vornqt.h");
         QVERIFY(!deletedOn);
         delete dialog;
     }

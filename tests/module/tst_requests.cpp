@@ -234,7 +234,7 @@ private slots:
         QCOMPARE(loggedLines.size(), 1); // Silent unless asked for.
         QVERIFY(!loggedLines.first().contains('\n'));
         const QJsonObject line = QJsonDocument::fromJson(loggedLines.first().toUtf8()).object();
-        QCOMPARE(line["dialog"].toString(), QStringLiteral("Dialog_CmdLaydel"));
+        QCOMPARE(line["dialog"].toString(), "Dialog_CmdLaydel");
         QCOMPARE(line["code"].toInt(), 6);
         QCOMPARE(line["before"]["name"].toString(), name);
         QCOMPARE(line["before"]["answer"], QJsonValue(false));

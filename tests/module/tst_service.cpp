@@ -1,4 +1,5 @@
 #include "modulefixture.h"
+#include "rows.h"
 #include "vnservicedict.h"
 #include "vnstrings.h"
 
@@ -15,38 +16,29 @@ class TestService : public QObject
 private slots:
     void makesDialogOfName_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("className");
-        QTest::newRow("manager") << "Dialog/CmdLayer" << QByteArray("VnQtUiDynLayerCmdImpl");
-        QTest::newRow("lower case") << "dialog/cmdlayer" << QByteArray("VnQtUiDynLayerCmdImpl");
-        QTest::newRow("delete") << "Dialog/CmdLaydel" << QByteArray("VnQtLaydelLayerDlg");
-        QTest::newRow("change to") << "Dialog/CmdLaymch" << QByteArray("VnQtLaymchLayerDlg");
-        QTest::newRow("merge") << "DIALOG/CMDLAYMRG" << QByteArray("VnQtLaymrgLayerDlg");
+        const Rows<QByteArray> row("className");
+        row("Dialog/CmdLayer", "VnQtUiDynLayerCmdImpl");
+        row("dialog/cmdlayer", "VnQtUiDynLayerCmdImpl");
+        row("Dialog/CmdLaydel", "VnQtLaydelLayerDlg");
+        row("Dialog/CmdLaymch", "VnQtLaymchLayerDlg");
+        row("DIALOG/CMDLAYMRG", "VnQtLaymrgLayerDlg");
         // Dialogs that start like another's name.
-        QTest::newRow("states") << "Dialog/CmdLayerState"
-                                << QByteArray("VnQtUiDynLayerStateCmdImpl");
-        QTest::newRow("new state")
-            << "Dialog/CmdLayerStateNew" << QByteArray("VnQtNewLayerStateDlg");
-        QTest::newRow("edit state")
-            << "Dialog/CmdLayerStateEdit" << QByteArray("VnQtEditLayerStateDlg");
-        QTest::newRow("add layers")
-            << "Dialog/CmdLayerStateAddNewLayer" << QByteArray("VnQtAddNewLayerDlg");
-        QTest::newRow("walk") << "Dialog/CmdLaywalk" << QByteArray("VnQtLayWalkDlg");
-        QTest::newRow("verify") << "Dialog/CmdLaywalk/Verify" << QByteArray("VnQtLayWalkVerifyDlg");
-        QTest::newRow("translator") << "Dialog/CmdLaytrans" << QByteArray("VnQtUiLaytransCmd");
-        QTest::newRow("translator layer")
-            << "Dialog/CmdLaytransNewEdit" << QByteArray("VnQtLaytransNewEditWgt");
-        QTest::newRow("translator settings")
-            << "Dialog/CmdLaytransSetting" << QByteArray("VnQtLaytransSettingWgt");
-        QTest::newRow("unknown") << "Dialog/CmdLayerX" << QByteArray();
-        QTest::newRow("blank after") << "Dialog/CmdLayer " << QByteArray();
-        QTest::newRow("backslash") << "Dialog\\CmdLayer" << QByteArray();
-        QTest::newRow("empty") << "" << QByteArray();
+        row("Dialog/CmdLayerState", "VnQtUiDynLayerStateCmdImpl");
+        row("Dialog/CmdLayerStateNew", "VnQtNewLayerStateDlg");
+        row("Dialog/CmdLayerStateEdit", "VnQtEditLayerStateDlg");
+        row("Dialog/CmdLayerStateAddNewLayer", "VnQtAddNewLayerDlg");
+        row("Dialog/CmdLaywalk", "VnQtLayWalkDlg");
+        row("Dialog/CmdLaywalk/Verify", "VnQtLayWalkVerifyDlg");
+        row("Dialog/CmdLaytrans", "VnQtUiLaytransCmd");
+        row("Dialog/CmdLaytransNewEdit", "VnQtLaytransNewEditWgt");
+        row("Dialog/CmdLaytransSetting", "VnQtLaytransSettingWgt");
+        for (const char* unknown : {"Dialog/CmdLayerX", "Dialog/CmdLayer ", "Dialog\\CmdLayer", ""})
+            row(unknown, "");
     }
 
     void makesDialogOfName()
     {
-        QFETCH(QString, name);
+        const QString name = QTest::currentDataTag();
         QFETCH(QByteArray, className);
         const host::WatchedDialog dialog = m_module.createDialog(name, {});
         QCOMPARE(!dialog.isNull(), !className.isEmpty());

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "modulefixture.h"
 
 #include <QDirIterator>
@@ -13,8 +14,17 @@ const QDir kRoot(QStringLiteral(SOURCE_DIR));
 
 QString read(const QString& path)
 {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(contentOf(path));
+}
+
+/// The first groups of all matches of `pattern` in the lines of a text.
+QStringList found(const QString& text, const char* pattern)
+{
+    QStringList all;
+    auto match = QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(text);
+    while (match.hasNext())
+        all.append(match.next().captured(1));
+    return all;
 }
 
 QStringList sourcesIn(const QDir& folder)
@@ -32,13 +42,9 @@ QStringList linesOf(const QString& program, const QStringList& options, const ch
     QProcess process;
     process.start(program, QStringList(options) << ModuleFixture::modulePath());
     process.waitForFinished();
-    QStringList found;
-    auto match = QRegularExpression(QString::fromUtf8(pattern), QRegularExpression::MultilineOption)
-                     .globalMatch(QString::fromUtf8(process.readAllStandardOutput()));
-    while (match.hasNext())
-        found.append(match.next().captured(1));
-    found.sort();
-    return found;
+    QStringList lines = found(QString::fromUtf8(process.readAllStandardOutput()), pattern);
+    lines.sort();
+    return lines;
 }
 
 } // namespace
@@ -81,15 +87,11 @@ private slots:
         QHash<QString, QString> folders; // Of headers.
         for (const QString& path : sources)
             folders.insert(QFileInfo(path).fileName(), QFileInfo(path).dir().dirName());
-        const QRegularExpression include(
-            "^#include \"([^\"]+)\"", QRegularExpression::MultilineOption);
         QStringList strangers;
         int count = 0;
         for (const QString& path : sources) {
             const QString own = QFileInfo(path).dir().dirName();
-            auto match = include.globalMatch(read(path));
-            while (match.hasNext()) {
-                const QString name = match.next().captured(1);
+            for (const QString& name : found(read(path), "^#include \"([^\"]+)\"")) {
                 const QString other = folders.value(name, own);
                 ++count;
                 // The upper floors also work on whole drawings, as anybody who uses the library.
@@ -111,19 +113,16 @@ private slots:
                 allowed.insert(name);
         }
         const QDir module(kRoot.filePath("source/qtcmdsui/cmdlayerui"));
-        const QRegularExpression include(
-            "^\\s*#\\s*include\\s*([<\"])([^>\"]+)[>\"]", QRegularExpression::MultilineOption);
         QStringList strangers;
         int count = 0;
         for (const QString& path : sourcesIn(module)) {
-            auto match = include.globalMatch(read(path));
-            while (match.hasNext()) {
-                const auto found = match.next();
-                const QString name = found.captured(2);
+            for (QString name : found(read(path), "^\\s*#\\s*include\\s*([<\"][^>\"]+)[>\"]")) {
+                const bool isSystem = name.startsWith('<');
+                name.remove(0, 1);
                 const QString inModule = QDir::cleanPath(module.filePath(name));
                 const QString beside = QDir::cleanPath(QFileInfo(path).dir().filePath(name));
                 ++count;
-                if (found.captured(1) == "<") // Qt and the standard library only.
+                if (isSystem) // Qt and the standard library only.
                     strangers += name.contains('/') || name.endsWith(".h") ? QStringList{name}
                                                                            : QStringList{};
                 else if (!allowed.contains(name) && !isOwn(module, inModule) &&

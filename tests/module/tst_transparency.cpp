@@ -34,21 +34,19 @@ private slots:
         ManagerDriver manager(m_module, layerTree({layer("0", 0, R"(,"Transparency":35)")}));
         ModalDriver user;
         user.then([&](QDialog& dialog) {
-            auto* const value = ModuleFixture::child<QComboBox>(&dialog, "transparencyValue");
-            QCOMPARE(value->currentText(), QStringLiteral("35"));
+            auto& value = child<QComboBox>(dialog, "transparencyValue");
+            QCOMPARE(value.currentText(), "35");
             if (!typed.isEmpty()) // Takes the place of the value, which is selected.
                 QTest::keyClicks(dialog.focusWidget(), typed);
-            QTest::keyClick(value->lineEdit(), Qt::Key_Return);
+            QTest::keyClick(value.lineEdit(), Qt::Key_Return);
             QCOMPARE(dialog.isVisible(), stored < 0);
-            QStringList offered; // What is typed is not.
-            for (int i = 0; i < value->count(); ++i)
-                offered.append(value->itemText(i));
-            QCOMPARE(offered.join(' '), QString("0 10 20 30 40 50 60 70 80 90"));
+            // What is typed is not offered.
+            QCOMPARE(textsOf(value).join(' '), "0 10 20 30 40 50 60 70 80 90");
             if (stored >= 0)
                 return;
             QTest::keyClicks(dialog.focusWidget(), "20"); // And that of what was refused.
-            QCOMPARE(value->currentText(), QStringLiteral("20"));
-            ModuleFixture::child<QPushButton>(&dialog, "cancelButton")->click();
+            QCOMPARE(value.currentText(), "20");
+            press(dialog, "cancelButton");
         });
         manager.click(0, 8);
 

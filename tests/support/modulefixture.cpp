@@ -24,14 +24,3 @@ host::WatchedDialog ModuleFixture::createDialog(
         dialog->setData(tree, invoker);
     return dialog;
 }
-
-void ModuleFixture::failMissing(
-    const QWidget* parent, const char* className, const char* objectName)
-{
-    QStringList names;
-    for (const QWidget* widget : parent->findChildren<QWidget*>()) {
-        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
-            names.append(widget->objectName());
-    }
-    qFatal("no %s named \"%s\" among: %s", className, objectName, qPrintable(names.join(", ")));
-}

@@ -5,7 +5,6 @@
 #include "vndialogs.h"
 
 #include <QString>
-#include <QWidget>
 
 /// The host with the module loaded, for the life of a test.
 class ModuleFixture
@@ -20,24 +19,6 @@ public:
     host::WatchedDialog createDialog(
         const QString& name, const vnsi::VnJsonPtr& tree, const OdRxObjectPtr& invoker = {});
 
-    /// The widget of that object name in a dialog; ends the test program when there is none.
-    template <class T>
-    static T* child(const host::WatchedDialog& dialog, const char* objectName)
-    {
-        return child<T>(dialog.window(), objectName);
-    }
-    template <class T>
-    static T* child(const QWidget* parent, const char* objectName)
-    {
-        T* const found = parent->findChild<T*>(QString::fromUtf8(objectName));
-        if (!found)
-            failMissing(parent, T::staticMetaObject.className(), objectName);
-        return found;
-    }
-
 private:
-    [[noreturn]] static void failMissing(
-        const QWidget* parent, const char* className, const char* objectName);
-
     host::Host m_host;
 };

@@ -7,6 +7,27 @@
 #include <QTableWidget>
 #include <QtTest>
 
+namespace {
+
+QPoint placeOf(QAbstractItemView& view, int row, int column)
+{
+    const QModelIndex index = view.model()->index(row, column);
+    view.scrollTo(index);
+    return view.visualRect(index).center();
+}
+
+} // namespace
+
+void failMissing(const QWidget& window, const char* className, const char* objectName)
+{
+    QStringList names;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
+            names.append(widget->objectName());
+    }
+    qFatal("no %s named \"%s\" among: %s", className, objectName, qPrintable(names.join(", ")));
+}
+
 void chooseEntry(const QWidget& menuOwner, const QString& text)
 {
     for (QAction* action : menuOwner.findChild<QMenu*>()->actions()) {
@@ -30,12 +51,18 @@ void drawColumn(const QTableWidget& table, int column, int width)
 
 void clickCell(QAbstractItemView& view, int row, int column, bool twice)
 {
-    const QModelIndex index = view.model()->index(row, column);
-    view.scrollTo(index);
-    const QPoint place = view.visualRect(index).center();
+    const QPoint place = placeOf(view, row, column);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
     if (twice)
         QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
+}
+
+void pickRows(QAbstractItemView& view, const QList<int>& rows, int column)
+{
+    view.clearSelection();
+    for (const int row : rows)
+        QTest::mouseClick(
+            view.viewport(), Qt::LeftButton, Qt::ControlModifier, placeOf(view, row, column));
 }
 
 void selectTexts(QListWidget& list, const QStringList& texts)
@@ -53,6 +80,25 @@ void selectRows(QTableWidget& table, const QList<int>& rows)
         table.selectionModel()->select(
             index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
+}
+
+QListWidgetItem* itemOf(const QListWidget& list, const QString& text)
+{
+    return list.findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive).value(0);
+}
+
+int rowOf(const QTableWidget& table, const QString& text)
+{
+    const auto found = table.findItems(text, Qt::MatchExactly);
+    return found.isEmpty() ? -1 : found.first()->row();
+}
+
+QString headersOf(const QTableWidget& table)
+{
+    QStringList all;
+    for (int column = 0; column < table.columnCount(); ++column)
+        all.append(table.horizontalHeaderItem(column)->text());
+    return all.join(' ');
 }
 
 QStringList textsOf(const QListWidget& list)

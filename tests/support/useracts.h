@@ -1,6 +1,7 @@
 #pragma once
 
-#include "modulefixture.h"
+#include "hostdialogs.h"
+#include "vndialogs.h"
 
 #include <QPushButton>
 #include <QStringList>
@@ -8,14 +9,33 @@
 class QAbstractItemView;
 class QComboBox;
 class QListWidget;
+class QListWidgetItem;
 class QTableWidget;
 
 // What a user does in a window, and what there is to read.
 
+/// Ends the test program, naming what there is.
+[[noreturn]] void failMissing(const QWidget& window, const char* className, const char* objectName);
+
+/// The widget of that object name in a window; ends the test program when there is none.
+template <class T>
+T& child(const QWidget& window, const char* objectName)
+{
+    T* const found = window.findChild<T*>(QString::fromUtf8(objectName));
+    if (!found)
+        failMissing(window, T::staticMetaObject.className(), objectName);
+    return *found;
+}
+template <class T>
+T& child(const host::WatchedDialog& dialog, const char* objectName)
+{
+    return child<T>(*dialog.window(), objectName);
+}
+
 /// Presses the button of that object name.
 inline void press(const QWidget& window, const char* button)
 {
-    ModuleFixture::child<QPushButton>(&window, button)->click();
+    child<QPushButton>(window, button).click();
 }
 
 /// Chooses an entry of the menu that a widget has; fails the test when there is none of that text.
@@ -24,11 +44,19 @@ void chooseEntry(const QWidget& menuOwner, const QString& text);
 void drawColumn(const QTableWidget& table, int column, int width);
 /// Clicks into the middle of a cell; `twice` for a double click.
 void clickCell(QAbstractItemView& view, int row, int column = 0, bool twice = false);
+/// Clicks these rows with Ctrl held, so that they and no others are selected.
+void pickRows(QAbstractItemView& view, const QList<int>& rows, int column = 0);
 /// Selects the items of those texts and no others.
 void selectTexts(QListWidget& list, const QStringList& texts);
 /// Selects these rows and no others, in this order; the last one becomes the current one.
 void selectRows(QTableWidget& table, const QList<int>& rows);
 
+/// The item of exactly that text; null when there is none.
+QListWidgetItem* itemOf(const QListWidget& list, const QString& text);
+/// The first row with that text in any of its cells; -1 when there is none.
+int rowOf(const QTableWidget& table, const QString& text);
+/// With blanks between.
+QString headersOf(const QTableWidget& table);
 QStringList textsOf(const QListWidget& list);
 QStringList textsOf(const QComboBox& box);
 /// From top to bottom.

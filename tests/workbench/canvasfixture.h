@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../drawing/tst_geometrysketch.h"
+#include "sketch.h"
 #include "canvas.h"
 
 #include <QtTest>

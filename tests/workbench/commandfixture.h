@@ -1,10 +1,13 @@
 #pragma once
 
+#include "canvas.h"
 #include "drawing.h"
+#include "files.h"
 #include "mainwindow.h"
 #include "modaldriver.h"
 #include "modulefixture.h"
 #include "recordinghost.h"
+#include "steps.h"
 #include "useracts.h"
 
 #include <QTemporaryDir>
@@ -22,12 +25,13 @@ protected:
     void start(std::initializer_list<const char*> dialogs)
     {
         m_module = std::make_unique<ModuleFixture>();
+        m_folder = std::make_unique<QTemporaryDir>();
         m_host = std::make_unique<RecordingHost>();
         for (const char* dialog : dialogs)
             m_host->passThrough(dialog);
         m_host->setLogsTrees(false);
         m_window = std::make_unique<MainWindow>();
-        open(QStringLiteral(SAMPLES "/office-floor.dxf"));
+        open(SAMPLES "/office-floor.dxf");
         m_window->show();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
@@ -48,36 +52,67 @@ protected:
         m_path = path;
         m_original = contentOf(path);
     }
+    /// Opens a file of the folder with these bytes, for what is written beside a drawing.
+    void open(const QString& name, const QByteArray& bytes)
+    {
+        open(writtenFile(inFolder(name), bytes));
+    }
 
     /// Runs a command; each dialog that comes up gets the next step.
     void run(const QString& command, const std::vector<ModalDriver::Step>& steps)
     {
         ModalDriver user;
+        m_user = &user;
         for (const ModalDriver::Step& step : steps)
-            user.then(step);
+            then(step);
         m_window->runCommand(command);
+    }
+    /// Queues a step for the dialog that comes up next while a command runs.
+    void then(const ModalDriver::Step& step) { m_user->then(step); }
+    /// A step that closes what a failure in it left open.
+    static ModalDriver::Step closing(const ModalDriver::Step& acts)
+    {
+        return [acts](QDialog& dialog) {
+            acts(dialog);
+            dialog.close();
+        };
+    }
+    /// The file dialog that comes up next gives these paths.
+    void answerFiles(const QStringList& paths)
+    {
+        m_host->answer(1, QString(R"({"filePath":"%1","filePaths":["%2"]})")
+                              .arg(paths.first(), paths.join("\",\"")));
     }
 
     drawing::Drawing& drawing() const { return *m_window->drawing(); }
     const drawing::Layer* layer(const QString& name) const { return drawing().findLayer(name); }
+    QString current() const { return currentName(drawing()); }
+    QImage picture() const { return m_window->canvas()->grab().toImage(); }
+    QStringList messages() const { return m_host->log().filter("message|"); }
+    QString inFolder(const QString& name) const { return m_folder->filePath(name); }
 
     /// Saves to a file of that name; its bytes.
-    QByteArray savedBytes(const QString& name = QStringLiteral("saved.dxf"))
+    QByteArray savedBytes(const QString& name = "saved.dxf")
     {
-        const QString path = m_folder.filePath(name);
-        return drawing().save(path) ? contentOf(path) : QByteArray();
+        return drawing().save(inFolder(name)) ? contentOf(inFolder(name)) : QByteArray();
     }
 
-    static QByteArray contentOf(const QString& path)
+    /// The command was one step, and undoing it brings every byte back.
+    void checkUndo()
     {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        QVERIFY(savedBytes() != m_original);
+        drawing().undo();
+        QVERIFY(!drawing().canUndo());
+        QVERIFY(savedBytes() == m_original);
     }
 
-    QTemporaryDir m_folder;
+    std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<ModuleFixture> m_module;
     std::unique_ptr<RecordingHost> m_host;
     std::unique_ptr<MainWindow> m_window;
     QString m_path; ///< Of the drawing that is open, and its bytes.
     QByteArray m_original;
+
+private:
+    ModalDriver* m_user = nullptr;
 };

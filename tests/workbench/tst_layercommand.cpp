@@ -13,25 +13,9 @@ constexpr int kName = 1;
 constexpr int kOff = 2;
 constexpr int kColor = 5;
 
-int rowOf(const QTableWidget& table, const QString& layer)
+void click(QTableWidget& table, const QString& layer, int column, bool twice = false)
 {
-    const auto found = table.findItems(layer, Qt::MatchExactly);
-    return found.isEmpty() ? -1 : found.first()->row();
-}
-
-void click(QTableWidget& table, const QString& layer, int column)
-{
-    const int row = rowOf(table, layer);
-    table.scrollToItem(table.item(row, column));
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::NoModifier,
-        table.visualItemRect(table.item(row, column)).center());
-}
-
-void doubleClick(QTableWidget& table, const QString& layer, int column)
-{
-    click(table, layer, column);
-    QTest::mouseDClick(table.viewport(), Qt::LeftButton, Qt::NoModifier,
-        table.visualItemRect(table.item(rowOf(table, layer), column)).center());
+    clickCell(table, rowOf(table, layer), column, twice);
 }
 
 } // namespace
@@ -42,7 +26,7 @@ class LayerCommandTest : public CommandFixture
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QCoreApplication::setOrganizationName(QStringLiteral("layerbench")); }
+    void initTestCase() { QCoreApplication::setOrganizationName("layerbench"); }
     void init() { start({"Dialog/CmdLayer"}); }
     void cleanup() { stop(); }
 
@@ -53,7 +37,7 @@ private slots:
         run("layer", {[](QDialog& dialog) {
             QTableWidget& layers = table(dialog);
             press(dialog, "newLayerButton");
-            doubleClick(layers, "图层1", kName);
+            click(layers, "图层1", kName, true);
             click(layers, "A-DOOR", kOff);
             click(layers, "A-WALL", kColor);
             layers.selectRow(rowOf(layers, "走廊吊顶"));
@@ -68,11 +52,11 @@ private slots:
         QVERIFY(savedBytes() != m_original);
 
         // The command line has the focus and nothing in it to undo.
-        auto* input = ModuleFixture::child<QLineEdit>(m_window.get(), "commandInput");
+        auto& input = child<QLineEdit>(*m_window, "commandInput");
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        input->setFocus();
-        QTest::keyClick(input, Qt::Key_Z, Qt::ControlModifier);
+        input.setFocus();
+        QTest::keyClick(&input, Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(!drawing().canUndo());
         QCOMPARE(savedBytes(), m_original);
         drawing().redo();
@@ -155,22 +139,20 @@ private slots:
             QTableWidget& layers = table(dialog);
             click(layers, "A-DOOR", kColor);
             click(layers, "A-DOOR", kOff);
-            doubleClick(layers, "A-DOOR", kName);
-            doubleClick(layers, "A-WALL", kName);
+            click(layers, "A-DOOR", kName, true);
+            click(layers, "A-WALL", kName, true);
             layers.selectRow(rowOf(layers, "X"));
             press(dialog, "newLayerButton"); // Like the layer whose colour cannot be had.
             press(dialog, "okButton");
         }});
-        QCOMPARE(drawing().layer(door)->properties.name, QStringLiteral("X"));
-        QCOMPARE(drawing().layer(wall)->properties.name, QStringLiteral("A-DOOR"));
+        QCOMPARE(drawing().layer(door)->properties.name, "X");
+        QCOMPARE(drawing().layer(wall)->properties.name, "A-DOOR");
         QVERIFY(drawing().layer(door)->properties.off);
         QCOMPARE(drawing().layer(door)->properties.colorIndex, color);
         QVERIFY(layer("图层1") && layer("图层1")->properties.off);
-        const QStringList messages = m_host->log().filter("message|");
-        QCOMPARE(messages.size(), 1);
-        QVERIFY2(
-            messages.first().contains("2 项") && messages.first().contains("“X”：没有颜色索引 300"),
-            qPrintable(messages.first()));
+        QCOMPARE(messages().size(), 1);
+        const QString told = messages().first();
+        QVERIFY2(told.contains("2 项") && told.contains("“X”：没有颜色索引 300"), qPrintable(told));
     }
 
     void keepsColumnWidths()
@@ -188,7 +170,7 @@ private slots:
 private:
     static QTableWidget& table(const QDialog& dialog)
     {
-        return *ModuleFixture::child<QTableWidget>(&dialog, "layerTable");
+        return child<QTableWidget>(dialog, "layerTable");
     }
 };
 

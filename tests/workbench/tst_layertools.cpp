@@ -1,7 +1,7 @@
 #include "../drawing/readback.h"
-#include "canvas.h"
 #include "commandfixture.h"
 #include "hostcodes.h"
+#include "rows.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -29,25 +29,24 @@ private slots:
         QFETCH(QString, path);
         open(path);
         const QStringList names = used().mid(0, 4);
-        const auto before = m_window->canvas()->grab().toImage();
+        const auto before = picture();
         std::vector<LayerId> ids;
         for (const QString& name : names)
             ids.push_back(layer(name)->id);
         const bool inBlocks = drawing().isReferencedInBlocks(ids);
         m_host->answer(vnsi::kVnAnswerOk);
         run("laydel", {[&](QDialog& dialog) {
-            auto* const list = ModuleFixture::child<QListWidget>(&dialog, "layerList");
-            for (const QString& kept : {QStringLiteral("0"), current()})
-                QVERIFY(list->findItems(kept, Qt::MatchFixedString).isEmpty());
+            const QStringList offered = textsOf(list(dialog));
+            QVERIFY(!offered.contains("0") && !offered.contains(current()));
             choose(names)(dialog);
         }});
         const QString question = m_host->log().filter(QRegularExpression("^messageEx")).join('\n');
         QCOMPARE(question.contains("参照的块") || question.contains("重定义"), inBlocks);
         for (const QString& name : names)
             QVERIFY(!layer(name));
-        QVERIFY(m_window->canvas()->grab().toImage() != before);
+        QVERIFY(picture() != before);
         checkAndUndo(names);
-        QCOMPARE(m_window->canvas()->grab().toImage(), before);
+        QCOMPARE(picture(), before);
     }
 
     void changes_data() { drawings(); }
@@ -57,8 +56,8 @@ private slots:
         open(path);
         selectAll();
         const std::vector<int> selection = m_window->canvas()->selection();
-        const auto* const field = ModuleFixture::child<QLabel>(m_window.get(), "selectionField");
-        QCOMPARE(field->text(), QStringLiteral("已选择 %1 个对象").arg(selection.size()));
+        QCOMPARE(child<QLabel>(*m_window, "selectionField").text(),
+            QString("已选择 %1 个对象").arg(selection.size()));
         // The dialog takes no name with a blank in it.
         const QString target = used().filter(QRegularExpression("^\\S+$")).first();
         run("laymch", {choose({target})});
@@ -101,19 +100,14 @@ private slots:
     void newLayerIsMadeAndLockedStays()
     {
         const QString locked = used().first();
-        drawing().beginStep("lock");
-        drawing::LayerProperties properties = layer(locked)->properties;
-        properties.locked = true;
-        QVERIFY(drawing().setLayerProperties(layer(locked)->id, properties));
-        drawing().commitStep();
+        QCOMPARE(edit(drawing(), locked, [](auto& layer) { layer.locked = true; }), "");
         const int before = layer(locked)->entityCount;
         selectAll();
         m_host->answer(vnsi::kVnAnswerYes);
-        run("laymch", {[](QDialog& dialog) {
-            ModuleFixture::child<QLineEdit>(&dialog, "layerNameEdit")->setText("全新");
+        run("laymch", {closing([](QDialog& dialog) {
+            child<QLineEdit>(dialog, "layerNameEdit").setText("全新");
             press(dialog, "okButton");
-            dialog.close(); // One that a failure left open.
-        }});
+        })});
         QVERIFY(layer("全新")->used());
         QCOMPARE(layer(locked)->entityCount, before);
         QVERIFY2(statusText().contains("锁定"), qPrintable(statusText()));
@@ -140,10 +134,8 @@ private slots:
         int asked = 0;
         m_host->answer([&](const vnsi::VnJsonPtr&) { return ++asked, 2; });
         run("laymrg", {choose({names[0]}), [&](QDialog& dialog) {
-                           auto* list = ModuleFixture::child<QListWidget>(&dialog, "layerList");
                            for (const QString& target : {names[1], names[2]}) {
-                               const auto found = list->findItems(target, Qt::MatchExactly);
-                               list->setCurrentItem(found.first());
+                               list(dialog).setCurrentItem(itemOf(list(dialog), target));
                                press(dialog, "okButton");
                            }
                        }});
@@ -167,12 +159,10 @@ private slots:
 private:
     static void drawings()
     {
-        QTest::addColumn<QString>("path");
+        const Rows<QString> row("path");
         for (const char* path : {SAMPLES "/office-floor.dxf", SAMPLES "/workshop-gbk.dxf",
-                 SHARED_DRAWINGS "/floorplan.dxf"}) {
-            if (QFile::exists(path))
-                QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
-        }
+                 SHARED_DRAWINGS "/floorplan.dxf"})
+            row(path, path);
     }
 
     /// Layers with something on them that may go.
@@ -180,31 +170,29 @@ private:
     {
         QStringList names;
         for (const Layer& layer : drawing().layers()) {
-            if (layer.used() && layer.properties.name != QLatin1String("0") &&
+            if (layer.used() && layer.properties.name != "0" &&
                 layer.id != drawing().currentLayer() && !layer.dependsOnReference)
                 names += layer.properties.name;
         }
         return names;
     }
-    QString current() const { return drawing().layer(drawing().currentLayer())->properties.name; }
+    static QListWidget& list(const QDialog& dialog)
+    {
+        return child<QListWidget>(dialog, "layerList");
+    }
     QString statusText() const { return m_window->statusBar()->currentMessage(); }
 
     /// Chooses the items of these names and presses OK.
     static ModalDriver::Step choose(const QStringList& names, const char* button = "okButton")
     {
-        return [names, button](QDialog& dialog) {
-            auto* const list = ModuleFixture::child<QListWidget>(&dialog, "layerList");
-            list->clearSelection();
-            for (const QString& name : names) {
-                const auto found = list->findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
-                QCOMPARE(found.size(), 1);
-                list->setCurrentItem(found.first(), names.size() == 1
-                                                        ? QItemSelectionModel::ClearAndSelect
-                                                        : QItemSelectionModel::Select);
-            }
+        return closing([names, button](QDialog& dialog) {
+            list(dialog).clearSelection();
+            for (const QString& name : names)
+                list(dialog).setCurrentItem(itemOf(list(dialog), name),
+                    names.size() == 1 ? QItemSelectionModel::ClearAndSelect
+                                      : QItemSelectionModel::Select);
             press(dialog, button);
-            dialog.close(); // One that a failure left open.
-        };
+        });
     }
 
     void selectAll()
@@ -218,18 +206,15 @@ private:
     /// brings every byte back.
     void checkAndUndo(const QStringList& gone)
     {
-        QVERIFY(savedBytes("edited.dxf") != m_original);
         if (readback::isInstalled()) {
-            const QJsonObject after = readback::seen(m_folder.filePath("edited.dxf"));
-            QVERIFY2(!after.contains("failure"), qPrintable(after.value("failure").toString()));
+            QVERIFY(drawing().save(inFolder("edited.dxf")));
+            const QJsonObject after = readback::seen(inFolder("edited.dxf"));
             QCOMPARE(readback::newErrors(readback::seen(m_path), after), QStringList());
             const QJsonObject counts = after.value("entities").toObject();
             for (const QString& name : gone)
                 QVERIFY2(!counts.contains(name.toLower()), qPrintable(name));
         }
-        drawing().undo();
-        QVERIFY(!drawing().canUndo());
-        QVERIFY(savedBytes("undone.dxf") == m_original);
+        checkUndo();
     }
 };
 

@@ -177,13 +177,13 @@ private:
     /// "A off", "B frozen", "A locked"; empty for nothing.
     void changeLayer(const QString& change)
     {
-        const QString what = change.section(QLatin1Char(' '), 1);
+        const QString what = change.section(' ', 1);
         if (what.isEmpty())
             return;
-        drawing::LayerProperties& properties = layer(change.section(QLatin1Char(' '), 0, 0));
-        properties.off = what == QLatin1String("off");
-        properties.frozen = what == QLatin1String("frozen");
-        properties.locked = what == QLatin1String("locked");
+        drawing::LayerProperties& properties = layer(change.section(' ', 0, 0));
+        properties.off = what == "off";
+        properties.frozen = what == "frozen";
+        properties.locked = what == "locked";
         m_canvas->setLayers(m_layers);
     }
 };

@@ -17,27 +17,18 @@ const QString kStandard = QStringLiteral(SAMPLES "/office-standard.dxf");
 
 QListWidget& list(QDialog& dialog, const char* name)
 {
-    return *ModuleFixture::child<QListWidget>(&dialog, name);
+    return child<QListWidget>(dialog, name);
 }
 
 QTableWidget& table(QDialog& dialog)
 {
-    return *ModuleFixture::child<QTableWidget>(&dialog, "mapTable");
-}
-
-/// A step that closes what a failure in it left open.
-ModalDriver::Step closing(const ModalDriver::Step& acts)
-{
-    return [acts](QDialog& dialog) {
-        acts(dialog);
-        dialog.close();
-    };
+    return child<QTableWidget>(dialog, "mapTable");
 }
 
 void selectTarget(QDialog& dialog, const QString& name)
 {
     auto& targets = list(dialog, "toList");
-    targets.setCurrentItem(targets.findItems(name, Qt::MatchExactly).first());
+    targets.setCurrentItem(itemOf(targets, name));
 }
 
 } // namespace
@@ -48,187 +39,172 @@ class LayerTranslateCommandTest : public CommandFixture
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        start({"Dialog/CmdLaytrans", "Dialog/CmdLaytransNewEdit", "Dialog/CmdLaytransSetting"});
+        hostextras::removeKey(*vnsi::vn_user_config(L"layertransset_dialog"), "LtransSettingDates");
+        open("floor.dxf", m_original); // The log goes beside it.
+    }
+
     void cleanup() { stop(); }
-    void everythingInOneRun();
-    void refusals();
-    void purgesInOneStep();
+
+    void everythingInOneRun()
+    {
+        const QImage whole = picture();
+        QHash<QString, QString> targets; // By source, in small letters.
+        const auto setOptions = [](QDialog& settings) {
+            for (const char* option : {"optionBox0", "optionBox3", "optionBox4", "optionBox5"})
+                child<QCheckBox>(settings, option).setChecked(true);
+            press(settings, "okButton");
+        };
+        const auto editLayer = [](QDialog& layer) {
+            QCOMPARE(child<QComboBox>(layer, "linetypeBox").currentText(), "FIRE_MAIN");
+            child<QComboBox>(layer, "transparencyBox").setEditText("35");
+            press(layer, "okButton");
+        };
+        const auto translate = [&](QDialog& dialog) {
+            selectTexts(list(dialog, "fromList"), {"A-EQPM", "墙体-隔墙"});
+            press(dialog, "settingButton");
+            const QImage two = picture(); // The option shows them at once.
+            load(dialog, {kStandard, kStandard});
+            QCOMPARE(list(dialog, "toList").count(), 22);
+            QCOMPARE(table(dialog).rowCount(), 18); // Those saved in the file.
+            press(dialog, "mapSameButton");
+            QCOMPARE(table(dialog).rowCount(), 26);
+            selectTexts(list(dialog, "fromList"), {"家具-办公桌", "家具-座椅"});
+            selectTarget(dialog, "A-FURN");
+            press(dialog, "mapButton");
+
+            auto& from = list(dialog, "fromList");
+            emit from.itemClicked(itemOf(from, "A-EQPM"));
+            const QImage one = picture();
+            emit from.itemClicked(itemOf(from, "备用-1"));
+            QVERIFY(two != whole && two != one && one != whole && one != picture());
+
+            table(dialog).selectRow(rowOf(table(dialog), "消防-喷淋"));
+            press(dialog, "editButton");
+            for (int row = 0; row < table(dialog).rowCount(); ++row)
+                targets.insert(table(dialog).item(row, 0)->text().toLower(),
+                    table(dialog).item(row, 1)->text().toLower());
+            answerFiles({inFolder("saved.dxf")});
+            press(dialog, "saveButton");
+            QVERIFY(!child<QPushButton>(dialog, "saveButton").isEnabled());
+            press(dialog, "translateButton");
+            QVERIFY(!dialog.isVisible());
+        };
+        run("laytrans", {closing(translate), setOptions, closing(editLayer)});
+        QCOMPARE(messages(), QStringList());
+        const auto saved = drawing::readStandard(inFolder("saved.dxf"));
+        QVERIFY(saved && saved->mappings.size() == static_cast<std::size_t>(targets.size()));
+        QVERIFY(contentOf(inFolder("floor.log")).contains("墙体-隔墙"));
+
+        if (readback::isInstalled()) {
+            QVERIFY(drawing().save(inFolder("translated.dxf")));
+            const QJsonObject before = readback::seen(m_path);
+            const QJsonObject after = readback::seen(inFolder("translated.dxf"));
+            QCOMPARE(readback::newErrors(before, after), QStringList());
+            QHash<QString, int> expected;
+            const QJsonObject counts = before.value("entities").toObject();
+            for (const QString& layer : counts.keys())
+                expected[targets.value(layer, layer)] += counts.value(layer).toInt();
+            const QJsonObject found = after.value("entities").toObject();
+            for (auto layer = expected.cbegin(); layer != expected.cend(); ++layer)
+                QVERIFY2(
+                    found.value(layer.key()).toInt() == layer.value(), qPrintable(layer.key()));
+            QCOMPARE(found.size(), expected.size());
+            const QJsonObject sprinklers = readback::layers(after).value("F-SPRN");
+            QCOMPARE(sprinklers.value("linetype").toString(), "FIRE_MAIN");
+            QCOMPARE(sprinklers.value("transparency").toInt(), 35);
+        }
+        checkUndo();
+        QCOMPARE(picture(), whole);
+    }
+
+    /// Each says what cannot be done and why, and the dialog stays.
+    void refusals()
+    {
+        writtenFile(inFolder("text.dxf"), "text");
+        const auto config = vnsi::vn_user_config(L"layertransset_dialog");
+        config->SetDataJ("LtransSettingDates", hostextras::createArray(0));
+        const auto message = [&] { return m_host->takeLog().filter("message|").join('\n'); };
+        const auto acts = [&](QDialog& dialog) {
+            load(dialog, {inFolder("text.dxf"), kStandard, inFolder("missing.dwg")});
+            const QString unread = message();
+            QVERIFY(unread.contains("text.dxf") && unread.contains("missing.dwg"));
+            QCOMPARE(list(dialog, "toList").count(), 22); // The rest is loaded.
+            QCOMPARE(table(dialog).rowCount(), 18);
+            press(dialog, "settingButton");
+            QVERIFY(message().contains("不是六项"));
+            const auto save = [&](const QString& name, int answer = 0) {
+                answerFiles({inFolder(name)});
+                if (answer)
+                    m_host->answer(answer);
+                press(dialog, "saveButton");
+            };
+            save("floor.dxf");
+            QVERIFY(message().contains("正在转换的图形"));
+            save("text.dxf");
+            QVERIFY(message().contains("text.dxf"));
+            for (const char* name : {"new.dws", "new.DWG", "new.dwt", "floor.dws"}) {
+                save(name, vnsi::kVnAnswerNo);
+                const QString refusal = message();
+                // The drawing's own name is not offered.
+                QVERIFY(refusal.contains(name) && refusal.contains(".dxf"));
+                QVERIFY(refusal.contains("new.dxf") || refusal.contains("floor-图层标准.dxf"));
+                QVERIFY(!QFile::exists(inFolder(name)) && !QFile::exists(inFolder("new.dxf")));
+            }
+            save("new.dws", vnsi::kVnAnswerYes);
+            QVERIFY(QFile::exists(inFolder("new.dxf")) && !message().contains("将被替换"));
+            QMetaObject::invokeMethod(&dialog, "slot_m_pbMapSameClicked"); // There is news to save.
+            save("new.dws", vnsi::kVnAnswerNo);
+            QVERIFY(message().contains("将被替换"));
+            QMetaObject::invokeMethod(&dialog, "slot_MenuMapListAllDelete");
+            save("none.dxf");
+            QVERIFY(message().contains("还没有图层映射") && !QFile::exists(inFolder("none.dxf")));
+            press(dialog, "translateButton");
+            QVERIFY(message().contains("还没有图层映射"));
+            QVERIFY(dialog.isVisible());
+
+            // Its name is no hindrance here.
+            QVERIFY(QFile::copy(kStandard, inFolder("standard.dws")));
+            load(dialog, {inFolder("standard.dws"), m_path});
+            QCOMPARE(table(dialog).rowCount(), 18); // What was deleted comes back.
+            const auto mark = [&](const char* name) {
+                const auto* item = itemOf(list(dialog, "toList"), name);
+                return item->icon().pixmap(16).toImage();
+            };
+            // Used in the file they came from, or not.
+            QVERIFY(mark("墙体-隔墙") != mark("备用-1"));
+        };
+        run("laytrans",
+            {closing(acts), [](QDialog& settings) { press(settings, "cancelButton"); }});
+        QVERIFY(!drawing().canUndo());
+        hostextras::removeKey(*config, "LtransSettingDates");
+    }
+
+    void purgesInOneStep()
+    {
+        const auto purge = [&](QDialog& dialog) {
+            const int before = list(dialog, "fromList").count();
+            QMetaObject::invokeMethod(&dialog, "slot_FromListMenuActionCleanlayer");
+            QVERIFY(list(dialog, "fromList").count() < before);
+            for (const char* name : {"备用-1", "备用-2"})
+                QVERIFY(!itemOf(list(dialog, "fromList"), name));
+            press(dialog, "cancelButton");
+        };
+        run("laytrans", {closing(purge)});
+        QVERIFY(!drawing().findLayer("备用-1"));
+        drawing().undo();
+        QVERIFY(drawing().findLayer("备用-1") && !drawing().canUndo());
+    }
 
 private:
-    void load(QDialog& dialog, const QStringList& files);
-    QImage picture() const { return m_window->canvas()->grab().toImage(); }
-    QString inFolder(const QString& name) const { return m_folder.filePath(name); }
-};
-
-void LayerTranslateCommandTest::init()
-{
-    start({"Dialog/CmdLaytrans", "Dialog/CmdLaytransNewEdit", "Dialog/CmdLaytransSetting"});
-    hostextras::removeKey(*vnsi::vn_user_config(L"layertransset_dialog"), "LtransSettingDates");
-    QFile::remove(inFolder("floor.dxf"));
-    QVERIFY(QFile::copy(m_path, inFolder("floor.dxf"))); // The log goes beside it.
-    open(inFolder("floor.dxf"));
-}
-
-void LayerTranslateCommandTest::load(QDialog& dialog, const QStringList& files)
-{
-    const QJsonObject answer{{"filePaths", QJsonArray::fromStringList(files)}};
-    m_host->answer(1, QString::fromUtf8(QJsonDocument(answer).toJson()));
-    press(dialog, "loadButton");
-}
-
-void LayerTranslateCommandTest::everythingInOneRun()
-{
-    const QImage whole = picture();
-    QHash<QString, QString> targets; // By source, in small letters.
-    const auto setOptions = [](QDialog& settings) {
-        for (const char* option : {"optionBox0", "optionBox3", "optionBox4", "optionBox5"})
-            ModuleFixture::child<QCheckBox>(&settings, option)->setChecked(true);
-        press(settings, "okButton");
-    };
-    const auto editLayer = [](QDialog& layer) {
-        QCOMPARE(ModuleFixture::child<QComboBox>(&layer, "linetypeBox")->currentText(),
-            QStringLiteral("FIRE_MAIN"));
-        ModuleFixture::child<QComboBox>(&layer, "transparencyBox")->setEditText("35");
-        press(layer, "okButton");
-    };
-    const auto translate = [&](QDialog& dialog) {
-        selectTexts(list(dialog, "fromList"), {"A-EQPM", "墙体-隔墙"});
-        press(dialog, "settingButton");
-        const QImage two = picture(); // The option shows them at once.
-        load(dialog, {kStandard, kStandard});
-        QCOMPARE(list(dialog, "toList").count(), 22);
-        QCOMPARE(table(dialog).rowCount(), 18); // Those saved in the file.
-        press(dialog, "mapSameButton");
-        QCOMPARE(table(dialog).rowCount(), 26);
-        selectTexts(list(dialog, "fromList"), {"家具-办公桌", "家具-座椅"});
-        selectTarget(dialog, "A-FURN");
-        press(dialog, "mapButton");
-
-        auto& from = list(dialog, "fromList");
-        emit from.itemClicked(from.findItems("A-EQPM", Qt::MatchExactly).first());
-        const QImage one = picture();
-        emit from.itemClicked(from.findItems("备用-1", Qt::MatchExactly).first());
-        QVERIFY(two != whole && two != one && one != whole && one != picture());
-
-        table(dialog).selectRow(
-            table(dialog).findItems("消防-喷淋", Qt::MatchExactly).first()->row());
-        press(dialog, "editButton");
-        for (int row = 0; row < table(dialog).rowCount(); ++row)
-            targets.insert(table(dialog).item(row, 0)->text().toLower(),
-                table(dialog).item(row, 1)->text().toLower());
-        m_host->answer(1, R"({"filePath":")" + inFolder("saved.dxf") + "\"}");
-        press(dialog, "saveButton");
-        QVERIFY(!ModuleFixture::child<QPushButton>(&dialog, "saveButton")->isEnabled());
-        press(dialog, "translateButton");
-        QVERIFY(!dialog.isVisible());
-    };
-    run("laytrans", {closing(translate), setOptions, closing(editLayer)});
-    for (const QString& line : m_host->log())
-        QVERIFY2(!line.startsWith("message"), qPrintable(line));
-    const auto saved = drawing::readStandard(inFolder("saved.dxf"));
-    QVERIFY(saved && saved->mappings.size() == static_cast<std::size_t>(targets.size()));
-    QFile log(inFolder("floor.log"));
-    QVERIFY(log.open(QIODevice::ReadOnly) && log.readAll().contains("墙体-隔墙"));
-
-    const QByteArray translated = savedBytes("translated.dxf");
-    if (readback::isInstalled()) {
-        const QJsonObject before = readback::seen(inFolder("floor.dxf"));
-        const QJsonObject after = readback::seen(inFolder("translated.dxf"));
-        QCOMPARE(readback::newErrors(before, after), QStringList());
-        QHash<QString, int> expected;
-        const QJsonObject counts = before.value("entities").toObject();
-        for (const QString& layer : counts.keys())
-            expected[targets.value(layer, layer)] += counts.value(layer).toInt();
-        const QJsonObject found = after.value("entities").toObject();
-        for (auto layer = expected.cbegin(); layer != expected.cend(); ++layer)
-            QVERIFY2(found.value(layer.key()).toInt() == layer.value(), qPrintable(layer.key()));
-        QCOMPARE(found.size(), expected.size());
-        const QJsonObject sprinklers = readback::layers(after).value("F-SPRN");
-        QCOMPARE(sprinklers.value("linetype").toString(), QStringLiteral("FIRE_MAIN"));
-        QCOMPARE(sprinklers.value("transparency").toInt(), 35);
+    void load(QDialog& dialog, const QStringList& files)
+    {
+        answerFiles(files);
+        press(dialog, "loadButton");
     }
-    drawing().undo();
-    QVERIFY(!drawing().canUndo());
-    QVERIFY(savedBytes("undone.dxf") == m_original && translated != m_original);
-    QCOMPARE(picture(), whole);
-}
-
-/// Each says what cannot be done and why, and the dialog stays.
-void LayerTranslateCommandTest::refusals()
-{
-    QFile noDrawing(inFolder("text.dxf"));
-    QVERIFY(noDrawing.open(QIODevice::WriteOnly) && noDrawing.write("text") == 4);
-    noDrawing.close();
-    const auto config = vnsi::vn_user_config(L"layertransset_dialog");
-    config->SetDataJ("LtransSettingDates", hostextras::createArray(0));
-    const auto message = [&] { return m_host->takeLog().filter("message|").join('\n'); };
-    const auto acts = [&](QDialog& dialog) {
-        load(dialog, {inFolder("text.dxf"), kStandard, inFolder("missing.dwg")});
-        const QString unread = message();
-        QVERIFY(unread.contains("text.dxf") && unread.contains("missing.dwg"));
-        QCOMPARE(list(dialog, "toList").count(), 22); // The rest is loaded.
-        QCOMPARE(table(dialog).rowCount(), 18);
-        press(dialog, "settingButton");
-        QVERIFY(message().contains("不是六项"));
-        const auto save = [&](const QString& path, int answer = 0) {
-            m_host->answer(1, R"({"filePath":")" + path + "\"}");
-            if (answer)
-                m_host->answer(answer);
-            press(dialog, "saveButton");
-        };
-        save(inFolder("floor.dxf"));
-        QVERIFY(message().contains("正在转换的图形"));
-        save(inFolder("text.dxf"));
-        QVERIFY(message().contains("text.dxf"));
-        for (const char* name : {"new.dws", "new.DWG", "new.dwt", "floor.dws"}) {
-            save(inFolder(name), vnsi::kVnAnswerNo);
-            const QString refusal = message();
-            // The drawing's own name is not offered.
-            QVERIFY(refusal.contains(name) && refusal.contains(".dxf"));
-            QVERIFY(refusal.contains("new.dxf") || refusal.contains("floor-图层标准.dxf"));
-            QVERIFY(!QFile::exists(inFolder(name)) && !QFile::exists(inFolder("new.dxf")));
-        }
-        save(inFolder("new.dws"), vnsi::kVnAnswerYes);
-        QVERIFY(QFile::exists(inFolder("new.dxf")) && !message().contains("将被替换"));
-        QMetaObject::invokeMethod(&dialog, "slot_m_pbMapSameClicked"); // There is news to save.
-        save(inFolder("new.dws"), vnsi::kVnAnswerNo);
-        QVERIFY(message().contains("将被替换"));
-        QMetaObject::invokeMethod(&dialog, "slot_MenuMapListAllDelete");
-        save(inFolder("none.dxf"));
-        QVERIFY(message().contains("还没有图层映射") && !QFile::exists(inFolder("none.dxf")));
-        press(dialog, "translateButton");
-        QVERIFY(message().contains("还没有图层映射"));
-        QVERIFY(dialog.isVisible());
-
-        QVERIFY(QFile::copy(kStandard, inFolder("standard.dws"))); // Its name is no hindrance here.
-        load(dialog, {inFolder("standard.dws"), m_path});
-        QCOMPARE(table(dialog).rowCount(), 18); // What was deleted comes back.
-        const auto mark = [&](const char* name) {
-            const auto* item = list(dialog, "toList").findItems(name, Qt::MatchExactly).first();
-            return item->icon().pixmap(16).toImage();
-        };
-        QVERIFY(mark("墙体-隔墙") != mark("备用-1")); // Used in the file they came from, or not.
-    };
-    run("laytrans", {closing(acts), [](QDialog& settings) { press(settings, "cancelButton"); }});
-    QVERIFY(!drawing().canUndo());
-    hostextras::removeKey(*config, "LtransSettingDates");
-}
-
-void LayerTranslateCommandTest::purgesInOneStep()
-{
-    const auto purge = [&](QDialog& dialog) {
-        const int before = list(dialog, "fromList").count();
-        QMetaObject::invokeMethod(&dialog, "slot_FromListMenuActionCleanlayer");
-        QVERIFY(list(dialog, "fromList").count() < before);
-        for (const char* name : {"备用-1", "备用-2"})
-            QVERIFY(list(dialog, "fromList").findItems(name, Qt::MatchExactly).isEmpty());
-        press(dialog, "cancelButton");
-    };
-    run("laytrans", {closing(purge)});
-    QVERIFY(!drawing().findLayer("备用-1"));
-    drawing().undo();
-    QVERIFY(drawing().findLayer("备用-1") && !drawing().canUndo());
-}
+};
 
 QTEST_MAIN(LayerTranslateCommandTest)
 

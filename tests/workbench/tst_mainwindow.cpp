@@ -1,10 +1,12 @@
-#include "../drawing/tst_geometrysketch.h"
 #include "boxanswerer.h"
 #include "canvas.h"
 #include "commandline.h"
+#include "filelimit.h"
 #include "mainwindow.h"
 #include "recentfiles.h"
 #include "rows.h"
+#include "sketch.h"
+#include "steps.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -18,18 +20,9 @@
 #include <QToolButton>
 #include <QtTest>
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace {
 
 const QByteArray kLine = "0 LINE 8 A 10 0 20 0 11 1 21 0 ";
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -40,8 +33,8 @@ class MainWindowTest : public QObject
 private slots:
     void initTestCase()
     {
-        QCoreApplication::setOrganizationName(QStringLiteral("layerbench"));
-        QCoreApplication::setApplicationName(QStringLiteral("test"));
+        QCoreApplication::setOrganizationName("layerbench");
+        QCoreApplication::setApplicationName("test");
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
     }
 
@@ -83,7 +76,7 @@ private slots:
             offered.append(completer->currentCompletion());
         QCOMPARE(offered, QStringList({"LAYER", "LAYERSTATE"}));
         QTest::keyClick(input(), Qt::Key_Return);
-        QCOMPARE(entered.value(0).value(0).toString(), QStringLiteral("layer"));
+        QCOMPARE(entered.value(0).value(0).toString(), "layer");
     }
 
     void historyWalks_data()
@@ -112,9 +105,9 @@ private slots:
     void openingShowsTheDrawing()
     {
         QVERIFY(open(kLine));
-        QCOMPARE(m_window->windowTitle(), QStringLiteral("图层工作台 - sketch.dxf[*]"));
-        QCOMPARE(find<QLabel>("layerCountField")->text(), QStringLiteral("3 个图层"));
-        QCOMPARE(find<QLabel>("currentLayerField")->text(), QStringLiteral("当前图层: 0"));
+        QCOMPARE(m_window->windowTitle(), "图层工作台 - sketch.dxf[*]");
+        QCOMPARE(find<QLabel>("layerCountField")->text(), "3 个图层");
+        QCOMPARE(find<QLabel>("currentLayerField")->text(), "当前图层: 0");
         QVERIFY(!find<QToolButton>("workCancel")->isVisible());
         QVERIFY(!action("SAVE")->isEnabled());
         QVERIFY(action("SAVEAS")->isEnabled());
@@ -125,17 +118,13 @@ private slots:
     {
         QVERIFY(open(kLine));
         const QByteArray content = "0\nSECTION\n2\nHEADER\nxx\n$ACADVER\n0\nENDSEC\n0\nEOF\n";
-        const QString path = m_sketch->path("broken.dxf");
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
-
-        BoxAnswerer answerer({QStringLiteral("取消")});
+        const QString path = writtenFile(m_sketch->path("broken.dxf"), content);
+        BoxAnswerer answerer({"取消"});
         m_window->openFile(path);
         QVERIFY(answerer.waitForAll());
         QVERIFY(answerer.texts()[0].contains("broken.dxf"));
-        QVERIFY(answerer.texts()[0].contains(QRegularExpression(QStringLiteral("第 \\d+ 行"))));
-        QVERIFY(m_window->drawing()->path().endsWith(QLatin1String("sketch.dxf")));
+        QVERIFY(answerer.texts()[0].contains(QRegularExpression("第 \\d+ 行")));
+        QVERIFY(m_window->drawing()->path().endsWith("sketch.dxf"));
         QCOMPARE(contentOf(path), content);
         QVERIFY(action("OPEN")->isEnabled());
     }
@@ -143,9 +132,9 @@ private slots:
     void reopensInAnotherCodePage()
     {
         QVERIFY(open("0 LINE 8 \xd1"));
-        QVERIFY(m_window->drawing()->findLayer(QStringLiteral("�D1")));
+        QVERIFY(m_window->drawing()->findLayer("�D1"));
         QTimer timer;
-        QStringList typed{QStringLiteral("ANSI_1251"), QStringLiteral("MARTIAN")};
+        QStringList typed{"ANSI_1251", "MARTIAN"};
         connect(&timer, &QTimer::timeout, this, [&typed] {
             auto* const dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
             if (!dialog || typed.isEmpty())
@@ -154,30 +143,30 @@ private slots:
             dialog->accept();
         });
         timer.start(2);
-        BoxAnswerer answerer({QStringLiteral("确定")});
+        BoxAnswerer answerer({"确定"});
         QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
         action("REOPEN")->trigger();
         QVERIFY(answerer.texts().value(0).contains("MARTIAN"));
         QVERIFY(opened.wait());
-        QVERIFY(m_window->drawing()->findLayer(QStringLiteral("С")));
+        QVERIFY(m_window->drawing()->findLayer("С"));
     }
 
     void whatIsWholeOfACutFileIsOffered()
     {
         const QString path = m_sketch->write(kLine + kLine);
         const QByteArray whole = contentOf(path);
-        QFile(path).resize(whole.size() - 20);
+        QVERIFY(QFile::resize(path, whole.size() - 20));
         const QByteArray content = contentOf(path);
-        BoxAnswerer answerer({QStringLiteral("打开完整的部分"), QStringLiteral("确定")});
+        BoxAnswerer answerer({"打开完整的部分", "确定"});
         QSignalSpy opened(m_window.get(), &MainWindow::fileOpened);
         m_window->openFile(path);
         QVERIFY(opened.wait());
         QVERIFY(answerer.texts()[0].contains("sketch.dxf"));
-        QVERIFY(m_window->windowTitle().contains(QStringLiteral("不完整")));
-        turnOff("A", "x");
+        QVERIFY(m_window->windowTitle().contains("不完整"));
+        turnOff();
         action("SAVE")->trigger();
         QVERIFY(answerer.waitForAll());
-        QVERIFY(answerer.texts()[1].contains(QStringLiteral("另存")));
+        QVERIFY(answerer.texts()[1].contains("另存"));
         QCOMPARE(contentOf(path), content);
     }
 
@@ -198,8 +187,8 @@ private slots:
     void droppedFileOpens()
     {
         QMimeData data;
-        data.setUrls({QUrl(QStringLiteral("https://example.org/a.dxf")),
-            QUrl::fromLocalFile(m_sketch->write(kLine))});
+        data.setUrls(
+            {QUrl("https://example.org/a.dxf"), QUrl::fromLocalFile(m_sketch->write(kLine))});
         QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(m_window.get(), &enter);
         QVERIFY(enter.isAccepted());
@@ -228,7 +217,7 @@ private slots:
         QCOMPARE(RecentFiles().paths(), recent->paths());
 
         // The first is not there: it is reported and forgotten.
-        BoxAnswerer answerer({QStringLiteral("确定")});
+        BoxAnswerer answerer({"确定"});
         recent->actions().first()->trigger();
         QVERIFY(answerer.waitForAll());
         QVERIFY(!recent->paths().contains(m_sketch->path("5.dxf")));
@@ -237,13 +226,13 @@ private slots:
     void undoNamesItsStep()
     {
         QVERIFY(open(kLine));
-        turnOff("A", "图层特性");
+        turnOff();
         QVERIFY(m_window->isWindowModified());
-        QVERIFY(action("UNDO")->text().startsWith("撤销 图层特性"));
+        QVERIFY(action("UNDO")->text().startsWith("撤销 step"));
         QVERIFY(!action("REDO")->isEnabled());
         action("UNDO")->trigger();
         QVERIFY(!m_window->isWindowModified());
-        QVERIFY(action("REDO")->text().startsWith("重做 图层特性"));
+        QVERIFY(action("REDO")->text().startsWith("重做 step"));
         QVERIFY(!m_window->drawing()->findLayer("A")->properties.off);
     }
 
@@ -255,7 +244,7 @@ private slots:
             return canvas->grab().toImage().pixelColor(canvas->view().toScreen({4, 4}).toPoint());
         };
         QCOMPARE(pixel(), QColor(255, 0, 0));
-        turnOff("A", "x");
+        turnOff();
         QCOMPARE(pixel(), QColor(Qt::black));
         action("UNDO")->trigger();
         QCOMPARE(pixel(), QColor(255, 0, 0));
@@ -279,7 +268,7 @@ private slots:
         QVERIFY(open(kLine));
         const QString path = m_window->drawing()->path();
         const QByteArray before = contentOf(path);
-        turnOff("A", "x");
+        turnOff();
         BoxAnswerer answerer({answer});
         QCOMPARE(m_window->close(), closes);
         QVERIFY(answerer.waitForAll());
@@ -291,8 +280,8 @@ private slots:
     void openingAnotherAsks()
     {
         QVERIFY(open(kLine));
-        turnOff("A", "x");
-        BoxAnswerer answerer({QStringLiteral("取消")});
+        turnOff();
+        BoxAnswerer answerer({"取消"});
         m_window->openFile(m_sketch->write(kLine, "other.dxf"));
         QVERIFY(answerer.waitForAll());
         QVERIFY(m_window->isWindowModified());
@@ -310,22 +299,16 @@ private slots:
     {
         QFETCH(bool, isFull);
         QVERIFY(open(kLine));
-        turnOff("A", "x");
+        turnOff();
         const QString path = m_window->drawing()->path();
         const QByteArray content = contentOf(path);
         QVERIFY(isFull || QFileInfo(path).dir().removeRecursively());
-        // A limit on file sizes fails a write half-way, as a full disk does.
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit usual{};
-        getrlimit(RLIMIT_FSIZE, &usual);
-        const rlimit low{isFull ? 10 : usual.rlim_cur, usual.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &low);
         // Closing with "save" must not close over a failure.
-        BoxAnswerer answerer({QStringLiteral("保存"), QStringLiteral("确定")});
-        const bool isClosed = m_window->close();
-        const bool isAnswered = answerer.waitForAll();
-        setrlimit(RLIMIT_FSIZE, &usual);
-        QVERIFY(!isClosed && isAnswered);
+        BoxAnswerer answerer({"保存", "确定"});
+        {
+            const FileLimit limit(isFull ? 10 : RLIM_INFINITY);
+            QVERIFY(!m_window->close() && answerer.waitForAll());
+        }
         QVERIFY(answerer.texts()[1].contains("sketch.dxf"));
         QVERIFY(m_window->isWindowModified());
         QVERIFY(m_window->drawing()->findLayer("A")->properties.off);
@@ -341,14 +324,9 @@ private:
         return opened.wait();
     }
 
-    void turnOff(const QString& layer, const QString& step)
+    void turnOff()
     {
-        drawing::Drawing& drawing = *m_window->drawing();
-        drawing.beginStep(step);
-        drawing::LayerProperties properties = drawing.findLayer(layer)->properties;
-        properties.off = true;
-        QVERIFY(drawing.setLayerProperties(drawing.findLayer(layer)->id, properties));
-        drawing.commitStep();
+        QCOMPARE(edit(*m_window->drawing(), "A", [](auto& layer) { layer.off = true; }), "");
     }
 
     QString echo() const { return m_window->findChild<CommandLine*>()->echo(); }

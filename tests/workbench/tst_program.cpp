@@ -1,4 +1,4 @@
-#include "../drawing/tst_geometrysketch.h"
+#include "sketch.h"
 #include "rows.h"
 
 #include <QImage>
@@ -84,8 +84,8 @@ private slots:
         QCOMPARE(layers[1].toObject()["color"].toInt(), 3);
         QVERIFY(layers[1].toObject()["off"].toBool());
         QCOMPARE(layers[1].toObject()["entities"].toInt(), 2);
-        QCOMPARE(layers[2].toObject()["name"].toString(), QStringLiteral("墙"));
-        QCOMPARE(layers[2].toObject()["trueColor"].toString(), QStringLiteral("#010203"));
+        QCOMPARE(layers[2].toObject()["name"].toString(), "墙");
+        QCOMPARE(layers[2].toObject()["trueColor"].toString(), "#010203");
     }
 
     void pictures()
@@ -95,7 +95,7 @@ private slots:
         const QString file = m_sketch.path("new/folder/window.png");
         const QString folder = m_sketch.path("gallery");
         QCOMPARE(run({"--screenshot", file, "--gallery", folder, path}).code, 0);
-        for (const QString& picture : {file, folder + QStringLiteral("/workbench.png")}) {
+        for (const QString& picture : {file, folder + "/workbench.png"}) {
             const QImage image(picture);
             QVERIFY(!image.isNull());
             int red = 0;

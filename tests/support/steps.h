@@ -1,0 +1,40 @@
+#pragma once
+
+#include "drawing.h"
+
+/// Does `act` as a step of its own; what it gives.
+template <class Act>
+auto inStep(drawing::Drawing& drawing, Act act)
+{
+    drawing.beginStep(QStringLiteral("step"));
+    const auto result = act();
+    drawing.commitStep();
+    return result;
+}
+
+/// Runs `change` on a layer's properties, in a step of its own; the refusal's text, if any.
+template <class Change>
+QString edit(drawing::Drawing& drawing, const QString& layer, Change change)
+{
+    const drawing::Layer* const found = drawing.findLayer(layer);
+    drawing::LayerProperties properties = found->properties;
+    change(properties);
+    const auto result =
+        inStep(drawing, [&] { return drawing.setLayerProperties(found->id, properties); });
+    return result ? QString() : result.error().text;
+}
+
+/// The name of the layer that new objects go to.
+inline QString currentName(const drawing::Drawing& drawing)
+{
+    return drawing.layer(drawing.currentLayer())->properties.name;
+}
+
+/// The names of all layers, in their order.
+inline QStringList layerNames(const drawing::Drawing& drawing)
+{
+    QStringList names;
+    for (const drawing::Layer& layer : drawing.layers())
+        names += layer.properties.name;
+    return names;
+}
