@@ -61,6 +61,15 @@ inline QJsonObject seen(const QString& path, const QString& what = "layers")
         .object();
 }
 
+/// The same of a file that no test changes; kept, as reading takes its time.
+inline QJsonObject original(const QString& path)
+{
+    static QHash<QString, QJsonObject> known;
+    if (!known.contains(path))
+        known.insert(path, seen(path));
+    return known.value(path);
+}
+
 /// A layer as `seen` gives it.
 inline QJsonObject facts(const drawing::LayerProperties& p)
 {

@@ -323,7 +323,7 @@ private slots:
         if (!readback::isInstalled())
             QSKIP("python3-ezdxf is not installed");
         QFETCH(int, mask);
-        const auto drawing = opened(contentOf(SHARED_DRAWINGS "/floorplan.dxf"));
+        const auto drawing = opened(contentOf(SAMPLES "/office-standard.dxf"));
         const LayerState state = captureLayerState(*drawing, "Before");
         put(*drawing, state);
         drawing->beginStep("turn");

@@ -52,7 +52,7 @@ private slots:
     {
         QFETCH(QString, path);
         const auto drawing = opened(contentOf(path));
-        compareLayers(*drawing, original(path));
+        compareLayers(*drawing, readback::original(path));
         checkStep(*drawing, path, [&] { changeAll(*drawing); });
     }
 
@@ -98,14 +98,6 @@ private:
             });
     }
 
-    /// What the reader sees of a file as it is; kept, as reading takes its time.
-    QJsonObject original(const QString& path)
-    {
-        if (!m_originals.contains(path))
-            m_originals.insert(path, readback::seen(path));
-        return m_originals.value(path);
-    }
-
     /// Does `act` as one step: the reader sees what the drawing has and no new error, and undo
     /// brings every byte back.
     template <class Act>
@@ -118,7 +110,7 @@ private:
         QVERIFY(drawing.save(result));
         const QJsonObject after = readback::seen(result);
         compareLayers(drawing, after);
-        QCOMPARE(readback::newErrors(original(path), after), QStringList());
+        QCOMPARE(readback::newErrors(readback::original(path), after), QStringList());
         checkUndo(drawing, contentOf(path));
     }
 
@@ -187,7 +179,6 @@ private:
         return layers;
     }
 
-    QHash<QString, QJsonObject> m_originals;
     QTemporaryDir m_twins;
 };
 
