@@ -43,7 +43,7 @@ VnJsonPtr makeHolder(const char* key, const VnJsonPtr& held)
 
 OdString numbered(const wchar_t* text, int number)
 {
-    return OdString(text + std::to_wstring(number));
+    return (text + std::to_wstring(number)).c_str();
 }
 
 VnJsonPtr layerList(int count)

@@ -28,7 +28,7 @@ VnJsonPtr makeRecord(int number)
     VnJsonPtr record = ElementValue::createObject(kMembers);
     const std::wstring name =
         std::wstring(pick(kPurposes, number)) + L'-' + std::to_wstring(number);
-    record->SetDataSW(layerkey::kName, OdString(name));
+    record->SetDataSW(layerkey::kName, name.c_str());
     record->SetDataI(
         layerkey::kStatus, static_cast<OdInt32>(number == 0 ? kLayerCurrent : kLayerOrdinary));
     record->SetDataB(layerkey::kOff, number % 7 == 3);
@@ -38,10 +38,10 @@ VnJsonPtr makeRecord(int number)
     record->SetDataI(layerkey::kLineWidth, pick(kLineWidths, number));
     record->SetDataI(layerkey::kTransparency, number % 10 * 10);
     record->SetDataSW(
-        layerkey::kPlotStyle, OdString(L"Color_" + std::to_wstring(number % kIndexColors + 1)));
+        layerkey::kPlotStyle, (L"Color_" + std::to_wstring(number % kIndexColors + 1)).c_str());
     record->SetDataB(layerkey::kPrint, number % 13 != 0);
     record->SetDataB(layerkey::kVPortFrozen, number % 17 == 0);
-    record->SetDataSW(layerkey::kDescription, OdString(L"第 " + std::to_wstring(number) + L" 层"));
+    record->SetDataSW(layerkey::kDescription, (L"第 " + std::to_wstring(number) + L" 层").c_str());
     record->SetDataB(layerkey::kSelected, number == 1 || number == 2 || number == 40);
     record->SetDataB(layerkey::kDepend, number % 50 == 49);
     record->SetDataB(layerkey::kUsed, number % 2 == 0);

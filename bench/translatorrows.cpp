@@ -24,7 +24,7 @@ VnJsonPtr makeRecords(int count, const char* nameKey, const wchar_t* prefix, int
     const VnJsonPtr records = hostextras::createArray(count);
     for (int i = 0; i < count; ++i) {
         const VnJsonPtr record = ElementValue::createObject(2);
-        record->SetDataSW(nameKey, OdString(prefix + std::to_wstring(i * step % count)));
+        record->SetDataSW(nameKey, (prefix + std::to_wstring(i * step % count)).c_str());
         hostextras::append(records, record);
     }
     return records;

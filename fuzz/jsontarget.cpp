@@ -26,9 +26,11 @@ void change(const VnJsonPtr& tree, FuzzedDataProvider& bytes)
     case 0:
         target->SetDataI(key.c_str(), bytes.ConsumeIntegral<int>());
         break;
-    case 1:
-        target->SetDataS(key.c_str(), OdAnsiString(bytes.ConsumeRandomLengthString(12)));
+    case 1: {
+        const std::string text = bytes.ConsumeRandomLengthString(12);
+        target->SetDataS(key.c_str(), OdAnsiString(text.data(), static_cast<int>(text.size())));
         break;
+    }
     case 2:
         target->SetDataJ(key.c_str(), tree); // Where it would hang in itself it must be refused.
         break;

@@ -4,12 +4,10 @@
 #include "OdArray.h"
 #include "OdString.h"
 #include "RxObjectImpl.h"
+#include "coreservices.h"
+#include "resbuf.h"
 #include "vndialogs.h"
-#include "vndocument.h"
-#include "vneditprimitive.h"
 #include "vnjson.h"
-#include "vnrequests.h"
-#include "vnresbuf.h"
 
 #include <functional>
 #include <string>

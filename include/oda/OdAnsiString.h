@@ -3,7 +3,6 @@
 #include "OdaCommon.h"
 
 #include <string>
-#include <string_view>
 
 /// Narrow text; UTF-8 where it holds more than ASCII.
 class ODRX_EXPORT OdAnsiString
@@ -11,27 +10,21 @@ class ODRX_EXPORT OdAnsiString
 public:
     OdAnsiString() = default;
     OdAnsiString(const char* text) : m_text(text ? text : "") {}
-    explicit OdAnsiString(std::string_view text) : m_text(text) {}
+    OdAnsiString(const char* text, int length) : m_text(text, static_cast<std::size_t>(length)) {}
 
     const char* c_str() const { return m_text.c_str(); }
-    std::string_view view() const { return m_text; }
     bool isEmpty() const { return m_text.empty(); }
     int getLength() const { return static_cast<int>(m_text.size()); }
-    /// Replaces every `from` by `to`; returns how many there were.
-    int replace(char from, char to);
+
+    friend bool operator==(const OdAnsiString& a, const OdAnsiString& b)
+    {
+        return a.m_text == b.m_text;
+    }
+    friend bool operator!=(const OdAnsiString& a, const OdAnsiString& b) { return !(a == b); }
 
 private:
     std::string m_text;
 };
-
-inline bool operator==(const OdAnsiString& a, const OdAnsiString& b)
-{
-    return a.view() == b.view();
-}
-inline bool operator!=(const OdAnsiString& a, const OdAnsiString& b)
-{
-    return a.view() != b.view();
-}
 
 class OdString;
 /// The text in UTF-8.

@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 
 /// Immutable wide text. Copies share the characters, so handing one on costs a reference count.
 class ODRX_EXPORT OdString
@@ -12,10 +11,9 @@ class ODRX_EXPORT OdString
 public:
     OdString() = default;
     OdString(const wchar_t* text);
-    explicit OdString(std::wstring_view text);
+    OdString(const wchar_t* text, int length);
 
     const wchar_t* c_str() const;
-    std::wstring_view view() const;
     bool isEmpty() const { return !m_text; }
     int getLength() const;
 

@@ -51,24 +51,21 @@ public:
     virtual int comparedTo(const OdRxObject* other) const;
     virtual bool isEqualTo(const OdRxObject* other) const;
 
-    static void* operator new(std::size_t size) { return odrxAllocOrThrow(size); }
+    /// Of `odrxAlloc`: while there is no memory the installed new-handler is called and the
+    /// allocation tried again; without a handler the allocation failure is raised.
+    static void* operator new(std::size_t size);
     static void operator delete(void* memory) { odrxFree(memory); }
 };
 
-template <class T>
-OdSmartPtr<T> OdSmartPtr<T>::castFrom(const OdRxObject* object)
-{
-    OdRxObject* found = object ? object->queryX(T::desc()) : nullptr;
-    return OdSmartPtr(static_cast<T*>(found), kOdRxObjAttach);
-}
-
-/// Declares what a run-time class needs to be recognised.
+/// Declares what a run-time class needs to be recognised: `cast` gives the object as one of the
+/// class, or null.
 #define ODRX_DECLARE_MEMBERS(ClassName)                                                            \
 public:                                                                                            \
     static const OdRxClass* desc();                                                                \
     static OdSmartPtr<ClassName> cast(const OdRxObject* object)                                    \
     {                                                                                              \
-        return OdSmartPtr<ClassName>::castFrom(object);                                            \
+        OdRxObject* const found = object ? object->queryX(desc()) : nullptr;                       \
+        return {static_cast<ClassName*>(found), kOdRxObjAttach};                                   \
     }                                                                                              \
     const OdRxClass* isA() const override;
 

@@ -8,8 +8,6 @@ enum OdRxObjMod {
     kOdRxObjAttach ///< The pointer takes over a reference that its maker holds.
 };
 
-class OdRxObject;
-
 /// Holds one reference on a run-time object.
 template <class T>
 class OdSmartPtr
@@ -33,9 +31,6 @@ public:
         std::swap(m_object, other.m_object);
         return *this;
     }
-
-    /// The object as a `T`; null when it is null or of another class.
-    static OdSmartPtr castFrom(const OdRxObject* object);
 
     T* get() const { return m_object; }
     T* operator->() const { return m_object; }

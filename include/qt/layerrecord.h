@@ -2,7 +2,7 @@
 
 #include "layercolor.h"
 #include "layerkeys.h"
-#include "vnjson.h"
+#include "treearray.h"
 
 #include <cstddef>
 #include <iterator>
@@ -102,7 +102,7 @@ public:
         using reference = LayerRecord;
 
         Iterator(const VnJsonPtr& list, int index) : m_list(list), m_index(index) {}
-        LayerRecord operator*() const { return LayerRecord(m_list(m_index)); }
+        LayerRecord operator*() const { return LayerRecord(treearray::item(m_list, m_index)); }
         Iterator& operator++()
         {
             ++m_index;
@@ -118,7 +118,7 @@ public:
 
     explicit LayerRecordList(VnJsonPtr list)
         : m_list(std::move(list)),
-          m_count(m_list ? m_list->ArrayCount() : 0)
+          m_count(treearray::count(m_list))
     {
     }
     /// Those of a tree, which may be empty.
@@ -135,7 +135,7 @@ public:
     /// A null record outside the list.
     LayerRecord operator[](int index) const
     {
-        return LayerRecord(holds(index) ? m_list(index) : VnJsonPtr());
+        return LayerRecord(holds(index) ? treearray::item(m_list, index) : VnJsonPtr());
     }
     Iterator begin() const { return {m_list, 0}; }
     Iterator end() const { return {m_list, m_count}; }

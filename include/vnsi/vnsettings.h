@@ -9,7 +9,7 @@ namespace vnsi {
 /// starts empty, and the file is set aside.
 VNSI_EXPORT VnJsonPtr vn_user_config(const OdString& section);
 
-/// The value of a host system variable; `fallback` for one that is not known.
-VNSI_EXPORT OdInt16 getVar(const OdString& name, OdInt16 fallback = 0);
+/// The value of a host system variable; 0 for one that is not known.
+VNSI_EXPORT OdInt16 getVar(const OdString& name);
 
 } // namespace vnsi

@@ -14,7 +14,6 @@ VNSI_EXPORT OdString vnutQStringToOdString(const QString& text);
 /// `?` one character, `[...]` one of, `[~...]` none of, a leading `~` all but, `,` between
 /// patterns, and a grave accent before a character that stands for itself. Takes bounded time for
 /// any pattern.
-VNSI_EXPORT bool vnsiutWcMatchEx(
-    const OdString& text, const OdString& pattern, bool ignoreCase = false);
+VNSI_EXPORT bool vnsiutWcMatchEx(const OdString& text, const OdString& pattern, bool ignoreCase);
 
 } // namespace vnsi

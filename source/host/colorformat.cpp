@@ -1,6 +1,6 @@
-#include "vndocument.h"
+#include "vncolortext.h"
 
-#include <cwchar>
+#include <string>
 
 namespace vnsi {
 
@@ -12,7 +12,7 @@ OdString indexText(int index)
 {
     if (index >= 1 && index <= static_cast<int>(std::size(kNames)))
         return kNames[index - 1];
-    return OdString(std::to_wstring(index));
+    return std::to_wstring(index).c_str();
 }
 
 } // namespace
@@ -29,8 +29,10 @@ OdString formatColor(const OdCmColor& color, const OdArray<ODCOLORREF>&, OdDbObj
     case OdCmEntityColor::kByColor:
         break;
     }
-    return OdString(std::to_wstring(color.red()) + L',' + std::to_wstring(color.green()) + L',' +
-                    std::to_wstring(color.blue()));
+    const std::wstring parts = std::to_wstring(color.red()) + L',' +
+                               std::to_wstring(color.green()) + L',' +
+                               std::to_wstring(color.blue());
+    return parts.c_str();
 }
 
 } // namespace vnsi

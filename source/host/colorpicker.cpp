@@ -2,7 +2,7 @@
 
 #include "swatches.h"
 #include "vndialogs.h"
-#include "vndocument.h"
+#include "vncolortext.h"
 #include "vnstrings.h"
 
 namespace vnsi {

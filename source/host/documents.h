@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vndocument.h"
+#include "coreservices.h"
 
 namespace host {
 

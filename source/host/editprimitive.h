@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vneditprimitive.h"
+#include "coreservices.h"
 
 namespace host {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RxModuleLoader.h"
+#include "platformextras.h"
 #include "vnsidef.h"
 
 #include <QString>

@@ -2,7 +2,7 @@
 
 #include "swatches.h"
 #include "swatchgrid.h"
-#include "vndocument.h"
+#include "vncolortext.h"
 #include "vnstrings.h"
 
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vnrequests.h"
+#include "coreservices.h"
 
 namespace host {
 

@@ -1,4 +1,6 @@
-#include "vnresbuf.h"
+#include "resbuf.h"
+
+#include "platformextras.h"
 
 #include <new>
 
@@ -14,7 +16,7 @@ VnResbuf* vnsiutNewRb(int type)
 
 wchar_t* vnsiutNewString(const OdString& text)
 {
-    const std::wstring_view characters = text.view();
+    const std::wstring_view characters = viewOf(text);
     auto* const copy = new (std::nothrow) wchar_t[characters.size() + 1];
     if (copy)
         copy[characters.copy(copy, characters.size())] = L'\0';

@@ -1,3 +1,4 @@
+#include "platformextras.h"
 #include "vnstrings.h"
 
 namespace vnsi {
@@ -12,7 +13,7 @@ QString vnutOdStringToQString(const OdString& text)
 {
     QString out;
     out.reserve(text.getLength());
-    for (const wchar_t c : text.view()) {
+    for (const wchar_t c : viewOf(text)) {
         const auto code = static_cast<uint>(c);
         if (code > kLastCharacter) {
             out += QChar(QChar::ReplacementCharacter);
@@ -40,7 +41,7 @@ OdString vnutQStringToOdString(const QString& text)
             out += static_cast<wchar_t>(text[i].unicode());
         }
     }
-    return OdString(out);
+    return OdString(out.data(), static_cast<int>(out.size()));
 }
 
 } // namespace vnsi

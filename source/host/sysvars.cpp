@@ -37,10 +37,10 @@ void setVar(const OdString& name, OdInt16 value)
 
 } // namespace host
 
-OdInt16 vnsi::getVar(const OdString& name, OdInt16 fallback)
+OdInt16 vnsi::getVar(const OdString& name)
 {
     host::Variables& all = host::variables();
     const std::lock_guard lock(all.mutex);
     const auto found = all.values.find(name);
-    return found == all.values.end() ? fallback : found->second;
+    return found == all.values.end() ? OdInt16{0} : found->second;
 }

@@ -1,3 +1,4 @@
+#include "platformextras.h"
 #include "vnstrings.h"
 #include "wildcardpattern.h"
 
@@ -12,6 +13,6 @@ bool vnsi::vnsiutWcMatchEx(const OdString& text, const OdString& pattern, bool i
     };
     thread_local Latest latest{{}, false, {{}, false}};
     if (latest.ignoreCase != ignoreCase || latest.pattern != pattern)
-        latest = {pattern, ignoreCase, {pattern.view(), ignoreCase}};
-    return latest.ready.matches(text.view());
+        latest = {pattern, ignoreCase, {viewOf(pattern), ignoreCase}};
+    return latest.ready.matches(viewOf(text));
 }

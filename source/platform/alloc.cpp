@@ -1,4 +1,5 @@
 #include "OdAlloc.h"
+#include "RxObject.h"
 
 #include <cstdlib>
 #include <new>
@@ -13,7 +14,7 @@ void odrxFree(void* memory)
     std::free(memory);
 }
 
-void* odrxAllocOrThrow(std::size_t size)
+void* OdRxObject::operator new(std::size_t size)
 {
     for (;;) {
         if (void* memory = odrxAlloc(size))

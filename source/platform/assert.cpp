@@ -1,4 +1,4 @@
-#include "OdaCommon.h"
+#include "platformextras.h"
 
 #include <atomic>
 #include <cstdio>

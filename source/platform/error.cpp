@@ -6,7 +6,7 @@
 OdError::OdError(OdResult code, const OdString& description)
     : m_code(code),
       m_description(description),
-      m_what(OdStringToUtf8String(description).view())
+      m_what(OdStringToUtf8String(description).c_str())
 {
 }
 

@@ -1,4 +1,4 @@
-#include "RxModuleLoader.h"
+#include "platformextras.h"
 
 #include "OdAnsiString.h"
 
@@ -27,8 +27,8 @@ Function* entryPoint(void* library, const char* name, const OdString& path)
 
 OdString baseName(const OdString& path)
 {
-    const std::wstring_view text = path.view();
-    return OdString(text.substr(text.rfind(L'/') + 1));
+    const std::size_t start = viewOf(path).rfind(L'/') + 1; // 0 where there is no slash.
+    return path.c_str() + start;
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 #include "OdString.h"
 #include "OdAnsiString.h"
+#include "platformextras.h"
 
-#include <algorithm>
-#include <cstring>
 #include <cwchar>
 
 namespace {
@@ -57,10 +56,15 @@ char32_t takeUtf8(std::string_view& bytes)
 
 } // namespace
 
-OdString::OdString(const wchar_t* text) : OdString(std::wstring_view(text ? text : L"")) {}
+OdString::OdString(const wchar_t* text)
+    : OdString(text, text ? static_cast<int>(std::wcslen(text)) : 0)
+{
+}
 
-OdString::OdString(std::wstring_view text)
-    : m_text(text.empty() ? nullptr : std::make_shared<const std::wstring>(text))
+OdString::OdString(const wchar_t* text, int length)
+    : m_text(length > 0
+                 ? std::make_shared<const std::wstring>(text, static_cast<std::size_t>(length))
+                 : nullptr)
 {
 }
 
@@ -69,19 +73,14 @@ const wchar_t* OdString::c_str() const
     return m_text ? m_text->c_str() : L"";
 }
 
-std::wstring_view OdString::view() const
-{
-    return m_text ? std::wstring_view(*m_text) : std::wstring_view();
-}
-
 int OdString::getLength() const
 {
-    return static_cast<int>(view().size());
+    return m_text ? static_cast<int>(m_text->size()) : 0;
 }
 
 int OdString::compare(const OdString& other) const
 {
-    return m_text == other.m_text ? 0 : view().compare(other.view());
+    return m_text == other.m_text ? 0 : viewOf(*this).compare(viewOf(other));
 }
 
 int OdString::iCompare(const OdString& other) const
@@ -91,30 +90,25 @@ int OdString::iCompare(const OdString& other) const
 
 OdString OdString::operator+(const OdString& other) const
 {
-    return OdString(std::wstring(view()).append(other.view()));
-}
-
-int OdAnsiString::replace(char from, char to)
-{
-    const auto count = std::count(m_text.begin(), m_text.end(), from);
-    std::replace(m_text.begin(), m_text.end(), from, to);
-    return static_cast<int>(count);
+    const std::wstring both = std::wstring(viewOf(*this)).append(viewOf(other));
+    return OdString(both.data(), static_cast<int>(both.size()));
 }
 
 OdAnsiString OdStringToUtf8String(const OdString& text)
 {
     std::string out;
-    out.reserve(text.view().size());
-    for (const wchar_t c : text.view())
+    out.reserve(static_cast<std::size_t>(text.getLength()));
+    for (const wchar_t c : viewOf(text))
         appendUtf8(out, static_cast<char32_t>(c));
-    return OdAnsiString(out);
+    return OdAnsiString(out.data(), static_cast<int>(out.size()));
 }
 
 OdString Utf8StringToOdString(const OdAnsiString& text)
 {
     std::wstring out;
-    out.reserve(text.view().size());
-    for (std::string_view rest = text.view(); !rest.empty();)
+    std::string_view rest(text.c_str(), static_cast<std::size_t>(text.getLength()));
+    out.reserve(rest.size());
+    while (!rest.empty())
         out += static_cast<wchar_t>(takeUtf8(rest));
-    return OdString(out);
+    return OdString(out.data(), static_cast<int>(out.size()));
 }

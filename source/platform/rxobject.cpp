@@ -18,7 +18,7 @@ const OdRxClass* OdRxObject::desc()
 
 OdRxObjectPtr OdRxObject::cast(const OdRxObject* object)
 {
-    return OdRxObjectPtr::castFrom(object);
+    return OdRxObjectPtr(const_cast<OdRxObject*>(object));
 }
 
 OdRxObject::~OdRxObject() = default;

@@ -4,7 +4,7 @@
 #include "recordinghost.h"
 #include "rows.h"
 #include "trees.h"
-#include "vndocument.h"
+#include "vncolortext.h"
 #include "vnpickers.h"
 #include "vnstrings.h"
 

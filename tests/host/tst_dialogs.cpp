@@ -1,4 +1,5 @@
 #include "RxObjectImpl.h"
+#include "coreservices.h"
 #include "filefilters.h"
 #include "hoststart.h"
 #include "hostwindows.h"
@@ -7,7 +8,6 @@
 #include "rows.h"
 #include "trees.h"
 #include "valuetree.h"
-#include "vneditprimitive.h"
 #include "vnservicedict.h"
 #include "vnstrings.h"
 

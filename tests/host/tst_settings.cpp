@@ -118,10 +118,10 @@ private slots:
 
     void knowsSystemVariables()
     {
-        QCOMPARE(vnsi::getVar(L"tilemode", 5), OdInt16(1));
-        QCOMPARE(vnsi::getVar(L"NOSUCH", 5), OdInt16(5));
+        QCOMPARE(vnsi::getVar(L"tilemode"), OdInt16(1));
+        QCOMPARE(vnsi::getVar(L"NOSUCH"), OdInt16(0));
         host::setVar(L"TileMode", 0);
-        QCOMPARE(vnsi::getVar(L"TILEMODE", 5), OdInt16(0));
+        QCOMPARE(vnsi::getVar(L"TILEMODE"), OdInt16(0));
         host::setVar(L"TILEMODE", 1);
     }
 

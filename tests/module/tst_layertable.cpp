@@ -1,6 +1,6 @@
 #include "managerdriver.h"
 #include "rows.h"
-#include "vndocument.h"
+#include "vncolortext.h"
 #include "vnstrings.h"
 
 #include <QHeaderView>

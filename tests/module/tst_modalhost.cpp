@@ -1,5 +1,6 @@
 #include "hoststart.h"
 #include "modaldriver.h"
+#include "platformextras.h"
 #include "requests.h"
 #include "rows.h"
 #include "vornqt.h"

@@ -1,5 +1,5 @@
 #include "OdAnsiString.h"
-#include "RxModuleLoader.h"
+#include "platformextras.h"
 #include "rows.h"
 
 #include <QtTest>

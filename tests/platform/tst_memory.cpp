@@ -80,7 +80,7 @@ private slots:
     void raisesWithoutHandler()
     {
         failuresLeft = 1;
-        QVERIFY_EXCEPTION_THROWN(odrxAllocOrThrow(8), std::bad_alloc);
+        QVERIFY_EXCEPTION_THROWN(OdRxObjectImpl<Thing>::createObject(), std::bad_alloc);
     }
 };
 

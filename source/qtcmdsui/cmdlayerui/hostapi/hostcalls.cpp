@@ -2,8 +2,8 @@
 
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
+#include "vncolortext.h"
 #include "vndialogs.h"
-#include "vndocument.h"
 #include "vnmessages.h"
 #include "vnservicedict.h"
 #include "vnsettings.h"

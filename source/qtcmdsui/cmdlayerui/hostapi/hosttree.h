@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hostextras.h"
-#include "vnjson.h"
+#include "treearray.h"
 
 #include <string>
 
@@ -19,17 +19,8 @@ inline VnJsonPtr makeArray(int capacity = 0)
     return hostextras::createArray(capacity);
 }
 
-/// The elements of an array; 0 for other kinds of nodes.
-inline int count(const VnJsonPtr& array)
-{
-    return array ? array->ArrayCount() : 0;
-}
-
-/// Element `index`; empty outside the array.
-inline VnJsonPtr item(const VnJsonPtr& array, int index)
-{
-    return index >= 0 && index < count(array) ? array(index) : VnJsonPtr();
-}
+using treearray::count;
+using treearray::item;
 
 /// Appends a node, which is shared and not copied.
 inline void append(const VnJsonPtr& array, const VnJsonPtr& node)
