@@ -1,14 +1,31 @@
+#include "modulefixture.h"
 #include "recordinghost.h"
+#include "resbuf.h"
 #include "rows.h"
 #include "trees.h"
 #include "vnqtfiledialog.h"
 #include "vnstrings.h"
 
+#include <QLibrary>
 #include <QtTest>
 
 #include <memory>
 
 using namespace vnsi;
+
+namespace {
+
+/// A function of the module's library, found as command code of any host finds it.
+template <class Function>
+Function* exported(const char* symbol)
+{
+    QLibrary library(ModuleFixture::modulePath());
+    if (const auto found = library.resolve(symbol))
+        return reinterpret_cast<Function*>(found);
+    qFatal("%s: %s", symbol, qPrintable(library.errorString()));
+}
+
+} // namespace
 
 class TestFileDialog : public QObject
 {
@@ -31,7 +48,9 @@ private slots:
         RecordingHost host;
         host.answer(result, answer);
         OdString path(L"untouched");
-        QCOMPARE(vnqtGetFileName(L"标题", L"plan", L"图 (*.dws;*.dwg;*.dwt)", 5, path), result);
+        auto* const ask = exported<decltype(vnqtGetFileName)>(
+            "_ZN4vnsi15vnqtGetFileNameERK8OdStringS2_S2_iRS0_P7QWidget");
+        QCOMPARE(ask(L"标题", L"plan", L"图 (*.dws;*.dwg;*.dwt)", 5, path, nullptr), result);
         QTEST(vnutOdStringToQString(path), "path");
         QCOMPARE(
             host.log(), (QStringList{"dialog|Dialog/Common|FileDialogBox|{\"defawlt\":\"plan\","
@@ -64,7 +83,9 @@ private slots:
         RecordingHost host;
         host.answer(result, answer);
         VnResbuf* list = nullptr;
-        QCOMPARE(vnqtGetNavFileName(L"t", L"d", L"c", L"n", L"*.a;*.b", flags, list), result);
+        auto* const ask = exported<decltype(vnqtGetNavFileName)>(
+            "_ZN4vnsi18vnqtGetNavFileNameERK8OdStringS2_S2_S2_S2_iRPNS_8VnResbufEP7QWidget");
+        QCOMPARE(ask(L"t", L"d", L"c", L"n", L"*.a;*.b", flags, list, nullptr), result);
         const std::unique_ptr<VnResbuf, decltype(&vnsiutRelRb)> owned(list, vnsiutRelRb);
         QStringList paths;
         for (const VnResbuf* node = list; node; node = node->rbnext) {
