@@ -60,7 +60,7 @@ bool VnQtUiDynLayerCmdImpl::initDialog()
     layout->addLayout(buttonRow);
     layout->addWidget(m_table);
     layout->addLayout(makeBottomRow());
-    resize(980, 560);
+    resize(1150, 560);
     return true;
 }
 

@@ -36,6 +36,15 @@ QString tr(const char* text)
     return QCoreApplication::translate("LayerStateCommand", text);
 }
 
+/// Locks every third layer, or unlocks it.
+void changeSome(LayerState& state)
+{
+    for (std::size_t i = 0; i < state.layers.size(); i += 3) {
+        bool& isLocked = state.layers[i].properties.locked;
+        isLocked = !isLocked;
+    }
+}
+
 /// The drawing's own states and a few more; the first of these is what the drawing is in.
 std::vector<LayerState> statesToShow(const drawing::Drawing& drawing)
 {
@@ -45,8 +54,8 @@ std::vector<LayerState> statesToShow(const drawing::Drawing& drawing)
         LayerState state = captureLayerState(drawing, tr(sample.name));
         state.description = tr(sample.description);
         state.fromLayout = !isFirst;
-        for (drawing::LayerStateLayer& layer : state.layers)
-            layer.properties.locked = layer.properties.locked != !isFirst;
+        if (!isFirst)
+            changeSome(state);
         isFirst = false;
         states.push_back(std::move(state));
     }

@@ -78,7 +78,7 @@ bool VnQtEditLayerStateDlg::initDialog()
     layout->addLayout(top);
     layout->addWidget(m_table);
     layout->addLayout(makeBottomRow());
-    resize(880, 460);
+    resize(1060, 460);
 
     using Self = VnQtEditLayerStateDlg;
     connect(m_table, &QTableWidget::cellClicked, this, &Self::slot_TableCellClicked);
