@@ -40,19 +40,28 @@ VnJsonPtr readable(const VnJsonPtr& answer)
     return answer ? answer : makeObject();
 }
 
+/// The tree that a dialog is shown with, without what it says of how an earlier one ended: a host
+/// may write nothing for a dialog that is cancelled.
+const VnJsonPtr& undecided(const VnJsonPtr& tree)
+{
+    removeKey(tree, "result");
+    return tree;
+}
+
 } // namespace
 
 VnJsonPtr showDialogEx(const OdString& serviceName, const OdString& dialogName,
     const VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget* parent)
 {
-    return readable(guarded("vnuiShowModelDialogEx", VnJsonPtr(),
-        [&] { return vnuiShowModelDialogEx(serviceName, dialogName, tree, invoker, parent); }));
+    return readable(guarded("vnuiShowModelDialogEx", VnJsonPtr(), [&] {
+        return vnuiShowModelDialogEx(serviceName, dialogName, undecided(tree), invoker, parent);
+    }));
 }
 
 VnJsonPtr showDialog(const OdString& serviceName, const OdString& dialogName, const VnJsonPtr& tree)
 {
     return readable(guarded("vnuiShowModelDialog", VnJsonPtr(),
-        [&] { return vnuiShowModelDialog(serviceName, dialogName, tree); }));
+        [&] { return vnuiShowModelDialog(serviceName, dialogName, undecided(tree)); }));
 }
 
 QWidget* currentWindow()

@@ -17,7 +17,7 @@ namespace vnsi::hostapi {
 
 /// Shows a dialog of a service and gives back its answer, of which "result" 1 says that the user
 /// went on. The answer is never empty: where the host gives none, it is an object without keys, so
-/// that its "result" reads 0.
+/// that its "result" reads 0. A "result" that stood in the tree before is taken out of it.
 VnJsonPtr showDialogEx(const OdString& serviceName, const OdString& dialogName,
     const VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget* parent);
 /// The same without a call-back object, under the host's current window.
