@@ -8,6 +8,7 @@
 /// What dialogs and commands agreed on: keys with their types, requests, and questions to the host.
 namespace contract {
 
+/// The first five in the order of the scalars that a node may hold.
 enum Type {
     kBool = 1,
     kInt = 2,

@@ -1,12 +1,13 @@
 #include "contract.h"
 #include "dialogsamples.h"
-#include "hostextras.h"
 #include "otherhost.h"
 
 #include <QCoreApplication>
 #include <QHash>
 #include <QRegExp>
 #include <QThread>
+
+#include <algorithm>
 
 using namespace otherhost;
 
@@ -40,6 +41,16 @@ class Work : public OdRxObject
     explicit Work(std::function<void()> itsWork) : work(std::move(itsWork)) {}
     const std::function<void()> work;
 };
+
+QStringList wordsOf(const char* words)
+{
+    return QString::fromLatin1(words).split(' ', Qt::SkipEmptyParts);
+}
+
+vnsi::VnJsonPtr memberOf(const vnsi::IElementValueBase& node, const QString& path)
+{
+    return node.member(path.toLatin1().constData());
+}
 
 void hangAll(vnsi::IElementValueBase& node, const QString& json)
 {
@@ -203,19 +214,13 @@ VnColorComboBox::VnColorComboBox(QWidget* parent) : QComboBox(parent)
     }
 }
 
-OdCmColor VnColorComboBox::GetCurrentColorEx() const
-{
-    return currentIndex() < 0 ? OdCmColor() : m_colors.at(static_cast<std::size_t>(currentIndex()));
-}
-
 int VnColorComboBox::FindColor(const OdCmColor& color) const
 {
-    for (std::size_t i = 0; i < m_colors.size(); ++i) {
-        if (m_colors[i].colorMethod() == color.colorMethod() &&
-            m_colors[i].colorIndex() == color.colorIndex() && m_colors[i].red() == color.red())
-            return static_cast<int>(i);
-    }
-    return -1;
+    const auto found = std::find_if(m_colors.begin(), m_colors.end(), [&](const OdCmColor& one) {
+        return one.colorMethod() == color.colorMethod() && one.colorIndex() == color.colorIndex() &&
+               one.red() == color.red();
+    });
+    return found == m_colors.end() ? -1 : static_cast<int>(found - m_colors.begin());
 }
 
 int VnColorComboBox::AppendColorItem(const OdCmColor& color)
@@ -223,21 +228,6 @@ int VnColorComboBox::AppendColorItem(const OdCmColor& color)
     m_colors.push_back(color);
     addItem(QString::number(color.colorIndex()));
     return count() - 1;
-}
-
-VnLineTypeComboBox::VnLineTypeComboBox(QWidget* parent) : QComboBox(parent)
-{
-    addItems({"ByLayer", "ByBlock", "Continuous", "DASHED"});
-}
-
-OdString VnLineTypeComboBox::getCurrentLineTypeString() const
-{
-    return vnutQStringToOdString(currentText());
-}
-
-VnLineWidthComboBox::VnLineWidthComboBox(QWidget* parent) : QComboBox(parent)
-{
-    addItems({QStringLiteral("随层"), QStringLiteral("随块"), QStringLiteral("默认"), "0.25 mm"});
 }
 
 } // namespace vnsi
@@ -322,10 +312,12 @@ vnsi::VnJsonPtr OtherHost::show(const OdString& service, const OdString& name,
         fault("shows " + text(service) + ", " + text(name));
         return {};
     }
-    for (const QString& key : QString::fromLatin1(question->keys).split(' ', Qt::SkipEmptyParts)) {
-        if (!tree || !tree->member(key.toLatin1().constData()))
+    for (const QString& key : wordsOf(question->keys)) {
+        if (!tree || !memberOf(*tree, key))
             fault(text(name) + " is shown without " + key);
     }
+    if (tree && tree->member("result"))
+        fault(text(name) + " is shown with an earlier result");
     if (mischief && mischief->questions)
         mischief->questions(root);
     if (may(kEmptyAnswers))
@@ -357,53 +349,53 @@ void OtherHost::answerRequest(const vnsi::VnJsonPtr& tree)
 
 void OtherHost::answer(const vnsi::VnJsonPtr& tree)
 {
-    const vnsi::VnJsonPtr code = tree->member(contract::codeKeyOf(dialogName));
-    const auto* const request =
-        contract::findRequest(dialogName, code ? hostextras::intOf(code, -1) : -1);
-    if (!request)
-        return;
-    hangAll(*tree, QString::fromUtf8(request->answer));
+    if (const auto* const request = contract::findRequest(dialogName, codeOf(*tree)))
+        hangAll(*tree, QString::fromUtf8(request->answer));
+}
+
+int OtherHost::codeOf(const vnsi::IElementValueBase& tree) const
+{
+    const vnsi::VnJsonPtr code = tree.member(contract::codeKeyOf(dialogName));
+    return code ? code->valueOr(-1) : -1;
 }
 
 void OtherHost::checkRequest(const vnsi::IElementValueBase& tree)
 {
-    const vnsi::VnJsonPtr code = tree.member(contract::codeKeyOf(dialogName));
-    const int number = code ? hostextras::intOf(code, -1) : -1;
-    const QString name = QStringLiteral("request %1").arg(number);
+    const QString name = QStringLiteral("request %1").arg(codeOf(tree));
     note(dialogName + ' ' + name);
-    const auto* const request = contract::findRequest(dialogName, number);
+    const auto* const request = contract::findRequest(dialogName, codeOf(tree));
     if (!request)
         return fault("unknown " + name);
 
-    const auto has = [](const vnsi::IElementValueBase& node, const QString& path) {
-        return !node.member(path.toLatin1().constData()).isNull();
-    };
     const vnsi::VnJsonPtr parameter = tree.member("parameter");
     const bool isTree = parameter && parameter->form == vnsi::IElementValueBase::Form::Object;
-    const QString said =
-        isTree ? "tree" : QString::number(parameter ? hostextras::intOf(parameter, -1) : -1);
+    const QString said = isTree ? "tree" : QString::number(parameter ? parameter->valueOr(-1) : -1);
     if (said != QLatin1String(request->parameter))
         fault(name + " has the parameter " + said);
-    for (const QString& keys :
-        QString::fromLatin1(request->arguments).split(' ', Qt::SkipEmptyParts)) {
+    for (const QString& keys : wordsOf(request->arguments)) {
         const QStringList any = keys.split('|');
         if (!may(kTakesArguments) && std::none_of(any.begin(), any.end(),
-                                         [&](const QString& key) { return has(tree, key); }))
+                                         [&](const QString& key) { return memberOf(tree, key); }))
             fault(name + " lacks " + keys);
     }
-    for (const QString& key :
-        QString::fromLatin1(request->answers).split(' ', Qt::SkipEmptyParts)) {
-        const vnsi::VnJsonPtr left = tree.member(key.toLatin1().constData());
-        if (left && hostextras::valueOf(left, true))
+    for (const QString& key : wordsOf(request->answers)) {
+        const vnsi::VnJsonPtr left = memberOf(tree, key);
+        if (left && left->valueOr(true))
             fault(name + " leaves an earlier " + key);
     }
-    const QStringList inList = QString::fromLatin1(request->inList).split(' ', Qt::SkipEmptyParts);
-    const vnsi::VnJsonPtr list =
-        inList.isEmpty() ? vnsi::VnJsonPtr() : tree.member(inList[0].toLatin1().constData());
+    if (*request->inList)
+        checkRecords(
+            memberOf(tree, wordsOf(request->inList)[0]), wordsOf(request->inList)[1], name);
+}
+
+/// Each record of a list must have the key.
+void OtherHost::checkRecords(const vnsi::VnJsonPtr& list, const QString& key, const QString& name)
+{
     for (int i = 0; list && i < list.ArrayCount(); ++i) {
-        if (list(i) && list(i)->form == vnsi::IElementValueBase::Form::Object &&
-            !has(*list(i), inList[1]))
-            fault(name + " has a record without " + inList[1]);
+        const vnsi::VnJsonPtr record = list(i);
+        if (record && record->form == vnsi::IElementValueBase::Form::Object &&
+            !memberOf(*record, key))
+            fault(name + " has a record without " + key);
     }
 }
 

@@ -1,5 +1,4 @@
 #include "dialogpresser.h"
-#include "hostextras.h"
 #include "otherhost.h"
 
 #include <QEventLoop>

@@ -72,7 +72,9 @@ public:
     QStringList faults;
 
 private:
+    int codeOf(const vnsi::IElementValueBase& tree) const;
     void checkRequest(const vnsi::IElementValueBase& tree);
+    void checkRecords(const vnsi::VnJsonPtr& list, const QString& key, const QString& name);
 };
 
 /// The tree of a JSON object, each value with the type agreed on for its key.

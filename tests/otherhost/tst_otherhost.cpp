@@ -1,7 +1,6 @@
 #include "contract.h"
 #include "dialogpresser.h"
 #include "dialogsamples.h"
-#include "hostextras.h"
 #include "otherhost.h"
 
 #include <QAbstractButton>

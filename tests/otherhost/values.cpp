@@ -1,5 +1,4 @@
 #include "contract.h"
-#include "hostextras.h"
 #include "otherhost.h"
 
 #include <QJsonArray>
@@ -7,14 +6,13 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <cstring>
 
 using namespace otherhost;
 
 namespace vnsi {
 
-namespace {
-
-void checkRead(const char* path, int type)
+void IElementValueBase::checkRead(const char* path, int type)
 {
     const int agreed = contract::typesOf(path);
     const bool isEither =
@@ -22,8 +20,6 @@ void checkRead(const char* path, int type)
     if (!(agreed & type) && !isEither)
         OtherHost::instance().fault(QStringLiteral("reads %1 as type %2").arg(path).arg(type));
 }
-
-} // namespace
 
 VnJsonPtr VnJsonPtr::operator()(int index) const
 {
@@ -42,35 +38,29 @@ VnJsonPtr IElementValueBase::operator()(int index) const
 
 VnJsonPtr IElementValueBase::member(const char* path) const
 {
-    const std::string text(path);
-    const std::size_t slash = text.find('/');
-    const std::string key = text.substr(0, slash);
-    const auto found = std::find_if(
-        members.begin(), members.end(), [&](const auto& one) { return one.first == key; });
-    if (found == members.end() || slash == std::string::npos)
-        return found == members.end() ? VnJsonPtr() : found->second;
-    return found->second->member(path + slash + 1);
+    const std::string key(path, std::strcspn(path, "/"));
+    const auto found = members.find(key);
+    if (found == members.end())
+        return {};
+    const char* const rest = path + key.size();
+    return *rest ? found->second->member(rest + 1) : found->second;
 }
 
 void IElementValueBase::hang(const char* path, const VnJsonPtr& value)
 {
-    const std::string text(path);
-    const std::size_t slash = text.find('/');
-    const std::string key = text.substr(0, slash);
-    const auto found = std::find_if(
-        members.begin(), members.end(), [&](const auto& one) { return one.first == key; });
+    const std::string key(path, std::strcspn(path, "/"));
+    const char* const rest = path + key.size();
     VnJsonPtr own = value;
-    if (slash != std::string::npos) {
-        const bool isThere = found != members.end() && found->second->form == Form::Object;
-        own = isThere ? found->second : ElementValue::createObject(0);
-        own->hang(path + slash + 1, value);
+    if (*rest) {
+        own = member(key.c_str());
+        if (!own || own->form != Form::Object)
+            own = ElementValue::createObject(0);
+        own->hang(rest + 1, value);
     }
-    if (found == members.end() && own)
-        members.emplace_back(key, own);
-    else if (found != members.end() && own)
-        found->second = own;
-    else if (found != members.end())
-        members.erase(found);
+    if (own)
+        members[key] = own;
+    else
+        members.erase(key);
 }
 
 VnJsonPtr IElementValueBase::copy() const
@@ -89,39 +79,19 @@ void IElementValueBase::clear()
     elements.clear();
 }
 
-template <class T>
-T IElementValueBase::read(const char* path, int type, const T& fallback) const
+void IElementValueBase::write(const char* path, const Scalar& value)
 {
-    checkRead(path, type);
-    const VnJsonPtr found = member(path);
-    return found ? hostextras::valueOf(found, fallback) : fallback;
-}
-
-void IElementValueBase::write(const char* path, int type, const VnJsonPtr& value)
-{
+    const int type = 1 << value.index();
     if (!(contract::typesOf(path) & type))
         OtherHost::instance().fault(QStringLiteral("writes %1 as type %2").arg(path).arg(type));
-    hang(path, value);
+    hang(path, hostextras::scalarOf(value));
 }
 
-bool IElementValueBase::GetDataB(const char* key, bool fallback) const
+void IElementValueBase::SetDataJ(const char* key, const VnJsonPtr& value)
 {
-    return read(key, contract::kBool, fallback);
-}
-
-OdInt32 IElementValueBase::GetDataI(const char* key, OdInt32 fallback) const
-{
-    return read(key, contract::kInt, fallback);
-}
-
-OdInt64 IElementValueBase::GetDataL(const char* key, OdInt64 fallback) const
-{
-    return read(key, contract::kLong, fallback);
-}
-
-OdString IElementValueBase::GetDataSW(const char* key, const OdString& fallback) const
-{
-    return read(key, contract::kWide, fallback);
+    if (!(contract::typesOf(key) & contract::kTree))
+        OtherHost::instance().fault(QStringLiteral("hangs a tree under %1").arg(key));
+    hang(key, value);
 }
 
 VnJsonPtr IElementValueBase::GetDataJ(const char* key) const
@@ -129,36 +99,6 @@ VnJsonPtr IElementValueBase::GetDataJ(const char* key) const
     checkRead(key, contract::kTree);
     const VnJsonPtr found = member(key);
     return found && found->form != Form::Scalar ? found : VnJsonPtr();
-}
-
-void IElementValueBase::SetDataB(const char* key, bool value)
-{
-    write(key, contract::kBool, hostextras::scalarOf(value));
-}
-
-void IElementValueBase::SetDataI(const char* key, OdInt32 value)
-{
-    write(key, contract::kInt, hostextras::scalarOf(value));
-}
-
-void IElementValueBase::SetDataL(const char* key, OdInt64 value)
-{
-    write(key, contract::kLong, hostextras::scalarOf(value));
-}
-
-void IElementValueBase::SetDataSW(const char* key, const OdString& value)
-{
-    write(key, contract::kWide, hostextras::scalarOf(value));
-}
-
-void IElementValueBase::SetDataS(const char* key, const OdAnsiString& utf8)
-{
-    write(key, contract::kNarrow, hostextras::scalarOf(utf8));
-}
-
-void IElementValueBase::SetDataJ(const char* key, const VnJsonPtr& value)
-{
-    write(key, contract::kTree, value);
 }
 
 VnJsonPtr ElementValue::createObject(int)

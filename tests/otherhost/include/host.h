@@ -5,7 +5,10 @@
 #include "platform.h"
 
 #include <QComboBox>
+#include <QVector>
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <variant>
 
@@ -41,18 +44,22 @@ class IElementValueBase
 {
 public:
     enum class Form { Object, Array, Scalar };
+    /// In the order of `contract::Type`.
     using Scalar = std::variant<bool, OdInt32, OdInt64, OdString, OdAnsiString>;
 
-    bool GetDataB(const char* key, bool fallback = false) const;
-    OdInt32 GetDataI(const char* key, OdInt32 fallback = 0) const;
-    OdInt64 GetDataL(const char* key, OdInt64 fallback = 0) const;
-    OdString GetDataSW(const char* key, const OdString& fallback = OdString()) const;
+    bool GetDataB(const char* key, bool other = false) const { return read(key, other); }
+    OdInt32 GetDataI(const char* key, OdInt32 other = 0) const { return read(key, other); }
+    OdInt64 GetDataL(const char* key, OdInt64 other = 0) const { return read(key, other); }
+    OdString GetDataSW(const char* key, const OdString& other = {}) const
+    {
+        return read(key, other);
+    }
     VnJsonPtr GetDataJ(const char* key) const;
-    void SetDataB(const char* key, bool value);
-    void SetDataI(const char* key, OdInt32 value);
-    void SetDataL(const char* key, OdInt64 value);
-    void SetDataSW(const char* key, const OdString& value);
-    void SetDataS(const char* key, const OdAnsiString& utf8);
+    void SetDataB(const char* key, bool value) { write(key, value); }
+    void SetDataI(const char* key, OdInt32 value) { write(key, value); }
+    void SetDataL(const char* key, OdInt64 value) { write(key, value); }
+    void SetDataSW(const char* key, const OdString& value) { write(key, value); }
+    void SetDataS(const char* key, const OdAnsiString& value) { write(key, value); }
     void SetDataJ(const char* key, const VnJsonPtr& value);
     int ArrayCount() const { return static_cast<int>(elements.size()); }
     VnJsonPtr operator()(int index) const;
@@ -67,16 +74,28 @@ public:
     void hang(const char* path, const VnJsonPtr& value);
     VnJsonPtr copy() const;
     void clear();
+    template <class T>
+    T valueOr(const T& fallback) const
+    {
+        const T* const value = std::get_if<T>(&scalar);
+        return value && form == Form::Scalar ? *value : fallback;
+    }
 
     Form form;
     Scalar scalar;
-    std::vector<std::pair<std::string, VnJsonPtr>> members;
+    std::map<std::string, VnJsonPtr> members;
     std::vector<VnJsonPtr> elements;
 
 private:
+    static void checkRead(const char* path, int type);
     template <class T>
-    T read(const char* path, int type, const T& fallback) const;
-    void write(const char* path, int type, const VnJsonPtr& value);
+    T read(const char* path, const T& fallback) const
+    {
+        checkRead(path, 1 << Scalar(fallback).index());
+        const VnJsonPtr found = member(path);
+        return found ? found->valueOr(fallback) : fallback;
+    }
+    void write(const char* path, const Scalar& value);
 };
 
 class ElementValue
@@ -168,37 +187,139 @@ wchar_t* vnsiutNewString(const OdString& text);
 // Pickers.
 class VnColorComboBox : public QComboBox
 {
-    Q_OBJECT
-
 public:
-    explicit VnColorComboBox(QWidget* parent = nullptr);
-    OdCmColor GetCurrentColorEx() const;
+    explicit VnColorComboBox(QWidget* parent);
+    OdCmColor GetCurrentColorEx() const { return m_colors.value(currentIndex()); }
     int FindColor(const OdCmColor& color) const;
     int AppendColorItem(const OdCmColor& color);
 
 private:
-    std::vector<OdCmColor> m_colors;
+    QVector<OdCmColor> m_colors;
 };
 
 class VnLineTypeComboBox : public QComboBox
 {
-    Q_OBJECT
-
 public:
-    explicit VnLineTypeComboBox(QWidget* parent = nullptr);
-    OdString getCurrentLineTypeString() const;
+    explicit VnLineTypeComboBox(QWidget* parent) : QComboBox(parent)
+    {
+        addItems({"ByLayer", "ByBlock", "Continuous", "DASHED"});
+    }
+    OdString getCurrentLineTypeString() const { return vnutQStringToOdString(currentText()); }
     OdDbObjectId getCurrentLineType() const { return {}; }
 };
 
 class VnLineWidthComboBox : public QComboBox
 {
-    Q_OBJECT
-
 public:
-    explicit VnLineWidthComboBox(QWidget* parent = nullptr);
+    explicit VnLineWidthComboBox(QWidget* parent) : QComboBox(parent)
+    {
+        addItems(
+            {QStringLiteral("随层"), QStringLiteral("随块"), QStringLiteral("默认"), "0.25 mm"});
+    }
     int GetCurrentLineWeight() const { return currentIndex(); }
 };
 
 } // namespace vnsi
+
+/// What the interface leaves open.
+namespace hostextras {
+
+using vnsi::IElementValueBase;
+using vnsi::VnJsonPtr;
+
+/// A node of its own that holds `value`.
+VnJsonPtr scalarOf(IElementValueBase::Scalar value);
+VnJsonPtr createArray(int capacity);
+
+inline void append(const VnJsonPtr& array, const VnJsonPtr& node)
+{
+    array->elements.push_back(node);
+}
+
+inline void appendInt(const VnJsonPtr& array, OdInt32 value)
+{
+    append(array, scalarOf(value));
+}
+
+inline void appendText(const VnJsonPtr& array, const OdString& value)
+{
+    append(array, scalarOf(value));
+}
+
+inline void removeItem(const VnJsonPtr& array, int index)
+{
+    array->elements.erase(array->elements.begin() + index);
+}
+
+inline OdInt32 intOf(const VnJsonPtr& element, OdInt32 fallback)
+{
+    return element->valueOr(fallback);
+}
+
+inline OdString textOf(const VnJsonPtr& element)
+{
+    return element->valueOr(OdString());
+}
+
+inline VnJsonPtr copyOf(const VnJsonPtr& node)
+{
+    return node->copy();
+}
+
+inline void removeKey(IElementValueBase& object, const char* key)
+{
+    object.hang(key, {});
+}
+
+inline std::string jsonOf(const VnJsonPtr&)
+{
+    return "{}";
+}
+
+inline OdInt64 numberOf(const OdDbObjectId&)
+{
+    return 0;
+}
+
+OdArray<ODCOLORREF> currentColorTable(const OdRxObjectPtr& documentManager);
+void callHelp(const OdRxObjectPtr& editPrimitiveServer, int topic);
+
+/// Posts to the thread of the user interface; done as soon as it is asked how far it is.
+struct UiProxy
+{
+};
+
+UiProxy* currentProxy(const OdRxObjectPtr& requestServer);
+inline int scrapId(const UiProxy&)
+{
+    return 7;
+}
+OdRxObjectPtr makeRequest(const std::function<void()>& work);
+int post(UiProxy& proxy, const OdString& name, const OdRxObjectPtr& request);
+inline int serviceReply(UiProxy&)
+{
+    return -5019;
+}
+
+using ResultBuffer = vnsi::VnText;
+
+inline void setText(ResultBuffer& node, wchar_t* text)
+{
+    node.text = text;
+}
+
+inline void setNext(ResultBuffer& node, ResultBuffer* next)
+{
+    node.next = next;
+}
+
+class DialogService : public vnsi::VnUiService
+{
+public:
+    virtual vnsi::VnUiModeDialogBasePtr makeDialog(const OdString& dialogName) = 0;
+    vnsi::VnUiModeDialogBasePtr dialogOf(const OdString& name) final { return makeDialog(name); }
+};
+
+} // namespace hostextras
 
 #pragma GCC visibility pop
