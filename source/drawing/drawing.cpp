@@ -1,4 +1,5 @@
 #include "drawingprivate.h"
+#include "sheetreader.h"
 
 #include "drawingloader.h"
 #include "drawingtexts.h"
@@ -27,6 +28,11 @@ bool isSameFile(const QString& path, const QString& other)
 DrawingData& DrawingAccess::data(Drawing& drawing)
 {
     return drawing.d->data;
+}
+
+const DrawingFile& DrawingAccess::file(const Drawing& drawing)
+{
+    return drawing.d->data.file;
 }
 
 Expected<void> Drawing::Private::map(const QString& fileName)
@@ -268,6 +274,26 @@ int Drawing::shownLayout() const
 bool Drawing::isShown(const Entity& entity) const
 {
     return d->data.layouts.isShown(entity);
+}
+
+std::optional<Sheet> Drawing::sheet() const
+{
+    if (isModelSpace())
+        return std::nullopt;
+    return SheetReader(*this, d->data).read();
+}
+
+int Drawing::currentViewport() const
+{
+    return d->data.layouts.currentViewport(d->data.entities);
+}
+
+bool Drawing::setCurrentViewport(int viewport)
+{
+    if (!d->data.layouts.setCurrentViewport(viewport))
+        return false;
+    emit layersChanged();
+    return true;
 }
 
 Expected<void> Drawing::checkViewport() const

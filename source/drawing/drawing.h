@@ -8,6 +8,7 @@
 #include "linetypedefinition.h"
 #include "openoptions.h"
 #include "progress.h"
+#include "sheet.h"
 #include "tagreader.h"
 #include "textcodec.h"
 #include "viewportlayers.h"
@@ -89,8 +90,15 @@ public:
     /// Whether an entity belongs to the space shown. What is in block definitions does not, those
     /// of layouts left out.
     bool isShown(const Entity& entity) const;
+    /// The sheet of the layout shown, with what its viewports show; none in model space.
+    std::optional<Sheet> sheet() const;
+    /// Index of the entity that is the current viewport; -1 when there is none.
+    int currentViewport() const;
+    /// Makes a viewport of the layout shown the current one; false when it is none of them. No
+    /// edit: it is kept as long as the drawing is open.
+    bool setCurrentViewport(int viewport);
     /// Whether a layout is shown that has a viewport, whose current one can show layers otherwise.
-    /// It is the one last active, as the file says, else the first.
+    /// It is the one made so, else the one last active, as the file says, else the first.
     Expected<void> checkViewport() const;
     /// The layers frozen in the current viewport, ascending; none in model space.
     std::vector<LayerId> frozenInViewport() const;

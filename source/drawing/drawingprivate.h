@@ -28,6 +28,8 @@ public:
 struct DrawingAccess
 {
     static DrawingData& data(Drawing& drawing);
+    /// For reading alone.
+    static const DrawingFile& file(const Drawing& drawing);
 };
 
 } // namespace drawing

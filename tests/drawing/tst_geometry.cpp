@@ -143,6 +143,22 @@ private slots:
             "0 MULTILEADER 8 A 300 CONTEXT_DATA{ 10 99 20 99 40 99 302 LEADER{ 10 5 20 5 11 1 "
             "21 0 40 2 304 LEADER_LINE{ 10 0 20 1 305 } 303 } 301 } 10 88 20 88",
             {0, 1, 7, 5}, {0, 1, 7, 5});
+        row("no dogleg where it is switched off",
+            "0 MULTILEADER 8 A 300 CONTEXT_DATA{ 302 LEADER{ 10 5 20 5 11 1 21 0 40 2 304 "
+            "LEADER_LINE{ 10 0 20 1 305 } 303 } 301 } 291 0",
+            {0, 1, 5, 5}, {0, 1, 5, 5});
+        // Two lines at 1 and -1 of the miter, the second drawn from 2 to 3 and from 8 on.
+        const QByteArray miter = " 12 1 22 0 13 0 23 1 74 2 41 1 41 0 75 0 74 ";
+        row("lines side by side",
+            "0 MLINE 8 A 71 1 11 0 21 0" + miter + "4 41 -1 41 2 41 3 41 8 75 0 11 10 21 0" +
+                miter + "2 41 -1 41 0 75 0",
+            {0, -1, 10, 1}, {});
+        row("what covers others, by its pixels",
+            "0 WIPEOUT 8 A 10 0 20 0 11 2 21 0 12 0 22 2 13 1 23 1 70 7 71 1 91 2 14 -0.5 24 -0.5 "
+            "14 0.5 24 0.5",
+            {0, 0, 2, 2}, {});
+        row("where an image lies", "0 IMAGE 8 A 10 1 20 1 11 0.5 21 0 12 0 22 0.5 13 8 23 4 340 0",
+            {1, 1, 5, 3}, {});
         row("an endless line goes no further than the rest",
             "0 XLINE 8 A 10 5 20 5 11 1 21 1 0 LINE 8 A 10 0 20 0 11 10 21 20 ", {0, 0, 10, 20},
             {});
@@ -199,6 +215,8 @@ private slots:
             insert + "N 10 100 20 0 41 -1", 1, {90, 0, 90, 2});
         row("a dimension's picture", block("*D1", kUnitLine),
             "0 DIMENSION 8 A 2 *D1 10 7 20 7 11 3 21 3", 1, {0, 0, 1, 0});
+        row("a table's picture, whatever its cells say", unit,
+            "0 ACAD_TABLE 8 A 2 U 10 5 20 5 11 0 21 1 41 0.03 42 0.03 70 9", 1, {5, 5, 5, 6});
         row("no such block", unit, insert + "V 10 0 20 0", 0, {});
         row("a block in itself", block("U", kUnitLine + "0 INSERT 8 A 2 U 10 1 20 1 "),
             insert + "U 10 0 20 0", 1, {0, 0, 1, 0});
@@ -365,7 +383,9 @@ private slots:
             "标题xy");
         row("switches", "\\Lunder\\l \\Oover\\o", 0.0, "under over");
         row("escapes", "\\\\P \\{x\\}", 0.0, "\\P {x}");
-        row("stacks", "1\\S1/2; 2\\S3#4; \\S+0.1^-0.2; \\S2^;", 0.0, "11/2 23/4 +0.1/-0.2 2");
+        row("stacks, beside what is none", "1\\S1/2; \\S+0.1^ -0.2;x\\Sy;", 0.0,
+            "1<1-2> <+0.1 -0.2>xy");
+        row("a stack stays whole", "one \\Stwo three/4; five", 6.0, "one|<two three-4>|five");
         row("an argument without its end", "a\\fArial", 0.0, "a");
         row("percent codes", "%%c20%%p0.1 45%%D %%u100%% %%%", 0.0, "⌀20±0.1 45° 100%% %");
         row("wraps at blanks", "one two three", 6.0, "one two|three");
@@ -378,7 +398,14 @@ private slots:
         QFETCH(QString, text);
         QFETCH(double, width);
         QFETCH(QString, lines);
-        QCOMPARE(plainLines(text, width).join('|'), lines);
+        QString found = plainLines(text, width).join(QLatin1Char('|'));
+        for (const TextPiece& piece : piecesOf(found)) {
+            if (piece.isStack)
+                found.replace((piece.hasBar ? stack::kFraction : stack::kTolerance) + piece.text +
+                                  stack::kDivider + piece.below + stack::kEnd,
+                    '<' + piece.text + (piece.hasBar ? '-' : ' ') + piece.below + '>');
+        }
+        QCOMPARE(found, lines);
     }
 
     void textPlaces_data()
@@ -398,6 +425,9 @@ private slots:
         row("hangs from its top", mtext + "71 1", {1, -1, 3, 0}, H::Left);
         row("stands on its foot", mtext + "71 9", {1, 7, 3, 0}, H::Right);
         row("direction after angle", mtext + "71 7 50 30 11 0 21 1", {-4, 2, 0, 3}, H::Left);
+        row("as wide and slanted as its style", mtext + "71 7 7 wide", {1, 7, 6, 0}, H::Left);
+        row("cells of a tolerance", "0 TOLERANCE 8 A 10 1 20 1 1 {\\Fgdt;j}%%v0.1",
+            {1 + 1.75 / 2, 0.5, 1, 0}, H::Center);
         row("angle after direction", mtext + "71 7 11 0 21 1 50 180", {1, -3, -3, 0}, H::Left);
     }
 
@@ -407,6 +437,8 @@ private slots:
         QFETCH(Numbers, place);
         QFETCH(TextRun::Horizontal, horizontal);
         Sketch sketch;
+        sketch.header = "9 $DIMTXT 40 0.5 9 $DIMSCALE 40 2";
+        sketch.linetypes += "0 ENDTAB 0 TABLE 2 STYLE 70 1 0 STYLE 2 WIDE 70 0 40 0 41 2 50 10 ";
         const Geometry geometry = flatten(sketch, entity);
         QCOMPARE(geometry.groups.size(), std::size_t(1));
         const TextRun& run = geometry.groups[0].texts.at(0);

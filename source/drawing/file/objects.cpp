@@ -24,6 +24,7 @@ QByteArray reactors(const TagStyle& style, quint64 owner)
 const ObjectPlace* Objects::find(quint64 handle) const
 {
     const std::vector<ObjectPlace>& objects = m_file.index().objects;
+    const std::lock_guard<std::mutex> guard(m_numbering);
     if (!m_numbers) {
         m_numbers.emplace();
         m_numbers->reserve(objects.size());

@@ -4,6 +4,7 @@
 #include "editjournal.h"
 #include "fileindex.h"
 
+#include <mutex>
 #include <optional>
 #include <unordered_map>
 
@@ -53,6 +54,7 @@ private:
     void makeSection(qint64 at);
 
     DrawingFile& m_file;
+    mutable std::mutex m_numbering; ///< Several threads may be the first to ask.
     mutable std::optional<std::unordered_map<quint64, size_t>> m_numbers; ///< By handle.
 };
 

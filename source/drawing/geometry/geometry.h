@@ -19,13 +19,13 @@ struct Progress;
 /// A run of a group's vertices that belong together. A vertex of NaN begins a new part.
 struct Primitive
 {
-    enum class Shape : quint8 { Lines, Fill, Dot };
+    enum class Shape : quint8 { Lines, Fill, Dot, Mask };
 
     quint32 first = 0;
     quint32 count = 0;
     int entity = -1;      ///< Index into `Drawing::entities()` of what was drawn in model space.
     quint32 sequence = 0; ///< Order of drawing among all groups.
-    Shape shape = Shape::Lines;   ///< Fills are even-odd.
+    Shape shape = Shape::Lines;   ///< Fills are even-odd; a mask covers what was drawn before.
     bool patternRestarts = false; ///< The linetype begins anew at each vertex.
     float linetypeScale = 1;      ///< The entity's own, and that of the blocks around it.
     float width = 0;              ///< Of lines, in drawing units; 0 = by the lineweight.
@@ -46,7 +46,8 @@ struct TextRun
     Horizontal horizontal = Horizontal::Left;
     Vertical vertical = Vertical::Baseline;
     int entity = -1;
-    Box bounds; ///< Estimated.
+    quint32 sequence = 0; ///< As that of primitives.
+    Box bounds;           ///< Estimated.
 };
 
 /// Everything that is shown, hidden and styled as one.
@@ -54,11 +55,14 @@ struct GeometryGroup
 {
     LayerId layer = LayerId::None;
     int owners = 0; ///< Index into `Geometry::owners`.
+    /// In model space while a layout is shown: seen through its viewports alone.
+    bool isThroughViewports = false;
     GeometryStyle style;
     std::vector<QPointF> vertices;
     std::vector<Primitive> primitives;
     std::vector<TextRun> texts;
     bool hasFills = false;
+    bool hasMasks = false;
     Box bounds;
 };
 

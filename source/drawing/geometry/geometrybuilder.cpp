@@ -21,9 +21,14 @@ QPointF flat(const Vec3& point)
     return {point.x, point.y};
 }
 
+bool isInModelSpace(const Entity& entity)
+{
+    return entity.block < 0 && !entity.paperSpace;
+}
+
 Box estimatedBounds(const TextRun& run)
 {
-    const double width = run.fitWidth > 0 ? run.fitWidth : estimatedWidth(run.text);
+    const double width = run.fitWidth > 0 ? run.fitWidth : textWidth(run.text);
     const double start = -width * static_cast<double>(run.horizontal) / 2;
     Box box;
     for (const double along : {start, start + width}) {
@@ -59,7 +64,10 @@ Expected<Geometry> GeometryBuilder::build()
         const Entity& entity = entities[i];
         if (i % 256 == 0 && !goOn(i, entities.size()))
             return tl::unexpected(Error{Texts::tr("已取消。"), 0, true});
-        if (entity.subEntity || entity.removed || !m_drawing.isShown(entity))
+        if (entity.subEntity || entity.removed)
+            continue;
+        m_isThroughViewports = !m_drawing.isShown(entity);
+        if (m_isThroughViewports && (m_drawing.isModelSpace() || !isInModelSpace(entity)))
             continue;
         definition.clear();
         m_reader.read(i, false, definition);
@@ -160,14 +168,15 @@ int GeometryBuilder::ownersWith(int owners, LayerId layer)
 
 GeometryGroup& GeometryBuilder::groupFor(const EntityStyle& style, const Context& context)
 {
-    const GroupKey key{
-        layerOf(style, context), ownersWith(context.owners, style.owner), styleOf(style, context)};
+    const GroupKey key{layerOf(style, context), ownersWith(context.owners, style.owner),
+        m_isThroughViewports, styleOf(style, context)};
     auto found = m_groupIndex.constFind(key);
     if (found == m_groupIndex.constEnd()) {
         found = m_groupIndex.insert(key, m_geometry.groups.size());
         GeometryGroup& group = m_geometry.groups.emplace_back();
         group.layer = key.layer;
         group.owners = key.owners;
+        group.isThroughViewports = key.isThroughViewports;
         group.style = key.style;
     }
     return m_geometry.groups[found.value()];
@@ -229,6 +238,7 @@ void GeometryBuilder::emitShape(const Definition& definition, const Definition::
     m_vertices += primitive.count;
     group.bounds.add(primitive.bounds);
     group.hasFills = group.hasFills || primitive.shape == Primitive::Shape::Fill;
+    group.hasMasks = group.hasMasks || primitive.shape == Primitive::Shape::Mask;
     group.primitives.push_back(primitive);
 }
 
@@ -285,7 +295,7 @@ void GeometryBuilder::emitText(
     run.up = flat(up);
     run.entity = m_entity;
     run.bounds = estimatedBounds(run);
-    ++m_pieces;
+    run.sequence = static_cast<quint32>(m_pieces++);
     group.bounds.add(run.bounds);
     group.texts.push_back(std::move(run));
 }

@@ -36,11 +36,13 @@ private:
     {
         LayerId layer;
         int owners;
+        bool isThroughViewports;
         GeometryStyle style;
 
         friend bool operator==(const GroupKey& a, const GroupKey& b)
         {
-            return a.layer == b.layer && a.owners == b.owners && a.style == b.style;
+            return a.layer == b.layer && a.owners == b.owners &&
+                   a.isThroughViewports == b.isThroughViewports && a.style == b.style;
         }
         friend uint qHash(const GroupKey& key, uint seed = 0)
         {
@@ -91,6 +93,7 @@ private:
     std::shared_ptr<const LinetypePatterns> m_linetypes;
     EntityReader m_reader;
     LayerId m_layerZero = LayerId::None;
+    bool m_isThroughViewports = false; ///< What is being drawn.
     std::vector<std::optional<Definition>> m_definitions;
     std::vector<char> m_active; ///< Blocks being drawn right now.
     Geometry m_geometry;

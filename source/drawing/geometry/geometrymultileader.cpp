@@ -1,6 +1,7 @@
 #include "geometrymultileader.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace drawing {
 
@@ -27,8 +28,7 @@ MultiLeader::MultiLeader(const EntityTags& tags)
     for (const Tag& tag : tags) {
         switch (m_part) {
         case Part::Outside:
-            if (tag.code == 300 && tag.trimmed() == "CONTEXT_DATA{")
-                m_part = Part::Context;
+            takeOutside(tag);
             break;
         case Part::Context:
             takeContext(tag);
@@ -43,11 +43,52 @@ MultiLeader::MultiLeader(const EntityTags& tags)
     }
 }
 
+/// What the entity says of itself stands behind its context.
+void MultiLeader::takeOutside(const Tag& tag)
+{
+    enum LineKind { None = 0, Curved = 2 };
+    if (tag.code == 300 && tag.trimmed() == "CONTEXT_DATA{")
+        m_part = Part::Context;
+    else if (tag.code == 170 && tag.integer() == None)
+        m_lines.clear();
+    else if ((tag.code == 170 && tag.integer() == Curved) || (tag.code == 291 && !tag.integer()))
+        dropDoglegs();
+    else if (tag.code == 292)
+        m_hasFrame = tag.integer() != 0;
+}
+
+void MultiLeader::dropDoglegs()
+{
+    if (!std::exchange(m_hasDogleg, false))
+        return;
+    for (Path& line : m_lines)
+        line.pop_back();
+}
+
+Transform3 MultiLeader::blockPlace() const
+{
+    return Transform3::translation(m_blockPlace) * Transform3::rotation(m_blockAngle * 180 / kPi) *
+           Transform3::scaling(m_blockScale);
+}
+
 void MultiLeader::takeContext(const Tag& tag)
 {
-    if (takeCoordinate(tag, 12, m_textPlace) || takeCoordinate(tag, 13, m_textDirection))
+    if (takeCoordinate(tag, 12, m_textPlace) || takeCoordinate(tag, 13, m_textDirection) ||
+        takeCoordinate(tag, 15, m_blockPlace) || takeCoordinate(tag, 16, m_blockScale))
         return;
     switch (tag.code) {
+    case 46:
+        m_blockAngle = tag.real();
+        return;
+    case 145:
+        m_textGap = tag.real();
+        return;
+    case 340:
+        m_textStyle = tag.handle();
+        return;
+    case 341:
+        m_block = tag.handle();
+        return;
     case 41:
         m_textHeight = tag.real();
         return;

@@ -15,8 +15,15 @@ public:
     const std::vector<Path>& lines() const { return m_lines; } ///< Each from its arrow on.
     double arrowSize() const { return m_arrowSize; }
 
+    bool hasBlock() const { return m_block != 0; }
+    quint64 block() const { return m_block; } ///< Handle of its record.
+    Transform3 blockPlace() const;
+
     bool hasText() const { return m_hasText; }
-    std::string_view text() const { return m_text; } ///< As an MTEXT's, not decoded.
+    bool hasFrame() const { return m_hasFrame; } ///< Around the text.
+    double textGap() const { return m_textGap; }
+    quint64 textStyle() const { return m_textStyle; } ///< Its handle.
+    std::string_view text() const { return m_text; }  ///< As an MTEXT's, not decoded.
     Vec3 textPlace() const { return m_textPlace; }
     Vec3 textDirection() const { return m_textDirection; }
     double textHeight() const { return m_textHeight; }
@@ -26,6 +33,8 @@ public:
 private:
     enum class Part { Outside, Context, Leader, Line };
 
+    void takeOutside(const Tag& tag);
+    void dropDoglegs();
     void takeContext(const Tag& tag);
     void takeLeader(const Tag& tag);
     void takeLine(const Tag& tag);
@@ -38,7 +47,15 @@ private:
     Vec3 m_doglegDirection;
     double m_doglegLength = 0;
     double m_arrowSize = 0;
+    bool m_hasDogleg = true;
+    quint64 m_block = 0;
+    Vec3 m_blockPlace;
+    Vec3 m_blockScale{1, 1, 1};
+    double m_blockAngle = 0; ///< Radians.
     bool m_hasText = false;
+    bool m_hasFrame = false;
+    double m_textGap = 0;
+    quint64 m_textStyle = 0;
     std::string_view m_text;
     Vec3 m_textPlace;
     Vec3 m_textDirection{1, 0, 0};

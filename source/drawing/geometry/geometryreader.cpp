@@ -1,11 +1,18 @@
 #include "geometryreader.h"
 
 #include "colorindex.h"
+#include "drawingprivate.h"
 #include "geometryhatchreader.h"
 #include "geometrymultileader.h"
+#include "geometrymultiline.h"
 #include "geometrypolyline.h"
 #include "geometrytext.h"
+#include "geometrytolerance.h"
+#include "owntags.h"
 #include "symbolname.h"
+#include "viewports.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -16,6 +23,7 @@ namespace drawing {
 namespace {
 
 constexpr double kDegree = kPi / 180;
+constexpr double kLineDistance = 5.0 / 3; ///< Of lines of text, in text heights, if not told.
 // Bits of a polyline's or spline's flags.
 constexpr qint64 kClosed = 1;
 constexpr qint64 kContinuous = 128;
@@ -55,18 +63,30 @@ const EntityReader::HandlerRow EntityReader::kHandlers[] = {
     {"LEADER", &EntityReader::leader},
     {"ATTRIB", &EntityReader::attribute},
     {"ATTDEF", &EntityReader::attributeDefinition},
-    {"ACAD_TABLE", &EntityReader::insert},
+    {"ACAD_TABLE", &EntityReader::table},
     {"IMAGE", &EntityReader::image},
     {"MESH", &EntityReader::mesh},
     {"RAY", &EntityReader::ray},
     {"XLINE", &EntityReader::constructionLine},
     {"MULTILEADER", &EntityReader::multiLeader},
+    {"MLINE", &EntityReader::multiLine},
+    {"TOLERANCE", &EntityReader::tolerance},
+    {"SHAPE", &EntityReader::shape},
+    {"WIPEOUT", &EntityReader::wipeout},
+    {"PDFUNDERLAY", &EntityReader::underlay},
+    {"DWFUNDERLAY", &EntityReader::underlay},
+    {"DGNUNDERLAY", &EntityReader::underlay},
+    {"VIEWPORT", &EntityReader::viewport},
 };
 
 EntityReader::EntityReader(const Drawing& drawing, const LinetypePatterns& linetypes)
     : m_drawing(drawing),
-      m_linetypes(linetypes)
+      m_file(DrawingAccess::file(drawing)),
+      m_linetypes(linetypes),
+      m_textStyles(m_file),
+      m_textHeight(readPictureSwitches(drawing.headerTags()).textHeight)
 {
+    m_showsWipeoutFrames = readsWipeoutFrames();
     if (const Layer* zero = drawing.findLayer(QStringLiteral("0")))
         m_layerZero = zero->id;
 }
@@ -189,6 +209,16 @@ EntitySetting EntityReader::linetypeOf(const Tag& name)
     else
         m_linetype = {EntitySetting::Source::Own, m_linetypes.find(folded)};
     return m_linetype;
+}
+
+bool EntityReader::readsWipeoutFrames() const
+{
+    constexpr int kShown = 70;
+    const Objects& objects = m_file.objects();
+    const ObjectPlace* root = objects.root();
+    const quint64 variables = root ? objects.entry(root->handle, "ACAD_WIPEOUT_VARS") : 0;
+    const ObjectPlace* object = objects.find(variables);
+    return !object || findOwn(m_file.tags(object->range), kShown).integer() != 0;
 }
 
 Transform3 EntityReader::plane() const
@@ -435,6 +465,12 @@ void EntityReader::addArrow(const Path& path, double size)
 void EntityReader::multiLeader()
 {
     const MultiLeader leader(m_tags);
+    if (leader.hasBlock()) {
+        Definition::Reference reference;
+        reference.style = style();
+        reference.place = leader.blockPlace();
+        addBlock(leader.block(), reference);
+    }
     for (const Path& line : leader.lines()) {
         addShape(Primitive::Shape::Lines, line);
         addArrow(line, leader.arrowSize());
@@ -444,18 +480,206 @@ void EntityReader::multiLeader()
         return;
     const Vec3 x = leader.textDirection().normalized();
     const Transform3 place(x, Vec3::cross({0, 0, 1}, x), {0, 0, 1}, leader.textPlace());
-    addLines(plainLines(m_drawing.decoded(leader.text()), leader.textWidth() / height), place,
-        {height, 1, leader.textColumn(), 0});
+    const TextStyle letters = m_textStyles.find(leader.textStyle());
+    const double unit = height * letters.widthFactor;
+    const QStringList lines =
+        plainLines(m_drawing.decoded(leader.text()), leader.textWidth() / unit);
+    addLines(lines, place, {height, 1, leader.textColumn(), 0, letters});
+    if (leader.hasFrame())
+        addTextFrame(lines, place, unit, height, leader);
+}
+
+/// Around the lines of text that hang from the place.
+void EntityReader::addTextFrame(const QStringList& lines, const Transform3& place, double unit,
+    double height, const MultiLeader& leader)
+{
+    double widest = 0;
+    for (const QString& line : lines)
+        widest = std::max(widest, textWidth(line) * unit);
+    const double gap = leader.textGap();
+    const double total = height * (kLineDistance * (lines.size() - 1) + 1) + 2 * gap;
+    const double left = -widest * leader.textColumn() / 2 - gap;
+    addFrame(place.map({left, gap - total, 0}), place.mapDirection({widest + 2 * gap, 0, 0}),
+        place.mapDirection({0, total, 0}));
+}
+
+EntityReader::ImageFrame EntityReader::imageFrame() const
+{
+    const double width = m_tags.number(13);
+    const double height = m_tags.number(23);
+    return {m_tags.point(10), m_tags.point(11) * width, m_tags.point(12) * height, width, height};
 }
 
 /// Pixels are not shown, but where the image lies is.
 void EntityReader::image()
 {
-    const Vec3 corner = m_tags.point(10);
-    const Vec3 right = m_tags.point(11) * m_tags.number(13);
-    const Vec3 up = m_tags.point(12) * m_tags.number(23);
+    const ImageFrame frame = imageFrame();
+    addFrame(frame.corner, frame.right, frame.up);
+    addFileName(frame.corner, frame.right, frame.up, 340);
+}
+
+void EntityReader::addFrame(const Vec3& corner, const Vec3& right, const Vec3& up)
+{
     addShape(Primitive::Shape::Lines,
         {corner, corner + right, corner + right + up, corner + up, corner});
+}
+
+void EntityReader::addFileName(const Vec3& corner, const Vec3& right, const Vec3& up, int pointer)
+{
+    constexpr int kFileName = 1;
+    constexpr double kShare = 0.05; ///< Of the frame's height.
+    const Tag* definition = m_tags.find(pointer);
+    const ObjectPlace* object = definition ? m_file.objects().find(definition->handle()) : nullptr;
+    if (!object)
+        return;
+    const QString path = m_file.decoded(findOwn(m_file.tags(object->range), kFileName).trimmed());
+    const QString name = path.section(QRegularExpression(QStringLiteral("[/\\\\]")), -1);
+    const double height = up.length() * kShare;
+    const Transform3 place(
+        right.normalized(), up.normalized(), {0, 0, 1}, corner + (right + up) * (kShare / 2));
+    if (height > 0)
+        addLines({name}, place, {height, 1, 0, 2, {}});
+}
+
+/// What lies under it is covered; its edge shows where the drawing says so.
+void EntityReader::wipeout()
+{
+    enum Boundary { Rectangle = 1 };
+    constexpr qint64 kUsesBoundary = 4;
+    const ImageFrame frame = imageFrame();
+    Path pixels;
+    for (const Tag& tag : m_tags) {
+        if (tag.code == 14)
+            pixels.push_back({tag.real(), 0, 0});
+        else if (tag.code == 24 && !pixels.empty())
+            pixels.back().y = tag.real();
+    }
+    if (m_tags.integer(71) == Rectangle && pixels.size() == 2)
+        pixels = {
+            pixels[0], {pixels[1].x, pixels[0].y, 0}, pixels[1], {pixels[0].x, pixels[1].y, 0}};
+    if (pixels.size() < 3 || !(m_tags.integer(70, kUsesBoundary) & kUsesBoundary))
+        pixels = {{-0.5, -0.5, 0}, {frame.width - 0.5, -0.5, 0},
+            {frame.width - 0.5, frame.height - 0.5, 0}, {-0.5, frame.height - 0.5, 0}};
+    Path outline;
+    for (const Vec3& pixel : pixels)
+        outline.push_back(frame.corner + m_tags.point(11) * (pixel.x + 0.5) +
+                          m_tags.point(12) * (frame.height - pixel.y - 0.5));
+    outline.push_back(outline.front());
+    addShape(Primitive::Shape::Mask, outline);
+    if (m_showsWipeoutFrames)
+        addShape(Primitive::Shape::Lines, outline);
+}
+
+/// The page itself is not shown, but the part of it that is, and whose it is.
+void EntityReader::underlay()
+{
+    Path outline;
+    for (const Tag& tag : m_tags) {
+        if (tag.code == 11)
+            outline.push_back({tag.real(), 0, 0});
+        else if (tag.code == 21 && !outline.empty())
+            outline.back().y = tag.real();
+    }
+    if (outline.size() == 2)
+        outline = {outline[0], {outline[1].x, outline[0].y, 0}, outline[1],
+            {outline[0].x, outline[1].y, 0}};
+    const Transform3 place =
+        plane() * turnedAt(m_tags.point(10), m_tags.number(50)) *
+        Transform3::scaling({m_tags.number(41, 1), m_tags.number(42, 1), m_tags.number(43, 1)});
+    if (!outline.empty())
+        outline.push_back(outline.front());
+    addShape(Primitive::Shape::Lines, outline, place);
+    const bool hasSides = outline.size() >= 4;
+    const Vec3 corner = place.map(hasSides ? outline[0] : Vec3());
+    const Vec3 right = hasSides ? place.map(outline[1]) - corner : Vec3{m_textHeight, 0, 0};
+    const Vec3 up = hasSides ? place.map(outline[3]) - corner : Vec3{0, m_textHeight * 20, 0};
+    addFileName(corner, right, up, 340);
+}
+
+/// The edge of a window onto model space; a window of another form has an edge of its own.
+void EntityReader::viewport()
+{
+    constexpr qint64 kHasOutline = 0x10000;
+    if (isSheetsOwn(m_drawing.tags(m_drawing.entities()[m_index])) ||
+        m_tags.integer(90) & kHasOutline)
+        return;
+    const Vec3 right{m_tags.number(40), 0, 0};
+    const Vec3 up{0, m_tags.number(41), 0};
+    addFrame(m_tags.point(10) - (right + up) * 0.5, right, up);
+}
+
+/// Its letters are in a file of another format: the frame of one stands for it.
+void EntityReader::shape()
+{
+    const double size = m_tags.number(40, 1);
+    const Transform3 place = plane() * turnedAt(m_tags.point(10), m_tags.number(50)) *
+                             Transform3::scaling({size * m_tags.number(41, 1), size, 1});
+    addShape(
+        Primitive::Shape::Lines, {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}, {0, 0, 0}}, place);
+}
+
+void EntityReader::multiLine()
+{
+    for (const Path& element : multiLineElements(m_tags))
+        addShape(Primitive::Shape::Lines, element);
+}
+
+/// Its picture is a block; what else it says of its cells is the same over again.
+void EntityReader::table()
+{
+    const Tag* name = m_tags.find(2);
+    if (!name)
+        return;
+    const Vec3 x = m_tags.find(11) ? m_tags.point(11).normalized() : Vec3{1, 0, 0};
+    const Vec3 z = m_tags.extrusion().normalized();
+    Definition::Reference reference;
+    reference.style = style();
+    reference.place = Transform3(x, Vec3::cross(z, x), z, m_tags.point(10));
+    addReference(m_drawing.decoded(name->trimmed()), reference);
+}
+
+/// Cells twice as high as their text, from the middle of the first row's left side.
+void EntityReader::tolerance()
+{
+    const Tag* value = m_tags.find(1);
+    if (!value)
+        return;
+    const double height = m_textHeight;
+    const Vec3 x = m_tags.find(11) ? m_tags.point(11).normalized() : Vec3{1, 0, 0};
+    const Vec3 z = m_tags.extrusion().normalized();
+    const Transform3 place(x, Vec3::cross(z, x), z, m_tags.point(10));
+    double bottom = -height;
+    for (const QStringList& row : toleranceCells(m_drawing.decoded(value->text()))) {
+        double left = 0;
+        for (const QString& cell : row) {
+            const double width = (textWidth(plainText(cell)) + 1) * height;
+            addFrame(place.map({left, bottom, 0}), place.mapDirection({width, 0, 0}),
+                place.mapDirection({0, 2 * height, 0}));
+            addLines({plainText(cell)},
+                place * Transform3::translation({left + width / 2, bottom + height, 0}),
+                {height, 1, 1, 1, {}});
+            left += width;
+        }
+        bottom -= 2 * height;
+    }
+}
+
+TextStyle EntityReader::textStyle() const
+{
+    constexpr int kStyle = 7;
+    const Tag* name = m_tags.find(kStyle);
+    return name ? m_textStyles.find(m_drawing.decoded(name->trimmed())) : TextStyle();
+}
+
+void EntityReader::addBlock(quint64 record, Definition::Reference reference)
+{
+    for (const ByteRange& candidate : m_file.table(TableKind::BlockRecord).records) {
+        const TagReader tags = m_file.tags(candidate);
+        if (ownHandle(tags) != record)
+            continue;
+        addReference(m_drawing.decoded(findOwn(tags, group::kName).trimmed()), reference);
+        return;
+    }
 }
 
 void EntityReader::text()
@@ -512,7 +736,7 @@ bool EntityReader::addText(QString value, TextRun::Vertical vertical)
     if ((justification == Aligned || justification == Fit) && m_tags.find(11) && length > 0) {
         rotation = std::atan2(span.y, span.x) / kDegree;
         if (justification == Aligned)
-            height = length / std::max(estimatedWidth(text.run.text), 1.0);
+            height = length / std::max(textWidth(text.run.text), 1.0);
         text.run.fitWidth = height > 0 ? length / height : 0;
     }
     const qint64 mirror = m_tags.integer(71);
@@ -558,32 +782,77 @@ void EntityReader::mtext()
     }
     place = Transform3::translation(m_tags.point(10)) * place;
     const auto attachment = static_cast<int>(std::clamp<qint64>(m_tags.integer(71, 1), 1, 9)) - 1;
-    addLines(plainLines(value, m_tags.number(41) / height), place,
-        {height, m_tags.number(44, 1), attachment % 3, attachment / 3});
+    const TextStyle letters = textStyle();
+    addLines(plainLines(value, m_tags.number(41) / (height * letters.widthFactor)), place,
+        {height, m_tags.number(44, 1), attachment % 3, attachment / 3, letters});
 }
 
 void EntityReader::addLines(
     const QStringList& lines, const Transform3& place, const Paragraph& paragraph)
 {
-    // Lines lie five thirds of the text height apart unless told otherwise.
-    const double spacing = paragraph.height * 5 / 3 * paragraph.spacing;
+    const double spacing = paragraph.height * kLineDistance * paragraph.spacing;
     const double total = spacing * (lines.size() - 1) + paragraph.height;
     if (!place.isFinite() || !std::isfinite(total))
         return;
     double baseline = total * paragraph.row / 2 - paragraph.height;
     for (const QString& line : lines) {
-        if (!line.trimmed().isEmpty()) {
-            Definition::Text text;
-            text.style = style();
-            text.run.text = line;
-            text.run.horizontal = static_cast<TextRun::Horizontal>(paragraph.column);
-            text.origin = place.map({0, baseline, 0});
-            text.right = place.mapDirection({paragraph.height, 0, 0});
-            text.up = place.mapDirection({0, paragraph.height, 0});
-            m_definition->texts.push_back(std::move(text));
-        }
+        addLine(line, place * Transform3::translation({0, baseline, 0}), paragraph);
         baseline -= spacing;
     }
+}
+
+/// A line of text whose baseline passes the place.
+void EntityReader::addLine(const QString& line, const Transform3& place, const Paragraph& paragraph)
+{
+    const std::vector<TextPiece> pieces = piecesOf(line);
+    if (pieces.size() == 1 && !pieces.front().isStack) {
+        addPiece(line, place, paragraph);
+        return;
+    }
+    Paragraph part = paragraph;
+    part.column = 0;
+    const double unit = paragraph.height * paragraph.style.widthFactor;
+    double left = -textWidth(line) * unit * paragraph.column / 2;
+    for (const TextPiece& piece : pieces) {
+        const Transform3 start = place * Transform3::translation({left, 0, 0});
+        if (piece.isStack)
+            addStack(piece, start, part);
+        else
+            addPiece(piece.text, start, part);
+        left += piece.width * unit;
+    }
+}
+
+void EntityReader::addStack(const TextPiece& piece, const Transform3& place, Paragraph paragraph)
+{
+    // The lower text stands below the line, the upper one as far above its height.
+    constexpr double kBelow = -0.2;
+    constexpr double kAbove = 0.65;
+    constexpr double kBar = (kBelow + stack::kHeight + kAbove) / 2;
+    const double height = paragraph.height;
+    paragraph.height *= stack::kHeight;
+    addPiece(piece.text, place * Transform3::translation({0, kAbove * height, 0}), paragraph);
+    addPiece(piece.below, place * Transform3::translation({0, kBelow * height, 0}), paragraph);
+    const double width = piece.width * height * paragraph.style.widthFactor;
+    if (piece.hasBar)
+        addShape(Primitive::Shape::Lines,
+            {place.map({0, kBar * height, 0}), place.map({width, kBar * height, 0})});
+}
+
+void EntityReader::addPiece(
+    const QString& piece, const Transform3& place, const Paragraph& paragraph)
+{
+    if (piece.trimmed().isEmpty())
+        return;
+    const double slant = std::tan(paragraph.style.oblique * kDegree);
+    Definition::Text text;
+    text.style = style();
+    text.run.text = piece;
+    text.run.horizontal = static_cast<TextRun::Horizontal>(paragraph.column);
+    text.origin = place.map({});
+    text.right = place.mapDirection({paragraph.height * paragraph.style.widthFactor, 0, 0});
+    text.up = place.mapDirection({paragraph.height * slant, paragraph.height, 0});
+    m_definition->texts.push_back(std::move(text));
 }
 
 void EntityReader::insert()

@@ -4,10 +4,14 @@
 #include "geometrydefinition.h"
 #include "geometrytags.h"
 #include "geometrywidths.h"
+#include "textstyles.h"
 
 #include <cstddef>
 
 namespace drawing {
+
+class MultiLeader;
+struct TextPiece;
 
 /// Turns entities into the shapes, texts and block references that draw them.
 class EntityReader
@@ -32,6 +36,13 @@ private:
         double spacing = 1; ///< In units of the usual distance.
         int column = 0;     ///< 0 to the right of the place, 1 centred, 2 to the left.
         int row = 0;        ///< 0 below the place, 1 centred, 2 above.
+        TextStyle style;
+    };
+    /// Where the pixels of an image lie.
+    struct ImageFrame
+    {
+        Vec3 corner, right, up;       ///< Of the lower left; `right` and `up` are its sides.
+        double width = 0, height = 0; ///< In pixels.
     };
 
     void line();
@@ -57,13 +68,32 @@ private:
     void ray();
     void constructionLine();
     void multiLeader();
+    void multiLine();
+    void table();
+    void tolerance();
+    void shape();
+    void wipeout();
+    void underlay();
+    void viewport();
 
     void attributes();
     Transform3 plane() const;
     bool addText(QString value, TextRun::Vertical vertical);
     void addLines(const QStringList& lines, const Transform3& place, const Paragraph& paragraph);
+    void addLine(const QString& line, const Transform3& place, const Paragraph& paragraph);
+    void addStack(const TextPiece& piece, const Transform3& place, Paragraph paragraph);
+    void addPiece(const QString& piece, const Transform3& place, const Paragraph& paragraph);
+    void addTextFrame(const QStringList& lines, const Transform3& place, double unit, double height,
+        const MultiLeader& leader);
+    bool readsWipeoutFrames() const;
     void addArrow(const Path& path, double size);
     void addEndless(bool bothWays);
+    void addFrame(const Vec3& corner, const Vec3& right, const Vec3& up);
+    /// What stands for something that is not shown: the name of its file in its frame.
+    void addFileName(const Vec3& corner, const Vec3& right, const Vec3& up, int pointer);
+    void addBlock(quint64 record, Definition::Reference reference);
+    ImageFrame imageFrame() const;
+    TextStyle textStyle() const;
     void load(std::size_t index);
     /// The shape added; null when nothing was left of it.
     Definition::Shape* addShape(
@@ -79,7 +109,11 @@ private:
     const EntityStyle& style() const { return m_style; }
 
     const Drawing& m_drawing;
+    const DrawingFile& m_file;
     const LinetypePatterns& m_linetypes;
+    TextStyles m_textStyles;
+    bool m_showsWipeoutFrames = true;
+    double m_textHeight = 1;   ///< Of what has none of its own.
     QByteArray m_linetypeName; ///< The one looked up last.
     EntitySetting m_linetype;  ///< What it means.
     LayerId m_layerZero = LayerId::None;

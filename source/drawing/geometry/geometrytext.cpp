@@ -1,5 +1,9 @@
 #include "geometrytext.h"
 
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <atomic>
 #include <cmath>
 
 namespace drawing {
@@ -11,9 +15,45 @@ bool isWide(QChar character)
     return character.unicode() >= 0x2e80;
 }
 
-double widthOf(QChar character)
+double usualWidth(QChar character)
 {
     return isWide(character) ? 1.3 : character.isSpace() ? 0.5 : 0.75;
+}
+
+std::atomic<double (*)(QChar)> characterWidth{usualWidth};
+
+bool beginsStack(QChar character)
+{
+    return character == stack::kFraction || character == stack::kTolerance;
+}
+
+/// Behind the character at `i`, or behind the stack that begins there.
+int behind(const QString& line, int i)
+{
+    const int end = beginsStack(line[i]) ? line.indexOf(stack::kEnd, i) : i;
+    return end < 0 ? line.size() : end + 1;
+}
+
+double widthOf(const QString& text)
+{
+    const auto width = characterWidth.load(std::memory_order_relaxed);
+    double sum = 0;
+    for (const QChar character : text)
+        sum += width(character);
+    return sum;
+}
+
+/// The stack that `text` is, its signs included.
+TextPiece stackPiece(const QString& text)
+{
+    TextPiece piece;
+    piece.isStack = true;
+    piece.hasBar = text.startsWith(stack::kFraction);
+    const int divider = text.indexOf(stack::kDivider);
+    piece.text = text.mid(1, divider - 1);
+    piece.below = text.mid(divider + 1).remove(stack::kEnd);
+    piece.width = std::max(widthOf(piece.text), widthOf(piece.below)) * stack::kHeight;
+    return piece;
 }
 
 /// The character a `%%` code at `i` (behind the two signs) stands for; moves `i` behind the code.
@@ -89,7 +129,7 @@ private:
             m_line += character;
             return;
         case 'S':
-            return stack(argument());
+            return addStack(argument());
         case 'A':
         case 'C':
         case 'c':
@@ -125,13 +165,17 @@ private:
         return found;
     }
 
-    void stack(QString fraction)
+    void addStack(const QString& fraction)
     {
-        fraction.replace(QLatin1Char('#'), QLatin1Char('/'));
-        fraction.replace(QLatin1Char('^'), QLatin1Char('/'));
-        if (fraction.startsWith(QLatin1Char('/')) || fraction.endsWith(QLatin1Char('/')))
-            fraction.remove(QLatin1Char('/'));
-        m_line += fraction;
+        static const QRegularExpression sign(QStringLiteral("[/#^]"));
+        const int at = fraction.indexOf(sign);
+        if (at < 0) {
+            m_line += fraction;
+            return;
+        }
+        m_line += fraction[at] == QLatin1Char('^') ? stack::kTolerance : stack::kFraction;
+        m_line += fraction.left(at).trimmed() + stack::kDivider + fraction.mid(at + 1).trimmed();
+        m_line += stack::kEnd;
     }
 
     void endLine()
@@ -151,12 +195,14 @@ int breakPosition(const QString& line, int from, double width)
 {
     double used = 0;
     int lastBreak = -1;
-    for (int i = from; i < line.size(); ++i) {
-        used += widthOf(line[i]);
+    for (int i = from; i < line.size();) {
+        const int next = behind(line, i);
+        used += textWidth(line.mid(i, next - i));
         if (used > width && i > from && !line[i].isSpace())
             return lastBreak > from ? lastBreak : isWide(line[i]) ? i : -1;
-        if (line[i].isSpace() || isWide(line[i]))
-            lastBreak = i + 1;
+        if (line[i].isSpace() || (isWide(line[i]) && !beginsStack(line[i])))
+            lastBreak = next;
+        i = next;
     }
     return line.size();
 }
@@ -208,7 +254,7 @@ QStringList plainLines(const QString& text, double width)
     const QStringList lines = MTextReader(text).lines();
     if (!(width > 0) || !std::isfinite(width))
         return lines;
-    // The width is an estimate, so lines are only broken when clearly too long.
+    // The width was made for another font, so lines are only broken when clearly too long.
     constexpr double kSlack = 1.05;
     QStringList wrapped;
     for (const QString& line : lines)
@@ -216,12 +262,38 @@ QStringList plainLines(const QString& text, double width)
     return wrapped;
 }
 
-double estimatedWidth(const QString& text)
+std::vector<TextPiece> piecesOf(const QString& line)
 {
+    std::vector<TextPiece> pieces;
+    for (int i = 0; i < line.size();) {
+        const int next = behind(line, i);
+        if (beginsStack(line[i])) {
+            pieces.push_back(stackPiece(line.mid(i, next - i)));
+        } else {
+            if (pieces.empty() || pieces.back().isStack)
+                pieces.emplace_back();
+            pieces.back().text += line[i];
+            pieces.back().width += widthOf(line.mid(i, 1));
+        }
+        i = next;
+    }
+    return pieces;
+}
+
+double textWidth(const QString& text)
+{
+    const bool isPlain = std::none_of(text.begin(), text.end(), beginsStack);
+    if (isPlain)
+        return widthOf(text);
     double width = 0;
-    for (const QChar character : text)
-        width += widthOf(character);
+    for (const TextPiece& piece : piecesOf(text))
+        width += piece.width;
     return width;
+}
+
+void setCharacterWidths(double (*widthOf)(QChar))
+{
+    characterWidth = widthOf ? widthOf : usualWidth;
 }
 
 } // namespace drawing

@@ -11,16 +11,28 @@ constexpr int kViewportCode = 335;
 constexpr quint32 kByTrueColor = 0xc2000000;
 constexpr quint32 kByIndex = 0xc3000000;
 
+/// Behind the group of a viewport that begins at `at`, or behind the one tag that stands there.
+int endOfGroup(const TagList& tags, int at, int end)
+{
+    const int brace = tags.code(at) == group::kBrace ? tags.find(group::kBrace, at + 1, end) : at;
+    return brace == TagList::kNone ? end : brace + 1;
+}
+
+/// The viewport that the group tells of; 0 when it tells of none.
+quint64 viewportOf(const TagList& tags, int at, int end)
+{
+    const int owner = tags.find(kViewportCode, at, end);
+    return owner == TagList::kNone ? 0 : tags.handle(owner);
+}
+
 /// The record's data without the group of this viewport.
 QByteArray dataWithout(TagList tags, quint64 viewport)
 {
     const RecordData data(tags);
     std::vector<int> kept;
     for (int at = data.begin, end = at; at < data.end; at = end) {
-        end = tags.code(at) == group::kBrace ? tags.find(group::kBrace, at + 1, data.end) : at;
-        end = end == TagList::kNone ? data.end : end + 1;
-        const int owner = tags.find(kViewportCode, at, end);
-        const bool isGone = owner != TagList::kNone && tags.handle(owner) == viewport;
+        end = endOfGroup(tags, at, data.end);
+        const bool isGone = viewportOf(tags, at, end) == viewport;
         for (int i = at; i < end && !isGone; ++i)
             kept.push_back(i);
     }
@@ -89,6 +101,57 @@ bool LayerOverrides::set(
             isWhole = false;
     }
     return isWhole;
+}
+
+std::map<quint64, std::vector<LayerInViewport>> LayerOverrides::all() const
+{
+    std::map<quint64, std::vector<LayerInViewport>> overridden;
+    for (int i = 0; i < m_layers.entryCount(); ++i) {
+        const auto id = static_cast<LayerId>(i);
+        if (m_layers.entry(id).present && m_layers.entry(id).extension != 0)
+            collect(id, overridden);
+    }
+    return overridden;
+}
+
+void LayerOverrides::collect(
+    LayerId layer, std::map<quint64, std::vector<LayerInViewport>>& overridden) const
+{
+    const Dictionary dictionary = m_file.objects().dictionary(m_layers.entry(layer).extension);
+    for (const Row& row : kRows) {
+        const TagList tags = m_file.objects().tags(dictionary.find(row.key));
+        const RecordData data(tags);
+        for (int at = data.begin, end = at; at < data.end; at = end) {
+            end = endOfGroup(tags, at, data.end);
+            const quint64 viewport = viewportOf(tags, at, end);
+            const int value = tags.find(row.code, at, end);
+            if (viewport == 0 || value == TagList::kNone)
+                continue;
+            std::vector<LayerInViewport>& layers = overridden[viewport];
+            if (layers.empty() || layers.back().layer != layer)
+                layers.push_back({layer, m_layers.entry(layer).layer.properties});
+            apply(row, tags.tag(value), layers.back().shown);
+        }
+    }
+}
+
+void LayerOverrides::apply(const Row& row, const Tag& value, LayerProperties& shown) const
+{
+    const auto packed = static_cast<quint32>(value.integer());
+    constexpr quint32 kKind = 0xff000000;
+    if (row.property == kStateLineweight) {
+        shown.lineweight = static_cast<int>(value.integer());
+    } else if (row.property == kStateTransparency) {
+        shown.transparency = transparencyPercent(packed);
+    } else if (row.property == kStateLinetype) {
+        if (const QString name = m_linetypes.name(value.handle()); !name.isNull())
+            shown.linetype = name;
+    } else if ((packed & kKind) == kByTrueColor) {
+        shown.trueColor = packed & ~kKind;
+    } else if ((packed & kKind) == kByIndex) {
+        shown.trueColor.reset();
+        shown.colorIndex = static_cast<int>(packed & 0xff);
+    }
 }
 
 /// A null group takes the override away.

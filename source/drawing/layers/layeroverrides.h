@@ -4,7 +4,17 @@
 #include "layerrecords.h"
 #include "linetypetable.h"
 
+#include <map>
+#include <vector>
+
 namespace drawing {
+
+/// A layer and how it shall look in a viewport.
+struct LayerInViewport
+{
+    LayerId layer = LayerId::None;
+    LayerProperties shown;
+};
 
 /// What layers look like in one viewport alone. Each layer keeps it in its extension dictionary:
 /// an XRECORD a property, with a group for each viewport.
@@ -28,11 +38,16 @@ public:
     /// override. False when the drawing lacks the linetype, which is then left as it was.
     bool set(LayerId layer, quint64 viewport, const LayerProperties& shown, int properties);
 
+    /// The layers that look otherwise in a viewport, by the viewports' handles.
+    std::map<quint64, std::vector<LayerInViewport>> all() const;
+
 private:
     struct Row;
     static const Row kRows[];
 
     QByteArray group(const Row& row, quint64 viewport, const LayerProperties& shown) const;
+    void collect(LayerId layer, std::map<quint64, std::vector<LayerInViewport>>& overridden) const;
+    void apply(const Row& row, const Tag& value, LayerProperties& shown) const;
     void write(LayerId layer, const Row& row, quint64 viewport, const QByteArray& group);
 
     DrawingFile& m_file;

@@ -29,6 +29,7 @@ LayoutRecord readRecord(const DrawingFile& file, const ObjectPlace& object)
     constexpr int kTab = 71;
     constexpr int kLastViewport = 331;
     LayoutRecord record;
+    record.layout.record = object.range;
     OwnTags tags(file.tags(object.range));
     Tag tag;
     while (tags.next(tag)) {
@@ -136,6 +137,16 @@ int LayoutTable::currentViewport(const EntityTable& entities) const
     const auto found = std::find_if(viewports.begin(), viewports.end(),
         [&](int viewport) { return !entities[static_cast<size_t>(viewport)].removed; });
     return found == viewports.end() ? -1 : *found;
+}
+
+bool LayoutTable::setCurrentViewport(int viewport)
+{
+    std::vector<int>& viewports = m_layouts[static_cast<size_t>(m_state.layout)].viewports;
+    const auto found = std::find(viewports.begin(), viewports.end(), viewport);
+    if (isModelSpace() || found == viewports.end())
+        return false;
+    std::rotate(viewports.begin(), found, found + 1);
+    return true;
 }
 
 void LayoutTable::showModelSpace(DrawingFile& file, bool modelSpace)

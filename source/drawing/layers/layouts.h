@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tag.h"
+
 #include <QString>
 
 #include <vector>
@@ -17,6 +19,7 @@ struct Layout
     int block = -1; ///< Index of the definition that holds its entities; -1 when there is none.
     /// Its entities stand in the ENTITIES section; those of other layouts in their definition.
     bool isActive = false;
+    ByteRange record; ///< Of its LAYOUT object; null in formats without.
     /// Entities by their indices: the viewport last active in it first, the sheet's own left out.
     std::vector<int> viewports;
 };
@@ -49,9 +52,12 @@ public:
     bool isModelSpace() const { return m_state.modelSpace; }
     int shownIndex() const { return m_state.layout; }
     bool isShown(const Entity& entity) const;
-    /// The entity that is the current viewport of the layout shown: the one last active in it, else
-    /// its first; -1 in model space and where the layout has none.
+    /// The entity that is the current viewport of the layout shown: the one made it, else the one
+    /// last active in it, else its first; -1 in model space and where the layout has none.
     int currentViewport(const EntityTable& entities) const;
+    /// Makes a viewport the current one of the layout shown; false when it stands elsewhere. Not
+    /// kept in the file, and no part of the state.
+    bool setCurrentViewport(int viewport);
 
     void showModelSpace(DrawingFile& file, bool modelSpace);
     void showLayout(DrawingFile& file, int layout);
@@ -60,7 +66,7 @@ public:
     const State& state() const { return m_state; }
 
 private:
-    std::vector<Layout> m_layouts;
+    std::vector<Layout> m_layouts; ///< Their current viewports come first.
     State m_state;
 };
 

@@ -136,6 +136,7 @@ LinetypeStyle LinetypeTable::readStyle(const ByteRange& record) const
 
 const LinetypeTable::StyleIndex& LinetypeTable::styles() const
 {
+    const std::lock_guard<std::mutex> guard(m_indexing);
     if (m_styles)
         return *m_styles;
     StyleIndex index;

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QStringList>
 
+#include <mutex>
 #include <optional>
 
 namespace drawing {
@@ -70,6 +71,7 @@ private:
     QStringList m_names;             ///< Of the file, in its order.
     QHash<QString, Entry> m_entries; ///< By folded name.
     QHash<quint64, QString> m_byHandle;
+    mutable std::mutex m_indexing;              ///< Several threads may be the first to ask.
     mutable std::optional<StyleIndex> m_styles; ///< Made when a linetype asks for it.
     State m_state;
 };

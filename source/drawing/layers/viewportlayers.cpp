@@ -90,10 +90,15 @@ Expected<void> ViewportLayers::check() const
 
 std::vector<LayerId> ViewportLayers::frozen() const
 {
+    return check() ? frozenIn(current()) : std::vector<LayerId>();
+}
+
+std::vector<LayerId> ViewportLayers::frozenIn(const Entity& viewport) const
+{
     std::vector<LayerId> frozen;
-    if (!check())
+    if (!m_file.limits().markers)
         return frozen;
-    const FrozenList list = this->list(current());
+    const FrozenList list = this->list(viewport);
     std::vector<quint64> handles = list.added;
     for (const Tag& tag : list.tags) {
         if (!m_file.journal().current(tag.range()).isEmpty())
@@ -133,19 +138,30 @@ Expected<void> ViewportLayers::setFrozen(const std::vector<LayerId>& layers)
     return {};
 }
 
+qint64 ViewportLayers::placeOfHandle(const Entity& viewport) const
+{
+    TagReader tags = m_file.tags(viewport.range());
+    Tag type;
+    return tags.next(type) ? type.end() : viewport.end;
+}
+
+quint64 ViewportLayers::handleOf(const Entity& viewport) const
+{
+    if (const quint64 known = ownHandle(m_file.tags(viewport.range())))
+        return known;
+    const TagList made =
+        m_file.tagList(m_file.journal().inserted(placeOfHandle(viewport), kNewHandle));
+    return made.size() > 0 ? made.handle(0) : 0;
+}
+
 /// The handle of a viewport; one without gets one.
 quint64 ViewportLayers::madeHandle(const Entity& viewport)
 {
-    TagReader tags = m_file.tags(viewport.range());
-    if (const quint64 known = ownHandle(tags))
+    if (const quint64 known = handleOf(viewport))
         return known;
-    Tag type;
-    const qint64 at = tags.next(type) ? type.end() : viewport.end;
-    EditJournal& journal = m_file.journal();
-    if (const TagList made = m_file.tagList(journal.inserted(at, kNewHandle)); made.size() > 0)
-        return made.handle(0);
     const quint64 taken = m_file.takeHandle();
-    journal.insert(at, kNewHandle, m_file.styleOf(viewport.range()).handle(group::kHandle, taken));
+    m_file.journal().insert(placeOfHandle(viewport), kNewHandle,
+        m_file.styleOf(viewport.range()).handle(group::kHandle, taken));
     return taken;
 }
 

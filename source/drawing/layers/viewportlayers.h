@@ -11,13 +11,6 @@ namespace drawing {
 
 class LayerFates;
 
-/// A layer and how it shall look in a viewport.
-struct LayerInViewport
-{
-    LayerId layer = LayerId::None;
-    LayerProperties shown;
-};
-
 /// What the viewports of layouts show otherwise than the layers themselves say.
 class ViewportLayers
 {
@@ -37,6 +30,10 @@ public:
     Expected<void> check() const;
     /// The layers frozen in the current viewport, ascending.
     std::vector<LayerId> frozen() const;
+    /// The same for any viewport, whatever is shown; none in formats that keep nothing of this.
+    std::vector<LayerId> frozenIn(const Entity& viewport) const;
+    /// 0 for one without.
+    quint64 handleOf(const Entity& viewport) const;
     /// Refuses as `check` does.
     Expected<void> setFrozen(const std::vector<LayerId>& layers);
     /// Properties as `LayerStateMask` bits. The layers whose linetype the drawing lacks come back;
@@ -50,6 +47,7 @@ private:
     struct FrozenList;
 
     const Entity& current() const;
+    qint64 placeOfHandle(const Entity& viewport) const;
     quint64 madeHandle(const Entity& viewport);
     FrozenList list(const Entity& viewport) const;
     void write(const FrozenList& list, const std::vector<quint64>& added);

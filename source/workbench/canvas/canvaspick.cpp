@@ -127,7 +127,7 @@ QPolygonF textOutline(const TextRun& run)
 {
     // By the order of TextRun::Vertical.
     constexpr double kBottoms[] = {0, 0, -0.5, -1};
-    const double width = run.fitWidth > 0 ? run.fitWidth : drawing::estimatedWidth(run.text);
+    const double width = run.fitWidth > 0 ? run.fitWidth : drawing::textWidth(run.text);
     const QPointF along = run.right * width;
     const QPointF corner = run.origin - along * (static_cast<double>(run.horizontal) / 2) +
                            run.up * kBottoms[static_cast<int>(run.vertical)];
