@@ -28,10 +28,10 @@ LayerMapping mapping(const char* from, const char* to, int color = 3)
     return {QString::fromUtf8(from), target(to, color)};
 }
 
-TranslationOptions inBlocks()
+TranslationOptions only(bool TranslationOptions::*option)
 {
     TranslationOptions options;
-    options.inBlocks = true;
+    options.*option = true;
     return options;
 }
 
@@ -108,7 +108,8 @@ private slots:
         after.layers.replace("Wall", "New").replace("62 1", "62 3");
         after.blocks.replace("Wall", "New");
         after.entities.replace("Wall", "New");
-        row("blocks too, where asked", before, {mapping("Wall", "New")}, inBlocks(), after, 2);
+        row("blocks too, where asked", before, {mapping("Wall", "New")},
+            only(&TranslationOptions::inBlocks), after, 2);
 
         before = after = {};
         before.current = "Wall";
@@ -157,12 +158,9 @@ private slots:
     void byLayer_data()
     {
         const Rows<TranslationOptions, QByteArray, QByteArray> row("options", "before", "after");
-        TranslationOptions color;
-        color.colorByLayer = true;
-        TranslationOptions linetype;
-        linetype.linetypeByLayer = true;
-        TranslationOptions transparency;
-        transparency.transparencyByLayer = true;
+        const auto color = only(&TranslationOptions::colorByLayer);
+        const auto linetype = only(&TranslationOptions::linetypeByLayer);
+        const auto transparency = only(&TranslationOptions::transparencyByLayer);
         const QByteArray own = "0 MTEXT\n100 AcDbEntity\n8 Wall\n62 5\n420 255\n430 RAL 5010\n"
                                "6 Dashed\n440 33554559\n";
         // Other subclasses, embedded objects and applications use the codes for things of their
@@ -214,8 +212,8 @@ private slots:
         Yard yard;
         yard.entities = "0 LINE\n8 Wall\n0 LINE\n8 Keep\n";
         const auto drawing = opened(yard.bytes());
-        const TranslationReport report =
-            translate(*drawing, {mapping("Wall", "First"), given}, inBlocks());
+        const TranslationReport report = translate(
+            *drawing, {mapping("Wall", "First"), given}, only(&TranslationOptions::inBlocks));
         QCOMPARE(report.mappings.size(), size_t(2));
         QVERIFY(report.mappings[0].isApplied());
         QCOMPARE(report.mappings[1].cause, cause);
@@ -300,9 +298,7 @@ private slots:
             return geometry->groups.at(0).style.color.source == GeometryColor::Source::Layer;
         };
         QVERIFY(!isByLayer());
-        TranslationOptions options;
-        options.colorByLayer = true;
-        translate(*drawing, {mapping("Wall", "Keep")}, options);
+        translate(*drawing, {mapping("Wall", "Keep")}, only(&TranslationOptions::colorByLayer));
         QVERIFY(isByLayer());
         drawing->undo();
         QVERIFY(!isByLayer());
@@ -316,8 +312,7 @@ private slots:
         yard.blocks = "0 BLOCK\n8 0\n2 DOOR\n0 LINE\n8 Keep\n0 ENDBLK\n8 0\n";
         yard.entities = "0 LINE\n8 Wall\n0 LINE\n8 Wall\n0 LINE\n8 0\n";
         const auto drawing = opened(yard.bytes());
-        TranslationOptions options;
-        options.linetypeByLayer = true;
+        const auto options = only(&TranslationOptions::linetypeByLayer);
         const TranslationReport report = translate(*drawing,
             {mapping("Wall", "New"), mapping("Keep", "Keep", 2), mapping("Gone", "New")}, options);
         const QString path = inFolder("plan.v2.dxf");
