@@ -98,6 +98,8 @@ void TestCheck::rules_data()
         drawingOf({{"WALL", "62\n1\n"}, {"DOOR", "62\n256\n"}}), "WALL");
     row("a true colour", "entity-color", "{}", drawingOf({{"WALL", "420\n255\n"}, {"DOOR", ""}}),
         "WALL");
+    row("a colour that an application keeps", "entity-color", "{}",
+        drawingOf({{"WALL", "102\n{APP\n62\n1\n102\n}\n"}}), "");
     row("entity-linetype", "entity-linetype", "{}",
         drawingOf({{"WALL", "6\nDASHED\n"}, {"DOOR", "6\nByLayer\n"}}), "WALL");
     row("entity-lineweight", "entity-lineweight", "{}",

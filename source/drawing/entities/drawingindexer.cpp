@@ -325,30 +325,69 @@ bool DrawingIndexer::readEntities()
     return !m_fault;
 }
 
+/// An entity while its tags are read.
+struct DrawingIndexer::OpenEntity
+{
+    Entity entity;
+    const char* first = nullptr; // Of its bytes.
+    quint32 nameAt = 0;
+    bool isCommon = true; // Among the data that all entities have, until another subclass begins.
+    bool inGroup = false; // Of an application.
+};
+
+[[gnu::always_inline]] inline void DrawingIndexer::take(const Tag& tag, OpenEntity& open)
+{
+    switch (tag.code) {
+    case group::kLayer:
+        if (open.nameAt != 0)
+            break;
+        open.nameAt = static_cast<quint32>(tag.value - open.first);
+        open.entity.layer = static_cast<LayerId>(m_entities->layerSpellings.intern(tag.text()));
+        break;
+    case group::kPaperSpace:
+        open.entity.paperSpace = tag.integer() == 1;
+        break;
+    case group::kXdataLayer:
+        m_entities->xdataNames.push_back(tag.valueRange().begin);
+        break;
+    case group::kSubclass:
+    case group::kEmbedded:
+        open.isCommon = tag.code == group::kSubclass && tag.trimmed() == kCommonData;
+        break;
+    case group::kBrace:
+        open.inGroup = tag.text().substr(0, 1) == "{";
+        break;
+    case group::kColor:
+    case group::kTrueColor:
+    case group::kColorName:
+    case group::kLinetype:
+    case group::kLineweight:
+    case group::kTransparency:
+        if (open.isCommon && !open.inGroup)
+            open.entity.own |= ownPropertiesIn(tag);
+        break;
+    default:
+        break;
+    }
+}
+
 /// Reads an entity and stops at the `0` group behind it. Most of a file's tags pass here.
 bool DrawingIndexer::readEntity(int block)
 {
-    Entity entity;
+    OpenEntity open;
+    Entity& entity = open.entity;
     entity.begin = m_tag.begin();
     entity.kind = kindOf(m_tag.trimmed());
     entity.block = block;
     entity.subEntity = isSubEntity(entity.kind);
-    quint32 nameAt = 0;
+    open.first = m_tag.first;
     TagReader tags = m_tags; // A copy, which needs no memory of its own.
     Tag tag;
     const ScanResult result = withSpelling(m_tags.spelling(), [&](auto spelling) {
         ScanResult last = ScanResult::Tag;
         while ((last = tags.readAs<decltype(spelling)::value>(tag)) == ScanResult::Tag &&
-               tag.code != group::kType) {
-            if (tag.code == group::kLayer && nameAt == 0) {
-                nameAt = static_cast<quint32>(tag.value - m_tag.first);
-                entity.layer = static_cast<LayerId>(m_entities->layerSpellings.intern(tag.text()));
-            } else if (tag.code == group::kPaperSpace) {
-                entity.paperSpace = tag.integer() == 1;
-            } else if (tag.code == group::kXdataLayer) {
-                m_entities->xdataNames.push_back(tag.valueRange().begin);
-            }
-        }
+               tag.code != group::kType)
+            take(tag, open);
         return last;
     });
     m_tags = tags;
@@ -356,7 +395,7 @@ bool DrawingIndexer::readEntity(int block)
     const bool isWhole = result == ScanResult::Tag || failed(result);
     entity.end = isWhole ? m_tag.begin() : m_tags.end();
     m_entities->entities.push_back(entity);
-    m_entities->layerNameAt.push_back(nameAt);
+    m_entities->layerNameAt.push_back(open.nameAt);
     return isWhole;
 }
 

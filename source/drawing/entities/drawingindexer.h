@@ -68,6 +68,8 @@ private:
     bool readBlockHead();
     bool readEntities();
     bool readEntity(int block);
+    struct OpenEntity;
+    void take(const Tag& tag, OpenEntity& open);
     bool readObjects();
     EntityKind kindOf(std::string_view name);
 

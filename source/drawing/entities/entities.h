@@ -1,7 +1,7 @@
 #pragma once
 
 #include "layer.h"
-#include "tag.h"
+#include "ownproperties.h"
 
 #include <QString>
 
@@ -47,7 +47,7 @@ struct Entity
     bool paperSpace = false; ///< Group 67 = 1; meaningful in the ENTITIES section.
     bool subEntity = false;  ///< Follows an owner; does not count as an entity of its own.
     bool removed = false; ///< Deleted; it keeps its place, so that indices of entities stay good.
-    bool colorByLayer = false; ///< Lost the colour of its own that its tags tell of.
+    OwnProperties own;    ///< What it does not take from its layer.
 
     ByteRange range() const { return {begin, end}; }
 };

@@ -23,7 +23,7 @@ struct ContentMove
 struct ContentRules
 {
     bool inBlocks = false; ///< What stands in block definitions goes too, not only in layouts.
-    ByLayerGroups byLayer; ///< What entities that go take from their layer from then on.
+    OwnProperties byLayer; ///< What entities that go take from their layer from then on.
 };
 
 /// The edits that touch entities, each in one pass over them.

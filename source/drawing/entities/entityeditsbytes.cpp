@@ -3,13 +3,9 @@
 #include "insertionorder.h"
 #include "owntags.h"
 
-#include <algorithm>
-
 namespace drawing {
 
 namespace {
-
-constexpr std::string_view kCommonData = "AcDbEntity";
 
 /// Where the layer's group belongs: behind the marker of the common data, which old formats lack.
 qint64 layerGroupPlace(const DrawingFile& file, const Entity& entity)
@@ -26,70 +22,20 @@ qint64 layerGroupPlace(const DrawingFile& file, const Entity& entity)
     return behindType;
 }
 
-/// A group in which an entity has something of its own, unless it says that the layer has it.
-struct OwnGroup
-{
-    int code;
-    bool ByLayerGroups::*kind;
-    bool isOwn(const Tag& tag) const;
-};
-
-constexpr OwnGroup kOwnGroups[] = {
-    {group::kColor, &ByLayerGroups::color},
-    {group::kTrueColor, &ByLayerGroups::color},
-    {group::kColorName, &ByLayerGroups::color},
-    {group::kLinetype, &ByLayerGroups::linetype},
-    {group::kTransparency, &ByLayerGroups::transparency},
-    {group::kLineweight, &ByLayerGroups::lineweight},
-};
-
-bool OwnGroup::isOwn(const Tag& tag) const
-{
-    constexpr qint64 kColorByLayer = 256;
-    constexpr qint64 kLineweightByLayer = -1;
-    constexpr std::string_view kByLayer = "bylayer";
-    const std::string_view text = tag.trimmed();
-    switch (code) {
-    case group::kColor:
-        return tag.integer() != kColorByLayer;
-    case group::kLineweight:
-        return tag.integer() != kLineweightByLayer;
-    case group::kTransparency:
-        return tag.integer() != 0;
-    case group::kLinetype:
-        return !std::equal(text.begin(), text.end(), kByLayer.begin(), kByLayer.end(),
-            [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
-    default:
-        return true;
-    }
-}
-
-bool isOwn(const Tag& tag, const ByLayerGroups& groups)
-{
-    const auto* const found = std::find_if(std::begin(kOwnGroups), std::end(kOwnGroups),
-        [&tag](const OwnGroup& known) { return known.code == tag.code; });
-    return found != std::end(kOwnGroups) && groups.*found->kind && found->isOwn(tag);
-}
-
 } // namespace
 
-/// Looks at the common data alone: other subclasses use the same codes for their own things. Old
-/// formats have no markers, and nothing else in these groups.
-void forceByLayer(
-    DrawingFile& file, EntityTable& entities, size_t entity, const ByLayerGroups& groups)
+void forceByLayer(DrawingFile& file, EntityTable& entities, size_t entity, OwnProperties properties)
 {
-    if (!groups.color && !groups.linetype && !groups.transparency && !groups.lineweight)
+    if (!(entities[entity].own & properties))
         return;
     OwnTags tags(file.tags(entities[entity].range()));
     Tag tag;
     while (tags.next(tag)) {
         const std::string_view subclass = tags.place().subclass();
-        if ((!subclass.empty() && subclass != kCommonData) || !isOwn(tag, groups))
-            continue;
-        file.journal().replace(tag.range(), {});
-        if (tag.code == group::kColor || tag.code == group::kTrueColor)
-            entities.dropColor(entity);
+        if ((subclass.empty() || subclass == kCommonData) && (ownPropertiesIn(tag) & properties))
+            file.journal().replace(tag.range(), {});
     }
+    entities.dropOwn(entity, properties);
 }
 
 void writeLayerName(

@@ -9,18 +9,9 @@ namespace drawing {
 void writeLayerName(
     DrawingFile& file, const EntityTable& entities, size_t entity, const QByteArray& name);
 
-/// What an entity can have of its own or take from its layer.
-struct ByLayerGroups
-{
-    bool color = false;
-    bool linetype = false;
-    bool transparency = false;
-    bool lineweight = false;
-};
-
 /// Lets an entity take these from its layer.
 void forceByLayer(
-    DrawingFile& file, EntityTable& entities, size_t entity, const ByLayerGroups& groups);
+    DrawingFile& file, EntityTable& entities, size_t entity, OwnProperties properties);
 
 /// Takes out an entity with all its groups.
 void removeEntityBytes(DrawingFile& file, const EntityTable& entities, size_t entity);

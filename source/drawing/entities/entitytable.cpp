@@ -8,7 +8,7 @@ namespace {
 
 EntityChange::State stateOf(const Entity& entity)
 {
-    return {entity.layer, entity.removed, entity.colorByLayer};
+    return {entity.layer, entity.removed, entity.own};
 }
 
 } // namespace
@@ -57,26 +57,26 @@ void EntityTable::change(size_t entity, const EntityChange::State& after)
     m_changes.push_back({static_cast<int>(entity), stateOf(changed), after});
     changed.layer = after.layer;
     changed.removed = after.removed;
-    changed.colorByLayer = after.colorByLayer;
+    changed.own = after.own;
 }
 
 void EntityTable::setLayer(size_t entity, LayerId layer)
 {
     const Entity& now = m_entities[entity];
-    change(entity, {layer, now.removed, now.colorByLayer});
+    change(entity, {layer, now.removed, now.own});
 }
 
 void EntityTable::remove(size_t entity)
 {
     const Entity& now = m_entities[entity];
-    change(entity, {now.layer, true, now.colorByLayer});
+    change(entity, {now.layer, true, now.own});
 }
 
-void EntityTable::dropColor(size_t entity)
+void EntityTable::dropOwn(size_t entity, OwnProperties properties)
 {
     const Entity& now = m_entities[entity];
-    if (!now.colorByLayer)
-        change(entity, {now.layer, now.removed, true});
+    if (now.own & properties)
+        change(entity, {now.layer, now.removed, now.own & ~properties});
 }
 
 std::vector<EntityChange> EntityTable::takeChanges()
@@ -92,7 +92,7 @@ void EntityTable::apply(const std::vector<EntityChange>& changes, bool forward)
         Entity& entity = m_entities[static_cast<size_t>(index)];
         entity.layer = state.layer;
         entity.removed = state.removed;
-        entity.colorByLayer = state.colorByLayer;
+        entity.own = state.own;
     };
     // An entity may have changed more than once.
     if (forward) {

@@ -31,14 +31,14 @@ struct EntityIndex
     NameInterner layerSpellings;
 };
 
-/// An entity that changed its layer, lost its own colour, or went.
+/// An entity that changed its layer, lost what it had of its own, or went.
 struct EntityChange
 {
     struct State
     {
         LayerId layer = LayerId::None;
         bool removed = false;
-        bool colorByLayer = false;
+        OwnProperties own;
     };
 
     int entity = 0;
@@ -72,8 +72,8 @@ public:
     // Changes belong to the open step.
     void setLayer(size_t entity, LayerId layer);
     void remove(size_t entity);
-    /// Marks an entity as having the colour of its layer.
-    void dropColor(size_t entity);
+    /// Marks an entity as taking these from its layer.
+    void dropOwn(size_t entity, OwnProperties properties);
     bool hasChanges() const { return !m_changes.empty(); }
     std::vector<EntityChange> takeChanges();
     void apply(const std::vector<EntityChange>& changes, bool forward);

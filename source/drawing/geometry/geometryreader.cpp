@@ -124,8 +124,15 @@ EntityStyle EntityReader::readStyle()
     // Backwards, so that of several groups of one code the first counts.
     for (auto tag = m_tags.end(); tag != m_tags.begin();)
         takeStyle(style, *--tag);
-    if (entity.colorByLayer)
+    // Tags go on telling of what the entity takes from its layer since then.
+    if (!entity.own.testFlag(OwnProperty::Color))
         style.color = EntityStyle::Color::ByLayer;
+    if (!entity.own.testFlag(OwnProperty::Linetype))
+        style.linetype = {};
+    if (!entity.own.testFlag(OwnProperty::Lineweight))
+        style.lineweight = {};
+    if (!entity.own.testFlag(OwnProperty::Transparency))
+        style.transparency = {};
     return style;
 }
 

@@ -51,6 +51,7 @@ private:
     Expected<void> makeTarget(Plan& plan);
     void moveCurrentLayer();
     void moveContents();
+    OwnProperties byLayer() const;
     bool mayGo(const Plan& plan, const ContentMove& move) const;
 
     const TargetLayer& target(const Plan& plan) const { return m_mappings[plan.mapping].to; }
@@ -193,15 +194,23 @@ bool Translation::mayGo(const Plan& plan, const ContentMove& move) const
            !m_targets.contains(static_cast<int>(plan.from));
 }
 
+OwnProperties Translation::byLayer() const
+{
+    OwnProperties properties;
+    properties.setFlag(OwnProperty::Color, m_options.colorByLayer);
+    properties.setFlag(OwnProperty::Linetype, m_options.linetypeByLayer);
+    properties.setFlag(OwnProperty::Lineweight, m_options.lineweightByLayer);
+    properties.setFlag(OwnProperty::Transparency, m_options.transparencyByLayer);
+    return properties;
+}
+
 void Translation::moveContents()
 {
     std::vector<ContentMove> moves;
     moves.reserve(m_plans.size());
     for (const Plan& plan : m_plans)
         moves.push_back({plan.from, plan.to});
-    m_data.entityEdits.moveContents(moves,
-        {m_options.inBlocks, {m_options.colorByLayer, m_options.linetypeByLayer,
-                                 m_options.transparencyByLayer, m_options.lineweightByLayer}});
+    m_data.entityEdits.moveContents(moves, {m_options.inBlocks, byLayer()});
     for (size_t i = 0; i < moves.size(); ++i) {
         MappingResult& result = this->result(m_plans[i]);
         result.translated = moves[i].moved;

@@ -1,33 +1,23 @@
 #include "rules.h"
 
 #include "drawing.h"
+#include "layercontent.h"
 #include "layerfields.h"
 #include "namerule.h"
 #include "texts.h"
 
 #include <algorithm>
-#include <array>
 
 namespace layertool {
-
-/// What entities on one layer have that they should take from it.
-struct LayerContent
-{
-    static constexpr int kOwnProperties = 4;
-
-    int entities = 0;
-    std::array<int, kOwnProperties> own = {}; ///< By `kOwn`.
-    int inBlocks = 0;                         ///< In block definitions.
-};
 
 struct CheckContext
 {
     const drawing::Drawing& drawing;
     const LayerRules& rules;
+    LayerContents contents;
     const Rule* rule = nullptr;
     Level level = Level::Off;
     std::vector<Finding> findings = {};
-    QHash<int, LayerContent> contents = {}; ///< By the layers' ids.
 
     Finding& add(const drawing::Layer* layer, const QString& text)
     {
@@ -57,81 +47,6 @@ struct CheckContext
 namespace {
 
 using drawing::Layer;
-
-/// The groups by which an entity has a property of its own, and what they hold when it has not.
-constexpr struct
-{
-    int code;
-    const char* property;
-    const char* rule;
-} kOwn[LayerContent::kOwnProperties] = {
-    {62, "color", "entity-color"},
-    {6, "linetype", "entity-linetype"},
-    {370, "lineweight", "entity-lineweight"},
-    {440, "transparency", "entity-transparency"},
-};
-
-bool isByLayer(const drawing::Tag& tag)
-{
-    constexpr int kColorByLayer = 256;
-    constexpr int kLineweightByLayer = -1;
-    switch (tag.code) {
-    case 62:
-        return tag.integer() == kColorByLayer;
-    case 6:
-        return QByteArray::fromRawData(tag.trimmed().data(), static_cast<int>(tag.trimmed().size()))
-                   .toLower() == "bylayer";
-    case 370:
-        return tag.integer() == kLineweightByLayer;
-    default: // 440: the high byte is 0 for by layer.
-        return (tag.integer() >> 24) == 0;
-    }
-}
-
-/// The properties of its own that an entity has. They stand in front of what its kind adds, or
-/// right behind: groups of a nested object, and those of applications, tell of something else.
-std::array<bool, LayerContent::kOwnProperties> ownProperties(
-    const drawing::Drawing& drawing, const drawing::Entity& entity)
-{
-    std::array<bool, LayerContent::kOwnProperties> own = {};
-    drawing::TagReader tags = drawing.tags(entity);
-    constexpr int kTrueColor = 420, kColorName = 430;
-    bool hasTrueColor = false;
-    int subclasses = 0;
-    for (drawing::Tag tag; tags.next(tag);) {
-        if (tag.code >= 1000 || tag.code == 101)
-            break;
-        if (tag.code == 100 && ++subclasses > 1)
-            break;
-        for (size_t i = 0; i < own.size(); ++i) {
-            if (tag.code == kOwn[i].code)
-                own[i] = !isByLayer(tag);
-        }
-        hasTrueColor = hasTrueColor || tag.code == kTrueColor || tag.code == kColorName;
-    }
-    own[0] = own[0] || hasTrueColor;
-    if (entity.colorByLayer)
-        own[0] = false;
-    return own;
-}
-
-QHash<int, LayerContent> contentsOf(const drawing::Drawing& drawing)
-{
-    QHash<int, LayerContent> all;
-    for (const drawing::Entity& entity : drawing.entities()) {
-        if (entity.removed || entity.subEntity)
-            continue;
-        LayerContent& content = all[static_cast<int>(entity.layer)];
-        ++content.entities;
-        const bool inBlock =
-            entity.block >= 0 && !drawing.blocks()[static_cast<size_t>(entity.block)].layout;
-        content.inBlocks += inBlock ? 1 : 0;
-        const auto own = ownProperties(drawing, entity);
-        for (size_t i = 0; i < own.size(); ++i)
-            content.own[i] += own[i] ? 1 : 0;
-    }
-    return all;
-}
 
 void checkRequired(CheckContext& context)
 {
@@ -204,7 +119,7 @@ void checkProperties(CheckContext& context)
             continue;
         for (const LayerField& field : layerFields()) {
             const QString id = QLatin1String(field.id);
-            const QString actual = field.get(layer.properties).toVariant().toString();
+            const QString actual = field.get(layer.properties).toString();
             const QString expected = standard->properties.value(id, actual);
             if (expected.compare(actual, Qt::CaseInsensitive) == 0)
                 continue;
@@ -218,23 +133,27 @@ void checkProperties(CheckContext& context)
     }
 }
 
-template <int index>
+template <size_t index>
 void checkOwn(CheckContext& context)
 {
+    constexpr struct
+    {
+        const char* property;
+        const char* text;
+    } kTexts[] = {
+        {"color", QT_TRANSLATE_NOOP("layertool", "图层“%1”上有 %2 个对象的颜色不是随层。")},
+        {"linetype", QT_TRANSLATE_NOOP("layertool", "图层“%1”上有 %2 个对象的线型不是随层。")},
+        {"lineweight", QT_TRANSLATE_NOOP("layertool", "图层“%1”上有 %2 个对象的线宽不是随层。")},
+        {"transparency",
+            QT_TRANSLATE_NOOP("layertool", "图层“%1”上有 %2 个对象的透明度不是随层。")},
+    };
     for (const Layer& layer : context.drawing.layers()) {
-        const int count =
-            context.contents.value(static_cast<int>(layer.id)).own[static_cast<size_t>(index)];
+        const int count = context.contents.of(layer.id).own[index];
         if (count == 0)
             continue;
-        constexpr const char* kTexts[] = {
-            QT_TRANSLATE_NOOP("layertool", "图层“%1”上有 %2 个对象的颜色不是随层。"),
-            QT_TRANSLATE_NOOP("layertool", "图层“%1”上有 %2 个对象的线型不是随层。"),
-            QT_TRANSLATE_NOOP("layertool", "图层“%1”上有 %2 个对象的线宽不是随层。"),
-            QT_TRANSLATE_NOOP("layertool", "图层“%1”上有 %2 个对象的透明度不是随层。"),
-        };
-        Finding& finding =
-            context.add(&layer, Texts::tr(kTexts[index]).arg(layer.properties.name).arg(count));
-        finding.property = QLatin1String(kOwn[index].property);
+        Finding& finding = context.add(
+            &layer, Texts::tr(kTexts[index].text).arg(layer.properties.name).arg(count));
+        finding.property = QLatin1String(kTexts[index].property);
         finding.count = count;
     }
 }
@@ -244,8 +163,7 @@ void checkOnZero(CheckContext& context)
     const Layer* const zero = context.drawing.findLayer(QStringLiteral("0"));
     if (!zero)
         return;
-    const LayerContent content = context.contents.value(static_cast<int>(zero->id));
-    const int count = content.entities - content.inBlocks;
+    const int count = context.contents.of(zero->id).placed();
     if (count > 0)
         context.add(zero, Texts::tr("图层 0 上有 %1 个对象。").arg(count)).count = count;
 }
@@ -253,8 +171,7 @@ void checkOnZero(CheckContext& context)
 void checkOnDefpoints(CheckContext& context)
 {
     for (const Layer& layer : context.drawing.layers()) {
-        const LayerContent content = context.contents.value(static_cast<int>(layer.id));
-        const int count = content.entities - content.inBlocks;
+        const int count = context.contents.of(layer.id).placed();
         if (drawing::isNeverPlotted(layer.properties.name) && count > 0)
             context
                 .add(&layer, Texts::tr("图层“%1”上有 %2 个对象，不会打印。")
@@ -267,7 +184,7 @@ void checkOnDefpoints(CheckContext& context)
 void checkBlockContent(CheckContext& context)
 {
     for (const Layer& layer : context.drawing.layers()) {
-        const int count = context.contents.value(static_cast<int>(layer.id)).inBlocks;
+        const int count = context.contents.of(layer.id).blocks;
         if (layer.properties.name == QLatin1String("0") || count == 0 ||
             drawing::isNeverPlotted(layer.properties.name))
             continue;
@@ -362,28 +279,27 @@ const std::vector<Rule>& rules()
             QT_TRANSLATE_NOOP("layertool", "图层名应由标准规定的字段组成。"), checkNaming,
             "naming exempt"},
         {"layer-renamed", Level::Warning, QT_TRANSLATE_NOOP("layertool", "图层应用标准中的名称。"),
-            checkRenames, "renames", true},
+            checkRenames, "renames"},
         {"layer-property", Level::Warning,
-            QT_TRANSLATE_NOOP("layertool", "图层的特性应与标准相同。"), checkProperties, "layers",
-            true},
+            QT_TRANSLATE_NOOP("layertool", "图层的特性应与标准相同。"), checkProperties, "layers"},
         {"layer-name-empty", Level::Error, QT_TRANSLATE_NOOP("layertool", "图层应有名称。"),
             checkEmptyNames},
         {"layer-duplicate", Level::Error,
             QT_TRANSLATE_NOOP("layertool", "图层名不应只有大小写不同。"), checkDuplicates},
         {"layer-unused", Level::Note, QT_TRANSLATE_NOOP("layertool", "标准之外的图层上应有对象。"),
-            checkUnused, "exempt layers", true},
+            checkUnused, "exempt layers"},
         {"layer-hidden-content", Level::Note,
             QT_TRANSLATE_NOOP("layertool", "关闭或冻结的图层上不应有对象。"), checkHiddenContent},
         {"version-limits", Level::Note,
             QT_TRANSLATE_NOOP("layertool", "图层名应在图形版本的限制之内。"), checkVersionLimits},
         {"entity-color", Level::Warning, QT_TRANSLATE_NOOP("layertool", "对象的颜色应随层。"),
-            checkOwn<0>, "", true},
+            checkOwn<0>},
         {"entity-linetype", Level::Warning, QT_TRANSLATE_NOOP("layertool", "对象的线型应随层。"),
-            checkOwn<1>, "", true},
+            checkOwn<1>},
         {"entity-lineweight", Level::Warning, QT_TRANSLATE_NOOP("layertool", "对象的线宽应随层。"),
             checkOwn<2>},
         {"entity-transparency", Level::Warning,
-            QT_TRANSLATE_NOOP("layertool", "对象的透明度应随层。"), checkOwn<3>, "", true},
+            QT_TRANSLATE_NOOP("layertool", "对象的透明度应随层。"), checkOwn<3>},
         {"entity-on-0", Level::Warning,
             QT_TRANSLATE_NOOP("layertool", "块以外的对象不应在图层 0 上。"), checkOnZero},
         {"entity-on-defpoints", Level::Warning,
@@ -404,8 +320,7 @@ const Rule* findRule(const QString& id)
 
 std::vector<Finding> checkDrawing(const drawing::Drawing& drawing, const LayerRules& standard)
 {
-    CheckContext context{drawing, standard};
-    context.contents = contentsOf(drawing);
+    CheckContext context{drawing, standard, LayerContents(drawing)};
     for (const Rule& rule : rules()) {
         context.rule = &rule;
         context.level = standard.levels.value(QLatin1String(rule.id), rule.level);

@@ -35,7 +35,6 @@ struct Rule
     const char* text; ///< A sentence, to be translated.
     void (*check)(CheckContext& context);
     const char* keys = ""; ///< Of the rule file's keys those it looks at, with blanks between.
-    bool isMended = false; ///< Whether `fix` mends what it can of it.
 };
 
 /// All rules, in the order in which findings are listed.

@@ -1,5 +1,6 @@
 #include "verbs.h"
 
+#include "check/mends.h"
 #include "check/rules.h"
 #include "engine/console.h"
 #include "engine/run.h"
@@ -11,13 +12,6 @@
 namespace layertool {
 
 namespace {
-
-constexpr OptionRow kListing[] = {
-    {"format", OptionKind::Choice, QT_TRANSLATE_NOOP("layertool", "结果的格式；不给时为 text。"),
-        "text json"},
-    {"language", OptionKind::Choice,
-        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), "zh en"},
-};
 
 int fail(const QString& text)
 {
@@ -43,8 +37,6 @@ QString listingText()
 
 int runRules(const Arguments& arguments)
 {
-    if (!arguments.paths.isEmpty())
-        return fail(Texts::tr("“%1”是多余的。").arg(arguments.paths.front()));
     if (arguments.value("format") != QLatin1String("json")) {
         say(listingText());
         return kFine;
@@ -55,7 +47,7 @@ int runRules(const Arguments& arguments)
             {QStringLiteral("level"), QLatin1String(levelWord(rule.level))},
             {QStringLiteral("text"), Texts::tr(rule.text)},
             {QStringLiteral("keys"), QJsonArray::fromStringList(wordsOf(rule.keys))},
-            {QStringLiteral("mended"), rule.isMended}});
+            {QStringLiteral("mended"), isMended(rule)}});
     say(QString::fromUtf8(QJsonDocument(all).toJson()));
     return kFine;
 }
@@ -70,7 +62,7 @@ QString explanation(const Rule& rule)
             .arg(QLatin1String(levelWord(rule.level))),
         keys.isEmpty() ? Texts::tr("它不看规则文件的其他键。")
                        : Texts::tr("它所看的规则文件的键：%1。").arg(keys),
-        rule.isMended ? Texts::tr("fix 会改正它能改正的。") : Texts::tr("fix 不改动它，只报告。"),
+        isMended(rule) ? Texts::tr("fix 会改正它能改正的。") : Texts::tr("fix 不改动它，只报告。"),
     };
     QString text;
     for (const QString& line : lines)
@@ -97,16 +89,16 @@ int runExplain(const Arguments& arguments)
 
 VerbRow rulesVerb()
 {
-    VerbRow row{"rules", QT_TRANSLATE_NOOP("layertool", "列出检查的规则：标识、级别、说明。"),
-        OptionRows::of(kListing), "", false, nullptr};
+    VerbRow row{"rules", QT_TRANSLATE_NOOP("layertool", "列出检查的规则：标识、级别、说明。"), {},
+        "text json", false, nullptr};
     row.runAlone = runRules;
     return row;
 }
 
 VerbRow explainVerb()
 {
-    VerbRow row{"explain", QT_TRANSLATE_NOOP("layertool", "说明一条或几条规则。"),
-        OptionRows{kListing + 1, 1}, "", false, nullptr};
+    VerbRow row{
+        "explain", QT_TRANSLATE_NOOP("layertool", "说明一条或几条规则。"), {}, "", false, nullptr};
     row.runAlone = runExplain;
     row.operands = QT_TRANSLATE_NOOP("layertool", "规则...");
     return row;
