@@ -11,7 +11,7 @@ namespace {
 using drawing::LayerProperties;
 
 template <bool LayerProperties::*flag>
-QJsonValue getFlag(const LayerProperties& properties)
+QVariant getFlag(const LayerProperties& properties)
 {
     return properties.*flag;
 }
@@ -32,7 +32,7 @@ bool setFlag(LayerProperties& properties, const QString& text)
 }
 
 template <QString LayerProperties::*member>
-QJsonValue getText(const LayerProperties& properties)
+QVariant getText(const LayerProperties& properties)
 {
     return properties.*member;
 }
@@ -45,7 +45,7 @@ bool setText(LayerProperties& properties, const QString& text)
 }
 
 /// An index, or a true colour as #RRGGBB.
-QJsonValue getColor(const LayerProperties& properties)
+QVariant getColor(const LayerProperties& properties)
 {
     if (properties.trueColor)
         return QStringLiteral("#%1").arg(*properties.trueColor, 6, 16, QLatin1Char('0'));
@@ -70,7 +70,7 @@ bool setColor(LayerProperties& properties, const QString& text)
 }
 
 /// Millimetres, as drawings show them; "default" for -3.
-QJsonValue getLineweight(const LayerProperties& properties)
+QVariant getLineweight(const LayerProperties& properties)
 {
     if (properties.lineweight == -3)
         return QStringLiteral("default");
@@ -92,7 +92,7 @@ bool setLineweight(LayerProperties& properties, const QString& text)
     return true;
 }
 
-QJsonValue getTransparency(const LayerProperties& properties)
+QVariant getTransparency(const LayerProperties& properties)
 {
     return properties.transparency;
 }
@@ -139,20 +139,21 @@ const std::vector<LayerField>& layerFields()
     return fields;
 }
 
+std::vector<Column> contentColumns()
+{
+    return {{"current", QT_TRANSLATE_NOOP("layertool", "当前")},
+        {"model", QT_TRANSLATE_NOOP("layertool", "模型")},
+        {"layouts", QT_TRANSLATE_NOOP("layertool", "布局")},
+        {"blocks", QT_TRANSLATE_NOOP("layertool", "块中")},
+        {"used-in-blocks", QT_TRANSLATE_NOOP("layertool", "所在的块")}};
+}
+
 std::vector<Column> layerColumns()
 {
     std::vector<Column> columns;
     for (const LayerField& field : layerFields())
         columns.push_back({field.id, field.text});
     return columns;
-}
-
-QJsonObject layerJson(const drawing::LayerProperties& properties)
-{
-    QJsonObject json;
-    for (const LayerField& field : layerFields())
-        json.insert(QLatin1String(field.id), field.get(properties));
-    return json;
 }
 
 } // namespace layertool

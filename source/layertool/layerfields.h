@@ -10,15 +10,16 @@ struct LayerField
 {
     const char* id;   ///< The English word of machine formats.
     const char* text; ///< The heading people see.
-    QJsonValue (*get)(const drawing::LayerProperties& properties);
+    QVariant (*get)(const drawing::LayerProperties& properties);
     /// Takes a cell's text. False when it makes no sense for this property.
     bool (*set)(drawing::LayerProperties& properties, const QString& text);
 };
 
 /// "name" first.
 const std::vector<LayerField>& layerFields();
-/// The columns and the values of these fields.
+/// The columns of what `list` tells of a layer's contents besides.
+std::vector<Column> contentColumns();
+/// The columns of these fields.
 std::vector<Column> layerColumns();
-QJsonObject layerJson(const drawing::LayerProperties& properties);
 
 } // namespace layertool

@@ -8,8 +8,6 @@
 #include <memory>
 #include <vector>
 
-class QIODevice;
-
 namespace drawing {
 class Drawing;
 struct Progress;
@@ -47,12 +45,13 @@ public:
     virtual Expected<void> write(
         drawing::Drawing& drawing, const Job& job, drawing::Progress& progress, Result& result);
 
-    /// The rows of `result.data` as a table for text and CSV.
     virtual std::vector<Column> columns() const = 0;
-    virtual std::vector<QStringList> rows(const Result& result) const;
+    /// The rows of the answer as texts by the columns, for text and CSV.
+    std::vector<QStringList> rows(const Result& result) const;
+    /// The same as objects, `result.data` being made of `result.cells` where these hold the answer.
+    QJsonArray data(const Result& result) const;
     /// A printer of the verb's own for a format; null for those that every verb has.
-    virtual std::unique_ptr<Printer> printer(
-        const QString& format, const Printing& printing, QIODevice& out) const;
+    virtual std::unique_ptr<Printer> printer(const QString& format, const Printing& printing) const;
 };
 
 /// How a verb takes drawings.

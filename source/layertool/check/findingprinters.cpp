@@ -10,11 +10,13 @@
 #include <QUrl>
 #include <QXmlStreamWriter>
 
+#include <utility>
+
 namespace layertool {
 
 namespace {
 
-QString textOf(const QJsonObject& json, const char* key)
+QString valueOf(const QJsonObject& json, const char* key)
 {
     return json.value(QLatin1String(key)).toString();
 }
@@ -24,50 +26,56 @@ bool isKnown(const QJsonObject& finding)
     return finding.value(QLatin1String("known")).toBool();
 }
 
+QByteArray linesText(const QStringList& lines)
+{
+    return lines.isEmpty() ? QByteArray() : lines.join(QLatin1Char('\n')).toUtf8() + '\n';
+}
+
 /// A line a finding, as compilers have it.
 class LinePrinter : public Printer
 {
 public:
-    using Printer::Printer;
-
-    void add(const Result& result) override
+    QByteArray textOf(const Result& result) const override
     {
+        QStringList lines;
         if (result.status == Result::Status::Failed)
-            line(Texts::tr("%1: 失败: %2").arg(result.name, result.text));
+            lines += Texts::tr("%1: 失败: %2").arg(result.name, result.text);
         for (const QJsonValue& value : result.data) {
             const QJsonObject finding = value.toObject();
             if (!isKnown(finding))
-                line(QStringLiteral("%1:%2: %3: %4")
-                         .arg(result.name, textOf(finding, "layer"), textOf(finding, "rule"),
-                             textOf(finding, "text")));
+                lines += QStringLiteral("%1:%2: %3: %4")
+                             .arg(result.name, valueOf(finding, "layer"), valueOf(finding, "rule"),
+                                 valueOf(finding, "text"));
         }
+        return linesText(lines);
     }
-
-private:
-    void line(const QString& text) { m_out.write(text.toUtf8() + '\n'); }
 };
 
 /// A fingerprint a line, sorted, for --baseline.
 class BaselinePrinter : public Printer
 {
 public:
-    using Printer::Printer;
-
-    void add(const Result& result) override
+    QByteArray textOf(const Result& result) const override
     {
+        QStringList lines;
         for (const QJsonValue& value : result.data) {
             const QJsonObject finding = value.toObject();
-            m_lines += QStringLiteral("%1 %2 %3 %4")
-                           .arg(textOf(finding, "fingerprint"), textOf(finding, "rule"),
-                               result.name, textOf(finding, "layer"));
+            lines += QStringLiteral("%1 %2 %3 %4")
+                         .arg(valueOf(finding, "fingerprint"), valueOf(finding, "rule"),
+                             result.name, valueOf(finding, "layer"));
         }
+        return linesText(lines);
     }
-    void end() override
+    QByteArray added(const Result&, const QByteArray& text) override
+    {
+        m_lines += QString::fromUtf8(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        return {};
+    }
+    QByteArray end() override
     {
         m_lines.sort();
         m_lines.removeDuplicates();
-        for (const QString& line : m_lines)
-            m_out.write(line.toUtf8() + '\n');
+        return linesText(m_lines);
     }
 
 private:
@@ -78,11 +86,12 @@ private:
 class SarifPrinter : public Printer
 {
 public:
-    SarifPrinter(const Printing& printing, QIODevice& out) : Printer(out), m_printing(printing) {}
+    explicit SarifPrinter(const Printing& printing) : m_printing(printing) {}
 
-    void begin() override { m_begun = QDateTime::currentDateTimeUtc(); }
-    void add(const Result& result) override;
-    void end() override;
+    QByteArray begin() override;
+    QByteArray textOf(const Result& result) const override;
+    QByteArray added(const Result& result, const QByteArray& text) override;
+    QByteArray end() override;
 
 private:
     static QJsonObject message(const QString& text) { return {{QStringLiteral("text"), text}}; }
@@ -93,7 +102,7 @@ private:
 
     Printing m_printing;
     QDateTime m_begun;
-    QJsonArray m_results;
+    bool m_isFirst = true;
     QJsonArray m_faults;
 };
 
@@ -135,18 +144,18 @@ QJsonObject SarifPrinter::resultOf(const Result& result, const QJsonObject& find
     if (!region.isEmpty())
         physical.insert(QStringLiteral("region"), region);
     QJsonObject location{{QStringLiteral("physicalLocation"), physical}};
-    if (const QString layer = textOf(finding, "layer"); !layer.isEmpty())
+    if (const QString layer = valueOf(finding, "layer"); !layer.isEmpty())
         location.insert(QStringLiteral("logicalLocations"),
             QJsonArray{QJsonObject{{QStringLiteral("name"), layer},
                 {QStringLiteral("fullyQualifiedName"), QStringLiteral("LAYER/") + layer}}});
-    const QString fingerprint = textOf(finding, "fingerprint");
+    const QString fingerprint = valueOf(finding, "fingerprint");
     QJsonArray suppressions;
     if (isKnown(finding))
         suppressions.append(QJsonObject{{QStringLiteral("kind"), QStringLiteral("external")},
             {QStringLiteral("status"), QStringLiteral("accepted")}});
-    return {{QStringLiteral("ruleId"), textOf(finding, "rule")},
-        {QStringLiteral("level"), textOf(finding, "level")},
-        {QStringLiteral("message"), message(textOf(finding, "text"))},
+    return {{QStringLiteral("ruleId"), valueOf(finding, "rule")},
+        {QStringLiteral("level"), valueOf(finding, "level")},
+        {QStringLiteral("message"), message(valueOf(finding, "text"))},
         {QStringLiteral("locations"), QJsonArray{location}},
         {QStringLiteral("suppressions"), suppressions},
         {QStringLiteral("partialFingerprints"),
@@ -154,7 +163,23 @@ QJsonObject SarifPrinter::resultOf(const Result& result, const QJsonObject& find
                 {QStringLiteral("primaryLocationLineHash"), fingerprint}}}};
 }
 
-void SarifPrinter::add(const Result& result)
+/// The log's members as they follow on each other, results coming first, one by one.
+QByteArray SarifPrinter::begin()
+{
+    m_begun = QDateTime::currentDateTimeUtc();
+    return R"({"$schema":"https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/)"
+           R"(sarif-schema-2.1.0.json","version":"2.1.0","runs":[{"results":[)";
+}
+
+QByteArray SarifPrinter::textOf(const Result& result) const
+{
+    QByteArrayList texts;
+    for (const QJsonValue& finding : result.data)
+        texts += QJsonDocument(resultOf(result, finding.toObject())).toJson(QJsonDocument::Compact);
+    return texts.join(",\n");
+}
+
+QByteArray SarifPrinter::added(const Result& result, const QByteArray& text)
 {
     if (result.status == Result::Status::Failed)
         m_faults.append(QJsonObject{{QStringLiteral("level"), QStringLiteral("error")},
@@ -163,8 +188,9 @@ void SarifPrinter::add(const Result& result)
                 QJsonArray{QJsonObject{{QStringLiteral("physicalLocation"),
                     QJsonObject{
                         {QStringLiteral("artifactLocation"), artifactLocation(result)}}}}}}});
-    for (const QJsonValue& finding : result.data)
-        m_results.append(resultOf(result, finding.toObject()));
+    if (text.isEmpty())
+        return {};
+    return (std::exchange(m_isFirst, false) ? "\n" : ",\n") + text;
 }
 
 QJsonObject SarifPrinter::invocation() const
@@ -177,7 +203,7 @@ QJsonObject SarifPrinter::invocation() const
     return json;
 }
 
-void SarifPrinter::end()
+QByteArray SarifPrinter::end()
 {
     const QDir root(m_printing.arguments.value("root", QDir::currentPath()));
     const QString base = QString::fromLatin1(
@@ -191,15 +217,9 @@ void SarifPrinter::end()
         {QStringLiteral("columnKind"), QStringLiteral("utf16CodeUnits")},
         {QStringLiteral("invocations"), QJsonArray{invocation()}},
         {QStringLiteral("originalUriBaseIds"),
-            QJsonObject{{QStringLiteral("SRCROOT"), QJsonObject{{QStringLiteral("uri"), base}}}}},
-        {QStringLiteral("results"), m_results}};
-    const QJsonObject log{
-        {QStringLiteral("$schema"),
-            QStringLiteral("https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/"
-                           "sarif-schema-2.1.0.json")},
-        {QStringLiteral("version"), QStringLiteral("2.1.0")},
-        {QStringLiteral("runs"), QJsonArray{run}}};
-    m_out.write(QJsonDocument(log).toJson());
+            QJsonObject{{QStringLiteral("SRCROOT"), QJsonObject{{QStringLiteral("uri"), base}}}}}};
+    const QByteArray members = QJsonDocument(run).toJson(QJsonDocument::Compact);
+    return "\n]," + members.mid(1) + "]}\n";
 }
 
 /// What XML 1.0 cannot hold, which layer names may, is shown as the replacement character.
@@ -218,81 +238,74 @@ QString xmlText(QString text)
     return text;
 }
 
-/// A suite a drawing, a case a finding; a drawing without findings has one case that passes.
-class JUnitPrinter : public Printer
+/// A suite for a drawing.
+class SuiteWriter
 {
 public:
-    explicit JUnitPrinter(QIODevice& out) : Printer(out), m_xml(&out) {}
-
-    void begin() override
+    SuiteWriter(const Result& result, QByteArray& text) : m_result(result), m_xml(&text)
     {
         m_xml.setAutoFormatting(true);
-        m_xml.writeStartDocument();
-        m_xml.writeStartElement(QStringLiteral("testsuites"));
     }
-    void add(const Result& result) override;
-    void end() override
-    {
-        m_xml.writeEndElement();
-        m_xml.writeEndDocument();
-    }
+    void write();
 
 private:
-    void beginCase(const Result& result, const QString& name, const QJsonObject& finding);
-    void addFinding(const Result& result, const QJsonObject& finding);
+    void beginCase(const QString& name, const QJsonObject& finding);
+    void addFinding(const QJsonObject& finding);
 
+    const Result& m_result;
     QXmlStreamWriter m_xml;
 };
 
-void JUnitPrinter::beginCase(const Result& result, const QString& name, const QJsonObject& finding)
+void SuiteWriter::beginCase(const QString& name, const QJsonObject& finding)
 {
     m_xml.writeStartElement(QStringLiteral("testcase"));
     m_xml.writeAttribute(QStringLiteral("name"), xmlText(name));
-    m_xml.writeAttribute(QStringLiteral("classname"), xmlText(result.name));
-    m_xml.writeAttribute(QStringLiteral("file"), xmlText(result.name));
+    m_xml.writeAttribute(QStringLiteral("classname"), xmlText(m_result.name));
+    m_xml.writeAttribute(QStringLiteral("file"), xmlText(m_result.name));
     if (finding.contains(QLatin1String("line")))
         m_xml.writeAttribute(
             QStringLiteral("line"), QString::number(finding.value(QLatin1String("line")).toInt()));
 }
 
-void JUnitPrinter::addFinding(const Result& result, const QJsonObject& finding)
+void SuiteWriter::addFinding(const QJsonObject& finding)
 {
     QStringList name{
-        textOf(finding, "rule"), textOf(finding, "layer"), textOf(finding, "property")};
+        valueOf(finding, "rule"), valueOf(finding, "layer"), valueOf(finding, "property")};
     name.removeAll(QString());
-    beginCase(result, name.join(QLatin1Char(' ')), finding);
+    beginCase(name.join(QLatin1Char(' ')), finding);
     if (isKnown(finding)) {
         m_xml.writeEmptyElement(QStringLiteral("skipped"));
     } else {
         m_xml.writeStartElement(QStringLiteral("failure"));
-        m_xml.writeAttribute(QStringLiteral("message"), xmlText(textOf(finding, "text")));
-        m_xml.writeAttribute(QStringLiteral("type"), textOf(finding, "rule"));
+        m_xml.writeAttribute(QStringLiteral("message"), xmlText(valueOf(finding, "text")));
+        m_xml.writeAttribute(QStringLiteral("type"), valueOf(finding, "rule"));
         m_xml.writeEndElement();
     }
     m_xml.writeEndElement();
 }
 
-void JUnitPrinter::add(const Result& result)
+void SuiteWriter::write()
 {
     int known = 0;
-    for (const QJsonValue& finding : result.data)
+    for (const QJsonValue& finding : m_result.data)
         known += isKnown(finding.toObject()) ? 1 : 0;
-    const bool isBroken = result.status == Result::Status::Failed;
-    const bool isClean = result.data.isEmpty();
+    const bool isBroken = m_result.status == Result::Status::Failed;
+    const bool isClean = m_result.data.isEmpty();
     m_xml.writeStartElement(QStringLiteral("testsuite"));
-    m_xml.writeAttribute(QStringLiteral("name"), xmlText(result.name));
-    const std::pair<const char*, int> counts[] = {{"tests", isClean ? 1 : result.data.size()},
-        {"failures", result.data.size() - known}, {"errors", isBroken ? 1 : 0}, {"skipped", known}};
+    m_xml.writeAttribute(QStringLiteral("name"), xmlText(m_result.name));
+    const std::pair<const char*, int> counts[] = {{"tests", isClean ? 1 : m_result.data.size()},
+        {"failures", m_result.data.size() - known}, {"errors", isBroken ? 1 : 0},
+        {"skipped", known}};
     for (const auto& [key, count] : counts)
         m_xml.writeAttribute(QLatin1String(key), QString::number(count));
-    m_xml.writeAttribute(QStringLiteral("time"), QString::number(result.seconds, 'f', 3));
-    for (const QJsonValue& finding : result.data)
-        addFinding(result, finding.toObject());
+    m_xml.writeAttribute(QStringLiteral("time"), QString::number(m_result.seconds, 'f', 3));
+    for (const QJsonValue& finding : m_result.data)
+        addFinding(finding.toObject());
     if (isClean) {
-        beginCase(result, QStringLiteral("check"), {});
+        beginCase(QStringLiteral("check"), {});
         if (isBroken) {
             m_xml.writeStartElement(QStringLiteral("error"));
-            m_xml.writeAttribute(QStringLiteral("message"), xmlText(result.text));
+            m_xml.writeAttribute(QStringLiteral("message"), xmlText(m_result.text));
             m_xml.writeEndElement();
         }
         m_xml.writeEndElement();
@@ -300,19 +313,35 @@ void JUnitPrinter::add(const Result& result)
     m_xml.writeEndElement();
 }
 
+/// A suite a drawing, a case a finding; a drawing without findings has one case that passes.
+class JUnitPrinter : public Printer
+{
+public:
+    QByteArray begin() override
+    {
+        return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<testsuites>";
+    }
+    QByteArray textOf(const Result& result) const override
+    {
+        QByteArray text;
+        SuiteWriter(result, text).write();
+        return text;
+    }
+    QByteArray end() override { return "\n</testsuites>\n"; }
+};
+
 } // namespace
 
-std::unique_ptr<Printer> makeFindingPrinter(
-    const QString& format, const Printing& printing, QIODevice& out)
+std::unique_ptr<Printer> makeFindingPrinter(const QString& format, const Printing& printing)
 {
     if (format == QLatin1String("text"))
-        return std::make_unique<LinePrinter>(out);
+        return std::make_unique<LinePrinter>();
     if (format == QLatin1String("sarif"))
-        return std::make_unique<SarifPrinter>(printing, out);
+        return std::make_unique<SarifPrinter>(printing);
     if (format == QLatin1String("junit"))
-        return std::make_unique<JUnitPrinter>(out);
+        return std::make_unique<JUnitPrinter>();
     if (format == QLatin1String("baseline"))
-        return std::make_unique<BaselinePrinter>(out);
+        return std::make_unique<BaselinePrinter>();
     return nullptr;
 }
 

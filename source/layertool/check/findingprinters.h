@@ -6,7 +6,6 @@ namespace layertool {
 
 /// Printers for findings: "text" (drawing:layer: rule: sentence), "sarif" (SARIF 2.1.0, OASIS),
 /// "junit" (the XML that build servers read) and "baseline". Null for other formats.
-std::unique_ptr<Printer> makeFindingPrinter(
-    const QString& format, const Printing& printing, QIODevice& out);
+std::unique_ptr<Printer> makeFindingPrinter(const QString& format, const Printing& printing);
 
 } // namespace layertool

@@ -10,7 +10,7 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 
 namespace layertool {
 
@@ -18,13 +18,16 @@ struct Batch::Worker
 {
     QProcess process;
     QTimer clock;
-    std::optional<Job> job; ///< Under way.
-    bool isLate = false;    ///< Took longer than it may, and was ended for it.
+    std::optional<Job> job;       ///< Under way.
+    std::optional<Result> answer; ///< As far as it has come.
+    int printedSize = 0;          ///< Of what is printed of it, which follows.
+    bool isLate = false;          ///< Took longer than it may, and was ended for it.
     bool hasEnded = false;
 };
 
-Batch::Batch(const Arguments& arguments, const BatchLimits& limits)
+Batch::Batch(const Arguments& arguments, int drawings, const BatchLimits& limits)
     : m_arguments(arguments),
+      m_drawings(drawings),
       m_limits(limits)
 {
 }
@@ -61,7 +64,7 @@ void Batch::startWorker()
 void Batch::connectWorker(Worker& worker)
 {
     connect(&worker.process, &QProcess::started, this, [this, &worker] {
-        worker.process.write(lineOf(m_arguments.toJson()));
+        worker.process.write(workerOrder(m_arguments, m_drawings));
         feed(worker);
     });
     connect(&worker.process, &QProcess::readyReadStandardOutput, this,
@@ -92,16 +95,27 @@ void Batch::feed(Worker& worker)
         worker.clock.start(m_limits.seconds * 1000);
 }
 
+std::optional<Result> Batch::takeAnswer(Worker& worker)
+{
+    if (!worker.answer && worker.process.canReadLine()) {
+        const QJsonObject json = QJsonDocument::fromJson(worker.process.readLine()).object();
+        worker.answer = Result::fromJson(json);
+        worker.printedSize = json.value(QLatin1String(kPrintedSize)).toInt();
+    }
+    if (!worker.answer || worker.process.bytesAvailable() < worker.printedSize)
+        return std::nullopt;
+    worker.answer->printed = worker.process.read(worker.printedSize);
+    return std::exchange(worker.answer, std::nullopt);
+}
+
 void Batch::readAnswers(Worker& worker)
 {
-    while (worker.process.canReadLine()) {
-        const Result result =
-            Result::fromJson(QJsonDocument::fromJson(worker.process.readLine()).object());
-        if (!worker.job || result.number != worker.job->number)
+    while (const auto result = takeAnswer(worker)) {
+        if (!worker.job || result->number != worker.job->number)
             continue;
         worker.job.reset();
         worker.clock.stop();
-        settle(result);
+        settle(*result);
         feed(worker);
     }
 }

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace layertool {
 
@@ -28,7 +29,8 @@ class Batch : public QObject
 public:
     using Listener = std::function<void(const Result& result)>;
 
-    Batch(const Arguments& arguments, const BatchLimits& limits);
+    /// `drawings` is how many the run tells of, those included that need no work.
+    Batch(const Arguments& arguments, int drawings, const BatchLimits& limits);
     ~Batch() override;
 
     /// Runs the jobs, whose numbers are their places, and tells of each result as it comes. An
@@ -44,6 +46,8 @@ private:
     void connectWorker(Worker& worker);
     void feed(Worker& worker);
     void readAnswers(Worker& worker);
+    /// Nothing as long as an answer is not whole.
+    static std::optional<Result> takeAnswer(Worker& worker);
     void onFinished(Worker& worker);
     void settle(const Result& result);
     void failWaiting(const QString& cause);
@@ -51,6 +55,7 @@ private:
     bool isStopping() const;
 
     const Arguments& m_arguments;
+    int m_drawings = 0;
     BatchLimits m_limits;
     Listener m_listener;
     std::vector<std::unique_ptr<Worker>> m_workers;

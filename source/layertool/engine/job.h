@@ -6,7 +6,9 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
+#include <QVariant>
 
+#include <optional>
 #include <vector>
 
 namespace layertool {
@@ -62,6 +64,10 @@ struct Result
     QJsonObject counts;   ///< Numbers by their English words.
     QJsonArray notices;   ///< Objects with "id" and "text".
     QJsonArray data;      ///< The rows of the verb's answer, objects.
+    /// The same by the verb's columns, for verbs that answer so; kept by the worker to itself.
+    std::vector<std::vector<QVariant>> cells = {};
+    /// What is printed of it; nothing where that is still to be made. Not kept either.
+    std::optional<QByteArray> printed = {};
     double seconds = 0;
     FileStamp inputStamp; ///< Of the drawing as it was read; null where no proof was asked for.
     FileStamp otherStamp;

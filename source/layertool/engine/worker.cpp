@@ -2,6 +2,8 @@
 
 #include "console.h"
 #include "drawings.h"
+#include "filecause.h"
+#include "formats/printer.h"
 #include "interruption.h"
 #include "language.h"
 #include "texts.h"
@@ -16,7 +18,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <exception>
 #include <new>
 #include <sys/prctl.h>
@@ -27,6 +28,8 @@ namespace layertool {
 namespace {
 
 using drawing::Drawing;
+
+constexpr char kDrawings[] = "drawings";
 
 [[noreturn]] void endOutOfMemory()
 {
@@ -65,8 +68,7 @@ Expected<void> moveInto(const StagedFile& file)
             QFile::encodeName(file.from).constData(), QFile::encodeName(file.to).constData()) == 0)
         return {};
     return tl::make_unexpected(
-        Error{Texts::tr("无法写入文件“%1”：%2。")
-                  .arg(file.to, QString::fromLocal8Bit(std::strerror(errno)))});
+        Error{Texts::tr("无法写入文件“%1”：%2。").arg(file.to, systemCause(errno))});
 }
 
 Expected<void> keepBackup(const QString& path)
@@ -85,7 +87,12 @@ Expected<void> keepBackup(const QString& path)
 class Worker
 {
 public:
-    Worker(const Arguments& arguments, const VerbRow& row) : m_arguments(arguments), m_row(row) {}
+    Worker(const Arguments& arguments, const VerbRow& row, int drawings)
+        : m_arguments(arguments),
+          m_row(row),
+          m_drawings(drawings)
+    {
+    }
 
     Expected<void> prepare();
     Result run(const Job& job);
@@ -98,13 +105,17 @@ private:
 
     const Arguments& m_arguments;
     const VerbRow& m_row;
+    int m_drawings = 0;
     std::unique_ptr<Verb> m_verb;
+    std::unique_ptr<Printer> m_printer;
     drawing::Progress m_progress;
 };
 
 Expected<void> Worker::prepare()
 {
     m_verb = m_row.make();
+    m_printer =
+        makePrinter(formatOf(m_arguments, m_row), Printing{*m_verb, m_arguments, m_drawings});
     return m_verb->prepare(m_arguments);
 }
 
@@ -119,6 +130,9 @@ Result Worker::run(const Job& job)
     }
     answer(job, result);
     result.seconds = static_cast<double>(clock.elapsed()) / 1000;
+    result.printed = m_printer->textOf(result);
+    // Nobody reads the rows again but a journal.
+    result.data = job.isProven ? m_verb->data(result) : QJsonArray();
     return result;
 }
 
@@ -197,6 +211,13 @@ Expected<void> Worker::write(Drawing& drawing, const Job& job, Result& result)
 
 } // namespace
 
+QByteArray workerOrder(const Arguments& arguments, int drawings)
+{
+    QJsonObject order = arguments.toJson();
+    order.insert(QLatin1String(kDrawings), drawings);
+    return lineOf(order);
+}
+
 int runWorker()
 {
     // What a killed run was at must not come into its place behind the back of the next one.
@@ -205,14 +226,14 @@ int runWorker()
     QFile out;
     if (!in.open(stdin, QIODevice::ReadOnly) || !out.open(stdout, QIODevice::WriteOnly))
         return 1;
-    const Arguments arguments =
-        Arguments::fromJson(QJsonDocument::fromJson(in.readLine()).object());
+    const QJsonObject order = QJsonDocument::fromJson(in.readLine()).object();
+    const Arguments arguments = Arguments::fromJson(order);
     useLanguage(arguments.value("language"));
     limitMemory(arguments.number("memory-limit", 0));
     const VerbRow* const row = findVerb(arguments.verb);
     if (!row)
         return 1;
-    Worker worker(arguments, *row);
+    Worker worker(arguments, *row, order.value(QLatin1String(kDrawings)).toInt());
     if (const auto ready = worker.prepare(); !ready) {
         complainOf(ready.error().text);
         return 1;
@@ -222,7 +243,10 @@ int runWorker()
         const QByteArray line = in.readLine();
         if (line.isEmpty())
             break;
-        out.write(lineOf(worker.run(Job::fromLine(line)).toJson()));
+        const Result result = worker.run(Job::fromLine(line));
+        QJsonObject answer = result.toJson();
+        answer.insert(QLatin1String(kPrintedSize), result.printed->size());
+        out.write(lineOf(answer) + *result.printed);
         out.flush();
     }
     return 0;

@@ -1,5 +1,6 @@
 #include "csv.h"
 
+#include "filecause.h"
 #include "texts.h"
 
 #include <QFile>
@@ -154,7 +155,7 @@ Expected<std::vector<QStringList>> read(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return tl::make_unexpected(
-            Error{Texts::tr("无法读取表格“%1”：%2。").arg(path, file.errorString())});
+            Error{Texts::tr("无法读取表格“%1”：%2。").arg(path, causeOf(file))});
     return parse(file.readAll());
 }
 

@@ -6,6 +6,8 @@
 
 #include <QJsonDocument>
 
+#include <utility>
+
 namespace layertool {
 
 namespace {
@@ -22,22 +24,8 @@ QString textOf(const QJsonValue& value)
     }
 }
 
-/// For people: a table a drawing, as wide as its cells.
-class TextPrinter : public Printer
-{
-public:
-    TextPrinter(const Printing& printing, QIODevice& out) : Printer(out), m_printing(printing) {}
-
-    void add(const Result& result) override;
-
-private:
-    void addTable(const std::vector<QStringList>& rows);
-    void line(const QString& text) { m_out.write(text.toUtf8() + '\n'); }
-
-    Printing m_printing;
-};
-
-void TextPrinter::addTable(const std::vector<QStringList>& rows)
+/// Rows with blanks between their cells, as wide as these.
+QString tableText(const std::vector<QStringList>& rows)
 {
     std::vector<int> widths;
     for (const QStringList& row : rows) {
@@ -46,60 +34,82 @@ void TextPrinter::addTable(const std::vector<QStringList>& rows)
             widths[static_cast<size_t>(i)] =
                 std::max(widths[static_cast<size_t>(i)], widthOf(row.at(i)));
     }
+    QString text;
+    int blanks = 0; // In front of the next cell that is not empty: none end a line.
     for (const QStringList& row : rows) {
-        QString text;
-        for (int i = 0; i < row.size(); ++i)
-            text += i + 1 == row.size()
-                        ? row.at(i)
-                        : padded(row.at(i), widths[static_cast<size_t>(i)]) + QLatin1String("  ");
-        while (text.endsWith(QLatin1Char(' ')))
-            text.chop(1);
-        line(text);
+        for (int i = 0; i < row.size(); ++i) {
+            const QString& cell = row.at(i);
+            if (!cell.isEmpty()) {
+                text.resize(text.size() + blanks, QLatin1Char(' '));
+                text += cell;
+                blanks = 0;
+            }
+            blanks += widths[static_cast<size_t>(i)] - widthOf(cell) + 2;
+        }
+        text += QLatin1Char('\n');
+        blanks = 0;
     }
+    return text;
 }
 
-void TextPrinter::add(const Result& result)
+/// For people: a table a drawing, as wide as its cells.
+class TextPrinter : public Printer
+{
+public:
+    explicit TextPrinter(const Printing& printing) : m_printing(printing) {}
+
+    QByteArray textOf(const Result& result) const override;
+
+private:
+    Printing m_printing;
+};
+
+QByteArray TextPrinter::textOf(const Result& result) const
 {
     std::vector<QStringList> rows = m_printing.verb.rows(result);
     const bool isSilent = rows.empty() && result.notices.isEmpty();
     if (isSilent && result.status == Result::Status::Done)
-        return;
+        return {};
+    QString text;
     if (m_printing.drawings > 1)
-        line(result.name + QLatin1Char(':'));
+        text += result.name + QLatin1String(":\n");
     if (!result.text.isEmpty())
-        line(Texts::tr("失败：%1").arg(result.text));
+        text += Texts::tr("失败：%1").arg(result.text) + QLatin1Char('\n');
     if (!rows.empty()) {
         QStringList head;
         for (const Column& column : m_printing.verb.columns())
             head += Texts::tr(column.text);
         rows.insert(rows.begin(), head);
-        addTable(rows);
+        text += tableText(rows);
     }
     for (const QJsonValue& notice : result.notices)
-        line(Texts::tr("注意：%1").arg(notice.toObject().value(QLatin1String("text")).toString()));
+        text +=
+            Texts::tr("注意：%1").arg(notice.toObject().value(QLatin1String("text")).toString()) +
+            QLatin1Char('\n');
     if (m_printing.drawings > 1)
-        line({});
+        text += QLatin1Char('\n');
+    return text.toUtf8();
 }
 
 class CsvPrinter : public Printer
 {
 public:
-    CsvPrinter(const Printing& printing, QIODevice& out) : Printer(out), m_printing(printing) {}
+    explicit CsvPrinter(const Printing& printing) : m_printing(printing) {}
 
-    void begin() override
+    QByteArray begin() override
     {
-        // A pipe's reader may not know the mark; a spreadsheet that opens a file needs it.
-        if (m_printing.isFile)
-            m_out.write(csv::kByteOrderMark);
         QStringList head{QStringLiteral("drawing")};
         for (const Column& column : m_printing.verb.columns())
             head += QLatin1String(column.id);
-        m_out.write(csv::row(head));
+        // A pipe's reader may not know the mark; a spreadsheet that opens a file needs it.
+        return (m_printing.isFile ? csv::kByteOrderMark : "") + csv::row(head);
     }
-    void add(const Result& result) override
+    QByteArray textOf(const Result& result) const override
     {
+        QByteArray text;
         for (const QStringList& row : m_printing.verb.rows(result))
-            m_out.write(csv::row(QStringList{result.name} + row));
+            text += csv::row(QStringList{result.name} + row);
+        return text;
     }
 
 private:
@@ -109,23 +119,27 @@ private:
 class JsonPrinter : public Printer
 {
 public:
-    JsonPrinter(const Printing& printing, QIODevice& out) : Printer(out), m_printing(printing) {}
+    explicit JsonPrinter(const Printing& printing) : m_printing(printing) {}
 
-    void begin() override
+    QByteArray begin() override
     {
-        m_out.write("{\"version\":1,\"verb\":\"" + m_printing.arguments.verb.toUtf8() +
-                    "\",\"drawings\":[");
+        return "{\"version\":1,\"verb\":\"" + m_printing.arguments.verb.toUtf8() +
+               "\",\"drawings\":[";
     }
-    void add(const Result& result) override
+    QByteArray textOf(const Result& result) const override
     {
         QJsonObject json = result.toJson();
         for (const char* key : {"number", "inputStamp", "otherStamp", "written", "seconds"})
             json.remove(QLatin1String(key));
-        m_out.write(m_isFirst ? "\n" : ",\n");
-        m_out.write(QJsonDocument(json).toJson(QJsonDocument::Compact));
-        m_isFirst = false;
+        if (!result.cells.empty())
+            json.insert(QStringLiteral("data"), m_printing.verb.data(result));
+        return QJsonDocument(json).toJson(QJsonDocument::Compact);
     }
-    void end() override { m_out.write("\n]}\n"); }
+    QByteArray added(const Result&, const QByteArray& text) override
+    {
+        return (std::exchange(m_isFirst, false) ? "\n" : ",\n") + text;
+    }
+    QByteArray end() override { return "\n]}\n"; }
 
 private:
     Printing m_printing;
@@ -134,29 +148,55 @@ private:
 
 } // namespace
 
-std::unique_ptr<Printer> makePrinter(
-    const QString& format, const Printing& printing, QIODevice& out)
+QString formatOf(const Arguments& arguments, const VerbRow& verb)
 {
-    if (auto own = printing.verb.printer(format, printing, out))
+    return arguments.value("format", wordsOf(verb.formats).value(0));
+}
+
+std::unique_ptr<Printer> makePrinter(const QString& format, const Printing& printing)
+{
+    if (auto own = printing.verb.printer(format, printing))
         return own;
     if (format == QLatin1String("text"))
-        return std::make_unique<TextPrinter>(printing, out);
+        return std::make_unique<TextPrinter>(printing);
     if (format == QLatin1String("csv"))
-        return std::make_unique<CsvPrinter>(printing, out);
+        return std::make_unique<CsvPrinter>(printing);
     if (format == QLatin1String("json"))
-        return std::make_unique<JsonPrinter>(printing, out);
+        return std::make_unique<JsonPrinter>(printing);
     return nullptr;
 }
 
-std::unique_ptr<Printer> Verb::printer(const QString&, const Printing&, QIODevice&) const
+std::unique_ptr<Printer> Verb::printer(const QString&, const Printing&) const
 {
     return nullptr;
+}
+
+QJsonArray Verb::data(const Result& result) const
+{
+    if (result.cells.empty())
+        return result.data;
+    const std::vector<Column> all = columns();
+    QJsonArray data;
+    for (const std::vector<QVariant>& row : result.cells) {
+        QJsonObject json;
+        for (size_t i = 0; i < row.size(); ++i)
+            json.insert(QLatin1String(all[i].id), QJsonValue::fromVariant(row[i]));
+        data.append(json);
+    }
+    return data;
 }
 
 std::vector<QStringList> Verb::rows(const Result& result) const
 {
-    const std::vector<Column> all = columns();
     std::vector<QStringList> table;
+    for (const std::vector<QVariant>& cells : result.cells) {
+        QStringList row;
+        row.reserve(static_cast<int>(cells.size()));
+        for (const QVariant& cell : cells)
+            row += cell.toString();
+        table.push_back(row);
+    }
+    const std::vector<Column> all = columns();
     for (const QJsonValue& value : result.data) {
         const QJsonObject json = value.toObject();
         QStringList row;

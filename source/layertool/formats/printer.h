@@ -3,23 +3,21 @@
 #include "engine/job.h"
 #include "verb.h"
 
-#include <QIODevice>
-
 namespace layertool {
 
-/// Writes the results of a run in one format, in the order of the drawings, as they come.
+/// Makes the text of a run's results in one format. The text of one drawing needs no other, so the
+/// process that worked on it makes it; they are put together, in the drawings' order, by another.
 class Printer
 {
 public:
-    explicit Printer(QIODevice& out) : m_out(out) {}
     virtual ~Printer() = default;
 
-    virtual void begin() {}
-    virtual void add(const Result& result) = 0;
-    virtual void end() {}
-
-protected:
-    QIODevice& m_out;
+    virtual QByteArray begin() { return {}; }
+    /// The text for a drawing. Does not change the printer.
+    virtual QByteArray textOf(const Result& result) const = 0;
+    /// What is to be written of a drawing, `text` being what `textOf` made of it anywhere.
+    virtual QByteArray added(const Result&, const QByteArray& text) { return text; }
+    virtual QByteArray end() { return {}; }
 };
 
 /// What a printer is made for.
@@ -31,9 +29,11 @@ struct Printing
     bool isFile = false; ///< The output goes to a file of its own.
 };
 
+/// The format asked for: the verb's first one where none was.
+QString formatOf(const Arguments& arguments, const VerbRow& verb);
+
 /// Text for people, CSV or JSON by the verb's columns; SARIF and JUnit of findings. Null for a
 /// format nobody prints.
-std::unique_ptr<Printer> makePrinter(
-    const QString& format, const Printing& printing, QIODevice& out);
+std::unique_ptr<Printer> makePrinter(const QString& format, const Printing& printing);
 
 } // namespace layertool

@@ -1,5 +1,6 @@
 #include "verbs.h"
 
+#include "layercontent.h"
 #include "layerfields.h"
 
 #include "drawing.h"
@@ -8,37 +9,7 @@ namespace layertool {
 
 namespace {
 
-/// Where the entities of a layer are.
-struct Content
-{
-    int model = 0;
-    int layouts = 0;
-    int blocks = 0;
-    QSet<int> inBlocks; ///< Block definitions, as indices.
-};
-
-QHash<int, Content> contentByLayer(const drawing::Drawing& drawing)
-{
-    QHash<int, Content> all;
-    for (const drawing::Entity& entity : drawing.entities()) {
-        if (entity.removed || entity.subEntity || entity.layer == drawing::LayerId::None)
-            continue;
-        Content& content = all[static_cast<int>(entity.layer)];
-        const bool inBlock =
-            entity.block >= 0 && !drawing.blocks()[static_cast<size_t>(entity.block)].layout;
-        if (inBlock) {
-            ++content.blocks;
-            content.inBlocks.insert(entity.block);
-        } else if (entity.paperSpace || entity.block >= 0) {
-            ++content.layouts;
-        } else {
-            ++content.model;
-        }
-    }
-    return all;
-}
-
-QString blockNames(const drawing::Drawing& drawing, const Content& content)
+QString blockNames(const drawing::Drawing& drawing, const LayerContent& content)
 {
     QStringList names;
     for (const int block : content.inBlocks)
@@ -59,26 +30,25 @@ public:
 std::vector<Column> ListVerb::columns() const
 {
     std::vector<Column> all = layerColumns();
-    all.push_back({"current", QT_TRANSLATE_NOOP("layertool", "当前")});
-    all.push_back({"model", QT_TRANSLATE_NOOP("layertool", "模型")});
-    all.push_back({"layouts", QT_TRANSLATE_NOOP("layertool", "布局")});
-    all.push_back({"blocks", QT_TRANSLATE_NOOP("layertool", "块中")});
-    all.push_back({"used-in-blocks", QT_TRANSLATE_NOOP("layertool", "所在的块")});
+    const std::vector<Column> content = contentColumns();
+    all.insert(all.end(), content.begin(), content.end());
     return all;
 }
 
 Expected<void> ListVerb::run(drawing::Drawing& drawing, const Job&, Result& result)
 {
-    const auto contents = contentByLayer(drawing);
+    const LayerContents contents(drawing);
+    const size_t columnCount = columns().size();
+    result.cells.reserve(drawing.layers().size());
     for (const drawing::Layer& layer : drawing.layers()) {
-        const Content content = contents.value(static_cast<int>(layer.id));
-        QJsonObject row = layerJson(layer.properties);
-        row.insert(QStringLiteral("current"), layer.id == drawing.currentLayer());
-        row.insert(QStringLiteral("model"), content.model);
-        row.insert(QStringLiteral("layouts"), content.layouts);
-        row.insert(QStringLiteral("blocks"), content.blocks);
-        row.insert(QStringLiteral("used-in-blocks"), blockNames(drawing, content));
-        result.data.append(row);
+        const LayerContent& content = contents.of(layer.id);
+        std::vector<QVariant> row;
+        row.reserve(columnCount);
+        for (const LayerField& field : layerFields())
+            row.push_back(field.get(layer.properties));
+        row.insert(row.end(), {layer.id == drawing.currentLayer(), content.model, content.layouts,
+                                  content.blocks, blockNames(drawing, content)});
+        result.cells.push_back(std::move(row));
     }
     result.counts.insert(QStringLiteral("layers"), static_cast<int>(drawing.layers().size()));
     return {};
