@@ -7,6 +7,8 @@
 // of the command line apart.
 #include <CLI/CLI.hpp>
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace layertool {
@@ -89,11 +91,10 @@ VerbLine::VerbLine(const VerbRow& row) : m_row(row), m_options(optionsOf(row))
 QString checkValue(const OptionRow& row, const QString& value)
 {
     const QString option = QStringLiteral("--") + QLatin1String(row.name);
-    if (row.kind == OptionKind::Number) {
+    if (row.kind == OptionKind::Number || row.kind == OptionKind::Count) {
         bool isNumber = false;
         const int number = value.toInt(&isNumber);
-        const bool isJobs = qstrcmp(row.name, "jobs") == 0;
-        if (!isNumber || number < (isJobs ? 1 : 0))
+        if (!isNumber || number < (row.kind == OptionKind::Count ? 1 : 0))
             return Texts::tr("%1 应为正整数，不是“%2”。").arg(option, value);
     }
     if (row.kind == OptionKind::Choice && !wordsOf(row.choices).contains(value))
@@ -135,12 +136,17 @@ tl::expected<Arguments, EarlyExit> VerbLine::arguments() const
     for (const std::string& path : m_paths)
         arguments.paths += QString::fromLocal8Bit(path.c_str());
     const QStringList actions = wordsOf(m_row.actions);
-    if (actions.isEmpty())
-        return arguments;
-    if (arguments.paths.isEmpty() || !actions.contains(arguments.paths.front()))
-        return tl::make_unexpected(misuse(
-            Texts::tr("%1 之后应为 %2 之一。").arg(arguments.verb, actions.join(Texts::tr("、")))));
-    arguments.action = arguments.paths.takeFirst();
+    if (!actions.isEmpty()) {
+        if (!actions.contains(arguments.paths.value(0)))
+            return tl::make_unexpected(
+                misuse(Texts::tr("%1 之后应为 %2 之一。")
+                           .arg(arguments.verb, actions.join(Texts::tr("、")))));
+        arguments.action = arguments.paths.takeFirst();
+    }
+    const bool takesMore = !m_row.runAlone || *m_row.operands;
+    if (!takesMore && !arguments.paths.isEmpty())
+        return tl::make_unexpected(
+            misuse(Texts::tr("“%1”是多余的。").arg(arguments.paths.front())));
     return arguments;
 }
 
@@ -170,9 +176,11 @@ tl::expected<void, EarlyExit> VerbLine::parse(const QStringList& words)
             misuse(Texts::tr("%1 没有名为“%2”的选项。")
                        .arg(QLatin1String(m_row.name), firstUnknown(words))));
     } catch (const CLI::ParseError& error) {
+        // It tells in English, but it names the option.
+        static const QRegularExpression option(QStringLiteral("--[a-z-]+"));
         return tl::make_unexpected(
-            misuse(Texts::tr("%1 的选项有误：%2。")
-                       .arg(QLatin1String(m_row.name), QString::fromLocal8Bit(error.what()))));
+            misuse(Texts::tr("选项缺少它的值，或给了不该有的值：%1。")
+                       .arg(option.match(QString::fromLocal8Bit(error.what())).captured())));
     }
 }
 
@@ -181,15 +189,13 @@ tl::expected<void, EarlyExit> VerbLine::parse(const QStringList& words)
 std::vector<OptionRow> optionsOf(const VerbRow& verb)
 {
     std::vector<OptionRow> all(verb.options.begin(), verb.options.end());
-    if (verb.runAlone)
-        return all;
     if (verb.edits)
-        all.insert(all.end(), editingOptions().begin(), editingOptions().end());
-    for (OptionRow row : commonOptions()) {
-        if (qstrcmp(row.name, "format") == 0)
-            row.choices = verb.formats;
-        all.push_back(row);
-    }
+        all = joined(OptionRows::of(all), editingOptions());
+    if (!verb.runAlone)
+        all = joined(OptionRows::of(all), drawingOptions());
+    if (*verb.formats)
+        all.push_back(formatOption(verb.formats));
+    all.push_back(languageOption());
     return all;
 }
 

@@ -16,7 +16,7 @@ struct EarlyExit
 /// the word, what they do not know.
 tl::expected<Arguments, EarlyExit> readCommandLine(const QStringList& arguments);
 
-/// The options a verb takes, with those all verbs have; the choices of --format are the verb's.
+/// The options a verb takes, with those it shares with others.
 std::vector<OptionRow> optionsOf(const VerbRow& verb);
 
 } // namespace layertool

@@ -6,19 +6,17 @@ namespace layertool {
 
 namespace {
 
-constexpr OptionRow kCommon[] = {
-    {"list", OptionKind::Text,
+constexpr OptionRow kDrawing[] = {
+    {"list", OptionKind::Path,
         QT_TRANSLATE_NOOP("layertool",
             "从文件读入图形的路径，每行一个；空行和以 # 开头的行不算，“-”为标准输入。"),
         "", true, false},
     {"root", OptionKind::Folder,
         QT_TRANSLATE_NOOP("layertool", "输出的相对路径从哪个文件夹算起；不给时为当前文件夹。"), "",
         false, false},
-    {"format", OptionKind::Choice, QT_TRANSLATE_NOOP("layertool", "结果的格式；不给时为 text。"),
-        "", false, false},
-    {"output", OptionKind::Text,
+    {"output", OptionKind::Path,
         QT_TRANSLATE_NOOP("layertool", "结果写入哪个文件；不给时写到标准输出。"), "", false, false},
-    {"report", OptionKind::Text,
+    {"report", OptionKind::Path,
         QT_TRANSLATE_NOOP("layertool", "把每个图形的结果写成一行 CSV 的报告文件。"), "", false,
         false},
     {"out", OptionKind::Folder,
@@ -30,7 +28,7 @@ constexpr OptionRow kCommon[] = {
     {"wait", OptionKind::Flag,
         QT_TRANSLATE_NOOP("layertool", "输出文件夹正被另一次运行使用时等它结束。"), "", false,
         false},
-    {"jobs", OptionKind::Number,
+    {"jobs", OptionKind::Count,
         QT_TRANSLATE_NOOP("layertool", "同时运行的进程数；不给时为处理器的个数。"), "", false,
         false},
     {"shard", OptionKind::Text,
@@ -51,8 +49,6 @@ constexpr OptionRow kCommon[] = {
         QT_TRANSLATE_NOOP("layertool", "图形文字的代码页，例如 GBK；不给时依图形所述。")},
     {"quiet", OptionKind::Flag, QT_TRANSLATE_NOOP("layertool", "不显示进度和总计。"), "", false,
         false},
-    {"language", OptionKind::Choice,
-        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), "zh en", false, false},
 };
 
 constexpr OptionRow kEditing[] = {
@@ -82,10 +78,12 @@ QString valueText(const OptionRow& row)
     case OptionKind::Text:
         return Texts::tr("文字").toUpper();
     case OptionKind::File:
+    case OptionKind::Path:
         return Texts::tr("文件").toUpper();
     case OptionKind::Folder:
         return Texts::tr("文件夹").toUpper();
     case OptionKind::Number:
+    case OptionKind::Count:
         return Texts::tr("数").toUpper();
     case OptionKind::Choice:
         return wordsOf(row.choices).join(QLatin1Char('|'));
@@ -100,14 +98,32 @@ std::vector<OptionRow> joined(OptionRows first, OptionRows second)
     return all;
 }
 
-OptionRows commonOptions()
+OptionRows drawingOptions()
 {
-    return OptionRows::of(kCommon);
+    return OptionRows::of(kDrawing);
 }
 
 OptionRows editingOptions()
 {
     return OptionRows::of(kEditing);
+}
+
+OptionRow formatOption(const char* formats)
+{
+    return {"format", OptionKind::Choice,
+        QT_TRANSLATE_NOOP("layertool", "结果的格式；不给时为 text。"), formats, false, false};
+}
+
+OptionRow languageOption()
+{
+    return {"language", OptionKind::Choice,
+        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), "zh en", false, false};
+}
+
+OptionRow mergeOption()
+{
+    return {"merge", OptionKind::Flag,
+        QT_TRANSLATE_NOOP("layertool", "新名已被占用时合并到那个图层；不给时拒绝。")};
 }
 
 } // namespace layertool

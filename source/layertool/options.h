@@ -11,8 +11,10 @@ enum class OptionKind : quint8 {
     Flag,
     Text,
     File,   ///< A file that goes into the result: its contents count when work is to be skipped.
+    Path,   ///< Another file's path.
     Folder, ///< A folder's path.
     Number, ///< A whole number, 0 or more.
+    Count,  ///< A whole number, 1 or more.
     Choice  ///< One of the words in `choices`.
 };
 
@@ -55,9 +57,15 @@ QString valueText(const OptionRow& row);
 /// Two parts of a table as one.
 std::vector<OptionRow> joined(OptionRows first, OptionRows second);
 
-/// The options of every verb.
-OptionRows commonOptions();
+/// The options of every verb that works on drawings.
+OptionRows drawingOptions();
 /// Those of the verbs that change drawings, besides.
 OptionRows editingOptions();
+/// Of verbs with formats, whose words are the choices.
+OptionRow formatOption(const char* formats);
+/// Of all verbs.
+OptionRow languageOption();
+/// Of verbs that rename.
+OptionRow mergeOption();
 
 } // namespace layertool

@@ -13,6 +13,6 @@ namespace layertool {
 /// the options that matter and the contents of the files they name. Refuses a file that cannot be
 /// read.
 drawing::Expected<QByteArray> runFingerprint(
-    const Arguments& arguments, const std::vector<OptionRows>& options);
+    const Arguments& arguments, const std::vector<OptionRow>& options);
 
 } // namespace layertool

@@ -10,11 +10,6 @@ namespace layertool {
 
 namespace {
 
-constexpr OptionRow kOptions[] = {
-    {"language", OptionKind::Choice,
-        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), "zh en"},
-};
-
 /// A text as roff takes it: nothing in it is a request, dashes are those one can copy, and lines
 /// may end between Chinese characters, where roff would not end them.
 QString roff(const QString& text)
@@ -48,17 +43,20 @@ QString paragraph(const QString& text)
     return QStringLiteral(".PP\n%1\n").arg(roff(text));
 }
 
+QString optionEntry(const OptionRow& row)
+{
+    QString text =
+        QStringLiteral(".TP\n\\fB%1\\fR").arg(roff(QLatin1String("--") + QLatin1String(row.name)));
+    if (const QString value = valueText(row); !value.isEmpty())
+        text += QStringLiteral(" \\fI%1\\fR").arg(roff(value));
+    return text + QLatin1Char('\n') + roff(Texts::tr(row.text)) + QLatin1Char('\n');
+}
+
 QString optionEntries(OptionRows rows)
 {
     QString text;
-    for (const OptionRow& row : rows) {
-        const QString value = valueText(row);
-        text += QStringLiteral(".TP\n\\fB%1\\fR")
-                    .arg(roff(QLatin1String("--") + QLatin1String(row.name)));
-        if (!value.isEmpty())
-            text += QStringLiteral(" \\fI%1\\fR").arg(roff(value));
-        text += QLatin1Char('\n') + roff(Texts::tr(row.text)) + QLatin1Char('\n');
-    }
+    for (const OptionRow& row : rows)
+        text += optionEntry(row);
     return text;
 }
 
@@ -66,7 +64,7 @@ QString verbEntry(const VerbRow& verb)
 {
     QString text = QStringLiteral(".SS %1\n").arg(roff(QLatin1String(verb.name)));
     text += roff(usageText(verb)) + QLatin1Char('\n') + paragraph(Texts::tr(verb.text));
-    if (!verb.runAlone)
+    if (*verb.formats)
         text += paragraph(Texts::tr("格式：%1。").arg(wordsOf(verb.formats).join(Texts::tr("、"))));
     return text + optionEntries(verb.options);
 }
@@ -84,8 +82,9 @@ int runMan(const Arguments&)
         text += verbEntry(verb);
     text += QStringLiteral(".SS %1\n").arg(QLatin1String(kHelpRow.name)) +
             roff(Texts::tr(kHelpRow.text)) + QLatin1Char('\n');
-    text += section(Texts::tr("处理图形的命令都有的选项")) + optionEntries(commonOptions());
+    text += section(Texts::tr("处理图形的命令都有的选项")) + optionEntries(drawingOptions());
     text += section(Texts::tr("改动图形的命令都有的选项")) + optionEntries(editingOptions());
+    text += section(Texts::tr("所有命令都有的选项")) + optionEntry(languageOption());
     text += section(Texts::tr("返回值")) + roff(exitCodesText()) + QLatin1Char('\n');
     say(text);
     return kFine;
@@ -95,8 +94,8 @@ int runMan(const Arguments&)
 
 VerbRow manVerb()
 {
-    VerbRow row{"man", QT_TRANSLATE_NOOP("layertool", "输出手册页 layertool(1)（roff）。"),
-        OptionRows::of(kOptions), "", false, nullptr};
+    VerbRow row{"man", QT_TRANSLATE_NOOP("layertool", "输出手册页 layertool(1)（roff）。"), {}, "",
+        false, nullptr};
     row.runAlone = runMan;
     return row;
 }

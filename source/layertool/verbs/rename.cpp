@@ -13,7 +13,7 @@ namespace {
 using drawing::Drawing;
 using drawing::Layer;
 
-constexpr OptionRow kOptions[] = {
+const OptionRow kOptions[] = {
     {"from", OptionKind::Text,
         QT_TRANSLATE_NOOP("layertool", "一个图层的旧名；与 --to 一起给出。")},
     {"to", OptionKind::Text, QT_TRANSLATE_NOOP("layertool", "它的新名。")},
@@ -24,8 +24,7 @@ constexpr OptionRow kOptions[] = {
             "layertool", "与整个旧名相配的正则表达式，不分大小写；与 --replace 一起给出。")},
     {"replace", OptionKind::Text,
         QT_TRANSLATE_NOOP("layertool", "新名；\\1、\\2 等是正则表达式中括号所配的文字。")},
-    {"merge", OptionKind::Flag,
-        QT_TRANSLATE_NOOP("layertool", "新名已被占用时合并到那个图层；不给时拒绝。")},
+    mergeOption(),
 };
 
 bool isHead(const QStringList& row)

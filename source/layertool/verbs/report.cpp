@@ -9,11 +9,9 @@ namespace layertool {
 namespace {
 
 constexpr OptionRow kOptions[] = {
-    {"output", OptionKind::Text,
+    {"output", OptionKind::Path,
         QT_TRANSLATE_NOOP("layertool", "报告写入哪个文件；不给时写到标准输出。")},
     {"quiet", OptionKind::Flag, QT_TRANSLATE_NOOP("layertool", "不显示总计。")},
-    {"language", OptionKind::Choice,
-        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), "zh en"},
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "verbs.h"
 
+#include "drawingpart.h"
 #include "drawings.h"
 #include "texts.h"
 
@@ -13,7 +14,6 @@ namespace layertool {
 namespace {
 
 using drawing::Drawing;
-using drawing::LayerId;
 
 constexpr OptionRow kOptions[] = {
     {"by", OptionKind::Choice,
@@ -23,26 +23,6 @@ constexpr OptionRow kOptions[] = {
     {"separator", OptionKind::Text,
         QT_TRANSLATE_NOOP("layertool", "图层名各段之间的分隔符；不给时为“-”。")},
 };
-
-constexpr int kMostFileNameBytes = 200; ///< Leaves room for a suffix and what temporary files add.
-
-/// A file name for a layer's: in old files a layer may be called "..", or hold a slash.
-QString safeFileName(const QString& layer)
-{
-    QString name;
-    for (const QChar c : layer) {
-        const bool isUnsafe =
-            c.unicode() < 32 || QStringLiteral("/\\:*?\"<>|").contains(c) || c.isSurrogate();
-        name += isUnsafe ? QLatin1Char('_') : c;
-    }
-    while (name.startsWith(QLatin1Char('.')))
-        name[0] = QLatin1Char('_');
-    while (name.endsWith(QLatin1Char('.')) || name.endsWith(QLatin1Char(' ')))
-        name.chop(1);
-    while (name.toUtf8().size() > kMostFileNameBytes)
-        name.chop(1);
-    return name.isEmpty() ? QStringLiteral("_") : name;
-}
 
 /// Makes of each drawing one for each layer, or for each first field of the layers' names.
 class SplitVerb : public Verb
@@ -63,7 +43,6 @@ private:
     };
 
     QString groupOf(const QString& layer) const;
-    Expected<void> keepOnly(Drawing& drawing, const QString& part) const;
 
     Arguments m_arguments;
     bool m_byField = false;
@@ -95,13 +74,6 @@ QString SplitVerb::groupOf(const QString& layer) const
     return m_byField ? layer.section(m_separator, 0, 0) : layer;
 }
 
-/// Entities in model space and layouts: what blocks hold goes where they are placed.
-bool isPlaced(const Drawing& drawing, const drawing::Entity& entity)
-{
-    return !entity.removed && !entity.subEntity &&
-           (entity.block < 0 || drawing.blocks()[static_cast<size_t>(entity.block)].layout);
-}
-
 Expected<void> SplitVerb::run(Drawing& drawing, const Job& job, Result& result)
 {
     std::map<QString, int> counts; // By the group's name as first seen.
@@ -131,47 +103,6 @@ Expected<void> SplitVerb::run(Drawing& drawing, const Job& job, Result& result)
     return {};
 }
 
-/// Leaves, of what is placed, only what is on the part's layers, and of the layers those still
-/// needed. What goes is gathered on a layer of its own, as layers are what can be deleted whole.
-Expected<void> SplitVerb::keepOnly(Drawing& drawing, const QString& part) const
-{
-    std::vector<int> going;
-    LayerId kept = LayerId::None;
-    for (size_t i = 0; i < drawing.entities().size(); ++i) {
-        const drawing::Entity& entity = drawing.entities()[i];
-        const drawing::Layer* const layer = drawing.layer(entity.layer);
-        if (!layer || !isPlaced(drawing, entity))
-            continue;
-        if (groupOf(layer->properties.name).compare(part, Qt::CaseInsensitive) == 0)
-            kept = entity.layer;
-        else
-            going.push_back(static_cast<int>(i));
-    }
-    drawing::LayerProperties properties;
-    properties.name = QStringLiteral("SPLIT$OUT");
-    while (drawing.findLayer(properties.name))
-        properties.name += QLatin1Char('$');
-    const auto bin = drawing.addLayer(properties);
-    if (!bin)
-        return tl::make_unexpected(bin.error());
-    if (const auto moved = drawing.moveEntities(going, *bin); !moved)
-        return tl::make_unexpected(moved.error());
-    if (const auto done = drawing.deleteLayers({*bin}); !done)
-        return done;
-    if (!drawing.layer(kept)->properties.frozen && !drawing.layer(kept)->dependsOnReference) {
-        if (const auto done = drawing.setCurrentLayer(kept); !done)
-            return done;
-    }
-    std::vector<LayerId> unused;
-    for (const drawing::Layer& layer : drawing.layers()) {
-        if (!layer.used() && layer.id != drawing.currentLayer() && !layer.dependsOnReference &&
-            layer.properties.name != QLatin1String("0") &&
-            !drawing::isNeverPlotted(layer.properties.name))
-            unused.push_back(layer.id);
-    }
-    return unused.empty() ? Expected<void>() : drawing.deleteLayers(unused);
-}
-
 /// Each part is made from the original anew, so that none carries traces of another.
 Expected<void> SplitVerb::write(
     Drawing&, const Job& job, drawing::Progress& progress, Result& result)
@@ -185,7 +116,9 @@ Expected<void> SplitVerb::write(
             return tl::make_unexpected(opened.error());
         Drawing& drawing = **opened;
         drawing.beginStep(m_parts[i].name);
-        const auto kept = keepOnly(drawing, m_parts[i].name);
+        const auto kept = keepOnly(drawing, [&](const QString& layer) {
+            return groupOf(layer).compare(m_parts[i].name, Qt::CaseInsensitive) == 0;
+        });
         if (!kept) {
             drawing.rollbackStep();
             return kept;

@@ -1,0 +1,22 @@
+#include "words.h"
+
+#include "check/rules.h"
+
+namespace layertool {
+
+QStringList operandWords(const VerbRow& verb)
+{
+    if (qstrcmp(verb.name, "explain") != 0)
+        return wordsOf(verb.actions);
+    QStringList ids;
+    for (const Rule& rule : rules())
+        ids += QLatin1String(rule.id);
+    return ids;
+}
+
+QString dashed(const OptionRow& row)
+{
+    return QLatin1String("--") + QLatin1String(row.name);
+}
+
+} // namespace layertool
