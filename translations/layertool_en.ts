@@ -288,10 +288,6 @@ See layertool help.
         <translation>%1 has no option named “%2”.</translation>
     </message>
     <message>
-        <source>%1 的选项有误：%2。</source>
-        <translation>The options of %1 are wrong: %2.</translation>
-    </message>
-    <message>
         <source>没有名为“%1”的命令。</source>
         <translation>There is no command named “%1”.</translation>
     </message>
@@ -430,10 +426,6 @@ See layertool help.
     <message>
         <source>--backup 只与 --in-place 一起使用。</source>
         <translation>--backup goes with --in-place only.</translation>
-    </message>
-    <message>
-        <source>无法新建输出文件夹“%1”。</source>
-        <translation>Cannot make the output folder “%1”.</translation>
     </message>
     <message>
         <source>图形“%1”失败：%2</source>
@@ -1178,6 +1170,58 @@ See layertool help.
     <message>
         <source>表格中没有这个图形的行。</source>
         <translation>The table has no rows for this drawing.</translation>
+    </message>
+    <message>
+        <source>选项缺少它的值，或给了不该有的值：%1。</source>
+        <translation>An option lacks its value, or has one that it must not have: %1.</translation>
+    </message>
+    <message>
+        <source>图形的路径是空的。</source>
+        <translation>The path of a drawing is empty.</translation>
+    </message>
+    <message>
+        <source>没有名为“%1”的代码页。</source>
+        <translation>There is no code page “%1”.</translation>
+    </message>
+    <message>
+        <source>无法新建输出文件夹“%1”：%2。</source>
+        <translation>Cannot make the output folder “%1”: %2.</translation>
+    </message>
+    <message>
+        <source>文件或文件夹不存在</source>
+        <translation>there is no such file or folder</translation>
+    </message>
+    <message>
+        <source>没有权限</source>
+        <translation>permission denied</translation>
+    </message>
+    <message>
+        <source>那里只能读</source>
+        <translation>that place can only be read</translation>
+    </message>
+    <message>
+        <source>它是文件夹</source>
+        <translation>it is a folder</translation>
+    </message>
+    <message>
+        <source>路径中有一段不是文件夹</source>
+        <translation>a part of the path is no folder</translation>
+    </message>
+    <message>
+        <source>那里有一个同名的文件</source>
+        <translation>there is a file of that name</translation>
+    </message>
+    <message>
+        <source>磁盘已满</source>
+        <translation>the disk is full</translation>
+    </message>
+    <message>
+        <source>名称太长</source>
+        <translation>the name is too long</translation>
+    </message>
+    <message>
+        <source>所有命令都有的选项</source>
+        <translation>Options of all commands</translation>
     </message>
 </context>
 </TS>

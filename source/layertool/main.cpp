@@ -25,6 +25,13 @@ int help(const QString& verb)
     return kFine;
 }
 
+/// A command line without a verb shows the help, but to a script it must not pass for work done.
+int refuseNothing()
+{
+    complain(helpText().trimmed());
+    return kMisuse;
+}
+
 /// "--language" counts for help and refusals too, so it is looked for before all else.
 QString languageOf(const QStringList& words)
 {
@@ -61,7 +68,9 @@ QStringList verbFirst(QStringList words)
 int run(const QStringList& words)
 {
     const QString first = words.value(1);
-    if (first.isEmpty() || first == QLatin1String("--help") || first == QLatin1String("-h") ||
+    if (first.isEmpty())
+        return refuseNothing();
+    if (first == QLatin1String("--help") || first == QLatin1String("-h") ||
         first == QLatin1String("help"))
         return help(helpTopic(words));
     if (first == QLatin1String("--version") || first == QLatin1String("-v")) {

@@ -95,8 +95,12 @@ QMap<QString, QByteArray> TestEngine::whole() const
 void TestEngine::misuse_data()
 {
     const Rows<QByteArray, int, QByteArray> row("line", "code", "said");
+    row("nothing at all", "", 2, "translate");
     row("no such verb", "chek plan.dxf", 2, "check");
     row("no such option", "list --colour plan.dxf", 2, "--colour");
+    row("no value", "list plan.dxf --format", 2, "--format");
+    row("words behind a verb that takes none", "man pages", 2, "pages");
+    row("no such code page", "list --encoding KLINGON plan.dxf", 2, "KLINGON");
     row("nowhere to write", "rename --table names.csv plan.dxf", 2, "--out");
     row("two places", "rename --table names.csv --out out --in-place plan.dxf", 2, "--in-place");
     row("a backup of nothing", "rename --table names.csv --backup --out out plan.dxf", 2,
@@ -106,6 +110,7 @@ void TestEngine::misuse_data()
     row("no jobs", "list --jobs 0 plan.dxf", 2, "“0”");
     row("a shard out of range", "list --shard 3/2 plan.dxf", 2, "“3/2”");
     row("no such list", "list --list lost", 2, "lost");
+    row("a folder for a table", "set --table out --dry-run plan.dxf", 2, "文件夹");
     row("no such table", "rename --table lost.csv --dry-run plan.dxf", 2, "lost.csv");
     row("a format of others", "list --format sarif plan.dxf", 2, "sarif");
     row("over its original", "rename --table names.csv --out . plan.dxf", 2, "会覆盖一个原文件");
@@ -228,8 +233,12 @@ void TestEngine::verbsApart()
     m->write("rules.json", R"({"forbidden": ["A-WALL"], "extends": "base.json"})");
     m->write("base.json", "{}");
     const char* const check = "check --standard rules.json --out out --format json plan.dxf";
+    const char* const list = "list --format csv plan.dxf";
     const Run first = m->run(check);
     QCOMPARE(first.code, 1);
+    // Fresh, with a journal and out of it.
+    for (const char* out : {" --out out", " --out out"})
+        QCOMPARE(m->run(QByteArray(list) + out).output, m->run(list).output);
     QCOMPARE(m->run(QByteArray(kRename) + "plan.dxf").code, 0);
     const Run again = m->run(check);
     QCOMPARE(again.code, 1);
@@ -239,7 +248,7 @@ void TestEngine::verbsApart()
     m->write("base.json", R"({"forbidden": ["A-DOOR"]})");
     QCOMPARE(m->run(check).drawing("plan.dxf").value("status"), "done");
     QCOMPARE(m->run(QByteArray(kRename) + "plan.dxf").counted("status").firstKey(), "skipped");
-    QCOMPARE(m->run("report out").output.count("\r\n"), 3);
+    QCOMPARE(m->run("report out").output.count("\r\n"), 4);
 }
 
 void TestEngine::killed_data()
@@ -334,8 +343,11 @@ void TestEngine::limits()
     QCOMPARE(late.counted("error"), (QMap<QString, int>{{"", kMany - 1}, {"time-limit", 1}}));
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
     QVERIFY(QFile(m->write("large.dxf", "0\n")).resize(qint64(2) << 30));
-    const Run large = m->run("list --memory-limit 1000 --format json large.dxf plan.dxf");
-    QCOMPARE(large.drawing("large.dxf").value("error"), "memory-limit");
+    m->write("dense.dxf", "0\nSECTION\n2\nENTITIES\n" + QByteArray("0\nLINE\n").repeated(3000000) +
+                              "0\nENDSEC\n0\nEOF\n");
+    const Run large =
+        m->run("list --jobs 1 --memory-limit 150 --format json large.dxf dense.dxf plan.dxf");
+    QCOMPARE(large.counted("error"), (QMap<QString, int>{{"", 1}, {"memory-limit", 2}}));
     QCOMPARE(large.drawing("plan.dxf").value("status"), "done");
 #endif
 }

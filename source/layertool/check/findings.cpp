@@ -1,6 +1,7 @@
 #include "findings.h"
 
 #include "drawing.h"
+#include "filecause.h"
 #include "filestamp.h"
 #include "texts.h"
 
@@ -106,7 +107,7 @@ drawing::Expected<void> Baseline::read(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return tl::make_unexpected(
-            drawing::Error{Texts::tr("无法读取基线“%1”：%2。").arg(path, file.errorString())});
+            drawing::Error{Texts::tr("无法读取基线“%1”：%2。").arg(path, causeOf(file))});
     for (const QByteArray& line : file.readAll().split('\n')) {
         const QByteArray word = line.trimmed().split(' ').value(0);
         if (!word.isEmpty() && !word.startsWith('#'))

@@ -1,5 +1,6 @@
 #include "rulefile.h"
 
+#include "filecause.h"
 #include "layerfields.h"
 #include "namerule.h"
 #include "rules.h"
@@ -89,7 +90,7 @@ Expected<void> readLayer(const QJsonObject& json, LayerRules& rules)
         if (!field->set(properties, json.value(key).toVariant().toString()))
             return refuse(Texts::tr("图层“%1”的 %2 不是可用的值：“%3”。")
                               .arg(layer.name, key, json.value(key).toVariant().toString()));
-        layer.properties.insert(key, field->get(properties).toVariant().toString());
+        layer.properties.insert(key, field->get(properties).toString());
     }
     rules.layers.insert(vnsi::foldedName(layer.name), layer);
     return {};
@@ -170,7 +171,7 @@ Expected<QJsonObject> jsonOf(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return refuse(Texts::tr("无法读取规则文件“%1”：%2。").arg(path, file.errorString()));
+        return refuse(Texts::tr("无法读取规则文件“%1”：%2。").arg(path, causeOf(file)));
     QJsonParseError fault;
     const QByteArray bytes = file.readAll();
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &fault);
@@ -265,7 +266,7 @@ Expected<void> readStandardDrawing(const QString& path, LayerRules& rules)
                 QStringLiteral("lineweight"), QStringLiteral("transparency"),
                 QStringLiteral("plotted")};
             if (compared.contains(id) && (target.plotted || id != QLatin1String("plotted")))
-                layer.properties.insert(id, field.get(properties).toVariant().toString());
+                layer.properties.insert(id, field.get(properties).toString());
         }
         rules.layers.insert(vnsi::foldedName(target.name), layer);
     }

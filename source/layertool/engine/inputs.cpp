@@ -1,5 +1,6 @@
 #include "inputs.h"
 
+#include "filecause.h"
 #include "texts.h"
 
 #include <QDir>
@@ -43,7 +44,7 @@ Expected<QStringList> readList(const QString& name)
     const bool isOpen = name == QLatin1String("-") ? list.open(stdin, QIODevice::ReadOnly)
                                                    : list.open(QIODevice::ReadOnly);
     if (!isOpen)
-        return refuse(Texts::tr("无法读取图形列表“%1”：%2。").arg(name, list.errorString()));
+        return refuse(Texts::tr("无法读取图形列表“%1”：%2。").arg(name, causeOf(list)));
     QByteArray bytes = list.readAll();
     if (bytes.startsWith("\xef\xbb\xbf"))
         bytes.remove(0, 3);
@@ -116,6 +117,8 @@ Expected<void> Planner::addAll(const QStringList& paths)
 {
     const QString leftOut = m_out.isEmpty() ? QString() : identity(m_out);
     for (const QString& path : paths) {
+        if (path.isEmpty())
+            return refuse(Texts::tr("图形的路径是空的。"));
         if (!QFileInfo(path).isDir()) {
             add(path, {});
             continue;

@@ -1,5 +1,6 @@
 #include "journal.h"
 
+#include "filecause.h"
 #include "texts.h"
 
 #include <QDir>
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <tuple>
@@ -44,11 +44,6 @@ JournalEntry entryFrom(const QJsonObject& json)
 QString keyOf(const QString& input, const RunVerb& verb)
 {
     return (verb.edits ? QString() : verb.name) + QLatin1Char('\n') + input;
-}
-
-QString causeOf(int number)
-{
-    return QString::fromLocal8Bit(std::strerror(number));
 }
 
 /// Appends in one piece, on a line of its own: another process may do the same, and one killed
@@ -93,8 +88,8 @@ drawing::Expected<Journal> Journal::read(const QString& outFolder)
     journal.m_path = QDir(folderOf(outFolder)).filePath(QStringLiteral("journal.jsonl"));
     QFile file(journal.m_path);
     if (!file.open(QIODevice::ReadOnly))
-        return tl::make_unexpected(drawing::Error{
-            Texts::tr("无法读取日志“%1”：%2。").arg(journal.m_path, file.errorString())});
+        return tl::make_unexpected(
+            drawing::Error{Texts::tr("无法读取日志“%1”：%2。").arg(journal.m_path, causeOf(file))});
     journal.load(file.readAll());
     return journal;
 }
@@ -164,7 +159,7 @@ drawing::Expected<void> Journal::append(const JournalEntry& entry)
         ::close(file);
     if (failed != 0)
         return tl::make_unexpected(
-            drawing::Error{Texts::tr("无法写入日志“%1”：%2。").arg(m_path, causeOf(failed))});
+            drawing::Error{Texts::tr("无法写入日志“%1”：%2。").arg(m_path, systemCause(failed))});
     take(entry);
     return {};
 }

@@ -1,6 +1,7 @@
 #include "report.h"
 
 #include "console.h"
+#include "filecause.h"
 #include "formats/csv.h"
 #include "texts.h"
 
@@ -97,7 +98,7 @@ drawing::Expected<void> writeReport(const QString& path, const std::vector<Repor
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return {};
     return tl::make_unexpected(
-        drawing::Error{Texts::tr("无法写入报告“%1”：%2。").arg(path, file.errorString())});
+        drawing::Error{Texts::tr("无法写入报告“%1”：%2。").arg(path, causeOf(file))});
 }
 
 } // namespace layertool

@@ -1,7 +1,9 @@
 #include "run.h"
 
 #include "batch.h"
+#include "commandline.h"
 #include "console.h"
+#include "filecause.h"
 #include "fingerprint.h"
 #include "folderlock.h"
 #include "formats/csv.h"
@@ -10,6 +12,7 @@
 #include "interruption.h"
 #include "journal.h"
 #include "report.h"
+#include "textcodec.h"
 #include "texts.h"
 
 #include <QDateTime>
@@ -18,6 +21,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <cerrno>
 #include <cstdio>
 #include <optional>
 
@@ -31,12 +35,6 @@ int fail(int code, const QString& text)
 {
     complainOf(text);
     return code;
-}
-
-QString formatOf(const Arguments& arguments, const VerbRow& row)
-{
-    return arguments.value(
-        "format", QString::fromLatin1(row.formats).section(QLatin1Char(' '), 0, 0));
 }
 
 RunVerb runVerbOf(const VerbRow& row, const Arguments& arguments)
@@ -56,13 +54,16 @@ public:
         return m_path.isEmpty() ? m_stdout.open(stdout, QIODevice::WriteOnly)
                                 : m_file.open(QIODevice::WriteOnly);
     }
-    QIODevice& device() { return m_path.isEmpty() ? static_cast<QIODevice&>(m_stdout) : m_file; }
+    QFileDevice& device()
+    {
+        return m_path.isEmpty() ? static_cast<QFileDevice&>(m_stdout) : m_file;
+    }
     Expected<void> finish()
     {
         if (m_path.isEmpty() ? m_stdout.flush() : m_file.commit())
             return {};
         return tl::make_unexpected(
-            Error{Texts::tr("无法写入“%1”：%2。").arg(m_path, device().errorString())});
+            Error{Texts::tr("无法写入“%1”：%2。").arg(m_path, causeOf(device()))});
     }
     bool isFile() const { return !m_path.isEmpty(); }
     /// Whoever reads along sees what there is so far.
@@ -94,6 +95,7 @@ public:
 
 private:
     Expected<void> checkPlaces() const;
+    Expected<void> checkEncoding() const;
     Expected<void> openJournal();
     Expected<void> openSink();
     QStringList precious() const;
@@ -139,12 +141,20 @@ Expected<void> Run::checkPlaces() const
     return {};
 }
 
+Expected<void> Run::checkEncoding() const
+{
+    const QString name = m_arguments.value("encoding");
+    if (name.isEmpty() || drawing::TextCodec::ofCodePage(name.toStdString()))
+        return {};
+    return tl::make_unexpected(Error{Texts::tr("没有名为“%1”的代码页。").arg(name)});
+}
+
 /// Files that outputs must not take the place of.
 QStringList Run::precious() const
 {
-    QStringList paths = m_arguments.values("report") + m_arguments.values("output");
-    for (const OptionRow& option : m_row.options) {
-        if (option.kind == OptionKind::File)
+    QStringList paths;
+    for (const OptionRow& option : optionsOf(m_row)) {
+        if (option.kind == OptionKind::File || option.kind == OptionKind::Path)
             paths += m_arguments.values(option.name);
     }
     return paths;
@@ -154,6 +164,8 @@ Expected<void> Run::prepare()
 {
     m_verb = m_row.make();
     if (auto done = checkPlaces(); !done)
+        return done;
+    if (auto done = checkEncoding(); !done)
         return done;
     if (auto done = m_verb->prepare(m_arguments); !done)
         return done;
@@ -178,13 +190,13 @@ Expected<void> Run::prepare()
 Expected<void> Run::openJournal()
 {
     const QString out = m_arguments.value("out");
-    const auto fingerprint =
-        runFingerprint(m_arguments, {m_row.options, commonOptions(), editingOptions()});
+    const auto fingerprint = runFingerprint(m_arguments, optionsOf(m_row));
     if (!fingerprint)
         return tl::make_unexpected(fingerprint.error());
     m_fingerprint = *fingerprint;
     if (!QDir().mkpath(Journal::folderOf(out)))
-        return tl::make_unexpected(Error{Texts::tr("无法新建输出文件夹“%1”。").arg(out)});
+        return tl::make_unexpected(
+            Error{Texts::tr("无法新建输出文件夹“%1”：%2。").arg(out, systemCause(errno))});
     auto lock = FolderLock::take(out, *shardOf(m_arguments), m_arguments.isSet("wait"));
     if (!lock)
         return tl::make_unexpected(lock.error());
@@ -208,10 +220,10 @@ Expected<void> Run::openSink()
     if (!m_sink->open())
         return tl::make_unexpected(
             Error{Texts::tr("无法写入“%1”：%2。")
-                      .arg(m_arguments.value("output"), m_sink->device().errorString())});
+                      .arg(m_arguments.value("output"), causeOf(m_sink->device()))});
     const Printing printing{
         *m_verb, m_arguments, static_cast<int>(m_jobs.size()), m_sink->isFile()};
-    m_printer = makePrinter(formatOf(m_arguments, m_row), printing, m_sink->device());
+    m_printer = makePrinter(formatOf(m_arguments, m_row), printing);
     return {};
 }
 
@@ -275,8 +287,11 @@ void Run::take(const Result& result)
 void Run::printReady()
 {
     for (; m_printed < m_results.size() && m_isHere[m_printed]; ++m_printed) {
-        const Result& result = m_results[m_printed];
-        m_printer->add(result);
+        Result& result = m_results[m_printed];
+        const QByteArray text = result.printed ? *result.printed : m_printer->textOf(result);
+        m_sink->device().write(m_printer->added(result, text));
+        result.printed.reset();
+        result.data = {};
         if (result.status == Result::Status::Failed)
             complainOf(Texts::tr("图形“%1”失败：%2").arg(result.input, result.text));
     }
@@ -299,13 +314,13 @@ int Run::execute()
         m_results.push_back(Result(job));
     m_isHere.resize(m_jobs.size());
     const Interruption interruption;
-    m_printer->begin();
+    m_sink->device().write(m_printer->begin());
     skipProven();
-    Batch batch(m_arguments, limits());
+    Batch batch(m_arguments, static_cast<int>(m_results.size()), limits());
     QObject::connect(&interruption, &Interruption::interrupted, &batch, &Batch::interrupt);
     batch.run(m_jobs, [this](const Result& result) { take(result); });
     m_progress.clear();
-    m_printer->end();
+    m_sink->device().write(m_printer->end());
     return finish();
 }
 
