@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QThread>
 
 namespace bench {
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kDrawings = 200;
 constexpr int kKilobytes = 100;
+constexpr int kReadKilobytes = 1000; ///< Of the drawings that are read only.
 constexpr int kMappings = 50;
 
 /// The same layer move: layouts and blocks, the emptied layers removed.
@@ -33,12 +35,35 @@ for path in map(pathlib.Path, sys.argv[3:]):
     doc.saveas(out / path.name)
 )";
 
+/// What a clean-up in an office looks for, and nothing of it is there.
+constexpr char kRules[] = R"({"naming": {"separator": "-", "fields": [
+    {"name": "word", "values": ["LAYER", "0"]},
+    {"name": "number", "pattern": "[0-9]+", "optional": true}]},
+    "allowed": ["LAYER-*"],
+    "rules": {"entity-on-0": "off", "block-content": "off", "layer-unused": "off"}})";
+
 struct Batch
 {
     QString standard;
     QStringList drawings;
     QString folder;
 };
+
+/// Writes the same drawing many times.
+tl::expected<QStringList, QString> drawingsIn(const QString& folder, int kilobytes)
+{
+    QDir().mkpath(folder);
+    QStringList drawings;
+    for (int number = 0; number < kDrawings; ++number)
+        drawings += QStringLiteral("%1/%2.dxf").arg(folder).arg(number);
+    bool isWritten =
+        QFile::exists(drawings.front()) || writeSmallDrawing(drawings.front(), kilobytes);
+    for (const QString& path : drawings)
+        isWritten = isWritten && (QFile::exists(path) || QFile::copy(drawings.front(), path));
+    if (isWritten)
+        return drawings;
+    return tl::make_unexpected(QStringLiteral("no drawings could be written in %1").arg(folder));
+}
 
 tl::expected<Batch, QString> batchIn(const QString& folder)
 {
@@ -52,17 +77,10 @@ tl::expected<Batch, QString> batchIn(const QString& folder)
     }
     if (const auto saved = drawing::saveStandard(batch.standard, mappings); !saved)
         return tl::make_unexpected(saved.error().text);
-    QDir(folder).mkpath(QStringLiteral("many"));
-    const QString first = folder + QStringLiteral("/many/0.dxf");
-    bool isWritten = QFile::exists(first) || writeSmallDrawing(first, kKilobytes);
-    for (int number = 0; number < kDrawings; ++number) {
-        const QString path = folder + QStringLiteral("/many/%1.dxf").arg(number);
-        isWritten = isWritten && (QFile::exists(path) || QFile::copy(first, path));
-        batch.drawings += path;
-    }
-    if (!isWritten)
-        return tl::make_unexpected(
-            QStringLiteral("no drawings could be written in %1").arg(folder));
+    auto drawings = drawingsIn(folder + QStringLiteral("/many"), kKilobytes);
+    if (!drawings)
+        return tl::make_unexpected(drawings.error());
+    batch.drawings = std::move(*drawings);
     return batch;
 }
 
@@ -86,13 +104,18 @@ QString emptied(const QString& path)
     return path;
 }
 
+QString toolPath()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/layertool");
+}
+
 double translateSeconds(const Batch& batch)
 {
     const QString out = emptied(batch.folder + QStringLiteral("/translated"));
-    return processSeconds(QCoreApplication::applicationDirPath() + QStringLiteral("/layertool"),
+    return processSeconds(toolPath(),
         QStringList{QStringLiteral("translate"), QStringLiteral("--quiet"),
-            QStringLiteral("--root"), batch.folder, QStringLiteral("--standard"), batch.standard, QStringLiteral("--option"),
-            QStringLiteral("blocks"), QStringLiteral("--out"), out} +
+            QStringLiteral("--root"), batch.folder, QStringLiteral("--standard"), batch.standard,
+            QStringLiteral("--option"), QStringLiteral("blocks"), QStringLiteral("--out"), out} +
             batch.drawings);
 }
 
@@ -118,12 +141,46 @@ tl::expected<Sides, QString> batchAgainstScript(const QString& folder)
         QStringLiteral("one python3-ezdxf script doing the same")};
 }
 
+/// A verb that only reads, against counting the drawings' lines by as many processes.
+tl::expected<Sides, QString> readingAgainstCounting(const QString& folder, const QStringList& verb)
+{
+    const auto drawings = drawingsIn(folder + QStringLiteral("/read"), kReadKilobytes);
+    if (!drawings)
+        return tl::make_unexpected(drawings.error());
+    QFile rules(folder + QStringLiteral("/rules.json"));
+    if (!rules.open(QIODevice::WriteOnly) || rules.write(kRules) < 0)
+        return tl::make_unexpected(rules.errorString());
+    rules.close();
+    const QString processes = QString::number(QThread::idealThreadCount());
+    const QStringList reading =
+        verb + QStringList{QStringLiteral("--quiet"), QStringLiteral("--jobs"), processes} +
+        *drawings;
+    const QStringList counting = QStringList{QStringLiteral("-c"),
+                                     QStringLiteral("printf '%s\\0' \"$@\" | xargs -0 -n 50 -P ") +
+                                         processes + QStringLiteral(" wc -l"),
+                                     QStringLiteral("sh")} +
+                                 *drawings;
+    const auto read = [reading] { return processSeconds(toolPath(), reading); };
+    if (read() <= 0)
+        return tl::make_unexpected(QStringLiteral("the batch program failed"));
+    return Sides{read, [counting] { return processSeconds(QStringLiteral("/bin/sh"), counting); },
+        QStringLiteral("wc -l over them, %1 processes each").arg(processes)};
+}
+
 } // namespace
 
 std::vector<Row> batchRows(const QString& folder)
 {
+    const Budget twice{Budget::Kind::AtMostTimes, 2};
+    const QStringList check{QStringLiteral("check"), QStringLiteral("--standard"),
+        folder + QStringLiteral("/rules.json")};
     return {{"batch/ezdxf", QStringLiteral("translate %1 drawings of 0.1 MB").arg(kDrawings),
-        Measure::Wall, {}, 3, 1, [folder] { return batchAgainstScript(folder); }}};
+                Measure::Wall, {}, 3, 1, [folder] { return batchAgainstScript(folder); }},
+        {"batch/list", QStringLiteral("list %1 drawings of 1 MB").arg(kDrawings), Measure::Wall,
+            twice, 5, 3,
+            [folder] { return readingAgainstCounting(folder, {QStringLiteral("list")}); }},
+        {"batch/check", QStringLiteral("check %1 drawings of 1 MB").arg(kDrawings), Measure::Wall,
+            twice, 5, 3, [folder, check] { return readingAgainstCounting(folder, check); }}};
 }
 
 } // namespace bench
