@@ -389,7 +389,7 @@ See layertool help.
     </message>
     <message>
         <source>其中早已完成</source>
-        <translation>of these by an earlier run</translation>
+        <translation>of these done earlier</translation>
     </message>
     <message>
         <source>有改动</source>

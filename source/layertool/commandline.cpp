@@ -20,6 +20,11 @@ EarlyExit misuse(const QString& text)
     return {kMisuse, Texts::tr("layertool: %1\n用 layertool help 查看用法。\n").arg(text)};
 }
 
+EarlyExit badValue(const QString& option)
+{
+    return misuse(Texts::tr("选项缺少它的值，或给了不该有的值：%1。").arg(option));
+}
+
 /// The name most like a word that was not understood; empty when none is near.
 QString nearest(const QString& word)
 {
@@ -106,11 +111,15 @@ QString checkValue(const OptionRow& row, const QString& value)
 tl::expected<QStringList, EarlyExit> VerbLine::valuesOf(size_t option) const
 {
     const OptionRow& row = m_options[option];
-    if (row.kind == OptionKind::Flag)
-        return QStringList{QStringLiteral("true")};
     QStringList values;
     for (const std::string& value : m_known[option]->results())
         values += QString::fromLocal8Bit(value.c_str());
+    if (row.kind == OptionKind::Flag) {
+        values.removeDuplicates();
+        if (values == QStringList(QStringLiteral("true")))
+            return values;
+        return tl::make_unexpected(badValue(QStringLiteral("--") + QLatin1String(row.name)));
+    }
     if (!row.several && values.size() > 1)
         return tl::make_unexpected(
             misuse(Texts::tr("--%1 给出了不止一次。").arg(QLatin1String(row.name))));
@@ -179,8 +188,7 @@ tl::expected<void, EarlyExit> VerbLine::parse(const QStringList& words)
         // It tells in English, but it names the option.
         static const QRegularExpression option(QStringLiteral("--[a-z-]+"));
         return tl::make_unexpected(
-            misuse(Texts::tr("选项缺少它的值，或给了不该有的值：%1。")
-                       .arg(option.match(QString::fromLocal8Bit(error.what())).captured())));
+            badValue(option.match(QString::fromLocal8Bit(error.what())).captured()));
     }
 }
 

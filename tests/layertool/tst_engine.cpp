@@ -99,6 +99,7 @@ void TestEngine::misuse_data()
     row("no such verb", "chek plan.dxf", 2, "check");
     row("no such option", "list --colour plan.dxf", 2, "--colour");
     row("no value", "list plan.dxf --format", 2, "--format");
+    row("a value for a flag", "list --quiet=false plan.dxf", 2, "--quiet");
     row("words behind a verb that takes none", "man pages", 2, "pages");
     row("no such code page", "list --encoding KLINGON plan.dxf", 2, "KLINGON");
     row("nowhere to write", "rename --table names.csv plan.dxf", 2, "--out");

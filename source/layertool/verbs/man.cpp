@@ -82,7 +82,8 @@ int runMan(const Arguments&)
         text += verbEntry(verb);
     text += QStringLiteral(".SS %1\n").arg(QLatin1String(kHelpRow.name)) +
             roff(Texts::tr(kHelpRow.text)) + QLatin1Char('\n');
-    text += section(Texts::tr("处理图形的命令都有的选项")) + optionEntries(drawingOptions());
+    text += section(Texts::tr("处理图形的命令都有的选项")) + optionEntries(drawingOptions()) +
+            optionEntry(formatOption(""));
     text += section(Texts::tr("改动图形的命令都有的选项")) + optionEntries(editingOptions());
     text += section(Texts::tr("所有命令都有的选项")) + optionEntry(languageOption());
     text += section(Texts::tr("返回值")) + roff(exitCodesText()) + QLatin1Char('\n');
