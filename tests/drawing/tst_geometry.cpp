@@ -49,13 +49,6 @@ bool near(const Numbers& found, const Numbers& wanted)
     return true;
 }
 
-QByteArray block(const QByteArray& name, const QByteArray& entities, const QByteArray& base = "0 0")
-{
-    const QList<QByteArray> at = base.split(' ');
-    return "0 BLOCK 8 0 2 " + name + " 70 0 10 " + at[0] + " 20 " + at[1] + " " + entities +
-           " 0 ENDBLK 8 0 ";
-}
-
 /// A rectangle as a polyline loop of a hatch.
 QByteArray loop(int from, int to)
 {

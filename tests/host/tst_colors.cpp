@@ -4,6 +4,7 @@
 #include "recordinghost.h"
 #include "rows.h"
 #include "trees.h"
+#include "useracts.h"
 #include "vncolortext.h"
 #include "vnpickers.h"
 #include "vnstrings.h"
@@ -44,11 +45,6 @@ ModalDriver::Step cell(const char* grid, int column, int row, int columns)
         const QPoint middle(column * step + step / 2, row * step + step / 2);
         QTest::mouseClick(widget, Qt::LeftButton, {}, middle);
     };
-}
-
-void press(QDialog& dialog, const char* button)
-{
-    QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
 }
 
 const char* const kIndexKeys = R"({"clrMethod":195,"selectClr":3})";
@@ -143,13 +139,13 @@ private slots:
     {
         ModalDriver driver;
         driver.then([](QDialog& dialog) {
-            QVERIFY(!dialog.findChild<QPushButton*>("byLayer")->isEnabled());
-            QVERIFY(!dialog.findChild<QPushButton*>("byBlock")->isEnabled());
-            auto* const text = dialog.findChild<QLineEdit*>("colorText");
+            QVERIFY(!child<QPushButton>(dialog, "byLayer").isEnabled());
+            QVERIFY(!child<QPushButton>(dialog, "byBlock").isEnabled());
+            auto& text = child<QLineEdit>(dialog, "colorText");
             for (const char* refused : {"ByLayer", "0", "256", "x"}) {
-                text->clear();
-                QTest::keyClicks(text, refused);
-                QVERIFY2(!dialog.findChild<QPushButton*>("ok")->isEnabled(), refused);
+                text.clear();
+                QTest::keyClicks(&text, refused);
+                QVERIFY2(!child<QPushButton>(dialog, "ok").isEnabled(), refused);
             }
             QTest::keyClick(&dialog, Qt::Key_Return);
             QVERIFY(dialog.isVisible());
@@ -191,10 +187,7 @@ private slots:
         host::setLineTypes({{L"Continuous", OdDbObjectId(0x16)}, {L"虚线", OdDbObjectId(0x20)},
             {L"bylayer", OdDbObjectId(0x15)}});
         vnsi::VnLineTypeComboBox box;
-        QStringList names;
-        for (int i = 0; i < box.count(); ++i)
-            names.append(box.itemText(i));
-        QCOMPARE(names, (QStringList{"ByLayer", "ByBlock", "Continuous", "虚线"}));
+        QCOMPARE(textsOf(box), (QStringList{"ByLayer", "ByBlock", "Continuous", "虚线"}));
         box.setCurrentIndex(2);
         QVERIFY(box.getCurrentLineTypeString() == OdString(L"Continuous"));
         QCOMPARE(box.getCurrentLineType().getHandle(), std::uint64_t(0x16));

@@ -38,6 +38,12 @@ QString request(int code)
     return QStringLiteral(R"(request|%1|0|{"marker":%1})").arg(code);
 }
 
+/// A command's answer to the request for a new layer.
+void addLayer(const VnJsonPtr& root)
+{
+    hostextras::append(root->GetDataJ("LayerList"), tree(layer("图层1", 1, R"(,"Selected":true)")));
+}
+
 /// A key as the keyboard sends it: with the text that an item view would search for.
 void typeKey(QWidget* widget, Qt::Key key, const QString& text)
 {
@@ -134,12 +140,8 @@ private slots:
 
     void addsLayer()
     {
-        const auto add = [](const VnJsonPtr& root) {
-            hostextras::append(
-                root->GetDataJ("LayerList"), tree(layer("图层1", 1, R"(,"Selected":true)")));
-        };
         ManagerDriver manager(m_module,
-            layerTree({layer("0", 0), layer("A"), layer("B", 1, R"(,"Selected":true)")}), add);
+            layerTree({layer("0", 0), layer("A"), layer("B", 1, R"(,"Selected":true)")}), addLayer);
         manager.table->setColumnWidth(1, 222);
         manager.select({1});
         manager.press("newLayerButton");
@@ -169,14 +171,10 @@ private slots:
 
     void showsWholeLastRow()
     {
-        const auto add = [](const VnJsonPtr& root) {
-            hostextras::append(
-                root->GetDataJ("LayerList"), tree(layer("new", 1, R"(,"Selected":true)")));
-        };
         QStringList records{layer("0", 0)};
         for (int i = 0; i < 60; ++i)
             records.append(layer(QString::number(i)));
-        ManagerDriver manager(m_module, layerTree(records), add);
+        ManagerDriver manager(m_module, layerTree(records), addLayer);
         manager.table->setColumnWidth(12, 4000);
         manager.press("newLayerButton");
         const QRect last = manager.table->visualItemRect(manager.cell(61, 1));

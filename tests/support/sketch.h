@@ -6,6 +6,14 @@
 
 #include <QTemporaryDir>
 
+/// A block of these entities; `base` is the x and y of its base point.
+inline QByteArray block(
+    const QByteArray& name, const QByteArray& entities, const QByteArray& base = "0 0")
+{
+    return "0 BLOCK 8 0 2 " + name + " 70 0 10 " + QByteArray(base).replace(" ", " 20 ") + ' ' +
+           entities + " 0 ENDBLK 8 0 ";
+}
+
 /// Puts small drawings into files of a folder that goes with it. Entities are written as the tags
 /// of the format, each a code, a blank and a value; "~" stands for a blank within a value.
 class Sketch

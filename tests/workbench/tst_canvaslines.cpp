@@ -60,9 +60,6 @@ private slots:
         QFETCH(QByteArray, entities);
         QFETCH(QVector<double>, ink);
         QFETCH(QVector<double>, gaps);
-        const auto block = [](const QByteArray& name, const QByteArray& content) {
-            return "0 BLOCK 8 0 2 " + name + " 70 0 10 0 20 0 " + content + "0 ENDBLK 8 0 ";
-        };
         m_sketch->header = header;
         m_sketch->blocks = block("U", line("6 BYBLOCK")) +
                            block("Z", line("").replace("8 A", "8 0")) +
@@ -103,7 +100,7 @@ private slots:
     {
         QFETCH(QByteArray, entity);
         QFETCH(int, red);
-        m_sketch->blocks = "0 BLOCK 8 0 2 U 70 0 10 0 20 0 " + kWide + "440 16777216 0 ENDBLK 8 0 ";
+        m_sketch->blocks = block("U", kWide + "440 16777216");
         show(entity + m_frame);
         layer("A").transparency = 20;
         m_canvas->setLayers(m_layers);
@@ -131,8 +128,7 @@ private slots:
         QFETCH(double, at20);
         QFETCH(double, at80);
         m_sketch->header = "9 $PDMODE 70 2 9 $PDSIZE 40 1";
-        m_sketch->blocks =
-            "0 BLOCK 8 0 2 W 70 0 10 0 20 0 " + kPolyline + "70 0 43 5 10 50 20 0 0 ENDBLK 8 0 ";
+        m_sketch->blocks = block("W", kPolyline + "70 0 43 5 10 50 20 0");
         show(entity + m_frame);
         const double scale = m_canvas->view().scale();
         QVERIFY(std::abs(thickness(20) - at20 * scale) <= 2);

@@ -21,8 +21,7 @@ constexpr char kEntities[] = "0 LINE 8 A 10 0 20 0 11 100 21 0 "
                              "0 SOLID 8 A 10 70 20 30 11 90 21 30 12 70 22 50 13 90 23 50 "
                              "0 LINE 8 A 10 75 20 40 11 85 21 40 "
                              "0 TEXT 8 A 10 0 20 52 40 8 1 WWWW ";
-constexpr char kBlock[] = "0 BLOCK 8 0 2 U 70 0 10 0 20 0 0 LINE 8 B 10 0 20 0 11 20 21 0 "
-                          "0 LINE 8 0 10 0 20 10 11 20 21 10 0 ENDBLK 8 0";
+constexpr char kInBlock[] = "0 LINE 8 B 10 0 20 0 11 20 21 0 0 LINE 8 0 10 0 20 10 11 20 21 10";
 enum Index { kLow = 2, kHigh, kReference, kFill, kOnFill, kText };
 
 } // namespace
@@ -36,7 +35,7 @@ private slots:
     void init()
     {
         start();
-        m_sketch->blocks = kBlock;
+        m_sketch->blocks = block("U", kInBlock);
         show(kEntities);
     }
 
