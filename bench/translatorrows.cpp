@@ -21,7 +21,7 @@ constexpr int kMany = 10000;
 /// Layers or targets of the same names in another order and letter case.
 VnJsonPtr makeRecords(int count, const char* nameKey, const wchar_t* prefix, int step)
 {
-    const VnJsonPtr records = hostextras::createArray(count);
+    VnJsonPtr records = hostextras::createArray(count);
     for (int i = 0; i < count; ++i) {
         const VnJsonPtr record = ElementValue::createObject(2);
         record->SetDataSW(nameKey, (prefix + std::to_wstring(i * step % count)).c_str());
@@ -48,7 +48,7 @@ private:
 
 VnJsonPtr makeTree(int count)
 {
-    const VnJsonPtr tree = ElementValue::createObject(4);
+    VnJsonPtr tree = ElementValue::createObject(4);
     tree->SetDataJ(transkey::kTheme, makeRecords(count, transkey::kFromName, L"LAYER-", 1));
     return tree;
 }

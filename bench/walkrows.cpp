@@ -26,7 +26,7 @@ constexpr int kDrawnEntities = 200000;
 
 VnJsonPtr makeWalkTree(int layers)
 {
-    const VnJsonPtr tree = ElementValue::createObject(4);
+    VnJsonPtr tree = ElementValue::createObject(4);
     tree->SetDataJ(walkkey::kLayers, makeLayerTree(layers));
     return tree;
 }

@@ -28,7 +28,7 @@ QString scratchFolder()
 
 QString writeScratch(const char* name, const QByteArray& bytes)
 {
-    const QString path = scratchFolder() + QLatin1Char('/') + QString::fromLatin1(name);
+    QString path = scratchFolder() + QLatin1Char('/') + QString::fromLatin1(name);
     // Removed and not emptied: what still has the last one open keeps it.
     QFile::remove(path);
     QFile file(path);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs, from Debian, what building and running needs and is missing; --tests adds what tests need,
-# --fuzz what fuzzing needs.
+# --fuzz what fuzzing needs, --tidy what scripts/tidy.sh needs.
 set -euo pipefail
 
 packages=(
@@ -12,6 +12,8 @@ if [ "${1:-}" = "--tests" ]; then
     packages+=(python3-ezdxf python3-jsonschema parallel)
 elif [ "${1:-}" = "--fuzz" ]; then
     packages+=(clang libclang-rt-dev python3)
+elif [ "${1:-}" = "--tidy" ]; then
+    packages+=(clang clang-tidy python3)
 fi
 
 missing=()

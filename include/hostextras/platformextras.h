@@ -14,7 +14,7 @@
 ODRX_EXPORT OdRxModulePtr odrxLoadModule(const OdString& path);
 /// Calls `uninitApp` and ends the module object. The library stays mapped: objects of its classes
 /// may still be alive.
-ODRX_EXPORT void odrxUnloadModule(OdRxModulePtr module);
+ODRX_EXPORT void odrxUnloadModule(const OdRxModulePtr& module);
 
 /// Called with the expression, file and line of an assertion that does not hold.
 using OdAssertHandler = void (*)(const char* expression, const char* file, int line);

@@ -7,6 +7,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace vnsi {
@@ -172,6 +173,8 @@ public:
     {
     }
 
+    // Hooks take handles by value: what overrides them relies on that.
+    // NOLINTBEGIN(performance-unnecessary-value-param)
     virtual void onCreated() {}
     virtual void onShown() {}
     /// The dialog has been handed its tree; called by `setData`.
@@ -185,9 +188,9 @@ public:
     /// Keeps the tree and the call-back object. Dialogs extend it and fill their widgets.
     virtual bool setData(VnJsonPtr data, OdRxObjectPtr invoker)
     {
-        m_data = data;
-        m_invoker = invoker;
-        m_callBack = VnInvoker::createObject(invoker);
+        m_data = std::move(data);
+        m_invoker = std::move(invoker);
+        m_callBack = VnInvoker::createObject(m_invoker);
         onDataSet(m_data);
         return true;
     }
@@ -199,6 +202,7 @@ public:
     virtual void onDocumentClosed() {}
     virtual void onSettingsChanged() {}
     virtual void onHostQuit() {}
+    // NOLINTEND(performance-unnecessary-value-param)
 
     /// Names the dialog, for scripts and for the request log.
     void setDialogName(const char* objectName)

@@ -197,7 +197,7 @@ Expected<TextCodec> Loader::chosenCodec(const OpenOptions& options)
                 Texts::tr("没有代码页“%1”。").arg(QString::fromUtf8(options.codePage)), 0, false});
         return *wanted;
     }
-    const TextCodec codec(version(), named);
+    TextCodec codec(version(), named);
     if (codec == TextCodec::utf8())
         return codec;
     const bool isKnown = TextCodec::ofCodePage(named).has_value();

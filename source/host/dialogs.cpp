@@ -18,6 +18,7 @@ ODRX_DEFINE_MEMBERS(VnUiDialogBase, OdRxObject, L"VnUiDialogBase")
 ODRX_DEFINE_MEMBERS(VnUiModeDialogBase, VnUiDialogBase, L"VnUiModeDialogBase")
 ODRX_DEFINE_MEMBERS(VnUiService, OdRxObject, L"VnUiService")
 
+// Commands override it as it is. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void VnUiDialogInvoker::invoke(VnJsonPtr) {}
 
 namespace {
@@ -51,7 +52,7 @@ VnJsonPtr vnuiShowModelDialogEx(const OdString& serviceName, const OdString& dia
     const VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget* parent)
 {
     const int result = runDialog(serviceName, dialogName, tree, invoker, parent);
-    const VnJsonPtr answer = tree ? tree : ElementValue::createObject(1);
+    VnJsonPtr answer = tree ? tree : ElementValue::createObject(1);
     answer->SetDataI("result", result);
     host::saveSettings();
     return answer;

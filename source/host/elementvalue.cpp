@@ -204,7 +204,7 @@ VnJsonPtr copyOf(const VnJsonPtr& node)
     if (!node)
         return {};
     std::vector<CopyStep> open;
-    const VnJsonPtr copy = toHandle(copied(toValue(node), open));
+    VnJsonPtr copy = toHandle(copied(toValue(node), open));
     while (!open.empty()) {
         const CopyStep step = open.back();
         open.pop_back();

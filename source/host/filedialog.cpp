@@ -20,7 +20,7 @@ QString text(const vnsi::VnJsonPtr& tree, const char* key)
 QString firstText(const vnsi::VnJsonPtr& tree, std::initializer_list<const char*> keys)
 {
     for (const char* key : keys) {
-        const QString found = text(tree, key);
+        QString found = text(tree, key);
         if (!found.isEmpty())
             return found;
     }

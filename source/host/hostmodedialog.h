@@ -16,7 +16,7 @@ class HostModeDialog : public vnsi::VnUiModeDialogBase
 public:
     static vnsi::VnUiModeDialogBasePtr create(QWidget* parent, const char* objectName)
     {
-        const auto dialog = OdRxObjectImpl<HostModeDialog<T>>::createObject();
+        auto dialog = OdRxObjectImpl<HostModeDialog<T>>::createObject();
         dialog->m_dialog = new T(parent);
         dialog->m_dialog->setObjectName(QString::fromUtf8(objectName));
         return dialog;

@@ -14,7 +14,7 @@ QString vnutOdStringToQString(const OdString& text)
     QString out;
     out.reserve(text.getLength());
     for (const wchar_t c : viewOf(text)) {
-        const auto code = static_cast<uint>(c);
+        const auto code = static_cast<char32_t>(c);
         if (code > kLastCharacter) {
             out += QChar(QChar::ReplacementCharacter);
         } else if (QChar::requiresSurrogates(code)) {

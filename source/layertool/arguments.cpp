@@ -32,7 +32,7 @@ Arguments Arguments::fromJson(const QJsonObject& json)
     const QJsonObject options = json.value(QLatin1String("options")).toObject();
     for (auto it = options.begin(); it != options.end(); ++it) {
         QStringList values;
-        for (const QJsonValue& value : it.value().toArray())
+        for (const QJsonValue value : it.value().toArray())
             values += value.toString();
         arguments.set(it.key(), values);
     }

@@ -32,7 +32,7 @@ bool isSame(const QString& a, const QString& b)
 
 Expected<QRegularExpression> readRegex(const QString& text)
 {
-    const QRegularExpression regex(QRegularExpression::anchoredPattern(text),
+    QRegularExpression regex(QRegularExpression::anchoredPattern(text),
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     if (regex.isValid())
         return regex;

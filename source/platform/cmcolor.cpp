@@ -21,7 +21,8 @@ constexpr int kGreys[] = {51, 91, 132, 173, 214, 255};
 ODCOLORREF hueColor(int index)
 {
     constexpr double kBrightness[] = {1.0, 0.65, 0.5, 0.3, 0.15};
-    const double sixth = (index / 10 - 1) / 4.0;
+    const int hue = index / 10 - 1;
+    const double sixth = hue / 4.0;
     const double brightness = 255 * kBrightness[index % 10 / 2];
     const double lowest = index % 2 ? 0.5 : 0.0;
     const auto channel = [&](double centre) {

@@ -51,7 +51,7 @@ OdRxModulePtr odrxLoadModule(const OdString& path)
     return module;
 }
 
-void odrxUnloadModule(OdRxModulePtr module)
+void odrxUnloadModule(const OdRxModulePtr& module)
 {
     if (module.isNull())
         return;

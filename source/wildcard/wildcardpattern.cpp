@@ -113,7 +113,7 @@ Wildcard Wildcard::take(std::wstring_view& pattern, bool& isLast)
 
 bool Wildcard::fits(const Element& element, wchar_t c, bool ignoreCase)
 {
-    const auto code = static_cast<uint>(c);
+    const auto code = static_cast<char32_t>(c);
     const auto isListed = [&] {
         const wchar_t lower = static_cast<wchar_t>(QChar::toLower(code));
         const wchar_t upper = static_cast<wchar_t>(QChar::toUpper(code));

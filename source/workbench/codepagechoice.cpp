@@ -36,7 +36,7 @@ std::optional<QByteArray> chooseCodePage(QWidget* parent, const drawing::TextCod
         if (at >= 0)
             return at == 0 ? QByteArray()
                            : QByteArray(drawing::codePages()[static_cast<size_t>(at) - 1].name);
-        const QByteArray name = chosen.trimmed().toUtf8();
+        QByteArray name = chosen.trimmed().toUtf8();
         if (drawing::TextCodec::ofCodePage({name.constData(), static_cast<size_t>(name.size())}))
             return name;
         messages::showWarning(parent, title, tr("没有代码页“%1”。").arg(chosen));

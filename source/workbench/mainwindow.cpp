@@ -335,7 +335,7 @@ CommandContext MainWindow::commandContext()
         const QString prompt = tr("选择对象，按 ENTER 键或单击鼠标右键结束，按 ESC 键取消。");
         m_commandLine->say(prompt);
         m_status->showMessage(prompt);
-        const std::vector<int> picked = pickEntities(*m_canvas);
+        std::vector<int> picked = pickEntities(*m_canvas);
         m_status->clearMessage();
         return picked;
     };

@@ -84,7 +84,7 @@ inline QJsonObject facts(const drawing::LayerProperties& p)
 inline QHash<QString, QJsonObject> layers(const QJsonObject& seen)
 {
     QHash<QString, QJsonObject> layers;
-    for (const QJsonValue& value : seen.value("layers").toArray())
+    for (const QJsonValue value : seen.value("layers").toArray())
         layers.insert(value.toObject().value("name").toString(), value.toObject());
     return layers;
 }

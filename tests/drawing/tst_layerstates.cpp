@@ -101,7 +101,7 @@ private slots:
         QCOMPARE(last.value("name").toString(), "Second");
         QVERIFY(last.value("owned").toBool() && last.value("reactors").toBool());
         QHash<int, QString> values;
-        for (const QJsonValue& tag : last.value("tags").toArray())
+        for (const QJsonValue tag : last.value("tags").toArray())
             values.insert(tag.toArray().at(0).toInt(), tag.toArray().at(1).toString());
         const LayerProperties& p = second.layers.front().properties;
         QCOMPARE(values.value(91), QString::number(kStateColor));

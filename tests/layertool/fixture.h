@@ -18,7 +18,7 @@ struct Run
     QJsonObject drawing(const QString& name) const
     {
         const QJsonObject json = QJsonDocument::fromJson(output).object();
-        for (const QJsonValue& value : json.value("drawings").toArray()) {
+        for (const QJsonValue value : json.value("drawings").toArray()) {
             if (value.toObject().value("name") == name)
                 return value.toObject();
         }
@@ -28,7 +28,7 @@ struct Run
     /// The one row whose `key` is `value`; null when there is none.
     QJsonObject row(const QString& name, const char* key, const QString& value) const
     {
-        for (const QJsonValue& row : rows(name)) {
+        for (const QJsonValue row : rows(name)) {
             if (row.toObject().value(QLatin1String(key)).toString() == value)
                 return row.toObject();
         }
@@ -39,7 +39,7 @@ struct Run
     {
         QMap<QString, int> counts;
         const QJsonObject json = QJsonDocument::fromJson(output).object();
-        for (const QJsonValue& value : json.value("drawings").toArray())
+        for (const QJsonValue value : json.value("drawings").toArray())
             ++counts[value.toObject().value(QLatin1String(key)).toString()];
         return counts;
     }

@@ -172,7 +172,7 @@ void TestCheck::naming()
     m->write("rules.json", rulesWith("{\"naming\": " + scheme + "}", {"layer-name"}));
     QStringList found;
     const Run run = m->run(kCheck);
-    for (const QJsonValue& row : run.rows("plan.dxf"))
+    for (const QJsonValue row : run.rows("plan.dxf"))
         found += row.toObject().value("layer").toString();
     QStringList expected = QString(bad).split(',');
     found.sort();
@@ -271,12 +271,12 @@ void TestCheck::sarif()
     const QJsonObject driver = run.value("tool").toObject().value("driver").toObject();
     QCOMPARE(driver.value("name"), "layertool");
     QStringList ids;
-    for (const QJsonValue& rule : driver.value("rules").toArray())
+    for (const QJsonValue rule : driver.value("rules").toArray())
         ids += rule.toObject().value("id").toString();
     QCOMPARE(QSet<QString>(ids.begin(), ids.end()).size(), ids.size());
     QVERIFY(run.value("results").toArray().size() > 1);
     const QList<QByteArray> lines = m->read("plan A/层#1.dxf").replace("\r\n", "\n").split('\n');
-    for (const QJsonValue& value : run.value("results").toArray()) {
+    for (const QJsonValue value : run.value("results").toArray()) {
         const QJsonObject result = value.toObject();
         QVERIFY(!result.value("message").toObject().value("text").toString().isEmpty());
         QVERIFY(ids.contains(result.value("ruleId").toString()));

@@ -335,7 +335,7 @@ void TestVerbs::diff()
         QCOMPARE(m->run(edit + " --in-place edited.dxf").code, 0);
     const Run run = m->run("diff --format json plan.dxf edited.dxf");
     QStringList changes;
-    for (const QJsonValue& row : run.rows("plan.dxf"))
+    for (const QJsonValue row : run.rows("plan.dxf"))
         changes += row.toObject().value("change").toString() + ' ' +
                    row.toObject().value("name").toString() + ' ' +
                    row.toObject().value("property").toString();
@@ -371,7 +371,7 @@ void TestVerbs::split()
     QCOMPARE(run.code, 0);
     const QJsonObject before = seen("plan.dxf");
     int placed = 0;
-    for (const QJsonValue& value : run.rows("plan.dxf")) {
+    for (const QJsonValue value : run.rows("plan.dxf")) {
         const QJsonObject part = value.toObject();
         const QJsonObject after = seen("out/" + part.value("file").toString());
         QVERIFY2(after.contains("errors"), qPrintable(after.value("failure").toString()));
@@ -398,7 +398,7 @@ void TestVerbs::oddNames()
     const Run run = m->run("split --out out --format json odd.dxf");
     QCOMPARE(run.code, 0);
     int points = 0;
-    for (const QJsonValue& row : run.rows("odd.dxf"))
+    for (const QJsonValue row : run.rows("odd.dxf"))
         points += row.toObject().value("entities").toInt();
     QCOMPARE(points, names.size());
     QSet<QString> folded;

@@ -164,7 +164,7 @@ VnJsonPtr vnuiMessageBoxEx(
     const int button = host().press(style | icon);
     if (host().may(kEmptyAnswers))
         return {};
-    const VnJsonPtr answer = ElementValue::createObject(1);
+    VnJsonPtr answer = ElementValue::createObject(1);
     answer->SetDataI("ControlBtn", button);
     return answer;
 }
@@ -179,7 +179,7 @@ VnJsonPtr vn_user_config(const OdString& section)
 {
     if (host().may(kNoSettings))
         return {};
-    const VnJsonPtr settings = ElementValue::createObject(0);
+    VnJsonPtr settings = ElementValue::createObject(0);
     if (host().may(kOddSettings)) {
         const char* const keys[] = {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand",
             "RecoverBoxChecked", "FilterComboBoxList", "LtransSettingDates"};

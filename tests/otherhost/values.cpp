@@ -135,15 +135,14 @@ VnJsonPtr nodeOf(const QString& path, const QJsonValue& value)
         return hostextras::scalarOf(static_cast<OdInt32>(value.toInt()));
     if (value.isString())
         return hostextras::scalarOf(vnutQStringToOdString(value.toString()));
-    const VnJsonPtr node =
-        value.isArray() ? hostextras::createArray(0) : ElementValue::createObject(0);
+    VnJsonPtr node = value.isArray() ? hostextras::createArray(0) : ElementValue::createObject(0);
     const QString own = path.mid(path.lastIndexOf('/') + 1);
     const QJsonObject object = value.toObject();
     for (auto one = object.begin(); one != object.end(); ++one) {
         const QString inner = own.isEmpty() ? one.key() : own + '/' + one.key();
         node->hang(one.key().toLatin1().constData(), nodeOf(inner, one.value()));
     }
-    for (const QJsonValue& element : value.toArray())
+    for (const QJsonValue element : value.toArray())
         hostextras::append(node, nodeOf(QString(), element));
     return node;
 }

@@ -16,7 +16,7 @@ public:
     ~ModalDriver() override;
 
     /// Queues a step; it must end its dialog, at once or later.
-    void then(Step step) { m_steps.enqueue(std::move(step)); }
+    void then(const Step& step) { m_steps.enqueue(step); }
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;

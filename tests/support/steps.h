@@ -7,7 +7,7 @@ template <class Act>
 auto inStep(drawing::Drawing& drawing, Act act)
 {
     drawing.beginStep(QStringLiteral("step"));
-    const auto result = act();
+    auto result = act();
     drawing.commitStep();
     return result;
 }

@@ -133,7 +133,7 @@ using Wrapper = VnQtModeDialog<Probe>;
 
 VnUiModeDialogBasePtr makeDialog()
 {
-    const auto dialog = VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
+    auto dialog = VnQtRxObjectImpl<Wrapper, Wrapper>::createObject();
     dialog->createDialog(nullptr, 0, "probe");
     return dialog;
 }

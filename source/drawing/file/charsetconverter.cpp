@@ -2,6 +2,7 @@
 
 #include <QSysInfo>
 
+#include <cstdint>
 #include <map>
 #include <memory>
 
@@ -24,7 +25,7 @@ CharsetConverter* CharsetConverter::known(const QByteArray& from, const QByteArr
     const auto [at, isNew] = converters.try_emplace({from, to});
     if (isNew) {
         const iconv_t handle = iconv_open(to.constData(), from.constData());
-        if (handle != reinterpret_cast<iconv_t>(-1))
+        if (reinterpret_cast<std::intptr_t>(handle) != -1)
             at->second.reset(new CharsetConverter(handle));
     }
     return at->second.get();

@@ -719,7 +719,7 @@ void EntityReader::attributeDefinition()
 }
 
 /// A line of text by the codes of TEXT.
-bool EntityReader::addText(QString value, TextRun::Vertical vertical)
+bool EntityReader::addText(const QString& value, TextRun::Vertical vertical)
 {
     enum Justification { Left, Center, Right, Aligned, Middle, Fit };
     enum Mirror { Backward = 2, UpsideDown = 4 };

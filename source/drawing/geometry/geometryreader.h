@@ -78,7 +78,7 @@ private:
 
     void attributes();
     Transform3 plane() const;
-    bool addText(QString value, TextRun::Vertical vertical);
+    bool addText(const QString& value, TextRun::Vertical vertical);
     void addLines(const QStringList& lines, const Transform3& place, const Paragraph& paragraph);
     void addLine(const QString& line, const Transform3& place, const Paragraph& paragraph);
     void addStack(const TextPiece& piece, const Transform3& place, Paragraph paragraph);

@@ -160,7 +160,7 @@ private:
     QString argument()
     {
         const int end = m_text.indexOf(QLatin1Char(';'), m_position);
-        const QString found = m_text.mid(m_position, end < 0 ? -1 : end - m_position);
+        QString found = m_text.mid(m_position, end < 0 ? -1 : end - m_position);
         m_position = end < 0 ? m_text.size() : end + 1;
         return found;
     }
@@ -251,7 +251,7 @@ QString plainText(const QString& text)
 
 QStringList plainLines(const QString& text, double width)
 {
-    const QStringList lines = MTextReader(text).lines();
+    QStringList lines = MTextReader(text).lines();
     if (!(width > 0) || !std::isfinite(width))
         return lines;
     // The width was made for another font, so lines are only broken when clearly too long.

@@ -107,6 +107,7 @@ std::vector<Layout> readLayouts(const DrawingFile& file, const EntityTable& enti
         [](const LayoutRecord& a, const LayoutRecord& b) { return a.tab < b.tab; });
     findViewports(file, entities, records);
     std::vector<Layout> layouts;
+    layouts.reserve(records.size());
     for (LayoutRecord& record : records)
         layouts.push_back(std::move(record.layout));
     return layouts;

@@ -124,7 +124,7 @@ Expected<void> Translation::prepareTarget(Plan& plan)
     const QString key = nameKey(target(plan).name);
     const auto decided = m_decided.constFind(key);
     if (decided == m_decided.constEnd()) {
-        const auto done = plan.to == LayerId::None ? makeTarget(plan) : changeTarget(plan);
+        auto done = plan.to == LayerId::None ? makeTarget(plan) : changeTarget(plan);
         if (!done)
             return done;
         m_decided.insert(key, plan.mapping);

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 /// Outside of the namespace, as the macro demands.
 static void makeStandardAvailable()
@@ -186,8 +187,8 @@ Expected<QStringList> saveStandard(const QString& path, const std::vector<LayerM
     if (!done)
         return refusal(path, done.error().text);
     step.commit();
-    const QStringList notices = writer.takeNotices() + drawing.takeNotices();
-    return drawing.save(path).map([&notices] { return notices; });
+    QStringList notices = writer.takeNotices() + drawing.takeNotices();
+    return drawing.save(path).map([&notices] { return std::move(notices); });
 }
 
 } // namespace drawing

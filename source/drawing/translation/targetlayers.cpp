@@ -82,7 +82,7 @@ Expected<LayerId> TargetLayers::add(const TargetLayer& target, const LayerProper
 {
     LayerProperties properties = wanted(target, base);
     properties.name = target.name.trimmed();
-    const auto added = m_drawing.addLayer(properties);
+    auto added = m_drawing.addLayer(properties);
     if (!added)
         return added;
     // Only a layer that is there can be given a plot style.

@@ -44,7 +44,7 @@ QStringList valuesOf(const QJsonValue& value)
     if (value.isObject())
         return value.toObject().keys();
     QStringList values;
-    for (const QJsonValue& one : value.toArray())
+    for (const QJsonValue one : value.toArray())
         values += one.toString();
     return values;
 }
@@ -94,7 +94,7 @@ Expected<NamingScheme> NamingScheme::read(const QJsonObject& json)
     scheme.m_separator = json.value(QLatin1String("separator")).toString();
     scheme.m_isUpper = letterCase == QLatin1String("upper");
     scheme.m_mostCharacters = json.value(QLatin1String("maxLength")).toInt(255);
-    for (const QJsonValue& value : json.value(QLatin1String("fields")).toArray()) {
+    for (const QJsonValue value : json.value(QLatin1String("fields")).toArray()) {
         auto field = readField(value.toObject());
         if (!field)
             return tl::make_unexpected(field.error());
@@ -156,7 +156,7 @@ QString NamingScheme::faultOfSeparated(const QString& name) const
                 break;
         }
         const QString text = rest.left(end);
-        const QString fault = faultOfField(field, text);
+        QString fault = faultOfField(field, text);
         if (!fault.isEmpty() && field.isOptional) {
             passedOver = fault;
             continue;
@@ -191,7 +191,7 @@ QString NamingScheme::faultOfFixed(const QString& name) const
             continue;
         }
         const QString text = field.most > 0 ? name.mid(at, field.most) : name.mid(at);
-        if (const QString fault = faultOfField(field, text); !fault.isEmpty())
+        if (QString fault = faultOfField(field, text); !fault.isEmpty())
             return fault;
         at += text.size();
     }

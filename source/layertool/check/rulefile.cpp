@@ -50,14 +50,14 @@ Expected<void> readName(const QJsonValue& value, LayerRules& rules)
 template <NamePatterns LayerRules::*member>
 Expected<void> readPatterns(const QJsonValue& value, LayerRules& rules)
 {
-    for (const QJsonValue& pattern : value.toArray())
+    for (const QJsonValue pattern : value.toArray())
         (rules.*member).add(pattern.toString());
     return {};
 }
 
 Expected<void> readRequired(const QJsonValue& value, LayerRules& rules)
 {
-    for (const QJsonValue& pattern : value.toArray())
+    for (const QJsonValue pattern : value.toArray())
         rules.required += pattern.toString();
     return {};
 }
@@ -98,7 +98,7 @@ Expected<void> readLayer(const QJsonObject& json, LayerRules& rules)
 
 Expected<void> readLayers(const QJsonValue& value, LayerRules& rules)
 {
-    for (const QJsonValue& layer : value.toArray()) {
+    for (const QJsonValue layer : value.toArray()) {
         if (auto read = readLayer(layer.toObject(), rules); !read)
             return read;
     }

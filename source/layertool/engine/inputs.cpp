@@ -19,7 +19,7 @@ namespace {
 QString identity(const QString& path)
 {
     const QFileInfo info(path);
-    const QString canonical = info.canonicalFilePath();
+    QString canonical = info.canonicalFilePath();
     if (!canonical.isEmpty())
         return canonical;
     const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();

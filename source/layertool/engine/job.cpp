@@ -160,7 +160,7 @@ Result Result::fromJson(const QJsonObject& json)
         result.*field.member = json.value(QLatin1String(field.key)).toBool();
     for (const auto& field : kResultStamps)
         result.*field.member = stampFrom(json.value(QLatin1String(field.key)).toObject());
-    for (const QJsonValue& file : json.value(QLatin1String("written")).toArray())
+    for (const QJsonValue file : json.value(QLatin1String("written")).toArray())
         result.written.push_back(
             {file.toObject().value(QLatin1String("path")).toString(), stampFrom(file.toObject())});
     return result;

@@ -15,14 +15,14 @@ namespace {
 using drawing::Error;
 using drawing::Expected;
 
-QString decoded(QByteArray bytes)
+QString decoded(const QByteArray& bytes)
 {
     if (bytes.startsWith(kByteOrderMark))
         return QString::fromUtf8(bytes.mid(3));
     if (bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff"))
         return QTextCodec::codecForName("UTF-16")->toUnicode(bytes);
     QTextCodec::ConverterState state;
-    const QString text =
+    QString text =
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars == 0 && state.remainingChars == 0)
         return text;

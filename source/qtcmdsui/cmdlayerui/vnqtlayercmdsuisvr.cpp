@@ -74,7 +74,7 @@ VnUiModeDialogBasePtr VnQtLayerCmdsUISvr::makeDialog(const OdString& dialogName)
         return {};
 
     QWidget* parent = hostapi::currentWindow();
-    const WrapperPtr dialog = row->make();
+    WrapperPtr dialog = row->make();
     if (!dialog.isNull() && dialog->createDialog(parent, 0, objectNameOf(dialogName).c_str()))
         return dialog;
     return {};

@@ -160,6 +160,7 @@ void VnQtUiDynLayerCmdImpl::editText(int row, int column, LayerDoubleClick edit)
     m_applyButton->setEnabled(true);
 }
 
+// The slot that hosts know. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void VnQtUiDynLayerCmdImpl::slot_TableCellChanged(OdString text, int row, int column)
 {
     const LayerDoubleClick edit = m_rows.doubleClick(row, column);

@@ -56,7 +56,7 @@ void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
     layout->addLayout(buttons);
 
     // The label is rich text, which has no mnemonic of its own.
-    auto* mnemonic = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_T), this);
+    auto* mnemonic = new QShortcut(QKeySequence(QStringLiteral("Alt+T")), this);
     connect(mnemonic, &QShortcut::activated, this, &VnQtUiLayerTransparencyModify::offerValue);
     connect(ok, &QPushButton::clicked, this, &VnQtUiLayerTransparencyModify::slot_onBtnOkClicked);
     connect(cancel, &QPushButton::clicked, this,

@@ -71,6 +71,7 @@ bool VnQtCommandInvoker::hasAnswered(const VnJsonPtr& tree)
 }
 
 // What it needs is taken by value: the command may end the dialog that holds the rest.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 VnQtAnswer vnqtAsk(VnJsonPtr node, OdSmartPtr<VnQtCommandInvoker> invoker, OdAnsiString dialogName,
     const VnQtRequest& request, const VnQtArgumentWriter& writeArguments)
 {

@@ -44,7 +44,7 @@ void storeWidths(const VnJsonPtr& tree)
 
 VnJsonPtr makeTree(const drawing::Drawing& drawing)
 {
-    const VnJsonPtr tree = Provider::full().tree(drawing);
+    VnJsonPtr tree = Provider::full().tree(drawing);
     const QVariantList widths = QSettings().value(QLatin1String(kWidthsSetting)).toList();
     if (widths.isEmpty())
         return tree;

@@ -182,7 +182,7 @@ const Provider& Provider::full()
 
 VnJsonPtr Provider::make(const Layer& layer, bool current) const
 {
-    const VnJsonPtr node = vnsi::ElementValue::createObject(static_cast<int>(m_fields.size()) + 1);
+    VnJsonPtr node = vnsi::ElementValue::createObject(static_cast<int>(m_fields.size()) + 1);
     LayerRecord record(node);
     write(record, layer, current);
     return node;

@@ -47,7 +47,7 @@ std::vector<drawing::LayerId> idsOf(const std::vector<layermarks::Marked>& layer
 
 VnJsonPtr LayerMergeCommand::makeSourceTree(const drawing::Drawing& drawing)
 {
-    const VnJsonPtr tree = layermarks::makeTree(drawing,
+    VnJsonPtr tree = layermarks::makeTree(drawing,
         [&drawing](const drawing::Layer& layer) { return layermarks::mayGo(drawing, layer); });
     if (const VnJsonPtr first = tree->GetDataJ(key::kList)(0))
         first->SetDataB(toolkey::kIsFrom, true);
@@ -57,7 +57,7 @@ VnJsonPtr LayerMergeCommand::makeSourceTree(const drawing::Drawing& drawing)
 /// The sources are listed too, for their names, but last: the first one is offered as target.
 VnJsonPtr LayerMergeCommand::makeTargetTree(const drawing::Drawing& drawing, const Layers& sources)
 {
-    const VnJsonPtr tree = layermarks::makeTree(
+    VnJsonPtr tree = layermarks::makeTree(
         drawing, [](const drawing::Layer& layer) { return !layer.dependsOnReference; });
     std::vector<drawing::LayerId> ids = idsOf(sources);
     std::sort(ids.begin(), ids.end());
@@ -104,7 +104,7 @@ LayerMergeCommand::Layers LayerMergeCommand::askTarget(
         const VnJsonPtr tree = makeTargetTree(context.drawing, sources);
         if (!layermarks::show(context, kDialog, tree))
             return {};
-        const Layers target = settle(layermarks::marked(tree, vnsi::kLayerMergeTarget));
+        Layers target = settle(layermarks::marked(tree, vnsi::kLayerMergeTarget));
         if (target.empty() || !contains(sources, target.front().id))
             return target;
         layermarks::warn(tr("图层“%1”是要合并的图层，不能作为目标图层。").arg(target.front().name));

@@ -109,7 +109,7 @@ void LayerWalkCommand::run(CommandContext& context)
 /// shown, and new viewports do not matter to it.
 VnJsonPtr LayerWalkCommand::makeLayers()
 {
-    const VnJsonPtr layers = records().tree(drawing());
+    VnJsonPtr layers = records().tree(drawing());
     const std::vector<LayerId> hidden = drawing().frozenInViewport();
     for (LayerRecord record : vnsi::LayerRecordList::of(layers))
         record.setFlag(key::kVPortFrozen,

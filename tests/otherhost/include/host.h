@@ -123,6 +123,7 @@ bool vnedIsRunningInCommand();
 class VnUiDialogInvoker : public OdRxObject
 {
     OTHER_DECLARE_CLASS(VnUiDialogInvoker, OdRxObject)
+    // As commands override it. NOLINTNEXTLINE(performance-unnecessary-value-param)
     virtual void invoke(VnJsonPtr) {}
 };
 

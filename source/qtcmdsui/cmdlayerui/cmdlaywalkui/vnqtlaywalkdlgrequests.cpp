@@ -41,7 +41,7 @@ VnQtArgumentWriter showingLayers(const OdString& oldCurrent = {})
 
 VnJsonPtr arrayOf(const std::vector<OdString>& names)
 {
-    const VnJsonPtr list = hostapi::makeArray(static_cast<int>(names.size()));
+    VnJsonPtr list = hostapi::makeArray(static_cast<int>(names.size()));
     for (const OdString& name : names)
         hostapi::append(list, name);
     return list;
@@ -54,7 +54,7 @@ VnQtAnswer VnQtLayWalkDlg::ask(
     WalkRequest code, const VnJsonPtr& layers, const VnQtArgumentWriter& write)
 {
     constexpr int kDone = 1;
-    const VnQtAnswer answer = askCommand({code, answersOf(code), 0, layers}, write);
+    VnQtAnswer answer = askCommand({code, answersOf(code), 0, layers}, write);
     if (answer && answer->GetDataI(walkkey::kResult, kDone) != 0)
         return answer;
     if (data()) // What a failed request left there is no new tree for the next one.
