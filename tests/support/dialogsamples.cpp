@@ -49,7 +49,8 @@ struct SampleRow
 
 constexpr SampleRow kSamples[] = {
     {"Dialog/CmdLayer", R"({@layers})", true},
-    {"Dialog/CmdLayerState", R"({"LayerStateMgr":[{},{@states},{@layers}]})", true},
+    // With what an earlier dialog left on the element.
+    {"Dialog/CmdLayerState", R"({"LayerStateMgr":[{},{"result":1,@states},{@layers}]})", true},
     {"Dialog/CmdLayerStateNew", R"({@states})", false},
     {"Dialog/CmdLayerStateEdit", R"({"LayerStateMgr":[{},{},{"selectItemName":"A",
         "LayerStateList":[{"LayerName":"0","Color":{"clrMethod":195,"selectClr":1}},
