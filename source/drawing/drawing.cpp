@@ -4,6 +4,9 @@
 #include "drawingloader.h"
 #include "drawingtexts.h"
 #include "filewriter.h"
+#include "geometry.h"
+#include "statelayers.h"
+#include "translationparts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -23,6 +26,12 @@ bool isSameFile(const QString& path, const QString& other)
     return path == other || (QFileInfo::exists(path) && QFileInfo(path) == QFileInfo(other));
 }
 
+StateSource stateSource(const Drawing& drawing)
+{
+    const DrawingData& data = DrawingAccess::data(drawing);
+    return {data.layers, data.layouts, data.viewports};
+}
+
 } // namespace
 
 DrawingData& DrawingAccess::data(Drawing& drawing)
@@ -30,9 +39,9 @@ DrawingData& DrawingAccess::data(Drawing& drawing)
     return drawing.d->data;
 }
 
-const DrawingFile& DrawingAccess::file(const Drawing& drawing)
+const DrawingData& DrawingAccess::data(const Drawing& drawing)
 {
-    return drawing.d->data.file;
+    return drawing.d->data;
 }
 
 Expected<void> Drawing::Private::map(const QString& fileName)
@@ -172,13 +181,6 @@ TagReader Drawing::tags(const Entity& entity) const
     return d->data.file.tags(entity.range());
 }
 
-TagReader Drawing::headerTags() const
-{
-    const DrawingFile& file = d->data.file;
-    const FileIndex& index = file.index();
-    return file.tags({index.firstSection, std::max(index.firstSection, index.headerEnd)});
-}
-
 QString Drawing::decoded(std::string_view value) const
 {
     return d->data.file.decoded(value);
@@ -193,7 +195,7 @@ Expected<void> Drawing::readyToEdit() const
 {
     if (d->stepIsOpen)
         return {};
-    return tl::make_unexpected(Error{Texts::tr("图形没有打开的操作步骤，不能改动。"), 0, false});
+    return refusal(Texts::tr("图形没有打开的操作步骤，不能改动。"));
 }
 
 Expected<void> Drawing::setLayerProperties(LayerId id, const LayerProperties& properties)
@@ -280,7 +282,7 @@ std::optional<Sheet> Drawing::sheet() const
 {
     if (isModelSpace())
         return std::nullopt;
-    return SheetReader(*this, d->data).read();
+    return SheetReader(d->data.geometrySource()).read();
 }
 
 int Drawing::currentViewport() const
@@ -488,6 +490,55 @@ void Drawing::announce(bool layers, bool entities)
         return;
     d->wasModified = !d->wasModified;
     emit modifiedChanged(d->wasModified);
+}
+
+Expected<Geometry> buildGeometry(const Drawing& drawing, Progress* progress)
+{
+    return buildGeometry(DrawingAccess::data(drawing).geometrySource(), progress);
+}
+
+LayerState captureLayerState(const Drawing& drawing, const QString& name)
+{
+    return captureLayerState(stateSource(drawing), name);
+}
+
+bool isSameAsDrawing(const LayerState& state, const Drawing& drawing)
+{
+    return isSameAsDrawing(state, stateSource(drawing));
+}
+
+QStringList restoreLayerState(
+    Drawing& drawing, const LayerState& state, const LayerStateRestore& how)
+{
+    DrawingData& data = DrawingAccess::data(drawing);
+    return restoreLayerState(
+        StateTarget{data.layers, data.layouts, data.plotStyles, data.viewports, data.layerEdits},
+        state, how);
+}
+
+QStringList dropUnknownLayers(LayerState& state, const Drawing& drawing)
+{
+    return dropUnknownLayers(state, DrawingAccess::data(drawing).layers);
+}
+
+Expected<TranslationReport> translateLayers(
+    Drawing& drawing, const std::vector<LayerMapping>& mappings, const TranslationOptions& options)
+{
+    if (!drawing.inStep())
+        return refusal(Texts::tr("图形没有打开的操作步骤，不能转换图层。"));
+    return translateLayers(DrawingAccess::data(drawing).translationParts(), mappings, options);
+}
+
+std::vector<TargetLayer> targetLayers(const Drawing& drawing)
+{
+    const DrawingData& data = DrawingAccess::data(drawing);
+    return targetLayers(data.layers, data.linetypes);
+}
+
+std::vector<LayerMapping> sameNamedMappings(const Drawing& drawing,
+    const std::vector<TargetLayer>& targets, const std::vector<LayerMapping>& known)
+{
+    return sameNamedMappings(DrawingAccess::data(drawing).layers, targets, known);
 }
 
 } // namespace drawing

@@ -22,6 +22,12 @@
 
 namespace drawing {
 
+struct Geometry;
+struct LayerMapping;
+struct TargetLayer;
+struct TranslationOptions;
+struct TranslationReport;
+
 /// A drawing held in a DXF file: its layers, its entities' places, its edits.
 ///
 /// The file's bytes are mapped and never changed; an edit replaces a byte range in a journal, and
@@ -110,8 +116,6 @@ public:
     const Block* findBlock(const QString& name) const; ///< Without regard to letter case.
     /// The tags of an entity as they stand in the file read; valid as long as the drawing is open.
     TagReader tags(const Entity& entity) const;
-    /// The tags of the HEADER section as they stand in the file read.
-    TagReader headerTags() const;
     /// Text of a value in the file's code page, escapes resolved.
     QString decoded(std::string_view value) const;
     const TextCodec& codec() const; ///< Of the file's text.
@@ -233,5 +237,48 @@ private:
     Drawing& m_drawing;
     bool m_isOpen = true;
 };
+
+/// Flattens the space shown. Works on any thread while the drawing is left alone; refuses only when
+/// cancelled. Block references are bounded in depth and number, a block inside itself is left out.
+Expected<Geometry> buildGeometry(const Drawing& drawing, Progress* progress = nullptr);
+
+/// The layers of the drawing as they are now; in a layout also which of them its current viewport
+/// hides.
+LayerState captureLayerState(const Drawing& drawing, const QString& name);
+
+/// Whether restoring the state, over its own mask, would change nothing. Layers the state does not
+/// hold do not count; one the drawing lacks does. What a viewport hides counts in layouts, for
+/// states saved in one.
+bool isSameAsDrawing(const LayerState& state, const Drawing& drawing);
+
+/// Restores `state` within the open step; returns a sentence for each thing that could not be.
+QStringList restoreLayerState(
+    Drawing& drawing, const LayerState& state, const LayerStateRestore& how);
+
+/// Drops what the drawing cannot use: layers it lacks, second mentions of a layer. Returns the
+/// names of the layers it lacks.
+QStringList dropUnknownLayers(LayerState& state, const Drawing& drawing);
+
+/// Brings layers of the drawing to their targets: what is on a source moves to the target, which is
+/// made, or changed to what the standard says of it. All mappings are about the layers as they were
+/// before, so layers may swap their contents. A target that is made takes over whether its source
+/// was off, frozen or locked, also in single viewports, so what was hidden stays hidden. A current
+/// layer that is translated makes its target current. Sources that end empty are removed, all but
+/// layer 0, Defpoints and the current layer; what named them names the target then. A target of the
+/// source's own name changes the properties alone.
+///
+/// A mapping that cannot be carried out (no such source, a second one for the same source, a layer
+/// that depends on a reference, a target name that is refused) is left out, and its cause says why.
+/// Belongs to the open step; refuses when there is none, and then changes nothing.
+Expected<TranslationReport> translateLayers(
+    Drawing& drawing, const std::vector<LayerMapping>& mappings, const TranslationOptions& options);
+
+/// What a drawing says of its own layers, as targets: those of references left out.
+std::vector<TargetLayer> targetLayers(const Drawing& drawing);
+
+/// Maps the layers that have a target of the same name, without regard to letter case, and no
+/// mapping in `known` yet.
+std::vector<LayerMapping> sameNamedMappings(const Drawing& drawing,
+    const std::vector<TargetLayer>& targets, const std::vector<LayerMapping>& known);
 
 } // namespace drawing

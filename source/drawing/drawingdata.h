@@ -2,9 +2,11 @@
 
 #include "annotationcopies.h"
 #include "entityedits.h"
+#include "geometry.h"
 #include "layerobjects.h"
 #include "layerstates.h"
 #include "savedmappings.h"
+#include "translationparts.h"
 #include "viewportlayers.h"
 
 namespace drawing {
@@ -51,6 +53,15 @@ public:
     Expected<int> moveEntities(const std::vector<int>& chosen, LayerId target);
     Expected<void> mergeLayers(const std::vector<LayerId>& sources, LayerId target);
     Expected<void> deleteLayers(const std::vector<LayerId>& chosen);
+
+    GeometrySource geometrySource() const
+    {
+        return {file, entities, layouts, linetypes, overrides, viewports, layers.zero()};
+    }
+    TranslationParts translationParts()
+    {
+        return {layers, entities, plotStyles, linetypes, layerEdits, entityEdits, leftOut};
+    }
 
     DrawingFile file;
     LeftOut leftOut;

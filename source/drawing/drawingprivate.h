@@ -28,8 +28,7 @@ public:
 struct DrawingAccess
 {
     static DrawingData& data(Drawing& drawing);
-    /// For reading alone.
-    static const DrawingFile& file(const Drawing& drawing);
+    static const DrawingData& data(const Drawing& drawing);
 };
 
 } // namespace drawing

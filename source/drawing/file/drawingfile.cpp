@@ -49,6 +49,11 @@ TagReader DrawingFile::allTags() const
     return TagReader(m_bytes.substr(m_firstTag), static_cast<qint64>(m_firstTag), m_spelling);
 }
 
+TagReader DrawingFile::headerTags() const
+{
+    return tags({m_index.firstSection, std::max(m_index.firstSection, m_index.headerEnd)});
+}
+
 ByteRange DrawingFile::valueRange(qint64 offset) const
 {
     const char* const end = m_bytes.data() + m_bytes.size();

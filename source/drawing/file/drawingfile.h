@@ -44,6 +44,8 @@ public:
     std::string_view view(const ByteRange& range) const;
     TagReader tags(const ByteRange& range) const;
     TagReader allTags() const;
+    /// Those of the HEADER section.
+    TagReader headerTags() const;
     /// The range of the text value that begins at this offset.
     ByteRange valueRange(qint64 offset) const;
     const FileIndex& index() const { return m_index; }

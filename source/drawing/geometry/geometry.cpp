@@ -42,9 +42,9 @@ void Definition::clear()
     references.clear();
 }
 
-Expected<Geometry> buildGeometry(const Drawing& drawing, Progress* progress)
+Expected<Geometry> buildGeometry(const GeometrySource& source, Progress* progress)
 {
-    return GeometryBuilder(drawing, progress).build();
+    return GeometryBuilder(source, progress).build();
 }
 
 } // namespace drawing

@@ -13,7 +13,12 @@
 
 namespace drawing {
 
-class Drawing;
+class DrawingFile;
+class EntityTable;
+class LayerOverrides;
+class LayoutTable;
+class LinetypeTable;
+class ViewportLayers;
 struct Progress;
 
 /// A run of a group's vertices that belong together. A vertex of NaN begins a new part.
@@ -77,8 +82,19 @@ struct Geometry
     bool truncated = false;                            ///< There was more than can be shown.
 };
 
-/// Flattens model space. Works on any thread while the drawing is left alone; refuses only when
-/// cancelled. Block references are bounded in depth and number, a block inside itself is left out.
-Expected<Geometry> buildGeometry(const Drawing& drawing, Progress* progress = nullptr);
+/// What of a drawing its picture is made of.
+struct GeometrySource
+{
+    const DrawingFile& file;
+    const EntityTable& entities;
+    const LayoutTable& layouts;
+    const LinetypeTable& linetypes;
+    const LayerOverrides& overrides;
+    const ViewportLayers& viewports;
+    LayerId layerZero;
+};
+
+/// Flattens the space shown, as `Drawing` has it.
+Expected<Geometry> buildGeometry(const GeometrySource& source, Progress* progress);
 
 } // namespace drawing

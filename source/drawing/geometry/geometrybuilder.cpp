@@ -2,6 +2,7 @@
 
 #include "drawingtexts.h"
 #include "geometrytext.h"
+#include "layouts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -41,24 +42,22 @@ Box estimatedBounds(const TextRun& run)
 
 } // namespace
 
-GeometryBuilder::GeometryBuilder(const Drawing& drawing, Progress* progress)
-    : m_drawing(drawing),
+GeometryBuilder::GeometryBuilder(const GeometrySource& source, Progress* progress)
+    : m_source(source),
       m_progress(progress),
-      m_linetypes(std::make_shared<const LinetypePatterns>(drawing)),
-      m_reader(drawing, *m_linetypes)
+      m_linetypes(std::make_shared<const LinetypePatterns>(source.linetypes)),
+      m_reader(source, *m_linetypes)
 {
-    m_definitions.resize(drawing.blocks().size());
-    m_active.resize(drawing.blocks().size());
+    m_definitions.resize(source.entities.blocks().size());
+    m_active.resize(source.entities.blocks().size());
     m_geometry.owners.emplace_back();
-    m_geometry.switches = readPictureSwitches(drawing.headerTags());
+    m_geometry.switches = readPictureSwitches(source.file.headerTags());
     m_geometry.linetypes = m_linetypes;
-    if (const Layer* zero = drawing.findLayer(QStringLiteral("0")))
-        m_layerZero = zero->id;
 }
 
 Expected<Geometry> GeometryBuilder::build()
 {
-    const auto& entities = m_drawing.entities();
+    const auto& entities = m_source.entities.all();
     Definition definition;
     for (std::size_t i = 0; i < entities.size(); ++i) {
         const Entity& entity = entities[i];
@@ -66,8 +65,8 @@ Expected<Geometry> GeometryBuilder::build()
             return tl::unexpected(Error{Texts::tr("已取消。"), 0, true});
         if (entity.subEntity || entity.removed)
             continue;
-        m_isThroughViewports = !m_drawing.isShown(entity);
-        if (m_isThroughViewports && (m_drawing.isModelSpace() || !isInModelSpace(entity)))
+        m_isThroughViewports = !m_source.layouts.isShown(entity);
+        if (m_isThroughViewports && (m_source.layouts.isModelSpace() || !isInModelSpace(entity)))
             continue;
         definition.clear();
         m_reader.read(i, false, definition);
@@ -95,12 +94,12 @@ const Definition& GeometryBuilder::definitionOf(int block)
     if (known)
         return *known;
     known.emplace();
-    const Block& source = m_drawing.blocks()[static_cast<std::size_t>(block)];
+    const Block& source = m_source.entities.blocks()[static_cast<std::size_t>(block)];
     for (int i = source.first; i < source.first + source.count; ++i) {
         const auto index = static_cast<std::size_t>(i);
-        if (index >= m_drawing.entities().size())
+        if (index >= m_source.entities.all().size())
             break;
-        const Entity& entity = m_drawing.entities()[index];
+        const Entity& entity = m_source.entities.all()[index];
         if (!entity.subEntity && !entity.removed)
             m_reader.read(index, true, *known);
     }
@@ -117,8 +116,8 @@ bool GeometryBuilder::isFull()
 
 LayerId GeometryBuilder::layerOf(const EntityStyle& style, const Context& context) const
 {
-    return style.layer == m_layerZero && context.layer != LayerId::None ? context.layer
-                                                                        : style.layer;
+    return style.layer == m_source.layerZero && context.layer != LayerId::None ? context.layer
+                                                                               : style.layer;
 }
 
 GeometryColor GeometryBuilder::colorOf(const EntityStyle& style, const Context& context) const

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "colorindex.h"
-#include "drawing.h"
+#include "entitytable.h"
 #include "geometry.h"
 #include "geometryreader.h"
+#include "progress.h"
 
 #include <QHash>
 
@@ -17,7 +18,7 @@ namespace drawing {
 class GeometryBuilder
 {
 public:
-    GeometryBuilder(const Drawing& drawing, Progress* progress);
+    GeometryBuilder(const GeometrySource& source, Progress* progress);
     /// Refuses only when cancelled.
     Expected<Geometry> build();
 
@@ -84,15 +85,14 @@ private:
     void emitEndless();
     void emitText(const Definition::Text& text, const Transform3& place, const Context& context);
     void emitReference(const Definition::Reference& reference, const Transform3& place,
-        const Context& context,
-        int depth); /// The part of an endless line inside the box; false when there is none.
+        const Context& context, int depth);
+    /// The part of an endless line inside the box; false when there is none.
     static bool clip(const EndlessLine& line, const Box& box, QPointF ends[2]);
 
-    const Drawing& m_drawing;
+    const GeometrySource m_source;
     Progress* m_progress;
     std::shared_ptr<const LinetypePatterns> m_linetypes;
     EntityReader m_reader;
-    LayerId m_layerZero = LayerId::None;
     bool m_isThroughViewports = false; ///< What is being drawn.
     std::vector<std::optional<Definition>> m_definitions;
     std::vector<char> m_active; ///< Blocks being drawn right now.

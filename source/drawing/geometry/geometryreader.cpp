@@ -1,7 +1,7 @@
 #include "geometryreader.h"
 
 #include "colorindex.h"
-#include "drawingprivate.h"
+#include "entitytable.h"
 #include "geometryhatchreader.h"
 #include "geometrymultileader.h"
 #include "geometrymultiline.h"
@@ -79,16 +79,13 @@ const EntityReader::HandlerRow EntityReader::kHandlers[] = {
     {"VIEWPORT", &EntityReader::viewport},
 };
 
-EntityReader::EntityReader(const Drawing& drawing, const LinetypePatterns& linetypes)
-    : m_drawing(drawing),
-      m_file(DrawingAccess::file(drawing)),
+EntityReader::EntityReader(const GeometrySource& source, const LinetypePatterns& linetypes)
+    : m_source(source),
       m_linetypes(linetypes),
-      m_textStyles(m_file),
-      m_textHeight(readPictureSwitches(drawing.headerTags()).textHeight)
+      m_textStyles(source.file),
+      m_textHeight(readPictureSwitches(source.file.headerTags()).textHeight)
 {
     m_showsWipeoutFrames = readsWipeoutFrames();
-    if (const Layer* zero = drawing.findLayer(QStringLiteral("0")))
-        m_layerZero = zero->id;
 }
 
 void EntityReader::read(std::size_t index, bool inBlock, Definition& definition)
@@ -109,17 +106,17 @@ void EntityReader::read(std::size_t index, bool inBlock, Definition& definition)
 void EntityReader::load(std::size_t index)
 {
     m_index = index;
-    m_tags.load(m_drawing.tags(m_drawing.entities()[index]));
+    m_tags.load(m_source.file.tags(m_source.entities[index].range()));
     m_style = readStyle();
 }
 
 EntityStyle EntityReader::readStyle()
 {
     EntityStyle style;
-    const Entity& entity = m_drawing.entities()[m_index];
+    const Entity& entity = m_source.entities[m_index];
     style.layer = entity.layer;
     style.owner = m_owner;
-    if (m_owner != LayerId::None && style.layer == m_layerZero)
+    if (m_owner != LayerId::None && style.layer == m_source.layerZero)
         style.layer = m_owner;
     // Backwards, so that of several groups of one code the first counts.
     for (auto tag = m_tags.end(); tag != m_tags.begin();)
@@ -208,7 +205,7 @@ EntitySetting EntityReader::linetypeOf(const Tag& name)
     if (spelled == m_linetypeName)
         return m_linetype;
     m_linetypeName = spelled;
-    const QString folded = foldedName(m_drawing.decoded(name.trimmed()));
+    const QString folded = foldedName(m_source.file.decoded(name.trimmed()));
     if (folded.isEmpty() || folded == QLatin1String("bylayer"))
         m_linetype = {};
     else if (folded == QLatin1String("byblock"))
@@ -221,11 +218,11 @@ EntitySetting EntityReader::linetypeOf(const Tag& name)
 bool EntityReader::readsWipeoutFrames() const
 {
     constexpr int kShown = 70;
-    const Objects& objects = m_file.objects();
+    const Objects& objects = m_source.file.objects();
     const ObjectPlace* root = objects.root();
     const quint64 variables = root ? objects.entry(root->handle, "ACAD_WIPEOUT_VARS") : 0;
     const ObjectPlace* object = objects.find(variables);
-    return !object || findOwn(m_file.tags(object->range), kShown).integer() != 0;
+    return !object || findOwn(m_source.file.tags(object->range), kShown).integer() != 0;
 }
 
 Transform3 EntityReader::plane() const
@@ -298,10 +295,10 @@ void EntityReader::lwPolyline()
 void EntityReader::polyline()
 {
     Polyline polyline(m_tags);
-    const auto& entities = m_drawing.entities();
+    const auto& entities = m_source.entities.all();
     EntityTags vertex;
     for (std::size_t i = m_index + 1; i < entities.size() && entities[i].subEntity; ++i) {
-        vertex.load(m_drawing.tags(entities[i]));
+        vertex.load(m_source.file.tags(entities[i].range()));
         polyline.add(vertex);
     }
     if (!polyline.isFlat()) {
@@ -490,7 +487,7 @@ void EntityReader::multiLeader()
     const TextStyle letters = m_textStyles.find(leader.textStyle());
     const double unit = height * letters.widthFactor;
     const QStringList lines =
-        plainLines(m_drawing.decoded(leader.text()), leader.textWidth() / unit);
+        plainLines(m_source.file.decoded(leader.text()), leader.textWidth() / unit);
     addLines(lines, place, {height, 1, leader.textColumn(), 0, letters});
     if (leader.hasFrame())
         addTextFrame(lines, place, unit, height, leader);
@@ -536,10 +533,12 @@ void EntityReader::addFileName(const Vec3& corner, const Vec3& right, const Vec3
     constexpr int kFileName = 1;
     constexpr double kShare = 0.05; ///< Of the frame's height.
     const Tag* definition = m_tags.find(pointer);
-    const ObjectPlace* object = definition ? m_file.objects().find(definition->handle()) : nullptr;
+    const ObjectPlace* object =
+        definition ? m_source.file.objects().find(definition->handle()) : nullptr;
     if (!object)
         return;
-    const QString path = m_file.decoded(findOwn(m_file.tags(object->range), kFileName).trimmed());
+    const QString path =
+        m_source.file.decoded(findOwn(m_source.file.tags(object->range), kFileName).trimmed());
     const QString name = path.section(QRegularExpression(QStringLiteral("[/\\\\]")), -1);
     const double height = up.length() * kShare;
     const Transform3 place(
@@ -607,7 +606,7 @@ void EntityReader::underlay()
 void EntityReader::viewport()
 {
     constexpr qint64 kHasOutline = 0x10000;
-    if (isSheetsOwn(m_drawing.tags(m_drawing.entities()[m_index])) ||
+    if (isSheetsOwn(m_source.file.tags(m_source.entities[m_index].range())) ||
         m_tags.integer(90) & kHasOutline)
         return;
     const Vec3 right{m_tags.number(40), 0, 0};
@@ -642,7 +641,7 @@ void EntityReader::table()
     Definition::Reference reference;
     reference.style = style();
     reference.place = Transform3(x, Vec3::cross(z, x), z, m_tags.point(10));
-    addReference(m_drawing.decoded(name->trimmed()), reference);
+    addReference(m_source.file.decoded(name->trimmed()), reference);
 }
 
 /// Cells twice as high as their text, from the middle of the first row's left side.
@@ -656,7 +655,7 @@ void EntityReader::tolerance()
     const Vec3 z = m_tags.extrusion().normalized();
     const Transform3 place(x, Vec3::cross(z, x), z, m_tags.point(10));
     double bottom = -height;
-    for (const QStringList& row : toleranceCells(m_drawing.decoded(value->text()))) {
+    for (const QStringList& row : toleranceCells(m_source.file.decoded(value->text()))) {
         double left = 0;
         for (const QString& cell : row) {
             const double width = (textWidth(plainText(cell)) + 1) * height;
@@ -675,16 +674,16 @@ TextStyle EntityReader::textStyle() const
 {
     constexpr int kStyle = 7;
     const Tag* name = m_tags.find(kStyle);
-    return name ? m_textStyles.find(m_drawing.decoded(name->trimmed())) : TextStyle();
+    return name ? m_textStyles.find(m_source.file.decoded(name->trimmed())) : TextStyle();
 }
 
 void EntityReader::addBlock(quint64 record, Definition::Reference reference)
 {
-    for (const ByteRange& candidate : m_file.table(TableKind::BlockRecord).records) {
-        const TagReader tags = m_file.tags(candidate);
+    for (const ByteRange& candidate : m_source.file.table(TableKind::BlockRecord).records) {
+        const TagReader tags = m_source.file.tags(candidate);
         if (ownHandle(tags) != record)
             continue;
-        addReference(m_drawing.decoded(findOwn(tags, group::kName).trimmed()), reference);
+        addReference(m_source.file.decoded(findOwn(tags, group::kName).trimmed()), reference);
         return;
     }
 }
@@ -692,7 +691,7 @@ void EntityReader::addBlock(quint64 record, Definition::Reference reference)
 void EntityReader::text()
 {
     const Tag* value = m_tags.find(1);
-    addText(value ? m_drawing.decoded(value->text()) : QString(),
+    addText(value ? m_source.file.decoded(value->text()) : QString(),
         static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(73), 0, 3)));
 }
 
@@ -701,7 +700,7 @@ void EntityReader::attribute()
     constexpr int kInvisible = 1;
     const Tag* value = m_tags.find(1);
     if (value && !(m_tags.integer(70) & kInvisible))
-        addText(m_drawing.decoded(value->text()),
+        addText(m_source.file.decoded(value->text()),
             static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(74), 0, 3)));
 }
 
@@ -714,7 +713,7 @@ void EntityReader::attributeDefinition()
         return;
     const Tag* value = m_tags.find(flags & kConstant ? 1 : 2);
     if (value)
-        addText(m_drawing.decoded(value->text()),
+        addText(m_source.file.decoded(value->text()),
             static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(74), 0, 3)));
 }
 
@@ -769,11 +768,11 @@ void EntityReader::mtext()
     QString value;
     for (const Tag& tag : m_tags) {
         if (tag.code == 3)
-            value += m_drawing.decoded(tag.text());
+            value += m_source.file.decoded(tag.text());
         else if (tag.code == 1)
             chunk = tag.text();
     }
-    value += m_drawing.decoded(chunk);
+    value += m_source.file.decoded(chunk);
 
     const double height = m_tags.number(40, 1);
     if (!(height > 0) || !std::isfinite(height))
@@ -882,13 +881,13 @@ void EntityReader::insert()
     reference.columnStep = frame.mapDirection({m_tags.number(44), 0, 0});
     reference.rowStep = frame.mapDirection({0, m_tags.number(45), 0});
     reference.place = frame * Transform3::scaling({factor(41), factor(42), factor(43)});
-    addReference(m_drawing.decoded(name->trimmed()), reference);
+    addReference(m_source.file.decoded(name->trimmed()), reference);
     attributes();
 }
 
 void EntityReader::attributes()
 {
-    const auto& entities = m_drawing.entities();
+    const auto& entities = m_source.entities.all();
     m_owner = entities[m_index].layer;
     while (m_index + 1 < entities.size() && entities[m_index + 1].subEntity) {
         ++m_index;
@@ -909,16 +908,18 @@ void EntityReader::dimension()
     Definition::Reference reference;
     reference.style = style();
     reference.place = Transform3::translation(plane().map(m_tags.point(12)));
-    addReference(m_drawing.decoded(name->trimmed()), reference);
+    addReference(m_source.file.decoded(name->trimmed()), reference);
 }
 
 void EntityReader::addReference(const QString& name, Definition::Reference reference)
 {
-    const Block* block = m_drawing.findBlock(name);
-    if (!block)
+    const int block = m_source.entities.block(name);
+    if (block < 0)
         return;
-    reference.block = static_cast<int>(block - m_drawing.blocks().data());
-    reference.place = reference.place * Transform3::translation({-block->baseX, -block->baseY, 0});
+    const Block& definition = m_source.entities.blocks()[static_cast<std::size_t>(block)];
+    reference.block = block;
+    reference.place =
+        reference.place * Transform3::translation({-definition.baseX, -definition.baseY, 0});
     const bool finite = reference.place.isFinite() && reference.columnStep.isFinite() &&
                         reference.rowStep.isFinite();
     if (finite)

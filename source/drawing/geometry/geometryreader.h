@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drawing.h"
+#include "drawingfile.h"
 #include "geometrydefinition.h"
 #include "geometrytags.h"
 #include "geometrywidths.h"
@@ -17,8 +17,8 @@ struct TextPiece;
 class EntityReader
 {
 public:
-    /// Both must outlive this.
-    EntityReader(const Drawing& drawing, const LinetypePatterns& linetypes);
+    /// The parts and the patterns must outlive this.
+    EntityReader(const GeometrySource& source, const LinetypePatterns& linetypes);
 
     /// Adds entity `index` to `definition` with what follows it as its own (vertices, attributes).
     /// `inBlock`: attribute definitions are left out there, the references bring the attributes.
@@ -108,15 +108,13 @@ private:
     EntitySetting linetypeOf(const Tag& name);
     const EntityStyle& style() const { return m_style; }
 
-    const Drawing& m_drawing;
-    const DrawingFile& m_file;
+    const GeometrySource m_source;
     const LinetypePatterns& m_linetypes;
     TextStyles m_textStyles;
     bool m_showsWipeoutFrames = true;
     double m_textHeight = 1;   ///< Of what has none of its own.
     QByteArray m_linetypeName; ///< The one looked up last.
     EntitySetting m_linetype;  ///< What it means.
-    LayerId m_layerZero = LayerId::None;
     EntityStyle m_style;
     EntityTags m_tags;
     std::size_t m_index = 0;

@@ -1,6 +1,6 @@
 #include "linetypepattern.h"
 
-#include "drawing.h"
+#include "linetypetable.h"
 #include "symbolname.h"
 
 #include <algorithm>
@@ -66,10 +66,10 @@ LinetypePatternPointer patternOf(const LinetypeDefinition& definition)
     return isUsable ? pattern : nullptr;
 }
 
-LinetypePatterns::LinetypePatterns(const Drawing& drawing)
+LinetypePatterns::LinetypePatterns(const LinetypeTable& linetypes)
 {
-    for (const QString& name : drawing.linetypes()) {
-        const LinetypePointer definition = drawing.linetype(name);
+    for (const QString& name : linetypes.names()) {
+        const LinetypePointer definition = linetypes.find(name);
         LinetypePatternPointer pattern = definition ? patternOf(*definition) : nullptr;
         if (!pattern)
             continue;

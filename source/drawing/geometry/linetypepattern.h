@@ -6,7 +6,7 @@
 
 namespace drawing {
 
-class Drawing;
+class LinetypeTable;
 
 /// What a linetype repeats along a line, in drawing units at scale 1.
 struct LinetypePattern
@@ -40,7 +40,7 @@ public:
     static constexpr int kContinuous = -1;
 
     LinetypePatterns() = default;
-    explicit LinetypePatterns(const Drawing& drawing);
+    explicit LinetypePatterns(const LinetypeTable& linetypes);
 
     /// By name, without regard to letter case; `kContinuous` for one that is not there as well.
     int find(const QString& name) const;

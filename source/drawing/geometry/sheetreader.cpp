@@ -1,6 +1,8 @@
 #include "sheetreader.h"
 
+#include "layouts.h"
 #include "owntags.h"
+#include "viewportlayers.h"
 
 #include <algorithm>
 #include <cmath>
@@ -185,10 +187,9 @@ Transform3 toSheet(const ViewportTags& viewport, double scale)
 
 } // namespace
 
-SheetReader::SheetReader(const Drawing& drawing, const DrawingData& parts)
-    : m_drawing(drawing),
-      m_parts(parts),
-      m_reader(drawing, m_linetypes)
+SheetReader::SheetReader(const GeometrySource& source)
+    : m_source(source),
+      m_reader(source, m_linetypes)
 {
 }
 
@@ -196,17 +197,17 @@ Sheet SheetReader::read()
 {
     Sheet sheet;
     readPaper(sheet);
-    const int current = m_drawing.currentViewport();
-    const auto overridden = m_parts.overrides.all();
-    const Layout& layout = m_parts.layouts.shown();
+    const int current = m_source.layouts.currentViewport(m_source.entities);
+    const auto overridden = m_source.overrides.all();
+    const Layout& layout = m_source.layouts.shown();
     for (const int entity : layout.viewports) {
-        const Entity& place = m_drawing.entities()[static_cast<std::size_t>(entity)];
+        const Entity& place = m_source.entities[static_cast<std::size_t>(entity)];
         if (place.removed)
             continue;
         SheetViewport viewport = readViewport(entity);
         viewport.isCurrent = entity == current;
-        viewport.frozen = m_parts.viewports.frozenIn(place);
-        const auto found = overridden.find(m_parts.viewports.handleOf(place));
+        viewport.frozen = m_source.viewports.frozenIn(place);
+        const auto found = overridden.find(m_source.viewports.handleOf(place));
         if (found != overridden.end())
             viewport.overridden = found->second;
         sheet.viewports.push_back(std::move(viewport));
@@ -219,11 +220,11 @@ void SheetReader::readPaper(Sheet& sheet) const
     constexpr int kFlags = 70;
     constexpr qint64 kPaperLinetypes = 1;
     PaperSettings settings;
-    sheet.hasPaperLinetypes = readPictureSwitches(m_drawing.headerTags()).paperSpaceLinetypes;
-    const ByteRange record = m_parts.layouts.shown().record;
+    sheet.hasPaperLinetypes = readPictureSwitches(m_source.file.headerTags()).paperSpaceLinetypes;
+    const ByteRange record = m_source.layouts.shown().record;
     if (record.isNull())
         return;
-    OwnTags tags(m_parts.file.tags(record));
+    OwnTags tags(m_source.file.tags(record));
     Tag tag;
     while (tags.next(tag)) {
         if (tags.place().subclass() == "AcDbPlotSettings")
@@ -251,8 +252,8 @@ void SheetReader::readPaper(Sheet& sheet) const
 SheetViewport SheetReader::readViewport(int entity)
 {
     enum Flag { Locked = 0x4000, ClippedByOutline = 0x10000, Off = 0x20000 };
-    const Entity& place = m_drawing.entities()[static_cast<std::size_t>(entity)];
-    const ViewportTags tags = readTags(m_drawing.tags(place));
+    const Entity& place = m_source.entities[static_cast<std::size_t>(entity)];
+    const ViewportTags tags = readTags(m_source.file.tags(place.range()));
     SheetViewport viewport;
     viewport.entity = entity;
     viewport.scale = tags.viewHeight > 0 ? tags.height / tags.viewHeight : 0;
@@ -275,13 +276,13 @@ SheetViewport SheetReader::readViewport(int entity)
 /// What another entity of the same sheet draws.
 std::vector<QPointF> SheetReader::outlineOf(quint64 handle, const Entity& viewport)
 {
-    const auto& entities = m_drawing.entities();
+    const auto& entities = m_source.entities.all();
     Definition definition;
     for (std::size_t i = 0; i < entities.size() && handle != 0; ++i) {
         const Entity& entity = entities[i];
         const bool isBeside = entity.block == viewport.block &&
                               entity.paperSpace == viewport.paperSpace && !entity.subEntity;
-        if (!isBeside || entity.removed || ownHandle(m_drawing.tags(entity)) != handle)
+        if (!isBeside || entity.removed || ownHandle(m_source.file.tags(entity.range())) != handle)
             continue;
         m_reader.read(i, false, definition);
         break;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "drawingdata.h"
 #include "geometryreader.h"
 #include "sheet.h"
 
@@ -10,8 +9,8 @@ namespace drawing {
 class SheetReader
 {
 public:
-    /// The parts are those of the drawing; both must outlive this.
-    SheetReader(const Drawing& drawing, const DrawingData& parts);
+    /// The parts must outlive this.
+    explicit SheetReader(const GeometrySource& source);
     Sheet read();
 
 private:
@@ -19,8 +18,7 @@ private:
     SheetViewport readViewport(int entity);
     std::vector<QPointF> outlineOf(quint64 handle, const Entity& viewport);
 
-    const Drawing& m_drawing;
-    const DrawingData& m_parts;
+    const GeometrySource m_source;
     LinetypePatterns m_linetypes;
     EntityReader m_reader;
 };

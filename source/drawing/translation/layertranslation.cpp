@@ -1,8 +1,9 @@
 #include "layertranslation.h"
 
-#include "drawingprivate.h"
 #include "drawingtexts.h"
 #include "entityedits.h"
+#include "layeredits.h"
+#include "leftout.h"
 #include "targetlayers.h"
 
 #include <QSet>
@@ -22,13 +23,12 @@ bool alwaysStays(const Layer& layer)
 class Translation
 {
 public:
-    Translation(Drawing& drawing, const std::vector<LayerMapping>& mappings,
+    Translation(const TranslationParts& parts, const std::vector<LayerMapping>& mappings,
         const TranslationOptions& options)
-        : m_drawing(drawing),
-          m_data(DrawingAccess::data(drawing)),
+        : m_parts(parts),
           m_mappings(mappings),
           m_options(options),
-          m_layers(drawing)
+          m_layers(parts)
     {
     }
 
@@ -57,8 +57,7 @@ private:
     const TargetLayer& target(const Plan& plan) const { return m_mappings[plan.mapping].to; }
     MappingResult& result(const Plan& plan) { return m_report.mappings[plan.mapping]; }
 
-    Drawing& m_drawing;
-    DrawingData& m_data;
+    const TranslationParts m_parts;
     const std::vector<LayerMapping>& m_mappings;
     const TranslationOptions& m_options;
     TargetLayers m_layers;
@@ -81,7 +80,7 @@ QString Translation::refusalOf(const LayerMapping& mapping, const Layer* source)
         return Texts::tr("图层“%1”依赖外部参照，不能转换。").arg(name);
     if (m_sources.contains(static_cast<int>(source->id)))
         return Texts::tr("图层“%1”已在前面的映射中。").arg(name);
-    const Layer* target = m_drawing.findLayer(mapping.to.name.trimmed());
+    const Layer* target = m_parts.layers.find(mapping.to.name.trimmed());
     if (target && target->dependsOnReference)
         return Texts::tr("目标图层“%1”依赖外部参照。").arg(target->properties.name);
     return {};
@@ -91,7 +90,7 @@ void Translation::checkMappings()
 {
     for (size_t i = 0; i < m_mappings.size(); ++i) {
         const LayerMapping& mapping = m_mappings[i];
-        const Layer* source = m_drawing.findLayer(mapping.from.trimmed());
+        const Layer* source = m_parts.layers.find(mapping.from.trimmed());
         MappingResult result;
         result.from = source ? source->properties.name : mapping.from;
         result.to = mapping.to.name;
@@ -100,7 +99,7 @@ void Translation::checkMappings()
         if (!result.cause.isEmpty())
             continue;
         m_sources.insert(static_cast<int>(source->id));
-        const Layer* target = m_drawing.findLayer(mapping.to.name.trimmed());
+        const Layer* target = m_parts.layers.find(mapping.to.name.trimmed());
         if (target)
             m_targets.insert(static_cast<int>(target->id));
         m_plans.push_back({i, source->id, target ? target->id : LayerId::None});
@@ -110,11 +109,11 @@ void Translation::checkMappings()
 /// Parts of entities count too: a layer that only a vertex is on may not go either.
 void Translation::findBlockContents()
 {
-    m_hasBlockContents.assign(static_cast<size_t>(m_data.layers.entryCount()), false);
+    m_hasBlockContents.assign(static_cast<size_t>(m_parts.layers.entryCount()), false);
     if (m_options.inBlocks)
         return;
-    for (const Entity& entity : m_data.entities.all()) {
-        if (!entity.removed && m_data.entities.isInBlock(entity))
+    for (const Entity& entity : m_parts.entities.all()) {
+        if (!entity.removed && m_parts.entities.isInBlock(entity))
             m_hasBlockContents[static_cast<size_t>(entity.layer)] = true;
     }
 }
@@ -142,11 +141,11 @@ Expected<void> Translation::prepareTarget(Plan& plan)
 
 Expected<void> Translation::changeTarget(Plan& plan)
 {
-    const LayerProperties before = m_drawing.layer(plan.to)->properties;
+    const LayerProperties before = m_parts.layers.layer(plan.to)->properties;
     auto changed = m_layers.change(plan.to, target(plan));
     if (!changed)
         return changed;
-    const bool isSame = m_drawing.layer(plan.to)->properties == before;
+    const bool isSame = m_parts.layers.layer(plan.to)->properties == before;
     result(plan).target =
         isSame ? MappingResult::Target::Unchanged : MappingResult::Target::Changed;
     return {};
@@ -156,7 +155,7 @@ Expected<void> Translation::changeTarget(Plan& plan)
 /// freezes it or a layer state, goes on doing so.
 Expected<void> Translation::makeTarget(Plan& plan)
 {
-    const Layer source = *m_drawing.layer(plan.from);
+    const Layer source = *m_parts.layers.layer(plan.from);
     result(plan).target = MappingResult::Target::Made;
     const bool isRenamed = !alwaysStays(source) &&
                            !m_targets.contains(static_cast<int>(plan.from)) &&
@@ -171,16 +170,16 @@ Expected<void> Translation::makeTarget(Plan& plan)
 
 void Translation::moveCurrentLayer()
 {
-    const LayerId current = m_drawing.currentLayer();
+    const LayerId current = m_parts.layers.current();
     for (const Plan& plan : m_plans) {
         if (plan.from != current || plan.to == current)
             continue;
-        const LayerProperties& properties = m_drawing.layer(plan.to)->properties;
+        const LayerProperties& properties = m_parts.layers.layer(plan.to)->properties;
         if (properties.frozen)
             result(plan).notices +=
                 Texts::tr("目标图层“%1”已冻结，不能成为当前图层：当前图层“%2”保留。")
-                    .arg(properties.name, m_drawing.layer(current)->properties.name);
-        else if (const auto moved = m_drawing.setCurrentLayer(plan.to); !moved)
+                    .arg(properties.name, m_parts.layers.layer(current)->properties.name);
+        else if (const auto moved = m_parts.layerEdits.setCurrent(plan.to); !moved)
             result(plan).notices += moved.error().text;
         return;
     }
@@ -188,9 +187,9 @@ void Translation::moveCurrentLayer()
 
 bool Translation::mayGo(const Plan& plan, const ContentMove& move) const
 {
-    const Layer* source = m_drawing.layer(plan.from);
+    const Layer* source = m_parts.layers.layer(plan.from);
     return plan.from != plan.to && move.isEmptied && !alwaysStays(*source) &&
-           plan.from != m_drawing.currentLayer() &&
+           plan.from != m_parts.layers.current() &&
            !m_targets.contains(static_cast<int>(plan.from));
 }
 
@@ -210,21 +209,21 @@ void Translation::moveContents()
     moves.reserve(m_plans.size());
     for (const Plan& plan : m_plans)
         moves.push_back({plan.from, plan.to});
-    m_data.entityEdits.moveContents(moves, {m_options.inBlocks, byLayer()});
+    m_parts.entityEdits.moveContents(moves, {m_options.inBlocks, byLayer()});
     for (size_t i = 0; i < moves.size(); ++i) {
         MappingResult& result = this->result(m_plans[i]);
         result.translated = moves[i].moved;
         result.leftInBlocks = moves[i].leftInBlocks;
         if (!mayGo(m_plans[i], moves[i]))
             continue;
-        m_data.layerEdits.drop(m_plans[i].from, m_plans[i].to);
+        m_parts.layerEdits.drop(m_plans[i].from, m_plans[i].to);
         result.sourceRemoved = true;
     }
 }
 
 TranslationReport Translation::run()
 {
-    const std::vector<Layer>& layers = m_drawing.layers();
+    const std::vector<Layer>& layers = m_parts.layers.listed();
     m_report.entities = std::accumulate(layers.begin(), layers.end(), 0,
         [](int sum, const Layer& layer) { return sum + layer.entityCount; });
     checkMappings();
@@ -245,7 +244,7 @@ TranslationReport Translation::run()
     m_plans.swap(possible);
     moveCurrentLayer();
     moveContents();
-    m_report.notices = m_drawing.takeNotices();
+    m_report.notices = m_parts.leftOut.take();
     return std::move(m_report);
 }
 
@@ -263,34 +262,31 @@ int TranslationReport::translatedCount() const
         [](int sum, const MappingResult& result) { return sum + result.translated; });
 }
 
-Expected<TranslationReport> translateLayers(
-    Drawing& drawing, const std::vector<LayerMapping>& mappings, const TranslationOptions& options)
+TranslationReport translateLayers(const TranslationParts& parts,
+    const std::vector<LayerMapping>& mappings, const TranslationOptions& options)
 {
-    if (!drawing.inStep())
-        return tl::make_unexpected(
-            Error{Texts::tr("图形没有打开的操作步骤，不能转换图层。"), 0, false});
-    return Translation(drawing, mappings, options).run();
+    return Translation(parts, mappings, options).run();
 }
 
-std::vector<TargetLayer> targetLayers(const Drawing& drawing)
+std::vector<TargetLayer> targetLayers(const LayerTable& layers, const LinetypeTable& linetypes)
 {
     QHash<QString, LinetypePointer> definitions;
     std::vector<TargetLayer> targets;
-    targets.reserve(drawing.layers().size());
-    for (const Layer& layer : drawing.layers()) {
+    targets.reserve(layers.listed().size());
+    for (const Layer& layer : layers.listed()) {
         if (layer.dependsOnReference)
             continue;
         const LayerProperties& p = layer.properties;
         auto definition = definitions.find(p.linetype);
         if (definition == definitions.end())
-            definition = definitions.insert(p.linetype, drawing.linetype(p.linetype));
+            definition = definitions.insert(p.linetype, linetypes.find(p.linetype));
         targets.push_back({p.name, p.colorIndex, p.trueColor, p.linetype, *definition, p.lineweight,
             p.transparency, p.plotStyle, p.plotted, layer.used()});
     }
     return targets;
 }
 
-std::vector<LayerMapping> sameNamedMappings(const Drawing& drawing,
+std::vector<LayerMapping> sameNamedMappings(const LayerTable& layers,
     const std::vector<TargetLayer>& targets, const std::vector<LayerMapping>& known)
 {
     QSet<QString> mapped;
@@ -300,7 +296,7 @@ std::vector<LayerMapping> sameNamedMappings(const Drawing& drawing,
     for (auto target = targets.rbegin(); target != targets.rend(); ++target)
         byName.insert(nameKey(target->name), &*target); // Of two of one name the first.
     std::vector<LayerMapping> mappings;
-    for (const Layer& layer : drawing.layers()) {
+    for (const Layer& layer : layers.listed()) {
         const QString key = nameKey(layer.properties.name);
         const TargetLayer* target = byName.value(key);
         if (target && !layer.dependsOnReference && !mapped.contains(key))

@@ -11,8 +11,6 @@
 
 namespace drawing {
 
-class Drawing;
-
 /// A layer of a standard, which layers of a drawing are brought to.
 struct TargetLayer
 {
@@ -74,27 +72,5 @@ struct TranslationReport
     int appliedCount() const;
     int translatedCount() const;
 };
-
-/// Brings layers of the drawing to their targets: what is on a source moves to the target, which is
-/// made, or changed to what the standard says of it. All mappings are about the layers as they were
-/// before, so layers may swap their contents. A target that is made takes over whether its source
-/// was off, frozen or locked, also in single viewports, so what was hidden stays hidden. A current
-/// layer that is translated makes its target current. Sources that end empty are removed, all but
-/// layer 0, Defpoints and the current layer; what named them names the target then. A target of the
-/// source's own name changes the properties alone.
-///
-/// A mapping that cannot be carried out (no such source, a second one for the same source, a layer
-/// that depends on a reference, a target name that is refused) is left out, and its cause says why.
-/// Belongs to the open step; refuses when there is none, and then changes nothing.
-Expected<TranslationReport> translateLayers(
-    Drawing& drawing, const std::vector<LayerMapping>& mappings, const TranslationOptions& options);
-
-/// What a drawing says of its own layers, as targets: those of references left out.
-std::vector<TargetLayer> targetLayers(const Drawing& drawing);
-
-/// Maps the layers that have a target of the same name, without regard to letter case, and no
-/// mapping in `known` yet.
-std::vector<LayerMapping> sameNamedMappings(const Drawing& drawing,
-    const std::vector<TargetLayer>& targets, const std::vector<LayerMapping>& known);
 
 } // namespace drawing

@@ -1,6 +1,10 @@
 #include "targetlayers.h"
 
 #include "drawingtexts.h"
+#include "layeredits.h"
+#include "layertable.h"
+#include "linetypetable.h"
+#include "plotstyles.h"
 #include "symbolname.h"
 
 #include <tuple>
@@ -30,10 +34,12 @@ QString TargetLayers::linetypeFor(const TargetLayer& target, const LayerProperti
 {
     const QString key = nameKey(target.linetype);
     const LinetypePointer& definition = target.linetypeDefinition;
-    if (key == QLatin1String("continuous") || m_drawing.linetype(target.linetype))
+    if (key == QLatin1String("continuous") || m_parts.linetypes.find(target.linetype))
         return target.linetype;
-    if (definition && nameKey(definition->name) == key && m_drawing.addLinetype(*definition))
+    if (definition && nameKey(definition->name) == key) {
+        m_parts.linetypes.add(*definition);
         return target.linetype;
+    }
     m_notices += Texts::tr("图形中没有线型“%1”，也没有它的定义：图层“%2”的线型为“%3”。")
                      .arg(target.linetype, target.name, base.linetype);
     return base.linetype;
@@ -57,9 +63,9 @@ LayerProperties TargetLayers::wanted(const TargetLayer& target, const LayerPrope
 Expected<void> TargetLayers::set(
     LayerId id, const TargetLayer& target, const LayerProperties& wanted)
 {
-    return m_drawing.setLayerProperties(id, wanted).map([&] {
-        const LayerProperties& now = m_drawing.layer(id)->properties;
-        if (isNamedPlotStyle(target.plotStyle) && m_drawing.hasNamedPlotStyles() &&
+    return m_parts.layerEdits.setProperties(id, wanted).map([&] {
+        const LayerProperties& now = m_parts.layers.layer(id)->properties;
+        if (isNamedPlotStyle(target.plotStyle) && !m_parts.plotStyles.areByColor() &&
             now.plotStyle.compare(target.plotStyle, Qt::CaseInsensitive) != 0)
             m_notices += Texts::tr("图形中没有打印样式“%1”：图层“%2”的打印样式为“%3”。")
                              .arg(target.plotStyle, now.name, now.plotStyle);
@@ -68,12 +74,12 @@ Expected<void> TargetLayers::set(
 
 Expected<void> TargetLayers::change(LayerId id, const TargetLayer& target)
 {
-    return set(id, target, wanted(target, m_drawing.layer(id)->properties));
+    return set(id, target, wanted(target, m_parts.layers.layer(id)->properties));
 }
 
 Expected<void> TargetLayers::turnInto(LayerId id, const TargetLayer& target)
 {
-    LayerProperties properties = wanted(target, m_drawing.layer(id)->properties);
+    LayerProperties properties = wanted(target, m_parts.layers.layer(id)->properties);
     properties.name = target.name.trimmed();
     return set(id, target, properties);
 }
@@ -82,7 +88,7 @@ Expected<LayerId> TargetLayers::add(const TargetLayer& target, const LayerProper
 {
     LayerProperties properties = wanted(target, base);
     properties.name = target.name.trimmed();
-    auto added = m_drawing.addLayer(properties);
+    auto added = m_parts.layerEdits.add(properties);
     if (!added)
         return added;
     // Only a layer that is there can be given a plot style.

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "drawing.h"
-#include "layertranslation.h"
+#include "translationparts.h"
 
 namespace drawing {
 
@@ -9,7 +8,7 @@ namespace drawing {
 class TargetLayers
 {
 public:
-    explicit TargetLayers(Drawing& drawing) : m_drawing(drawing) {}
+    explicit TargetLayers(const TranslationParts& parts) : m_parts(parts) {}
 
     /// Changes a layer; its name stays.
     Expected<void> change(LayerId id, const TargetLayer& target);
@@ -26,7 +25,7 @@ private:
     QString linetypeFor(const TargetLayer& target, const LayerProperties& base);
     Expected<void> set(LayerId id, const TargetLayer& target, const LayerProperties& wanted);
 
-    Drawing& m_drawing;
+    const TranslationParts m_parts;
     QStringList m_notices;
 };
 

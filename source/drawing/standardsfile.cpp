@@ -70,7 +70,7 @@ public:
     explicit StandardWriter(Drawing& drawing)
         : m_drawing(drawing),
           m_saved(DrawingAccess::data(drawing).mappings),
-          m_layers(drawing)
+          m_layers(DrawingAccess::data(drawing).translationParts())
     {
     }
 
