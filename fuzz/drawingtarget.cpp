@@ -1,7 +1,7 @@
 #include "drawingedits.h"
+#include "file/tagreader.h"
 #include "fuzzing.h"
-#include "geometry.h"
-#include "tagreader.h"
+#include "geometry/geometry.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
+#include "file/textcodec.h"
 #include "fuzzing.h"
-#include "layerstatefile.h"
-#include "textcodec.h"
+#include "states/layerstatefile.h"
 
 using namespace drawing;
 

@@ -1,12 +1,12 @@
 #include "drawingprivate.h"
-#include "sheetreader.h"
+#include "geometry/sheetreader.h"
 
 #include "drawingloader.h"
-#include "drawingtexts.h"
-#include "filewriter.h"
-#include "geometry.h"
-#include "statelayers.h"
-#include "translationparts.h"
+#include "file/drawingtexts.h"
+#include "file/filewriter.h"
+#include "geometry/geometry.h"
+#include "states/statelayers.h"
+#include "translation/translationparts.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "entities.h"
-#include "error.h"
-#include "layer.h"
-#include "layerstate.h"
-#include "layouts.h"
-#include "linetypedefinition.h"
-#include "openoptions.h"
-#include "progress.h"
-#include "sheet.h"
-#include "tagreader.h"
-#include "textcodec.h"
-#include "viewportlayers.h"
+#include "entities/entities.h"
+#include "file/error.h"
+#include "file/openoptions.h"
+#include "file/progress.h"
+#include "file/tagreader.h"
+#include "file/textcodec.h"
+#include "geometry/sheet.h"
+#include "layers/layer.h"
+#include "layers/layouts.h"
+#include "layers/linetypedefinition.h"
+#include "layers/viewportlayers.h"
+#include "states/layerstate.h"
 
 #include <QObject>
 #include <QStringList>

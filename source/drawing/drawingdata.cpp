@@ -1,6 +1,6 @@
 #include "drawingdata.h"
 
-#include "drawingtexts.h"
+#include "file/drawingtexts.h"
 
 #include <algorithm>
 #include <tuple>

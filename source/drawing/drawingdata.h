@@ -1,13 +1,13 @@
 #pragma once
 
-#include "annotationcopies.h"
-#include "entityedits.h"
-#include "geometry.h"
-#include "layerobjects.h"
-#include "layerstates.h"
-#include "savedmappings.h"
-#include "translationparts.h"
-#include "viewportlayers.h"
+#include "entities/entityedits.h"
+#include "geometry/geometry.h"
+#include "layers/annotationcopies.h"
+#include "layers/layerobjects.h"
+#include "layers/viewportlayers.h"
+#include "states/layerstates.h"
+#include "translation/savedmappings.h"
+#include "translation/translationparts.h"
 
 namespace drawing {
 

@@ -1,10 +1,10 @@
 #include "drawingloader.h"
 
-#include "codepages.h"
-#include "drawingindexer.h"
-#include "drawingtexts.h"
-#include "layertablerecord.h"
-#include "symbolname.h"
+#include "entities/drawingindexer.h"
+#include "file/codepages.h"
+#include "file/drawingtexts.h"
+#include "file/symbolname.h"
+#include "layers/layertablerecord.h"
 #include "wholepart.h"
 
 #include <algorithm>

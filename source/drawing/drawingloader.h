@@ -1,8 +1,8 @@
 #pragma once
 
 #include "drawingdata.h"
-#include "error.h"
-#include "openoptions.h"
+#include "file/error.h"
+#include "file/openoptions.h"
 
 namespace drawing {
 

@@ -1,9 +1,9 @@
 #include "standardsfile.h"
 
 #include "drawingprivate.h"
-#include "drawingtexts.h"
-#include "savedmappings.h"
-#include "targetlayers.h"
+#include "file/drawingtexts.h"
+#include "translation/savedmappings.h"
+#include "translation/targetlayers.h"
 
 #include <QDir>
 #include <QFileInfo>

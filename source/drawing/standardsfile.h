@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layertranslation.h"
+#include "translation/layertranslation.h"
 
 namespace drawing {
 

@@ -1,7 +1,7 @@
 #include "wholepart.h"
 
-#include "drawingfile.h"
-#include "groupcode.h"
+#include "file/drawingfile.h"
+#include "file/groupcode.h"
 
 namespace drawing {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drawingindexer.h"
+#include "entities/drawingindexer.h"
 
 #include <QByteArray>
 

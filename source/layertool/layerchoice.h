@@ -1,7 +1,7 @@
 #pragma once
 
 #include "arguments.h"
-#include "layer.h"
+#include "layers/layer.h"
 #include "verb.h"
 
 #include <QRegularExpression>

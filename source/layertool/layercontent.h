@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layer.h"
-#include "ownproperties.h"
+#include "entities/ownproperties.h"
+#include "layers/layer.h"
 
 #include <array>
 #include <vector>

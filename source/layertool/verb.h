@@ -2,7 +2,7 @@
 
 #include "arguments.h"
 #include "engine/job.h"
-#include "error.h"
+#include "file/error.h"
 #include "options.h"
 
 #include <memory>

@@ -1,8 +1,8 @@
 #include "codepagechoice.h"
 
-#include "codepages.h"
+#include "file/codepages.h"
+#include "file/textcodec.h"
 #include "messages.h"
-#include "textcodec.h"
 
 #include <QCoreApplication>
 #include <QInputDialog>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawing.h"
-#include "geometry.h"
+#include "geometry/geometry.h"
 
 #include <QObject>
 

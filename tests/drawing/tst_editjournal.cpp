@@ -1,4 +1,4 @@
-#include "editjournal.h"
+#include "file/editjournal.h"
 #include "rows.h"
 
 #include <QtTest>

@@ -1,5 +1,5 @@
-#include "geometry.h"
-#include "geometrytext.h"
+#include "geometry/geometry.h"
+#include "geometry/geometrytext.h"
 #include "rows.h"
 #include "sketch.h"
 

@@ -1,5 +1,4 @@
 #include "fixture.h"
-#include "layerstatefile.h"
 #include "readback.h"
 
 using namespace drawing;

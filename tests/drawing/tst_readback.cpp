@@ -1,5 +1,5 @@
 #include "fixture.h"
-#include "geometry.h"
+#include "geometry/geometry.h"
 #include "readback.h"
 
 using namespace drawing;

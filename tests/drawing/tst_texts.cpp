@@ -1,7 +1,7 @@
-#include "layer.h"
+#include "file/tagreader.h"
+#include "file/textcodec.h"
+#include "layers/layer.h"
 #include "rows.h"
-#include "tagreader.h"
-#include "textcodec.h"
 
 #include <QtTest>
 

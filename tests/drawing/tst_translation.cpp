@@ -1,7 +1,7 @@
 #include "fixture.h"
-#include "geometry.h"
-#include "layertranslation.h"
-#include "translationlog.h"
+#include "geometry/geometry.h"
+#include "translation/layertranslation.h"
+#include "translation/translationlog.h"
 
 using namespace drawing;
 

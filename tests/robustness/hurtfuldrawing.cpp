@@ -1,7 +1,7 @@
 #include "hurtfuldrawings.h"
 
 #include "drawing.h"
-#include "geometry.h"
+#include "geometry/geometry.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -1,10 +1,10 @@
 #include "commandfixture.h"
 #include "commandline.h"
-#include "geometry.h"
+#include "geometry/geometry.h"
 #include "hostcodes.h"
-#include "layerstatefile.h"
-#include "rows.h"
 #include "plan.h"
+#include "rows.h"
+#include "states/layerstatefile.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "drawingindexer.h"
 
 #include "entitykind.h"
-#include "groupcode.h"
-#include "progress.h"
+#include "file/groupcode.h"
+#include "file/progress.h"
 
 #include <algorithm>
 

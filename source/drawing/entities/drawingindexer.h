@@ -1,8 +1,8 @@
 #pragma once
 
 #include "entitytable.h"
-#include "fileindex.h"
-#include "tagreader.h"
+#include "file/fileindex.h"
+#include "file/tagreader.h"
 
 #include <optional>
 

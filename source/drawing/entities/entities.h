@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layer.h"
+#include "layers/layer.h"
 #include "ownproperties.h"
 
 #include <QString>

@@ -1,8 +1,8 @@
 #include "entityedits.h"
 
 #include "entityeditsremoval.h"
-#include "layerfates.h"
-#include "owntags.h"
+#include "file/owntags.h"
+#include "layers/layerfates.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "entityeditsbytes.h"
-#include "layertable.h"
+#include "layers/layertable.h"
 
 namespace drawing {
 

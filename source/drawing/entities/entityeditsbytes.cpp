@@ -1,7 +1,7 @@
 #include "entityeditsbytes.h"
 
-#include "insertionorder.h"
-#include "owntags.h"
+#include "file/insertionorder.h"
+#include "file/owntags.h"
 
 namespace drawing {
 

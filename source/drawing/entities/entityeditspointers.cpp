@@ -1,6 +1,6 @@
 #include "entityeditspointers.h"
 
-#include "owntags.h"
+#include "file/owntags.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "entityeditsbytes.h"
 #include "entityeditspointers.h"
-#include "owntags.h"
+#include "file/owntags.h"
 #include "viewports.h"
 
 namespace drawing {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "drawingfile.h"
 #include "entitytable.h"
+#include "file/drawingfile.h"
 
 namespace drawing {
 

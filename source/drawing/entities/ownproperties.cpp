@@ -1,6 +1,6 @@
 #include "ownproperties.h"
 
-#include "groupcode.h"
+#include "file/groupcode.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,6 +1,6 @@
 #include "viewports.h"
 
-#include "owntags.h"
+#include "file/owntags.h"
 
 #include <algorithm>
 #include <map>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tagreader.h"
+#include "file/tagreader.h"
 
 namespace drawing {
 

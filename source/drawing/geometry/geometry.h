@@ -1,6 +1,6 @@
 #pragma once
 
-#include "error.h"
+#include "file/error.h"
 #include "geometrymath.h"
 #include "geometrystyle.h"
 #include "linetypepattern.h"

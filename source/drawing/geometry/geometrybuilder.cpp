@@ -1,8 +1,8 @@
 #include "geometrybuilder.h"
 
-#include "drawingtexts.h"
+#include "file/drawingtexts.h"
 #include "geometrytext.h"
-#include "layouts.h"
+#include "layers/layouts.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "colorindex.h"
-#include "entitytable.h"
+#include "entities/entitytable.h"
+#include "file/progress.h"
 #include "geometry.h"
 #include "geometryreader.h"
-#include "progress.h"
+#include "layers/colorindex.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "file/tagreader.h"
 #include "geometryhatch.h"
-#include "tagreader.h"
 
 namespace drawing {
 

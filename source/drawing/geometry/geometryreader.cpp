@@ -1,16 +1,16 @@
 #include "geometryreader.h"
 
-#include "colorindex.h"
-#include "entitytable.h"
+#include "entities/entitytable.h"
+#include "entities/viewports.h"
+#include "file/owntags.h"
+#include "file/symbolname.h"
 #include "geometryhatchreader.h"
 #include "geometrymultileader.h"
 #include "geometrymultiline.h"
 #include "geometrypolyline.h"
 #include "geometrytext.h"
 #include "geometrytolerance.h"
-#include "owntags.h"
-#include "symbolname.h"
-#include "viewports.h"
+#include "layers/colorindex.h"
 
 #include <QRegularExpression>
 

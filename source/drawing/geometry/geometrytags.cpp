@@ -1,6 +1,6 @@
 #include "geometrytags.h"
 
-#include "owntags.h"
+#include "file/owntags.h"
 
 namespace drawing {
 

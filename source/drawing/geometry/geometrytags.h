@@ -1,7 +1,7 @@
 #pragma once
 
+#include "file/tagreader.h"
 #include "geometrymath.h"
-#include "tagreader.h"
 
 #include <string_view>
 #include <vector>

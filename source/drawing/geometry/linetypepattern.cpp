@@ -1,7 +1,7 @@
 #include "linetypepattern.h"
 
-#include "linetypetable.h"
-#include "symbolname.h"
+#include "file/symbolname.h"
+#include "layers/linetypetable.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linetypedefinition.h"
+#include "layers/linetypedefinition.h"
 
 #include <QHash>
 

@@ -1,6 +1,6 @@
 #include "pictureswitches.h"
 
-#include "tagreader.h"
+#include "file/tagreader.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "geometrymath.h"
-#include "layeroverrides.h"
+#include "layers/layeroverrides.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
 #include "sheetreader.h"
 
-#include "layouts.h"
-#include "owntags.h"
-#include "viewportlayers.h"
+#include "file/owntags.h"
+#include "layers/layouts.h"
+#include "layers/viewportlayers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entities/entities.h"
 #include "geometryreader.h"
 #include "sheet.h"
 

@@ -1,8 +1,8 @@
 #include "textstyles.h"
 
-#include "drawingfile.h"
-#include "owntags.h"
-#include "symbolname.h"
+#include "file/drawingfile.h"
+#include "file/owntags.h"
+#include "file/symbolname.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #include "annotationcopies.h"
 
-#include "groupcode.h"
-#include "symbolname.h"
+#include "file/groupcode.h"
+#include "file/symbolname.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "layeredits.h"
 
-#include "drawingtexts.h"
+#include "file/drawingtexts.h"
+#include "file/symbolname.h"
 #include "layertablerecord.h"
-#include "symbolname.h"
 
 #include <algorithm>
 #include <utility>

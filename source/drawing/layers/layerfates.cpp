@@ -1,6 +1,6 @@
 #include "layerfates.h"
 
-#include "symbolname.h"
+#include "file/symbolname.h"
 
 namespace drawing {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "file/textcodec.h"
 #include "layertable.h"
-#include "textcodec.h"
 
 #include <QHash>
 #include <QSet>

@@ -1,9 +1,9 @@
 #include "layerobjects.h"
 
-#include "groupcode.h"
+#include "file/groupcode.h"
+#include "file/owntags.h"
+#include "file/symbolname.h"
 #include "layerfilters.h"
-#include "owntags.h"
-#include "symbolname.h"
 
 #include <unordered_set>
 

@@ -1,6 +1,6 @@
 #include "layeroverrides.h"
 
-#include "groupcode.h"
+#include "file/groupcode.h"
 
 namespace drawing {
 

@@ -1,6 +1,6 @@
 #include "layerrecords.h"
 
-#include "groupcode.h"
+#include "file/groupcode.h"
 #include "layertablerecord.h"
 
 namespace drawing {

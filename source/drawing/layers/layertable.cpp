@@ -1,6 +1,6 @@
 #include "layertable.h"
 
-#include "symbolname.h"
+#include "file/symbolname.h"
 
 #include <algorithm>
 #include <tuple>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editjournal.h"
+#include "file/editjournal.h"
 #include "layer.h"
 
 #include <QHash>

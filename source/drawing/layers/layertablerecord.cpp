@@ -1,7 +1,7 @@
 #include "layertablerecord.h"
 
 #include "colorindex.h"
-#include "owntags.h"
+#include "file/owntags.h"
 
 #include <cstdlib>
 

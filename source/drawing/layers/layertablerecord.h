@@ -1,9 +1,9 @@
 #pragma once
 
+#include "file/taglist.h"
+#include "file/tagreader.h"
+#include "file/textcodec.h"
 #include "layer.h"
-#include "taglist.h"
-#include "tagreader.h"
-#include "textcodec.h"
 
 namespace drawing {
 

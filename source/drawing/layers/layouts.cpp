@@ -1,10 +1,10 @@
 #include "layouts.h"
 
-#include "drawingfile.h"
-#include "entitytable.h"
-#include "owntags.h"
-#include "symbolname.h"
-#include "viewports.h"
+#include "entities/entitytable.h"
+#include "entities/viewports.h"
+#include "file/drawingfile.h"
+#include "file/owntags.h"
+#include "file/symbolname.h"
 
 #include <algorithm>
 #include <map>

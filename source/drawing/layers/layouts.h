@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tag.h"
+#include "file/tag.h"
 
 #include <QString>
 

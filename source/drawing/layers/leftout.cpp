@@ -1,6 +1,6 @@
 #include "leftout.h"
 
-#include "drawingtexts.h"
+#include "file/drawingtexts.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "texttag.h"
+#include "file/texttag.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "linetypetable.h"
 
-#include "groupcode.h"
-#include "owntags.h"
-#include "symbolname.h"
+#include "file/groupcode.h"
+#include "file/owntags.h"
+#include "file/symbolname.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "plotstyles.h"
 
 #include "colorindex.h"
-#include "groupcode.h"
-#include "symbolname.h"
+#include "file/groupcode.h"
+#include "file/symbolname.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drawingfile.h"
+#include "file/drawingfile.h"
 
 #include <QHash>
 #include <QStringList>

@@ -1,10 +1,10 @@
 #include "viewportlayers.h"
 
-#include "drawingtexts.h"
-#include "groupcode.h"
-#include "insertionorder.h"
+#include "file/drawingtexts.h"
+#include "file/groupcode.h"
+#include "file/insertionorder.h"
+#include "file/owntags.h"
 #include "layerfates.h"
-#include "owntags.h"
 
 #include <algorithm>
 

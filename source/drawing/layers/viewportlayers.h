@@ -1,7 +1,7 @@
 #pragma once
 
-#include "entitytable.h"
-#include "error.h"
+#include "entities/entitytable.h"
+#include "file/error.h"
 #include "layeroverrides.h"
 #include "layouts.h"
 

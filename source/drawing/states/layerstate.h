@@ -1,7 +1,7 @@
 #pragma once
 
-#include "error.h"
-#include "layermask.h"
+#include "file/error.h"
+#include "layers/layermask.h"
 
 #include <QStringList>
 

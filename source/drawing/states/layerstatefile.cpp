@@ -1,8 +1,8 @@
 #include "layerstatefile.h"
 
-#include "drawingtexts.h"
+#include "file/drawingtexts.h"
+#include "file/tagreader.h"
 #include "layerstatetags.h"
-#include "tagreader.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "error.h"
+#include "file/error.h"
 #include "layerstate.h"
 
 namespace drawing {

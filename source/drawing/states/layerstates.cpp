@@ -1,10 +1,10 @@
 #include "layerstates.h"
 
-#include "drawingtexts.h"
-#include "groupcode.h"
+#include "file/drawingtexts.h"
+#include "file/groupcode.h"
+#include "file/owntags.h"
+#include "file/symbolname.h"
 #include "layerstatefile.h"
-#include "owntags.h"
-#include "symbolname.h"
 
 #include <QSet>
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "drawingfile.h"
-#include "error.h"
-#include "layerfates.h"
+#include "file/drawingfile.h"
+#include "file/error.h"
+#include "layers/layerfates.h"
+#include "layers/layertable.h"
+#include "layers/linetypetable.h"
 #include "layerstatetable.h"
 #include "layerstatetags.h"
-#include "layertable.h"
-#include "linetypetable.h"
 
 #include <memory>
 #include <optional>

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "file/taglist.h"
+#include "file/textcodec.h"
+#include "layers/layertable.h"
+#include "layers/linetypetable.h"
 #include "layerstate.h"
-#include "layertable.h"
-#include "linetypetable.h"
-#include "taglist.h"
-#include "textcodec.h"
 
 #include <set>
 

@@ -1,12 +1,12 @@
 #include "statelayers.h"
 
-#include "drawingtexts.h"
-#include "layeredits.h"
-#include "layertable.h"
-#include "layouts.h"
-#include "plotstyles.h"
-#include "symbolname.h"
-#include "viewportlayers.h"
+#include "file/drawingtexts.h"
+#include "file/symbolname.h"
+#include "layers/layeredits.h"
+#include "layers/layertable.h"
+#include "layers/layouts.h"
+#include "layers/plotstyles.h"
+#include "layers/viewportlayers.h"
 
 #include <QSet>
 

@@ -1,9 +1,9 @@
 #include "layertranslation.h"
 
-#include "drawingtexts.h"
-#include "entityedits.h"
-#include "layeredits.h"
-#include "leftout.h"
+#include "entities/entityedits.h"
+#include "file/drawingtexts.h"
+#include "layers/layeredits.h"
+#include "layers/leftout.h"
 #include "targetlayers.h"
 
 #include <QSet>

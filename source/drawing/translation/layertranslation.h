@@ -1,8 +1,8 @@
 #pragma once
 
-#include "error.h"
-#include "layer.h"
-#include "linetypedefinition.h"
+#include "file/error.h"
+#include "layers/layer.h"
+#include "layers/linetypedefinition.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 #include "savedmappings.h"
 
-#include "drawingtexts.h"
-#include "groupcode.h"
-#include "owntags.h"
+#include "file/drawingtexts.h"
+#include "file/groupcode.h"
+#include "file/owntags.h"
 
 namespace drawing {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "drawingfile.h"
-#include "error.h"
-#include "layerfates.h"
-#include "layertable.h"
+#include "file/drawingfile.h"
+#include "file/error.h"
+#include "layers/layerfates.h"
+#include "layers/layertable.h"
 
 namespace drawing {
 

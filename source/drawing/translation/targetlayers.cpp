@@ -1,11 +1,11 @@
 #include "targetlayers.h"
 
-#include "drawingtexts.h"
-#include "layeredits.h"
-#include "layertable.h"
-#include "linetypetable.h"
-#include "plotstyles.h"
-#include "symbolname.h"
+#include "file/drawingtexts.h"
+#include "file/symbolname.h"
+#include "layers/layeredits.h"
+#include "layers/layertable.h"
+#include "layers/linetypetable.h"
+#include "layers/plotstyles.h"
 
 #include <tuple>
 

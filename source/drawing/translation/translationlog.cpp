@@ -1,6 +1,6 @@
 #include "translationlog.h"
 
-#include "drawingtexts.h"
+#include "file/drawingtexts.h"
 
 #include <QDateTime>
 #include <QDir>

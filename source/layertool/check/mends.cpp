@@ -2,11 +2,11 @@
 
 #include "drawing.h"
 #include "layerfields.h"
-#include "layertranslation.h"
 #include "namerule.h"
 #include "options.h"
 #include "renaming.h"
 #include "texts.h"
+#include "translation/layertranslation.h"
 
 #include <QSet>
 

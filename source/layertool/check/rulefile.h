@@ -1,9 +1,9 @@
 #pragma once
 
-#include "error.h"
-#include "layer.h"
-#include "layertranslation.h"
+#include "file/error.h"
+#include "layers/layer.h"
 #include "namingscheme.h"
+#include "translation/layertranslation.h"
 #include "wildcardpattern.h"
 
 #include <QHash>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "arguments.h"
-#include "error.h"
+#include "file/error.h"
 #include "filestamp.h"
 #include "options.h"
 

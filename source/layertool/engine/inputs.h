@@ -1,7 +1,7 @@
 #pragma once
 
 #include "arguments.h"
-#include "error.h"
+#include "file/error.h"
 #include "folderlock.h"
 #include "job.h"
 #include "verb.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "error.h"
+#include "file/error.h"
 #include "job.h"
 
 #include <QStringList>

@@ -3,6 +3,7 @@
 #include "batch.h"
 #include "commandline.h"
 #include "console.h"
+#include "file/textcodec.h"
 #include "filecause.h"
 #include "fingerprint.h"
 #include "folderlock.h"
@@ -12,7 +13,6 @@
 #include "interruption.h"
 #include "journal.h"
 #include "report.h"
-#include "textcodec.h"
 #include "texts.h"
 
 #include <QDateTime>

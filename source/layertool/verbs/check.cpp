@@ -7,6 +7,7 @@
 #include "check/rules.h"
 #include "drawing.h"
 #include "texts.h"
+#include "translation/layertranslation.h"
 
 namespace layertool {
 

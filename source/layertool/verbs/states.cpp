@@ -1,8 +1,8 @@
 #include "verbs.h"
 
 #include "drawing.h"
-#include "layerstate.h"
-#include "layerstatefile.h"
+#include "states/layerstate.h"
+#include "states/layerstatefile.h"
 #include "texts.h"
 
 #include <QDir>

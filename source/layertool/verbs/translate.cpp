@@ -3,7 +3,7 @@
 #include "drawing.h"
 #include "standardsfile.h"
 #include "texts.h"
-#include "translationlog.h"
+#include "translation/translationlog.h"
 
 #include <QFileInfo>
 

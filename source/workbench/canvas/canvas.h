@@ -2,7 +2,7 @@
 
 #include "canvashighlight.h"
 #include "canvasview.h"
-#include "geometry.h"
+#include "geometry/geometry.h"
 #include "grouplook.h"
 #include "scenepainter.h"
 

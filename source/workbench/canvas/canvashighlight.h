@@ -1,7 +1,7 @@
 #pragma once
 
 #include "canvasview.h"
-#include "geometry.h"
+#include "geometry/geometry.h"
 #include "grouplook.h"
 
 class QPainter;

@@ -1,6 +1,6 @@
 #include "canvaspick.h"
 
-#include "geometrytext.h"
+#include "geometry/geometrytext.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geometrymath.h"
+#include "geometry/geometrymath.h"
 
 #include <QPointF>
 #include <QSize>

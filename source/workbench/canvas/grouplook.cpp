@@ -1,7 +1,7 @@
 #include "grouplook.h"
 
 #include "CmColor.h"
-#include "colorindex.h"
+#include "layers/colorindex.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "geometry.h"
-#include "layer.h"
+#include "geometry/geometry.h"
+#include "layers/layer.h"
 
 #include <QColor>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linetypepattern.h"
+#include "geometry/linetypepattern.h"
 
 #include <QLineF>
 #include <QPolygonF>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pictureswitches.h"
+#include "geometry/pictureswitches.h"
 
 #include <QPainterPath>
 

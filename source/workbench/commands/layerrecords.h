@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layer.h"
 #include "layerrecord.h"
+#include "layers/layer.h"
 
 #include <functional>
 #include <initializer_list>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "command.h"
-#include "error.h"
-#include "layerstate.h"
+#include "file/error.h"
+#include "states/layerstate.h"
 #include "vnjson.h"
 
 #include <QStringList>

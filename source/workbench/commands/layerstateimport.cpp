@@ -2,8 +2,8 @@
 
 #include "drawing.h"
 #include "hostcodes.h"
-#include "layerstatefile.h"
 #include "namerule.h"
+#include "states/layerstatefile.h"
 #include "vnmessages.h"
 #include "vnstrings.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layerstate.h"
+#include "states/layerstate.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "command.h"
-#include "layer.h"
+#include "layers/layer.h"
 #include "vnjson.h"
 
 #include <optional>

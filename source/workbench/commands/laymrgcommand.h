@@ -1,8 +1,8 @@
 #pragma once
 
 #include "command.h"
-#include "layer.h"
 #include "layermarks.h"
+#include "layers/layer.h"
 #include "vnjson.h"
 
 /// LAYMRG: puts everything on some layers on another one and removes them.

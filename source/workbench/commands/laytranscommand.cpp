@@ -6,7 +6,7 @@
 #include "namerule.h"
 #include "standardsfile.h"
 #include "targetrecord.h"
-#include "translationlog.h"
+#include "translation/translationlog.h"
 #include "vndialogs.h"
 #include "vnsettings.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "command.h"
-#include "error.h"
-#include "layer.h"
+#include "file/error.h"
+#include "layers/layer.h"
 #include "vnjson.h"
 
 #include <QStringList>

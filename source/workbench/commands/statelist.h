@@ -1,7 +1,7 @@
 #pragma once
 
 #include "command.h"
-#include "layerstate.h"
+#include "states/layerstate.h"
 #include "vnjson.h"
 
 /// What the commands share that show and save layer states.
