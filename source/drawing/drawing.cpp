@@ -46,25 +46,24 @@ const DrawingData& DrawingAccess::data(const Drawing& drawing)
 
 Expected<void> Drawing::Private::map(const QString& fileName)
 {
-    const auto refusal = [&fileName](const QString& cause) {
-        return tl::make_unexpected(
-            Error{Texts::tr("无法打开文件“%1”：%2。").arg(fileName, cause), 0, false});
+    const auto refused = [&fileName](const QString& cause) {
+        return refusal(Texts::tr("无法打开文件“%1”：%2。").arg(fileName, cause));
     };
     const QFileInfo info(fileName);
     if (!info.exists())
-        return refusal(Texts::tr("文件不存在"));
+        return refused(Texts::tr("文件不存在"));
     if (!info.isFile())
-        return refusal(info.isDir() ? Texts::tr("它是文件夹") : Texts::tr("它不是普通文件"));
+        return refused(info.isDir() ? Texts::tr("它是文件夹") : Texts::tr("它不是普通文件"));
     path = fileName;
     data.layerStates.setPath(statesPathOf(fileName));
     file.setFileName(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        return refusal(info.isReadable() ? file.errorString() : Texts::tr("没有读取权限"));
+        return refused(info.isReadable() ? file.errorString() : Texts::tr("没有读取权限"));
     if (file.size() == 0)
         return {};
     const uchar* bytes = file.map(0, file.size());
     if (!bytes)
-        return refusal(file.errorString());
+        return refused(file.errorString());
     data.file.setBytes({reinterpret_cast<const char*>(bytes), static_cast<size_t>(file.size())});
     return {};
 }
@@ -83,8 +82,7 @@ Expected<std::unique_ptr<Drawing>> Drawing::open(
         if (const auto loaded = loadDrawing(drawing->d->data, path, options, progress); !loaded)
             return tl::make_unexpected(loaded.error());
     } catch (const std::bad_alloc&) {
-        return tl::make_unexpected(
-            Error{Texts::tr("无法打开文件“%1”：内存不足。").arg(path), 0, false});
+        return refusal(Texts::tr("无法打开文件“%1”：内存不足。").arg(path));
     }
     drawing->d->isIncomplete = !drawing->d->data.wholePart.isNull();
     if (owner) {
@@ -96,18 +94,17 @@ Expected<std::unique_ptr<Drawing>> Drawing::open(
 
 Expected<void> Drawing::save(const QString& path, Progress* progress)
 {
-    const auto refusal = [&path](const QString& cause) {
-        return tl::make_unexpected(
-            Error{Texts::tr("无法保存文件“%1”：%2。").arg(path, cause), 0, false});
+    const auto refused = [&path](const QString& cause) {
+        return refusal(Texts::tr("无法保存文件“%1”：%2。").arg(path, cause));
     };
     if (d->stepIsOpen)
-        return refusal(Texts::tr("还有未完成的操作"));
+        return refused(Texts::tr("还有未完成的操作"));
     if (d->isIncomplete && isSameFile(path, d->path))
-        return refusal(Texts::tr("图形不完整，不能覆盖原文件，请另存为其他文件"));
+        return refused(Texts::tr("图形不完整，不能覆盖原文件，请另存为其他文件"));
     const auto size = static_cast<qint64>(d->data.file.bytes().size());
     // The bytes that were not edited are still read from it.
     if (d->data.wholePart.isNull() && d->file.size() != size)
-        return refusal(Texts::tr("原文件已被其他程序改写"));
+        return refused(Texts::tr("原文件已被其他程序改写"));
     if (auto aside = d->data.layerStates.saveAside(statesPathOf(path)); !aside)
         return aside;
     auto written = writeFile(d->data.file.journal(), size, path, progress);

@@ -193,8 +193,7 @@ Expected<TextCodec> Loader::chosenCodec(const OpenOptions& options)
         const auto wanted = TextCodec::ofCodePage(
             {options.codePage.constData(), static_cast<size_t>(options.codePage.size())});
         if (!wanted)
-            return tl::make_unexpected(Error{
-                Texts::tr("没有代码页“%1”。").arg(QString::fromUtf8(options.codePage)), 0, false});
+            return refusal(Texts::tr("没有代码页“%1”。").arg(QString::fromUtf8(options.codePage)));
         return *wanted;
     }
     TextCodec codec(version(), named);

@@ -25,9 +25,8 @@ constexpr char kEmptyDrawing[] = ":/drawing/standard.dxf";
 
 tl::unexpected<Error> refusal(const QString& path, const QString& cause)
 {
-    return tl::make_unexpected(Error{Texts::tr("无法把图层映射保存到“%1”：%2文件未改动。")
-                                         .arg(QDir::toNativeSeparators(path), cause),
-        0, false});
+    return drawing::refusal(Texts::tr("无法把图层映射保存到“%1”：%2文件未改动。")
+                                .arg(QDir::toNativeSeparators(path), cause));
 }
 
 const QString& layerZero()
@@ -156,10 +155,8 @@ Expected<Standard> readStandard(const QString& path)
             standard.layers.end());
     if (std::all_of(standard.layers.begin(), standard.layers.end(), isEverywhere) &&
         standard.mappings.empty())
-        return tl::make_unexpected(
-            Error{Texts::tr("文件“%1”除图层 0 外没有图层，不能作为图层标准。")
-                      .arg(QDir::toNativeSeparators(path)),
-                0, false});
+        return drawing::refusal(Texts::tr("文件“%1”除图层 0 外没有图层，不能作为图层标准。")
+                                    .arg(QDir::toNativeSeparators(path)));
     return standard;
 }
 

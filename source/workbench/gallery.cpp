@@ -12,10 +12,8 @@ drawing::Expected<void> savePicture(QWidget& widget, const QString& path)
     QDir().mkpath(QFileInfo(path).absolutePath());
     if (widget.grab().save(path, "PNG"))
         return {};
-    return tl::unexpected(
-        drawing::Error{QCoreApplication::translate("Gallery", "无法写入图片“%1”。")
-                           .arg(QDir::toNativeSeparators(path)),
-            0, false});
+    return drawing::refusal(QCoreApplication::translate("Gallery", "无法写入图片“%1”。")
+                                .arg(QDir::toNativeSeparators(path)));
 }
 
 drawing::Expected<void> writeGallery(MainWindow& window, const QString& folder)

@@ -93,8 +93,7 @@ QString causeOf(const QSaveFile& file, qint64 size)
 
 tl::unexpected<Error> refusal(const QString& path, const QString& cause)
 {
-    return tl::make_unexpected(
-        Error{Texts::tr("无法保存文件“%1”：%2。原文件未改动。").arg(path, cause), 0, false});
+    return drawing::refusal(Texts::tr("无法保存文件“%1”：%2。原文件未改动。").arg(path, cause));
 }
 
 } // namespace

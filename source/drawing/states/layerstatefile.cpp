@@ -178,23 +178,22 @@ Expected<LayerStateFile> readLayerStateFile(const QString& path, const TextCodec
 
 Expected<void> writeLayerStateFile(const QString& path, const std::vector<LayerState>& states)
 {
-    const auto refusal = [&path](const QString& cause) {
-        return tl::make_unexpected(
-            Error{Texts::tr("无法写入图层状态文件“%1”：%2。").arg(shown(path), cause), 0, false});
+    const auto refused = [&path](const QString& cause) {
+        return refusal(Texts::tr("无法写入图层状态文件“%1”：%2。").arg(shown(path), cause));
     };
     const TextCodec utf8 = TextCodec::utf8().forNewFile();
     TagStyle style;
     style.lineEnd = "\r\n";
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return refusal(file.errorString());
+        return refused(file.errorString());
     file.write(style.tag(0, "LAYERSTATEDICTIONARY"));
     for (const LayerState& state : states) {
         file.write(style.tag(0, "LAYERSTATE") + style.tag(1, utf8.encode(state.name)));
         file.write(layerStateTags(state, {}, kFilePlotStyleCode, style, utf8));
     }
     if (!file.commit())
-        return refusal(file.errorString());
+        return refused(file.errorString());
     return {};
 }
 

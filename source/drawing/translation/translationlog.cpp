@@ -104,9 +104,8 @@ Expected<void> writeTranslationLog(const QString& path, const QString& text)
     const QByteArray bytes = text.toUtf8();
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return {};
-    return tl::make_unexpected(Error{Texts::tr("无法写入日志文件“%1”：%2。")
-                                         .arg(QDir::toNativeSeparators(path), file.errorString()),
-        0, false});
+    return refusal(Texts::tr("无法写入日志文件“%1”：%2。")
+                       .arg(QDir::toNativeSeparators(path), file.errorString()));
 }
 
 } // namespace drawing
