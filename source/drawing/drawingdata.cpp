@@ -66,7 +66,7 @@ void DrawingData::followLayers()
     mappings.follow(fates);
     const QSet<quint64> understood =
         layerObjects.follow(fates) + layerStates.records() + mappings.records();
-    noteOpaque(file, fates, understood, leftOut);
+    noteOpaque(file, entities, fates, understood, leftOut);
 }
 
 Expected<int> DrawingData::moveEntities(const std::vector<int>& chosen, LayerId target)

@@ -10,7 +10,8 @@ class TestReferences : public Fixture
 
     enum Act { Rename, Merge, Delete };
 
-    /// The table's dictionary leads to old filters (D0), newer ones (D1), and an index is there.
+    /// The table's dictionary leads to old filters (D0) and newer ones (D1), the root to mappings
+    /// (F0).
     static QByteArray house(const QByteArray& objects)
     {
         House made;
@@ -18,6 +19,7 @@ class TestReferences : public Fixture
         made.moreLayers = "0 LAYER\n5 13\n100 AcDbLayerTableRecord\n2 Third\n70 0\n"
                           "0 LAYER\n5 14\n102 {ACAD_XDICTIONARY\n360 C0\n102 }\n"
                           "100 AcDbLayerTableRecord\n2 Third @ 1\n70 0\n";
+        made.rootObjects = "3 LAYER_TRANSLATION | 350 F0\n";
         made.objects =
             "0 DICTIONARY | 5 A0 | 3 ACAD_LAYERFILTERS | 360 D0 | 3 ACLYDICTIONARY | 360 D1\n" +
             objects;
@@ -67,6 +69,14 @@ private slots:
         row("merged", Merge, group("330 10 | 330 13"), group("330 10 | 330 12"));
         row("merged, target listed", Merge, group("330 12 | 330 13"), group("330 12"));
         row("deleted", Delete, group("330 10 | 330 13"), group("330 10"));
+
+        const QByteArray mapping = "0 DICTIONARY | 5 F0 | 3 Third | 350 F1\n0 XRECORD | 5 F1 | 100 "
+                                   "AcDbXrecord\n280 1 | 1 Third | ";
+        row("mapping", Rename, mapping + "2 third | 340 13\n", mapping + "2 N.1 | 340 13\n");
+        row("mapping to a merged layer", Merge, mapping + "2 Third | 340 13\n",
+            mapping + "2 Empty | 340 12\n");
+        row("mapping to a deleted layer", Delete, mapping + "2 Third | 340 13\n",
+            mapping + "2 Third | 340 0\n");
 
         const QByteArray index =
             "0 LAYER_INDEX | 5 E0 | 100 AcDbIndex | 40 1.5 | 100 AcDbLayerIndex\n";
@@ -139,6 +149,10 @@ private slots:
         row("a handle of a layer that stays", Rename, "0 XRECORD\n5 E0\n100 AcDbXrecord\n330 13\n",
             false);
         row("a proxy", Merge, "0 ACAD_PROXY_OBJECT\n5 E0\n100 AcDbProxyObject\n90 499\n340 13\n",
+            true);
+        row("a proxy among the entities", Merge,
+            "0 ENDSEC\n0 SECTION\n2 ENTITIES\n0 ACAD_PROXY_ENTITY\n5 E0\n100 AcDbEntity\n8 0\n"
+            "100 AcDbProxyEntity\n90 498\n340 13\n",
             true);
         row("another name", Rename, "0 XRECORD\n5 E0\n100 AcDbXrecord\n1 Thirds\n", false);
     }

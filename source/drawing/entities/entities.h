@@ -9,30 +9,16 @@
 
 namespace drawing {
 
+/// Those that are treated otherwise than the rest.
 enum class EntityKind : quint8 {
     Other,
-    Line,
-    LwPolyline,
     Polyline,
     Vertex,
     Seqend,
-    Circle,
-    Arc,
-    Ellipse,
-    Spline,
-    Point,
-    Text,
-    MText,
     Insert,
     Attrib,
-    AttDef,
-    Solid,
-    Trace,
-    Face3d,
-    Hatch,
-    Dimension,
-    Leader,
-    Viewport
+    Viewport,
+    Proxy ///< Of an application that was missing when the file was written.
 };
 
 /// Where an entity stands in the file and what it is on. What follows an owner (VERTEX, ATTRIB,

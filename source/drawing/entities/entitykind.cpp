@@ -14,26 +14,11 @@ struct NamedKind
 
 // Sorted by name.
 constexpr NamedKind kKinds[] = {
-    {"3DFACE", EntityKind::Face3d},
-    {"ARC", EntityKind::Arc},
-    {"ATTDEF", EntityKind::AttDef},
+    {"ACAD_PROXY_ENTITY", EntityKind::Proxy},
     {"ATTRIB", EntityKind::Attrib},
-    {"CIRCLE", EntityKind::Circle},
-    {"DIMENSION", EntityKind::Dimension},
-    {"ELLIPSE", EntityKind::Ellipse},
-    {"HATCH", EntityKind::Hatch},
     {"INSERT", EntityKind::Insert},
-    {"LEADER", EntityKind::Leader},
-    {"LINE", EntityKind::Line},
-    {"LWPOLYLINE", EntityKind::LwPolyline},
-    {"MTEXT", EntityKind::MText},
-    {"POINT", EntityKind::Point},
     {"POLYLINE", EntityKind::Polyline},
     {"SEQEND", EntityKind::Seqend},
-    {"SOLID", EntityKind::Solid},
-    {"SPLINE", EntityKind::Spline},
-    {"TEXT", EntityKind::Text},
-    {"TRACE", EntityKind::Trace},
     {"VERTEX", EntityKind::Vertex},
     {"VIEWPORT", EntityKind::Viewport},
 };

@@ -47,6 +47,25 @@ std::vector<ListedLayer> listedLayers(const TagList& tags, const TextCodec& code
     return listed;
 }
 
+/// Notes the layers that went or got another name and still stand in these tags.
+void noteMentions(
+    const DrawingFile& file, const TagList& tags, const LayerFates& fates, LeftOut& leftOut)
+{
+    const auto isText = [](int code) {
+        return (code >= 1 && code <= 9 && code != group::kHandle) || (code >= 300 && code <= 309) ||
+               code == group::kXdata;
+    };
+    for (int at = RecordData(tags).begin; at < tags.size(); ++at) {
+        if (group::isPointer(tags.code(at)) && fates.isRemovedHandle(tags.handle(at)))
+            leftOut.note(LeftOut::Opaque, fates.removedName(tags.handle(at)));
+        if (!isText(tags.code(at)))
+            continue;
+        const QString text = file.decoded(tags.trimmed(at));
+        if (fates.isRemoved(text) || !fates.newName(text).isNull())
+            leftOut.note(LeftOut::Opaque, text);
+    }
+}
+
 } // namespace
 
 QSet<quint64> LayerObjects::follow(const LayerFates& fates)
@@ -206,28 +225,22 @@ void LayerObjects::followFilter(TagList& tags, const LayerFates& fates) const
     tags.keepOnly(kept);
 }
 
-void noteOpaque(const DrawingFile& file, const LayerFates& fates, const QSet<quint64>& understood,
-    LeftOut& leftOut)
+void noteOpaque(const DrawingFile& file, const EntityTable& entities, const LayerFates& fates,
+    const QSet<quint64>& understood, LeftOut& leftOut)
 {
-    const auto isText = [](int code) {
-        return (code >= 1 && code <= 9 && code != group::kHandle) || (code >= 300 && code <= 309) ||
-               code == group::kXdata;
-    };
     for (const ObjectPlace& object : file.index().objects) {
         const bool isOpaque =
             object.kind == ObjectKind::XRecord || object.kind == ObjectKind::Proxy;
-        if (!isOpaque || understood.contains(object.handle))
+        if (isOpaque && !understood.contains(object.handle))
+            noteMentions(file, file.current(object.range), fates, leftOut);
+    }
+    for (const Entity& entity : entities.all()) {
+        if (entity.kind != EntityKind::Proxy || entity.removed)
             continue;
-        const TagList tags = file.current(object.range);
-        for (int at = RecordData(tags).begin; at < tags.size(); ++at) {
-            if (group::isPointer(tags.code(at)) && fates.isRemovedHandle(tags.handle(at)))
-                leftOut.note(LeftOut::Opaque, fates.removedName(tags.handle(at)));
-            if (!isText(tags.code(at)))
-                continue;
-            const QString text = file.decoded(tags.trimmed(at));
-            if (fates.isRemoved(text) || !fates.newName(text).isNull())
-                leftOut.note(LeftOut::Opaque, text);
-        }
+        TagList tags = file.current(entity.range());
+        if (const int own = tags.find(group::kLayer, 0, tags.size()); own != TagList::kNone)
+            tags.remove(own, own + 1);
+        noteMentions(file, tags, fates, leftOut);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entities/entitytable.h"
 #include "file/drawingfile.h"
 #include "layerfates.h"
 #include "leftout.h"
@@ -30,10 +31,10 @@ private:
     DrawingFile& m_file;
 };
 
-/// Notes the layers that went or got another name and that objects still mention which nobody here
-/// understands: proxies, and records that applications keep. `understood` are handles of records
-/// that may go on naming layers. To be called when all else has followed.
-void noteOpaque(const DrawingFile& file, const LayerFates& fates, const QSet<quint64>& understood,
-    LeftOut& leftOut);
+/// Notes the layers that went or got another name and that what nobody here understands still
+/// mentions: proxies of entities and objects, and records that applications keep. `understood` are
+/// handles of records that may go on naming layers. To be called when all else has followed.
+void noteOpaque(const DrawingFile& file, const EntityTable& entities, const LayerFates& fates,
+    const QSet<quint64>& understood, LeftOut& leftOut);
 
 } // namespace drawing
