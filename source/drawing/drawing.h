@@ -216,7 +216,7 @@ private:
 class DrawingStep
 {
 public:
-    DrawingStep(Drawing& drawing, const QString& name) : m_drawing(drawing)
+    DrawingStep(Drawing& drawing, const QString& name) : m_drawing(drawing), m_name(name)
     {
         drawing.beginStep(name);
     }
@@ -232,9 +232,22 @@ public:
         m_isOpen = false;
         m_drawing.commitStep();
     }
+    /// What comes now is a step of its own, of the same name.
+    void next()
+    {
+        m_drawing.commitStep();
+        m_drawing.beginStep(m_name);
+    }
+    /// Takes back what was done so far; the step goes on.
+    void takeBack()
+    {
+        m_drawing.rollbackStep();
+        m_drawing.beginStep(m_name);
+    }
 
 private:
     Drawing& m_drawing;
+    QString m_name;
     bool m_isOpen = true;
 };
 

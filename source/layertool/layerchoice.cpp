@@ -1,6 +1,7 @@
 #include "layerchoice.h"
 
 #include "drawing.h"
+#include "namerule.h"
 #include "texts.h"
 #include "wildcardpattern.h"
 
@@ -22,11 +23,6 @@ constexpr OptionRow kOptions[] = {
         QT_TRANSLATE_NOOP("layertool", "与整个图层名相配的正则表达式，不分大小写；可多次给出。"),
         "", true},
 };
-
-bool isSame(const QString& a, const QString& b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
 
 } // namespace
 
@@ -63,7 +59,7 @@ Expected<void> LayerChoice::read(const Arguments& arguments)
 bool LayerChoice::names(const QString& name) const
 {
     return std::any_of(m_names.begin(), m_names.end(),
-        [&name](const QString& given) { return isSame(given, name); });
+        [&name](const QString& given) { return vnsi::isSameName(given, name); });
 }
 
 bool LayerChoice::matches(const QString& name) const

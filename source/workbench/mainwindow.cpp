@@ -293,6 +293,7 @@ void MainWindow::runLayerCommand(const CommandRow& row)
     updateState();
     try {
         drawing::DrawingStep step(*drawing(), row.displayTitle());
+        context.step = &step;
         const host::CommandScope running;
         row.create()->run(context);
         step.commit();

@@ -19,7 +19,7 @@ struct FormatLimits
         const bool since13 = version >= "AC1012";
         const bool since2000 = version >= "AC1015";
         const bool since2004 = version >= "AC1018";
-        return {since13, since2000, since2000, since2004, since2004, since13};
+        return {since13, since2000, since2000, since2004, since2004, since2000};
     }
 };
 

@@ -8,15 +8,23 @@ namespace drawing {
 
 namespace {
 
-constexpr int kMostInOldFormats = 31;
-
-/// Old formats know letters, those of the code page among them, digits and three signs.
 bool isOldNameCharacter(QChar c)
 {
     return c.isLetterOrNumber() || c.isSurrogate() || QStringLiteral("$-_").contains(c);
 }
 
+bool isTooLongForOldFormats(const QString& name)
+{
+    return name.toUcs4().size() > kMostInOldFormats;
+}
+
 } // namespace
+
+bool isOldName(const QString& name)
+{
+    return !isTooLongForOldFormats(name) &&
+           std::all_of(name.begin(), name.end(), isOldNameCharacter);
+}
 
 QString nameRefusal(const QString& name, const QString& what, const FormatLimits& limits)
 {
@@ -33,15 +41,13 @@ QString nameRefusal(const QString& name, const QString& what, const FormatLimits
         faults.testFlag(NameFault::ControlCharacter))
         return Texts::tr("%1“%2”含有不能使用的字符：\\ < > / \" : ; ? * | , = ` 或控制字符。")
             .arg(what, name);
-    if (limits.longNames)
+    if (limits.longNames || isOldName(name))
         return {};
-    if (name.toUcs4().size() > kMostInOldFormats)
+    if (isTooLongForOldFormats(name))
         return Texts::tr("%1“%2…”超过 %3 个字符，此图形的 DXF 版本不能保存。")
             .arg(what, name.left(kShown))
             .arg(kMostInOldFormats);
-    if (!std::all_of(name.begin(), name.end(), isOldNameCharacter))
-        return Texts::tr("%1“%2”：此图形的 DXF 版本只能使用字母、数字和 $ - _。").arg(what, name);
-    return {};
+    return Texts::tr("%1“%2”：此图形的 DXF 版本只能使用字母、数字和 $ - _。").arg(what, name);
 }
 
 } // namespace drawing

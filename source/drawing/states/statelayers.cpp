@@ -45,12 +45,6 @@ QString nameOf(const LayerTable& layers, LayerId id)
     return layer ? layer->properties.name : QString();
 }
 
-/// Linetypes and plot styles are named without regard to letter case.
-bool isSameName(const QString& a, const QString& b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
-
 /// `saved` in the spelling of `now`, where that is all they differ in.
 LayerProperties respelled(LayerProperties saved, const LayerProperties& now)
 {

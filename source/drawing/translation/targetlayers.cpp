@@ -66,7 +66,7 @@ Expected<void> TargetLayers::set(
     return m_parts.layerEdits.setProperties(id, wanted).map([&] {
         const LayerProperties& now = m_parts.layers.layer(id)->properties;
         if (isNamedPlotStyle(target.plotStyle) && !m_parts.plotStyles.areByColor() &&
-            now.plotStyle.compare(target.plotStyle, Qt::CaseInsensitive) != 0)
+            !isSameName(now.plotStyle, target.plotStyle))
             m_notices += Texts::tr("图形中没有打印样式“%1”：图层“%2”的打印样式为“%3”。")
                              .arg(target.plotStyle, now.name, now.plotStyle);
     });

@@ -1,6 +1,7 @@
 #include "rules.h"
 
 #include "drawing.h"
+#include "file/symbolname.h"
 #include "layercontent.h"
 #include "layerfields.h"
 #include "namerule.h"
@@ -244,21 +245,15 @@ void checkHiddenContent(CheckContext& context)
 /// and not by others.
 void checkVersionLimits(CheckContext& context)
 {
-    constexpr int kLongestOldName = 31;
-    if (context.drawing.version() >= "AC1015")
+    if (drawing::FormatLimits::of(context.drawing.version().constData()).longNames)
         return;
     for (const Layer& layer : context.drawing.layers()) {
         const QString& name = layer.properties.name;
-        const bool isOldName = std::all_of(name.begin(), name.end(), [](QChar c) {
-            return c.unicode() < 128 &&
-                   (c.isLetterOrNumber() || c == QLatin1Char('$') || c == QLatin1Char('-') ||
-                       c == QLatin1Char('_') || c == QLatin1Char('|'));
-        });
-        if (!isOldName || name.size() > kLongestOldName)
+        if (!layer.dependsOnReference && !drawing::isOldName(name))
             context.add(&layer,
                 Texts::tr("图层名“%1”超出了图形版本的限制（%2 个字符以内的字母、数字、$、-、_）。")
                     .arg(name)
-                    .arg(kLongestOldName));
+                    .arg(drawing::kMostInOldFormats));
     }
 }
 

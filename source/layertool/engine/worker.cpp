@@ -161,13 +161,10 @@ void Worker::answer(const Job& job, Result& result)
     if (!opened)
         return refuse(errorid::kDrawing, opened.error());
     Drawing& drawing = **opened;
-    drawing.beginStep(m_arguments.verb);
-    const auto done = m_verb->run(drawing, job, result);
-    if (!done) {
-        drawing.rollbackStep();
+    drawing::DrawingStep step(drawing, m_arguments.verb);
+    if (const auto done = m_verb->run(drawing, job, result); !done)
         return refuse(errorid::kRefused, done.error());
-    }
-    drawing.commitStep();
+    step.commit();
     result.changed = drawing.canUndo();
     result.notes("opening", drawing.openingNotices());
     result.notes("drawing", drawing.takeNotices());

@@ -3,6 +3,7 @@
 #include "csv.h"
 #include "drawing.h"
 #include "layerchoice.h"
+#include "namerule.h"
 #include "renaming.h"
 #include "texts.h"
 
@@ -65,12 +66,12 @@ Expected<void> RenameVerb::readTable(const QString& path)
         if (row.isEmpty() || (i == 0 && isHead(row)))
             continue;
         if (row.size() < 2 || row.at(0).isEmpty() || row.at(1).isEmpty())
-            return tl::make_unexpected(
-                Error{Texts::tr("表格“%1”的第 %2 行应有旧名和新名。").arg(path).arg(i + 1)});
-        if (m_names.contains(row.at(0).toLower()))
-            return tl::make_unexpected(Error{
-                Texts::tr("表格“%1”的第 %2 行又给“%3”起名。").arg(path).arg(i + 1).arg(row.at(0))});
-        m_names.insert(row.at(0).toLower(), row.at(1));
+            return drawing::refusal(
+                Texts::tr("表格“%1”的第 %2 行应有旧名和新名。").arg(path).arg(i + 1));
+        if (m_names.contains(vnsi::foldedName(row.at(0))))
+            return drawing::refusal(
+                Texts::tr("表格“%1”的第 %2 行又给“%3”起名。").arg(path).arg(i + 1).arg(row.at(0)));
+        m_names.insert(vnsi::foldedName(row.at(0)), row.at(1));
     }
     return {};
 }
@@ -101,7 +102,7 @@ Expected<void> RenameVerb::prepare(const Arguments& arguments)
     if (!arguments.isSet("to"))
         return tl::make_unexpected(Error{Texts::tr("缺少 --to：改成什么名？")});
     m_from = arguments.value("from");
-    m_names.insert(m_from.toLower(), arguments.value("to"));
+    m_names.insert(vnsi::foldedName(m_from), arguments.value("to"));
     return {};
 }
 
@@ -119,7 +120,7 @@ std::vector<Renaming> RenameVerb::renamingsIn(const Drawing& drawing) const
     for (const Layer& layer : drawing.layers()) {
         QString name = layer.properties.name;
         if (!m_names.isEmpty())
-            name = m_names.value(name.toLower(), name);
+            name = m_names.value(vnsi::foldedName(name), name);
         else if (m_regex.match(name).hasMatch())
             name.replace(m_regex, m_replacement);
         if (name != layer.properties.name)

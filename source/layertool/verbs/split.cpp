@@ -2,6 +2,7 @@
 
 #include "drawingpart.h"
 #include "drawings.h"
+#include "namerule.h"
 #include "texts.h"
 
 #include <QDir>
@@ -83,16 +84,17 @@ Expected<void> SplitVerb::run(Drawing& drawing, const Job& job, Result& result)
         if (!layer || !isPlaced(drawing, entity))
             continue;
         const QString group = groupOf(layer->properties.name);
-        ++counts[*spelled.insert(group.toCaseFolded(), spelled.value(group.toCaseFolded(), group))];
+        ++counts[*spelled.insert(
+            vnsi::foldedName(group), spelled.value(vnsi::foldedName(group), group))];
     }
     m_parts.clear();
     QSet<QString> taken;
     for (const auto& [name, entities] : counts) {
         const QString base = safeFileName(name);
         QString fileName = base;
-        for (int number = 2; taken.contains(fileName.toCaseFolded()); ++number)
+        for (int number = 2; taken.contains(vnsi::foldedName(fileName)); ++number)
             fileName = QStringLiteral("%1~%2").arg(base).arg(number);
-        taken.insert(fileName.toCaseFolded());
+        taken.insert(vnsi::foldedName(fileName));
         m_parts.push_back({name, fileName, entities});
         result.data.append(
             QJsonObject{{QStringLiteral("part"), name}, {QStringLiteral("entities"), entities},
@@ -115,15 +117,13 @@ Expected<void> SplitVerb::write(
         if (!opened)
             return tl::make_unexpected(opened.error());
         Drawing& drawing = **opened;
-        drawing.beginStep(m_parts[i].name);
-        const auto kept = keepOnly(drawing, [&](const QString& layer) {
-            return groupOf(layer).compare(m_parts[i].name, Qt::CaseInsensitive) == 0;
-        });
-        if (!kept) {
-            drawing.rollbackStep();
+        drawing::DrawingStep step(drawing, m_parts[i].name);
+        const auto isOfPart = [&](const QString& layer) {
+            return vnsi::isSameName(groupOf(layer), m_parts[i].name);
+        };
+        if (auto kept = keepOnly(drawing, isOfPart); !kept)
             return kept;
-        }
-        drawing.commitStep();
+        step.commit();
         const QString staged =
             QDir(job.staging).filePath(QStringLiteral("%1-%2.dxf").arg(job.number).arg(i));
         result.staged.push_back(

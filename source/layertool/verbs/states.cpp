@@ -1,6 +1,7 @@
 #include "verbs.h"
 
 #include "drawing.h"
+#include "namerule.h"
 #include "states/layerstate.h"
 #include "states/layerstatefile.h"
 #include "texts.h"
@@ -119,9 +120,8 @@ Expected<std::vector<LayerState>> StatesVerb::chosen(const std::vector<LayerStat
         return all;
     std::vector<LayerState> some;
     for (const QString& name : m_names) {
-        const auto found = std::find_if(all.begin(), all.end(), [&name](const LayerState& state) {
-            return state.name.compare(name, Qt::CaseInsensitive) == 0;
-        });
+        const auto found = std::find_if(all.begin(), all.end(),
+            [&name](const LayerState& state) { return vnsi::isSameName(state.name, name); });
         if (found == all.end())
             return tl::make_unexpected(Error{Texts::tr("没有名为“%1”的图层状态。").arg(name)});
         some.push_back(*found);

@@ -9,6 +9,7 @@ class QWidget;
 
 namespace drawing {
 class Drawing;
+class DrawingStep;
 enum class LayerId : int;
 } // namespace drawing
 
@@ -28,6 +29,7 @@ struct CommandContext
     /// Shows what is on these layers alone, whatever the layers say, until `refresh` or the
     /// command's end. The drawing does not change.
     std::function<void(const std::vector<drawing::LayerId>&)> showOnly = {};
+    drawing::DrawingStep* step = nullptr; ///< What the command changes belongs to it.
 };
 
 /// One of the layer commands. A new object for every run.

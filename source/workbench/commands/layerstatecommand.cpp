@@ -168,21 +168,15 @@ std::optional<LayerState> LayerStateCommand::named(const VnJsonPtr& node, const 
     return state;
 }
 
-/// What follows is a step of its own.
-void LayerStateCommand::nextStep()
-{
-    drawing().commitStep();
-    drawing().beginStep(tr("图层状态"));
-}
-
 /// Closes the step of a request that was carried out; takes back what one that was refused did.
 bool LayerStateCommand::done(const drawing::Expected<void>& outcome)
 {
-    if (!outcome) {
-        drawing().rollbackStep();
+    if (outcome) {
+        m_context->step->next();
+    } else {
+        m_context->step->takeBack();
         m_problems += outcome.error().text;
     }
-    nextStep();
     report(tr("图层状态没有改动："));
     return outcome.has_value();
 }
@@ -288,7 +282,7 @@ void LayerStateCommand::restore(const VnJsonPtr& node)
     how.turnOthersOff = node->GetDataI(key::kTurnsOthersOff) == 1;
     how.viewportOverrides = node->GetDataB(key::kOverridesViewport);
     m_problems = restoreLayerState(drawing(), *state, how);
-    nextStep();
+    m_context->step->next();
     m_current = state->name;
     if (how.viewportOverrides)
         tellOfOverrides(*state);

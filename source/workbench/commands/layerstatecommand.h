@@ -42,7 +42,6 @@ private:
     bool offersRestore(const std::vector<drawing::LayerState>& imported);
     bool put(const std::vector<drawing::LayerState>& states);
     bool done(const drawing::Expected<void>& outcome);
-    void nextStep();
     void tellOfOverrides(const drawing::LayerState& state);
     void report(const QString& title);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "states/layerstate.h"
+#include "drawing.h"
 
 #include <QStringList>
 

@@ -196,11 +196,9 @@ void LayerWalkCommand::apply(const VnJsonPtr& root)
     makeCurrent(root, current, clicked);
     if (!m_problems.isEmpty())
         handBack(root);
-    if (isAsBefore()) {
-        // Layers that had no record of their own have one now; taking the step back leaves nothing.
-        drawing().rollbackStep();
-        drawing().beginStep(tr("图层漫游"));
-    }
+    // Layers that had no record of their own have one now; taking the step back leaves nothing.
+    if (isAsBefore())
+        m_context->step->takeBack();
     m_context->refresh();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "states/layerstate.h"
+#include "drawing.h"
 #include "vnjson.h"
 
 /// The layers of a layer state as the records that the editor works on, and back.

@@ -6,6 +6,7 @@
 #include "layerrecords.h"
 #include "linetypes.h"
 #include "lineweighttext.h"
+#include "namerule.h"
 #include "targetrecord.h"
 
 using drawing::LayerMapping;
@@ -94,7 +95,7 @@ OdInt64 TranslationRecords::numberOf(const drawing::LinetypePointer& definition)
 {
     if (!definition)
         return 0;
-    const QString name = definition->name.toCaseFolded();
+    const QString name = vnsi::foldedName(definition->name);
     for (const OdInt64 number : m_numbers.values(name)) {
         if (linetype(number)->tags == definition->tags)
             return number;
@@ -109,7 +110,7 @@ OdInt64 TranslationRecords::numberOf(const drawing::LinetypePointer& definition)
 /// than a number that stayed behind.
 drawing::LinetypePointer TranslationRecords::definition(OdInt64 number, const QString& name) const
 {
-    const QList<OdInt64> numbers = m_numbers.values(name.toCaseFolded());
+    const QList<OdInt64> numbers = m_numbers.values(vnsi::foldedName(name));
     if (numbers.isEmpty())
         return nullptr;
     return linetype(numbers.contains(number) ? number : numbers.constLast());
