@@ -18,8 +18,18 @@ std::optional<IndexFault> DrawingIndexer::run(FileIndex& file, EntityIndex& enti
 {
     m_file = &file;
     m_entities = &entities;
+    reserveEntities();
     readSections();
     return m_fault;
+}
+
+/// As many as there usually are: growing again and again takes longer than what is never touched.
+void DrawingIndexer::reserveEntities()
+{
+    const int bytesOfOne = isBinary(m_tags.spelling()) ? 128 : 256;
+    const auto expected = static_cast<size_t>((m_tags.end() - m_tags.offset()) / bytesOfOne);
+    m_entities->entities.reserve(expected);
+    m_entities->layerNameAt.reserve(expected);
 }
 
 bool DrawingIndexer::fail(IndexFaultKind kind, qint64 offset)
@@ -377,7 +387,7 @@ bool DrawingIndexer::readEntity(int block)
     OpenEntity open;
     Entity& entity = open.entity;
     entity.begin = m_tag.begin();
-    entity.kind = kindOf(m_tag.trimmed());
+    entity.kind = entityKind(m_tag.trimmed());
     entity.block = block;
     entity.subEntity = isSubEntity(entity.kind);
     open.first = m_tag.first;
@@ -397,15 +407,6 @@ bool DrawingIndexer::readEntity(int block)
     m_entities->entities.push_back(entity);
     m_entities->layerNameAt.push_back(open.nameAt);
     return isWhole;
-}
-
-EntityKind DrawingIndexer::kindOf(std::string_view name)
-{
-    if (name == m_lastKindName)
-        return m_lastKind;
-    m_lastKindName = name;
-    m_lastKind = entityKind(name);
-    return m_lastKind;
 }
 
 bool DrawingIndexer::readObjects()

@@ -57,6 +57,7 @@ private:
     bool skipRest();
     void markWhole(qint64 end) { m_whole.wholeEnd = end; }
     void report();
+    void reserveEntities();
 
     bool readSections();
     bool readSection();
@@ -71,7 +72,6 @@ private:
     struct OpenEntity;
     void take(const Tag& tag, OpenEntity& open);
     bool readObjects();
-    EntityKind kindOf(std::string_view name);
 
     TagReader m_tags;
     qint64 m_nextReport = 0;
@@ -81,8 +81,6 @@ private:
     EntityIndex* m_entities = nullptr;
     std::string_view m_section;
     IndexFault m_whole; // What of it is known as the reading goes on.
-    std::string_view m_lastKindName;
-    EntityKind m_lastKind = EntityKind::Other;
     std::optional<IndexFault> m_fault;
 };
 

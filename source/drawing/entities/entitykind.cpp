@@ -12,7 +12,6 @@ struct NamedKind
     EntityKind kind;
 };
 
-// Sorted by name.
 constexpr NamedKind kKinds[] = {
     {"ACAD_PROXY_ENTITY", EntityKind::Proxy},
     {"ATTRIB", EntityKind::Attrib},
@@ -27,9 +26,12 @@ constexpr NamedKind kKinds[] = {
 
 EntityKind entityKind(std::string_view name)
 {
-    const auto* known = std::lower_bound(std::begin(kKinds), std::end(kKinds), name,
-        [](const NamedKind& kind, std::string_view wanted) { return kind.name < wanted; });
-    return known != std::end(kKinds) && known->name == name ? known->kind : EntityKind::Other;
+    constexpr std::string_view kFirstLetters = "AIPSV"; // Rules out most at once.
+    if (name.empty() || kFirstLetters.find(name.front()) == std::string_view::npos)
+        return EntityKind::Other;
+    const auto* const known = std::find_if(std::begin(kKinds), std::end(kKinds),
+        [name](const NamedKind& kind) { return kind.name == name; });
+    return known != std::end(kKinds) ? known->kind : EntityKind::Other;
 }
 
 bool isSubEntity(EntityKind kind)

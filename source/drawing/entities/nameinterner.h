@@ -1,5 +1,10 @@
 #pragma once
 
+#include <QtGlobal>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -13,13 +18,15 @@ class NameInterner
 public:
     int intern(std::string_view name)
     {
-        // Entities come in runs on one layer.
-        if (m_last >= 0 && name == m_names[static_cast<size_t>(m_last)])
-            return m_last;
+        const Key key = keyOf(name);
+        Known& known = m_known[slotOf(key)];
+        if (known.key == key && name.size() <= kWhole)
+            return known.number;
         const auto [at, isNew] = m_numbers.try_emplace(name, static_cast<int>(m_names.size()));
         if (isNew)
             m_names.push_back(name);
-        return m_last = at->second;
+        known = {key, at->second};
+        return at->second;
     }
     /// The number of a name met before; -1 when it was not.
     int find(std::string_view name) const
@@ -30,9 +37,44 @@ public:
     const std::vector<std::string_view>& names() const { return m_names; }
 
 private:
+    /// The first and last bytes of a name, which may overlap: all of a short one.
+    struct Key
+    {
+        quint64 head = 0;
+        quint64 tail = 0;
+        size_t size = ~size_t(0);
+
+        bool operator==(const Key& other) const
+        {
+            return head == other.head && tail == other.tail && size == other.size;
+        }
+    };
+    struct Known
+    {
+        Key key;
+        int number = -1;
+    };
+    static constexpr size_t kWhole = 2 * sizeof(quint64); ///< So long a key tells all of a name.
+    static constexpr int kSlotBits = 6;
+
+    static Key keyOf(std::string_view name)
+    {
+        Key key{0, 0, name.size()};
+        const size_t part = std::min(name.size(), sizeof key.head);
+        if (part > 0) {
+            std::memcpy(&key.head, name.data(), part);
+            std::memcpy(&key.tail, name.data() + name.size() - part, part);
+        }
+        return key;
+    }
+    static size_t slotOf(const Key& key)
+    {
+        return ((key.head * 31 + key.tail) * 0x9e3779b97f4a7c15) >> (64 - kSlotBits);
+    }
+
     std::unordered_map<std::string_view, int> m_numbers;
     std::vector<std::string_view> m_names;
-    int m_last = -1;
+    std::array<Known, 1 << kSlotBits> m_known; ///< Names met lately: hashing takes its time.
 };
 
 } // namespace drawing
