@@ -494,6 +494,11 @@ Expected<Geometry> buildGeometry(const Drawing& drawing, Progress* progress)
     return buildGeometry(DrawingAccess::data(drawing).geometrySource(), progress);
 }
 
+std::shared_ptr<const LinetypePatterns> linetypePatterns(const Drawing& drawing)
+{
+    return std::make_shared<const LinetypePatterns>(DrawingAccess::data(drawing).linetypes);
+}
+
 LayerState captureLayerState(const Drawing& drawing, const QString& name)
 {
     return captureLayerState(stateSource(drawing), name);

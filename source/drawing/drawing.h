@@ -22,6 +22,7 @@
 
 namespace drawing {
 
+class LinetypePatterns;
 struct Geometry;
 struct LayerMapping;
 struct TargetLayer;
@@ -254,6 +255,9 @@ private:
 /// Flattens the space shown. Works on any thread while the drawing is left alone; refuses only when
 /// cancelled. Block references are bounded in depth and number, a block inside itself is left out.
 Expected<Geometry> buildGeometry(const Drawing& drawing, Progress* progress = nullptr);
+
+/// What the linetypes repeat, as they are now.
+std::shared_ptr<const LinetypePatterns> linetypePatterns(const Drawing& drawing);
 
 /// The layers of the drawing as they are now; in a layout also which of them its current viewport
 /// hides.

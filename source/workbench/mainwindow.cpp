@@ -250,7 +250,7 @@ void MainWindow::showLayers()
         return;
     }
     // A linetype may have been loaded since.
-    m_canvas->setLinetypes(std::make_shared<const drawing::LinetypePatterns>(*drawing()));
+    m_canvas->setLinetypes(drawing::linetypePatterns(*drawing()));
     m_canvas->setLayers(drawing()->layers());
     m_status->showLayers(drawing());
     updateState();
