@@ -305,6 +305,31 @@ std::vector<LayerId> Drawing::frozenInViewport() const
     return d->data.viewports.frozen();
 }
 
+std::vector<LayerInViewport> Drawing::overriddenInViewport() const
+{
+    return d->data.viewports.overridden();
+}
+
+std::vector<LayerFilter> Drawing::layerFilters() const
+{
+    return d->data.filters.read();
+}
+
+Expected<quint64> Drawing::addLayerFilter(const LayerFilter& filter)
+{
+    return readyToEdit().and_then([&] { return d->data.filters.add(filter); });
+}
+
+Expected<void> Drawing::changeLayerFilter(const LayerFilter& filter)
+{
+    return readyToEdit().and_then([&] { return d->data.filters.change(filter); });
+}
+
+Expected<void> Drawing::removeLayerFilter(quint64 record)
+{
+    return readyToEdit().and_then([&] { return d->data.filters.remove(record); });
+}
+
 Expected<void> Drawing::putLayerStates(const std::vector<LayerState>& states)
 {
     return readyToEdit().and_then([&] { return d->data.layerStates.put(states); });

@@ -8,6 +8,7 @@
 #include "file/textcodec.h"
 #include "geometry/sheet.h"
 #include "layers/layer.h"
+#include "layers/layerfilter.h"
 #include "layers/layouts.h"
 #include "layers/linetypedefinition.h"
 #include "layers/viewportlayers.h"
@@ -110,6 +111,11 @@ public:
     /// The layers frozen in the current viewport, ascending; none in model space.
     std::vector<LayerId> frozenInViewport() const;
 
+    /// The layers that have properties of their own in the current viewport, ascending by id.
+    std::vector<LayerInViewport> overriddenInViewport() const;
+    /// The layer filters saved in the drawing, in its order; those inside a filter come behind it.
+    std::vector<LayerFilter> layerFilters() const;
+
     /// All entities: those of the block definitions and of the ENTITIES section, in file order.
     /// Deleted ones stay in their places, marked as removed.
     const std::vector<Entity>& entities() const;
@@ -174,6 +180,13 @@ public:
     /// Layers whose linetype the drawing lacks come back, with all but that done.
     Expected<std::vector<LayerId>> overrideInViewport(
         const std::vector<LayerInViewport>& layers, int properties);
+    /// Saves a filter inside `filter.parent`; the handle of its record comes back. Refuses an empty
+    /// name, one in use beside it, and formats without objects.
+    Expected<quint64> addLayerFilter(const LayerFilter& filter);
+    /// Gives the filter of `filter.record` that name, expression and list of layers. Refuses the
+    /// same, and filters of an unknown kind.
+    Expected<void> changeLayerFilter(const LayerFilter& filter);
+    Expected<void> removeLayerFilter(quint64 record); ///< With the filters inside it.
     /// What edits since the last call had to leave out, a sentence each: the file's version may
     /// have no place for lineweights, true colours or the plot flag.
     QStringList takeNotices();

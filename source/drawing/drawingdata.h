@@ -4,6 +4,7 @@
 #include "geometry/geometry.h"
 #include "layers/annotationcopies.h"
 #include "layers/layerobjects.h"
+#include "layers/savedfilters.h"
 #include "layers/viewportlayers.h"
 #include "states/layerstates.h"
 #include "translation/savedmappings.h"
@@ -78,6 +79,7 @@ public:
     LayerOverrides overrides{file, layers, records, linetypes};
     ViewportLayers viewports{file, entities, layouts, layers, records, overrides};
     LayerStates layerStates{file, layers, linetypes};
+    SavedFilters filters{file, layers, records};
     LayerObjects layerObjects{file};
     AnnotationCopies copies{file, layers, layerEdits};
     SavedMappings mappings{file, layers};

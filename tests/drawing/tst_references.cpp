@@ -108,6 +108,100 @@ private slots:
         checkUndo(*drawing, original);
     }
 
+    void editedFilters_data()
+    {
+        const Rows<QByteArray, QByteArray, QString, QByteArray> row(
+            "before", "act", "refusal", "after");
+        const auto tree = [](const QByteArray& rest) {
+            return "0 DICTIONARY | 5 D1 | 3 *A1 | 350 D2\n" + rest;
+        };
+        const auto property = [&tree](const QByteArray& name, const QByteArray& expression) {
+            return tree(
+                "0 XRECORD | 5 D2 | 100 AcDbXrecord\n280 1 | 1 AcLyLayerFilter | 90 1\n300 " +
+                name + " | 301 " + expression + " | 290 1\n");
+        };
+        const QByteArray term = "NAME==\"a\"";
+        row("name; what is not known stays", property("F", term), "name 0 N", {},
+            property("N", term));
+        row("expression", property("F", term), "expression 0 X", {}, property("F", "X"));
+        row("nothing", property(" F", term), "name 0 F", {}, property(" F", term));
+        row("no name", property("F", term), "name 0 ~", "不能为空", property("F", term));
+        const QByteArray odd = tree("0 XRECORD | 5 D2 | 100 AcDbXrecord\n1 AcLyOther | 300 O\n");
+        row("kind not known", odd, "name 0 N", "不了解", odd);
+
+        const auto group = [&tree](const QByteArray& layers) {
+            return tree("0 XRECORD | 5 D2 | 100 AcDbXrecord\n1 AcLyLayerGroup | 300 G\n" + layers);
+        };
+        row("group, one more and one less", group("330 10 | 330 FF | 330 12\n"), "layers 0 0,Third",
+            {}, group("330 10 | 330 FF | 330 13\n"));
+
+        const auto old = [&property](const QByteArray& key, const QByteArray& pattern,
+                             const QByteArray& expression) {
+            return "0 DICTIONARY | 5 D0 | 3 " + key + " | 350 D3\n0 XRECORD | 5 D3\n" +
+                   "100 AcDbXrecord | 1 " + key + " | 1 " + pattern + " | 1 7 | 70 0\n" +
+                   "1001 ACAD | 1000 " + expression + "\n" + property(key, expression);
+        };
+        row("the older list follows", old("F", "a", term), "expression 0 NAME==\"b\"", {},
+            old("F", "b", "NAME==\"b\""));
+        row("its key as well", old("F", "a", term), "name 0 N", {}, old("N", "a", term));
+        row("gone from both lists", old("F", "a", term), "remove 0", {},
+            "0 DICTIONARY | 5 D0\n0 DICTIONARY | 5 D1\n");
+        const QByteArray nested =
+            group("330 10\n").replace("5 D2 | ", "5 D2\n102 {ACAD_XDICTIONARY | 360 D4 | 102 }\n");
+        const QByteArray inside = "0 DICTIONARY | 5 D4 | 3 *A1 | 360 D5\n"
+                                  "0 XRECORD | 5 D5 | 100 AcDbXrecord | 1 AcLyLayerGroup | 300 I\n";
+        row("what is inside goes along", nested + inside, "remove 0", {}, "0 DICTIONARY | 5 D1\n");
+        row("what is inside alone", nested + inside, "name 1 N", {},
+            nested + QByteArray(inside).replace("300 I", "300 N"));
+    }
+
+    void editedFilters()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, act);
+        QFETCH(QString, refusal);
+        QFETCH(QByteArray, after);
+        const auto drawing = opened(house(before));
+        const QByteArray original = saved(*drawing);
+        const auto edited = inStep(*drawing, [&] { return editFilter(*drawing, act.split(' ')); });
+        const QString refused = edited ? QString() : edited.error().text;
+        QVERIFY2(
+            refusal.isEmpty() ? refused.isEmpty() : refused.contains(refusal), qPrintable(refused));
+        const QByteArray expected = house(after);
+        QCOMPARE(objectsOf(saved(*drawing)), expected.mid(expected.indexOf("ACLYDICTIONARY")));
+        checkUndo(*drawing, original);
+    }
+
+    /// New filters, one inside the other, are read back, follow layers and are gone with undo.
+    void newFilters()
+    {
+        const auto drawing = opened(House().bytes());
+        const QByteArray original = saved(*drawing);
+        using Kind = LayerFilter::Kind;
+        QVERIFY(inStep(*drawing, [&] {
+            const auto outer =
+                drawing->addLayerFilter({Kind::Group, "G", {}, {id(*drawing, "Empty")}, 0, 0});
+            return outer.and_then([&](quint64 parent) {
+                return drawing->addLayerFilter(
+                    {Kind::Property, "P", "NAME==\"Empty\"", {}, 0, parent});
+            });
+        }));
+        LayerProperties properties = drawing->findLayer("Empty")->properties;
+        properties.name = "Full";
+        QVERIFY(inStep(*drawing,
+            [&] { return drawing->setLayerProperties(id(*drawing, "Empty"), properties); }));
+        const auto again = opened(saved(*drawing));
+        for (const Drawing* seen : {drawing.get(), again.get()}) {
+            const std::vector<LayerFilter> filters = seen->layerFilters();
+            QCOMPARE(filters.size(), std::size_t(2));
+            QCOMPARE(filters[0].layers, std::vector<LayerId>{seen->findLayer("Full")->id});
+            QCOMPARE(filters[1].expression, QStringLiteral("NAME==\"Full\""));
+            QCOMPARE(filters[1].parent, filters[0].record);
+        }
+        drawing->undo();
+        checkUndo(*drawing, original);
+    }
+
     void annotationCopies_data()
     {
         const Rows<int, QByteArray, QStringList, QByteArray> row(
@@ -197,6 +291,23 @@ private:
     static QByteArray objectsOf(const QByteArray& file)
     {
         return file.mid(file.indexOf("ACLYDICTIONARY"));
+    }
+
+    /// "name 0 N", "expression 0 X", "layers 0 A,B" or "remove 0", of the filter at that place.
+    static Expected<void> editFilter(Drawing& drawing, const QList<QByteArray>& act)
+    {
+        LayerFilter filter = drawing.layerFilters()[act[1].toULong()];
+        const QString value = QString::fromUtf8(act.value(2)).replace('~', ' ');
+        if (act[0] == "remove")
+            return drawing.removeLayerFilter(filter.record);
+        if (act[0] == "layers") {
+            filter.layers.clear();
+            for (const QString& name : value.split(','))
+                filter.layers.push_back(id(drawing, name));
+        } else {
+            (act[0] == "name" ? filter.name : filter.expression) = value;
+        }
+        return drawing.changeLayerFilter(filter);
     }
 
     static void change(Drawing& drawing, int act)

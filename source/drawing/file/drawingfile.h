@@ -68,6 +68,7 @@ public:
     /// The tags of a range as edited so far.
     TagList current(const ByteRange& range) const { return tagList(m_journal.current(range)); }
     SymbolTables& tables() { return m_tables; }
+    const SymbolTables& tables() const { return m_tables; }
     Objects& objects() { return m_objects; }
     const Objects& objects() const { return m_objects; }
     /// Sets a variable of the header, which may be missing.

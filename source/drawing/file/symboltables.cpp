@@ -185,32 +185,72 @@ quint64 SymbolTables::add(TableKind kind, const std::vector<TextTag>& tags)
     return made.handle;
 }
 
+/// Where the head of a table of the file names its extension dictionary, or would.
+struct SymbolTables::ExtensionPlace
+{
+    Tag handle;         ///< Null where the file has none.
+    qint64 behind = -1; ///< Of what it stands behind.
+};
+
+SymbolTables::ExtensionPlace SymbolTables::extensionPlace(TableKind kind) const
+{
+    ExtensionPlace place;
+    OwnTags all(m_file.tags(m_file.table(kind).head));
+    Tag tag;
+    while (all.nextOfAll(tag)) {
+        if (all.place().group() == kExtensionGroup && tag.code == group::kHardOwner) {
+            place.handle = tag;
+            return place;
+        }
+        if (tag.code == group::kHandle || (tag.code == group::kName && place.behind < 0))
+            place.behind = tag.end();
+    }
+    return place;
+}
+
+quint64 SymbolTables::extension(TableKind kind) const
+{
+    const EditJournal& journal = m_file.journal();
+    const auto within = [this](const QByteArray& tags) {
+        return extensionOf(TagReader(tags, m_file.spelling()));
+    };
+    if (m_file.table(kind).isNull())
+        return within(journal.inserted(place(kind), headOrder(kind)));
+    const ExtensionPlace found = extensionPlace(kind);
+    if (found.handle.isNull())
+        return within(journal.inserted(found.behind, kNewExtension));
+    return journal.current(found.handle.valueRange()).trimmed().toULongLong(nullptr, 16);
+}
+
+quint64 SymbolTables::madeExtension(TableKind kind)
+{
+    const quint64 known = extension(kind);
+    if (m_file.objects().kind(known) == ObjectKind::Dictionary)
+        return known;
+    const quint64 made = m_file.objects().addDictionary(madeHandle(kind));
+    linkExtension(kind, made);
+    return made;
+}
+
 /// The head may have been edited besides: it is not replaced as a whole.
 void SymbolTables::linkExtension(TableKind kind, quint64 dictionary)
 {
     const TagStyle style = this->style(kind);
+    EditJournal& journal = m_file.journal();
     if (m_file.table(kind).isNull()) {
-        EditJournal& journal = m_file.journal();
         const QByteArray head = journal.inserted(place(kind), headOrder(kind));
         journal.insert(
             place(kind), headOrder(kind), withExtension(m_file.tagList(head), dictionary));
         return;
     }
-    OwnTags all(m_file.tags(m_file.table(kind).head));
-    qint64 behind = -1;
-    Tag tag;
-    while (all.nextOfAll(tag)) {
-        if (all.place().group() == kExtensionGroup && tag.code == group::kHardOwner) {
-            m_file.journal().replace(
-                tag.valueRange(), style.value(tag.code, handleText(dictionary)));
-            return;
-        }
-        if (tag.code == group::kHandle || (tag.code == group::kName && behind < 0))
-            behind = tag.end();
-    }
-    m_file.journal().insert(behind, kNewExtension,
-        style.tag(group::kBrace, kExtensionGroup) + style.handle(group::kHardOwner, dictionary) +
-            style.tag(group::kBrace, "}"));
+    const ExtensionPlace found = extensionPlace(kind);
+    if (!found.handle.isNull())
+        journal.replace(
+            found.handle.valueRange(), style.value(found.handle.code, handleText(dictionary)));
+    else
+        journal.insert(found.behind, kNewExtension,
+            style.tag(group::kBrace, kExtensionGroup) +
+                style.handle(group::kHardOwner, dictionary) + style.tag(group::kBrace, "}"));
 }
 
 void SymbolTables::needAppId(const QString& name)

@@ -47,8 +47,10 @@ public:
     quint64 add(TableKind kind, const std::vector<TextTag>& tags);
     /// Lists an XDATA application, where it is not listed yet.
     void needAppId(const QString& name);
-    /// Writes the handle of an extension dictionary into the head of a table, which must be there.
-    void linkExtension(TableKind kind, quint64 dictionary);
+    /// Handle of a table's extension dictionary; 0 without one.
+    quint64 extension(TableKind kind) const;
+    /// The same; a missing one is made.
+    quint64 madeExtension(TableKind kind);
     /// Handle of a table; one that is missing is made, and one without a handle gets one.
     quint64 madeHandle(TableKind kind);
 
@@ -57,6 +59,9 @@ private:
     qint64 behindName(TableKind kind) const;
     void count(TableKind kind, int added);
     void makeFrame(TableKind kind);
+    struct ExtensionPlace;
+    ExtensionPlace extensionPlace(TableKind kind) const;
+    void linkExtension(TableKind kind, quint64 dictionary);
 
     DrawingFile& m_file;
     QSet<QString> m_appIds; ///< Folded names.

@@ -4,6 +4,7 @@
 #include "file/owntags.h"
 #include "file/symbolname.h"
 #include "layerfilters.h"
+#include "savedfilters.h"
 
 #include <unordered_set>
 
@@ -149,35 +150,19 @@ void LayerObjects::joinBuffers(quint64 from, quint64 to)
     });
 }
 
-/// The newer filters may hold others: in their extension dictionaries, at once or in a dictionary
-/// there.
 QSet<quint64> LayerObjects::followFilters(const LayerFates& fates)
 {
-    Objects& objects = m_file.objects();
-    const quint64 extension = extensionOf(m_file.tags(m_file.table(TableKind::Layer).head));
-    const quint64 old = objects.entry(extension, "ACAD_LAYERFILTERS");
+    const Objects& objects = m_file.objects();
     QSet<quint64> seen;
-    for (const Dictionary::Entry& entry : objects.dictionary(old).entries()) {
+    for (const Dictionary::Entry& entry : objects.dictionary(oldFilterList(m_file)).entries()) {
         if (objects.kind(entry.object) != ObjectKind::XRecord)
             continue;
         rewrite(entry.object, [&](TagList& tags) { followOldFilter(tags, fates); });
         seen.insert(entry.object);
     }
-    std::vector<quint64> open = {objects.entry(extension, "ACLYDICTIONARY")};
-    while (!open.empty()) {
-        const quint64 next = open.back();
-        open.pop_back();
-        const ObjectPlace* object = objects.find(next);
-        if (!object || seen.contains(next))
-            continue;
-        seen.insert(next);
-        if (object->kind == ObjectKind::XRecord) {
-            rewrite(next, [&](TagList& tags) { followFilter(tags, fates); });
-            open.push_back(extensionOf(m_file.tags(object->range)));
-        } else if (object->kind == ObjectKind::Dictionary) {
-            for (const Dictionary::Entry& entry : objects.dictionary(next).entries())
-                open.push_back(entry.object);
-        }
+    for (const FilterPlace& place : filterPlaces(m_file)) {
+        rewrite(place.record, [&](TagList& tags) { followFilter(tags, fates); });
+        seen.insert(place.record);
     }
     return seen;
 }
@@ -201,9 +186,6 @@ void LayerObjects::followOldFilter(TagList& tags, const LayerFates& fates) const
 void LayerObjects::followFilter(TagList& tags, const LayerFates& fates) const
 {
     const RecordData data(tags);
-    const int kind = tags.find(kText, data.begin, data.end);
-    if (kind == TagList::kNone || tags.trimmed(kind).substr(0, 4) != "AcLy")
-        return;
     std::unordered_set<quint64> listed;
     for (int at = data.begin; at < data.end; ++at) {
         if (tags.code(at) == group::kSoftPointer)

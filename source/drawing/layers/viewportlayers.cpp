@@ -179,6 +179,12 @@ Expected<std::vector<LayerId>> ViewportLayers::override(
     return incomplete;
 }
 
+std::vector<LayerInViewport> ViewportLayers::overridden() const
+{
+    const quint64 viewport = check() ? handleOf(current()) : 0;
+    return viewport != 0 ? m_overrides.all()[viewport] : std::vector<LayerInViewport>();
+}
+
 void ViewportLayers::follow(const LayerFates& fates)
 {
     if (fates.removed().empty())

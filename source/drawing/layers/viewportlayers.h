@@ -40,6 +40,8 @@ public:
     /// refuses as `check` does.
     Expected<std::vector<LayerId>> override(
         const std::vector<LayerInViewport>& layers, int properties);
+    /// The layers that look otherwise in the current viewport, ascending.
+    std::vector<LayerInViewport> overridden() const;
     /// Takes layers that went out of every viewport's list.
     void follow(const LayerFates& fates);
 

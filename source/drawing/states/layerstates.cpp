@@ -130,12 +130,7 @@ std::optional<LayerState> LayerStates::find(const QString& name) const
 void LayerStates::makeDictionary(LayerStateTable& table)
 {
     Objects& objects = m_file.objects();
-    SymbolTables& tables = m_file.tables();
-    quint64 extension = extensionOf(m_file.tags(m_file.table(TableKind::Layer).head));
-    if (objects.kind(extension) != ObjectKind::Dictionary) {
-        extension = objects.addDictionary(tables.madeHandle(TableKind::Layer));
-        tables.linkExtension(TableKind::Layer, extension);
-    }
+    const quint64 extension = m_file.tables().madeExtension(TableKind::Layer);
     table.dictionary = objects.addDictionary(extension);
     objects.addEntry(extension, kStatesKey, table.dictionary);
 }
