@@ -13,6 +13,8 @@ from PIL import Image
 ROOT = Path(__file__).resolve().parent
 MODULE_SIZES = {"": 16, "@2x": 32}
 WORKBENCH_SIZES = {"": 24, "@2x": 48}
+# What the cells of the layer panel show, drawn for the module's tables.
+PANEL_STATES = ("off", "on", "thaw", "frozed", "unlock", "lock", "noprint", "print", "current")
 APP_SIZES = {"16": 16, "24": 24, "32": 32, "48": 48, "64": 64, "128": 128, "256": 256}
 
 
@@ -63,6 +65,10 @@ def make_workbench_icons():
             file = folder / f"{master.stem}{joint}{suffix}.png"
             render(master, size).save(file, optimize=True)
             entries.append((file.name, f"bitmaps/workbench/{file.name}"))
+    for state in PANEL_STATES:
+        for suffix in MODULE_SIZES:
+            name = f"layer_{state}{suffix}.bmp"
+            entries.append((name, f"bitmaps/Resources/{name}"))
     write_qrc(ROOT / "workbench.qrc", "/workbench", entries)
 
 

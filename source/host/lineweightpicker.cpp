@@ -1,3 +1,4 @@
+#include "lineweights.h"
 #include "vnpickers.h"
 
 #include <QPainter>
@@ -11,20 +12,6 @@ constexpr int kWeights[] = {-1, -2, kDefaultWeight, 0, 5, 9, 13, 15, 18, 20, 25,
     60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
 constexpr QSize kIconSize(40, 16);
 constexpr int kHundredthsToAPixel = 18;
-
-QString weightText(int weight)
-{
-    switch (weight) {
-    case -1:
-        return VnLineWidthComboBox::tr("随层");
-    case -2:
-        return VnLineWidthComboBox::tr("随块");
-    case kDefaultWeight:
-        return VnLineWidthComboBox::tr("默认");
-    default:
-        return VnLineWidthComboBox::tr("%1 mm").arg(weight / 100.0, 0, 'f', 2);
-    }
-}
 
 /// A stroke as thick as the weight, in the text colour so that it reads on every background.
 QIcon weightIcon(int weight, const QColor& color)
@@ -44,7 +31,8 @@ VnLineWidthComboBox::VnLineWidthComboBox(QWidget* parent) : QComboBox(parent)
 {
     setIconSize(kIconSize);
     for (const int weight : kWeights)
-        addItem(weightIcon(weight, palette().color(QPalette::Text)), weightText(weight), weight);
+        addItem(weightIcon(weight, palette().color(QPalette::Text)), host::lineweightText(weight),
+            weight);
 }
 
 int VnLineWidthComboBox::GetCurrentLineWeight() const
@@ -53,3 +41,17 @@ int VnLineWidthComboBox::GetCurrentLineWeight() const
 }
 
 } // namespace vnsi
+
+QString host::lineweightText(int weight)
+{
+    switch (weight) {
+    case -1:
+        return vnsi::VnLineWidthComboBox::tr("随层");
+    case -2:
+        return vnsi::VnLineWidthComboBox::tr("随块");
+    case vnsi::kDefaultWeight:
+        return vnsi::VnLineWidthComboBox::tr("默认");
+    default:
+        return vnsi::VnLineWidthComboBox::tr("%1 mm").arg(weight / 100.0, 0, 'f', 2);
+    }
+}

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "CmColor.h"
+#include "vnsidef.h"
 
 #include <QColor>
 #include <QIcon>
 
 namespace host {
 
-QColor indexColor(int index);
+VNSI_EXPORT QColor indexColor(int index);
 QColor toQColor(const OdCmEntityColor& color);
 /// A square of the colour with a thin border.
 QIcon swatchIcon(const QColor& color);
