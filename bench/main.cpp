@@ -55,6 +55,7 @@ int run(int argc, char** argv, bool quick)
     report.registerRows(bench::translatorRows(), quick);
     report.registerRows(bench::batchRows(folder.path()), quick);
     report.registerRows(bench::walkRows(folder.path()), quick);
+    report.registerRows(bench::panelRows(folder.path()), quick);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

@@ -18,6 +18,9 @@ std::vector<Row> deleteDialogRows();
 std::vector<Row> translatorRows();
 /// Translating many drawings, which are generated in `folder`, with the batch program.
 std::vector<Row> batchRows(const QString& folder);
+/// How long the window stands still for the layer panel; the drawing for it is generated in
+/// `folder`.
+std::vector<Row> panelRows(const QString& folder);
 /// Clicking and filtering in the layer walk, and the canvas that follows; the drawing for it is
 /// generated in `folder`.
 std::vector<Row> walkRows(const QString& folder);

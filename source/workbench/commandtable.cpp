@@ -7,6 +7,7 @@
 #include "commands/laymrgcommand.h"
 #include "commands/laytranscommand.h"
 #include "commands/laywalkcommand.h"
+#include "commands/quickcommands.h"
 
 #include <algorithm>
 #include <iterator>
@@ -14,7 +15,7 @@
 namespace {
 
 template <class T>
-std::unique_ptr<LayerCommand> make()
+std::unique_ptr<LayerCommand> make(const char*)
 {
     return std::make_unique<T>();
 }
@@ -30,6 +31,17 @@ constexpr CommandRow kRows[] = {
     {"LAYWALK", QT_TRANSLATE_NOOP("Commands", "图层漫游"), "layer-walk", make<LayerWalkCommand>},
     {"LAYTRANS", QT_TRANSLATE_NOOP("Commands", "图层转换器"), "layer-translate",
         make<LayerTranslateCommand>},
+    {"LAYISO", QT_TRANSLATE_NOOP("Commands", "隔离图层"), nullptr, quickcommands::make},
+    {"LAYUNISO", QT_TRANSLATE_NOOP("Commands", "取消隔离图层"), nullptr, quickcommands::make},
+    {"LAYFRZ", QT_TRANSLATE_NOOP("Commands", "冻结图层"), nullptr, quickcommands::make},
+    {"LAYTHW", QT_TRANSLATE_NOOP("Commands", "解冻图层"), nullptr, quickcommands::make},
+    {"LAYOFF", QT_TRANSLATE_NOOP("Commands", "关闭图层"), nullptr, quickcommands::make},
+    {"LAYON", QT_TRANSLATE_NOOP("Commands", "打开图层"), nullptr, quickcommands::make},
+    {"LAYLCK", QT_TRANSLATE_NOOP("Commands", "锁定图层"), nullptr, quickcommands::make},
+    {"LAYULK", QT_TRANSLATE_NOOP("Commands", "解锁图层"), nullptr, quickcommands::make},
+    {"LAYCUR", QT_TRANSLATE_NOOP("Commands", "更改到当前图层"), nullptr, quickcommands::make},
+    {"LAYMCUR", QT_TRANSLATE_NOOP("Commands", "置为当前图层"), nullptr, quickcommands::make},
+    {"LAYERP", QT_TRANSLATE_NOOP("Commands", "上一个图层状态"), nullptr, quickcommands::make},
 };
 
 } // namespace

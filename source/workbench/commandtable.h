@@ -12,9 +12,10 @@ struct CommandRow
 {
     const char* name;  ///< As typed, in any case.
     const char* title; ///< As shown; also the name of the undo step.
-    const char* icon;  ///< File under ":/workbench/" without ".png".
-    std::unique_ptr<LayerCommand> (*create)();
+    const char* icon;  ///< File under ":/workbench/" without ".png"; null: not on the tool bar.
+    std::unique_ptr<LayerCommand> (*make)(const char* name);
 
+    std::unique_ptr<LayerCommand> create() const { return make(name); }
     QString displayTitle() const { return QCoreApplication::translate("Commands", title); }
 };
 

@@ -3,8 +3,10 @@
 #include "canvas.h"
 #include "codepagechoice.h"
 #include "commandline.h"
+#include "commands/layermarks.h"
 #include "drawingsession.h"
 #include "entitypick.h"
+#include "layerpanel.h"
 #include "messages.h"
 #include "recentfiles.h"
 #include "requests.h"
@@ -98,6 +100,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
     m_session = new DrawingSession(this);
     createActions();
     createCommandLine();
+    createLayerPanel();
     connectParts();
     m_canvas->setDark(QSettings().value(QLatin1String(kDarkKey), true).toBool());
     updateState();
@@ -109,6 +112,7 @@ void MainWindow::createActions()
     QMenu* const menus[] = {menuBar()->addMenu(tr("文件(&F)")), menuBar()->addMenu(tr("编辑(&E)")),
         menuBar()->addMenu(tr("视图(&V)")), menuBar()->addMenu(tr("图层(&L)")),
         menuBar()->addMenu(tr("帮助(&H)"))};
+    menus[ActionRow::View]->setObjectName(QStringLiteral("viewMenu"));
     QToolBar* const bar = addToolBar(tr("工具栏"));
     bar->setObjectName(QStringLiteral("toolBar"));
 
@@ -131,10 +135,13 @@ void MainWindow::createActions()
         connect(made, &QAction::triggered, this, row.slot);
     }
     bar->addSeparator();
+    auto* const quick = new QMenu(tr("快捷操作(&Q)"), this);
     for (const CommandRow& row : CommandTable()) {
-        QAction* const made = add(menus[ActionRow::Layers], row.name, row.displayTitle(), row.icon);
+        QAction* const made = add(
+            row.icon ? menus[ActionRow::Layers] : quick, row.name, row.displayTitle(), row.icon);
         connect(made, &QAction::triggered, this, [this, &row] { runLayerCommand(row); });
     }
+    menus[ActionRow::Layers]->addMenu(quick);
     menus[ActionRow::File]->insertMenu(action("SAVE"), m_recent);
     menus[ActionRow::File]->insertSeparator(action("QUIT"));
     bar->insertSeparator(action("UNDO"));
@@ -162,6 +169,39 @@ void MainWindow::createCommandLine()
     dock->setWidget(m_commandLine);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
     resizeDocks({dock}, {dock->minimumSizeHint().height()}, Qt::Vertical);
+}
+
+void MainWindow::createLayerPanel()
+{
+    m_panel = new LayerPanel(this);
+    auto* dock = new QDockWidget(tr("图层"), this);
+    dock->setObjectName(QStringLiteral("layerDock"));
+    dock->setWidget(m_panel);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    QMenu* const view = menuBar()->findChild<QMenu*>(QStringLiteral("viewMenu"));
+    view->addAction(dock->toggleViewAction());
+    connect(m_panel, &LayerPanel::said, m_commandLine, &CommandLine::say);
+    connect(m_panel, &LayerPanel::refused, this, &MainWindow::reportRefusals);
+    connect(m_panel, &LayerPanel::entitiesWanted, this, &MainWindow::showEntities);
+    connect(m_panel, &LayerPanel::commandWanted, this,
+        [this](const QString& name, const std::vector<drawing::LayerId>& layers) {
+            runLayerCommand(*CommandTable().find(name), layers);
+        });
+}
+
+void MainWindow::showEntities(const std::vector<int>& entities, bool intoView)
+{
+    m_canvas->setSelection(entities);
+    if (m_canvas->selection().empty())
+        m_status->showMessage(tr("这些对象现在没有显示出来。"), kNoticeMilliseconds);
+    else if (intoView)
+        m_canvas->zoomToSelection();
+}
+
+void MainWindow::reportRefusals(QStringList sentences)
+{
+    CommandContext context = commandContext();
+    layermarks::report(context, tr("有些更改没有完成："), sentences);
 }
 
 void MainWindow::connectParts()
@@ -213,6 +253,7 @@ void MainWindow::showDrawing(const std::shared_ptr<const drawing::Geometry>& geo
     connect(drawing(), &drawing::Drawing::layersChanged, this, &MainWindow::showLayers);
     connect(drawing(), &drawing::Drawing::entitiesChanged, this, &MainWindow::rebuildGeometry);
     connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
+    m_panel->setDrawing(drawing());
     m_canvas->clearSelection();
     m_canvas->setScene(geometry);
     m_canvas->setShowsLineweights(geometry->switches.showsLineweights);
@@ -251,7 +292,7 @@ void MainWindow::showLayers()
     }
     // A linetype may have been loaded since.
     m_canvas->setLinetypes(drawing::linetypePatterns(*drawing()));
-    m_canvas->setLayers(drawing()->layers());
+    m_canvas->setLayers(m_panel->memory()->isolation.shown(drawing()->layers()));
     m_status->showLayers(drawing());
     updateState();
 }
@@ -282,13 +323,14 @@ void MainWindow::runCommand(const QString& word)
     m_commandLine->say(tr("未知命令“%1”。").arg(wanted));
 }
 
-void MainWindow::runLayerCommand(const CommandRow& row)
+void MainWindow::runLayerCommand(const CommandRow& row, const std::vector<drawing::LayerId>& layers)
 {
     if (!drawing() || isBusy()) {
         m_commandLine->say(drawing() ? tr("请等待当前操作结束。") : tr("请先打开一个图形。"));
         return;
     }
     CommandContext context = commandContext();
+    context.layers = layers;
     m_commandRunning = true;
     updateState();
     try {
@@ -343,7 +385,8 @@ CommandContext MainWindow::commandContext()
     return {*drawing(), this, [this](const QString& text) { m_commandLine->say(text); }, refresh,
         m_canvas->selection(),
         [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); }, pick,
-        [this](const std::vector<drawing::LayerId>& layers) { showOnly(layers); }};
+        [this](const std::vector<drawing::LayerId>& layers) { showOnly(layers); }, nullptr,
+        m_panel->memory()};
 }
 
 void MainWindow::pose(const LayerCommand::Camera& camera)
@@ -464,6 +507,7 @@ void MainWindow::updateState()
     action("LWDISPLAY")->setChecked(m_canvas->showsLineweights());
     for (const CommandRow& row : CommandTable())
         action(row.name)->setEnabled(idle);
+    m_panel->setBusy(!idle);
     if (m_session->isBusy())
         return; // The saving thread has the drawing to itself; this runs again when it is done.
     QString file = drawing() ? QFileInfo(drawing()->path()).fileName() : tr("无图形");

@@ -10,6 +10,7 @@
 class Canvas;
 class CommandLine;
 class DrawingSession;
+class LayerPanel;
 class RecentFiles;
 class StatusFields;
 
@@ -49,6 +50,7 @@ private:
 
     void createActions();
     void createCommandLine();
+    void createLayerPanel();
     void connectParts();
 
     void chooseFile();
@@ -66,11 +68,13 @@ private:
 
     QString askForFile();
     CommandContext commandContext();
-    void runLayerCommand(const CommandRow& row);
+    void runLayerCommand(const CommandRow& row, const std::vector<drawing::LayerId>& layers = {});
     void showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry);
     void showSpace(int layout);
     int shownSpace() const;
     void showLayers();
+    void showEntities(const std::vector<int>& entities, bool intoView);
+    void reportRefusals(QStringList sentences);
     void showOnly(const std::vector<drawing::LayerId>& ids);
     void endShowingOnly(const std::vector<int>& selection);
     void rebuildGeometry();
@@ -81,6 +85,7 @@ private:
     DrawingSession* m_session = nullptr;
     Canvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
+    LayerPanel* m_panel = nullptr;
     RecentFiles* m_recent = nullptr;
     StatusFields* m_status = nullptr;
     bool m_commandRunning = false;

@@ -124,6 +124,17 @@ void Canvas::zoomToExtents()
     invalidate();
 }
 
+void Canvas::zoomToSelection()
+{
+    constexpr double kRoom = 0.7;
+    if (m_selection.empty())
+        return;
+    m_view.fit(CanvasPick(*m_geometry, m_looks).bounds(m_selection));
+    m_view.zoomAt(QRectF(rect()).center(), kRoom);
+    m_fitted = false;
+    invalidate();
+}
+
 void Canvas::viewMoved()
 {
     m_fitted = false;

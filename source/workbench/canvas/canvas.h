@@ -51,6 +51,8 @@ public:
     /// Selects these, in any order, as far as they are shown.
     void setSelection(std::vector<int> entities);
     void clearSelection() { setSelection({}); }
+    /// Shows what is selected, with room around it; nothing moves without a selection.
+    void zoomToSelection();
 
     /// Starts a pick: from nothing selected, clicks and windows add what they hit, or take out what
     /// is clicked again, until ENTER or the right button ends it, or Esc gives up.

@@ -244,3 +244,20 @@ std::vector<int> CanvasPick::shown(const std::vector<int>& entities) const
     }
     return shown;
 }
+
+drawing::Box CanvasPick::bounds(const std::vector<int>& entities) const
+{
+    drawing::Box box;
+    const auto add = [&](const auto& piece) {
+        if (std::binary_search(entities.begin(), entities.end(), piece.entity))
+            box.add(piece.bounds);
+    };
+    for (std::size_t i = 0; i < m_looks.size(); ++i) {
+        if (!m_looks[i].visible)
+            continue;
+        const drawing::GeometryGroup& group = m_geometry.groups[i];
+        std::for_each(group.primitives.begin(), group.primitives.end(), add);
+        std::for_each(group.texts.begin(), group.texts.end(), add);
+    }
+    return box;
+}

@@ -26,6 +26,8 @@ public:
     std::vector<int> within(const drawing::Box& box, Mode mode) const;
     /// Of these, given in ascending order, those that show anything.
     std::vector<int> shown(const std::vector<int>& entities) const;
+    /// What these, given in ascending order, take up as far as they show.
+    drawing::Box bounds(const std::vector<int>& entities) const;
 
 private:
     struct Hit;

@@ -6,6 +6,7 @@
 #include <vector>
 
 class QWidget;
+struct LayerMemory;
 
 namespace drawing {
 class Drawing;
@@ -30,6 +31,8 @@ struct CommandContext
     /// command's end. The drawing does not change.
     std::function<void(const std::vector<drawing::LayerId>&)> showOnly = {};
     drawing::DrawingStep* step = nullptr; ///< What the command changes belongs to it.
+    LayerMemory* memory = nullptr;             ///< What the window remembers of the layers.
+    std::vector<drawing::LayerId> layers = {}; ///< Chosen in the panel for this command.
 };
 
 /// One of the layer commands. A new object for every run.

@@ -2,9 +2,8 @@
 #include "hostextras.h"
 
 #include "drawing.h"
+#include "nameorder.h"
 #include "vnstrings.h"
-
-#include <QCollator>
 
 #include <algorithm>
 #include <cstring>
@@ -139,9 +138,7 @@ constexpr Field kFields[] = {
 
 std::vector<const Layer*> sortedByName(const std::vector<Layer>& layers, const Filter& passes)
 {
-    QCollator collator;
-    collator.setNumericMode(true);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    const QCollator collator = nameCollator();
     std::vector<std::pair<QCollatorSortKey, const Layer*>> keyed;
     keyed.reserve(layers.size());
     for (const Layer& layer : layers) {

@@ -1,0 +1,133 @@
+#include "drawing.h"
+#include "layercolumns.h"
+#include "layerpanel.h"
+#include "layerview.h"
+#include "rows.h"
+#include "stopwatch.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace bench {
+
+namespace {
+
+constexpr int kLayers = 100000;
+constexpr double kMostSeconds = 0.05; ///< For which the window may stand still.
+
+/// Layers of all colours, a tenth of them with a description.
+bool writeLayers(const QString& path)
+{
+    QByteArray text = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1021\n0\nENDSEC\n"
+                      "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n1\n";
+    for (int i = 0; i < kLayers; ++i) {
+        const QByteArray number = QByteArray::number(qint64(i) * 7919 % 100003);
+        text += "0\nLAYER\n2\nA-WALL-" + number + "\n70\n0\n62\n" +
+                QByteArray::number(i % 255 + 1) + "\n6\nContinuous\n";
+        if (i % 10 == 0)
+            text += "1001\nAcAecLayerStandard\n1000\n\n1000\nPart " + number + "\n";
+    }
+    text += "0\nENDTAB\n0\nENDSEC\n0\nEOF\n";
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
+
+/// The panel in a window. Whatever is done to it, what counts is the longest time it stands still
+/// until its rows are there.
+struct ShownPanel
+{
+    explicit ShownPanel(std::unique_ptr<drawing::Drawing> opened) : drawing(std::move(opened))
+    {
+        panel.resize(900, 700);
+        panel.show();
+        QApplication::processEvents();
+    }
+
+    double longestStall(const std::function<void()>& act)
+    {
+        double longest = timed(Clock::Wall, act);
+        bool isDone = false;
+        while (!isDone) {
+            isDone = panel.model()->isSettled();
+            longest = std::max(longest, timed(Clock::Wall, [] { QApplication::processEvents(); }));
+        }
+        return longest;
+    }
+
+    double open()
+    {
+        panel.setDrawing(nullptr);
+        return longestStall([this] { panel.setDrawing(drawing.get()); });
+    }
+    /// The next letter of a search, which starts anew when it is whole.
+    double type()
+    {
+        typed = (typed + 1) % 9;
+        auto* const line = panel.findChild<QLineEdit*>(QStringLiteral("layerSearch"));
+        return longestStall([&] { line->setText(QStringLiteral("WALL-777").left(typed)); });
+    }
+    double searchByExpression()
+    {
+        typed = (typed + 1) % 9;
+        auto* const line = panel.findChild<QLineEdit*>(QStringLiteral("layerSearch"));
+        return longestStall([&] { line->setText(QStringLiteral("/l+-.*%1$/").arg(typed)); });
+    }
+    double sort()
+    {
+        static constexpr const char* kBy[] = {"name", "color", "description", "count"};
+        typed = (typed + 1) % 4;
+        return longestStall([&] {
+            panel.view()->sortByColumn(
+                LayerColumns::find(QLatin1String(kBy[typed])), Qt::DescendingOrder);
+        });
+    }
+
+    std::unique_ptr<drawing::Drawing> drawing;
+    LayerPanel panel;
+    int typed = 0;
+};
+
+tl::expected<Sides, QString> stall(const QString& folder, double (ShownPanel::*work)())
+{
+    const QString path = folder + QStringLiteral("/panel.dxf");
+    if (!QFile::exists(path) && !writeLayers(path))
+        return tl::make_unexpected(QStringLiteral("cannot write %1").arg(path));
+    auto opened = drawing::Drawing::open(path);
+    if (!opened)
+        return tl::make_unexpected(opened.error().text);
+    const auto panel = std::make_shared<ShownPanel>(std::move(*opened));
+    (void)panel->open();
+    return Sides{[panel, work] { return ((*panel).*work)(); }, [] { return kMostSeconds; },
+        QStringLiteral("50 ms")};
+}
+
+} // namespace
+
+std::vector<Row> panelRows(const QString& folder)
+{
+    struct Work
+    {
+        const char* name;
+        const char* what;
+        double (ShownPanel::*run)();
+    };
+    static constexpr Work kWorks[] = {
+        {"panel/open", "opening", &ShownPanel::open},
+        {"panel/filter", "a letter typed", &ShownPanel::type},
+        {"panel/expression", "a regular expression", &ShownPanel::searchByExpression},
+        {"panel/sort", "sorting by names, numbers, texts", &ShownPanel::sort},
+    };
+    std::vector<Row> rows;
+    for (const Work& work : kWorks)
+        rows.push_back({work.name,
+            QStringLiteral("layer panel, 100,000 layers, longest stall: %1")
+                .arg(QLatin1String(work.what)),
+            Measure::Wall, {Budget::Kind::AtMostTimes, 1}, 16, 8,
+            [folder, run = work.run] { return stall(folder, run); }});
+    return rows;
+}
+
+} // namespace bench

@@ -1,0 +1,188 @@
+#include "quickcommands.h"
+
+#include "layeracts.h"
+#include "layermarks.h"
+#include "layermemory.h"
+
+#include <QCoreApplication>
+#include <QSettings>
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+#include <set>
+
+namespace quickcommands {
+
+using drawing::Drawing;
+using drawing::LayerId;
+using drawing::LayerProperties;
+using layeracts::Layers;
+
+/// What a command does; `done` says how many layers it was for.
+struct Act
+{
+    enum Needs { Objects, Nothing };
+
+    const char* name;
+    Needs needs;
+    QStringList (*run)(CommandContext& context, const Layers& layers);
+    const char* done;
+    bool (*isPossible)(const CommandContext& context) = nullptr; ///< Null: always.
+    const char* otherwise = nullptr;
+};
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("QuickCommands", text);
+}
+
+template <auto Member, bool Value>
+QStringList set(CommandContext& context, const Layers& layers)
+{
+    return layeracts::change(
+        context.drawing, layers, [](LayerProperties& properties) { properties.*Member = Value; });
+}
+
+QStringList isolate(CommandContext& context, const Layers& layers)
+{
+    const bool fades = QSettings().value(QStringLiteral("panel/isolateByLock")).toBool();
+    return context.memory->isolation.isolate(context.drawing, layers,
+        fades ? LayerIsolation::Way::LockAndFade : LayerIsolation::Way::Hide);
+}
+
+bool isIsolated(const CommandContext& context)
+{
+    return context.memory->isolation.isActive();
+}
+
+QStringList endIsolation(CommandContext& context, const Layers&)
+{
+    return context.memory->isolation.restore(context.drawing);
+}
+
+bool hasHistory(const CommandContext& context)
+{
+    return !context.memory->history.isEmpty();
+}
+
+QStringList goBack(CommandContext& context, const Layers&)
+{
+    return context.memory->history.goBack(context.drawing);
+}
+
+QStringList makeCurrent(CommandContext& context, const Layers& layers)
+{
+    const auto done = context.drawing.setCurrentLayer(layers.front());
+    return done ? QStringList() : QStringList(done.error().text);
+}
+
+/// What is on locked layers stays there.
+QStringList moveToCurrent(CommandContext& context, const Layers&)
+{
+    const Drawing& drawing = context.drawing;
+    std::vector<int> movable;
+    QStringList refusals;
+    for (const int entity : context.selection) {
+        const auto* const layer =
+            drawing.layer(drawing.entities()[static_cast<std::size_t>(entity)].layer);
+        if (!layer || !layer->properties.locked)
+            movable.push_back(entity);
+    }
+    if (movable.size() < context.selection.size())
+        refusals += tr("%1 个对象在锁定的图层上，未作更改。")
+                        .arg(context.selection.size() - movable.size());
+    const auto moved = context.drawing.moveEntities(movable, drawing.currentLayer());
+    return moved ? refusals : refusals + QStringList(moved.error().text);
+}
+
+#define DONE(text) QT_TRANSLATE_NOOP("QuickCommands", text)
+
+constexpr Act kActs[] = {
+    {"LAYISO", Act::Objects, isolate, DONE("已隔离 %1 个图层。")},
+    {"LAYUNISO", Act::Nothing, endIsolation, DONE("已恢复隔离前的图层。"), isIsolated,
+        DONE("没有隔离的图层。")},
+    {"LAYFRZ", Act::Objects, set<&LayerProperties::frozen, true>, DONE("已冻结 %1 个图层。")},
+    {"LAYTHW", Act::Nothing, set<&LayerProperties::frozen, false>, DONE("已解冻 %1 个图层。")},
+    {"LAYOFF", Act::Objects, set<&LayerProperties::off, true>, DONE("已关闭 %1 个图层。")},
+    {"LAYON", Act::Nothing, set<&LayerProperties::off, false>, DONE("已打开 %1 个图层。")},
+    {"LAYLCK", Act::Objects, set<&LayerProperties::locked, true>, DONE("已锁定 %1 个图层。")},
+    {"LAYULK", Act::Objects, set<&LayerProperties::locked, false>, DONE("已解锁 %1 个图层。")},
+    {"LAYCUR", Act::Objects, moveToCurrent, DONE("对象已更改到当前图层。")},
+    {"LAYMCUR", Act::Objects, makeCurrent, DONE("已更改当前图层。")},
+    {"LAYERP", Act::Nothing, goBack, DONE("已恢复上一个图层状态。"), hasHistory,
+        DONE("没有上一个图层状态。")},
+};
+
+#undef DONE
+
+/// Of the objects, in the order they come; each once.
+Layers layersOf(const Drawing& drawing, const std::vector<int>& entities)
+{
+    Layers layers;
+    std::set<LayerId> known;
+    for (const int entity : entities) {
+        const LayerId layer = drawing.entities()[static_cast<std::size_t>(entity)].layer;
+        if (drawing.layer(layer) && known.insert(layer).second)
+            layers.push_back(layer);
+    }
+    return layers;
+}
+
+Layers allLayers(const Drawing& drawing)
+{
+    Layers layers;
+    for (const drawing::Layer& layer : drawing.layers())
+        layers.push_back(layer.id);
+    return layers;
+}
+
+class QuickCommand : public LayerCommand
+{
+public:
+    explicit QuickCommand(const Act& act) : m_act(act) {}
+
+    void run(CommandContext& context) override
+    {
+        if (m_act.isPossible && !m_act.isPossible(context))
+            return layermarks::tell(context, tr(m_act.otherwise));
+        const Layers layers = this->layers(context);
+        if (layers.empty())
+            return layermarks::tell(context, tr("没有选择对象，未作更改。"));
+        QStringList refusals = m_act.run(context, layers);
+        if (refusals.isEmpty())
+            return layermarks::tell(context,
+                tr(m_act.done).replace(QLatin1String("%1"), QString::number(layers.size())));
+        layermarks::report(context, tr("有些更改没有完成："), refusals);
+    }
+
+    void pose(CommandContext&, const Camera&) override {}
+
+private:
+    Layers layers(CommandContext& context) const
+    {
+        if (!context.layers.empty())
+            return context.layers;
+        if (m_act.needs == Act::Nothing)
+            return allLayers(context.drawing);
+        if (context.selection.empty() && context.pick)
+            context.selection = context.pick();
+        return layersOf(context.drawing, context.selection);
+    }
+
+    const Act& m_act;
+};
+
+} // namespace
+
+std::unique_ptr<LayerCommand> make(const char* name)
+{
+    const auto* const act = std::find_if(std::begin(kActs), std::end(kActs),
+        [name](const Act& candidate) { return std::strcmp(candidate.name, name) == 0; });
+    Q_ASSERT(act != std::end(kActs));
+    return std::make_unique<QuickCommand>(*act);
+}
+
+} // namespace quickcommands

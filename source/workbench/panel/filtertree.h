@@ -1,0 +1,47 @@
+#pragma once
+
+#include "drawing.h"
+
+#include <QTreeWidget>
+
+/// Shows filters, by the handles of their records; those that every drawing has have small numbers.
+class FilterTree : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FilterTree(QWidget* parent = nullptr);
+
+    struct Entry
+    {
+        quint64 record = 0;
+        quint64 parent = 0; ///< 0 at the top; shown before what is inside.
+        QString name;
+        QString explanation; ///< A tool tip.
+        bool isEditable = false;
+        bool isUsable = true;
+        bool takesLayers = false; ///< Layers can be dropped on it.
+    };
+    /// What was chosen and what was folded stays so.
+    void show(const std::vector<Entry>& entries);
+    quint64 chosen() const;
+    void choose(quint64 record);
+    void editName(quint64 record);
+
+signals:
+    void renamed(quint64 record, const QString& name);
+    void layersDropped(quint64 record, const std::vector<drawing::LayerId>& layers);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    static quint64 recordOf(const QTreeWidgetItem* item);
+    QTreeWidgetItem* itemOf(quint64 record) const;
+    bool takesLayersAt(const QPoint& at) const;
+
+    QHash<quint64, QTreeWidgetItem*> m_items;
+    bool m_isFilling = false;
+};

@@ -1,0 +1,163 @@
+#include "layermemory.h"
+
+#include "layeracts.h"
+
+#include <algorithm>
+#include <set>
+
+using drawing::Drawing;
+using drawing::Layer;
+using drawing::LayerId;
+using drawing::LayerProperties;
+
+namespace {
+
+constexpr size_t kMostSteps = 100;
+constexpr int kFaded = 75; ///< Percent of transparency, at least.
+
+bool isLess(const Layer& a, const Layer& b)
+{
+    return a.id < b.id;
+}
+
+std::vector<Layer> layersById(const Drawing& drawing)
+{
+    std::vector<Layer> layers = drawing.layers();
+    if (!std::is_sorted(layers.begin(), layers.end(), isLess))
+        std::sort(layers.begin(), layers.end(), isLess);
+    return layers;
+}
+
+/// Names stay what they are.
+bool isSameButName(LayerProperties a, const LayerProperties& b)
+{
+    a.name = b.name;
+    a.plotStyle = b.plotStyle; // Follows from the colour.
+    return a == b;
+}
+
+} // namespace
+
+void LayerHistory::setDrawing(Drawing* drawing)
+{
+    if (m_drawing)
+        m_drawing->disconnect(this);
+    m_drawing = drawing;
+    m_steps.clear();
+    m_layers.clear();
+    if (!m_drawing)
+        return;
+    m_layers = layersById(*m_drawing);
+    m_current = m_drawing->currentLayer();
+    connect(m_drawing, &Drawing::layersChanged, this, &LayerHistory::follow);
+}
+
+LayerHistory::Step LayerHistory::stepTo(const std::vector<Layer>& now) const
+{
+    Step step;
+    step.currentBefore = m_current;
+    step.currentAfter = m_drawing->currentLayer();
+    auto old = m_layers.begin();
+    for (const Layer& layer : now) {
+        while (old != m_layers.end() && old->id < layer.id)
+            ++old;
+        const bool isKnown = old != m_layers.end() && old->id == layer.id;
+        if (isKnown && !isSameButName(old->properties, layer.properties))
+            step.changes.push_back({old->properties, layer.properties, layer.id});
+    }
+    return step;
+}
+
+bool LayerHistory::isReverse(const Step& a, const Step& b)
+{
+    return a.currentBefore == b.currentAfter && a.currentAfter == b.currentBefore &&
+           std::equal(a.changes.begin(), a.changes.end(), b.changes.begin(), b.changes.end(),
+               [](const Change& one, const Change& other) {
+                   return one.layer == other.layer && isSameButName(one.before, other.after) &&
+                          isSameButName(one.after, other.before);
+               });
+}
+
+void LayerHistory::follow()
+{
+    std::vector<Layer> now = layersById(*m_drawing);
+    Step step = stepTo(now);
+    m_layers = std::move(now);
+    m_current = step.currentAfter;
+    if (step.changes.empty() && step.currentBefore == step.currentAfter)
+        return;
+    if (!m_steps.empty() && isReverse(m_steps.back(), step))
+        m_steps.pop_back();
+    else
+        m_steps.push_back(std::move(step));
+    if (m_steps.size() > kMostSteps)
+        m_steps.erase(m_steps.begin());
+}
+
+QStringList LayerHistory::goBack(Drawing& drawing) const
+{
+    QStringList refusals;
+    if (m_steps.empty())
+        return refusals;
+    const Step& step = m_steps.back();
+    if (drawing.layer(step.currentBefore)) {
+        if (const auto done = drawing.setCurrentLayer(step.currentBefore); !done)
+            refusals += done.error().text;
+    }
+    for (const Change& change : step.changes) {
+        const Layer* const layer = drawing.layer(change.layer);
+        if (!layer)
+            continue;
+        LayerProperties wanted = change.before;
+        wanted.name = layer->properties.name;
+        if (const auto done = drawing.setLayerProperties(change.layer, wanted); !done)
+            refusals += done.error().text;
+    }
+    return refusals;
+}
+
+QStringList LayerIsolation::isolate(Drawing& drawing, const Layers& layers, Way way)
+{
+    QStringList refusals = restore(drawing);
+    const std::set<LayerId> kept(layers.begin(), layers.end());
+    m_way = way;
+    for (const Layer& layer : drawing.layers()) {
+        const LayerProperties& p = layer.properties;
+        if (kept.count(layer.id) == 0 && !(way == Way::Hide ? p.off : p.locked))
+            m_changed.push_back(layer.id);
+    }
+    std::sort(m_changed.begin(), m_changed.end());
+    refusals += layeracts::change(drawing, m_changed,
+        [way](LayerProperties& p) { (way == Way::Hide ? p.off : p.locked) = true; });
+    if (!layers.empty() && kept.count(drawing.currentLayer()) == 0) {
+        m_current = drawing.currentLayer();
+        if (const auto done = drawing.setCurrentLayer(layers.front()); !done)
+            refusals += done.error().text;
+    }
+    return refusals;
+}
+
+QStringList LayerIsolation::restore(Drawing& drawing)
+{
+    const Way way = m_way;
+    QStringList refusals = layeracts::change(drawing, m_changed,
+        [way](LayerProperties& p) { (way == Way::Hide ? p.off : p.locked) = false; });
+    if (drawing.layer(m_current)) {
+        if (const auto done = drawing.setCurrentLayer(m_current); !done)
+            refusals += done.error().text;
+    }
+    forget();
+    return refusals;
+}
+
+std::vector<Layer> LayerIsolation::shown(std::vector<Layer> layers) const
+{
+    if (m_way != Way::LockAndFade || m_changed.empty())
+        return layers;
+    for (Layer& layer : layers) {
+        if (layer.properties.locked &&
+            std::binary_search(m_changed.begin(), m_changed.end(), layer.id))
+            layer.properties.transparency = std::max(layer.properties.transparency, kFaded);
+    }
+    return layers;
+}

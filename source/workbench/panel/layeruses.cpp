@@ -1,0 +1,239 @@
+#include "layeruses.h"
+
+#include "file/groupcode.h"
+#include "file/owntags.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <tuple>
+
+namespace layeruses {
+
+using drawing::Block;
+using drawing::Drawing;
+using drawing::Entity;
+using drawing::EntityKind;
+using drawing::LayerId;
+
+namespace {
+
+constexpr int kMostReasons = 5;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("LayerUses", text);
+}
+
+struct KindName
+{
+    const char* type;
+    const char* name;
+};
+
+#define NAME(text) QT_TRANSLATE_NOOP("LayerUses", text)
+
+constexpr KindName kNames[] = {
+    {"LINE", NAME("直线")},
+    {"LWPOLYLINE", NAME("多段线")},
+    {"POLYLINE", NAME("多段线")},
+    {"CIRCLE", NAME("圆")},
+    {"ARC", NAME("圆弧")},
+    {"ELLIPSE", NAME("椭圆")},
+    {"SPLINE", NAME("样条曲线")},
+    {"POINT", NAME("点")},
+    {"TEXT", NAME("文字")},
+    {"MTEXT", NAME("多行文字")},
+    {"INSERT", NAME("块参照")},
+    {"ATTDEF", NAME("属性定义")},
+    {"HATCH", NAME("填充")},
+    {"SOLID", NAME("实心面")},
+    {"DIMENSION", NAME("标注")},
+    {"LEADER", NAME("引线")},
+    {"MULTILEADER", NAME("多重引线")},
+    {"VIEWPORT", NAME("视口")},
+    {"ACAD_TABLE", NAME("表格")},
+    {"IMAGE", NAME("图像")},
+    {"WIPEOUT", NAME("区域覆盖")},
+    {"MLINE", NAME("多线")},
+};
+
+#undef NAME
+
+QString kindName(const QByteArray& type)
+{
+    for (const KindName& known : kNames) {
+        if (type == known.type)
+            return tr(known.name);
+    }
+    return QString::fromLatin1(type);
+}
+
+QByteArray typeOf(const Drawing& drawing, const Entity& entity)
+{
+    drawing::TagReader tags = drawing.tags(entity);
+    drawing::Tag type;
+    return tags.next(type) ? drawing::bytesOf(type.trimmed()) : QByteArray();
+}
+
+/// The definition of a layout, or where entities of the section stand.
+QString spaceName(const Drawing& drawing, const Entity& entity)
+{
+    for (const drawing::Layout& layout : drawing.layouts()) {
+        if (drawing::holds(layout, entity))
+            return layout.name.isEmpty() ? tr("布局") : tr("布局“%1”").arg(layout.name);
+    }
+    return tr("模型空间");
+}
+
+bool isInBlock(const Drawing& drawing, const Entity& entity)
+{
+    return entity.block >= 0 && !drawing.blocks()[static_cast<size_t>(entity.block)].layout;
+}
+
+/// Entities of one kind in one place: the kind is looked up once where it is known.
+struct Heap
+{
+    LayerId layer; ///< None where layers do not matter.
+    EntityKind kind;
+    int block;
+    bool paperSpace;
+    QByteArray type; ///< Of those that are of no known kind.
+
+    bool operator<(const Heap& other) const
+    {
+        return std::tie(layer, kind, block, paperSpace, type) <
+               std::tie(other.layer, other.kind, other.block, other.paperSpace, other.type);
+    }
+};
+
+/// The block references, by the definition that they place.
+std::map<int, std::vector<int>> references(const Drawing& drawing)
+{
+    std::map<QString, int> numbers;
+    for (size_t i = 0; i < drawing.blocks().size(); ++i)
+        numbers.emplace(drawing.blocks()[i].name.toLower(), static_cast<int>(i));
+    std::map<int, std::vector<int>> placed;
+    for (size_t i = 0; i < drawing.entities().size(); ++i) {
+        const Entity& entity = drawing.entities()[i];
+        if (entity.kind != EntityKind::Insert || entity.removed)
+            continue;
+        const drawing::Tag name = drawing::findOwn(drawing.tags(entity), drawing::group::kName);
+        const auto known = numbers.find(drawing.decoded(name.trimmed()).toLower());
+        if (known != numbers.end())
+            placed[known->second].push_back(static_cast<int>(i));
+    }
+    return placed;
+}
+
+using Heaps = std::map<Heap, std::vector<int>>;
+
+/// What is on the layers, those of each for themselves where `apart` is set.
+Heaps heapsOf(const Drawing& drawing, const std::vector<LayerId>& layers, bool apart)
+{
+    const std::set<LayerId> wanted(layers.begin(), layers.end());
+    Heaps heaps;
+    for (size_t i = 0; i < drawing.entities().size(); ++i) {
+        const Entity& entity = drawing.entities()[i];
+        if (entity.removed || entity.subEntity || wanted.count(entity.layer) == 0)
+            continue;
+        const QByteArray type =
+            entity.kind == EntityKind::Other ? typeOf(drawing, entity) : QByteArray();
+        heaps[{apart ? entity.layer : LayerId::None, entity.kind, entity.block, entity.paperSpace,
+                  type}]
+            .push_back(static_cast<int>(i));
+    }
+    return heaps;
+}
+
+LayerUse useOf(const Drawing& drawing, const std::vector<int>& entities)
+{
+    const Entity& first = drawing.entities()[static_cast<size_t>(entities.front())];
+    LayerUse use;
+    use.kind = kindName(typeOf(drawing, first));
+    use.block = isInBlock(drawing, first) ? first.block : -1;
+    use.place = use.block >= 0
+                    ? tr("块“%1”").arg(drawing.blocks()[static_cast<size_t>(use.block)].name)
+                    : spaceName(drawing, first);
+    use.entities = entities;
+    return use;
+}
+
+bool isMoreFrequent(const LayerUse& a, const LayerUse& b)
+{
+    return a.entities.size() > b.entities.size();
+}
+
+QStringList ownReasons(const Drawing& drawing, const drawing::Layer& layer)
+{
+    QStringList reasons;
+    if (layer.properties.name == QLatin1String("0"))
+        reasons += tr("图层“0”总是存在");
+    if (layer.id == drawing.currentLayer())
+        reasons += tr("是当前图层");
+    if (layer.dependsOnReference)
+        reasons += tr("依赖外部参照");
+    return reasons;
+}
+
+} // namespace
+
+std::vector<LayerUse> find(const Drawing& drawing, const std::vector<LayerId>& layers)
+{
+    std::vector<LayerUse> uses;
+    for (const auto& [heap, entities] : heapsOf(drawing, layers, false))
+        uses.push_back(useOf(drawing, entities));
+    std::stable_sort(uses.begin(), uses.end(), isMoreFrequent);
+    return uses;
+}
+
+std::vector<int> shownBy(const Drawing& drawing, const LayerUse& use)
+{
+    if (use.block < 0)
+        return use.entities;
+    const std::map<int, std::vector<int>> placed = references(drawing);
+    std::set<int> seen;
+    std::vector<int> open = {use.block};
+    std::vector<int> shown;
+    while (!open.empty()) {
+        const int block = open.back();
+        open.pop_back();
+        const auto found = placed.find(block);
+        if (!seen.insert(block).second || found == placed.end())
+            continue;
+        for (const int reference : found->second) {
+            const Entity& entity = drawing.entities()[static_cast<size_t>(reference)];
+            if (isInBlock(drawing, entity))
+                open.push_back(entity.block);
+            else
+                shown.push_back(reference);
+        }
+    }
+    std::sort(shown.begin(), shown.end());
+    return shown;
+}
+
+std::vector<QStringList> reasonsToStay(const Drawing& drawing, const std::vector<LayerId>& layers)
+{
+    std::map<LayerId, std::vector<LayerUse>> uses;
+    for (const auto& [heap, entities] : heapsOf(drawing, layers, true))
+        uses[heap.layer].push_back(useOf(drawing, entities));
+    std::vector<QStringList> all;
+    for (const LayerId id : layers) {
+        const drawing::Layer* const layer = drawing.layer(id);
+        QStringList reasons = layer ? ownReasons(drawing, *layer) : QStringList();
+        std::vector<LayerUse>& own = uses[id];
+        std::stable_sort(own.begin(), own.end(), isMoreFrequent);
+        for (size_t i = 0; i < own.size() && i < kMostReasons; ++i)
+            reasons +=
+                tr("%1中有 %2 个%3").arg(own[i].place).arg(own[i].entities.size()).arg(own[i].kind);
+        if (layer && (own.size() > kMostReasons || (own.empty() && layer->used())))
+            reasons += tr("共有 %1 个对象").arg(layer->entityCount);
+        all.push_back(reasons);
+    }
+    return all;
+}
+
+} // namespace layeruses
