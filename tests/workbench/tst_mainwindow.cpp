@@ -74,7 +74,7 @@ private slots:
         QStringList offered;
         for (int i = 0; completer->setCurrentRow(i); ++i)
             offered.append(completer->currentCompletion());
-        QCOMPARE(offered, QStringList({"LAYER", "LAYERSTATE"}));
+        QCOMPARE(offered, QStringList({"LAYER", "LAYERP", "LAYERSTATE"}));
         QTest::keyClick(input(), Qt::Key_Return);
         QCOMPARE(entered.value(0).value(0).toString(), "layer");
     }
