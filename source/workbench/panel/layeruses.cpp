@@ -163,7 +163,9 @@ LayerUse useOf(const Drawing& drawing, const std::vector<int>& entities)
 
 bool isMoreFrequent(const LayerUse& a, const LayerUse& b)
 {
-    return a.entities.size() > b.entities.size();
+    // Those of one frequency stand in the order of the drawing.
+    return a.entities.size() != b.entities.size() ? a.entities.size() > b.entities.size()
+                                                  : a.entities.front() < b.entities.front();
 }
 
 QStringList ownReasons(const Drawing& drawing, const drawing::Layer& layer)
