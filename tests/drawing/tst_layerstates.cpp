@@ -1,5 +1,6 @@
 #include "fixture.h"
 #include "readback.h"
+#include "states/layerstatefile.h"
 
 using namespace drawing;
 
