@@ -205,17 +205,9 @@ void TestVerbs::rename_data()
     const QByteArray byTable = "--table names.csv";
     row("one", "A B", "--from a --to C", "", "B C");
     row("letter case alone", "A B", "--from A --to a", "", "B a");
-    row("a chain", "A B C", byTable, "A,B\nB,C\nC,D\n", "B C D");
     row("a circle", "A B C", byTable, "A,B\nB,C\nC,A\n", "A B C");
-    row("a circle with a tail that clashes", "A B C", byTable, "A,B\nB,C\nC,B\n", "A B C");
     row("a clash", "A B", byTable, "A,B\n", "A B");
     row("a clash that is merged", "A B", byTable + " --merge", "A,B\n", "B");
-    row("two into a new one", "A B C", byTable, "A,D\nB,D\n", "B C D");
-    row("two into a new one, merged", "A B C", byTable + " --merge", "A,D\nB,D\n", "C D");
-    row("two into one that leaves, merged", "A B C", byTable + " --merge", "A,C\nB,C\nC,D\n",
-        "C D");
-    row("a name nobody can have", "A B", byTable, "A,a*b\nB,C\n", "A C");
-    row("layer 0 in a circle", "A B", byTable, "0,A\nA,0\n", "A B");
     row("groups", "X-1 Y-2 Z", "--regex ([XY])-(\\d) --replace \\2\\1", "", "1X 2Y Z");
     row("the whole name only", "AB ABC", "--regex ab --replace N", "", "ABC N");
 }

@@ -1,10 +1,7 @@
 #include "commandfixture.h"
-#include "commands/layerrenames.h"
 #include "hostcodes.h"
-#include "rows.h"
 
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QTableWidget>
 
 namespace {
@@ -74,44 +71,6 @@ private slots:
         QVERIFY(!layer("图层1"));
         QVERIFY(!drawing().canUndo());
         QCOMPARE(savedBytes(), m_original);
-    }
-
-    void renames_data()
-    {
-        // What is wanted, what layers of these old names are called then, how many are refused.
-        const Rows<QStringList, QStringList, int> row("wanted", "names", "refused");
-        row("chain", {"A-WALL>A-DOOR", "A-DOOR>x"}, {"A-DOOR", "x"}, 0);
-        row("chain the other way", {"A-DOOR>x", "A-WALL>A-DOOR"}, {"x", "A-DOOR"}, 0);
-        row("circle", {"A-WALL>A-DOOR", "A-DOOR>A-GLAZ", "A-GLAZ>a-wall"},
-            {"A-DOOR", "A-GLAZ", "a-wall"}, 0);
-        row("circle and one more", {"A-GLAZ>A-DOOR", "A-WALL>A-DOOR", "A-DOOR>A-WALL"},
-            {"A-GLAZ", "A-DOOR", "A-WALL"}, 1);
-        row("behind one refused", {"A-WALL>A-DOOR", "A-DOOR>a*b"}, {"A-WALL", "A-DOOR"}, 2);
-        row("circle of one refused", {"0>A-DOOR", "A-DOOR>0"}, {"0", "A-DOOR"}, 2);
-        row("circle that breaks later", {"A-DOOR>A-WALL", "A-WALL>0", "0>A-DOOR"},
-            {"A-DOOR", "A-WALL", "0"}, 3);
-    }
-
-    void renames()
-    {
-        QFETCH(QStringList, wanted);
-        QFETCH(QStringList, names);
-        QFETCH(int, refused);
-        std::vector<LayerRename> renames;
-        for (const QString& rename : wanted)
-            renames.push_back({layer(rename.section('>', 0, 0))->id, rename.section('>', 1)});
-        drawing().beginStep("rename");
-        const QStringList refusals = renameLayers(drawing(), renames);
-        drawing().commitStep();
-        QStringList found;
-        for (const LayerRename& rename : renames)
-            found += drawing().layer(rename.layer)->properties.name;
-        QCOMPARE(found, names);
-        QCOMPARE(refusals.size(), refused);
-        for (const QString& sentence : refusals) // Of names that somebody typed.
-            QVERIFY2(QRegularExpression("^图层“[^-]*(-[A-Z]+)?”没有").match(sentence).hasMatch(),
-                qPrintable(sentence));
-        QCOMPARE(savedBytes() == m_original, refused >= wanted.size());
     }
 
     void applyShowsWhileTheDialogIsOpen()

@@ -4,7 +4,7 @@
 #include "layerfields.h"
 #include "namerule.h"
 #include "options.h"
-#include "renaming.h"
+#include "renameresults.h"
 #include "texts.h"
 #include "translation/layertranslation.h"
 
@@ -22,19 +22,16 @@ using Findings = std::vector<Finding>;
 Expected<int> mendNames(
     Drawing& drawing, const LayerRules&, const Findings& findings, Result& result)
 {
-    std::vector<Renaming> renamings;
+    std::vector<drawing::LayerRename> renamings;
+    renamings.reserve(findings.size());
     for (const Finding& finding : findings)
         renamings.push_back({finding.id, finding.expected});
     // The standard says the two are one layer, so what has the name already takes the other in.
-    const auto renamed = renameLayers(drawing, renamings, true);
-    if (!renamed)
-        return tl::make_unexpected(renamed.error());
     int count = 0;
-    for (const Renamed& one : *renamed) {
-        count += one.outcome == Renamed::Outcome::Refused ? 0 : 1;
-        if (one.outcome == Renamed::Outcome::Refused)
-            result.note("rename-refused",
-                Texts::tr("“%1”没有改名为“%2”：%3").arg(one.from, one.to, one.cause));
+    for (const drawing::LayerRenamed& one :
+        drawing::renameLayers(drawing, renamings, drawing::NameClash::Merge)) {
+        count += one.outcome == drawing::LayerRenamed::Outcome::Refused ? 0 : 1;
+        noteRefusal(result, one);
     }
     return count;
 }

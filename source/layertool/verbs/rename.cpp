@@ -4,7 +4,7 @@
 #include "drawing.h"
 #include "layerchoice.h"
 #include "namerule.h"
-#include "renaming.h"
+#include "renameresults.h"
 #include "texts.h"
 
 namespace layertool {
@@ -13,6 +13,9 @@ namespace {
 
 using drawing::Drawing;
 using drawing::Layer;
+using drawing::LayerRename;
+using drawing::LayerRenamed;
+using drawing::NameClash;
 
 const OptionRow kOptions[] = {
     {"from", OptionKind::Text,
@@ -47,13 +50,13 @@ public:
 private:
     Expected<void> readTable(const QString& path);
     Expected<void> readPattern(const Arguments& arguments);
-    std::vector<Renaming> renamingsIn(const Drawing& drawing) const;
+    std::vector<LayerRename> renamingsIn(const Drawing& drawing) const;
 
     QHash<QString, QString> m_names; ///< New ones by the old ones in lower case.
     QString m_from;                  ///< The one name given, where it is but one.
     QRegularExpression m_regex;
     QString m_replacement;
-    bool m_merges = false;
+    NameClash m_clash = NameClash::Refuse;
 };
 
 Expected<void> RenameVerb::readTable(const QString& path)
@@ -90,7 +93,8 @@ Expected<void> RenameVerb::readPattern(const Arguments& arguments)
 
 Expected<void> RenameVerb::prepare(const Arguments& arguments)
 {
-    m_merges = arguments.isSet("merge");
+    if (arguments.isSet("merge"))
+        m_clash = NameClash::Merge;
     const int ways = arguments.isSet("from") + arguments.isSet("table") + arguments.isSet("regex");
     if (ways != 1)
         return tl::make_unexpected(Error{
@@ -114,9 +118,9 @@ std::vector<Column> RenameVerb::columns() const
         {"cause", QT_TRANSLATE_NOOP("layertool", "原因")}};
 }
 
-std::vector<Renaming> RenameVerb::renamingsIn(const Drawing& drawing) const
+std::vector<LayerRename> RenameVerb::renamingsIn(const Drawing& drawing) const
 {
-    std::vector<Renaming> renamings;
+    std::vector<LayerRename> renamings;
     for (const Layer& layer : drawing.layers()) {
         QString name = layer.properties.name;
         if (!m_names.isEmpty())
@@ -133,22 +137,16 @@ Expected<void> RenameVerb::run(Drawing& drawing, const Job&, Result& result)
 {
     if (!m_from.isEmpty() && !drawing.findLayer(m_from))
         result.note("no-such-layer", Texts::tr("没有名为“%1”的图层。").arg(m_from));
-    const auto renamed = renameLayers(drawing, renamingsIn(drawing), m_merges);
-    if (!renamed)
-        return tl::make_unexpected(renamed.error());
     int counts[3] = {};
-    for (const Renamed& one : *renamed) {
+    for (const LayerRenamed& one : drawing::renameLayers(drawing, renamingsIn(drawing), m_clash)) {
         ++counts[static_cast<size_t>(one.outcome)];
         result.data.append(
             QJsonObject{{QStringLiteral("from"), one.from}, {QStringLiteral("to"), one.to},
                 {QStringLiteral("outcome"), QLatin1String(outcomeWord(one.outcome))},
-                {QStringLiteral("cause"), one.cause}});
-        if (one.outcome == Renamed::Outcome::Refused) {
-            result.note("rename-refused",
-                Texts::tr("“%1”没有改名为“%2”：%3").arg(one.from, one.to, one.cause));
-            result.found = true;
-        }
+                {QStringLiteral("cause"), causeOf(one)}});
+        noteRefusal(result, one);
     }
+    result.found = result.found || counts[static_cast<size_t>(LayerRenamed::Outcome::Refused)] > 0;
     result.counts = {{QStringLiteral("renamed"), counts[0]}, {QStringLiteral("merged"), counts[1]},
         {QStringLiteral("refused"), counts[2]}};
     return {};

@@ -2,7 +2,7 @@
 
 #include "drawing.h"
 #include "layersheet.h"
-#include "renaming.h"
+#include "renameresults.h"
 #include "texts.h"
 
 #include <algorithm>
@@ -42,9 +42,9 @@ private:
         const QString& cause) const;
 
     LayerSheet m_table;
-    bool m_merges = false;
-    std::vector<Renaming> m_renamings;   ///< Of the drawing at hand.
-    QHash<int, SheetRow> m_renamingRows; ///< By the layers' ids.
+    drawing::NameClash m_clash = drawing::NameClash::Refuse;
+    std::vector<drawing::LayerRename> m_renamings; ///< Of the drawing at hand.
+    QHash<int, SheetRow> m_renamingRows;           ///< By the layers' ids.
 };
 
 /// The layer of just that name, or else one that differs in letter case: broken drawings have both.
@@ -61,7 +61,8 @@ const Layer* layerCalled(const Drawing& drawing, const QString& name)
 
 Expected<void> SetVerb::prepare(const Arguments& arguments)
 {
-    m_merges = arguments.isSet("merge");
+    if (arguments.isSet("merge"))
+        m_clash = drawing::NameClash::Merge;
     if (!arguments.isSet("table"))
         return tl::make_unexpected(Error{Texts::tr("缺少 --table：按哪张表改动？")});
     return m_table.read(arguments.value("table"));
@@ -157,13 +158,10 @@ Expected<void> SetVerb::run(Drawing& drawing, const Job& job, Result& result)
         result.note("no-rows", Texts::tr("表格中没有这个图形的行。"));
     for (const SheetRow& row : m_table.rowsFor(job.name))
         setRow(drawing, row, result);
-    const auto renamed = renameLayers(drawing, m_renamings, m_merges);
-    if (!renamed)
-        return tl::make_unexpected(renamed.error());
-    for (const Renamed& one : *renamed) {
-        if (one.outcome == Renamed::Outcome::Refused)
+    for (const drawing::LayerRenamed& one : drawing::renameLayers(drawing, m_renamings, m_clash)) {
+        if (one.outcome == drawing::LayerRenamed::Outcome::Refused)
             refuse(result, m_table.newNameColumn(),
-                m_renamingRows.value(static_cast<int>(one.layer)), one.cause);
+                m_renamingRows.value(static_cast<int>(one.layer)), causeOf(one));
         else
             report(result, one.from, outcomeWord(one.outcome), {}, {});
     }

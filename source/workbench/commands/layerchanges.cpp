@@ -4,7 +4,9 @@
 
 #include "drawing.h"
 #include "layerrecords.h"
-#include "layerrenames.h"
+#include "layerrenaming.h"
+
+#include <QCoreApplication>
 
 #include <utility>
 
@@ -40,14 +42,19 @@ QStringList LayerChanges::apply(const VnJsonPtr& list)
 
 void LayerChanges::rename(const Records& records)
 {
-    std::vector<LayerRename> renames;
+    std::vector<drawing::LayerRename> renames;
     for (const LayerRecord& record : records) {
         const QString name = layerrecords::nameOf(record.node()).trimmed();
         const Layer* layer = m_drawing.layer(layerrecords::idOf(record.node()));
         if (layer && layer->properties.name != name)
             renames.push_back({layer->id, name});
     }
-    m_refusals += renameLayers(m_drawing, renames);
+    for (const drawing::LayerRenamed& renamed : drawing::renameLayers(m_drawing, renames)) {
+        if (renamed.outcome == drawing::LayerRenamed::Outcome::Refused)
+            m_refusals += QCoreApplication::translate(
+                "LayerPropertiesCommand", "图层“%1”没有重命名为“%2”：%3")
+                              .arg(renamed.from, renamed.to, renamed.cause);
+    }
 }
 
 /// All but the name.
