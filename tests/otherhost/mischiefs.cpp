@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <stdexcept>
+#include <utility>
 
 using namespace otherhost;
 using vnsi::IElementValueBase;
@@ -42,7 +43,7 @@ std::vector<VnJsonPtr> reachable(const VnJsonPtr& asked)
 /// Answers as agreed, then changes every member of the given name.
 Change changing(const char* key, std::function<VnJsonPtr(const VnJsonPtr& member)> changed)
 {
-    return [key, changed](const VnJsonPtr& asked) {
+    return [key, changed = std::move(changed)](const VnJsonPtr& asked) {
         host().answer(asked);
         for (const VnJsonPtr& node : reachable(asked)) {
             if (const VnJsonPtr member = node->member(key))
