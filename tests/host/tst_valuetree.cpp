@@ -45,7 +45,7 @@ private slots:
     void readsOnlyWhatWasWritten_data()
     {
         const Rows<Setter, QString> rows("set", "expected");
-        const auto row = [&](const char* name, const char* expected, Setter set) {
+        const auto row = [&](const char* name, const char* expected, const Setter& set) {
             rows(name, set, expected);
         };
         row("missing", "- - - - -", [](auto&) {});

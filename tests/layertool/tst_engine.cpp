@@ -417,7 +417,7 @@ void TestEngine::lists()
     const Run run = m->run(line + arguments);
     QCOMPARE(run.code, 0);
     QByteArrayList names;
-    for (const QJsonValue& drawing :
+    for (const QJsonValue drawing :
         QJsonDocument::fromJson(run.output).object().value("drawings").toArray())
         names += drawing.toObject().value("name").toString().toUtf8();
     QTEST(names.join(' '), "names");
