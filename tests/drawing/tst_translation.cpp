@@ -1,7 +1,6 @@
 #include "fixture.h"
 #include "geometry/geometry.h"
 #include "layerrenaming.h"
-#include "rows.h"
 #include "translation/layertranslation.h"
 #include "translation/translationlog.h"
 
@@ -53,6 +52,72 @@ class TestTranslation : public Fixture
     Q_OBJECT
 
 private slots:
+    void renames_data()
+    {
+        // Pairs of an old and a new name; what the layers A, B, C and the long one are called then.
+        const Rows<QStringList, NameClash, QStringList, int> row(
+            "wanted", "clash", "after", "refused");
+        const QString old = kLongName;
+        const auto refusing = [&](const char* name, const QStringList& wanted,
+                                  const QStringList& after, int refused) {
+            row(name, wanted, NameClash::Refuse, after + QStringList{old}, refused);
+        };
+        refusing("letter case alone", {"A>a"}, {"a", "B", "C"}, 0);
+        refusing("one layer twice", {"A>x", "A>y"}, {"x", "B", "C"}, 0);
+        refusing("chain", {"A>B", "B>x"}, {"B", "x", "C"}, 0);
+        refusing("chain the other way", {"B>x", "A> B "}, {"B", "x", "C"}, 0);
+        refusing("circle", {"A>B", "B>C", "C>a"}, {"B", "C", "a"}, 0);
+        refusing("circle and one before it", {"C>B", "A>B", "B>A"}, {"B", "A", "C"}, 1);
+        refusing("circle of one refused", {"0>B", "B>0"}, {"A", "B", "C"}, 2);
+        refusing("circle that breaks later", {"B>A", "A>0", "0>B"}, {"A", "B", "C"}, 3);
+        refusing("circle through a name too long", {"A>" + old, old + ">A"}, {"A", "B", "C"}, 2);
+        refusing("behind one refused", {"A>B", "B>a*b"}, {"A", "B", "C"}, 2);
+        refusing("two into a new one", {"A>x", "B>x"}, {"x", "B", "C"}, 1);
+        refusing("two into one that leaves", {"A>C", "B>C", "C>x"}, {"C", "B", "x"}, 1);
+        const auto merging = [&](const char* name, const QStringList& wanted,
+                                 const QStringList& after) {
+            row(name, wanted, NameClash::Merge, after + QStringList{old}, 0);
+        };
+        merging("a clash, merged", {"A>B"}, {"", "B", "C"});
+        merging("two into a new one, merged", {"A>x", "B>x"}, {"x", "", "C"});
+        merging("two into one that leaves, merged", {"A>C", "B>C", "C>x"}, {"C", "", "x"});
+        merging("behind a circle, merged", {"A>B", "B>C", "C>B"}, {"", "C", "B"});
+    }
+
+    /// In a file whose version allows 31 characters and which has a name of more.
+    void renames()
+    {
+        QFETCH(QStringList, wanted);
+        QFETCH(NameClash, clash);
+        QFETCH(int, refused);
+        Yard yard;
+        yard.version = "AC1009";
+        yard.setLayers(layerRecord("11", "A", "1") + layerRecord("12", "B", "2") +
+                       layerRecord("14", "C", "3") + layerRecord("15", kLongName, "4"));
+        const auto drawing = opened(yard.bytes());
+        const QByteArray before = saved(*drawing);
+        std::vector<LayerId> ids;
+        for (const char* name : {"A", "B", "C", kLongName})
+            ids.push_back(id(*drawing, name));
+        std::vector<LayerRename> renames;
+        for (const QString& rename : wanted)
+            renames.push_back({id(*drawing, rename.section('>', 0, 0)), rename.section('>', 1)});
+        drawing->beginStep("rename");
+        for (const LayerRenamed& renamed : renameLayers(*drawing, renames, clash)) {
+            refused -= renamed.outcome == LayerRenamed::Outcome::Refused ? 1 : 0;
+            QVERIFY2(!renamed.cause.contains("X$"), qPrintable(renamed.cause)); // Nobody typed it.
+        }
+        drawing->commitStep();
+        QStringList after;
+        for (const LayerId layer : ids) {
+            const Layer* const found = drawing->layer(layer);
+            after += found ? found->properties.name : QString("");
+        }
+        QTEST(after, "after");
+        QCOMPARE(refused, 0);
+        checkUndo(*drawing, before);
+    }
+
     void translated_data()
     {
         const Rows<Yard, Mappings, TranslationOptions, Yard, int> row(
@@ -332,84 +397,6 @@ private slots:
             QVERIFY2(log.contains(QString::fromUtf8(line)), qPrintable(log));
         QVERIFY(!writeTranslationLog(inFolder("gone/plan.log"), log));
     }
-
-    void renames_data()
-    {
-        // Pairs of an old and a new name; what the layers A, B, C and the long one are called then.
-        const Rows<QStringList, NameClash, QStringList, int> row(
-            "wanted", "clash", "after", "refused");
-        const QString old = kLongName;
-        const auto refusing = [&](const char* name, const QStringList& wanted,
-                                  const QStringList& after, int refused) {
-            row(name, wanted, NameClash::Refuse, after + QStringList{old}, refused);
-        };
-        refusing("letter case alone", {"A>a"}, {"a", "B", "C"}, 0);
-        refusing("one layer twice", {"A>x", "A>y"}, {"x", "B", "C"}, 0);
-        refusing("chain", {"A>B", "B>x"}, {"B", "x", "C"}, 0);
-        refusing("chain the other way", {"B>x", "A> B "}, {"B", "x", "C"}, 0);
-        refusing("circle", {"A>B", "B>C", "C>a"}, {"B", "C", "a"}, 0);
-        refusing("circle and one before it", {"C>B", "A>B", "B>A"}, {"B", "A", "C"}, 1);
-        refusing("circle of one refused", {"0>B", "B>0"}, {"A", "B", "C"}, 2);
-        refusing("circle that breaks later", {"B>A", "A>0", "0>B"}, {"A", "B", "C"}, 3);
-        refusing("circle through a name too long", {"A>" + old, old + ">A"}, {"A", "B", "C"}, 2);
-        refusing("behind one refused", {"A>B", "B>a*b"}, {"A", "B", "C"}, 2);
-        refusing("two into a new one", {"A>x", "B>x"}, {"x", "B", "C"}, 1);
-        refusing("two into one that leaves", {"A>C", "B>C", "C>x"}, {"C", "B", "x"}, 1);
-        const auto merging = [&](const char* name, const QStringList& wanted,
-                                 const QStringList& after) {
-            row(name, wanted, NameClash::Merge, after + QStringList{old}, 0);
-        };
-        merging("a clash, merged", {"A>B"}, {"", "B", "C"});
-        merging("two into a new one, merged", {"A>x", "B>x"}, {"x", "", "C"});
-        merging("two into one that leaves, merged", {"A>C", "B>C", "C>x"}, {"C", "", "x"});
-        merging("behind a circle, merged", {"A>B", "B>C", "C>B"}, {"", "C", "B"});
-    }
-
-    /// In a file whose version allows 31 characters and which has a name of more.
-    void renames()
-    {
-        QFETCH(QStringList, wanted);
-        QFETCH(NameClash, clash);
-        QFETCH(int, refused);
-        Yard yard;
-        yard.version = "AC1009";
-        yard.setLayers(layerRecord("11", "A", "1") + layerRecord("12", "B", "2") +
-                       layerRecord("14", "C", "3") + layerRecord("15", kLongName, "4"));
-        const auto drawing = opened(yard.bytes());
-        const QByteArray before = saved(*drawing);
-        std::vector<LayerId> ids;
-        for (const char* name : {"A", "B", "C", kLongName})
-            ids.push_back(id(*drawing, name));
-        std::vector<LayerRename> renames;
-        for (const QString& rename : wanted)
-            renames.push_back({id(*drawing, rename.section('>', 0, 0)), rename.section('>', 1)});
-        drawing->beginStep("rename");
-        for (const LayerRenamed& renamed : renameLayers(*drawing, renames, clash)) {
-            refused -= renamed.outcome == LayerRenamed::Outcome::Refused ? 1 : 0;
-            QVERIFY2(!renamed.cause.contains("X$"), qPrintable(renamed.cause)); // Nobody typed it.
-        }
-        drawing->commitStep();
-        QStringList after;
-        for (const LayerId layer : ids) {
-            const Layer* const found = drawing->layer(layer);
-            after += found ? found->properties.name : QString("");
-        }
-        QTEST(after, "after");
-        QCOMPARE(refused, 0);
-        checkUndo(*drawing, before);
-    }
-
-    void translated_data();
-    void translated();
-    void byLayer_data();
-    void byLayer();
-    void leftOut_data();
-    void leftOut();
-    void linetypesComeAlong_data();
-    void linetypesComeAlong();
-    void sameNamed();
-    void colorFollowsOnTheCanvas();
-    void logSaysAll();
 
 private:
     static TranslationReport translate(Drawing& drawing, const std::vector<LayerMapping>& mappings,
