@@ -164,6 +164,7 @@ std::vector<VnJsonPtr> nodesIn(const VnJsonPtr& node)
             all.push_back(one);
     };
     add(node);
+    // The list grows meanwhile. NOLINTNEXTLINE(modernize-loop-convert)
     for (std::size_t i = 0; i < all.size(); ++i) {
         const VnJsonPtr one = all[i];
         for (const auto& member : one->members)
