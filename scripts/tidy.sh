@@ -25,4 +25,4 @@ with open(build + "/sources/compile_commands.json", "w") as commands:
     json.dump(list(once.values()), commands)
 END
 run-clang-tidy -quiet -j "${TIDY_JOBS:-$(nproc)}" -p "$build/sources" "$@" 2>&1 |
-    sed -E '/^clang-tidy|^[0-9]+ warnings? generated|^Suppressed /d'
+    sed -E '/^clang-tidy|[0-9]+ warnings? generated/d'
