@@ -655,5 +655,25 @@
         <source>图形中有本程序读不懂的自定义对象，其中提到图层“%1”%2：这些数据原样保留，没有随之改动。</source>
         <translation>The drawing has custom objects that this program cannot read and that name layer “%1”%2: their data were kept as they are and did not follow the change.</translation>
     </message>
+    <message>
+        <source>不了解过滤器“%1”的类型，不能更改。</source>
+        <translation>The filter “%1” is of a kind that is not known here and cannot be changed.</translation>
+    </message>
+    <message>
+        <source>已有名称为“%1”的过滤器。</source>
+        <translation>There already is a filter named “%1”.</translation>
+    </message>
+    <message>
+        <source>此图形的格式（DXF R12）不能保存图层过滤器。</source>
+        <translation>This drawing's format (DXF R12) cannot hold layer filters.</translation>
+    </message>
+    <message>
+        <source>过滤器已不存在。</source>
+        <translation>The filter is no longer there.</translation>
+    </message>
+    <message>
+        <source>过滤器的名称不能为空。</source>
+        <translation>The name of a filter must not be empty.</translation>
+    </message>
 </context>
 </TS>
