@@ -10,7 +10,7 @@ namespace drawing {
 namespace {
 
 constexpr char kKey[] = "ASDK_XREC_ANNO_SCALE_INFO";
-constexpr QLatin1String kMark(" @ ");
+constexpr QLatin1String kMark(" @ ", 3);
 
 } // namespace
 
