@@ -61,7 +61,7 @@ int Run::show(const QString& name, const VnJsonPtr& tree, const OdRxObjectPtr& i
                             : host::WatchedDialog();
     if (opened)
         act(opened.window(), kMostActs / 2);
-    else
+    else if (tree)
         merge(tree, answerOfDialog(name));
     fuzz::changeTree(tree, bytes, 2);
     --depth;

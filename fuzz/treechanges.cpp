@@ -93,6 +93,8 @@ void changeTree(const VnJsonPtr& root, FuzzedDataProvider& bytes, int mostChange
 {
     for (int i = bytes.ConsumeIntegralInRange(0, mostChanges); i > 0; --i) {
         const std::vector<VnJsonPtr> nodes = containersIn(root);
+        if (nodes.empty())
+            return; // A dialog may be handed an empty tree, which has nothing to change.
         const VnJsonPtr& node = pick(nodes, bytes);
         if (host::isArray(node)) {
             changeArray(node, pick(nodes, bytes), bytes);
