@@ -5,24 +5,6 @@
 
 namespace drawing {
 
-namespace {
-
-/// Takes one coordinate of the point whose codes begin at `first`.
-bool takeCoordinate(const Tag& tag, int first, Vec3& point)
-{
-    if (tag.code == first)
-        point.x = tag.real();
-    else if (tag.code == first + 10)
-        point.y = tag.real();
-    else if (tag.code == first + 20)
-        point.z = tag.real();
-    else
-        return false;
-    return true;
-}
-
-} // namespace
-
 MultiLeader::MultiLeader(const EntityTags& tags)
 {
     for (const Tag& tag : tags) {

@@ -25,19 +25,6 @@ struct Vertex
     }
 };
 
-bool takeCoordinate(const Tag& tag, int first, Vec3& point)
-{
-    if (tag.code == first)
-        point.x = tag.real();
-    else if (tag.code == first + 10)
-        point.y = tag.real();
-    else if (tag.code == first + 20)
-        point.z = tag.real();
-    else
-        return false;
-    return true;
-}
-
 std::vector<Vertex> readVertices(const EntityTags& tags)
 {
     constexpr int kPoint = 11;

@@ -50,4 +50,17 @@ Vec3 EntityTags::extrusion() const
     return {number(210), number(220), number(230, sideways ? 0 : 1)};
 }
 
+bool takeCoordinate(const Tag& tag, int first, Vec3& point)
+{
+    if (tag.code == first)
+        point.x = tag.real();
+    else if (tag.code == first + 10)
+        point.y = tag.real();
+    else if (tag.code == first + 20)
+        point.z = tag.real();
+    else
+        return false;
+    return true;
+}
+
 } // namespace drawing

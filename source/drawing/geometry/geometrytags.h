@@ -30,4 +30,7 @@ private:
     std::vector<Tag> m_tags;
 };
 
+/// Takes one coordinate of the point whose codes begin at `first`; false for tags of other codes.
+bool takeCoordinate(const Tag& tag, int first, Vec3& point);
+
 } // namespace drawing
