@@ -1223,5 +1223,13 @@ See layertool help.
         <source>所有命令都有的选项</source>
         <translation>Options of all commands</translation>
     </message>
+    <message>
+        <source>标准输出</source>
+        <translation>standard output</translation>
+    </message>
+    <message>
+        <source>读取它的程序已经结束</source>
+        <translation>the program that read it has ended</translation>
+    </message>
 </context>
 </TS>

@@ -27,6 +27,7 @@ constexpr struct
     {EEXIST, QT_TRANSLATE_NOOP("layertool", "那里有一个同名的文件")},
     {ENOSPC, QT_TRANSLATE_NOOP("layertool", "磁盘已满")},
     {ENAMETOOLONG, QT_TRANSLATE_NOOP("layertool", "名称太长")},
+    {EPIPE, QT_TRANSLATE_NOOP("layertool", "读取它的程序已经结束")},
 };
 
 } // namespace

@@ -62,8 +62,9 @@ public:
     {
         if (m_path.isEmpty() ? m_stdout.flush() : m_file.commit())
             return {};
+        const QString name = isFile() ? m_path : Texts::tr("标准输出");
         return tl::make_unexpected(
-            Error{Texts::tr("无法写入“%1”：%2。").arg(m_path, causeOf(device()))});
+            Error{Texts::tr("无法写入“%1”：%2。").arg(name, causeOf(device()))});
     }
     bool isFile() const { return !m_path.isEmpty(); }
     /// Whoever reads along sees what there is so far.
