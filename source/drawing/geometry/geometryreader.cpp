@@ -154,11 +154,11 @@ void EntityReader::takeStyle(EntityStyle& style, const Tag& tag)
     case Index:
         // Beside a true colour it only stands in for it.
         if (style.color != EntityStyle::Color::True)
-            takeColor(style, std::abs(tag.integer()));
+            takeColor(style, withoutSign(tag.integer()));
         return;
     case True:
         style.color = EntityStyle::Color::True;
-        style.value = static_cast<quint32>(tag.integer()) & 0xffffff;
+        style.value = PackedColor(tag.integer()).value;
         return;
     case Lineweight:
         style.lineweight = lineweightOf(tag.integer());

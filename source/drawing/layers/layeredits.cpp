@@ -1,5 +1,6 @@
 #include "layeredits.h"
 
+#include "colorindex.h"
 #include "file/drawingtexts.h"
 #include "file/symbolname.h"
 #include "layertablerecord.h"
@@ -60,7 +61,7 @@ Expected<void> LayerEdits::checkValues(
     const auto refuse = [&after](const char* text, const QString& value) {
         return refusal(Texts::tr(text).arg(after.name, value));
     };
-    if (after.colorIndex < 1 || after.colorIndex > 255)
+    if (!isColorIndex(after.colorIndex))
         return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：没有颜色索引 %2。"),
             QString::number(after.colorIndex));
     if (after.trueColor && *after.trueColor > 0xffffff)

@@ -1,5 +1,6 @@
 #include "layeroverrides.h"
 
+#include "colorindex.h"
 #include "file/groupcode.h"
 
 namespace drawing {
@@ -7,9 +8,6 @@ namespace drawing {
 namespace {
 
 constexpr int kViewportCode = 335;
-// The kind of a colour stands above its value.
-constexpr quint32 kByTrueColor = 0xc2000000;
-constexpr quint32 kByIndex = 0xc3000000;
 
 /// Behind the group of a viewport that begins at `at`, or behind the one tag that stands there.
 int endOfGroup(const TagList& tags, int at, int end)
@@ -40,10 +38,11 @@ QByteArray dataWithout(TagList tags, quint64 viewport)
     return tags.bytes();
 }
 
-qint64 packedColor(const LayerProperties& shown)
+PackedColor packedColor(const LayerProperties& shown)
 {
-    return static_cast<qint32>(shown.trueColor ? kByTrueColor | *shown.trueColor
-                                               : kByIndex | static_cast<quint32>(shown.colorIndex));
+    if (shown.trueColor)
+        return {PackedColor::TrueColor, *shown.trueColor};
+    return {PackedColor::Index, static_cast<quint32>(shown.colorIndex)};
 }
 
 } // namespace
@@ -76,7 +75,7 @@ QByteArray LayerOverrides::group(
             return {};
         value = handleText(handle);
     } else {
-        value = QByteArray::number(row.property == kStateColor ? packedColor(shown)
+        value = QByteArray::number(row.property == kStateColor ? packedColor(shown).stored()
                                    : row.property == kStateLineweight
                                        ? shown.lineweight
                                        : storedTransparency(shown.transparency));
@@ -137,20 +136,19 @@ void LayerOverrides::collect(
 
 void LayerOverrides::apply(const Row& row, const Tag& value, LayerProperties& shown) const
 {
-    const auto packed = static_cast<quint32>(value.integer());
-    constexpr quint32 kKind = 0xff000000;
+    const PackedColor color(value.integer());
     if (row.property == kStateLineweight) {
         shown.lineweight = static_cast<int>(value.integer());
     } else if (row.property == kStateTransparency) {
-        shown.transparency = transparencyPercent(packed);
+        shown.transparency = transparencyPercent(value.integer());
     } else if (row.property == kStateLinetype) {
         if (const QString name = m_linetypes.name(value.handle()); !name.isNull())
             shown.linetype = name;
-    } else if ((packed & kKind) == kByTrueColor) {
-        shown.trueColor = packed & ~kKind;
-    } else if ((packed & kKind) == kByIndex) {
+    } else if (color.method == PackedColor::TrueColor) {
+        shown.trueColor = color.value;
+    } else if (color.method == PackedColor::Index && isColorIndex(color.value)) {
         shown.trueColor.reset();
-        shown.colorIndex = static_cast<int>(packed & 0xff);
+        shown.colorIndex = static_cast<int>(color.value);
     }
 }
 

@@ -14,8 +14,8 @@ enum Flag : qint64 { kFrozen = 1, kFrozenInNewViewports = 2, kLocked = 4, kFromR
 
 int colorOf(qint64 index)
 {
-    return index != 0 && index >= -255 && index <= 255 ? static_cast<int>(std::abs(index))
-                                                       : kColorForeground;
+    return isColorIndex(withoutSign(index)) ? static_cast<int>(withoutSign(index))
+                                            : kColorForeground;
 }
 
 /// Changes single groups of one record.
@@ -226,7 +226,7 @@ void LayerRecordReader::readOwn(const Tag& tag, LayerRecord& record)
         record.plotStyle = tag.handle();
         break;
     case group::kTrueColor:
-        p.trueColor = static_cast<quint32>(tag.integer() & 0xffffff);
+        p.trueColor = PackedColor(tag.integer()).value;
         break;
     default:
         break;

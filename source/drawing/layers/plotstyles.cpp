@@ -30,6 +30,7 @@ QString PlotStyles::name(int colorIndex, quint64 handle) const
     // Shared by all layers of a colour.
     static const std::vector<QString> names = [] {
         std::vector<QString> made;
+        made.reserve(kColorByLayer);
         for (int color = 0; color < kColorByLayer; ++color)
             made.push_back(QStringLiteral("Color_%1").arg(color));
         return made;

@@ -239,6 +239,7 @@ void SavedFilters::putLayers(TagList& tags, const std::vector<LayerId>& layers)
 {
     const RecordData data(tags);
     std::vector<quint64> missing;
+    missing.reserve(layers.size());
     for (const LayerId layer : layers)
         missing.push_back(m_records.madeHandle(layer));
     const std::unordered_set<quint64> wanted(missing.begin(), missing.end());

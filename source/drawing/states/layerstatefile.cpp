@@ -1,6 +1,7 @@
 #include "layerstatefile.h"
 
 #include "file/drawingtexts.h"
+#include "file/symbolname.h"
 #include "file/tagreader.h"
 #include "layerstatetags.h"
 
@@ -18,7 +19,6 @@ constexpr std::string_view kHead = "LAYERSTATEDICTIONARY";
 constexpr std::string_view kState = "LAYERSTATE";
 constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 constexpr int kFilePlotStyleCode = 2;
-constexpr int kLongestName = 255;
 
 QString shown(const QString& path)
 {
@@ -125,7 +125,7 @@ void FileReader::close(LayerStateReader& reader)
     if (!m_isOpen)
         return;
     state.name = state.name.trimmed();
-    if (state.name.isEmpty() || state.name.size() > kLongestName)
+    if (vnsi::nameFaults(state.name) & (vnsi::NameFault::Empty | vnsi::NameFault::TooLong))
         m_file.notices += Texts::tr("一个图层状态没有可用的名称，没有读入。");
     else
         m_file.states.push_back(std::move(state));

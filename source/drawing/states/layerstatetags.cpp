@@ -1,6 +1,6 @@
 #include "layerstatetags.h"
 
-#include <cstdlib>
+#include "layers/colorindex.h"
 
 namespace drawing {
 
@@ -23,9 +23,6 @@ enum Code {
 };
 
 enum Flag { kOff = 1, kFrozen = 2, kLocked = 4, kPlotted = 8, kNewFrozen = 16, kHereFrozen = 32 };
-
-constexpr qint64 kByTrueColor = 0xc2;
-constexpr int kLastColorIndex = 255;
 
 void readFlags(qint64 flags, LayerStateLayer& layer)
 {
@@ -122,7 +119,7 @@ void LayerStateReader::takeLayer(const Tag& tag)
             p.linetype = name;
         break;
     case kColorIndex:
-        if (const qint64 index = std::abs(tag.integer()); index >= 1 && index <= kLastColorIndex)
+        if (const qint64 index = withoutSign(tag.integer()); isColorIndex(index))
             p.colorIndex = static_cast<int>(index);
         else
             ++m_unused.values;
@@ -132,9 +129,9 @@ void LayerStateReader::takeLayer(const Tag& tag)
         break;
     case kTrueColor: {
         // Some programs put the colour's method above its three parts.
-        const qint64 method = (tag.integer() >> 24) & 0xff;
-        if (method == 0 || method == kByTrueColor)
-            p.trueColor = static_cast<quint32>(tag.integer() & 0xffffff);
+        const PackedColor color(tag.integer());
+        if (color.method == PackedColor::None || color.method == PackedColor::TrueColor)
+            p.trueColor = color.value;
         else
             ++m_unused.values;
         break;
