@@ -135,9 +135,8 @@ tl::expected<Sides, QString> batchAgainstScript(const QString& folder)
         return tl::make_unexpected(batch.error());
     if (translateSeconds(*batch) <= 0)
         return tl::make_unexpected(QStringLiteral("the batch program failed"));
-    const Batch given = *batch;
-    return Sides{[given] { return translateSeconds(given); },
-        [given] { return scriptSeconds(given); },
+    return Sides{[given = *batch] { return translateSeconds(given); },
+        [given = *batch] { return scriptSeconds(given); },
         QStringLiteral("one python3-ezdxf script doing the same")};
 }
 

@@ -230,10 +230,9 @@ tl::expected<Sides, QString> saveAgainstCopy(const QString& folder)
     const auto opened = Saver::open(path);
     if (!opened)
         return tl::make_unexpected(opened.error());
-    const std::shared_ptr<Saver> saver = *opened;
-    if (saver->save() <= 0)
+    if ((*opened)->save() <= 0)
         return tl::make_unexpected(QStringLiteral("the drawing could not be saved"));
-    return Sides{[saver] { return saver->save(); },
+    return Sides{[saver = *opened] { return saver->save(); },
         [original, copied] { return copySeconds(original, copied); },
         QStringLiteral("QFile::copy, then fsync")};
 }

@@ -119,7 +119,7 @@ EditReach changeState(Drawing& drawing, FuzzedDataProvider& bytes)
     const QStringList names = drawing.layerStateNames();
     if (names.isEmpty())
         return EditReach::Nothing;
-    const QString name = names[bytes.ConsumeIntegralInRange(0, names.size() - 1)];
+    const QString& name = names[bytes.ConsumeIntegralInRange(0, names.size() - 1)];
     if (bytes.ConsumeBool())
         return reachOf(drawing.removeLayerStates({name}).has_value());
     return reachOf(drawing.renameLayerState(name, takeText(bytes, kLongestName)).has_value());

@@ -3,6 +3,7 @@
 # Any finding fails it. Nothing is built: a list of compile commands and what moc makes are enough.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+scripts/setup.sh --tests # Tests and benchmarks are looked at, too.
 scripts/setup.sh --tidy
 cmake --preset tidy >/dev/null
 

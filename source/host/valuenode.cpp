@@ -138,6 +138,7 @@ const Value* ValueNode::find(const char*) const
     return nullptr;
 }
 
+// Nodes that hold values take them over. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void ValueNode::store(const char*, Value) {}
 
 } // namespace vnsi

@@ -61,10 +61,10 @@ drawing::Expected<void> keepOnly(
         return tl::make_unexpected(bin.error());
     if (const auto moved = drawing.moveEntities(going, *bin); !moved)
         return tl::make_unexpected(moved.error());
-    if (const auto done = drawing.deleteLayers({*bin}); !done)
+    if (auto done = drawing.deleteLayers({*bin}); !done)
         return done;
     if (!drawing.layer(kept)->properties.frozen && !drawing.layer(kept)->dependsOnReference) {
-        if (const auto done = drawing.setCurrentLayer(kept); !done)
+        if (auto done = drawing.setCurrentLayer(kept); !done)
             return done;
     }
     std::vector<LayerId> unused;

@@ -322,7 +322,7 @@ vnsi::VnJsonPtr OtherHost::show(const OdString& service, const OdString& name,
         mischief->questions(root);
     if (may(kEmptyAnswers))
         return {};
-    const vnsi::VnJsonPtr answer = tree ? tree : vnsi::ElementValue::createObject(0);
+    vnsi::VnJsonPtr answer = tree ? tree : vnsi::ElementValue::createObject(0);
     int result = may(kSaysNo) ? 0 : 1;
     if (may(kRealDialogs) && text(service) == "Dialog/CmdLayer") {
         const QString outer = std::exchange(dialogName, text(name));

@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+#include <utility>
+
 namespace {
 
 int alive = 0;
@@ -44,7 +46,7 @@ private slots:
             QCOMPARE(shape->numRefs(), 1L);
             OdRxObjectPtr other = shape;
             QCOMPARE(shape->numRefs(), 2L);
-            other = other; // Must not let go of the object on the way.
+            other = std::as_const(other); // Must not let go of the object on the way.
             shape = {};
             QCOMPARE(other->numRefs(), 1L);
             QCOMPARE(alive, 1);

@@ -45,6 +45,7 @@ private slots:
     void sharesCharacters()
     {
         const OdString text(L"图层");
+        // The copy is what is tested. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
         const OdString copy = text;
         QCOMPARE(copy.c_str(), text.c_str());
         QVERIFY((text + OdString(L"1")).c_str() != text.c_str());

@@ -57,9 +57,9 @@ void RecordingHost::answer(int result, const QString& json)
     });
 }
 
-void RecordingHost::answer(Answer answer)
+void RecordingHost::answer(const Answer& answer)
 {
-    m_answers.enqueue(std::move(answer));
+    m_answers.enqueue(answer);
 }
 
 int RecordingHost::messageBox(const OdString& text, const OdString& caption, int style)

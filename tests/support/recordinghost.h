@@ -32,7 +32,7 @@ public:
     /// Queues the answer of a dialog: the members of `json` are written into its tree.
     void answer(int result, const QString& json);
     /// Queues the answer of a dialog as a function that sees its tree; the value is the result.
-    void answer(Answer answer);
+    void answer(const Answer& answer);
 
     /// Lets a dialog of this name be made and run for real; it is noted all the same.
     void passThrough(const QString& dialogName) { m_passed.insert(dialogName); }

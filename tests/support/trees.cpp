@@ -88,6 +88,7 @@ std::vector<vnsi::VnJsonPtr> containersIn(const vnsi::VnJsonPtr& node)
         }
     };
     add(node);
+    // The list grows meanwhile. NOLINTNEXTLINE(modernize-loop-convert)
     for (std::size_t at = 0; at < all.size(); ++at) {
         const vnsi::VnJsonPtr each = all[at];
         for (int i = 0, count = each.ArrayCount(); i < count; ++i)

@@ -143,6 +143,7 @@ void runOnThreads(const std::function<void(int thread)>& work)
 {
     std::atomic<int> running{kThreads};
     std::vector<std::thread> threads;
+    threads.reserve(kThreads);
     for (int i = 0; i < kThreads; ++i)
         threads.emplace_back([&, i] {
             work(i);
@@ -184,6 +185,7 @@ void sharesReferences()
 {
     const host::CommandScope command;
     std::vector<VnUiModeDialogBasePtr> dialogs;
+    dialogs.reserve(kDialogs);
     for (int i = 0; i < kDialogs; ++i)
         dialogs.push_back(makeDialog());
     std::vector<std::vector<VnUiModeDialogBasePtr>> shares(kThreads, dialogs);
@@ -206,9 +208,12 @@ void sharesTreesAndObjects()
     const OdRxObjectPtr object = host::makeDocument();
     runOnThreads([&](int thread) {
         for (int i = 0; i < 1000; ++i) {
+            // The copies are what is tested.
+            // NOLINTBEGIN(performance-unnecessary-copy-initialization)
             const VnJsonPtr copy = trees[static_cast<std::size_t>(thread)];
             const VnJsonPtr list = copy->GetDataJ("LayerList");
             const OdRxObjectPtr other = object;
+            // NOLINTEND(performance-unnecessary-copy-initialization)
             const OdRxObjectPtr service = vn_arbitDict_getservice(L"Core/RequestSvr");
         }
     });

@@ -19,8 +19,6 @@ namespace {
 using drawing::Error;
 using drawing::Expected;
 
-constexpr int kRetryMicroseconds = 200 * 1000;
-
 tl::unexpected<Error> inUse(const QString& folder)
 {
     return tl::make_unexpected(Error{

@@ -51,7 +51,7 @@ Expected<void> StandardVerb::prepare(const Arguments& arguments)
     if (!arguments.isSet("standard"))
         return tl::make_unexpected(Error{Texts::tr("缺少 --standard：按什么标准检查？")});
     for (const QString& path : arguments.values("standard")) {
-        const auto read =
+        auto read =
             isRuleFile(path) ? readRuleFile(path, m_rules) : readStandardDrawing(path, m_rules);
         if (!read)
             return read;

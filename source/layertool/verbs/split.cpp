@@ -128,7 +128,7 @@ Expected<void> SplitVerb::write(
             QDir(job.staging).filePath(QStringLiteral("%1-%2.dxf").arg(job.number).arg(i));
         result.staged.push_back(
             {staged, folder.filePath(m_parts[i].fileName + QStringLiteral(".dxf"))});
-        if (const auto saved = drawing.save(staged, &progress); !saved)
+        if (auto saved = drawing.save(staged, &progress); !saved)
             return saved;
     }
     return {};

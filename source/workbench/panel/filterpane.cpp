@@ -200,7 +200,7 @@ void FilterPane::add(Filter::Kind kind, const std::vector<LayerId>& layers)
     filter.layers = layers;
     if (!isGroup)
         filter.expression = filterexpression::ofNames(patternOf(m_typed));
-    const auto isTaken = [this, &filter](const Filter& other) {
+    const auto isTaken = [&filter](const Filter& other) {
         return other.parent == filter.parent && other.name == filter.name;
     };
     int number = 0;

@@ -58,7 +58,7 @@ QIcon swatch(const drawing::LayerProperties& properties)
     const quint32 key = isForeground ? kForegroundKey : color.rgb() & 0xffffff;
     if (const QIcon* known = swatches.object(key))
         return *known;
-    const QIcon made = framed(color, isForeground);
+    QIcon made = framed(color, isForeground);
     swatches.insert(key, new QIcon(made));
     return made;
 }

@@ -44,6 +44,7 @@ UsesList::UsesList(const QStringList& heads, const std::vector<QStringList>& lin
 UsesList* UsesList::ofUses(std::vector<LayerUse> uses, const QString& title, QWidget* parent)
 {
     std::vector<QStringList> lines;
+    lines.reserve(uses.size());
     for (const LayerUse& use : uses)
         lines.push_back({use.kind, QString::number(use.entities.size()), use.place});
     auto* const list = new UsesList({tr("对象"), tr("数量"), tr("所在位置")}, lines, title, parent);
