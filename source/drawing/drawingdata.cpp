@@ -46,7 +46,7 @@ DrawingData::Changes DrawingData::take()
 
 void DrawingData::apply(const Changes& changes, bool forward)
 {
-    file.journal().apply(changes.edits, forward);
+    file.journal().apply(changes.edits, forward, file.pace());
     layers.apply(changes.layers, forward);
     entities.apply(changes.entities, forward);
     setState(forward ? changes.after : changes.before);

@@ -60,6 +60,7 @@ private slots:
         EditJournal journal({original.constData(), 10});
         QVector<QByteArray> states = {original};
         QVector<std::vector<EditChange>> changes;
+        Pace pace;
         for (const JournalOp& op : ops) {
             const bool isAccepted = op.begin == op.end
                                         ? journal.insert(op.begin, op.order, op.text)
@@ -72,11 +73,11 @@ private slots:
         QCOMPARE(journal.current({0, 10}),
             ops.isEmpty() || ops.first().begin < 10 ? expected : original);
         for (int i = changes.size() - 1; i >= 0; --i) {
-            journal.apply(changes.at(i), false);
+            journal.apply(changes.at(i), false, pace);
             QCOMPARE(text(journal), states.at(i));
         }
         for (const auto& change : changes)
-            journal.apply(change, true);
+            journal.apply(change, true, pace);
         QCOMPARE(text(journal), expected);
     }
 

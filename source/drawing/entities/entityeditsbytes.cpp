@@ -41,6 +41,7 @@ void forceByLayer(DrawingFile& file, EntityTable& entities, size_t entity, OwnPr
 void writeLayerName(
     DrawingFile& file, const EntityTable& entities, size_t entity, const QByteArray& name)
 {
+    file.pace().step();
     const Entity& place = entities[entity];
     const qint64 value = entities.layerName(entity);
     // Refused within an entity that was taken out.
@@ -53,6 +54,7 @@ void writeLayerName(
 
 void removeEntityBytes(DrawingFile& file, const EntityTable& entities, size_t entity)
 {
+    file.pace().step();
     const Entity& place = entities[entity];
     // Behind an entity of a single group its insertion stands outside of it.
     if (entities.layerName(entity) < 0)

@@ -63,6 +63,7 @@ public:
     TagList tagList(const QByteArray& tags) const { return TagList(tags, m_spelling); }
 
     // The edits.
+    Pace& pace() { return m_pace; } ///< Of what edits many entities.
     EditJournal& journal() { return m_journal; }
     const EditJournal& journal() const { return m_journal; }
     /// The tags of a range as edited so far.
@@ -93,6 +94,7 @@ private:
     TextCodec m_codec;
     FormatLimits m_limits;
     EditJournal m_journal;
+    Pace m_pace;
     State m_state;
     SymbolTables m_tables;
     Objects m_objects;

@@ -145,9 +145,10 @@ std::vector<EditChange> EditJournal::takeChanges()
     return net;
 }
 
-void EditJournal::apply(const std::vector<EditChange>& changes, bool forward)
+void EditJournal::apply(const std::vector<EditChange>& changes, bool forward, Pace& pace)
 {
     for (const EditChange& change : changes) {
+        pace.step();
         const Edit& edit = forward ? change.after : change.before;
         if (edit.isNull())
             m_edits.erase(change.place);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pace.h"
 #include "tag.h"
 
 #include <QByteArray>
@@ -88,7 +89,7 @@ public:
     std::vector<EditChange> takeChanges();
     bool hasChanges() const { return !m_changes.empty(); }
     /// Applies changes, or takes them back; not recorded as changes themselves.
-    void apply(const std::vector<EditChange>& changes, bool forward);
+    void apply(const std::vector<EditChange>& changes, bool forward, Pace& pace);
 
 private:
     using Edits = std::map<EditPlace, Edit>;
