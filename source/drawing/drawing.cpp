@@ -36,6 +36,7 @@ StateSource stateSource(const Drawing& drawing)
 
 DrawingData& DrawingAccess::data(Drawing& drawing)
 {
+    emit drawing.aboutToChange();
     return drawing.d->data;
 }
 
@@ -70,7 +71,10 @@ Expected<void> Drawing::Private::map(const QString& fileName)
 
 Drawing::Drawing() : d(std::make_unique<Private>()) {}
 
-Drawing::~Drawing() = default;
+Drawing::~Drawing()
+{
+    emit aboutToChange();
+}
 
 Expected<std::unique_ptr<Drawing>> Drawing::open(
     const QString& path, Progress* progress, QThread* owner, const OpenOptions& options)
@@ -113,7 +117,7 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
     d->path = path;
     d->isIncomplete = false;
     d->steps.setClean();
-    announce(false, false);
+    announce(false, {});
     return {};
 }
 
@@ -173,6 +177,11 @@ const Block* Drawing::findBlock(const QString& name) const
     return at < 0 ? nullptr : &blocks()[static_cast<size_t>(at)];
 }
 
+GeometrySource Drawing::geometrySource() const
+{
+    return d->data.geometrySource();
+}
+
 TagReader Drawing::tags(const Entity& entity) const
 {
     return d->data.file.tags(entity.range());
@@ -190,8 +199,10 @@ const TextCodec& Drawing::codec() const
 
 Expected<void> Drawing::readyToEdit() const
 {
-    if (d->stepIsOpen)
+    if (d->stepIsOpen) {
+        emit aboutToChange();
         return {};
+    }
     return refusal(Texts::tr("图形没有打开的操作步骤，不能改动。"));
 }
 
@@ -289,6 +300,7 @@ int Drawing::currentViewport() const
 
 bool Drawing::setCurrentViewport(int viewport)
 {
+    emit aboutToChange();
     if (!d->data.layouts.setCurrentViewport(viewport))
         return false;
     emit layersChanged();
@@ -414,6 +426,14 @@ QStringList Drawing::takeNotices()
     return d->data.leftOut.take();
 }
 
+void Drawing::setBreak(const std::function<void()>& rest)
+{
+    d->data.file.pace().setBreak([this, rest] {
+        rest();
+        emit aboutToChange(); // For whoever began to read in the break.
+    });
+}
+
 void Drawing::beginStep(const QString& name)
 {
     Q_ASSERT(!d->stepIsOpen);
@@ -427,26 +447,27 @@ void Drawing::commitStep()
 {
     if (!d->stepIsOpen)
         return;
+    emit aboutToChange();
     d->data.followLayers();
     UndoStep step{d->stepName, d->data.take()};
     d->stepIsOpen = false;
     if (step.changes.isEmpty()) {
-        announce(d->stepIsPublished, false);
+        announce(d->stepIsPublished, {});
         return;
     }
-    const bool entities = !step.changes.entities.empty();
     d->steps.push(std::move(step));
-    announce(true, entities);
+    announce(true, d->steps.undoStep()->changes.entities);
 }
 
 void Drawing::rollbackStep()
 {
     if (!d->stepIsOpen)
         return;
+    emit aboutToChange();
     const DrawingData::Changes changes = d->data.take();
     d->stepIsOpen = false;
     d->data.apply(changes, false);
-    announce(d->stepIsPublished || !changes.isEmpty(), !changes.entities.empty());
+    announce(d->stepIsPublished || !changes.isEmpty(), changes.entities);
 }
 
 void Drawing::publishStep()
@@ -454,7 +475,7 @@ void Drawing::publishStep()
     if (!d->stepIsOpen || !d->data.hasChanges())
         return;
     d->stepIsPublished = true;
-    announce(true, d->data.entities.hasChanges());
+    announce(true, d->data.entities.changes());
 }
 
 bool Drawing::inStep() const
@@ -486,28 +507,34 @@ void Drawing::undo()
 {
     if (!canUndo())
         return;
+    emit aboutToChange();
     const UndoStep* step = d->steps.undoStep();
     d->data.apply(step->changes, false);
     d->steps.stepBack();
-    announce(true, !step->changes.entities.empty());
+    announce(true, step->changes.entities);
 }
 
 void Drawing::redo()
 {
     if (!canRedo())
         return;
+    emit aboutToChange();
     const UndoStep* step = d->steps.redoStep();
     d->data.apply(step->changes, true);
     d->steps.stepForward();
-    announce(true, !step->changes.entities.empty());
+    announce(true, step->changes.entities);
 }
 
-void Drawing::announce(bool layers, bool entities)
+void Drawing::announce(bool layers, const std::vector<EntityChange>& entities)
 {
+    std::vector<int> changed;
+    changed.reserve(entities.size());
+    for (const EntityChange& change : entities)
+        changed.push_back(change.entity);
     if (layers)
         emit layersChanged();
-    if (entities)
-        emit entitiesChanged();
+    if (!changed.empty())
+        emit entitiesChanged(changed);
     if (isModified() == d->wasModified)
         return;
     d->wasModified = !d->wasModified;

@@ -17,14 +17,17 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
 namespace drawing {
 
+struct EntityChange;
 class LinetypePatterns;
 struct Geometry;
+struct GeometrySource;
 struct LayerMapping;
 struct TargetLayer;
 struct TranslationOptions;
@@ -121,6 +124,8 @@ public:
     const std::vector<Entity>& entities() const;
     const std::vector<Block>& blocks() const;
     const Block* findBlock(const QString& name) const; ///< Without regard to letter case.
+    /// What a picture of the drawing is made of; good until the drawing changes.
+    GeometrySource geometrySource() const;
     /// The tags of an entity as they stand in the file read; valid as long as the drawing is open.
     TagReader tags(const Entity& entity) const;
     /// Text of a value in the file's code page, escapes resolved.
@@ -191,6 +196,10 @@ public:
     /// have no place for lineweights, true colours or the plot flag.
     QStringList takeNotices();
 
+    /// Has long edits call `rest` again and again, on the thread that edits, so that a window can
+    /// be painted meanwhile. Nothing may be edited then.
+    void setBreak(const std::function<void()>& rest);
+
     /// Opens an undo step; steps do not nest.
     void beginStep(const QString& name);
     /// Closes it; one that changed nothing leaves no trace.
@@ -210,9 +219,13 @@ public:
     void redo();
 
 signals:
+    /// Right before the drawing changes or goes: whoever reads it on another thread must have
+    /// stopped when this returns.
+    void aboutToChange() const;
     /// Any layer, or the current layer, changed; once a step, undo, redo or `publishStep`.
     void layersChanged();
-    void entitiesChanged(); ///< Entities went, came or changed their layer.
+    /// Entities, by their indices in any order, went, came or changed their layer.
+    void entitiesChanged(const std::vector<int>& entities);
     void modifiedChanged(bool modified);
 
 private:
@@ -220,7 +233,7 @@ private:
 
     Drawing();
     Expected<void> readyToEdit() const;
-    void announce(bool layers, bool entities);
+    void announce(bool layers, const std::vector<EntityChange>& entities);
 
     class Private;
     std::unique_ptr<Private> d;

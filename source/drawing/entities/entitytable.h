@@ -74,7 +74,7 @@ public:
     void remove(size_t entity);
     /// Marks an entity as taking these from its layer.
     void dropOwn(size_t entity, OwnProperties properties);
-    bool hasChanges() const { return !m_changes.empty(); }
+    const std::vector<EntityChange>& changes() const { return m_changes; }
     std::vector<EntityChange> takeChanges();
     void apply(const std::vector<EntityChange>& changes, bool forward);
 

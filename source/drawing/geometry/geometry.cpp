@@ -1,6 +1,6 @@
 #include "geometry.h"
 
-#include "geometrybuilder.h"
+#include "geometrydefinition.h"
 
 namespace drawing {
 
@@ -40,11 +40,6 @@ void Definition::clear()
     texts.clear();
     endless.clear();
     references.clear();
-}
-
-Expected<Geometry> buildGeometry(const GeometrySource& source, Progress* progress)
-{
-    return GeometryBuilder(source, progress).build();
 }
 
 } // namespace drawing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "file/error.h"
+#include "geometryindex.h"
 #include "geometrymath.h"
 #include "geometrystyle.h"
 #include "linetypepattern.h"
@@ -8,6 +9,7 @@
 
 #include <QString>
 
+#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -15,6 +17,7 @@ namespace drawing {
 
 class DrawingFile;
 class EntityTable;
+struct Entity;
 class LayerOverrides;
 class LayoutTable;
 class LinetypeTable;
@@ -71,7 +74,27 @@ struct GeometryGroup
     Box bounds;
 };
 
-/// A space of a drawing, flattened and grouped by what decides on visibility and style.
+/// A ray or a construction line: as long as the drawing around it is wide.
+struct EndlessLine
+{
+    std::size_t group = 0; ///< Whose look it has.
+    QPointF from;
+    QPointF direction;
+    bool bothWays = false;
+    int entity = -1;
+    quint32 sequence = 0;
+};
+
+/// How much there is to keep and to draw, or how much more there may be.
+struct GeometryAmount
+{
+    qint64 vertices = 0;
+    qint64 pieces = 0;    ///< Primitives and texts.
+    qint64 instances = 0; ///< Placed block references.
+};
+
+/// A space of a drawing, or a part of it, flattened and grouped by what decides on visibility and
+/// style.
 struct Geometry
 {
     std::vector<GeometryGroup> groups;
@@ -79,7 +102,10 @@ struct Geometry
     std::vector<std::vector<LayerId>> owners;
     PictureSwitches switches;
     std::shared_ptr<const LinetypePatterns> linetypes; ///< What the groups' styles number.
-    bool truncated = false;                            ///< There was more than can be shown.
+    std::vector<EndlessLine> endless; ///< Not drawn yet, for the extents of all parts count.
+    GeometryAmount amount;            ///< Of what is here.
+    GeometryIndex index;              ///< Empty until it is made.
+    bool truncated = false;           ///< There was more than can be shown.
 };
 
 /// What of a drawing its picture is made of.
@@ -93,6 +119,40 @@ struct GeometrySource
     const ViewportLayers& viewports;
     LayerId layerZero;
 };
+
+using GeometryPart = std::shared_ptr<const Geometry>;
+
+/// The room that is left for the geometry of one drawing; those who build parts of it share it.
+class GeometryRoom
+{
+public:
+    static constexpr GeometryAmount kMost{16'000'000, 4'000'000, 1'000'000}; ///< 256 MB of points.
+
+    explicit GeometryRoom(const GeometryAmount& room = kMost);
+
+    /// Whether there is room for more than `used`, which has not been taken yet.
+    bool isFull(const GeometryAmount& used) const;
+    void take(const GeometryAmount& used);
+
+private:
+    std::atomic<qint64> m_vertices;
+    std::atomic<qint64> m_pieces;
+    std::atomic<qint64> m_instances;
+};
+
+/// Entities by their indices, the last one not included.
+struct EntityRange
+{
+    std::size_t first = 0;
+    std::size_t last = 0;
+};
+
+/// Cuts the entities into ranges of about `length`, none of which begins with what follows an
+/// entity as its own.
+std::vector<EntityRange> geometryRanges(const std::vector<Entity>& entities, std::size_t length);
+
+/// Draws the endless lines of all parts, through what else there is, as a part of its own.
+Geometry endlessLines(const std::vector<GeometryPart>& parts);
 
 /// Flattens the space shown, as `Drawing` has it.
 Expected<Geometry> buildGeometry(const GeometrySource& source, Progress* progress);

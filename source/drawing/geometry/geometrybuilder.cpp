@@ -12,10 +12,7 @@ namespace drawing {
 
 namespace {
 
-constexpr std::size_t kMaxVertices = 16 * 1000 * 1000; ///< 256 MB of points.
-constexpr std::size_t kMaxPieces = 4 * 1000 * 1000;    ///< Primitives and texts.
-constexpr int kMaxInstances = 1000 * 1000;             ///< Placed block references.
-constexpr int kMaxDepth = 64;                          ///< Of block references inside blocks.
+constexpr int kMaxDepth = 64; ///< Of block references inside blocks.
 
 QPointF flat(const Vec3& point)
 {
@@ -42,26 +39,47 @@ Box estimatedBounds(const TextRun& run)
 
 } // namespace
 
-GeometryBuilder::GeometryBuilder(const GeometrySource& source, Progress* progress)
+GeometryBuilder::GeometryBuilder(
+    const GeometrySource& source, GeometryRoom& room, Progress* progress)
     : m_source(source),
+      m_room(room),
       m_progress(progress),
+      m_switches(readPictureSwitches(source.file.headerTags())),
       m_linetypes(std::make_shared<const LinetypePatterns>(source.linetypes)),
       m_reader(source, *m_linetypes)
 {
     m_definitions.resize(source.entities.blocks().size());
     m_active.resize(source.entities.blocks().size());
-    m_geometry.owners.emplace_back();
-    m_geometry.switches = readPictureSwitches(source.file.headerTags());
-    m_geometry.linetypes = m_linetypes;
 }
 
-Expected<Geometry> GeometryBuilder::build()
+void GeometryBuilder::startAnew()
 {
+    m_geometry = {};
+    m_geometry.owners.emplace_back();
+    m_geometry.switches = m_switches;
+    m_geometry.linetypes = m_linetypes;
+    m_groupIndex.clear();
+    m_ownerIndex.clear();
+    m_used = {};
+}
+
+void GeometryBuilder::takeRoom()
+{
+    m_room.take(m_used);
+    m_geometry.amount.vertices += m_used.vertices;
+    m_geometry.amount.pieces += m_used.pieces;
+    m_geometry.amount.instances += m_used.instances;
+    m_used = {};
+}
+
+Expected<Geometry> GeometryBuilder::build(const EntityRange& range)
+{
+    startAnew();
     const auto& entities = m_source.entities.all();
     Definition definition;
-    for (std::size_t i = 0; i < entities.size(); ++i) {
+    for (std::size_t i = range.first; i < range.last; ++i) {
         const Entity& entity = entities[i];
-        if (i % 256 == 0 && !goOn(i, entities.size()))
+        if (i % 256 == 0 && !goOn(i - range.first, range.last - range.first))
             return tl::unexpected(Error{Texts::tr("已取消。"), 0, true});
         if (entity.subEntity || entity.removed)
             continue;
@@ -75,7 +93,7 @@ Expected<Geometry> GeometryBuilder::build()
     }
     if (isCancelled())
         return tl::unexpected(Error{Texts::tr("已取消。"), 0, true});
-    emitEndless();
+    takeRoom();
     return std::move(m_geometry);
 }
 
@@ -85,6 +103,7 @@ bool GeometryBuilder::goOn(std::size_t done, std::size_t total)
     if (m_progress && m_progress->report && percent != m_percent)
         m_progress->report(percent);
     m_percent = percent;
+    takeRoom();
     return !isCancelled();
 }
 
@@ -108,8 +127,7 @@ const Definition& GeometryBuilder::definitionOf(int block)
 
 bool GeometryBuilder::isFull()
 {
-    const bool full = m_vertices >= kMaxVertices || m_pieces >= kMaxPieces ||
-                      m_instances >= kMaxInstances || isCancelled();
+    const bool full = m_room.isFull(m_used) || isCancelled();
     m_geometry.truncated = m_geometry.truncated || full;
     return full;
 }
@@ -233,8 +251,8 @@ void GeometryBuilder::emitShape(const Definition& definition, const Definition::
     primitive.width = static_cast<float>(shape.width * scale);
     if (primitive.shape == Primitive::Shape::Lines && primitive.width > 0)
         primitive.bounds.grow(primitive.width * 0.5);
-    primitive.sequence = static_cast<quint32>(m_pieces++);
-    m_vertices += primitive.count;
+    primitive.sequence = nextSequence();
+    m_used.vertices += primitive.count;
     group.bounds.add(primitive.bounds);
     group.hasFills = group.hasFills || primitive.shape == Primitive::Shape::Fill;
     group.hasMasks = group.hasMasks || primitive.shape == Primitive::Shape::Mask;
@@ -249,34 +267,8 @@ void GeometryBuilder::noteEndless(
     GeometryGroup& group = groupFor(line.style, context);
     const auto index = static_cast<std::size_t>(&group - m_geometry.groups.data());
     if (from.isFinite() && direction.isFinite())
-        m_endless.push_back({index, flat(from), flat(direction), line.bothWays, m_entity,
-            static_cast<quint32>(m_pieces++)});
-}
-
-void GeometryBuilder::emitEndless()
-{
-    Box extents;
-    for (const GeometryGroup& group : m_geometry.groups)
-        extents.add(group.bounds);
-    for (const EndlessLine& line : m_endless)
-        extents.add(line.from);
-    for (const EndlessLine& line : m_endless) {
-        QPointF ends[2];
-        if (!clip(line, extents, ends))
-            continue;
-        GeometryGroup& group = m_geometry.groups[line.group];
-        Primitive primitive;
-        primitive.first = static_cast<quint32>(group.vertices.size());
-        primitive.count = 2;
-        primitive.entity = line.entity;
-        primitive.sequence = line.sequence;
-        for (const QPointF& end : ends) {
-            group.vertices.push_back(end);
-            primitive.bounds.add(end);
-        }
-        group.bounds.add(primitive.bounds);
-        group.primitives.push_back(primitive);
-    }
+        m_geometry.endless.push_back(
+            {index, flat(from), flat(direction), line.bothWays, m_entity, nextSequence()});
 }
 
 void GeometryBuilder::emitText(
@@ -294,7 +286,7 @@ void GeometryBuilder::emitText(
     run.up = flat(up);
     run.entity = m_entity;
     run.bounds = estimatedBounds(run);
-    run.sequence = static_cast<quint32>(m_pieces++);
+    run.sequence = nextSequence();
     group.bounds.add(run.bounds);
     group.texts.push_back(std::move(run));
 }
@@ -306,7 +298,7 @@ void GeometryBuilder::emitReference(const Definition::Reference& reference, cons
     const bool isShown =
         depth < kMaxDepth && !m_active[block] && !definitionOf(reference.block).isEmpty();
     if (!isShown) {
-        ++m_instances; // Looking at one that shows nothing takes time, too.
+        ++m_used.instances; // Looking at one that shows nothing takes time, too.
         return;
     }
     const Definition& definition = definitionOf(reference.block);
@@ -318,35 +310,13 @@ void GeometryBuilder::emitReference(const Definition::Reference& reference, cons
     m_active[block] = true;
     for (int row = 0; row < reference.rows && !isFull(); ++row) {
         for (int column = 0; column < reference.columns && !isFull(); ++column) {
-            ++m_instances;
+            ++m_used.instances;
             const Vec3 shift = reference.columnStep * column + reference.rowStep * row;
             emitDefinition(definition, place * Transform3::translation(shift) * reference.place,
                 inner, depth + 1);
         }
     }
     m_active[block] = false;
-}
-
-bool GeometryBuilder::clip(const EndlessLine& line, const Box& box, QPointF ends[2])
-{
-    double low = line.bothWays ? -std::numeric_limits<double>::infinity() : 0;
-    double high = std::numeric_limits<double>::infinity();
-    const auto narrow = [&](double from, double direction, double least, double greatest) {
-        if (direction == 0)
-            return from >= least && from <= greatest;
-        const double a = (least - from) / direction;
-        const double b = (greatest - from) / direction;
-        low = std::max(low, std::min(a, b));
-        high = std::min(high, std::max(a, b));
-        return low < high;
-    };
-    const bool inside = narrow(line.from.x(), line.direction.x(), box.minX, box.maxX) &&
-                        narrow(line.from.y(), line.direction.y(), box.minY, box.maxY);
-    if (!inside || !std::isfinite(low) || !std::isfinite(high))
-        return false;
-    ends[0] = line.from + line.direction * low;
-    ends[1] = line.from + line.direction * high;
-    return true;
 }
 
 } // namespace drawing

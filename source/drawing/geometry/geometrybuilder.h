@@ -13,14 +13,15 @@
 
 namespace drawing {
 
-/// Places what the entities of model space draw, block references unfolded, into groups. Of use
-/// once.
+/// Places what the entities of model space draw, block references unfolded, into groups. What a
+/// block holds is read once, however many ranges are built.
 class GeometryBuilder
 {
 public:
-    GeometryBuilder(const GeometrySource& source, Progress* progress);
-    /// Refuses only when cancelled.
-    Expected<Geometry> build();
+    /// What the source refers to, and the room, must outlive this.
+    GeometryBuilder(const GeometrySource& source, GeometryRoom& room, Progress* progress);
+    /// What these entities draw, endless lines left to be drawn. Refuses only when cancelled.
+    Expected<Geometry> build(const EntityRange& range);
 
 private:
     /// What ByBlock stands for where there is no block.
@@ -52,18 +53,14 @@ private:
                 drawing::qHash(key.style, seed));
         }
     };
-    /// A ray or a construction line.
-    struct EndlessLine
-    {
-        std::size_t group;
-        QPointF from;
-        QPointF direction;
-        bool bothWays;
-        int entity;
-        quint32 sequence;
-    };
-
     bool isCancelled() const { return m_progress && m_progress->cancelled; }
+    void startAnew();
+    /// The place in the order of drawing of one more piece.
+    quint32 nextSequence()
+    {
+        return static_cast<quint32>(m_geometry.amount.pieces + m_used.pieces++);
+    }
+    void takeRoom();
     bool goOn(std::size_t done, std::size_t total);
     const Definition& definitionOf(int block);
     /// True when there is no room for more; what was left out is noted.
@@ -81,16 +78,14 @@ private:
     /// Kept until the extents are known.
     void noteEndless(
         const Definition::Endless& line, const Transform3& place, const Context& context);
-    /// Draws endless lines through what else there is.
-    void emitEndless();
     void emitText(const Definition::Text& text, const Transform3& place, const Context& context);
     void emitReference(const Definition::Reference& reference, const Transform3& place,
         const Context& context, int depth);
-    /// The part of an endless line inside the box; false when there is none.
-    static bool clip(const EndlessLine& line, const Box& box, QPointF ends[2]);
 
     const GeometrySource m_source;
+    GeometryRoom& m_room;
     Progress* m_progress;
+    PictureSwitches m_switches;
     std::shared_ptr<const LinetypePatterns> m_linetypes;
     EntityReader m_reader;
     bool m_isThroughViewports = false; ///< What is being drawn.
@@ -99,10 +94,7 @@ private:
     Geometry m_geometry;
     QHash<GroupKey, std::size_t> m_groupIndex;
     std::map<std::pair<int, LayerId>, int> m_ownerIndex;
-    std::vector<EndlessLine> m_endless;
-    std::size_t m_vertices = 0;
-    std::size_t m_pieces = 0;
-    int m_instances = 0;
+    GeometryAmount m_used; ///< Since room was taken last.
     int m_entity = -1;
     int m_percent = -1;
 };

@@ -1,0 +1,107 @@
+#include "geometryindex.h"
+
+#include "geometry.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace drawing {
+
+struct GeometryIndex::Entry
+{
+    Place place;
+    Box bounds;
+    quint32 key = 0; ///< Near for entries that lie near each other.
+};
+
+namespace {
+
+/// The lower 16 bits, each with a zero in front.
+quint32 spread(quint32 bits)
+{
+    bits = (bits | bits << 8) & 0x00ff00ffU;
+    bits = (bits | bits << 4) & 0x0f0f0f0fU;
+    bits = (bits | bits << 2) & 0x33333333U;
+    return (bits | bits << 1) & 0x55555555U;
+}
+
+/// Where the point comes on a curve that winds through the extents square by square.
+quint32 keyOf(const QPointF& point, const Box& extents)
+{
+    constexpr double kSteps = 65535;
+    const auto step = [](double value, double least, double size) {
+        return size > 0 ? static_cast<quint32>((value - least) / size * kSteps) : 0;
+    };
+    return spread(step(point.x(), extents.minX, extents.width())) |
+           spread(step(point.y(), extents.minY, extents.height())) << 1;
+}
+
+} // namespace
+
+GeometryIndex::GeometryIndex(const Geometry& geometry)
+{
+    std::vector<Entry> primitives;
+    std::vector<Entry> texts;
+    for (std::size_t group = 0; group < geometry.groups.size(); ++group) {
+        const GeometryGroup& source = geometry.groups[group];
+        m_extents.add(source.bounds);
+        const auto add = [group](std::vector<Entry>& entries, const auto& pieces) {
+            for (std::size_t i = 0; i < pieces.size(); ++i)
+                entries.push_back(
+                    {{static_cast<quint32>(group), static_cast<quint32>(i)}, pieces[i].bounds, 0});
+        };
+        add(primitives, source.primitives);
+        add(texts, source.texts);
+    }
+    m_primitives = bunchesOf(std::move(primitives), m_extents);
+    m_texts = bunchesOf(std::move(texts), m_extents);
+}
+
+GeometryIndex::Bunches GeometryIndex::bunchesOf(std::vector<Entry> entries, const Box& extents)
+{
+    for (Entry& entry : entries)
+        entry.key = keyOf(entry.bounds.center(), extents);
+    std::sort(entries.begin(), entries.end(),
+        [](const Entry& a, const Entry& b) { return a.key < b.key; });
+    Bunches bunches;
+    bunches.places.reserve(entries.size());
+    bunches.bounds.resize((entries.size() + Bunches::kSize - 1) / Bunches::kSize);
+    for (const Entry& entry : entries) {
+        bunches.bounds[bunches.places.size() / Bunches::kSize].add(entry.bounds);
+        bunches.places.push_back(entry.place);
+    }
+    return bunches;
+}
+
+std::vector<GeometryIndex::Place> GeometryIndex::placesIn(const Bunches& bunches, const Box& box)
+{
+    std::vector<Place> places;
+    for (std::size_t i = 0; i < bunches.bounds.size(); ++i) {
+        if (!bunches.bounds[i].intersects(box))
+            continue;
+        const std::size_t first = i * Bunches::kSize;
+        const std::size_t last = std::min(first + Bunches::kSize, bunches.places.size());
+        places.insert(places.end(), bunches.places.begin() + static_cast<std::ptrdiff_t>(first),
+            bunches.places.begin() + static_cast<std::ptrdiff_t>(last));
+    }
+    std::sort(places.begin(), places.end(), [](const Place& a, const Place& b) {
+        return std::tie(a.group, a.index) < std::tie(b.group, b.index);
+    });
+    return places;
+}
+
+bool GeometryIndex::narrows(const Box& box) const
+{
+    constexpr double kShare = 0.25; // Beyond it what is found is nearly all, and must be sorted.
+    const double width = std::min(box.maxX, m_extents.maxX) - std::max(box.minX, m_extents.minX);
+    const double height = std::min(box.maxY, m_extents.maxY) - std::max(box.minY, m_extents.minY);
+    return !isEmpty() && (width < 0 || height < 0 ||
+                             width * height < kShare * m_extents.width() * m_extents.height());
+}
+
+GeometryIndex::Found GeometryIndex::find(const Box& box) const
+{
+    return {placesIn(m_primitives, box), placesIn(m_texts, box)};
+}
+
+} // namespace drawing
