@@ -14,7 +14,7 @@ DrawingSession::DrawingSession(QWidget* window)
 {
     FileWorker* const worker = m_worker.get();
     connect(worker, &FileWorker::opened, this,
-        [this](const std::shared_ptr<OpenedFile>& file) { adopt(std::move(*file)); });
+        [this](const std::shared_ptr<drawing::Drawing>& drawing) { adopt(drawing); });
     connect(worker, &FileWorker::saved, this, [this](const QString& path) {
         emit said(tr("已保存 %1").arg(QDir::toNativeSeparators(path)));
         emit saved(path);
@@ -42,18 +42,16 @@ void DrawingSession::open(const QString& path, const drawing::OpenOptions& optio
         m_worker->open(path, options);
 }
 
-void DrawingSession::adopt(OpenedFile file)
+void DrawingSession::adopt(std::shared_ptr<drawing::Drawing> drawing)
 {
-    m_drawing = std::move(file.drawing);
+    m_drawing = std::move(drawing);
     emit said(tr("已打开 %1: %2 个图层, %3 个对象")
                   .arg(QDir::toNativeSeparators(m_drawing->path()))
                   .arg(m_drawing->layers().size())
                   .arg(m_drawing->entities().size()));
     for (const QString& notice : m_drawing->openingNotices())
         emit said(notice);
-    if (file.geometry->truncated)
-        emit said(tr("图形内容过多，只显示其中一部分。"));
-    emit opened(file.geometry);
+    emit opened();
 }
 
 void DrawingSession::save(const QString& path)

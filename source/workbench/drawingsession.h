@@ -23,7 +23,7 @@ public:
     /// that cannot be opened is reported, and the present drawing stays.
     void open(const QString& path, const drawing::OpenOptions& options = {});
     /// Takes over a drawing that was read already.
-    void adopt(OpenedFile file);
+    void adopt(std::shared_ptr<drawing::Drawing> drawing);
     /// Saves in the background; a failure is reported and leaves the drawing modified.
     void save(const QString& path);
     /// True when there is nothing to lose: unmodified, saved now, or given up by the user.
@@ -32,7 +32,7 @@ public:
     bool confirmClose();
 
 signals:
-    void opened(const std::shared_ptr<const drawing::Geometry>& geometry);
+    void opened();
     void saved(const QString& path);
     void failed(const QString& path); ///< The file could not be opened.
     void said(const QString& text);   ///< A line for the command line's echo.
@@ -42,7 +42,7 @@ private:
     void report(const QString& title, const QString& path, const drawing::Error& error);
 
     QWidget* m_window;
-    std::unique_ptr<drawing::Drawing> m_drawing;
+    std::shared_ptr<drawing::Drawing> m_drawing;
     std::unique_ptr<FileWorker> m_worker; ///< Behind the drawing: it ends first.
     bool m_waiting = false;
 };

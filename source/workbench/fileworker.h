@@ -1,24 +1,12 @@
 #pragma once
 
 #include "drawing.h"
-#include "geometry/geometry.h"
 
 #include <QObject>
 
 #include <memory>
 
 class QThread;
-
-/// A drawing with what the canvas shows of it.
-struct OpenedFile
-{
-    std::unique_ptr<drawing::Drawing> drawing;
-    std::shared_ptr<const drawing::Geometry> geometry;
-};
-
-/// Opens a drawing and flattens it. `owner` is the thread the drawing is to live on.
-drawing::Expected<OpenedFile> readFile(const QString& path, drawing::Progress* progress,
-    QThread* owner, const drawing::OpenOptions& options = {});
 
 /// Opens and saves on a thread of its own; one job at a time. Signals come on the thread the worker
 /// lives on.
@@ -39,7 +27,7 @@ public:
 signals:
     void started(const QString& what);
     void progress(int percent);
-    void opened(const std::shared_ptr<OpenedFile>& file);
+    void opened(const std::shared_ptr<drawing::Drawing>& drawing);
     void saved(const QString& path);
     void openFailed(
         const QString& path, const drawing::OpenOptions& options, const drawing::Error& error);

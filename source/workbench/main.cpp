@@ -73,12 +73,14 @@ int makePictures(const Options& options)
     const bool useSample = options.file.isEmpty() && !options.gallery.isEmpty();
     const QString path = useSample ? sampleDrawing() : options.file;
     if (!path.isEmpty()) {
-        auto file = readFile(path, nullptr, QThread::currentThread());
+        auto file = drawing::Drawing::open(path, nullptr, QThread::currentThread());
         if (!file)
             return fail(path, file.error());
         window.setFile(std::move(*file));
     }
     QCoreApplication::processEvents();
+    while (!window.isPictureWhole())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (!options.screenshot.isEmpty()) {
         if (const auto saved = savePicture(window, options.screenshot); !saved)
             return fail(options.screenshot, saved.error());

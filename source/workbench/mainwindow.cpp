@@ -6,10 +6,13 @@
 #include "commands/layermarks.h"
 #include "drawingsession.h"
 #include "entitypick.h"
+#include "file/drawingfile.h"
+#include "geometry/geometry.h"
 #include "layerpanel.h"
 #include "messages.h"
 #include "recentfiles.h"
 #include "requests.h"
+#include "scenebuilder.h"
 #include "statusfields.h"
 
 #include <QCloseEvent>
@@ -27,6 +30,7 @@
 namespace {
 
 constexpr int kNoticeMilliseconds = 15000;
+constexpr int kRestsToWait = 3; ///< After so many the user is told that something takes time.
 const char kDarkKey[] = "canvas/dark";
 
 QString fileFilter()
@@ -97,6 +101,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
     m_status = new StatusFields(this);
     setStatusBar(m_status);
     m_recent = new RecentFiles(this);
+    m_builder = new SceneBuilder(this);
     m_session = new DrawingSession(this);
     createActions();
     createCommandLine();
@@ -212,6 +217,8 @@ void MainWindow::connectParts()
     connect(m_status, &StatusFields::spaceChosen, this, &MainWindow::showSpace);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::runCommand);
 
+    connect(m_builder, &SceneBuilder::sceneChanged, this, &MainWindow::showScene);
+    connect(m_builder, &SceneBuilder::finished, this, &MainWindow::endBuilding);
     connect(m_session, &DrawingSession::said, m_commandLine, &CommandLine::say);
     connect(m_session, &DrawingSession::opened, this, &MainWindow::showDrawing);
     connect(m_session, &DrawingSession::saved, m_recent, &RecentFiles::add);
@@ -243,22 +250,25 @@ void MainWindow::openFile(const QString& path, const drawing::OpenOptions& optio
         m_session->open(path, options);
 }
 
-void MainWindow::setFile(OpenedFile file)
+void MainWindow::setFile(std::shared_ptr<drawing::Drawing> drawing)
 {
-    m_session->adopt(std::move(file));
+    m_session->adopt(std::move(drawing));
 }
 
-void MainWindow::showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry)
+void MainWindow::showDrawing()
 {
     connect(drawing(), &drawing::Drawing::layersChanged, this, &MainWindow::showLayers);
-    connect(drawing(), &drawing::Drawing::entitiesChanged, this, &MainWindow::rebuildGeometry);
     connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
     m_panel->setDrawing(drawing());
+    drawing()->setBreak([this] { rest(); });
     m_canvas->clearSelection();
-    m_canvas->setScene(geometry);
-    m_canvas->setShowsLineweights(geometry->switches.showsLineweights);
+    m_canvas->setShowsLineweights(
+        drawing::readPictureSwitches(drawing()->geometrySource().file.headerTags())
+            .showsLineweights);
     m_shownSpace = shownSpace();
     showLayers();
+    m_isNewScene = true;
+    m_builder->setDrawing(drawing());
     m_canvas->zoomToExtents();
     m_recent->add(drawing()->path());
     emit fileOpened();
@@ -287,8 +297,8 @@ void MainWindow::showLayers()
     if (m_shownSpace != shownSpace()) {
         m_shownSpace = shownSpace();
         m_canvas->clearSelection();
-        rebuildGeometry();
-        return;
+        m_isNewScene = true;
+        m_builder->restart();
     }
     // A linetype may have been loaded since.
     m_canvas->setLinetypes(drawing::linetypePatterns(*drawing()));
@@ -297,11 +307,22 @@ void MainWindow::showLayers()
     updateState();
 }
 
-void MainWindow::rebuildGeometry()
+void MainWindow::showScene(const Scene& scene)
 {
-    if (auto geometry = drawing::buildGeometry(*drawing()))
-        m_canvas->setScene(std::make_shared<const drawing::Geometry>(std::move(*geometry)));
-    showLayers();
+    m_canvas->setScene(scene);
+    if (m_isNewScene && m_canvas->isFitted())
+        m_canvas->zoomToExtents();
+}
+
+void MainWindow::endBuilding(bool isTruncated)
+{
+    if (std::exchange(m_isNewScene, false) && isTruncated)
+        m_commandLine->say(tr("图形内容过多，只显示其中一部分。"));
+}
+
+bool MainWindow::isPictureWhole() const
+{
+    return !m_builder->isBuilding() && m_canvas->isPainted();
 }
 
 void MainWindow::runCommand(const QString& word)
@@ -331,20 +352,44 @@ void MainWindow::runLayerCommand(const CommandRow& row, const std::vector<drawin
     }
     CommandContext context = commandContext();
     context.layers = layers;
+    runEdit([&] {
+        try {
+            drawing::DrawingStep step(*drawing(), row.displayTitle());
+            context.step = &step;
+            const host::CommandScope running;
+            row.create()->run(context);
+            step.commit();
+        } catch (const std::exception& error) {
+            messages::showCommandFailure(this, row.displayTitle(), QString::fromUtf8(error.what()));
+        }
+    });
+    endShowingOnly(context.selection);
+}
+
+/// Meanwhile nothing else can be done to the drawing.
+void MainWindow::runEdit(const std::function<void()>& edit)
+{
     m_commandRunning = true;
     updateState();
-    try {
-        drawing::DrawingStep step(*drawing(), row.displayTitle());
-        context.step = &step;
-        const host::CommandScope running;
-        row.create()->run(context);
-        step.commit();
-    } catch (const std::exception& error) {
-        messages::showCommandFailure(this, row.displayTitle(), QString::fromUtf8(error.what()));
-    }
+    m_sinceRest.start();
+    m_rests = 0;
+    edit();
     m_commandRunning = false;
-    endShowingOnly(context.selection);
+    if (m_rests >= kRestsToWait)
+        m_status->hideWork();
     updateState();
+}
+
+/// Lets windows be painted while an edit takes long.
+void MainWindow::rest()
+{
+    constexpr qint64 kRestMilliseconds = 20;
+    if (m_sinceRest.elapsed() < kRestMilliseconds)
+        return;
+    if (++m_rests == kRestsToWait)
+        m_status->showWait(tr("正在更改图形..."));
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    m_sinceRest.start();
 }
 
 void MainWindow::showOnly(const std::vector<drawing::LayerId>& ids)
@@ -447,14 +492,12 @@ void MainWindow::quit()
 
 void MainWindow::undo()
 {
-    drawing()->undo();
-    updateState();
+    runEdit([this] { drawing()->undo(); });
 }
 
 void MainWindow::redo()
 {
-    drawing()->redo();
-    updateState();
+    runEdit([this] { drawing()->redo(); });
 }
 
 void MainWindow::zoomToExtents()

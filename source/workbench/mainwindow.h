@@ -3,8 +3,10 @@
 #include "commandtable.h"
 #include "fileworker.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 
+#include <functional>
 #include <vector>
 
 class Canvas;
@@ -12,7 +14,9 @@ class CommandLine;
 class DrawingSession;
 class LayerPanel;
 class RecentFiles;
+class SceneBuilder;
 class StatusFields;
+struct Scene;
 
 /// The workbench: one drawing, its canvas, and the layer commands.
 class MainWindow : public QMainWindow
@@ -26,7 +30,7 @@ public:
     /// that cannot be opened is reported in a message box and the present drawing stays.
     void openFile(const QString& path, const drawing::OpenOptions& options = {});
     /// Takes over a drawing that was read already.
-    void setFile(OpenedFile file);
+    void setFile(std::shared_ptr<drawing::Drawing> drawing);
     /// Runs what was typed; anything that cannot run is answered in the echo.
     void runCommand(const QString& word);
 
@@ -35,6 +39,8 @@ public:
 
     drawing::Drawing* drawing() const;
     Canvas* canvas() const { return m_canvas; }
+    /// Whether the canvas shows all of the drawing as it is now.
+    bool isPictureWhole() const;
 
 signals:
     void fileOpened(); ///< The drawing shown is another one.
@@ -61,6 +67,8 @@ private:
     void quit();
     void undo();
     void redo();
+    void runEdit(const std::function<void()>& edit);
+    void rest();
     void zoomToExtents();
     void toggleBackground();
     void toggleLineweights();
@@ -69,7 +77,9 @@ private:
     QString askForFile();
     CommandContext commandContext();
     void runLayerCommand(const CommandRow& row, const std::vector<drawing::LayerId>& layers = {});
-    void showDrawing(const std::shared_ptr<const drawing::Geometry>& geometry);
+    void showDrawing();
+    void showScene(const Scene& scene);
+    void endBuilding(bool isTruncated);
     void showSpace(int layout);
     int shownSpace() const;
     void showLayers();
@@ -77,18 +87,21 @@ private:
     void reportRefusals(QStringList sentences);
     void showOnly(const std::vector<drawing::LayerId>& ids);
     void endShowingOnly(const std::vector<int>& selection);
-    void rebuildGeometry();
     void updateState();
     bool isBusy() const;
     QAction* action(const char* name) const;
 
+    SceneBuilder* m_builder = nullptr; ///< Goes before the session and its drawing.
     DrawingSession* m_session = nullptr;
     Canvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
     LayerPanel* m_panel = nullptr;
     RecentFiles* m_recent = nullptr;
     StatusFields* m_status = nullptr;
-    bool m_commandRunning = false;
-    int m_shownSpace = 0;     ///< Of the scene on the canvas, as the status bar counts them.
-    bool m_showsOnly = false; ///< One layer, for a command.
+    bool m_commandRunning = false; ///< Or an edit without one.
+    QElapsedTimer m_sinceRest;     ///< Of a long edit.
+    int m_rests = 0;               ///< Of the edit under way.
+    int m_shownSpace = 0;          ///< Of the scene on the canvas, as the status bar counts them.
+    bool m_isNewScene = false;     ///< And not whole yet; the view follows its extents.
+    bool m_showsOnly = false;      ///< One layer, for a command.
 };

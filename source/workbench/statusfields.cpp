@@ -127,6 +127,13 @@ void StatusFields::showWork(const QString& what)
     showMessage(what);
 }
 
+void StatusFields::showWait(const QString& what)
+{
+    m_bar->setRange(0, 0);
+    m_bar->show();
+    showMessage(what);
+}
+
 void StatusFields::showProgress(int percent)
 {
     m_bar->setValue(percent);
@@ -135,6 +142,7 @@ void StatusFields::showProgress(int percent)
 void StatusFields::hideWork()
 {
     m_bar->hide();
+    m_bar->setRange(0, 100);
     m_cancel->hide();
     clearMessage();
 }

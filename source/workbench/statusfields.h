@@ -27,6 +27,7 @@ public:
     void showSelection(int count);                    ///< Of entities; 0 shows nothing.
     void showCursor(const QPointF& point);
     void showWork(const QString& what);
+    void showWait(const QString& what); ///< For work that cannot be stopped, until `hideWork`.
     void showProgress(int percent);
     void hideWork();
 

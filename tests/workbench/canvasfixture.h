@@ -1,7 +1,7 @@
 #pragma once
 
+#include "canvaspicture.h"
 #include "sketch.h"
-#include "canvas.h"
 
 #include <QtTest>
 
@@ -38,7 +38,7 @@ protected:
         })->properties;
     }
 
-    QImage picture() { return m_canvas->grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    QImage picture() { return pictureOf(*m_canvas); }
 
     std::unique_ptr<Sketch> m_sketch;
     std::unique_ptr<Canvas> m_canvas;

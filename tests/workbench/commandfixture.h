@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas.h"
+#include "canvaspicture.h"
 #include "drawing.h"
 #include "files.h"
 #include "mainwindow.h"
@@ -46,7 +46,7 @@ protected:
 
     void open(const QString& path)
     {
-        auto file = readFile(path, nullptr, QThread::currentThread());
+        auto file = drawing::Drawing::open(path, nullptr, QThread::currentThread());
         QVERIFY(file.has_value());
         m_window->setFile(std::move(*file));
         m_path = path;
@@ -84,10 +84,19 @@ protected:
                               .arg(paths.first(), paths.join("\",\"")));
     }
 
+    /// What the canvas shows once the drawing is flattened and painted.
+    QImage picture() const
+    {
+        for (;;) {
+            const QImage picture = pictureOf(*m_window->canvas());
+            if (m_window->isPictureWhole())
+                return picture;
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+    }
     drawing::Drawing& drawing() const { return *m_window->drawing(); }
     const drawing::Layer* layer(const QString& name) const { return drawing().findLayer(name); }
     QString current() const { return currentName(drawing()); }
-    QImage picture() const { return m_window->canvas()->grab().toImage(); }
     QStringList messages() const { return m_host->log().filter("message|"); }
     QString inFolder(const QString& name) const { return m_folder->filePath(name); }
 

@@ -80,7 +80,7 @@ private slots:
         row("half a reference, its other half hidden", {35, 25}, {65, 35}, "A off", {kReference});
         row("between the lines of a reference", {58, 38}, {42, 32}, "", {});
         row("within a fill, to the left", {74, 36}, {71, 32}, "", {kFill});
-        row("text", {-2, 50}, {40, 62}, "", {kText});
+        row("text", {-2, 50}, {50, 62}, "", {kText});
         row("everything", {-3, -3}, {103, 63}, "B off", {kLow, kReference, kFill, kOnFill, kText});
     }
 
@@ -152,7 +152,7 @@ private slots:
         changeLayer("A off");
         QCOMPARE(m_canvas->selection(), Selection{kHigh});
         QCOMPARE(changed.size(), 1);
-        m_canvas->setScene(nullptr);
+        m_canvas->setScene({});
         QVERIFY(m_canvas->selection().empty());
     }
 

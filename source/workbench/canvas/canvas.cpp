@@ -1,9 +1,10 @@
 #include "canvas.h"
 
+#include "canvashighlight.h"
 #include "canvaspick.h"
+#include "scenepainters.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,32 +16,32 @@
 
 namespace {
 
-/// Drawings that take longer are shown as a moved picture while zooming and panning goes on.
-constexpr qint64 kFluentMilliseconds = 60;
-constexpr int kSettleMilliseconds = 120;
+/// So many vertices are painted in less time than a frame takes.
+constexpr std::size_t kCheapVertices = 20'000;
 /// Beyond this many vertices smooth lines cost more than they show.
 constexpr std::size_t kSmoothVertices = 400'000;
 constexpr double kReachPixels = 4; ///< How far from a line a click still hits it.
 
 } // namespace
 
-Canvas::Canvas(QWidget* parent) : QWidget(parent)
+Canvas::Canvas(QWidget* parent)
+    : QWidget(parent),
+      m_scene(std::make_shared<const ShownScene>()),
+      m_painters(std::make_shared<ScenePainters>()),
+      m_frame(new KeptPicture(QImage::Format_RGB32, this)),
+      m_overlay(new KeptPicture(QImage::Format_ARGB32_Premultiplied, this))
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
     setCursor(Qt::CrossCursor);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(200, 150);
-    m_settle.setSingleShot(true);
-    m_settle.setInterval(kSettleMilliseconds);
-    connect(&m_settle, &QTimer::timeout, this, &Canvas::invalidate);
-}
-
-void Canvas::setScene(std::shared_ptr<const drawing::Geometry> geometry)
-{
-    m_geometry = std::move(geometry);
+    for (const KeptPicture* picture : {m_frame, m_overlay})
+        connect(picture, &KeptPicture::painted, this, [this] { update(); });
     updateLooks();
 }
+
+Canvas::~Canvas() = default;
 
 void Canvas::setLayers(const std::vector<drawing::Layer>& layers)
 {
@@ -58,7 +59,7 @@ void Canvas::setShowsLineweights(bool shows)
     if (m_showsLineweights == shows)
         return;
     m_showsLineweights = shows;
-    invalidate();
+    updateLooks();
 }
 
 void Canvas::setDark(bool dark)
@@ -72,48 +73,53 @@ void Canvas::setDark(bool dark)
 
 void Canvas::updateLooks()
 {
-    m_looks = m_geometry ? looksOf(*m_geometry, {m_layers, m_linetypes.get(), m_dark})
-                         : std::vector<GroupLook>();
+    setScene(m_scene->scene());
+}
+
+void Canvas::setScene(Scene scene)
+{
+    constexpr double kMillimetresPerInch = 25.4;
+    m_scene = std::make_shared<const ShownScene>(
+        std::move(scene), LookSource{m_layers, m_linetypes.get(), m_dark});
+    const bool isSmooth = m_scene->vertexCount() < kSmoothVertices;
+    const double lineweightScale = m_showsLineweights ? logicalDpiY() / kMillimetresPerInch : 0;
+    m_frame->setContent(
+        [scene = m_scene, painters = m_painters, isSmooth, lineweightScale](QPainter& painter,
+            const CanvasView& view, const QRect& area, const std::atomic<bool>& isDropped) {
+            painter.setRenderHint(QPainter::Antialiasing, isSmooth);
+            const ScenePainters::Loan scenePainter = painters->take();
+            scenePainter->setLineweightScale(lineweightScale);
+            scenePainter->paint(painter, *scene, view, area, isDropped);
+        },
+        background(), m_scene->vertexCount() <= kCheapVertices);
     setSelection(m_selection);
-    invalidate();
+    update();
 }
 
 void Canvas::setSelection(std::vector<int> entities)
 {
-    std::sort(entities.begin(), entities.end());
-    entities.erase(std::unique(entities.begin(), entities.end()), entities.end());
-    if (m_geometry && !entities.empty())
-        entities = CanvasPick(*m_geometry, m_looks).shown(entities);
-    else
-        entities.clear();
-    if (m_geometry)
-        m_highlight.collect(*m_geometry, m_looks, entities);
+    if (!entities.empty())
+        entities = CanvasPick(*m_scene).shown(entities);
     const bool isSame = entities == m_selection;
     m_selection = std::move(entities);
-    m_overlay.stale = true;
+    paintSelection();
     update();
     if (!isSame)
         emit selectionChanged(static_cast<int>(m_selection.size()));
 }
 
-void Canvas::invalidate()
+void Canvas::paintSelection()
 {
-    m_frame.stale = true;
-    m_overlay.stale = true;
-    update();
+    const auto marks = std::make_shared<const CanvasHighlight>(m_scene, m_selection);
+    m_overlay->setContent(
+        [marks](QPainter& painter, const CanvasView& view, const QRect& area,
+            const std::atomic<bool>& isDropped) { marks->paint(painter, view, area, isDropped); },
+        Qt::transparent, marks->vertexCount() <= kCheapVertices);
 }
 
 drawing::Box Canvas::extents() const
 {
-    drawing::Box shown;
-    drawing::Box all;
-    for (std::size_t i = 0; i < m_looks.size(); ++i) {
-        const drawing::Box& bounds = m_geometry->groups[i].bounds;
-        all.add(bounds);
-        if (m_looks[i].visible)
-            shown.add(bounds);
-    }
-    return shown.isEmpty() ? all : shown;
+    return m_scene->extents();
 }
 
 void Canvas::zoomToExtents()
@@ -121,7 +127,7 @@ void Canvas::zoomToExtents()
     m_view.setSize(size());
     m_view.fit(extents());
     m_fitted = true;
-    invalidate();
+    update();
 }
 
 void Canvas::zoomToSelection()
@@ -129,91 +135,35 @@ void Canvas::zoomToSelection()
     constexpr double kRoom = 0.7;
     if (m_selection.empty())
         return;
-    m_view.fit(CanvasPick(*m_geometry, m_looks).bounds(m_selection));
+    m_view.fit(CanvasPick(*m_scene).bounds(m_selection));
     m_view.zoomAt(QRectF(rect()).center(), kRoom);
-    m_fitted = false;
-    invalidate();
+    viewMoved();
 }
 
 void Canvas::viewMoved()
 {
     m_fitted = false;
-    if (m_renderMilliseconds > kFluentMilliseconds) {
-        m_settle.start();
-        update();
-        return;
-    }
-    invalidate();
+    update();
 }
 
-/// Makes room for a picture of the present view.
-void Canvas::prepare(Picture& picture, QImage::Format format, const QColor& ground)
+bool Canvas::isPainted() const
 {
-    const qreal ratio = devicePixelRatioF();
-    const QSize pixels = size() * ratio;
-    if (picture.image.size() != pixels)
-        picture.image = QImage(pixels, format);
-    picture.image.setDevicePixelRatio(ratio);
-    picture.image.fill(ground);
-    picture.view = m_view;
-    picture.stale = false;
-}
-
-void Canvas::renderHighlight()
-{
-    prepare(m_overlay, QImage::Format_ARGB32_Premultiplied, Qt::transparent);
-    QPainter painter(&m_overlay.image);
-    m_highlight.paint(painter, *m_geometry, m_view);
-}
-
-void Canvas::render()
-{
-    QElapsedTimer timer;
-    timer.start();
-    prepare(m_frame, QImage::Format_RGB32, m_dark ? Qt::black : Qt::white);
-    if (m_geometry) {
-        std::size_t vertices = 0;
-        for (std::size_t i = 0; i < m_looks.size(); ++i)
-            vertices += m_looks[i].visible ? m_geometry->groups[i].vertices.size() : 0;
-        QPainter painter(&m_frame.image);
-        // Only with a rectangular clip are thin lines written pixel by pixel instead of by spans,
-        // which takes a third of the time and paints the same.
-        painter.setClipRect(rect());
-        painter.setRenderHint(QPainter::Antialiasing, vertices < kSmoothVertices);
-        constexpr double kMillimetresPerInch = 25.4;
-        m_painter.setLineweightScale(m_showsLineweights ? logicalDpiY() / kMillimetresPerInch : 0);
-        m_painter.paint(painter, *m_geometry, m_looks, m_view);
-    }
-    m_renderMilliseconds = timer.elapsed();
+    return m_frame->isOf(m_view) && (m_selection.empty() || m_overlay->isOf(m_view));
 }
 
 void Canvas::paintEvent(QPaintEvent*)
 {
-    if (m_frame.stale || m_frame.image.isNull())
-        render();
+    m_frame->provide(m_view, devicePixelRatioF());
     QPainter painter(this);
-    if (!(m_frame.view == m_view))
-        painter.fillRect(rect(), m_dark ? Qt::black : Qt::white);
-    drawPicture(painter, m_frame);
+    if (!m_frame->isOf(m_view))
+        painter.fillRect(rect(), background());
+    m_frame->draw(painter, m_view);
     if (!m_selection.empty()) {
-        if (m_overlay.stale || m_overlay.image.isNull())
-            renderHighlight();
-        drawPicture(painter, m_overlay);
+        m_overlay->provide(m_view, devicePixelRatioF());
+        m_overlay->draw(painter, m_view);
     }
     if (m_windowing)
         drawWindow(painter);
-}
-
-/// A picture of another view is moved to where it belongs until there is a new one.
-void Canvas::drawPicture(QPainter& painter, const Picture& picture) const
-{
-    if (picture.view == m_view) {
-        painter.drawImage(0, 0, picture.image);
-        return;
-    }
-    const QPointF corner = m_view.toScreen(picture.view.toDrawing({0, 0}));
-    const double zoom = m_view.scale() / picture.view.scale();
-    painter.drawImage(QRectF(corner, QSizeF(picture.view.size()) * zoom), picture.image);
 }
 
 void Canvas::drawWindow(QPainter& painter) const
@@ -228,7 +178,7 @@ void Canvas::drawWindow(QPainter& painter) const
 
 std::vector<int> Canvas::picked(const QPoint& from, const QPoint& to) const
 {
-    const CanvasPick pick(*m_geometry, m_looks);
+    const CanvasPick pick(*m_scene);
     if (!m_windowing) {
         const int entity = pick.nearest(m_view.toDrawing(to), kReachPixels / m_view.scale());
         return entity < 0 ? std::vector<int>() : std::vector<int>{entity};
@@ -242,8 +192,6 @@ std::vector<int> Canvas::picked(const QPoint& from, const QPoint& to) const
 
 void Canvas::pick(const QPoint& from, const QPoint& to, bool adds)
 {
-    if (!m_geometry)
-        return;
     std::vector<int> found = picked(from, to);
     if (!adds) {
         setSelection(std::move(found));
@@ -288,8 +236,6 @@ void Canvas::resizeEvent(QResizeEvent*)
     m_view.setSize(size());
     if (m_fitted)
         zoomToExtents();
-    else
-        invalidate();
 }
 
 void Canvas::wheelEvent(QWheelEvent* event)

@@ -2,15 +2,12 @@
 
 #include "canvashighlight.h"
 #include "canvasview.h"
-#include "geometry/geometry.h"
-#include "grouplook.h"
-#include "scenepainter.h"
+#include "keptpicture.h"
+#include "scene.h"
 
-#include <QImage>
-#include <QTimer>
 #include <QWidget>
 
-#include <memory>
+class ScenePainters;
 
 /// Shows a drawing's model space: wheel zooms at the cursor, the middle button pans, a double click
 /// of it zooms to the extents. The left button selects: a click what is there, a window drawn to
@@ -19,7 +16,8 @@
 /// layers can.
 ///
 /// Geometry is handed in once; layers switching on, off or changing colour only choose anew which
-/// of its groups to draw and how.
+/// of its groups to draw and how. Large drawings are painted on other threads; meanwhile the last
+/// picture is shown, moved to where it belongs.
 class Canvas : public QWidget
 {
     Q_OBJECT
@@ -27,9 +25,11 @@ class Canvas : public QWidget
 public:
     explicit Canvas(QWidget* parent = nullptr);
 
-    /// Replaces what is shown; null shows nothing. The view stays where it is, and the selection as
-    /// far as it is shown: for another drawing it must be cleared.
-    void setScene(std::shared_ptr<const drawing::Geometry> geometry);
+    ~Canvas() override;
+
+    /// Replaces what is shown. The view stays where it is, and the selection as far as it is shown:
+    /// for another drawing it must be cleared.
+    void setScene(Scene scene);
     /// Takes over the state of the layers and redraws.
     void setLayers(const std::vector<drawing::Layer>& layers);
 
@@ -44,6 +44,10 @@ public:
     /// What the visible layers hold, or all of them when none is visible.
     drawing::Box extents() const;
     void zoomToExtents();
+    /// Whether all is shown and nobody zoomed or panned since.
+    bool isFitted() const { return m_fitted; }
+    /// Whether what is seen is all there is to be seen, and nothing is being painted.
+    bool isPainted() const;
     const CanvasView& view() const { return m_view; }
 
     /// Indices of entities of the drawing, ascending.
@@ -78,32 +82,20 @@ protected:
 
 private:
     void updateLooks();
-    void invalidate();
     void viewMoved();
-    /// What was drawn last, for the view of that time.
-    struct Picture
-    {
-        QImage image;
-        CanvasView view;
-        bool stale = true;
-    };
-
-    void prepare(Picture& picture, QImage::Format format, const QColor& ground);
-    void drawPicture(QPainter& painter, const Picture& picture) const;
-    void render();
-    void renderHighlight();
+    void paintSelection();
+    QColor background() const { return m_dark ? Qt::black : Qt::white; }
     void drawWindow(QPainter& painter) const;
     void pick(const QPoint& from, const QPoint& to, bool adds);
     std::vector<int> picked(const QPoint& from, const QPoint& to) const;
     void endWindow();
     void endPick(bool accepted);
 
-    std::shared_ptr<const drawing::Geometry> m_geometry;
+    ScenePointer m_scene;
     std::vector<drawing::Layer> m_layers;
     std::shared_ptr<const drawing::LinetypePatterns> m_linetypes;
-    std::vector<GroupLook> m_looks;
     bool m_showsLineweights = false;
-    ScenePainter m_painter;
+    std::shared_ptr<ScenePainters> m_painters;
     CanvasView m_view;
     bool m_dark = true;
     bool m_fitted = true; ///< Shows the extents and goes on doing so when resized.
@@ -111,15 +103,12 @@ private:
     bool m_panning = false;
 
     std::vector<int> m_selection;
-    CanvasHighlight m_highlight;
     QPoint m_windowFrom;
     QPoint m_windowTo;
     bool m_pressed = false; ///< The left button, to select.
     bool m_windowing = false;
     bool m_picking = false; ///< Between `beginPick` and its end.
 
-    Picture m_frame;
-    Picture m_overlay; ///< The marks of what is selected.
-    qint64 m_renderMilliseconds = 0;
-    QTimer m_settle; ///< Runs while a slow drawing moves under the hand.
+    KeptPicture* m_frame = nullptr;
+    KeptPicture* m_overlay = nullptr; ///< The marks of what is selected.
 };

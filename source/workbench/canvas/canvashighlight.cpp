@@ -1,11 +1,12 @@
 #include "canvashighlight.h"
 
 #include "canvaspick.h"
+#include "entityset.h"
 
 #include <QPainter>
 
-#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -23,65 +24,66 @@ void paintPart(QPainter& painter, const QPolygonF& part)
 
 } // namespace
 
-void CanvasHighlight::collect(const drawing::Geometry& geometry,
-    const std::vector<GroupLook>& looks, const std::vector<int>& entities)
+CanvasHighlight::CanvasHighlight(ScenePointer scene, const std::vector<int>& entities)
+    : m_scene(std::move(scene))
 {
-    m_primitives.clear();
-    m_texts.clear();
-    m_vertices = 0;
-    const auto isSelected = [&entities](int entity) {
-        return std::binary_search(entities.begin(), entities.end(), entity);
-    };
-    for (std::size_t i = 0; i < looks.size() && !entities.empty(); ++i) {
-        if (!looks[i].visible)
-            continue;
-        const drawing::GeometryGroup& group = geometry.groups[i];
+    if (entities.empty())
+        return;
+    const EntitySet selected(entities);
+    m_scene->forEachGroup([&](const ShownScene::Group& shown) {
+        const drawing::GeometryGroup& group = shown.geometry;
         for (std::size_t at = 0; at < group.primitives.size(); ++at) {
-            if (!isSelected(group.primitives[at].entity))
+            if (!selected.contains(group.primitives[at].entity))
                 continue;
-            m_primitives.push_back({i, at});
+            m_primitives.push_back({&group, at});
             m_vertices += group.primitives[at].count;
         }
         for (std::size_t at = 0; at < group.texts.size(); ++at) {
-            if (isSelected(group.texts[at].entity))
-                m_texts.push_back({i, at});
+            if (selected.contains(group.texts[at].entity))
+                m_texts.push_back({&group, at});
         }
-    }
+    });
 }
 
-void CanvasHighlight::paint(
-    QPainter& painter, const drawing::Geometry& geometry, const CanvasView& view) const
+void CanvasHighlight::paint(QPainter& painter, const CanvasView& view, const QRect& area,
+    const std::atomic<bool>& isDropped) const
 {
-    const drawing::Box visible = view.visibleBox();
+    const drawing::Box visible = view.boxOf(area.adjusted(-3, -3, 3, 3));
     QPen pen(QColor(kBright), m_vertices < kMostDashed ? 2 : 1);
     if (m_vertices < kMostDashed)
         pen.setDashPattern({4, 3});
     pen.setCosmetic(true);
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
-    QPolygonF part;
     for (const Piece& piece : m_primitives) {
-        const drawing::GeometryGroup& group = geometry.groups[piece.group];
-        const drawing::Primitive& primitive = group.primitives[piece.index];
-        if (!primitive.bounds.intersects(visible))
+        if (isDropped)
+            return;
+        if (piece.group->primitives[piece.index].bounds.intersects(visible))
+            paintPrimitive(painter, piece, view);
+    }
+    for (const Piece& piece : m_texts) {
+        const drawing::TextRun& run = piece.group->texts[piece.index];
+        QPolygonF outline;
+        for (const QPointF& corner : textOutline(run))
+            outline.append(view.toScreen(corner));
+        if (run.bounds.intersects(visible))
+            painter.drawPolyline(outline);
+    }
+}
+
+void CanvasHighlight::paintPrimitive(
+    QPainter& painter, const Piece& piece, const CanvasView& view) const
+{
+    const drawing::Primitive& primitive = piece.group->primitives[piece.index];
+    QPolygonF part;
+    for (quint32 i = primitive.first; i < primitive.first + primitive.count; ++i) {
+        const QPointF& vertex = piece.group->vertices[i];
+        if (!std::isnan(vertex.x())) {
+            part.append(view.toScreen(vertex));
             continue;
-        for (quint32 i = primitive.first; i < primitive.first + primitive.count; ++i) {
-            if (!std::isnan(group.vertices[i].x())) {
-                part.append(view.toScreen(group.vertices[i]));
-                continue;
-            }
-            paintPart(painter, part);
-            part.resize(0);
         }
         paintPart(painter, part);
         part.resize(0);
     }
-    for (const Piece& piece : m_texts) {
-        const drawing::TextRun& run = geometry.groups[piece.group].texts[piece.index];
-        for (const QPointF& corner : textOutline(run))
-            part.append(view.toScreen(corner));
-        if (run.bounds.intersects(visible))
-            painter.drawPolyline(part);
-        part.resize(0);
-    }
+    paintPart(painter, part);
 }

@@ -1,10 +1,10 @@
 #include "canvaspick.h"
 
+#include "entityset.h"
 #include "geometry/geometrytext.h"
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <limits>
 #include <tuple>
 
@@ -140,12 +140,14 @@ struct CanvasPick::Hit
     int entity = -1;
     bool onLine = false;
     double distance = 0;
+    std::size_t part = 0;
     quint32 sequence = 0;
 
     void offer(const Hit& other)
     {
         const auto rank = [](const Hit& hit) {
-            return std::make_tuple(hit.entity >= 0, hit.onLine, -hit.distance, hit.sequence);
+            return std::make_tuple(
+                hit.entity >= 0, hit.onLine, -hit.distance, hit.part, hit.sequence);
         };
         if (rank(*this) <= rank(other))
             *this = other;
@@ -154,110 +156,100 @@ struct CanvasPick::Hit
 
 int CanvasPick::nearest(const QPointF& at, double reach) const
 {
+    constexpr std::size_t kOverFills = std::numeric_limits<std::size_t>::max();
     const Box near = around(at, reach);
     Hit best;
-    for (std::size_t i = 0; i < m_looks.size(); ++i) {
-        const GeometryGroup& group = m_geometry.groups[i];
-        if (!m_looks[i].visible || !group.bounds.intersects(near))
-            continue;
-        for (const Primitive& primitive : group.primitives) {
-            if (!primitive.bounds.intersects(near))
-                continue;
-            double least = reach;
-            bool onLine = false;
-            anyLine(group, primitive, [&](const QPointF& from, const QPointF& to) {
-                const double gap = distance(at, from, to);
-                onLine = onLine || gap <= reach;
-                least = std::min(least, gap);
-                return false;
-            });
-            const bool isFill = primitive.shape == Primitive::Shape::Fill;
-            if (onLine && !isFill)
-                best.offer({primitive.entity, true, least, primitive.sequence});
-            else if (isFill && (onLine || isFilledAt(group, primitive, at)))
-                best.offer({primitive.entity, false, 0, primitive.sequence});
-        }
-        for (const TextRun& run : group.texts) {
-            // Texts are drawn over fills.
-            if (run.bounds.intersects(near) && reachesInto(near, textOutline(run)))
-                best.offer({run.entity, false, 0, std::numeric_limits<quint32>::max()});
-        }
-    }
+    const auto tryPrimitive = [&](const ShownScene::Group& group, const Primitive& primitive) {
+        double least = reach;
+        bool onLine = false;
+        anyLine(group.geometry, primitive, [&](const QPointF& from, const QPointF& to) {
+            const double gap = distance(at, from, to);
+            onLine = onLine || gap <= reach;
+            least = std::min(least, gap);
+            return false;
+        });
+        const bool isFill = primitive.shape == Primitive::Shape::Fill;
+        if (onLine && !isFill)
+            best.offer({primitive.entity, true, least, group.part, primitive.sequence});
+        else if (isFill && (onLine || isFilledAt(group.geometry, primitive, at)))
+            best.offer({primitive.entity, false, 0, group.part, primitive.sequence});
+    };
+    m_scene.forEachNear(near, tryPrimitive, [&](const ShownScene::Group&, const TextRun& run) {
+        if (reachesInto(near, textOutline(run)))
+            best.offer({run.entity, false, 0, kOverFills, 0});
+    });
     return best.entity;
 }
 
 std::vector<int> CanvasPick::within(const Box& box, Mode mode) const
 {
-    std::vector<int> in;
-    std::vector<int> out; // Those with a part that does not count.
-    const auto note = [&](int entity, bool counts) { (counts ? in : out).push_back(entity); };
-    for (std::size_t i = 0; i < m_looks.size(); ++i) {
-        const GeometryGroup& group = m_geometry.groups[i];
-        const bool isNear = group.bounds.intersects(box);
-        if (!m_looks[i].visible || (!isNear && mode == Mode::Crossing))
-            continue;
-        for (const Primitive& primitive : group.primitives) {
-            const bool mayCount = isNear && primitive.bounds.intersects(box);
-            note(primitive.entity,
-                mayCount && (mode == Mode::Inside ? isInside(primitive.bounds, box)
-                                                  : reachesInto(box, group, primitive)));
-        }
-        for (const TextRun& run : group.texts) {
-            const QPolygonF outline = textOutline(run);
-            note(run.entity, mode == Mode::Inside ? isInside(boundsOf(outline), box)
-                                                  : reachesInto(box, outline));
-        }
-    }
-    const auto sort = [](std::vector<int>& entities) {
-        std::sort(entities.begin(), entities.end());
-        entities.erase(std::unique(entities.begin(), entities.end()), entities.end());
+    EntitySet found;
+    const auto counts = [&](const GeometryGroup& group, const Primitive& primitive) {
+        return mode == Mode::Inside ? isInside(primitive.bounds, box)
+                                    : reachesInto(box, group, primitive);
     };
-    sort(in);
+    const auto textCounts = [&](const TextRun& run) {
+        const QPolygonF outline = textOutline(run);
+        return mode == Mode::Inside ? isInside(boundsOf(outline), box) : reachesInto(box, outline);
+    };
+    m_scene.forEachNear(
+        box,
+        [&](const ShownScene::Group& group, const Primitive& primitive) {
+            if (counts(group.geometry, primitive))
+                found.insert(primitive.entity);
+        },
+        [&](const ShownScene::Group&, const TextRun& run) {
+            if (textCounts(run))
+                found.insert(run.entity);
+        });
     if (mode == Mode::Crossing)
-        return in;
-    sort(out);
-    std::vector<int> whole;
-    std::set_difference(in.begin(), in.end(), out.begin(), out.end(), std::back_inserter(whole));
+        return found.entities();
+    EntitySet out; // Those that show something outside as well.
+    m_scene.forEachGroup([&](const ShownScene::Group& group) {
+        for (const Primitive& primitive : group.geometry.primitives) {
+            if (found.contains(primitive.entity) && !isInside(primitive.bounds, box))
+                out.insert(primitive.entity);
+        }
+        for (const TextRun& run : group.geometry.texts) {
+            if (found.contains(run.entity) && !textCounts(run))
+                out.insert(run.entity);
+        }
+    });
+    std::vector<int> whole = found.entities();
+    whole.erase(std::remove_if(whole.begin(), whole.end(),
+                    [&out](int entity) { return out.contains(entity); }),
+        whole.end());
     return whole;
 }
 
 std::vector<int> CanvasPick::shown(const std::vector<int>& entities) const
 {
-    std::vector<char> isShown(entities.size());
+    const EntitySet wanted(entities);
+    EntitySet found;
     const auto note = [&](int entity) {
-        const auto found = std::lower_bound(entities.begin(), entities.end(), entity);
-        if (found != entities.end() && *found == entity)
-            isShown[static_cast<std::size_t>(found - entities.begin())] = true;
+        if (wanted.contains(entity))
+            found.insert(entity);
     };
-    for (std::size_t i = 0; i < m_looks.size(); ++i) {
-        if (!m_looks[i].visible)
-            continue;
-        for (const Primitive& primitive : m_geometry.groups[i].primitives)
+    m_scene.forEachGroup([&](const ShownScene::Group& group) {
+        for (const Primitive& primitive : group.geometry.primitives)
             note(primitive.entity);
-        for (const TextRun& run : m_geometry.groups[i].texts)
+        for (const TextRun& run : group.geometry.texts)
             note(run.entity);
-    }
-    std::vector<int> shown;
-    for (std::size_t i = 0; i < entities.size(); ++i) {
-        if (isShown[i])
-            shown.push_back(entities[i]);
-    }
-    return shown;
+    });
+    return found.entities();
 }
 
 drawing::Box CanvasPick::bounds(const std::vector<int>& entities) const
 {
     drawing::Box box;
+    const EntitySet wanted(entities);
     const auto add = [&](const auto& piece) {
-        if (std::binary_search(entities.begin(), entities.end(), piece.entity))
+        if (wanted.contains(piece.entity))
             box.add(piece.bounds);
     };
-    for (std::size_t i = 0; i < m_looks.size(); ++i) {
-        if (!m_looks[i].visible)
-            continue;
-        const drawing::GeometryGroup& group = m_geometry.groups[i];
-        std::for_each(group.primitives.begin(), group.primitives.end(), add);
-        std::for_each(group.texts.begin(), group.texts.end(), add);
-    }
+    m_scene.forEachGroup([&add](const ShownScene::Group& group) {
+        std::for_each(group.geometry.primitives.begin(), group.geometry.primitives.end(), add);
+        std::for_each(group.geometry.texts.begin(), group.geometry.texts.end(), add);
+    });
     return box;
 }

@@ -16,11 +16,12 @@ QPointF CanvasView::toDrawing(const QPointF& pixel) const
         m_center.y() - (pixel.y() - m_size.height() * 0.5) / m_scale};
 }
 
-drawing::Box CanvasView::visibleBox() const
+drawing::Box CanvasView::boxOf(const QRect& pixels) const
 {
+    const QRectF exact(pixels); // Its far edges are where they are meant to be.
     drawing::Box box;
-    box.add(toDrawing({0, 0}));
-    box.add(toDrawing(QPointF(m_size.width(), m_size.height())));
+    box.add(toDrawing(exact.topLeft()));
+    box.add(toDrawing(exact.bottomRight()));
     return box;
 }
 

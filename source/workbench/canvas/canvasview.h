@@ -3,7 +3,7 @@
 #include "geometry/geometrymath.h"
 
 #include <QPointF>
-#include <QSize>
+#include <QRect>
 
 /// Which part of the drawing a widget shows: the centre, and pixels per drawing unit.
 class CanvasView
@@ -20,7 +20,8 @@ public:
             (m_center.y() - point.y()) * m_scale + m_size.height() * 0.5};
     }
     QPointF toDrawing(const QPointF& pixel) const;
-    drawing::Box visibleBox() const;
+    drawing::Box visibleBox() const { return boxOf(QRect({0, 0}, m_size)); }
+    drawing::Box boxOf(const QRect& pixels) const; ///< What these pixels show.
 
     /// Shows all of `box` with a margin; an empty one shows a hundred units around the origin.
     void fit(const drawing::Box& box);

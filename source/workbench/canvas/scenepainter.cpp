@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using drawing::Box;
 using drawing::GeometryGroup;
@@ -21,6 +22,7 @@ constexpr int kBatch = 8192;
 constexpr double kHairline = 1.3;     ///< Lines thinner than these pixels are as thin as can be.
 constexpr int kHundredths = 100;      ///< Of a millimetre, in which lineweights are stated.
 constexpr double kMarginPixels = 100; ///< Around the view, where dashes are still cut.
+constexpr int kPenMargin = 16;        ///< Pixels that lines reach beyond their vertices at most.
 
 QPen hairline(const QColor& color)
 {
@@ -41,27 +43,36 @@ ScenePainter::ScenePainter()
     m_descent = metrics.descent();
 }
 
-void ScenePainter::paint(QPainter& painter, const drawing::Geometry& geometry,
-    const std::vector<GroupLook>& looks, const CanvasView& view)
+void ScenePainter::paint(QPainter& painter, const ShownScene& scene, const CanvasView& view,
+    const QRect& area, const std::atomic<bool>& isDropped)
 {
     m_painter = &painter;
     m_view = view;
-    m_visible = view.visibleBox();
-    m_mark.emplace(geometry.switches, view.scale(), view.size().height());
-    m_linetypeScale = geometry.switches.linetypeScale * view.scale();
+    m_isDropped = &isDropped;
+    m_visible = view.boxOf(area.marginsAdded({kPenMargin, kPenMargin, kPenMargin, kPenMargin}));
     m_dasher.setSeen(QRectF(QPointF(), view.size())
                          .adjusted(-kMarginPixels, -kMarginPixels, kMarginPixels, kMarginPixels));
-    paintFills(geometry, looks);
-    for (std::size_t i = 0; i < geometry.groups.size(); ++i) {
-        const GeometryGroup& group = geometry.groups[i];
-        if (!looks[i].visible || !isSeen(group.bounds))
-            continue;
-        painter.setPen(penOf(looks[i]));
-        paintLines(group, looks[i]);
-        painter.setPen(hairline(looks[i].color));
-        paintTexts(group, looks[i].color);
-        flush();
+    if (scene.partCount() > 0) { // All parts say the same.
+        const drawing::PictureSwitches& switches = scene.scene().parts.front()->switches;
+        m_mark.emplace(switches, view.scale(), view.size().height());
+        m_linetypeScale = switches.linetypeScale * view.scale();
     }
+    for (std::size_t part = 0; part < scene.partCount(); ++part)
+        paintFills(scene, part);
+    Box near = m_visible;
+    near.grow(m_mark ? m_mark->reach / view.scale() : 0);
+    beginDots(area, painter.device()->devicePixelRatioF());
+    scene.forEachGroupNear(near,
+        [this](const ShownScene::Group& group, const Pieces& primitives, const Pieces& texts) {
+            if (*m_isDropped || !isSeen(group.geometry.bounds))
+                return;
+            ++m_dotsOfGroup;
+            m_painter->setPen(penOf(group.look));
+            paintLines(group, primitives);
+            m_painter->setPen(hairline(group.look.color));
+            paintTexts(group, texts);
+            flush();
+        });
     m_painter = nullptr;
 }
 
@@ -70,31 +81,31 @@ bool ScenePainter::isTiny(const Box& bounds) const
     return std::max(bounds.width(), bounds.height()) * m_view.scale() < kTinyPixels;
 }
 
-void ScenePainter::paintFills(
-    const drawing::Geometry& geometry, const std::vector<GroupLook>& looks)
+void ScenePainter::paintFills(const ShownScene& scene, std::size_t part)
 {
     struct Fill
     {
-        quint32 sequence;
-        std::size_t group;
+        const GeometryGroup* group;
         const Primitive* primitive;
+        QColor color;
     };
     std::vector<Fill> fills;
-    for (std::size_t i = 0; i < geometry.groups.size(); ++i) {
-        const GeometryGroup& group = geometry.groups[i];
-        if (!looks[i].visible || !group.hasFills || !isSeen(group.bounds))
-            continue;
-        for (const Primitive& primitive : group.primitives) {
+    scene.forEachGroupOf(part, [&](const ShownScene::Group& group) {
+        if (!group.geometry.hasFills || !isSeen(group.geometry.bounds))
+            return;
+        for (const Primitive& primitive : group.geometry.primitives) {
             if (primitive.shape == Primitive::Shape::Fill && isSeen(primitive.bounds))
-                fills.push_back({primitive.sequence, i, &primitive});
+                fills.push_back({&group.geometry, &primitive, group.look.color});
         }
-    }
+    });
     std::sort(fills.begin(), fills.end(),
-        [](const Fill& a, const Fill& b) { return a.sequence < b.sequence; });
+        [](const Fill& a, const Fill& b) { return a.primitive->sequence < b.primitive->sequence; });
     for (const Fill& fill : fills) {
-        m_painter->setPen(hairline(looks[fill.group].color));
-        m_painter->setBrush(looks[fill.group].color);
-        paintFill(geometry.groups[fill.group], *fill.primitive);
+        if (*m_isDropped)
+            break;
+        m_painter->setPen(hairline(fill.color));
+        m_painter->setBrush(fill.color);
+        paintFill(*fill.group, *fill.primitive);
     }
     m_painter->setBrush(Qt::NoBrush);
 }
@@ -133,29 +144,61 @@ QPen ScenePainter::penOf(const GroupLook& look) const
     return pen;
 }
 
-void ScenePainter::paintLines(const GeometryGroup& group, const GroupLook& look)
+void ScenePainter::paintLines(const ShownScene::Group& group, const Pieces& pieces)
 {
-    m_pattern = look.linetype.get();
-    for (const Primitive& primitive : group.primitives) {
-        if (primitive.shape == Primitive::Shape::Fill)
-            continue;
-        if (primitive.shape == Primitive::Shape::Dot && !m_mark->isDot) {
-            paintPoint(group.vertices[primitive.first]);
-            continue;
-        }
-        if (!isSeen(primitive.bounds))
-            continue;
-        if (isTiny(primitive.bounds))
-            m_dots.append(m_view.toScreen(primitive.bounds.center()));
-        else if (primitive.width * m_view.scale() >= kHairline)
-            paintWide(group, primitive);
-        else
-            addLines(group, primitive);
-        if (m_lines.size() + m_dots.size() + m_dasher.lines.size() > kBatch)
-            flush();
-    }
+    m_pattern = group.look.linetype.get();
+    pieces.forEach(group.geometry.primitives,
+        [&](const Primitive& primitive) { paintLine(group.geometry, primitive); });
     flush();
-    paintLetters(look.color);
+    paintLetters(group.look.color);
+}
+
+void ScenePainter::paintLine(const GeometryGroup& group, const Primitive& primitive)
+{
+    if (primitive.shape == Primitive::Shape::Fill || *m_isDropped)
+        return;
+    if (primitive.shape == Primitive::Shape::Dot && !m_mark->isDot) {
+        paintPoint(group.vertices[primitive.first]);
+        return;
+    }
+    if (!isSeen(primitive.bounds))
+        return;
+    if (isTiny(primitive.bounds))
+        addTiny(m_view.toScreen(primitive.bounds.center()));
+    else if (primitive.width * m_view.scale() >= kHairline)
+        paintWide(group, primitive);
+    else
+        addLines(group, primitive);
+    if (m_lines.size() + m_dots.size() + m_dasher.lines.size() > kBatch)
+        flush();
+}
+
+/// Makes room to note where there are dots.
+void ScenePainter::beginDots(const QRect& area, qreal pixelRatio)
+{
+    constexpr int kReach = 2; // Of a dot beyond its pixel.
+    const QRect around = area.adjusted(-kReach, -kReach, kReach, kReach);
+    m_pixelRatio = pixelRatio;
+    m_dotsFrom = around.topLeft();
+    m_dotsSize = QSize(around.size() * pixelRatio);
+    m_dotted.assign(static_cast<std::size_t>(m_dotsSize.width()) *
+                        static_cast<std::size_t>(m_dotsSize.height()),
+        0);
+    m_dotsOfGroup = 0;
+}
+
+/// What is smaller than a pixel is a dot, and one for each pixel and group is enough.
+void ScenePainter::addTiny(const QPointF& at)
+{
+    const QPointF pixel = (at - m_dotsFrom) * m_pixelRatio;
+    if (pixel.x() < 0 || pixel.y() < 0 || pixel.x() >= m_dotsSize.width() ||
+        pixel.y() >= m_dotsSize.height())
+        return;
+    const auto index =
+        static_cast<std::size_t>(pixel.y()) * static_cast<std::size_t>(m_dotsSize.width()) +
+        static_cast<std::size_t>(pixel.x());
+    if (std::exchange(m_dotted[index], m_dotsOfGroup) != m_dotsOfGroup)
+        m_dots.append(at);
 }
 
 void ScenePainter::paintWide(const GeometryGroup& group, const Primitive& primitive)
@@ -259,18 +302,20 @@ void ScenePainter::beginTexts(const QColor& color)
     m_painter->setBrush(color);
 }
 
-void ScenePainter::paintTexts(const GeometryGroup& group, const QColor& color)
+void ScenePainter::paintTexts(const ShownScene::Group& group, const Pieces& pieces)
 {
-    beginTexts(color);
-    for (const TextRun& run : group.texts) {
-        if (!isSeen(run.bounds))
-            continue;
+    if (group.geometry.texts.empty())
+        return;
+    beginTexts(group.look.color);
+    pieces.forEach(group.geometry.texts, [this](const TextRun& run) {
+        if (!isSeen(run.bounds) || *m_isDropped)
+            return;
         const double pixels = std::hypot(run.up.x(), run.up.y()) * m_view.scale();
         if (isTiny(run.bounds))
-            m_dots.append(m_view.toScreen(run.origin));
+            addTiny(m_view.toScreen(run.origin));
         else
             paintText(run, pixels < kReadablePixels);
-    }
+    });
     m_painter->restore();
 }
 

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "canvasview.h"
-#include "geometry/geometry.h"
-#include "grouplook.h"
 #include "linedasher.h"
 #include "pointmark.h"
+#include "scene.h"
 
 #include <QFont>
 #include <QHash>
@@ -13,7 +12,9 @@
 #include <QPolygonF>
 #include <QVector>
 
+#include <atomic>
 #include <optional>
+#include <vector>
 
 class QPainter;
 
@@ -25,9 +26,11 @@ public:
 
     /// Pixels that a millimetre of lineweight takes; 0 draws all lines as thin as can be.
     void setLineweightScale(double pixels) { m_lineweightScale = pixels; }
-    /// Draws the visible groups: fills in their order, then lines, then texts.
-    void paint(QPainter& painter, const drawing::Geometry& geometry,
-        const std::vector<GroupLook>& looks, const CanvasView& view);
+    /// Draws what of the scene lies in `area` of the view: fills in their order, then lines and
+    /// texts of one group after the other. `painter` must be clipped to the area. Gives up when
+    /// `isDropped` turns true, which another thread may do.
+    void paint(QPainter& painter, const ShownScene& scene, const CanvasView& view,
+        const QRect& area, const std::atomic<bool>& isDropped);
 
 private:
     struct Outline
@@ -36,15 +39,20 @@ private:
         double width = 0;
     };
 
-    void paintFills(const drawing::Geometry& geometry, const std::vector<GroupLook>& looks);
+    void paintFills(const ShownScene& scene, std::size_t part);
     void paintFill(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
-    void paintLines(const drawing::GeometryGroup& group, const GroupLook& look);
+    using Pieces = ShownScene::Pieces;
+
+    void paintLines(const ShownScene::Group& group, const Pieces& pieces);
+    void paintLine(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
+    void beginDots(const QRect& area, qreal pixelRatio);
+    void addTiny(const QPointF& at);
     void paintWide(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
     void paintPoint(const QPointF& place);
     QPen penOf(const GroupLook& look) const;
     void addLines(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
     void addPart(const drawing::Primitive& primitive);
-    void paintTexts(const drawing::GeometryGroup& group, const QColor& color);
+    void paintTexts(const ShownScene::Group& group, const Pieces& pieces);
     void paintText(const drawing::TextRun& run, bool asBar);
     void beginTexts(const QColor& color);
     void paintLetters(const QColor& color);
@@ -67,7 +75,13 @@ private:
     double m_linetypeScale = 1;                          ///< Pixels a unit of the patterns.
     const drawing::LinetypePattern* m_pattern = nullptr; ///< Of the group's lines.
     LineDasher m_dasher;
+    const std::atomic<bool>* m_isDropped = nullptr;
     QVector<QLineF> m_lines;
     QVector<QPointF> m_dots;
+    std::vector<quint32> m_dotted; ///< By pixel of the area: the group last dotted there, from 1.
+    quint32 m_dotsOfGroup = 0;
+    QPointF m_dotsFrom;
+    QSize m_dotsSize;
+    qreal m_pixelRatio = 1;
     QPolygonF m_part;
 };

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "geometry/geometry.h"
+#include "grouplook.h"
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+/// What a canvas shows: a drawing flattened in parts, in the order in which they are drawn.
+struct Scene
+{
+    Scene() = default;
+    Scene(drawing::GeometryPart whole) ///< A drawing in one part; none for null.
+    {
+        if (whole)
+            parts.push_back(std::move(whole));
+    }
+
+    std::vector<drawing::GeometryPart> parts;
+};
+
+/// A scene with the looks of its groups. Threads share it, so nobody changes it once it is made.
+class ShownScene
+{
+public:
+    ShownScene() = default;
+    ShownScene(Scene scene, const LookSource& source);
+
+    /// A group that is seen, in the order of drawing.
+    struct Group
+    {
+        const drawing::GeometryGroup& geometry;
+        const GroupLook& look;
+        std::size_t part;
+    };
+    /// Calls `visit(const Group&)` for each group that is seen.
+    template <class Visit>
+    void forEachGroup(Visit visit) const
+    {
+        for (std::size_t part = 0; part < m_looks.size(); ++part)
+            forEachGroupOf(part, visit);
+    }
+    template <class Visit>
+    void forEachGroupOf(std::size_t part, Visit visit) const
+    {
+        const std::vector<drawing::GeometryGroup>& groups = m_scene.parts[part]->groups;
+        for (std::size_t i = 0; i < groups.size(); ++i) {
+            if (m_looks[part][i].visible)
+                visit(Group{groups[i], m_looks[part][i], part});
+        }
+    }
+
+    /// The pieces of a group that are to be looked at: all, or those at these places.
+    struct Pieces
+    {
+        const drawing::GeometryIndex::Place* first = nullptr;
+        const drawing::GeometryIndex::Place* last = nullptr;
+        bool isAll = true;
+
+        template <class Piece, class Visit>
+        void forEach(const std::vector<Piece>& pieces, Visit visit) const
+        {
+            if (isAll)
+                std::for_each(pieces.begin(), pieces.end(), visit);
+            for (const drawing::GeometryIndex::Place* place = first; place != last; ++place)
+                visit(pieces[place->index]);
+        }
+    };
+    /// Calls `visit(group, primitives, texts)` for each group that is seen, with those of its
+    /// pieces that may reach into the box; in the order of drawing.
+    template <class Visit>
+    void forEachGroupNear(const drawing::Box& box, Visit visit) const;
+
+    /// Calls `onPrimitive(group, primitive)` and `onText(group, run)` for those that are seen and
+    /// whose bounds reach into the box, in the order of drawing.
+    template <class OnPrimitive, class OnText>
+    void forEachNear(const drawing::Box& box, OnPrimitive onPrimitive, OnText onText) const;
+
+    const Scene& scene() const { return m_scene; }
+    std::size_t partCount() const { return m_looks.size(); }
+    /// What is seen, or all there is when nothing is.
+    const drawing::Box& extents() const { return m_extents; }
+    /// How many vertices are seen; a text counts as much as takes the same time.
+    std::size_t vertexCount() const { return m_vertexCount; }
+
+private:
+    Scene m_scene;
+    std::vector<std::vector<GroupLook>> m_looks; ///< By part and group.
+    drawing::Box m_extents;
+    std::size_t m_vertexCount = 0;
+};
+
+template <class Visit>
+void ShownScene::forEachGroupNear(const drawing::Box& box, Visit visit) const
+{
+    using Place = drawing::GeometryIndex::Place;
+    for (std::size_t part = 0; part < m_looks.size(); ++part) {
+        const drawing::GeometryIndex& index = m_scene.parts[part]->index;
+        if (!index.narrows(box)) {
+            forEachGroupOf(
+                part, [&visit](const Group& group) { visit(group, Pieces(), Pieces()); });
+            continue;
+        }
+        const drawing::GeometryIndex::Found found = index.find(box);
+        const auto take = [](const std::vector<Place>& places, std::size_t& at, std::size_t group) {
+            const Place* const first = places.data() + at;
+            while (at < places.size() && places[at].group == group)
+                ++at;
+            return Pieces{first, places.data() + at, false};
+        };
+        std::size_t primitive = 0;
+        std::size_t text = 0;
+        for (std::size_t i = 0; i < m_looks[part].size(); ++i) {
+            const Pieces primitives = take(found.primitives, primitive, i);
+            const Pieces texts = take(found.texts, text, i);
+            const bool isEmpty = primitives.first == primitives.last && texts.first == texts.last;
+            if (m_looks[part][i].visible && !isEmpty)
+                visit(Group{m_scene.parts[part]->groups[i], m_looks[part][i], part}, primitives,
+                    texts);
+        }
+    }
+}
+
+template <class OnPrimitive, class OnText>
+void ShownScene::forEachNear(const drawing::Box& box, OnPrimitive onPrimitive, OnText onText) const
+{
+    forEachGroupNear(box, [&](const Group& group, const Pieces& primitives, const Pieces& texts) {
+        if (!group.geometry.bounds.intersects(box))
+            return;
+        const auto offerTo = [&](const auto& on) {
+            return [&group, &box, &on](const auto& piece) {
+                if (piece.bounds.intersects(box))
+                    on(group, piece);
+            };
+        };
+        primitives.forEach(group.geometry.primitives, offerTo(onPrimitive));
+        texts.forEach(group.geometry.texts, offerTo(onText));
+    });
+}
+
+using ScenePointer = std::shared_ptr<const ShownScene>;
