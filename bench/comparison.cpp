@@ -45,10 +45,14 @@ struct Judgement
 Judgement judge(const Budget& budget, double measured, double compared)
 {
     const double times = measured / compared;
-    const auto judged = [&](const char* ratio, double value, const char* limit, bool isMet) {
-        return Judgement{QString::fromLatin1(ratio).arg(value, 0, 'f', 2),
-            QString::fromLatin1(limit).arg(budget.limit),
-            isMet ? QStringLiteral("met") : QStringLiteral("not met")};
+    const bool isSmall = times < 0.01; // A peer far behind: two decimals would say nothing.
+    const QString ratio = QStringLiteral("%1 times").arg(times, 0, 'f', isSmall ? 4 : 2);
+    const auto verdict = [](bool isMet) {
+        return isMet ? QStringLiteral("met") : QStringLiteral("not met");
+    };
+    const auto judged = [&](const char* shape, double value, const char* limit, bool isMet) {
+        return Judgement{QString::fromLatin1(shape).arg(value, 0, 'f', 2),
+            QString::fromLatin1(limit).arg(budget.limit), verdict(isMet)};
     };
     switch (budget.kind) {
     case Budget::Kind::AtMostTimes:
@@ -60,12 +64,13 @@ Judgement judge(const Budget& budget, double measured, double compared)
         const double exponent = std::log10(times) / budget.decades;
         return judged("exponent %1", exponent, "exponent <= %1", exponent <= budget.limit);
     }
+    case Budget::Kind::AtMostSeconds:
+        return {ratio, QStringLiteral("<= %1").arg(shownTime(budget.limit)),
+            verdict(measured <= budget.limit)};
     case Budget::Kind::None:
         break;
     }
-    const bool isSmall = times < 0.01; // A peer far behind: two decimals would say nothing.
-    return {QStringLiteral("%1 times").arg(times, 0, 'f', isSmall ? 4 : 2), QStringLiteral("none"),
-        QStringLiteral("figure")};
+    return {ratio, QStringLiteral("none"), QStringLiteral("figure")};
 }
 
 } // namespace

@@ -29,6 +29,7 @@ struct Budget
         AtMostTimes,        ///< measured / compared.
         AtLeastTimesFaster, ///< compared / measured.
         GrowthExponent,     ///< Decimal logarithm of measured / compared, for `decades` of size.
+        AtMostSeconds,      ///< measured.
         None                ///< A figure without a budget.
     };
     Kind kind = Kind::None;

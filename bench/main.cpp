@@ -56,6 +56,7 @@ int run(int argc, char** argv, bool quick)
     report.registerRows(bench::batchRows(folder.path()), quick);
     report.registerRows(bench::walkRows(folder.path()), quick);
     report.registerRows(bench::panelRows(folder.path()), quick);
+    report.registerRows(bench::stallRows(folder.path()), quick);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

@@ -24,5 +24,8 @@ std::vector<Row> panelRows(const QString& folder);
 /// Clicking and filtering in the layer walk, and the canvas that follows; the drawing for it is
 /// generated in `folder`.
 std::vector<Row> walkRows(const QString& folder);
+/// The picture of large drawings, and how long the window does not answer while a user works on
+/// them; they are generated in `folder`.
+std::vector<Row> stallRows(const QString& folder);
 
 } // namespace bench

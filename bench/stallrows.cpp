@@ -1,0 +1,384 @@
+#include "canvas.h"
+#include "drawing.h"
+#include "linesdrawing.h"
+#include "mainwindow.h"
+#include "rows.h"
+#include "stopwatch.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include <malloc.h>
+
+#include <algorithm>
+#include <list>
+#include <map>
+#include <numeric>
+#include <string>
+
+namespace bench {
+
+namespace {
+
+constexpr int kLayers = 1000;
+constexpr int kChanged = 141000; ///< Objects that go to another layer at once.
+constexpr int kFrames = 20;
+
+/// The longest time that the event loop of this thread did not come round to a timer of 5 ms.
+class Heartbeat : public QObject
+{
+public:
+    Heartbeat()
+    {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        m_timer.start(5);
+        connect(&m_timer, &QTimer::timeout, this, [this] { beat(); });
+        m_since.start();
+    }
+    /// Begins anew.
+    void reset()
+    {
+        m_longest = 0;
+        m_since.restart();
+    }
+    /// In seconds.
+    double longest()
+    {
+        beat();
+        return static_cast<double>(m_longest) * 1e-9;
+    }
+
+private:
+    void beat()
+    {
+        m_longest = std::max(m_longest, m_since.nsecsElapsed());
+        m_since.restart();
+    }
+
+    QTimer m_timer;
+    QElapsedTimer m_since;
+    qint64 m_longest = 0;
+};
+
+void processUntil(const std::function<bool()>& isDone)
+{
+    while (!isDone())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void processFor(int milliseconds)
+{
+    bool isOver = false;
+    QTimer::singleShot(milliseconds, qApp, [&isOver] { isOver = true; });
+    processUntil([&isOver] { return isOver; });
+}
+
+/// The window of the program with a drawing of lines, and what a user does in it.
+class Session
+{
+public:
+    explicit Session(const QString& path) : m_path(path)
+    {
+        window.resize(1600, 1000);
+        window.show();
+        QApplication::processEvents();
+    }
+
+    bool open()
+    {
+        bool isOpened = false;
+        const auto connection = QObject::connect(
+            &window, &MainWindow::fileOpened, &window, [&isOpened] { isOpened = true; });
+        window.openFile(m_path);
+        processUntil([&] { return isOpened && window.isPictureWhole(); });
+        QObject::disconnect(connection);
+        return isOpened;
+    }
+    void pan()
+    {
+        const QPoint center = canvas().rect().center();
+        mouse(QEvent::MouseButtonPress, center, Qt::MiddleButton);
+        for (int i = 1; i <= kFrames; ++i) {
+            mouse(QEvent::MouseMove, center + QPoint(i * 7, i * 3), Qt::NoButton);
+            processFor(20);
+        }
+        mouse(QEvent::MouseButtonRelease, center, Qt::MiddleButton);
+        finishPicture();
+    }
+    void zoom()
+    {
+        for (int i = 0; i < kFrames; ++i) {
+            turnWheel(i < kFrames / 2 ? 1 : -1);
+            processFor(20);
+        }
+        finishPicture();
+    }
+    /// Opens the walk, clicks on some layers, and restores what was.
+    void walk()
+    {
+        run(QStringLiteral("LAYWALK"), [](QDialog& dialog) {
+            auto* const list = dialog.findChild<QListWidget*>(QStringLiteral("layerList"));
+            for (int i = 1; i <= 10; ++i) {
+                const int row = i * list->count() / 11;
+                list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+                emit list->itemClicked(list->item(row));
+                processFor(50);
+            }
+            dialog.close();
+        });
+    }
+    void changeTo()
+    {
+        const int count = static_cast<int>(window.drawing()->entities().size());
+        std::vector<int> selection(static_cast<std::size_t>(std::min(kChanged, count)));
+        std::iota(selection.begin(), selection.end(), 0);
+        canvas().setSelection(selection);
+        run(QStringLiteral("LAYMCH"), [](QDialog& dialog) {
+            auto* const list = dialog.findChild<QListWidget*>(QStringLiteral("layerList"));
+            list->setCurrentRow(list->count() / 2, QItemSelectionModel::ClearAndSelect);
+            dialog.findChild<QPushButton*>(QStringLiteral("okButton"))->click();
+        });
+    }
+    void undo()
+    {
+        window.findChild<QAction*>(QStringLiteral("UNDO"))->trigger();
+        finishPicture();
+    }
+
+    /// Until the next picture after the view moved, in seconds.
+    double panned()
+    {
+        const QPoint center = canvas().rect().center();
+        const QPoint to = center + QPoint(7, 3);
+        mouse(QEvent::MouseButtonPress, center, Qt::MiddleButton);
+        const double seconds = timed(Clock::Wall, [&] {
+            mouse(QEvent::MouseMove, to, Qt::NoButton);
+            finishPicture();
+        });
+        mouse(QEvent::MouseButtonRelease, to, Qt::MiddleButton);
+        return seconds;
+    }
+    double zoomed(int notches)
+    {
+        return timed(Clock::Wall, [&] {
+            turnWheel(notches);
+            finishPicture();
+        });
+    }
+
+    Canvas& canvas() const { return *window.canvas(); }
+
+    MainWindow window;
+    Heartbeat heart;
+
+private:
+    void finishPicture()
+    {
+        canvas().update();
+        processUntil([this] { return window.isPictureWhole(); });
+    }
+    void mouse(QEvent::Type type, const QPoint& at, Qt::MouseButton button)
+    {
+        QMouseEvent event(type, at, button, Qt::MiddleButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&canvas(), &event);
+    }
+    void turnWheel(int notches)
+    {
+        const QPointF at = canvas().rect().center();
+        QWheelEvent event(at, canvas().mapToGlobal(at.toPoint()), {}, {0, notches * 120},
+            Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&canvas(), &event);
+    }
+    void run(const QString& command, const std::function<void(QDialog&)>& act)
+    {
+        QTimer::singleShot(0, &window, [act] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog)
+                act(*dialog);
+        });
+        window.runCommand(command);
+        finishPicture();
+    }
+
+    QString m_path;
+};
+
+/// Sessions and their drawings are made once for all rows.
+class Sessions
+{
+public:
+    explicit Sessions(const QString& folder) : m_folder(folder) {}
+
+    /// Null when the drawing could not be written or opened.
+    std::shared_ptr<Session> with(int lines)
+    {
+        std::shared_ptr<Session>& session = m_sessions[lines];
+        if (!session) {
+            const QString path = pathOf(lines);
+            if (path.isEmpty())
+                return nullptr;
+            session = std::make_shared<Session>(path);
+            if (!session->open())
+                session.reset();
+        }
+        return session;
+    }
+    /// Of the drawing of so many lines; empty when it could not be written.
+    QString pathOf(int lines) const
+    {
+        const QString path = QStringLiteral("%1/lines-%2.dxf").arg(m_folder).arg(lines);
+        return QFile::exists(path) || writeLines(path, lines, kLayers) ? path : QString();
+    }
+
+private:
+    QString m_folder;
+    std::map<int, std::shared_ptr<Session>> m_sessions;
+};
+
+using SessionsPointer = std::shared_ptr<Sessions>;
+
+tl::expected<Sides, QString> noSession()
+{
+    return tl::make_unexpected(QStringLiteral("no window with a drawing of lines"));
+}
+
+tl::expected<Sides, QString> stall(
+    const SessionsPointer& sessions, int lines, void (*prepare)(Session&), void (*act)(Session&))
+{
+    const auto session = sessions->with(lines);
+    if (!session)
+        return noSession();
+    const auto whole = std::make_shared<double>();
+    return Sides{[=] {
+                     prepare(*session);
+                     session->heart.reset();
+                     *whole = timed(Clock::Wall, [&] { act(*session); });
+                     return session->heart.longest();
+                 },
+        [whole] { return *whole; }, QStringLiteral("all of it")};
+}
+
+tl::expected<Sides, QString> firstPicture(const SessionsPointer& sessions, int lines)
+{
+    const auto session = sessions->with(lines);
+    if (!session)
+        return noSession();
+    const QString path = sessions->pathOf(lines);
+    return Sides{[session] { return timed(Clock::Wall, [&] { session->open(); }); },
+        [path] {
+            return timed(
+                Clock::Wall, [&path] { const auto opened = drawing::Drawing::open(path); });
+        },
+        QStringLiteral("opening the file")};
+}
+
+tl::expected<Sides, QString> frame(
+    const SessionsPointer& sessions, int lines, const std::function<double(Session&)>& act)
+{
+    const auto session = sessions->with(lines);
+    if (!session)
+        return noSession();
+    return Sides{[=] { return act(*session); },
+        [=] {
+            const double out = session->zoomed(-1);
+            session->window.runCommand(QStringLiteral("ZOOM"));
+            return out;
+        },
+        QStringLiteral("painting all of it anew")};
+}
+
+double bytesInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
+/// What a line takes in an open drawing, and what the file has of it.
+tl::expected<Sides, QString> memory(const SessionsPointer& sessions, int lines)
+{
+    const QString path = sessions->pathOf(lines);
+    if (path.isEmpty())
+        return noSession();
+    return Sides{[=] {
+                     const double before = bytesInUse();
+                     Session session(path);
+                     session.open();
+                     return (bytesInUse() - before) / lines;
+                 },
+        [=] {
+            const double before = bytesInUse();
+            const auto opened = drawing::Drawing::open(path);
+            return (bytesInUse() - before) / lines;
+        },
+        QStringLiteral("the drawing without its picture")};
+}
+
+} // namespace
+
+std::vector<Row> stallRows(const QString& folder)
+{
+    using Kind = Budget::Kind;
+    const auto sessions = std::make_shared<Sessions>(folder);
+    constexpr int kMillion = 1'000'000;
+    std::vector<Row> rows{
+        {"picture/first", QStringLiteral("first picture of 1,000,000 lines"), Measure::Wall,
+            {Kind::AtMostTimes, 6}, 7, 3, [=] { return firstPicture(sessions, kMillion); }},
+        {"picture/pan", QStringLiteral("a frame while panning, 1,000,000 lines"), Measure::Wall, {},
+            15, 5,
+            [=] { return frame(sessions, kMillion, [](Session& s) { return s.panned(); }); }},
+        {"picture/zoom", QStringLiteral("a frame while zooming in, 1,000,000 lines"), Measure::Wall,
+            {}, 15, 5,
+            [=] { return frame(sessions, kMillion, [](Session& s) { return s.zoomed(8); }); }},
+        {"memory/line", QStringLiteral("a line in an open drawing"), Measure::Memory, {}, 1, 1,
+            [=] { return memory(sessions, kMillion); }},
+    };
+    struct Act
+    {
+        const char* name;
+        const char* what;
+        void (*prepare)(Session&);
+        void (*act)(Session&);
+    };
+    static constexpr auto kNothing = [](Session&) {};
+    static constexpr Act kActs[] = {
+        {"open", "opening", kNothing, [](Session& s) { s.open(); }},
+        {"pan", "panning and zooming", kNothing,
+            [](Session& s) {
+                s.pan();
+                s.zoom();
+            }},
+        {"walk", "walking through layers", kNothing, [](Session& s) { s.walk(); }},
+        {"change", "changing 141,000 objects to a layer", kNothing,
+            [](Session& s) { s.changeTo(); }},
+        {"undo", "undoing that", [](Session& s) { s.changeTo(); }, [](Session& s) { s.undo(); }},
+    };
+    struct Size
+    {
+        int lines;
+        const char* shown;
+        double seconds;
+    };
+    static constexpr Size kSizes[] = {{200'000, "200,000", 0.05}, {kMillion, "1,000,000", 0.1}};
+    static std::list<std::string> names; // Rows hold their names as pointers.
+    for (const Size& size : kSizes) {
+        for (const Act& act : kActs) {
+            names.push_back(std::string("stall/") + act.name + '/' + size.shown);
+            rows.push_back({names.back().c_str(),
+                QStringLiteral("longest stall, %1, %2 lines")
+                    .arg(QLatin1String(act.what), QLatin1String(size.shown)),
+                Measure::Wall, {Kind::AtMostSeconds, size.seconds}, 5, 3,
+                [=] { return stall(sessions, size.lines, act.prepare, act.act); }});
+        }
+    }
+    return rows;
+}
+
+} // namespace bench
