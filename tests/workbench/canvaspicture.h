@@ -18,16 +18,20 @@ inline QImage pictureOf(Canvas& canvas)
     }
 }
 
-/// The share of the pixels whose red differs by more than `by`. Threads make the outlines of texts
-/// for themselves, which come out brighter or darker by a shade.
+/// The share of the pixels in which red, green or blue differs by more than `by`. Threads make the
+/// outlines of texts for themselves, which come out brighter or darker by a shade.
 inline double differentPixels(const QImage& a, const QImage& b, int by = 8)
 {
     if (a.size() != b.size())
         return 1;
+    const auto differs = [by](QRgb x, QRgb y) {
+        return std::abs(qRed(x) - qRed(y)) > by || std::abs(qGreen(x) - qGreen(y)) > by ||
+               std::abs(qBlue(x) - qBlue(y)) > by;
+    };
     int count = 0;
     for (int y = 0; y < a.height(); ++y) {
         for (int x = 0; x < a.width(); ++x)
-            count += std::abs(qRed(a.pixel(x, y)) - qRed(b.pixel(x, y))) > by ? 1 : 0;
+            count += differs(a.pixel(x, y), b.pixel(x, y)) ? 1 : 0;
     }
     return count / double(a.width() * a.height());
 }
