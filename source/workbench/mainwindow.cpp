@@ -214,6 +214,8 @@ void MainWindow::connectParts()
     connect(m_recent, &RecentFiles::chosen, this, [this](const QString& path) { openFile(path); });
     connect(m_canvas, &Canvas::cursorMoved, m_status, &StatusFields::showCursor);
     connect(m_canvas, &Canvas::selectionChanged, m_status, &StatusFields::showSelection);
+    connect(m_canvas, &Canvas::viewportEntered, this, &MainWindow::enterViewport);
+    connect(m_canvas, &Canvas::viewportLeft, m_status, [this] { m_status->showViewport(false); });
     connect(m_status, &StatusFields::spaceChosen, this, &MainWindow::showSpace);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::runCommand);
 
@@ -291,17 +293,29 @@ void MainWindow::showSpace(int layout)
     m_canvas->zoomToExtents();
 }
 
+/// From here on layers are changed in this viewport where a command asks for the current one.
+void MainWindow::enterViewport(int entity)
+{
+    if (isBusy())
+        return m_canvas->leaveViewport();
+    drawing()->setCurrentViewport(entity);
+    m_status->showViewport(true);
+}
+
 void MainWindow::showLayers()
 {
     // Undo and redo switch as well.
     if (m_shownSpace != shownSpace()) {
         m_shownSpace = shownSpace();
+        m_canvas->leaveViewport();
         m_canvas->clearSelection();
         m_isNewScene = true;
         m_builder->restart();
     }
     // A linetype may have been loaded since.
     m_canvas->setLinetypes(drawing::linetypePatterns(*drawing()));
+    std::optional<drawing::Sheet> sheet = drawing()->sheet();
+    m_canvas->setSheet(sheet ? std::make_shared<const drawing::Sheet>(std::move(*sheet)) : nullptr);
     m_canvas->setLayers(m_panel->memory()->isolation.shown(drawing()->layers()));
     m_status->showLayers(drawing());
     updateState();
@@ -323,6 +337,13 @@ void MainWindow::endBuilding(bool isTruncated)
 bool MainWindow::isPictureWhole() const
 {
     return !m_builder->isBuilding() && m_canvas->isPainted();
+}
+
+void MainWindow::waitForPicture()
+{
+    QCoreApplication::processEvents();
+    while (!isPictureWhole())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void MainWindow::runCommand(const QString& word)

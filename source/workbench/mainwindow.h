@@ -41,6 +41,9 @@ public:
     Canvas* canvas() const { return m_canvas; }
     /// Whether the canvas shows all of the drawing as it is now.
     bool isPictureWhole() const;
+    void waitForPicture(); ///< Returns when it is.
+    /// Shows a layout, by its index, or model space: `StatusFields::kModelSpace`.
+    void showSpace(int layout);
 
 signals:
     void fileOpened(); ///< The drawing shown is another one.
@@ -80,8 +83,8 @@ private:
     void showDrawing();
     void showScene(const Scene& scene);
     void endBuilding(bool isTruncated);
-    void showSpace(int layout);
     int shownSpace() const;
+    void enterViewport(int entity);
     void showLayers();
     void showEntities(const std::vector<int>& entities, bool intoView);
     void reportRefusals(QStringList sentences);

@@ -18,6 +18,7 @@ StatusFields::StatusFields(QWidget* parent) : QStatusBar(parent)
     addPermanentWidget(m_cancel);
     m_space = makeSpaceSwitch();
     addPermanentWidget(m_space);
+    m_viewport = addField(QStringLiteral("viewportField"), {});
     m_cursor = addField(QStringLiteral("cursorField"), QStringLiteral("-000000.000, -000000.000"));
     m_selected = addField(QStringLiteral("selectionField"), {});
     m_current = addField(QStringLiteral("currentLayerField"), {});
@@ -107,6 +108,11 @@ void StatusFields::showLayers(const drawing::Drawing* drawing)
     m_current->setText(current ? tr("当前图层: %1").arg(name) : QString());
     showSpaces(drawing);
     m_count->setText(drawing ? tr("%1 个图层").arg(drawing->layers().size()) : QString());
+}
+
+void StatusFields::showViewport(bool isInside)
+{
+    m_viewport->setText(isInside ? tr("视口内") : QString());
 }
 
 void StatusFields::showSelection(int count)

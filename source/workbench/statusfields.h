@@ -24,6 +24,7 @@ public:
     /// A button for a switch of the window, with a short title of its own.
     void addSwitch(QAction* action, const QString& title);
     void showLayers(const drawing::Drawing* drawing); ///< Null: no drawing is open.
+    void showViewport(bool isInside);                 ///< Whether the user is at work in one.
     void showSelection(int count);                    ///< Of entities; 0 shows nothing.
     void showCursor(const QPointF& point);
     void showWork(const QString& what);
@@ -44,6 +45,7 @@ private:
     QToolButton* m_space = nullptr;
     QMenu* m_spaces = nullptr;
     int m_otherSpace = kModelSpace; ///< What a click on the switch goes to.
+    QLabel* m_viewport = nullptr;
     QLabel* m_current = nullptr;
     QLabel* m_count = nullptr;
     QLabel* m_selected = nullptr;

@@ -19,14 +19,17 @@ protected:
         m_canvas->resize(400, 300);
     }
 
-    /// Shows the drawing in the canvas and lets go of it: from here on only layers change.
+    /// Shows the drawing in the canvas. What becomes of it is not followed: from here on only
+    /// layers change.
     void show(const QByteArray& entities)
     {
-        const auto drawing = m_sketch->open(entities);
-        QVERIFY(drawing);
-        m_layers = drawing->layers();
+        m_drawing = m_sketch->open(entities);
+        QVERIFY(m_drawing);
+        m_layers = m_drawing->layers();
         m_canvas->setScene(
-            std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*drawing).value()));
+            std::make_shared<const drawing::Geometry>(drawing::buildGeometry(*m_drawing).value()));
+        if (auto sheet = m_drawing->sheet())
+            m_canvas->setSheet(std::make_shared<const drawing::Sheet>(std::move(*sheet)));
         m_canvas->setLayers(m_layers);
         m_canvas->zoomToExtents();
     }
@@ -42,5 +45,6 @@ protected:
 
     std::unique_ptr<Sketch> m_sketch;
     std::unique_ptr<Canvas> m_canvas;
+    std::unique_ptr<drawing::Drawing> m_drawing;
     std::vector<drawing::Layer> m_layers;
 };

@@ -203,10 +203,13 @@ private slots:
     void extents_data()
     {
         const Rows<QByteArray, QPointF, bool> row("entities", "center", "hideB");
+        const QByteArray dimension = "0 DIMENSION 8 B 2 P 10 0 20 0 ";
         row("all", fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10), {50, 5}, false);
         row("hidden layers do not count", fill("A", 0, 0, 10, 10) + fill("B", 90, 0, 10, 10),
             {5, 5}, true);
         row("unless nothing else is there", fill("B", 90, 0, 10, 10), {95, 5}, true);
+        row("nor what dimensions hide with them", fill("A", 0, 0, 10, 10) + dimension, {5, 5},
+            true);
         row("one upright line", "0 LINE 8 A 10 5 20 0 11 5 21 8", {5, 4}, false);
         row("one point", "0 POINT 8 A 10 7 20 8", {7, 8}, false);
         row("nothing", "", {0, 0}, false);
@@ -217,6 +220,7 @@ private slots:
         QFETCH(QByteArray, entities);
         QFETCH(QPointF, center);
         QFETCH(bool, hideB);
+        m_sketch->blocks = "0 BLOCK 8 0 2 P 70 0 10 0 20 0 0 POINT 8 A 10 9 20 99 0 ENDBLK 8 0 ";
         show(entities);
         layer("B").off = hideB;
         m_canvas->setLayers(m_layers);

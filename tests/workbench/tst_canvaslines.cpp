@@ -12,6 +12,10 @@ QByteArray line(const QByteArray& codes)
 const QByteArray kPolyline = "0 LWPOLYLINE 8 A 10 0 20 0 ";
 const QByteArray kWide = kPolyline + "70 0 43 10 10 100 20 0 ";
 
+/// Covers from 40,-10 to 60,10.
+const QByteArray kWipeout = "0 WIPEOUT 8 A 10 40 20 -10 11 20 21 0 12 0 22 20 13 1 23 1 70 7 71 1 "
+                            "91 2 14 -0.5 24 -0.5 14 0.5 24 0.5 ";
+
 } // namespace
 
 /// What is painted along lines: a dash is ink, a gap is none.
@@ -48,6 +52,8 @@ private slots:
             {3, 43, 47, 98}, {7.5, 52.5});
         row("on through the vertices", "", kPolyline + "70 128 10 45 20 0 10 100 20 0 6 DASHED ",
             ink, gaps);
+        row("covered by what comes later", "", line("") + kWipeout, {10, 90}, {50});
+        row("not by what came before", "", kWipeout + line(""), {10, 50, 90}, {});
         row("ByBlock takes the reference's", "", "0 INSERT 8 A 2 U 10 0 20 0 6 DASHED ", ink, gaps);
         row("layer 0 takes the reference's layer's", "", "0 INSERT 8 D 2 Z 10 0 20 0 ", ink, gaps);
         row("scaled with the reference", "", "0 INSERT 8 A 2 H 10 0 20 0 41 2 42 2 ", {2, 24, 98},
@@ -119,6 +125,7 @@ private slots:
             "0 SEQEND 8 A ",
             10.0, 10.0);
         row("scaled with its block", "0 INSERT 8 A 2 W 10 0 20 0 41 2 42 2 ", 10.0, 10.0);
+        row("marks of a dimension stay dots", "0 DIMENSION 8 A 2 MARKS 10 0 20 0 ", 0.3, 0.3);
         row("a point's square", "0 POINT 8 A 10 20 20 0 0 POINT 8 A 10 80 20 0 ", 2.0, 2.0);
     }
 
@@ -128,7 +135,9 @@ private slots:
         QFETCH(double, at20);
         QFETCH(double, at80);
         m_sketch->header = "9 $PDMODE 70 2 9 $PDSIZE 40 1";
-        m_sketch->blocks = block("W", kPolyline + "70 0 43 5 10 50 20 0");
+        m_sketch->blocks = block("W", kPolyline + "70 0 43 5 10 50 20 0") +
+                           block("MARKS", "0 POINT 8 DEFPOINTS 62 1 10 20 20 0 "
+                                          "0 POINT 8 DEFPOINTS 62 1 10 80 20 0 ");
         show(entity + m_frame);
         const double scale = m_canvas->view().scale();
         QVERIFY(std::abs(thickness(20) - at20 * scale) <= 2);

@@ -63,6 +63,8 @@ struct GeometryGroup
 {
     LayerId layer = LayerId::None;
     int owners = 0; ///< Index into `Geometry::owners`.
+    /// Of the dimension, table or leader whose picture this is: off hides it, too. None elsewhere.
+    LayerId whole = LayerId::None;
     /// In model space while a layout is shown: seen through its viewports alone.
     bool isThroughViewports = false;
     GeometryStyle style;

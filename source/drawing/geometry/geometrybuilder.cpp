@@ -186,13 +186,14 @@ int GeometryBuilder::ownersWith(int owners, LayerId layer)
 GeometryGroup& GeometryBuilder::groupFor(const EntityStyle& style, const Context& context)
 {
     const GroupKey key{layerOf(style, context), ownersWith(context.owners, style.owner),
-        m_isThroughViewports, styleOf(style, context)};
+        context.whole, m_isThroughViewports, styleOf(style, context)};
     auto found = m_groupIndex.constFind(key);
     if (found == m_groupIndex.constEnd()) {
         found = m_groupIndex.insert(key, m_geometry.groups.size());
         GeometryGroup& group = m_geometry.groups.emplace_back();
         group.layer = key.layer;
         group.owners = key.owners;
+        group.whole = key.whole;
         group.isThroughViewports = key.isThroughViewports;
         group.style = key.style;
     }
@@ -306,6 +307,7 @@ void GeometryBuilder::emitReference(const Definition::Reference& reference, cons
     inner.layer = layerOf(reference.style, context);
     inner.style = styleOf(reference.style, context);
     inner.owners = ownersWith(context.owners, inner.layer);
+    inner.whole = reference.isWhole ? inner.layer : context.whole;
 
     m_active[block] = true;
     for (int row = 0; row < reference.rows && !isFull(); ++row) {

@@ -33,17 +33,19 @@ private:
         LayerId layer = LayerId::None;   ///< Taken by what is on layer 0; None in model space.
         GeometryStyle style = kUnstyled; ///< For ByBlock.
         int owners = 0;
+        LayerId whole = LayerId::None;
     };
     struct GroupKey
     {
         LayerId layer;
         int owners;
+        LayerId whole;
         bool isThroughViewports;
         GeometryStyle style;
 
         friend bool operator==(const GroupKey& a, const GroupKey& b)
         {
-            return a.layer == b.layer && a.owners == b.owners &&
+            return a.layer == b.layer && a.owners == b.owners && a.whole == b.whole &&
                    a.isThroughViewports == b.isThroughViewports && a.style == b.style;
         }
         friend uint qHash(const GroupKey& key, uint seed = 0)

@@ -58,6 +58,7 @@ struct Definition
         Vec3 rowStep;
         int columns = 1;
         int rows = 1;
+        bool isWhole = false; ///< The block is all there is of the entity, and gone with it.
     };
 
     struct Endless

@@ -112,6 +112,7 @@ Geometry endlessLines(const std::vector<GeometryPart>& parts)
                 const GeometryGroup& source = part->groups[line.group];
                 GeometryGroup& group = drawn.groups.emplace_back();
                 group.layer = source.layer;
+                group.whole = source.whole;
                 group.isThroughViewports = source.isThroughViewports;
                 group.style = source.style;
                 group.owners = static_cast<int>(drawn.owners.size());

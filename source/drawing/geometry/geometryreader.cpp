@@ -385,7 +385,11 @@ void EntityReader::spline()
 
 void EntityReader::point()
 {
-    addShape(Primitive::Shape::Dot, {m_tags.point(10)});
+    // The marks of a dimension are dots, whatever other points are drawn as.
+    const Tag* layer = m_tags.find(group::kLayer);
+    const bool isMark =
+        m_inBlock && layer && isNeverPlotted(m_source.file.decoded(layer->trimmed()));
+    addShape(isMark ? Primitive::Shape::Lines : Primitive::Shape::Dot, {m_tags.point(10)});
 }
 
 void EntityReader::solid()
@@ -472,6 +476,7 @@ void EntityReader::multiLeader()
     if (leader.hasBlock()) {
         Definition::Reference reference;
         reference.style = style();
+        reference.isWhole = true;
         reference.place = leader.blockPlace();
         addBlock(leader.block(), reference);
     }
@@ -640,6 +645,7 @@ void EntityReader::table()
     const Vec3 z = m_tags.extrusion().normalized();
     Definition::Reference reference;
     reference.style = style();
+    reference.isWhole = true;
     reference.place = Transform3(x, Vec3::cross(z, x), z, m_tags.point(10));
     addReference(m_source.file.decoded(name->trimmed()), reference);
 }
@@ -907,6 +913,7 @@ void EntityReader::dimension()
         return;
     Definition::Reference reference;
     reference.style = style();
+    reference.isWhole = true;
     reference.place = Transform3::translation(plane().map(m_tags.point(12)));
     addReference(m_source.file.decoded(name->trimmed()), reference);
 }

@@ -1,7 +1,9 @@
 #include "canvas.h"
 
+#include "canvasfont.h"
 #include "canvashighlight.h"
 #include "canvaspick.h"
+#include "geometry/geometrytext.h"
 #include "scenepainters.h"
 
 #include <QApplication>
@@ -13,6 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -31,6 +34,7 @@ Canvas::Canvas(QWidget* parent)
       m_frame(new KeptPicture(QImage::Format_RGB32, this)),
       m_overlay(new KeptPicture(QImage::Format_ARGB32_Premultiplied, this))
 {
+    drawing::setCharacterWidths(canvasCharacterWidth);
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
     setCursor(Qt::CrossCursor);
@@ -79,6 +83,7 @@ void Canvas::updateLooks()
 void Canvas::setScene(Scene scene)
 {
     constexpr double kMillimetresPerInch = 25.4;
+    scene.sheet = m_sheet;
     m_scene = std::make_shared<const ShownScene>(
         std::move(scene), LookSource{m_layers, m_linetypes.get(), m_dark});
     const bool isSmooth = m_scene->vertexCount() < kSmoothVertices;
@@ -162,8 +167,49 @@ void Canvas::paintEvent(QPaintEvent*)
         m_overlay->provide(m_view, devicePixelRatioF());
         m_overlay->draw(painter, m_view);
     }
+    drawCurrentViewport(painter);
     if (m_windowing)
         drawWindow(painter);
+}
+
+void Canvas::drawCurrentViewport(QPainter& painter) const
+{
+    constexpr int kOutside = 2;
+    constexpr int kInside = 4;
+    if (!m_sheet)
+        return;
+    for (const drawing::SheetViewport& viewport : m_sheet->viewports) {
+        if (!viewport.isCurrent)
+            continue;
+        QPolygonF outline;
+        for (const QPointF& corner : viewport.outline)
+            outline.append(m_view.toScreen(corner));
+        painter.setPen(QPen(QColor(0x2ea043), m_isInViewport ? kInside : kOutside));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolygon(outline);
+    }
+}
+
+/// The viewport on top there; -1 where the sheet is bare.
+int Canvas::viewportAt(const QPoint& pixel) const
+{
+    int found = -1;
+    for (const ShownScene::Window& window : m_scene->windows()) {
+        QPolygonF outline;
+        for (const QPointF& corner : window.viewport.outline)
+            outline.append(m_view.toScreen(corner));
+        if (outline.containsPoint(pixel, Qt::OddEvenFill))
+            found = window.viewport.entity;
+    }
+    return found;
+}
+
+void Canvas::leaveViewport()
+{
+    if (!std::exchange(m_isInViewport, false))
+        return;
+    update();
+    emit viewportLeft();
 }
 
 void Canvas::drawWindow(QPainter& painter) const
@@ -309,7 +355,14 @@ void Canvas::keyPressEvent(QKeyEvent* event)
 
 void Canvas::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::MiddleButton)
+    if (event->button() == Qt::MiddleButton)
+        return zoomToExtents();
+    if (event->button() != Qt::LeftButton || !m_sheet || m_picking)
         return QWidget::mouseDoubleClickEvent(event);
-    zoomToExtents();
+    const int viewport = viewportAt(event->pos());
+    if (viewport < 0)
+        return leaveViewport();
+    m_isInViewport = true;
+    update();
+    emit viewportEntered(viewport);
 }

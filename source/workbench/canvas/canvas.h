@@ -9,11 +9,11 @@
 
 class ScenePainters;
 
-/// Shows a drawing's model space: wheel zooms at the cursor, the middle button pans, a double click
+/// Shows a space of a drawing: wheel zooms at the cursor, the middle button pans, a double click
 /// of it zooms to the extents. The left button selects: a click what is there, a window drawn to
 /// the right what lies in it, to the left what reaches into it; Ctrl adds, and takes out what is
 /// clicked again; Esc clears. What is on layers not shown cannot be selected, what is on locked
-/// layers can.
+/// layers can. Double clicks on a sheet enter the viewport there, or leave it.
 ///
 /// Geometry is handed in once; layers switching on, off or changing colour only choose anew which
 /// of its groups to draw and how. Large drawings are painted on other threads; meanwhile the last
@@ -36,6 +36,11 @@ public:
     /// Where the layers' linetypes are looked up from the next `setLayers` on; null: where those of
     /// the scene are.
     void setLinetypes(std::shared_ptr<const drawing::LinetypePatterns> linetypes);
+    /// The sheet that is shown from the next `setLayers` on; null in model space.
+    void setSheet(std::shared_ptr<const drawing::Sheet> sheet) { m_sheet = std::move(sheet); }
+    /// Whether the user is at work in the current viewport of the sheet.
+    bool isInViewport() const { return m_isInViewport; }
+    void leaveViewport();
     bool showsLineweights() const { return m_showsLineweights; }
     void setShowsLineweights(bool shows);
 
@@ -68,7 +73,9 @@ signals:
     void cursorMoved(const QPointF& point); ///< In drawing units.
     void backgroundChanged(bool dark);
     void selectionChanged(int count);
-    void pickEnded(bool accepted); ///< The pick is what is selected.
+    void pickEnded(bool accepted);    ///< The pick is what is selected.
+    void viewportEntered(int entity); ///< By a double click in it.
+    void viewportLeft();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -86,6 +93,8 @@ private:
     void paintSelection();
     QColor background() const { return m_dark ? Qt::black : Qt::white; }
     void drawWindow(QPainter& painter) const;
+    void drawCurrentViewport(QPainter& painter) const;
+    int viewportAt(const QPoint& pixel) const;
     void pick(const QPoint& from, const QPoint& to, bool adds);
     std::vector<int> picked(const QPoint& from, const QPoint& to) const;
     void endWindow();
@@ -94,6 +103,8 @@ private:
     ScenePointer m_scene;
     std::vector<drawing::Layer> m_layers;
     std::shared_ptr<const drawing::LinetypePatterns> m_linetypes;
+    std::shared_ptr<const drawing::Sheet> m_sheet;
+    bool m_isInViewport = false;
     bool m_showsLineweights = false;
     std::shared_ptr<ScenePainters> m_painters;
     CanvasView m_view;

@@ -2,10 +2,12 @@
 
 #include "CmColor.h"
 #include "layers/colorindex.h"
+#include "layers/layermask.h"
 
 #include <QHash>
 
 #include <algorithm>
+#include <deque>
 
 namespace {
 
@@ -27,22 +29,28 @@ public:
     Looks(const drawing::Geometry& geometry, const LookSource& source)
         : m_ownLinetypes(*geometry.linetypes),
           m_layerLinetypes(source.linetypes ? *source.linetypes : *geometry.linetypes),
-          m_foreground(source.isDark ? Qt::white : Qt::black)
+          m_foreground(source.isDark ? Qt::white : Qt::black),
+          m_isThroughViewports(source.viewport != nullptr)
     {
         m_layers.reserve(static_cast<int>(source.layers.size()));
         for (const Layer& layer : source.layers)
             m_layers.insert(static_cast<int>(layer.id), &layer);
+        if (source.viewport)
+            overrideIn(*source.viewport);
     }
 
     GroupLook of(const GeometryGroup& group, const std::vector<LayerId>& owners) const
     {
         GroupLook look;
         const Layer* layer = find(group.layer);
-        const bool hidden = layer && (layer->properties.off || layer->properties.frozen);
-        look.visible = !hidden && std::none_of(owners.begin(), owners.end(), [this](LayerId owner) {
-            const Layer* around = find(owner);
-            return around && around->properties.frozen;
-        });
+        const Layer* whole = find(group.whole);
+        const bool hidden = (layer && (layer->properties.off || layer->properties.frozen)) ||
+                            (whole && whole->properties.off);
+        look.visible = !hidden && group.isThroughViewports == m_isThroughViewports &&
+                       std::none_of(owners.begin(), owners.end(), [this](LayerId owner) {
+                           const Layer* around = find(owner);
+                           return around && around->properties.frozen;
+                       });
         look.color = colorOf(group.style.color);
         look.color.setAlphaF(
             1 - settingOf(group.style.transparency, &LayerProperties::transparency) / 100.0);
@@ -54,6 +62,28 @@ public:
     }
 
 private:
+    /// What the viewport shows otherwise.
+    void overrideIn(const drawing::SheetViewport& viewport)
+    {
+        const auto own = [this](LayerId id) -> LayerProperties* {
+            const Layer* layer = find(id);
+            if (!layer)
+                return nullptr;
+            m_overridden.push_back(*layer);
+            m_layers[static_cast<int>(id)] = &m_overridden.back();
+            return &m_overridden.back().properties;
+        };
+        for (const drawing::LayerInViewport& layer : viewport.overridden) {
+            if (LayerProperties* properties = own(layer.layer))
+                *properties = drawing::maskedProperties(
+                    *properties, layer.shown, drawing::LayerOverrides::kProperties);
+        }
+        for (const LayerId id : viewport.frozen) {
+            if (LayerProperties* properties = own(id))
+                properties->frozen = true;
+        }
+    }
+
     const Layer* find(LayerId id) const { return m_layers.value(static_cast<int>(id)); }
 
     int settingOf(const GeometrySetting& setting, int LayerProperties::*property) const
@@ -97,9 +127,11 @@ private:
     }
 
     QHash<int, const Layer*> m_layers;
+    std::deque<Layer> m_overridden; ///< A deque, so that pointers stay good.
     const LinetypePatterns& m_ownLinetypes;
     const LinetypePatterns& m_layerLinetypes;
     QColor m_foreground;
+    bool m_isThroughViewports = false;
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geometry/geometry.h"
+#include "geometry/sheet.h"
 #include "layers/layer.h"
 
 #include <QColor>
@@ -23,6 +24,8 @@ struct LookSource
     /// Where the layers' linetypes are; null: where those of the geometry are.
     const drawing::LinetypePatterns* linetypes = nullptr;
     bool isDark = true; ///< The background.
+    /// What is seen through it; null: what is on the sheet, or in model space when that is shown.
+    const drawing::SheetViewport* viewport = nullptr;
 };
 
 /// One look per group, by the layers' present state: off and frozen layers hide what is on them, a

@@ -1,5 +1,7 @@
 #include "scene.h"
 
+#include "planemap.h"
+
 #include <utility>
 
 namespace {
@@ -8,7 +10,9 @@ constexpr std::size_t kVerticesOfText = 20;
 
 } // namespace
 
-ShownScene::ShownScene(Scene scene, const LookSource& source) : m_scene(std::move(scene))
+ShownScene::ShownScene(Scene scene, const LookSource& source)
+    : m_scene(std::move(scene)),
+      m_background(source.isDark ? Qt::black : Qt::white)
 {
     drawing::Box all;
     for (const drawing::GeometryPart& part : m_scene.parts) {
@@ -21,6 +25,22 @@ ShownScene::ShownScene(Scene scene, const LookSource& source) : m_scene(std::mov
         m_vertexCount +=
             group.geometry.vertices.size() + group.geometry.texts.size() * kVerticesOfText;
     });
+    if (m_scene.sheet && !source.viewport)
+        openWindows(source);
     if (m_extents.isEmpty())
         m_extents = all;
+}
+
+void ShownScene::openWindows(const LookSource& source)
+{
+    m_extents.add(m_scene.sheet->paper);
+    for (const drawing::SheetViewport& viewport : m_scene.sheet->viewports) {
+        m_extents.add(boundsOf(viewport));
+        if (!viewport.isOn)
+            continue;
+        LookSource through = source;
+        through.viewport = &viewport;
+        m_windows.push_back({viewport, std::make_shared<const ShownScene>(m_scene, through)});
+        m_vertexCount += m_windows.back().scene->vertexCount();
+    }
 }

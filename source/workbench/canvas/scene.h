@@ -18,6 +18,7 @@ struct Scene
     }
 
     std::vector<drawing::GeometryPart> parts;
+    std::shared_ptr<const drawing::Sheet> sheet; ///< Null where model space is shown.
 };
 
 /// A scene with the looks of its groups. Threads share it, so nobody changes it once it is made.
@@ -77,16 +78,29 @@ public:
     template <class OnPrimitive, class OnText>
     void forEachNear(const drawing::Box& box, OnPrimitive onPrimitive, OnText onText) const;
 
+    /// A viewport that is on, and what is seen through it.
+    struct Window
+    {
+        drawing::SheetViewport viewport;
+        std::shared_ptr<const ShownScene> scene;
+    };
+
     const Scene& scene() const { return m_scene; }
+    const std::vector<Window>& windows() const { return m_windows; }
     std::size_t partCount() const { return m_looks.size(); }
     /// What is seen, or all there is when nothing is.
     const drawing::Box& extents() const { return m_extents; }
+    const QColor& background() const { return m_background; }
     /// How many vertices are seen; a text counts as much as takes the same time.
     std::size_t vertexCount() const { return m_vertexCount; }
 
 private:
+    void openWindows(const LookSource& source);
+
     Scene m_scene;
     std::vector<std::vector<GroupLook>> m_looks; ///< By part and group.
+    std::vector<Window> m_windows;
+    QColor m_background;
     drawing::Box m_extents;
     std::size_t m_vertexCount = 0;
 };

@@ -1,5 +1,7 @@
 #include "scenepainter.h"
 
+#include "canvasfont.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -33,11 +35,8 @@ QPen hairline(const QColor& color)
 
 } // namespace
 
-ScenePainter::ScenePainter()
+ScenePainter::ScenePainter() : m_font(canvasFont(kOutlinePixels))
 {
-    m_font.setStyleHint(QFont::SansSerif);
-    m_font.setPixelSize(kOutlinePixels);
-    m_font.setHintingPreference(QFont::PreferNoHinting);
     const QFontMetricsF metrics(m_font);
     m_capHeight = std::max(1.0, metrics.capHeight());
     m_descent = metrics.descent();
@@ -47,38 +46,127 @@ void ScenePainter::paint(QPainter& painter, const ShownScene& scene, const Canva
     const QRect& area, const std::atomic<bool>& isDropped)
 {
     m_painter = &painter;
-    m_view = view;
     m_isDropped = &isDropped;
-    m_visible = view.boxOf(area.marginsAdded({kPenMargin, kPenMargin, kPenMargin, kPenMargin}));
-    m_dasher.setSeen(QRectF(QPointF(), view.size())
-                         .adjusted(-kMarginPixels, -kMarginPixels, kMarginPixels, kMarginPixels));
+    beginDots(area, painter.device()->devicePixelRatioF());
+    const PlaneMap map(view);
+    const double lineweightScale = m_lineweightScale;
+    if (const drawing::Sheet* sheet = scene.scene().sheet.get()) {
+        // Of a sheet the millimetres are known.
+        if (m_lineweightScale > 0)
+            m_lineweightScale = sheet->unitsPerMillimetre * view.scale();
+        paintPaper(*sheet, map);
+        for (const ShownScene::Window& window : scene.windows())
+            paintWindow(window, *sheet, map, area);
+    }
+    paintSpace(scene, {map, view.scale(), double(view.size().height())}, area);
+    m_lineweightScale = lineweightScale;
+    m_painter = nullptr;
+}
+
+void ScenePainter::paintPaper(const drawing::Sheet& sheet, const PlaneMap& map)
+{
+    const auto frame = [&](const Box& box, Qt::PenStyle style) {
+        if (box.isEmpty())
+            return;
+        m_painter->setPen(QPen(Qt::gray, 0, style));
+        m_painter->setBrush(Qt::NoBrush);
+        m_painter->drawRect(
+            QRectF(map.toPixel({box.minX, box.maxY}), map.toPixel({box.maxX, box.minY})));
+    };
+    frame(sheet.paper, Qt::SolidLine);
+    frame(sheet.printable, Qt::DashLine);
+}
+
+void ScenePainter::paintWindow(const ShownScene::Window& window, const drawing::Sheet& sheet,
+    const PlaneMap& map, const QRect& area)
+{
+    QPolygonF outline;
+    for (const QPointF& corner : window.viewport.outline)
+        outline.append(map.toPixel(corner));
+    const QRectF bounds = outline.boundingRect();
+    const QRectF seen = bounds.intersected(area);
+    if (seen.isEmpty())
+        return;
+    QPainterPath clip;
+    clip.addPolygon(outline);
+    m_painter->save();
+    m_painter->setClipPath(clip, Qt::IntersectClip);
+    const PlaneMap inside = map.through(window.viewport);
+    const double dashes = sheet.hasPaperLinetypes ? map.scale() : inside.scale();
+    paintSpace(*window.scene, {inside, dashes, bounds.height()}, seen.toAlignedRect());
+    m_painter->restore();
+}
+
+void ScenePainter::paintSpace(const ShownScene& scene, const Space& space, const QRect& area)
+{
+    m_map = space.map;
+    m_visible =
+        m_map.boxAround(area.marginsAdded({kPenMargin, kPenMargin, kPenMargin, kPenMargin}));
+    m_dasher.setSeen(
+        QRectF(area).adjusted(-kMarginPixels, -kMarginPixels, kMarginPixels, kMarginPixels));
     if (scene.partCount() > 0) { // All parts say the same.
         const drawing::PictureSwitches& switches = scene.scene().parts.front()->switches;
-        m_mark.emplace(switches, view.scale(), view.size().height());
-        m_linetypeScale = switches.linetypeScale * view.scale();
+        m_mark.emplace(switches, m_map.scale(), space.height);
+        m_linetypeScale = switches.linetypeScale * space.dashScale;
     }
+    const std::vector<Mask> masks = masksOf(scene);
+    m_from = 0;
+    for (const Mask& mask : masks) {
+        m_to = mask.order;
+        paintRange(scene);
+        m_painter->setPen(hairline(scene.background()));
+        m_painter->setBrush(scene.background());
+        paintFill(*mask.group, *mask.primitive);
+        m_from = mask.order;
+    }
+    m_to = kLast;
+    paintRange(scene);
+}
+
+/// What covers others here, in the order of drawing.
+std::vector<ScenePainter::Mask> ScenePainter::masksOf(const ShownScene& scene) const
+{
+    constexpr std::size_t kMost = 256; ///< More of them would take too long to be told apart.
+    std::vector<Mask> masks;
+    scene.forEachGroup([&](const ShownScene::Group& group) {
+        if (!group.geometry.hasMasks || !isSeen(group.geometry.bounds))
+            return;
+        for (const Primitive& primitive : group.geometry.primitives) {
+            const bool covers = primitive.shape == Primitive::Shape::Mask &&
+                                isSeen(primitive.bounds) && !isTiny(primitive.bounds);
+            if (covers && masks.size() < kMost)
+                masks.push_back(
+                    {orderOf(group.part, primitive.sequence), &group.geometry, &primitive});
+        }
+    });
+    std::sort(
+        masks.begin(), masks.end(), [](const Mask& a, const Mask& b) { return a.order < b.order; });
+    return masks;
+}
+
+void ScenePainter::paintRange(const ShownScene& scene)
+{
     for (std::size_t part = 0; part < scene.partCount(); ++part)
         paintFills(scene, part);
     Box near = m_visible;
-    near.grow(m_mark ? m_mark->reach / view.scale() : 0);
-    beginDots(area, painter.device()->devicePixelRatioF());
+    near.grow(m_mark ? m_mark->reach / m_map.scale() : 0);
     scene.forEachGroupNear(near,
         [this](const ShownScene::Group& group, const Pieces& primitives, const Pieces& texts) {
             if (*m_isDropped || !isSeen(group.geometry.bounds))
                 return;
             ++m_dotsOfGroup;
+            m_partNumber = group.part;
             m_painter->setPen(penOf(group.look));
             paintLines(group, primitives);
             m_painter->setPen(hairline(group.look.color));
             paintTexts(group, texts);
             flush();
         });
-    m_painter = nullptr;
 }
 
 bool ScenePainter::isTiny(const Box& bounds) const
 {
-    return std::max(bounds.width(), bounds.height()) * m_view.scale() < kTinyPixels;
+    return std::max(bounds.width(), bounds.height()) * m_map.scale() < kTinyPixels;
 }
 
 void ScenePainter::paintFills(const ShownScene& scene, std::size_t part)
@@ -94,7 +182,8 @@ void ScenePainter::paintFills(const ShownScene& scene, std::size_t part)
         if (!group.geometry.hasFills || !isSeen(group.geometry.bounds))
             return;
         for (const Primitive& primitive : group.geometry.primitives) {
-            if (primitive.shape == Primitive::Shape::Fill && isSeen(primitive.bounds))
+            if (primitive.shape == Primitive::Shape::Fill && isSeen(primitive.bounds) &&
+                isInRange(part, primitive.sequence))
                 fills.push_back({&group.geometry, &primitive, group.look.color});
         }
     });
@@ -113,7 +202,7 @@ void ScenePainter::paintFills(const ShownScene& scene, std::size_t part)
 void ScenePainter::paintFill(const GeometryGroup& group, const Primitive& primitive)
 {
     if (isTiny(primitive.bounds)) {
-        m_painter->drawPoint(m_view.toScreen(primitive.bounds.center()));
+        m_painter->drawPoint(m_map.toPixel(primitive.bounds.center()));
         return;
     }
     QPainterPath path;
@@ -121,7 +210,7 @@ void ScenePainter::paintFill(const GeometryGroup& group, const Primitive& primit
     for (quint32 i = primitive.first; i < primitive.first + primitive.count; ++i) {
         const QPointF& vertex = group.vertices[i];
         if (!std::isnan(vertex.x())) {
-            part.append(m_view.toScreen(vertex));
+            part.append(m_map.toPixel(vertex));
             continue;
         }
         path.addPolygon(part);
@@ -155,7 +244,9 @@ void ScenePainter::paintLines(const ShownScene::Group& group, const Pieces& piec
 
 void ScenePainter::paintLine(const GeometryGroup& group, const Primitive& primitive)
 {
-    if (primitive.shape == Primitive::Shape::Fill || *m_isDropped)
+    const bool isLine =
+        primitive.shape != Primitive::Shape::Fill && primitive.shape != Primitive::Shape::Mask;
+    if (!isLine || *m_isDropped || !isInRange(m_partNumber, primitive.sequence))
         return;
     if (primitive.shape == Primitive::Shape::Dot && !m_mark->isDot) {
         paintPoint(group.vertices[primitive.first]);
@@ -164,8 +255,8 @@ void ScenePainter::paintLine(const GeometryGroup& group, const Primitive& primit
     if (!isSeen(primitive.bounds))
         return;
     if (isTiny(primitive.bounds))
-        addTiny(m_view.toScreen(primitive.bounds.center()));
-    else if (primitive.width * m_view.scale() >= kHairline)
+        addTiny(m_map.toPixel(primitive.bounds.center()));
+    else if (primitive.width * m_map.scale() >= kHairline)
         paintWide(group, primitive);
     else
         addLines(group, primitive);
@@ -206,7 +297,7 @@ void ScenePainter::paintWide(const GeometryGroup& group, const Primitive& primit
     flush();
     const QPen pen = m_painter->pen();
     QPen wide = pen;
-    wide.setWidthF(primitive.width * m_view.scale());
+    wide.setWidthF(primitive.width * m_map.scale());
     wide.setCapStyle(Qt::FlatCap);
     wide.setJoinStyle(Qt::MiterJoin);
     m_painter->setPen(wide);
@@ -219,9 +310,9 @@ void ScenePainter::paintPoint(const QPointF& place)
 {
     Box around;
     around.add(place);
-    around.grow(m_mark->reach / m_view.scale());
+    around.grow(m_mark->reach / m_map.scale());
     if (isSeen(around) && !m_mark->path.isEmpty())
-        m_painter->drawPath(m_mark->path.translated(m_view.toScreen(place)));
+        m_painter->drawPath(m_mark->path.translated(m_map.toPixel(place)));
 }
 
 void ScenePainter::addLines(const GeometryGroup& group, const Primitive& primitive)
@@ -233,7 +324,7 @@ void ScenePainter::addLines(const GeometryGroup& group, const Primitive& primiti
             addPart(primitive);
             continue;
         }
-        const QPointF pixel = m_view.toScreen(*vertex);
+        const QPointF pixel = m_map.toPixel(*vertex);
         const bool last = vertex + 1 == end || std::isnan(vertex[1].x());
         // A vertex less than a pixel on adds nothing that could be seen.
         const bool near = !m_part.isEmpty() && std::abs(pixel.x() - m_part.last().x()) < 1 &&
@@ -280,15 +371,12 @@ void ScenePainter::paintLetters(const QColor& color)
         return;
     beginTexts(color);
     for (const LineDasher::Letters& letters : m_dasher.letters) {
-        TextRun run;
-        run.text = letters.text;
-        run.origin = m_view.toDrawing(letters.place);
-        const double height = letters.height / m_view.scale();
-        // The view's y grows upwards.
-        run.right = QPointF(std::cos(letters.angle), -std::sin(letters.angle)) * height;
-        run.up = QPointF(-run.right.y(), run.right.x());
+        const QPointF right = QPointF(std::cos(letters.angle), std::sin(letters.angle)) *
+                              (letters.height / m_capHeight);
         if (letters.height >= kReadablePixels)
-            paintText(run, false);
+            paintOutline(
+                outlineOf(letters.text), QTransform(right.x(), right.y(), -right.y(), right.x(),
+                                             letters.place.x(), letters.place.y()));
     }
     m_dasher.letters.clear();
     m_painter->restore();
@@ -308,11 +396,11 @@ void ScenePainter::paintTexts(const ShownScene::Group& group, const Pieces& piec
         return;
     beginTexts(group.look.color);
     pieces.forEach(group.geometry.texts, [this](const TextRun& run) {
-        if (!isSeen(run.bounds) || *m_isDropped)
+        if (!isSeen(run.bounds) || *m_isDropped || !isInRange(m_partNumber, run.sequence))
             return;
-        const double pixels = std::hypot(run.up.x(), run.up.y()) * m_view.scale();
+        const double pixels = std::hypot(run.up.x(), run.up.y()) * m_map.scale();
         if (isTiny(run.bounds))
-            addTiny(m_view.toScreen(run.origin));
+            addTiny(m_map.toPixel(run.origin));
         else
             paintText(run, pixels < kReadablePixels);
     });
@@ -328,15 +416,20 @@ void ScenePainter::paintText(const TextRun& run, bool asBar)
     const double x = -outline.width * static_cast<double>(run.horizontal) / 2;
     // By the order of TextRun::Vertical; outlines have y downwards.
     const double y[] = {0, -m_descent, m_capHeight / 2, m_capHeight};
-    const QPointF right = run.right * (m_view.scale() / m_capHeight * stretch);
-    const QPointF up = run.up * (m_view.scale() / m_capHeight);
-    const QPointF origin = m_view.toScreen(run.origin);
-    QTransform place(right.x(), -right.y(), -up.x(), up.y(), origin.x(), origin.y());
+    const QPointF right = m_map.ofDirection(run.right) * (stretch / m_capHeight);
+    const QPointF down = m_map.ofDirection(run.up) * (-1 / m_capHeight);
+    const QPointF origin = m_map.toPixel(run.origin);
+    QTransform place(right.x(), right.y(), down.x(), down.y(), origin.x(), origin.y());
     place.translate(x, y[static_cast<int>(run.vertical)]);
     if (asBar) {
         m_lines.append(place.map(QLineF(0, -m_capHeight / 2, outline.width, -m_capHeight / 2)));
         return;
     }
+    paintOutline(outline, place);
+}
+
+void ScenePainter::paintOutline(const Outline& outline, const QTransform& place)
+{
     m_painter->setTransform(place);
     m_painter->drawPath(outline.path);
     m_painter->setTransform({});

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "canvasview.h"
 #include "linedasher.h"
+#include "planemap.h"
 #include "pointmark.h"
 #include "scene.h"
 
@@ -13,6 +13,7 @@
 #include <QVector>
 
 #include <atomic>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -39,6 +40,39 @@ private:
         double width = 0;
     };
 
+    /// How a space is seen.
+    struct Space
+    {
+        PlaneMap map;
+        double dashScale = 1; ///< Pixels a unit of linetypes at scale 1.
+        double height = 0;    ///< Of what shows it, in pixels.
+    };
+    /// A surface that covers what was drawn before.
+    struct Mask
+    {
+        quint64 order;
+        const drawing::GeometryGroup* group;
+        const drawing::Primitive* primitive;
+    };
+    /// Places in the order of drawing, over all parts.
+    static constexpr quint64 kLast = std::numeric_limits<quint64>::max();
+    static quint64 orderOf(std::size_t part, quint32 sequence)
+    {
+        return quint64(part) << 32 | sequence;
+    }
+    bool isInRange(std::size_t part, quint32 sequence) const
+    {
+        const quint64 order = orderOf(part, sequence);
+        return order >= m_from && order < m_to;
+    }
+
+    void paintPaper(const drawing::Sheet& sheet, const PlaneMap& map);
+    void paintWindow(const ShownScene::Window& window, const drawing::Sheet& sheet,
+        const PlaneMap& map, const QRect& area);
+    void paintSpace(const ShownScene& scene, const Space& space, const QRect& area);
+    std::vector<Mask> masksOf(const ShownScene& scene) const;
+    /// What lies between two masks.
+    void paintRange(const ShownScene& scene);
     void paintFills(const ShownScene& scene, std::size_t part);
     void paintFill(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
     using Pieces = ShownScene::Pieces;
@@ -54,6 +88,7 @@ private:
     void addPart(const drawing::Primitive& primitive);
     void paintTexts(const ShownScene::Group& group, const Pieces& pieces);
     void paintText(const drawing::TextRun& run, bool asBar);
+    void paintOutline(const Outline& outline, const QTransform& place);
     void beginTexts(const QColor& color);
     void paintLetters(const QColor& color);
     void flush();
@@ -69,7 +104,10 @@ private:
 
     // What follows is of use only while painting.
     QPainter* m_painter = nullptr;
-    CanvasView m_view;
+    PlaneMap m_map;
+    quint64 m_from = 0; ///< What of the order of drawing is painted now.
+    quint64 m_to = kLast;
+    std::size_t m_partNumber = 0;
     drawing::Box m_visible;
     std::optional<PointMark> m_mark;
     double m_linetypeScale = 1;                          ///< Pixels a unit of the patterns.

@@ -1,0 +1,113 @@
+#include "canvasfixture.h"
+#include "rows.h"
+
+#include <QSignalSpy>
+
+/// What a sheet shows of model space: a red square from 0,0 to 10,10, seen through a viewport of 40
+/// by 40 around 50,50.
+class CanvasLayoutsTest : public CanvasFixture
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        start();
+        m_sketch->header = "9 $TILEMODE 70 0";
+        // Layer A is blue in the viewport with handle 41.
+        m_sketch->layers = "A 5 2A 102 {ACAD_XDICTIONARY 360 30 102 } 62 1;FRAME 62 3";
+        m_sketch->objects =
+            "0 DICTIONARY 5 30 100 AcDbDictionary 3 ADSK_XREC_LAYER_COLOR_OVR 360 31 "
+            "0 XRECORD 5 31 100 AcDbXrecord 280 1 102 {ADSK_LYR_COLOR_OVERRIDE 335 41 "
+            "420 -1023410171 102 } ";
+    }
+
+    void viewports_data()
+    {
+        using Points = QVector<QPointF>;
+        const Rows<QByteArray, Points, Points, QColor> row("codes", "ink", "blank", "color");
+
+        const QColor red(255, 0, 0);
+        const Points square{{50, 50}, {42, 42}, {58, 58}}, around{{38, 50}, {62, 50}, {50, 20}};
+        row("at its scale", "5 40 45 20", square, around, red);
+        row("cut at its edge", "5 40 45 10", {{32, 32}, {68, 68}}, {{27, 50}, {50, 73}}, red);
+        row("twisted", "5 40 45 20 51 45", {{50, 62}, {38, 50}}, {{59, 59}, {41, 41}}, red);
+        row("moved", "5 40 45 20 12 5", {{32, 50}, {48, 50}}, {{28, 50}, {52, 50}}, red);
+        row("off", "5 40 45 20 90 131072", {}, {{50, 50}, {42, 42}}, red);
+        row("cut by an outline", "5 40 45 20 90 65536 340 50", {{50, 45}, {50, 58}},
+            {{42, 58}, {58, 58}}, red);
+        row("its outline is nowhere", "5 40 45 20 90 65536 340 77", square, around, red);
+        row("frozen in it", "5 40 45 20 331 2A", {}, {{50, 50}}, red);
+        row("of another colour in it", "5 41 45 20", square, around, QColor(0, 0, 255));
+    }
+
+    void viewports()
+    {
+        QFETCH(QByteArray, codes);
+        QFETCH(QVector<QPointF>, ink);
+        QFETCH(QVector<QPointF>, blank);
+        QFETCH(QColor, color);
+        show(kModel + viewport(50, codes) +
+             "0 LWPOLYLINE 5 50 67 1 8 0 70 1 10 30 20 30 10 70 20 30 10 50 20 70 " + kFrame);
+        for (const QPointF& place : ink)
+            QCOMPARE(colorAt(place), color);
+        for (const QPointF& place : blank)
+            QCOMPARE(colorAt(place), QColor(Qt::black));
+        layer("A").off = true;
+        m_canvas->setLayers(m_layers);
+        for (const QPointF& place : ink)
+            QCOMPARE(colorAt(place), QColor(Qt::black));
+    }
+
+    /// Of two viewports the one entered is the one that layers are frozen in.
+    void doubleClickEnters()
+    {
+        show(kModel + viewport(20, "5 40 45 20") + viewport(80, "5 41 45 20") + kFrame);
+        drawing::Drawing* const drawing = m_drawing.get();
+        QSignalSpy entered(m_canvas.get(), &Canvas::viewportEntered);
+        QSignalSpy left(m_canvas.get(), &Canvas::viewportLeft);
+        QCOMPARE(drawing->sheet()->viewports.size(), size_t(2));
+        doubleClick({80, 50});
+        QCOMPARE(entered.size(), 1);
+        const int second = entered.first().first().toInt();
+        QVERIFY(second != drawing->currentViewport() && drawing->setCurrentViewport(second));
+        {
+            drawing::DrawingStep step(*drawing, "freeze");
+            QVERIFY(drawing->setFrozenInViewport({drawing->findLayer("A")->id}).has_value());
+            step.commit();
+        }
+        const drawing::Sheet sheet = *drawing->sheet();
+        for (const drawing::SheetViewport& viewport : sheet.viewports) {
+            QCOMPARE(viewport.isCurrent, viewport.entity == second);
+            QCOMPARE(viewport.frozen.size(), size_t(viewport.isCurrent ? 1 : 0));
+        }
+        doubleClick({50, 95});
+        QCOMPARE(left.size(), 1);
+        QVERIFY(!m_canvas->isInViewport());
+        QVERIFY(!drawing->setCurrentViewport(0)); // Not a viewport.
+    }
+
+private:
+    static QByteArray viewport(int x, const QByteArray& codes)
+    {
+        return "0 VIEWPORT 67 1 8 0 10 " + QByteArray::number(x) +
+               " 20 50 40 40 41 40 68 2 69 2 17 5 27 5 " + codes + " ";
+    }
+
+    void doubleClick(const QPointF& place)
+    {
+        QTest::mouseDClick(
+            m_canvas.get(), Qt::LeftButton, {}, m_canvas->view().toScreen(place).toPoint());
+    }
+
+    QColor colorAt(const QPointF& place)
+    {
+        return picture().pixelColor(m_canvas->view().toScreen(place).toPoint());
+    }
+
+    const QByteArray kModel = "0 SOLID 8 A 10 0 20 0 11 10 21 0 12 0 22 10 13 10 23 10 ";
+    const QByteArray kFrame = "0 POINT 67 1 8 FRAME 10 0 20 0 0 POINT 67 1 8 FRAME 10 100 20 100 ";
+};
+
+QTEST_MAIN(CanvasLayoutsTest)
+#include "tst_canvaslayouts.moc"
