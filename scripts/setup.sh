@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs, from Debian, what building and running needs and is missing; --tests adds what tests need,
-# --fuzz what fuzzing needs, --tidy what scripts/tidy.sh needs.
+# --pictures what scripts/compare_pictures.py needs, --fuzz what fuzzing needs, --tidy what scripts/tidy.sh needs.
 set -euo pipefail
 
 packages=(
@@ -10,6 +10,8 @@ packages=(
 )
 if [ "${1:-}" = "--tests" ]; then
     packages+=(python3-ezdxf python3-jsonschema parallel)
+elif [ "${1:-}" = "--pictures" ]; then # For compare_pictures.py.
+    packages+=(python3-ezdxf python3-matplotlib)
 elif [ "${1:-}" = "--fuzz" ]; then
     packages+=(clang libclang-rt-dev python3)
 elif [ "${1:-}" = "--tidy" ]; then

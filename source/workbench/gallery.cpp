@@ -1,6 +1,8 @@
 #include "gallery.h"
 
+#include "canvas.h"
 #include "mainwindow.h"
+#include "statusfields.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,6 +16,21 @@ drawing::Expected<void> savePicture(QWidget& widget, const QString& path)
         return {};
     return drawing::refusal(QCoreApplication::translate("Gallery", "无法写入图片“%1”。")
                                 .arg(QDir::toNativeSeparators(path)));
+}
+
+drawing::Expected<void> writeSheets(MainWindow& window, const QString& folder)
+{
+    constexpr QSize kSize(900, 675);
+    const int count = static_cast<int>(window.drawing()->layouts().size());
+    window.canvas()->setFixedSize(kSize);
+    for (int space = StatusFields::kModelSpace; space < count; ++space) {
+        window.showSpace(space);
+        window.waitForPicture();
+        const QString name = QStringLiteral("%1.png").arg(space + 1, 2, 10, QLatin1Char('0'));
+        if (auto saved = savePicture(*window.canvas(), QDir(folder).filePath(name)); !saved)
+            return saved;
+    }
+    return {};
 }
 
 drawing::Expected<void> writeGallery(MainWindow& window, const QString& folder)

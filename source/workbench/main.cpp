@@ -78,9 +78,11 @@ int makePictures(const Options& options)
             return fail(path, file.error());
         window.setFile(std::move(*file));
     }
-    QCoreApplication::processEvents();
-    while (!window.isPictureWhole())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    window.waitForPicture();
+    if (!options.sheets.isEmpty()) {
+        if (const auto saved = writeSheets(window, options.sheets); !saved)
+            return fail(options.sheets, saved.error());
+    }
     if (!options.screenshot.isEmpty()) {
         if (const auto saved = savePicture(window, options.screenshot); !saved)
             return fail(options.screenshot, saved.error());

@@ -12,10 +12,14 @@ struct Options
     QString command;    ///< Layer command to start once it is open.
     QString screenshot; ///< PNG file to draw the window into.
     QString gallery;    ///< Folder for one PNG a dialog.
+    QString sheets;     ///< Folder for one PNG a space of the drawing.
     bool list = false;  ///< Print the layer table.
 
     /// Ends by itself, without anybody at a screen.
-    bool isBatch() const { return list || !screenshot.isEmpty() || !gallery.isEmpty(); }
+    bool isBatch() const
+    {
+        return list || !screenshot.isEmpty() || !gallery.isEmpty() || !sheets.isEmpty();
+    }
 };
 
 /// The program is to end right away: help was asked for, or the usage was wrong.
