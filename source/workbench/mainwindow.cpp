@@ -186,6 +186,8 @@ void MainWindow::createLayerPanel()
     QMenu* const view = menuBar()->findChild<QMenu*>(QStringLiteral("viewMenu"));
     view->addAction(dock->toggleViewAction());
     connect(m_panel, &LayerPanel::said, m_commandLine, &CommandLine::say);
+    connect(m_panel, &LayerPanel::editBegan, this, &MainWindow::beginEdit);
+    connect(m_panel, &LayerPanel::editEnded, this, &MainWindow::endEdit);
     connect(m_panel, &LayerPanel::refused, this, &MainWindow::reportRefusals);
     connect(m_panel, &LayerPanel::entitiesWanted, this, &MainWindow::showEntities);
     connect(m_panel, &LayerPanel::commandWanted, this,
@@ -373,28 +375,31 @@ void MainWindow::runLayerCommand(const CommandRow& row, const std::vector<drawin
     }
     CommandContext context = commandContext();
     context.layers = layers;
-    runEdit([&] {
-        try {
-            drawing::DrawingStep step(*drawing(), row.displayTitle());
-            context.step = &step;
-            const host::CommandScope running;
-            row.create()->run(context);
-            step.commit();
-        } catch (const std::exception& error) {
-            messages::showCommandFailure(this, row.displayTitle(), QString::fromUtf8(error.what()));
-        }
-    });
+    beginEdit();
+    try {
+        drawing::DrawingStep step(*drawing(), row.displayTitle());
+        context.step = &step;
+        const host::CommandScope running;
+        row.create()->run(context);
+        step.commit();
+    } catch (const std::exception& error) {
+        messages::showCommandFailure(this, row.displayTitle(), QString::fromUtf8(error.what()));
+    }
+    endEdit();
     endShowingOnly(context.selection);
 }
 
-/// Meanwhile nothing else can be done to the drawing.
-void MainWindow::runEdit(const std::function<void()>& edit)
+/// From here on nothing else can be done to the drawing until `endEdit`.
+void MainWindow::beginEdit()
 {
     m_commandRunning = true;
     updateState();
     m_sinceRest.start();
     m_rests = 0;
-    edit();
+}
+
+void MainWindow::endEdit()
+{
     m_commandRunning = false;
     if (m_rests >= kRestsToWait)
         m_status->hideWork();
@@ -513,12 +518,16 @@ void MainWindow::quit()
 
 void MainWindow::undo()
 {
-    runEdit([this] { drawing()->undo(); });
+    beginEdit();
+    drawing()->undo();
+    endEdit();
 }
 
 void MainWindow::redo()
 {
-    runEdit([this] { drawing()->redo(); });
+    beginEdit();
+    drawing()->redo();
+    endEdit();
 }
 
 void MainWindow::zoomToExtents()

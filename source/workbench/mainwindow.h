@@ -70,7 +70,8 @@ private:
     void quit();
     void undo();
     void redo();
-    void runEdit(const std::function<void()>& edit);
+    void beginEdit();
+    void endEdit();
     void rest();
     void zoomToExtents();
     void toggleBackground();

@@ -7,11 +7,13 @@ bool LayerEditor::run(const QString& name, const Act& act)
         return false;
     }
     QStringList refusals;
+    emit began();
     {
         drawing::DrawingStep step(*m_drawing, name);
         refusals = act(*m_drawing);
         step.commit();
     }
+    emit ended();
     refusals += m_drawing->takeNotices();
     if (!refusals.isEmpty())
         emit refused(refusals);

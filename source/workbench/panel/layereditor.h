@@ -30,6 +30,8 @@ public:
     void refuse(const QString& sentence) { emit refused({sentence}); }
 
 signals:
+    void began(); ///< An act, which may take long.
+    void ended();
     void refused(const QStringList& sentences);
     void said(const QString& text); ///< For the command line's echo.
 

@@ -109,6 +109,8 @@ void LayerPanel::connectParts()
     connect(m_view, &LayerView::currentWanted, this, &LayerPanel::makeCurrent);
     connect(m_view, &LayerView::copyWanted, this, &LayerPanel::copy);
     connect(m_view, &LayerView::pasteWanted, this, &LayerPanel::paste);
+    connect(m_editor, &LayerEditor::began, this, &LayerPanel::editBegan);
+    connect(m_editor, &LayerEditor::ended, this, &LayerPanel::editEnded);
     connect(m_editor, &LayerEditor::refused, this, &LayerPanel::refused);
     connect(m_editor, &LayerEditor::said, this, &LayerPanel::said);
 }

@@ -33,6 +33,8 @@ public:
     LayerMemory* memory() { return &m_memory; }
 
 signals:
+    void editBegan(); ///< Between this and `editEnded` the panel has the drawing to itself.
+    void editEnded();
     void refused(const QStringList& sentences); ///< Why an act was not done, or not wholly.
     void said(const QString& text);             ///< A line for the command line's echo.
     /// A command is to be run on these layers.
