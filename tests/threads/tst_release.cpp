@@ -1,5 +1,6 @@
 #include "RxObjectImpl.h"
 #include "documents.h"
+#include "handover.h"
 #include "hostextras.h"
 #include "hoststart.h"
 #include "requests.h"
@@ -17,16 +18,6 @@
 #include <mutex>
 #include <thread>
 #include <vector>
-
-#ifdef __SANITIZE_THREAD__
-extern "C" {
-void __tsan_acquire(void* address);
-void __tsan_release(void* address);
-}
-#else
-static void __tsan_acquire(void*) {}
-static void __tsan_release(void*) {}
-#endif
 
 namespace {
 
