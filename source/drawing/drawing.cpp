@@ -109,8 +109,8 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
     // The bytes that were not edited are still read from it.
     if (d->data.wholePart.isNull() && d->file.size() != size)
         return refused(Texts::tr("原文件已被其他程序改写"));
-    if (auto aside = d->data.layerStates.saveAside(statesPathOf(path)); !aside)
-        return aside;
+    if (auto beside = d->data.layerStates.saveBeside(statesPathOf(path)); !beside)
+        return beside;
     auto written = writeFile(d->data.file.journal(), size, path, progress);
     if (!written)
         return written;

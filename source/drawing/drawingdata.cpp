@@ -54,19 +54,19 @@ void DrawingData::apply(const Changes& changes, bool forward)
 
 void DrawingData::followLayers()
 {
-    if (LayerFates(layers, file.codec()).isEmpty())
+    if (LayerReplacements(layers, file.codec()).isEmpty())
         return;
     copies.follow();
-    const LayerFates fates(layers, file.codec());
-    entityEdits.follow(fates);
-    if (const QByteArray& name = fates.of(layers.current()).name; !name.isNull())
+    const LayerReplacements replacements(layers, file.codec());
+    entityEdits.follow(replacements);
+    if (const QByteArray& name = replacements.of(layers.current()).name; !name.isNull())
         file.writeVariable(HeaderVariable::CurrentLayer, name);
-    viewports.follow(fates);
-    layerStates.follow(fates);
-    mappings.follow(fates);
+    viewports.follow(replacements);
+    layerStates.follow(replacements);
+    mappings.follow(replacements);
     const QSet<quint64> understood =
-        layerObjects.follow(fates) + layerStates.records() + mappings.records();
-    noteOpaque(file, entities, fates, understood, leftOut);
+        layerObjects.follow(replacements) + layerStates.records() + mappings.records();
+    noteOpaque(file, entities, replacements, understood, leftOut);
 }
 
 Expected<int> DrawingData::moveEntities(const std::vector<int>& chosen, LayerId target)

@@ -16,7 +16,7 @@ namespace {
 using Outcome = LayerRenamed::Outcome;
 
 /// A name that nobody uses and every version can hold.
-QString nameAside()
+QString temporaryName()
 {
     constexpr int kDigits = 24;
     return QStringLiteral("X$") +
@@ -45,7 +45,7 @@ private:
     std::optional<LayerId> holderToWaitFor(Index rename) const;
     void advance(Index first);
     void carryOut(Index rename);
-    void settle(Index rename, Outcome outcome, const Expected<void>& done);
+    void finish(Index rename, Outcome outcome, const Expected<void>& done);
     Circle circleFrom(Index start) const;
     void turn(const Circle& circle);
     std::optional<Index> tryToTurn(const Circle& circle, Expected<void>& done);
@@ -125,15 +125,15 @@ void Renaming::carryOut(Index rename)
 {
     const Layer* const holder = holderOf(rename);
     if (holder && m_clash == NameClash::Merge) {
-        settle(rename, Outcome::Merged, m_drawing.mergeLayers({layerOf(rename)}, holder->id));
+        finish(rename, Outcome::Merged, m_drawing.mergeLayers({layerOf(rename)}, holder->id));
         return;
     }
     if (holder)
         m_results[rename].holder = holder->properties.name;
-    settle(rename, Outcome::Renamed, setName(layerOf(rename), nameFor(rename)));
+    finish(rename, Outcome::Renamed, setName(layerOf(rename), nameFor(rename)));
 }
 
-void Renaming::settle(Index rename, Outcome outcome, const Expected<void>& done)
+void Renaming::finish(Index rename, Outcome outcome, const Expected<void>& done)
 {
     m_open.remove(keyOf(layerOf(rename)));
     m_results[rename].outcome = done ? outcome : Outcome::Refused;
@@ -163,10 +163,10 @@ void Renaming::turn(const Circle& circle)
     Expected<void> done;
     const std::optional<Index> refused = tryToTurn(circle, done);
     if (refused) {
-        settle(*refused, Outcome::Refused, done);
+        finish(*refused, Outcome::Refused, done);
     } else {
         for (const Index rename : circle)
-            settle(rename, Outcome::Renamed, done);
+            finish(rename, Outcome::Renamed, done);
     }
     for (const Index rename : circle) {
         for (const Index freed : m_waiting.take(keyOf(layerOf(rename))))
@@ -179,7 +179,7 @@ void Renaming::turn(const Circle& circle)
 /// could not is returned.
 std::optional<Renaming::Index> Renaming::tryToTurn(const Circle& circle, Expected<void>& done)
 {
-    const QString aside = nameAside();
+    const QString temporary = temporaryName();
     std::vector<std::pair<LayerId, LayerProperties>> former;
     const auto take = [&](Index rename, const QString& name) {
         const LayerProperties before = m_drawing.layer(layerOf(rename))->properties;
@@ -187,11 +187,11 @@ std::optional<Renaming::Index> Renaming::tryToTurn(const Circle& circle, Expecte
         if (done)
             former.emplace_back(layerOf(rename), before);
         else
-            done.error().text.replace(aside, m_results[circle.front()].from);
+            done.error().text.replace(temporary, m_results[circle.front()].from);
         return done.has_value();
     };
     Index refused = circle.front();
-    bool isDone = take(refused, aside);
+    bool isDone = take(refused, temporary);
     for (auto at = circle.rbegin(); isDone && at != circle.rend(); ++at) {
         refused = *at;
         isDone = take(refused, nameFor(refused));

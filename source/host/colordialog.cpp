@@ -1,8 +1,8 @@
 #include "colordialog.h"
 
 #include "colorpreview.h"
-#include "dialogbuttons.h"
 #include "indexcolorpage.h"
+#include "okcancelbox.h"
 #include "swatches.h"
 
 #include <QColorDialog>
@@ -84,7 +84,7 @@ ColorDialog::ColorDialog(QWidget* parent)
     m_tabs->setObjectName(QStringLiteral("tabs"));
     m_tabs->addTab(m_indexPage, tr("索引颜色(&I)"));
     m_tabs->addTab(m_truePage, tr("真彩色(&T)"));
-    QDialogButtonBox* const buttons = makeDialogButtons(*this);
+    QDialogButtonBox* const buttons = makeOkCancelBox(*this);
     m_ok = buttons->findChild<QPushButton*>(QStringLiteral("ok"));
 
     auto* const bottom = new QHBoxLayout;

@@ -1,6 +1,6 @@
 #include "renamedialog.h"
 
-#include "dialogbuttons.h"
+#include "okcancelbox.h"
 #include "vnstrings.h"
 
 #include <QDialogButtonBox>
@@ -32,7 +32,7 @@ RenameDialog::RenameDialog(QWidget* parent)
     layout->addWidget(m_tip);
     layout->addWidget(m_name);
     layout->addSpacing(8);
-    layout->addWidget(makeDialogButtons(*this));
+    layout->addWidget(makeOkCancelBox(*this));
 }
 
 void RenameDialog::readKeys(const vnsi::VnJsonPtr& tree)

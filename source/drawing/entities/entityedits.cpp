@@ -2,7 +2,7 @@
 
 #include "entityeditsremoval.h"
 #include "file/owntags.h"
-#include "layers/layerfates.h"
+#include "layers/layerreplacements.h"
 
 #include <algorithm>
 
@@ -53,7 +53,7 @@ void EntityEdits::count(const Entity& entity, LayerId layer, int by)
         m_counts[static_cast<size_t>(layer)] += by;
 }
 
-void EntityEdits::settleCounts()
+void EntityEdits::updateCounts()
 {
     for (size_t id = 0; id < m_counts.size(); ++id) {
         if (m_counts[id] == 0)
@@ -86,7 +86,7 @@ int EntityEdits::move(const std::vector<int>& entities, LayerId target)
         moved += owner == i ? 1 : 0;
         put(i, target, name);
     }
-    settleCounts();
+    updateCounts();
     return moved;
 }
 
@@ -98,7 +98,7 @@ void EntityEdits::merge(const std::vector<LayerId>& sources, LayerId target)
         if (!m_entities[i].removed && isSource[static_cast<size_t>(m_entities[i].layer)])
             put(i, target, name);
     }
-    settleCounts();
+    updateCounts();
 }
 
 void EntityEdits::removeOn(const std::vector<LayerId>& layers)
@@ -112,7 +112,7 @@ void EntityEdits::removeOn(const std::vector<LayerId>& layers)
         count(entity, entity.layer, -1);
     }
     removal.run();
-    settleCounts();
+    updateCounts();
 }
 
 void EntityEdits::moveContents(std::vector<ContentMove>& moves, const ContentRules& rules)
@@ -140,26 +140,26 @@ void EntityEdits::moveContents(std::vector<ContentMove>& moves, const ContentRul
             put(i, move.to, names[static_cast<size_t>(at)]);
         forceByLayer(m_file, m_entities, i, rules.byLayer);
     }
-    settleCounts();
+    updateCounts();
 }
 
-void EntityEdits::follow(const LayerFates& fates)
+void EntityEdits::follow(const LayerReplacements& replacements)
 {
     for (size_t i = 0; i < m_entities.size(); ++i) {
-        const LayerFates::Fate& fate = fates.of(m_entities[i].layer);
-        if (fate.name.isNull() || m_entities[i].removed)
+        const LayerReplacements::Replacement& replacement = replacements.of(m_entities[i].layer);
+        if (replacement.name.isNull() || m_entities[i].removed)
             continue;
-        writeLayerName(m_file, m_entities, i, fate.name);
-        if (fate.layer != m_entities[i].layer)
-            m_entities.setLayer(i, fate.layer);
+        writeLayerName(m_file, m_entities, i, replacement.name);
+        if (replacement.layer != m_entities[i].layer)
+            m_entities.setLayer(i, replacement.layer);
     }
-    followNames(fates);
+    followNames(replacements);
 }
 
-void EntityEdits::followNames(const LayerFates& fates)
+void EntityEdits::followNames(const LayerReplacements& replacements)
 {
     for (const LayerNamePlace& place : m_entities.namePlaces()) {
-        const QByteArray& name = fates.of(place.layer).name;
+        const QByteArray& name = replacements.of(place.layer).name;
         if (name.isNull())
             continue;
         const bool isRemoved = !m_layers.entry(place.layer).present;

@@ -5,7 +5,7 @@
 
 namespace drawing {
 
-class LayerFates;
+class LayerReplacements;
 
 /// A flag for each layer by its id.
 using LayerMarks = std::vector<char>;
@@ -45,7 +45,7 @@ public:
     /// that it was on before. The layers must be there, and each be the source of one move.
     void moveContents(std::vector<ContentMove>& moves, const ContentRules& rules);
     /// What names a layer that got another name, or went, names what became of it.
-    void follow(const LayerFates& fates);
+    void follow(const LayerReplacements& replacements);
 
     bool isReferencedInBlocks(const std::vector<LayerId>& layers) const;
     int countBlockReferences(const std::vector<LayerId>& layers) const;
@@ -56,8 +56,8 @@ private:
     QByteArray encodedName(LayerId layer) const;
     void put(size_t entity, LayerId target, const QByteArray& name);
     void count(const Entity& entity, LayerId layer, int by);
-    void settleCounts();
-    void followNames(const LayerFates& fates);
+    void updateCounts();
+    void followNames(const LayerReplacements& replacements);
     ByteRange viewportTag(qint64 value) const;
 
     DrawingFile& m_file;

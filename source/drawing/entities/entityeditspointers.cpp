@@ -226,7 +226,7 @@ void PointerRemoval::drop(size_t at)
     } else if (!dropCounted(at)) {
         m_file.journal().replace(m_tags[at].valueRange(), "0");
     }
-    settleFlags(code);
+    updateFlags(code);
 }
 
 /// A group without contents goes as a whole, and so does what a layer looks like in a viewport.
@@ -273,18 +273,18 @@ bool PointerRemoval::dropCounted(size_t at)
         erase(i);
         ++dropped;
     }
-    settleCount(first - 1, dropped);
+    updateCount(first - 1, dropped);
     return true;
 }
 
-void PointerRemoval::settleCount(size_t at, int dropped)
+void PointerRemoval::updateCount(size_t at, int dropped)
 {
     const Tag& count = m_tags[at];
     const TagList now = m_file.current(count.range());
     m_file.journal().replace(count.valueRange(), numberInPlace(count, now.integer(0) - dropped));
 }
 
-void PointerRemoval::settleFlags(int code)
+void PointerRemoval::updateFlags(int code)
 {
     for (const Flag& flag : kFlags) {
         if (flag.pointer != code || !isType(m_tags, flag.type))

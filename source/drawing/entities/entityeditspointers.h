@@ -42,8 +42,8 @@ private:
     void drop(size_t at);
     void dropFromGroup(size_t at);
     bool dropCounted(size_t at);
-    void settleCount(size_t at, int dropped);
-    void settleFlags(int code);
+    void updateCount(size_t at, int dropped);
+    void updateFlags(int code);
     void erase(size_t at);
     bool isErased(const Tag& tag) const;
 

@@ -73,21 +73,21 @@ void AnnotationCopies::follow()
     for (const Copy& copy : copies()) {
         const auto changed = before.constFind(static_cast<int>(copy.base));
         if (changed != before.constEnd())
-            settle(copy, *changed);
+            followBase(copy, *changed);
     }
 }
 
-void AnnotationCopies::settle(const Copy& copy, const LayerEntry& before)
+void AnnotationCopies::followBase(const Copy& copy, const LayerEntry& before)
 {
-    LayerId heir = copy.base;
-    while (heir != LayerId::None && !m_layers.layer(heir))
-        heir = m_layers.entry(heir).heir;
-    if (heir == LayerId::None || heir == copy.layer) {
+    LayerId id = copy.base;
+    while (id != LayerId::None && !m_layers.layer(id))
+        id = m_layers.entry(id).mergedInto;
+    if (id == LayerId::None || id == copy.layer) {
         m_file.objects().removeEntry(m_layers.entry(copy.layer).extension, kKey);
         m_file.objects().eraseOwned(copy.record);
         return;
     }
-    const LayerEntry& base = m_layers.entry(heir);
+    const LayerEntry& base = m_layers.entry(id);
     rename(copy.layer, before.layer.properties.name, base.layer.properties.name);
     pointAt(copy.record, before.handle, base.handle);
 }

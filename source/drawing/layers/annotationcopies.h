@@ -22,8 +22,8 @@ public:
     /// These layers with their copies, each once. The current layer is not added, as it stays.
     std::vector<LayerId> withCopies(const std::vector<LayerId>& layers) const;
     /// Copies of layers that the open step renamed are called after them; those of merged layers
-    /// are copies of the heirs then, and those of deleted ones that are still there are plain
-    /// layers.
+    /// are copies of the merge targets then, and those of deleted ones that are still there are
+    /// plain layers.
     void follow();
 
 private:
@@ -36,7 +36,7 @@ private:
 
     std::vector<Copy> copies() const;
     LayerId baseOf(quint64 record, const QHash<quint64, LayerId>& gone) const;
-    void settle(const Copy& copy, const LayerEntry& before);
+    void followBase(const Copy& copy, const LayerEntry& before);
     void rename(LayerId copy, const QString& oldBase, const QString& base);
     void pointAt(quint64 record, quint64 oldBase, quint64 base);
 

@@ -81,7 +81,7 @@ Expected<void> LayerEdits::checkValues(
 }
 
 /// The wanted properties in the form in which the file will give them back.
-Expected<LayerProperties> LayerEdits::settled(
+Expected<LayerProperties> LayerEdits::asStored(
     const LayerProperties& before, const LayerProperties& wanted) const
 {
     LayerProperties after = wanted;
@@ -135,7 +135,7 @@ Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& prop
         return refusal(Texts::tr("图层“%1”已不存在。").arg(properties.name));
     LayerEntry entry = m_layers.entry(id);
     const LayerProperties before = entry.layer.properties;
-    auto wanted = settled(before, properties);
+    auto wanted = asStored(before, properties);
     if (!wanted)
         return tl::make_unexpected(wanted.error());
     LayerProperties after = *wanted;
@@ -166,7 +166,7 @@ Expected<void> LayerEdits::setProperties(LayerId id, const LayerProperties& prop
 
 Expected<LayerId> LayerEdits::add(const LayerProperties& properties)
 {
-    auto wanted = settled({}, properties);
+    auto wanted = asStored({}, properties);
     if (!wanted)
         return tl::make_unexpected(wanted.error());
     if (const auto checked = checkName(wanted->name, LayerId::None); !checked)
@@ -232,14 +232,14 @@ Expected<void> LayerEdits::remove(LayerId id)
     return {};
 }
 
-void LayerEdits::drop(LayerId layer, LayerId heir)
+void LayerEdits::drop(LayerId layer, LayerId mergedInto)
 {
     LayerEntry entry = m_layers.entry(layer);
     if (!entry.present)
         return; // Named twice.
     m_records.remove(entry);
     entry.present = false;
-    entry.heir = heir;
+    entry.mergedInto = mergedInto;
     m_layers.change(layer, entry);
 }
 

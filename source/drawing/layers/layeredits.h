@@ -9,7 +9,7 @@
 namespace drawing {
 
 /// The edits of single layers. What other places of the file say of them follows when the step is
-/// closed, see `LayerFates`.
+/// closed, see `LayerReplacements`.
 class LayerEdits
 {
 public:
@@ -34,15 +34,15 @@ public:
     Expected<void> checkTarget(LayerId target) const;
     /// Refuses layers that have to stay: 0, the current one and those of external references.
     Expected<void> checkLeaving(const std::vector<LayerId>& layers) const;
-    /// Takes out a layer that nothing is on; what names it names its heir then.
-    void drop(LayerId layer, LayerId heir);
+    /// Takes out a layer that nothing is on; what names it names the other one then.
+    void drop(LayerId layer, LayerId mergedInto);
 
 private:
     Expected<void> checkLeaving(LayerId id) const;
     Expected<void> checkName(const QString& name, LayerId own) const;
     Expected<void> checkRename(const LayerEntry& entry, const QString& name) const;
     Expected<void> checkValues(const LayerProperties& before, const LayerProperties& after) const;
-    Expected<LayerProperties> settled(
+    Expected<LayerProperties> asStored(
         const LayerProperties& before, const LayerProperties& wanted) const;
     void dropUnsupported(const LayerProperties& before, LayerProperties& after);
     void needApplications(const LayerProperties& before, const LayerProperties& after);

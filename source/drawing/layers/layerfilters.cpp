@@ -23,19 +23,19 @@ QString escaped(const QString& name)
 
 } // namespace
 
-QString followedPattern(const QString& pattern, const LayerFates& fates)
+QString followedPattern(const QString& pattern, const LayerReplacements& replacements)
 {
     // No name holds a comma or an escape.
     QStringList parts = pattern.split(QLatin1Char(','));
     for (QString& part : parts) {
-        const QString follower = fates.follower(QString(part).remove(kEscape));
-        if (!follower.isEmpty())
-            part = escaped(follower);
+        const QString name = replacements.currentName(QString(part).remove(kEscape));
+        if (!name.isEmpty())
+            part = escaped(name);
     }
     return parts.join(QLatin1Char(','));
 }
 
-QString followedExpression(const QString& expression, const LayerFates& fates)
+QString followedExpression(const QString& expression, const LayerReplacements& replacements)
 {
     static const QRegularExpression term(
         QStringLiteral("\\bNAME\\s*==\\s*\"([^\"]*)\""), QRegularExpression::CaseInsensitiveOption);
@@ -45,7 +45,7 @@ QString followedExpression(const QString& expression, const LayerFates& fates)
     while (terms.hasNext()) {
         const QRegularExpressionMatch match = terms.next();
         followed += expression.midRef(from, match.capturedStart(1) - from);
-        followed += followedPattern(match.captured(1), fates);
+        followed += followedPattern(match.captured(1), replacements);
         from = match.capturedEnd(1);
     }
     return followed + expression.midRef(from);

@@ -49,35 +49,35 @@ std::vector<ListedLayer> listedLayers(const TagList& tags, const TextCodec& code
 }
 
 /// Notes the layers that went or got another name and still stand in these tags.
-void noteMentions(
-    const DrawingFile& file, const TagList& tags, const LayerFates& fates, LeftOut& leftOut)
+void noteMentions(const DrawingFile& file, const TagList& tags,
+    const LayerReplacements& replacements, LeftOut& leftOut)
 {
     const auto isText = [](int code) {
         return (code >= 1 && code <= 9 && code != group::kHandle) || (code >= 300 && code <= 309) ||
                code == group::kXdata;
     };
     for (int at = RecordData(tags).begin; at < tags.size(); ++at) {
-        if (group::isPointer(tags.code(at)) && fates.isRemovedHandle(tags.handle(at)))
-            leftOut.note(LeftOut::Opaque, fates.removedName(tags.handle(at)));
+        if (group::isPointer(tags.code(at)) && replacements.isRemovedHandle(tags.handle(at)))
+            leftOut.note(LeftOut::Opaque, replacements.removedName(tags.handle(at)));
         if (!isText(tags.code(at)))
             continue;
         const QString text = file.decoded(tags.trimmed(at));
-        if (fates.isRemoved(text) || !fates.newName(text).isNull())
+        if (replacements.isRemoved(text) || !replacements.newName(text).isNull())
             leftOut.note(LeftOut::Opaque, text);
     }
 }
 
 } // namespace
 
-QSet<quint64> LayerObjects::follow(const LayerFates& fates)
+QSet<quint64> LayerObjects::follow(const LayerReplacements& replacements)
 {
     for (const ObjectPlace& object : m_file.index().objects) {
         if (object.kind == ObjectKind::LayerList)
-            rewrite(object.handle, [&](TagList& tags) { followList(tags, fates); });
+            rewrite(object.handle, [&](TagList& tags) { followList(tags, replacements); });
     }
-    for (const LayerEntry& removed : fates.removed())
+    for (const LayerEntry& removed : replacements.removed())
         m_file.objects().eraseOwned(removed.extension);
-    return followFilters(fates);
+    return followFilters(replacements);
 }
 
 void LayerObjects::rewrite(quint64 handle, const std::function<void(TagList&)>& change)
@@ -96,9 +96,10 @@ void LayerObjects::setText(TagList& tags, int at, const QString& text) const
         tags.setText(at, m_file.encoded(text));
 }
 
-/// A layer's heir takes its place, unless it is listed itself: then its index takes in what was on
+/// The layer that one was merged into takes its place, unless it is listed itself: then its index
+/// takes in what was on
 /// the other.
-void LayerObjects::followList(TagList& tags, const LayerFates& fates)
+void LayerObjects::followList(TagList& tags, const LayerReplacements& replacements)
 {
     const std::vector<ListedLayer> listed = listedLayers(tags, m_file.codec());
     QHash<QString, const ListedLayer*> byName;
@@ -106,17 +107,17 @@ void LayerObjects::followList(TagList& tags, const LayerFates& fates)
         byName.insert(layer.key, &layer);
     std::vector<char> isDropped(static_cast<size_t>(tags.size()));
     for (const ListedLayer& layer : listed) {
-        if (const QString name = fates.newName(layer.key); !name.isNull()) {
+        if (const QString name = replacements.newName(layer.key); !name.isNull()) {
             setText(tags, layer.begin, name);
             continue;
         }
-        if (!fates.isRemoved(layer.key))
+        if (!replacements.isRemoved(layer.key))
             continue;
-        const QString heir = fates.heir(layer.key);
-        const ListedLayer* const other = byName.value(foldedName(heir));
-        if (!heir.isNull() && !other) {
-            setText(tags, layer.begin, heir);
-            byName.insert(foldedName(heir), &layer);
+        const QString target = replacements.mergeTarget(layer.key);
+        const ListedLayer* const other = byName.value(foldedName(target));
+        if (!target.isNull() && !other) {
+            setText(tags, layer.begin, target);
+            byName.insert(foldedName(target), &layer);
             continue;
         }
         if (other && layer.buffer != TagList::kNone && other->buffer != TagList::kNone)
@@ -150,18 +151,18 @@ void LayerObjects::joinBuffers(quint64 from, quint64 to)
     });
 }
 
-QSet<quint64> LayerObjects::followFilters(const LayerFates& fates)
+QSet<quint64> LayerObjects::followFilters(const LayerReplacements& replacements)
 {
     const Objects& objects = m_file.objects();
     QSet<quint64> seen;
     for (const Dictionary::Entry& entry : objects.dictionary(oldFilterList(m_file)).entries()) {
         if (objects.kind(entry.object) != ObjectKind::XRecord)
             continue;
-        rewrite(entry.object, [&](TagList& tags) { followOldFilter(tags, fates); });
+        rewrite(entry.object, [&](TagList& tags) { followOldFilter(tags, replacements); });
         seen.insert(entry.object);
     }
     for (const FilterPlace& place : filterPlaces(m_file)) {
-        rewrite(place.record, [&](TagList& tags) { followFilter(tags, fates); });
+        rewrite(place.record, [&](TagList& tags) { followFilter(tags, replacements); });
         seen.insert(place.record);
     }
     return seen;
@@ -169,21 +170,21 @@ QSet<quint64> LayerObjects::followFilters(const LayerFates& fates)
 
 /// A filter of the older kind: its own name, then the pattern of layer names; an expression stands
 /// in its extended data.
-void LayerObjects::followOldFilter(TagList& tags, const LayerFates& fates) const
+void LayerObjects::followOldFilter(TagList& tags, const LayerReplacements& replacements) const
 {
     const RecordData data(tags);
     const int own = tags.find(kText, data.begin, data.end);
     const int pattern = own == TagList::kNone ? own : tags.find(kText, own + 1, data.end);
     if (pattern != TagList::kNone)
-        setText(tags, pattern, followedPattern(m_file.decoded(tags.text(pattern)), fates));
+        setText(tags, pattern, followedPattern(m_file.decoded(tags.text(pattern)), replacements));
     for (int at = data.end; at < tags.size(); ++at) {
         if (tags.code(at) == group::kXdata)
-            setText(tags, at, followedExpression(m_file.decoded(tags.text(at)), fates));
+            setText(tags, at, followedExpression(m_file.decoded(tags.text(at)), replacements));
     }
 }
 
 /// A filter of the newer kind: a group lists handles, a filter compares names in its expression.
-void LayerObjects::followFilter(TagList& tags, const LayerFates& fates) const
+void LayerObjects::followFilter(TagList& tags, const LayerReplacements& replacements) const
 {
     const RecordData data(tags);
     std::unordered_set<quint64> listed;
@@ -194,27 +195,27 @@ void LayerObjects::followFilter(TagList& tags, const LayerFates& fates) const
     std::vector<int> kept;
     for (int at = 0; at < tags.size(); ++at) {
         if (data.contains(at) && tags.code(at) == kExpression)
-            setText(tags, at, followedExpression(m_file.decoded(tags.text(at)), fates));
+            setText(tags, at, followedExpression(m_file.decoded(tags.text(at)), replacements));
         const bool isLayer = data.contains(at) && tags.code(at) == group::kSoftPointer;
-        if (isLayer && fates.isRemovedHandle(tags.handle(at))) {
-            const quint64 heir = fates.heirHandle(tags.handle(at));
-            if (heir == 0 || !listed.insert(heir).second)
+        if (isLayer && replacements.isRemovedHandle(tags.handle(at))) {
+            const quint64 target = replacements.mergeTargetHandle(tags.handle(at));
+            if (target == 0 || !listed.insert(target).second)
                 continue;
-            tags.setHandle(at, heir);
+            tags.setHandle(at, target);
         }
         kept.push_back(at);
     }
     tags.keepOnly(kept);
 }
 
-void noteOpaque(const DrawingFile& file, const EntityTable& entities, const LayerFates& fates,
-    const QSet<quint64>& understood, LeftOut& leftOut)
+void noteOpaque(const DrawingFile& file, const EntityTable& entities,
+    const LayerReplacements& replacements, const QSet<quint64>& understood, LeftOut& leftOut)
 {
     for (const ObjectPlace& object : file.index().objects) {
         const bool isOpaque =
             object.kind == ObjectKind::XRecord || object.kind == ObjectKind::Proxy;
         if (isOpaque && !understood.contains(object.handle))
-            noteMentions(file, file.current(object.range), fates, leftOut);
+            noteMentions(file, file.current(object.range), replacements, leftOut);
     }
     for (const Entity& entity : entities.all()) {
         if (entity.kind != EntityKind::Proxy || entity.removed)
@@ -222,7 +223,7 @@ void noteOpaque(const DrawingFile& file, const EntityTable& entities, const Laye
         TagList tags = file.current(entity.range());
         if (const int own = tags.find(group::kLayer, 0, tags.size()); own != TagList::kNone)
             tags.remove(own, own + 1);
-        noteMentions(file, tags, fates, leftOut);
+        noteMentions(file, tags, replacements, leftOut);
     }
 }
 

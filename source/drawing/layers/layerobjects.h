@@ -2,7 +2,7 @@
 
 #include "entities/entitytable.h"
 #include "file/drawingfile.h"
-#include "layerfates.h"
+#include "layerreplacements.h"
 #include "leftout.h"
 
 #include <functional>
@@ -17,14 +17,14 @@ public:
     explicit LayerObjects(DrawingFile& file) : m_file(file) {}
 
     /// Returns the handles of the records it understands, which need no notice.
-    QSet<quint64> follow(const LayerFates& fates);
+    QSet<quint64> follow(const LayerReplacements& replacements);
 
 private:
     void rewrite(quint64 handle, const std::function<void(TagList&)>& change);
-    void followList(TagList& tags, const LayerFates& fates);
-    QSet<quint64> followFilters(const LayerFates& fates);
-    void followOldFilter(TagList& tags, const LayerFates& fates) const;
-    void followFilter(TagList& tags, const LayerFates& fates) const;
+    void followList(TagList& tags, const LayerReplacements& replacements);
+    QSet<quint64> followFilters(const LayerReplacements& replacements);
+    void followOldFilter(TagList& tags, const LayerReplacements& replacements) const;
+    void followFilter(TagList& tags, const LayerReplacements& replacements) const;
     void setText(TagList& tags, int at, const QString& text) const;
     void joinBuffers(quint64 from, quint64 to);
 
@@ -34,7 +34,7 @@ private:
 /// Notes the layers that went or got another name and that what nobody here understands still
 /// mentions: proxies of entities and objects, and records that applications keep. `understood` are
 /// handles of records that may go on naming layers. To be called when all else has followed.
-void noteOpaque(const DrawingFile& file, const EntityTable& entities, const LayerFates& fates,
-    const QSet<quint64>& understood, LeftOut& leftOut);
+void noteOpaque(const DrawingFile& file, const EntityTable& entities,
+    const LayerReplacements& replacements, const QSet<quint64>& understood, LeftOut& leftOut);
 
 } // namespace drawing

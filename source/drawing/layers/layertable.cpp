@@ -14,7 +14,7 @@ bool isSame(const LayerEntry& a, const LayerEntry& b)
     const auto parts = [](const LayerEntry& entry) {
         return std::tie(entry.layer.properties, entry.layer.dependsOnReference,
             entry.layer.entityCount, entry.place, entry.end, entry.handle, entry.plotStyle,
-            entry.extension, entry.heir, entry.hasRecord, entry.present);
+            entry.extension, entry.mergedInto, entry.hasRecord, entry.present);
     };
     return parts(a) == parts(b);
 }

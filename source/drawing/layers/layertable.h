@@ -20,7 +20,7 @@ struct LayerEntry
     quint64 plotStyle = 0; ///< Handle of its plot style name object.
     quint64 extension = 0; ///< Handle of its extension dictionary.
     /// Of a layer that is gone: the layer it was merged into; None when it was deleted.
-    LayerId heir = LayerId::None;
+    LayerId mergedInto = LayerId::None;
     bool hasRecord = false; ///< Layers that only entities name have none.
     bool present = false;   ///< False when deleted, or not added yet.
 

@@ -4,7 +4,7 @@
 #include "file/groupcode.h"
 #include "file/insertionorder.h"
 #include "file/owntags.h"
-#include "layerfates.h"
+#include "layerreplacements.h"
 
 #include <algorithm>
 
@@ -185,21 +185,21 @@ std::vector<LayerInViewport> ViewportLayers::overridden() const
     return viewport != 0 ? m_overrides.all()[viewport] : std::vector<LayerInViewport>();
 }
 
-void ViewportLayers::follow(const LayerFates& fates)
+void ViewportLayers::follow(const LayerReplacements& replacements)
 {
-    if (fates.removed().empty())
+    if (replacements.removed().empty())
         return;
     for (const Entity& entity : m_entities.all()) {
         if (entity.kind != EntityKind::Viewport || entity.removed)
             continue;
         const FrozenList list = this->list(entity);
         for (const Tag& tag : list.tags) {
-            if (fates.isRemovedHandle(tag.handle()))
+            if (replacements.isRemovedHandle(tag.handle()))
                 m_file.journal().replace(tag.range(), {});
         }
         std::vector<quint64> kept = list.added;
         kept.erase(std::remove_if(kept.begin(), kept.end(),
-                       [&](quint64 handle) { return fates.isRemovedHandle(handle); }),
+                       [&](quint64 handle) { return replacements.isRemovedHandle(handle); }),
             kept.end());
         write(list, kept);
     }

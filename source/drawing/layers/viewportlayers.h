@@ -9,7 +9,7 @@
 
 namespace drawing {
 
-class LayerFates;
+class LayerReplacements;
 
 /// What the viewports of layouts show otherwise than the layers themselves say.
 class ViewportLayers
@@ -43,7 +43,7 @@ public:
     /// The layers that look otherwise in the current viewport, ascending.
     std::vector<LayerInViewport> overridden() const;
     /// Takes layers that went out of every viewport's list.
-    void follow(const LayerFates& fates);
+    void follow(const LayerReplacements& replacements);
 
 private:
     struct FrozenList;

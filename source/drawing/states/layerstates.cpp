@@ -62,7 +62,7 @@ LayerStateTable LayerStates::load() const
     return table;
 }
 
-Expected<void> LayerStates::saveAside(const QString& path)
+Expected<void> LayerStates::saveBeside(const QString& path)
 {
     if (liveInDrawing() || !m_fault.isEmpty())
         return {};
@@ -253,13 +253,13 @@ Expected<void> LayerStates::rename(const QString& name, const QString& newName)
     return {};
 }
 
-void LayerStates::follow(const LayerFates& fates)
+void LayerStates::follow(const LayerReplacements& replacements)
 {
     LayerStateTable changed = table();
     bool isChanged = false;
     for (LayerStateEntry& entry : changed.entries) {
         TagList tags = this->tags(entry);
-        if (!follow(tags, fates))
+        if (!follow(tags, replacements))
             continue;
         store(entry, tags.bytes());
         isChanged = true;
@@ -269,8 +269,9 @@ void LayerStates::follow(const LayerFates& fates)
 }
 
 /// A layer's tags run from its handle or name to the next layer's. The current layer of a state may
-/// not be one that is gone: its heir takes its place, or layer 0. True when anything changed.
-bool LayerStates::follow(TagList& tags, const LayerFates& fates) const
+/// not be one that is gone: the one it was merged into takes its place, or layer 0. True when
+/// anything changed.
+bool LayerStates::follow(TagList& tags, const LayerReplacements& replacements) const
 {
     const RecordData data(tags);
     std::vector<int> kept;
@@ -284,15 +285,16 @@ bool LayerStates::follow(TagList& tags, const LayerFates& fates) const
         if (!data.contains(at))
             isKept = true;
         else if (code == kStateLayerHandle)
-            isKept = !fates.isRemovedHandle(tags.handle(at));
+            isKept = !replacements.isRemovedHandle(tags.handle(at));
         else if (code == kStateLayerName)
-            isKept = !fates.isRemoved(name);
-        QString follower = fates.newName(name);
-        if (code == kStateCurrentLayer && fates.isRemoved(name))
-            follower = fates.heir(name).isNull() ? QStringLiteral("0") : fates.heir(name);
-        if (isKept && !follower.isNull())
-            tags.setText(at, m_file.encoded(follower));
-        isChanged = isChanged || !isKept || !follower.isNull();
+            isKept = !replacements.isRemoved(name);
+        QString successor = replacements.newName(name);
+        if (code == kStateCurrentLayer && replacements.isRemoved(name))
+            successor = replacements.mergeTarget(name).isNull() ? QStringLiteral("0")
+                                                                : replacements.mergeTarget(name);
+        if (isKept && !successor.isNull())
+            tags.setText(at, m_file.encoded(successor));
+        isChanged = isChanged || !isKept || !successor.isNull();
         if (isKept)
             kept.push_back(at);
     }

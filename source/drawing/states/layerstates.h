@@ -2,7 +2,7 @@
 
 #include "file/drawingfile.h"
 #include "file/error.h"
-#include "layers/layerfates.h"
+#include "layers/layerreplacements.h"
 #include "layers/layertable.h"
 #include "layers/linetypetable.h"
 #include "layerstatetable.h"
@@ -36,7 +36,7 @@ public:
     QString path() const { return liveInDrawing() ? QString() : m_path; }
     /// Formats without objects: puts the states beside the drawing, when they are others than
     /// there.
-    Expected<void> saveAside(const QString& path);
+    Expected<void> saveBeside(const QString& path);
     QStringList names() const;
     std::vector<LayerState> all() const;
     std::optional<LayerState> find(const QString& name) const;
@@ -47,7 +47,7 @@ public:
     Expected<void> rename(const QString& name, const QString& newName);
 
     /// Layers in states follow what became of them: those that went are forgotten.
-    void follow(const LayerFates& fates);
+    void follow(const LayerReplacements& replacements);
     /// Handles of the objects that hold states.
     QSet<quint64> records() const;
 
@@ -65,7 +65,7 @@ private:
     void makeDictionary(LayerStateTable& table);
     void writeDictionary(const LayerStateTable& table, const std::vector<quint64>& gone);
     Expected<void> readyToWrite() const;
-    bool follow(TagList& tags, const LayerFates& fates) const;
+    bool follow(TagList& tags, const LayerReplacements& replacements) const;
 
     DrawingFile& m_file;
     const LayerTable& m_layers;

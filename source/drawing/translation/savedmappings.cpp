@@ -82,19 +82,19 @@ Expected<void> SavedMappings::write(const SavedMappingList& list)
     return {};
 }
 
-void SavedMappings::follow(const LayerFates& fates)
+void SavedMappings::follow(const LayerReplacements& replacements)
 {
     for (const Dictionary::Entry& entry : entries()) {
         TagList tags = m_file.objects().tags(entry.object);
         const int to = tags.find(kTo, 0, tags.size());
         if (to == TagList::kNone)
             continue;
-        const QString follower = fates.follower(m_file.decoded(tags.trimmed(to)));
-        if (!follower.isNull())
-            tags.setText(to, m_file.encoded(follower));
+        const QString name = replacements.currentName(m_file.decoded(tags.trimmed(to)));
+        if (!name.isNull())
+            tags.setText(to, m_file.encoded(name));
         const int pointer = tags.find(kToHandle, to, tags.size());
-        if (pointer != TagList::kNone && fates.isRemovedHandle(tags.handle(pointer)))
-            tags.setHandle(pointer, fates.heirHandle(tags.handle(pointer)));
+        if (pointer != TagList::kNone && replacements.isRemovedHandle(tags.handle(pointer)))
+            tags.setHandle(pointer, replacements.mergeTargetHandle(tags.handle(pointer)));
         m_file.objects().store(entry.object, tags);
     }
 }

@@ -2,7 +2,7 @@
 
 #include "file/drawingfile.h"
 #include "file/error.h"
-#include "layers/layerfates.h"
+#include "layers/layerreplacements.h"
 #include "layers/layertable.h"
 
 namespace drawing {
@@ -34,7 +34,7 @@ public:
     Expected<void> write(const SavedMappingList& list);
     /// Targets that were renamed or merged are named as they are now. One that is gone stays named,
     /// so that who reads the mappings can tell what is missing.
-    void follow(const LayerFates& fates);
+    void follow(const LayerReplacements& replacements);
     /// Handles of the records, which also name layers of other drawings.
     QSet<quint64> records() const;
 

@@ -1,8 +1,8 @@
 #include "layerclicks.h"
 
-#include "layeredits.h"
+#include "recordedits.h"
 
-namespace vnsi::layeredits {
+namespace vnsi::recordedits {
 
 namespace {
 
@@ -48,4 +48,4 @@ bool click(const LayerColumn& column, LayerRecord record, bool isCurrent,
     return false;
 }
 
-} // namespace vnsi::layeredits
+} // namespace vnsi::recordedits

@@ -4,7 +4,7 @@
 
 class QWidget;
 
-namespace vnsi::layeredits {
+namespace vnsi::recordedits {
 
 /// Carries out what a click on a cell of `column` does to the record behind it, asking the user
 /// where that is due; the colour dialog's tree is `colorQuestion`. False where a click does nothing
@@ -13,4 +13,4 @@ namespace vnsi::layeredits {
 bool click(const LayerColumn& column, LayerRecord record, bool isCurrent,
     const VnJsonPtr& colorQuestion, QWidget* parent);
 
-} // namespace vnsi::layeredits
+} // namespace vnsi::recordedits

@@ -2,8 +2,8 @@
 
 #include "hostapi/hostcalls.h"
 #include "hostcodes.h"
-#include "layeredits.h"
 #include "namerule.h"
+#include "recordedits.h"
 #include "vnstrings.h"
 
 namespace vnsi::layernaming {
@@ -64,12 +64,12 @@ bool mayRename(const LayerRecord& record)
 
 std::optional<OdString> askName(const LayerRecord& record)
 {
-    return layeredits::askForText(record.name());
+    return recordedits::askForText(record.name());
 }
 
 std::optional<OdString> askDescription(const LayerRecord& record)
 {
-    return layeredits::askForText(record.text(layerkey::kDescription), L"说明:");
+    return recordedits::askForText(record.text(layerkey::kDescription), L"说明:");
 }
 
 void storeName(const LayerRecordList& layers, int row, const OdString& typed)

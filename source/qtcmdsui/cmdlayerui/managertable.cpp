@@ -103,7 +103,7 @@ bool ManagerTable::click(int row, int column)
     if (clicked.isNull() || !isColumn(column))
         return false;
     const VnJsonPtr colorQuestion = hostapi::makeObject();
-    if (!layeredits::click(
+    if (!recordedits::click(
             kColumns[column], clicked, row == m_currentRow, colorQuestion, m_table->window()))
         return false;
     showCell(row, column);

@@ -3,9 +3,9 @@
 #include "buttongroupclick.h"
 #include "hostapi/hostcalls.h"
 #include "hostcodes.h"
-#include "layeredits.h"
 #include "layernaming.h"
 #include "layerrules.h"
+#include "recordedits.h"
 #include "vnqtlayerqtablewgt.h"
 #include "vnstrings.h"
 
@@ -113,7 +113,7 @@ void VnQtUiDynLayerCmdImpl::setSelectedCurrent()
         return;
     const LayerRecord chosen = m_rows.layers()[selection.latest];
     if (layerrules::mayBeCurrent(chosen)) {
-        if (chosen.isOff() && layeredits::asksToKeepCurrentOn())
+        if (chosen.isOff() && recordedits::asksToKeepCurrentOn())
             m_rows.turnOn(selection.latest);
         if (selection.latest != m_rows.currentRow())
             m_rows.makeCurrent(selection.latest);

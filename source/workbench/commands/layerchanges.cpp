@@ -3,8 +3,8 @@
 #include "valuetree.h"
 
 #include "drawing.h"
-#include "layerrecords.h"
 #include "layerrenaming.h"
+#include "recordprovider.h"
 
 #include <QCoreApplication>
 

@@ -5,9 +5,9 @@
 #include "drawing.h"
 #include "layerchanges.h"
 #include "layermarks.h"
-#include "layerrecords.h"
 #include "namerule.h"
 #include "posing.h"
+#include "recordprovider.h"
 
 #include <QCoreApplication>
 #include <QSet>

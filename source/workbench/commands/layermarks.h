@@ -2,7 +2,7 @@
 
 #include "command.h"
 #include "drawing.h"
-#include "layerrecords.h"
+#include "recordprovider.h"
 #include "vnjson.h"
 
 /// What the commands share that offer layers in a list and carry out what a dialog marked there.

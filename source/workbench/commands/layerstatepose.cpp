@@ -1,7 +1,7 @@
 #include "drawing.h"
-#include "layerrecords.h"
 #include "layerstatecommand.h"
 #include "posing.h"
+#include "recordprovider.h"
 #include "statekeys.h"
 #include "vnstrings.h"
 

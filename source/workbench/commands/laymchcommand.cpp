@@ -2,9 +2,9 @@
 
 #include "drawing.h"
 #include "layermarks.h"
-#include "layerrecords.h"
 #include "layertoolkeys.h"
 #include "posing.h"
+#include "recordprovider.h"
 #include "vnstrings.h"
 
 #include <QCoreApplication>

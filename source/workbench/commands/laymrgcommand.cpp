@@ -2,9 +2,9 @@
 #include "hostextras.h"
 
 #include "drawing.h"
-#include "layerrecords.h"
 #include "layertoolkeys.h"
 #include "posing.h"
+#include "recordprovider.h"
 #include "vnstrings.h"
 #include "vntaskdialog.h"
 

@@ -2,8 +2,8 @@
 #include "hostextras.h"
 
 #include "drawing.h"
-#include "layerrecords.h"
 #include "namerule.h"
+#include "recordprovider.h"
 #include "statekeys.h"
 
 #include <QHash>

@@ -3,10 +3,10 @@
 #include "valuetree.h"
 
 #include "drawing.h"
-#include "layerrecords.h"
 #include "linetypes.h"
 #include "lineweighttext.h"
 #include "namerule.h"
+#include "recordprovider.h"
 #include "targetrecord.h"
 
 using drawing::LayerMapping;

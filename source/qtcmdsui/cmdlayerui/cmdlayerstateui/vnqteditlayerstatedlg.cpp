@@ -5,8 +5,8 @@
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
-#include "layeredits.h"
 #include "namerule.h"
+#include "recordedits.h"
 #include "statetexts.h"
 #include "vnstrings.h"
 
@@ -206,12 +206,12 @@ void VnQtEditLayerStateDlg::slot_TableCellClicked(int row, int column)
     case kColor: {
         const VnJsonPtr question = hostapi::makeObject();
         question->SetDataI("backgroundColor", 0);
-        if (layeredits::editColor(clicked, question, this))
+        if (recordedits::editColor(clicked, question, this))
             showCell(row, kColor);
         break;
     }
     case kTransparency:
-        if (layeredits::editTransparency(clicked))
+        if (recordedits::editTransparency(clicked))
             showCell(row, kTransparency);
         break;
     default:
@@ -238,9 +238,9 @@ bool VnQtEditLayerStateDlg::mayToggle(int row, int column) const
     if (row != m_currentRow)
         return true;
     if (column == kOff && !m_rows[static_cast<std::size_t>(row)].isOff())
-        return !layeredits::asksToKeepCurrentOn();
+        return !recordedits::asksToKeepCurrentOn();
     if (column == kFrozen)
-        layeredits::refuseToFreezeCurrent();
+        recordedits::refuseToFreezeCurrent();
     return column != kFrozen;
 }
 

@@ -5,8 +5,8 @@
 #include "hostapi/filequestion.h"
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
-#include "layeredits.h"
 #include "namerule.h"
+#include "recordedits.h"
 #include "statetexts.h"
 #include "vnstrings.h"
 
@@ -116,7 +116,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_RenameBtnClicked(bool)
     if (!m_currentItem)
         return;
     m_oldName = m_currentItem->text();
-    const auto typed = layeredits::askForText(od(m_oldName));
+    const auto typed = recordedits::askForText(od(m_oldName));
     if (!typed || !canRequest())
         return;
     const QString name = vnutOdStringToQString(*typed);
@@ -156,7 +156,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_tableitClickedDesc(QTableWidgetItem* item)
     if (rows.empty() || !item || item != m_table->item(rows.front(), kDescriptionColumn))
         return;
     const QString name = nameAt(rows.front());
-    const auto typed = layeredits::askForText(od(item->text()));
+    const auto typed = recordedits::askForText(od(item->text()));
     if (!typed || !canRequest())
         return;
     request(kStateDescribe, [&](IElementValueBase& node) {

@@ -1,4 +1,4 @@
-#include "dialogbuttons.h"
+#include "okcancelbox.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -7,7 +7,7 @@
 
 namespace host {
 
-QDialogButtonBox* makeDialogButtons(QDialog& dialog)
+QDialogButtonBox* makeOkCancelBox(QDialog& dialog)
 {
     const auto tr = [](const char* text) {
         return QCoreApplication::translate("DialogButtons", text);

@@ -1,10 +1,10 @@
-#include "layerfates.h"
+#include "layerreplacements.h"
 
 #include "file/symbolname.h"
 
 namespace drawing {
 
-LayerFates::LayerFates(const LayerTable& layers, const TextCodec& codec)
+LayerReplacements::LayerReplacements(const LayerTable& layers, const TextCodec& codec)
 {
     std::vector<char> changed(static_cast<size_t>(layers.entryCount()));
     std::vector<const LayerChange*> removals;
@@ -28,67 +28,67 @@ LayerFates::LayerFates(const LayerTable& layers, const TextCodec& codec)
         const QString key = foldedName(before.layer.properties.name);
         m_removed.push_back(before);
         m_removedNames.insert(key);
-        const bool hasHeir = removal->after.heir != LayerId::None;
-        const LayerEntry& heir = layers.entry(of(removal->id).layer);
-        if (hasHeir)
-            m_heirs.insert(key, heir.layer.properties.name);
+        const bool isMerged = removal->after.mergedInto != LayerId::None;
+        const LayerEntry& target = layers.entry(of(removal->id).layer);
+        if (isMerged)
+            m_mergeTargets.insert(key, target.layer.properties.name);
         if (before.handle != 0)
             m_removedHandles.insert(
-                before.handle, {before.layer.properties.name, hasHeir ? heir.handle : 0});
+                before.handle, {before.layer.properties.name, isMerged ? target.handle : 0});
     }
 }
 
 /// Follows every layer over those it was merged into, in this step and before, to one that is
 /// there.
-void LayerFates::follow(
+void LayerReplacements::follow(
     const LayerTable& layers, const TextCodec& codec, const std::vector<char>& changed)
 {
     const LayerId zero = layers.zero();
-    m_fates.resize(changed.size());
+    m_replacements.resize(changed.size());
     std::vector<size_t> path;
-    for (size_t id = 0; id < m_fates.size(); ++id) {
+    for (size_t id = 0; id < m_replacements.size(); ++id) {
         size_t at = id;
-        while (m_fates[at].layer == LayerId::None) {
+        while (m_replacements[at].layer == LayerId::None) {
             const LayerEntry& entry = layers.entry(static_cast<LayerId>(at));
             if (entry.present) {
-                m_fates[at].layer = static_cast<LayerId>(at);
+                m_replacements[at].layer = static_cast<LayerId>(at);
                 if (changed[at])
-                    m_fates[at].name = codec.encode(entry.layer.properties.name);
+                    m_replacements[at].name = codec.encode(entry.layer.properties.name);
                 break;
             }
             path.push_back(at);
-            at = static_cast<size_t>(entry.heir != LayerId::None ? entry.heir : zero);
+            at = static_cast<size_t>(entry.mergedInto != LayerId::None ? entry.mergedInto : zero);
         }
         for (; !path.empty(); path.pop_back()) {
             const size_t gone = path.back();
-            m_fates[gone] = m_fates[at];
-            if (changed[gone] && m_fates[gone].name.isNull())
-                m_fates[gone].name =
-                    codec.encode(layers.entry(m_fates[at].layer).layer.properties.name);
+            m_replacements[gone] = m_replacements[at];
+            if (changed[gone] && m_replacements[gone].name.isNull())
+                m_replacements[gone].name =
+                    codec.encode(layers.entry(m_replacements[at].layer).layer.properties.name);
             at = gone;
         }
     }
 }
 
-QString LayerFates::newName(const QString& name) const
+QString LayerReplacements::newName(const QString& name) const
 {
     return m_newNames.value(foldedName(name));
 }
 
-bool LayerFates::isRemoved(const QString& name) const
+bool LayerReplacements::isRemoved(const QString& name) const
 {
     return m_removedNames.contains(foldedName(name));
 }
 
-QString LayerFates::heir(const QString& name) const
+QString LayerReplacements::mergeTarget(const QString& name) const
 {
-    return m_heirs.value(foldedName(name));
+    return m_mergeTargets.value(foldedName(name));
 }
 
-QString LayerFates::follower(const QString& name) const
+QString LayerReplacements::currentName(const QString& name) const
 {
     const QString key = foldedName(name);
-    return m_newNames.value(key, m_heirs.value(key));
+    return m_newNames.value(key, m_mergeTargets.value(key));
 }
 
 } // namespace drawing

@@ -1,4 +1,4 @@
-#include "layerrecords.h"
+#include "recordprovider.h"
 #include "hostextras.h"
 
 #include "drawing.h"

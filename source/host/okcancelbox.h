@@ -6,6 +6,6 @@ class QDialogButtonBox;
 namespace host {
 
 /// "确定" and "取消", connected to the dialog, named "ok" and "cancel".
-QDialogButtonBox* makeDialogButtons(QDialog& dialog);
+QDialogButtonBox* makeOkCancelBox(QDialog& dialog);
 
 } // namespace host

@@ -10,21 +10,22 @@ namespace drawing {
 
 /// What became of the layers that a step renamed, merged or deleted: all that names a layer follows
 /// it when the step is closed, in one pass however many layers changed. What names a merged layer
-/// names its heir then; what still names a deleted one and cannot do without a layer names layer 0.
-class LayerFates
+/// names the layer it was merged into; what still names a deleted one and cannot do without a layer
+/// names layer 0.
+class LayerReplacements
 {
 public:
-    struct Fate
+    struct Replacement
     {
         LayerId layer = LayerId::None; ///< Itself, or the one that what named it goes to.
         QByteArray name;               ///< Encoded; null where nothing changes.
     };
 
-    LayerFates(const LayerTable& layers, const TextCodec& codec);
+    LayerReplacements(const LayerTable& layers, const TextCodec& codec);
 
     /// True when nothing has to follow.
     bool isEmpty() const { return m_newNames.isEmpty() && m_removed.empty(); }
-    const Fate& of(LayerId id) const { return m_fates[static_cast<size_t>(id)]; }
+    const Replacement& of(LayerId id) const { return m_replacements[static_cast<size_t>(id)]; }
 
     // By names as they were before the step, without regard to letter case.
 
@@ -32,15 +33,18 @@ public:
     QString newName(const QString& name) const;
     bool isRemoved(const QString& name) const;
     /// The name of the layer that took a removed one's place; null where there is none.
-    QString heir(const QString& name) const;
-    /// The new name, or the heir's.
-    QString follower(const QString& name) const;
+    QString mergeTarget(const QString& name) const;
+    /// The new name, or that of the layer it was merged into.
+    QString currentName(const QString& name) const;
 
     /// Layers that went, as they were.
     const std::vector<LayerEntry>& removed() const { return m_removed; }
     bool isRemovedHandle(quint64 handle) const { return m_removedHandles.contains(handle); }
     /// Of the layer that took a removed one's place; 0 where there is none.
-    quint64 heirHandle(quint64 handle) const { return m_removedHandles.value(handle).heir; }
+    quint64 mergeTargetHandle(quint64 handle) const
+    {
+        return m_removedHandles.value(handle).mergeTarget;
+    }
     /// What a removed layer was called.
     QString removedName(quint64 handle) const { return m_removedHandles.value(handle).name; }
 
@@ -48,15 +52,15 @@ private:
     struct Removed
     {
         QString name;
-        quint64 heir = 0;
+        quint64 mergeTarget = 0;
     };
 
     void follow(const LayerTable& layers, const TextCodec& codec, const std::vector<char>& changed);
 
-    std::vector<Fate> m_fates;          // By layer id.
-    QHash<QString, QString> m_newNames; // These three by folded old name.
+    std::vector<Replacement> m_replacements; // By layer id.
+    QHash<QString, QString> m_newNames;      // These three by folded old name.
     QSet<QString> m_removedNames;
-    QHash<QString, QString> m_heirs;
+    QHash<QString, QString> m_mergeTargets;
     std::vector<LayerEntry> m_removed;
     QHash<quint64, Removed> m_removedHandles;
 };

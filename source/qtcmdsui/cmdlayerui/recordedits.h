@@ -7,7 +7,7 @@
 class QWidget;
 
 /// Edits of single layers that the tables of layers have in common.
-namespace vnsi::layeredits {
+namespace vnsi::recordedits {
 
 /// Lets the user change a text in the host's rename dialog, which `label` may tell what it is; none
 /// when the user gives up.
@@ -22,4 +22,4 @@ bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent);
 /// Lets the user choose another transparency; true when the record holds a new one.
 bool editTransparency(LayerRecord record);
 
-} // namespace vnsi::layeredits
+} // namespace vnsi::recordedits

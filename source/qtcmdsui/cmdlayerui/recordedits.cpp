@@ -1,11 +1,11 @@
-#include "layeredits.h"
+#include "recordedits.h"
 
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
 #include "vnqtuilayertransparencymodify.h"
 
-namespace vnsi::layeredits {
+namespace vnsi::recordedits {
 
 namespace {
 
@@ -63,4 +63,4 @@ bool editTransparency(LayerRecord record)
     return true;
 }
 
-} // namespace vnsi::layeredits
+} // namespace vnsi::recordedits
