@@ -18,6 +18,6 @@ enum VnMessageStyle {
 enum VnMessageAnswer { kVnAnswerOk = 1, kVnAnswerCancel = 2, kVnAnswerYes = 6, kVnAnswerNo = 7 };
 
 /// The host product's name, the title of many of its messages.
-inline constexpr wchar_t kProductName[] = L"Quenlith";
+inline constexpr char kProductName[] = "Quenlith";
 
 } // namespace vnsi

@@ -10,7 +10,7 @@ inline QString lineWidthText(int lineWidth)
 {
     switch (lineWidth) {
     case -3:
-        return QCoreApplication::translate("vnsi::Lineweight", "默认");
+        return QCoreApplication::translate("cmdlayerui", "默认");
     case -1:
         return QStringLiteral("ByLayer");
     case -2:

@@ -4,6 +4,7 @@
 #include "translatorkeys.h"
 #include "vnstrings.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <utility>
@@ -76,6 +77,14 @@ public:
     }
 
     QString plotStyle() const { return text(transkey::kToPlotStyle); }
+    /// The plot style in the user's language; styles of the drawing's own go by their names.
+    QString plotStyleText() const { return plotStyleText(plotStyle()); }
+    static QString plotStyleText(const QString& style)
+    {
+        return style == QString::fromUtf8(transkey::kNormalPlotStyle)
+                   ? QCoreApplication::translate("cmdlayerui", "普通")
+                   : style;
+    }
     void setPlotStyle(const QString& style) { setText(transkey::kToPlotStyle, style); }
 
     /// Whether objects are on the layer.

@@ -22,6 +22,9 @@ inline constexpr char kToTransparency[] = "transToTransparency";
 inline constexpr char kToPlotStyle[] = "transToprintt";
 inline constexpr char kToUsed[] = "transTobUsed";
 
+/// The plot style of a layer without one of its own, as records name it in every language.
+inline constexpr char kNormalPlotStyle[] = "普通";
+
 // A mapping.
 inline constexpr char kFrom[] = "Ltransmapfrom";
 inline constexpr char kTo[] = "Ltransmapto";

@@ -2,12 +2,11 @@
 
 #include "hostcodes.h"
 #include "hostfrontend.h"
+#include "hosttexts.h"
 #include "settings.h"
 #include "vnmessages.h"
 #include "vnrequests.h"
 #include "vnstrings.h"
-
-#include <QCoreApplication>
 
 #include <exception>
 
@@ -25,9 +24,10 @@ namespace {
 
 void reportFailure(const OdString& dialogName, const char* cause)
 {
-    const QString text = QCoreApplication::translate("HostDialogs", "对话框“%1”出错: %2")
+    const QString text = host::Texts::tr("对话框“%1”出错: %2")
                              .arg(vnutOdStringToQString(dialogName), QString::fromUtf8(cause));
-    vnuiMessageBox(vnutQStringToOdString(text), kProductName, kVnIconWarning);
+    vnuiMessageBox(
+        vnutQStringToOdString(text), vnutQStringToOdString(kProductName), kVnIconWarning);
 }
 
 /// The dialog's result; 0 when it could not be shown.

@@ -199,9 +199,9 @@ private slots:
         host::Host services;
         const BrokenHost broken;
         const VnJsonPtr question = tree(R"({"result":1})");
-        QCOMPARE(hostapi::messageBox(L"", L"", kVnYesNo), 0);
-        QCOMPARE(hostapi::messageBoxEx(L"", L"", {}, kVnCustomButtons, 1, 0, 3), 3);
-        QCOMPARE(hostapi::taskDialog(L"", L"", {{101, L"a"}}), 2);
+        QCOMPARE(hostapi::messageBox({}, {}, kVnYesNo), 0);
+        QCOMPARE(hostapi::messageBoxEx({}, {}, {}, kVnCustomButtons, 1, 0, 3), 3);
+        QCOMPARE(hostapi::taskDialog({}, {}, {{101, QStringLiteral("a")}}), 2);
         QCOMPARE(hostapi::showDialog(L"s", L"d", question)->GetDataI("result"), 0);
         QCOMPARE(hostapi::showDialogEx(L"s", L"d", {}, {}, nullptr)->GetDataI("result", -1), -1);
         hostapi::showHelp();

@@ -1,6 +1,7 @@
 #include "dialogbuttons.h"
 
-#include <QCoreApplication>
+#include "moduletexts.h"
+
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -17,9 +18,9 @@ struct ButtonRow
 };
 
 constexpr ButtonRow kButtons[] = {
-    {&OkCancelHelp::ok, QT_TRANSLATE_NOOP("vnsi::OkCancelHelp", "确定"), "okButton"},
-    {&OkCancelHelp::cancel, QT_TRANSLATE_NOOP("vnsi::OkCancelHelp", "取消"), "cancelButton"},
-    {&OkCancelHelp::help, QT_TRANSLATE_NOOP("vnsi::OkCancelHelp", "帮助(&H)"), "helpButton"},
+    {&OkCancelHelp::ok, QT_TRANSLATE_NOOP("cmdlayerui", "确定"), "okButton"},
+    {&OkCancelHelp::cancel, QT_TRANSLATE_NOOP("cmdlayerui", "取消"), "cancelButton"},
+    {&OkCancelHelp::help, QT_TRANSLATE_NOOP("cmdlayerui", "帮助(&H)"), "helpButton"},
 };
 
 } // namespace
@@ -29,8 +30,7 @@ QBoxLayout* makeButtonRow(QDialog& dialog, OkCancelHelp& buttons)
     auto* row = new QHBoxLayout;
     row->addStretch();
     for (const ButtonRow& description : kButtons) {
-        auto* button = new QPushButton(
-            QCoreApplication::translate("vnsi::OkCancelHelp", description.text), &dialog);
+        auto* button = new QPushButton(Texts::tr(description.text), &dialog);
         button->setObjectName(QLatin1String(description.objectName));
         row->addWidget(button);
         buttons.*description.button = button;

@@ -75,24 +75,25 @@ struct LayerColumn
 
 /// The columns that tables of layers share.
 namespace layercolumn {
-inline constexpr LayerColumn kOff{QT_TR_NOOP("开"), LayerCell::Toggle, layerkey::kOff,
-    LayerAlign::Centre, LayerClick::ToggleOff, {LayerIcon::Off, LayerIcon::On}};
-inline constexpr LayerColumn kLock{QT_TR_NOOP("锁定"), LayerCell::Toggle, layerkey::kLock,
-    LayerAlign::Centre, LayerClick::Toggle, {LayerIcon::Lock, LayerIcon::Unlock}};
-inline constexpr LayerColumn kColor{QT_TR_NOOP("颜色"), LayerCell::Color, layerkey::kColor,
-    LayerAlign::Centre, LayerClick::ChooseColor};
-inline constexpr LayerColumn kLinetype{
-    QT_TR_NOOP("线型"), LayerCell::Text, layerkey::kLinetype, LayerAlign::Left, LayerClick::Mark};
-inline constexpr LayerColumn kLineWidth{QT_TR_NOOP("线宽"), LayerCell::LineWidth,
-    layerkey::kLineWidth, LayerAlign::Left, LayerClick::Mark};
-inline constexpr LayerColumn kTransparency{QT_TR_NOOP("透明度"), LayerCell::Number,
-    layerkey::kTransparency, LayerAlign::Left, LayerClick::ChooseTransparency};
+inline constexpr LayerColumn kOff{QT_TRANSLATE_NOOP("cmdlayerui", "开"), LayerCell::Toggle,
+    layerkey::kOff, LayerAlign::Centre, LayerClick::ToggleOff, {LayerIcon::Off, LayerIcon::On}};
+inline constexpr LayerColumn kLock{QT_TRANSLATE_NOOP("cmdlayerui", "锁定"), LayerCell::Toggle,
+    layerkey::kLock, LayerAlign::Centre, LayerClick::Toggle, {LayerIcon::Lock, LayerIcon::Unlock}};
+inline constexpr LayerColumn kColor{QT_TRANSLATE_NOOP("cmdlayerui", "颜色"), LayerCell::Color,
+    layerkey::kColor, LayerAlign::Centre, LayerClick::ChooseColor};
+inline constexpr LayerColumn kLinetype{QT_TRANSLATE_NOOP("cmdlayerui", "线型"), LayerCell::Text,
+    layerkey::kLinetype, LayerAlign::Left, LayerClick::Mark};
+inline constexpr LayerColumn kLineWidth{QT_TRANSLATE_NOOP("cmdlayerui", "线宽"),
+    LayerCell::LineWidth, layerkey::kLineWidth, LayerAlign::Left, LayerClick::Mark};
+inline constexpr LayerColumn kTransparency{QT_TRANSLATE_NOOP("cmdlayerui", "透明度"),
+    LayerCell::Number, layerkey::kTransparency, LayerAlign::Left, LayerClick::ChooseTransparency};
 inline constexpr LayerColumn kPlotStyle{
-    QT_TR_NOOP("打印样式"), LayerCell::Text, layerkey::kPlotStyle};
-inline constexpr LayerColumn kPrint{QT_TR_NOOP("打印"), LayerCell::Toggle, layerkey::kPrint,
-    LayerAlign::Centre, LayerClick::Toggle, {LayerIcon::Print, LayerIcon::NoPrint}};
-inline constexpr LayerColumn kVPortFrozen{QT_TR_NOOP("新视口冻结"), LayerCell::Toggle,
-    layerkey::kVPortFrozen, LayerAlign::Centre, LayerClick::Toggle,
+    QT_TRANSLATE_NOOP("cmdlayerui", "打印样式"), LayerCell::Text, layerkey::kPlotStyle};
+inline constexpr LayerColumn kPrint{QT_TRANSLATE_NOOP("cmdlayerui", "打印"), LayerCell::Toggle,
+    layerkey::kPrint, LayerAlign::Centre, LayerClick::Toggle,
+    {LayerIcon::Print, LayerIcon::NoPrint}};
+inline constexpr LayerColumn kVPortFrozen{QT_TRANSLATE_NOOP("cmdlayerui", "新视口冻结"),
+    LayerCell::Toggle, layerkey::kVPortFrozen, LayerAlign::Centre, LayerClick::Toggle,
     {LayerIcon::AllFrozen, LayerIcon::AllThaw}};
 
 /// The column of all viewports' freezing, which tables head differently.

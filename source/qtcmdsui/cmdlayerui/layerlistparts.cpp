@@ -66,16 +66,15 @@ void mark(const LayerRecordList& layers, const QSet<QString>& names, LayerStatus
     }
 }
 
-bool refuse(const wchar_t* text, const wchar_t* caption)
+bool refuse(const QString& text, const QString& caption)
 {
     hostapi::messageBox(text, caption, kVnOk);
     return false;
 }
 
-bool confirm(const wchar_t* caption, const QString& text, int buttons, int consent)
+bool confirm(const QString& caption, const QString& text, int buttons, int consent)
 {
-    return hostapi::messageBoxEx(
-               caption, vnutQStringToOdString(text), {}, buttons, 1, kVnIconQuestion) == consent;
+    return hostapi::messageBoxEx(caption, text, {}, buttons, 1, kVnIconQuestion) == consent;
 }
 
 } // namespace vnsi::layerlist

@@ -26,8 +26,8 @@ QSet<QString> selectedNames(const QListWidget& list);
 void mark(const LayerRecordList& layers, const QSet<QString>& names, LayerStatus status);
 
 /// Shows why a name will not do; false, for the caller to hand on.
-bool refuse(const wchar_t* text, const wchar_t* caption);
+bool refuse(const QString& text, const QString& caption);
 /// Asks with these buttons; whether the answer is `consent`.
-bool confirm(const wchar_t* caption, const QString& text, int buttons, int consent);
+bool confirm(const QString& caption, const QString& text, int buttons, int consent);
 
 } // namespace vnsi::layerlist

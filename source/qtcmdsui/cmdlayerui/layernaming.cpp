@@ -2,6 +2,7 @@
 
 #include "hostapi/hostcalls.h"
 #include "hostcodes.h"
+#include "moduletexts.h"
 #include "namerule.h"
 #include "recordedits.h"
 #include "vnstrings.h"
@@ -13,20 +14,25 @@ namespace {
 struct Refusal
 {
     NameFaults when;
-    const wchar_t* text;
-    const wchar_t* title;
+    const char* text; ///< To be translated, as the title is.
+    const char* title;
 };
 
 /// What a name is refused for, in the order of the checks.
 constexpr Refusal kRefusals[] = {
-    {NameFault::Empty, L"名称 的长度必须至少为一个字符", L"图层 - 文字长度"},
-    {NameFault::TooLong, L"图层名无效。\n\n所允许的最大长度为 255 个字符\n", L"图层 - 文字长度"},
+    {NameFault::Empty, QT_TRANSLATE_NOOP("cmdlayerui", "名称 的长度必须至少为一个字符"),
+        QT_TRANSLATE_NOOP("cmdlayerui", "图层 - 文字长度")},
+    {NameFault::TooLong,
+        QT_TRANSLATE_NOOP("cmdlayerui", "图层名无效。\n\n所允许的最大长度为 255 个字符\n"),
+        QT_TRANSLATE_NOOP("cmdlayerui", "图层 - 文字长度")},
     // A drawing takes control characters no more than the thirteen that the text lists.
     {kUnsupportedCharacter,
-        L"图层名中包含无效的字符。\n\n图层名称中不得含有以下字符：\n\\<>/\":;?*|,=`", kProductName},
+        QT_TRANSLATE_NOOP("cmdlayerui",
+            "图层名中包含无效的字符。\n\n图层名称中不得含有以下字符：\n\\<>/\":;?*|,=`"),
+        kProductName},
 };
 
-bool refuse(const wchar_t* text, const wchar_t* title)
+bool refuse(const QString& text, const QString& title)
 {
     hostapi::messageBox(text, title, kVnIconInformation);
     return false;
@@ -46,9 +52,10 @@ bool accept(const LayerRecordList& layers, int row, const QString& name)
     const NameFaults faults = nameFaults(name);
     for (const Refusal& refusal : kRefusals) {
         if (faults & refusal.when)
-            return refuse(refusal.text, refusal.title);
+            return refuse(Texts::tr(refusal.text), Texts::tr(refusal.title));
     }
-    return isUnique(layers, row, name) || refuse(L"图层名无效。\n\n图层名必须唯一\n", kProductName);
+    return isUnique(layers, row, name) ||
+           refuse(Texts::tr("图层名无效。\n\n图层名必须唯一\n"), kProductName);
 }
 
 } // namespace
@@ -58,7 +65,8 @@ bool mayRename(const LayerRecord& record)
     if (record.name() != OdString(L"0") && !record.dependsOnReference())
         return true;
     return refuse(
-        L"不能重命名选定图层。\n\n不能重命名下列图层:\n    图层 0\n    依赖外部参照的图层\n",
+        Texts::tr(
+            "不能重命名选定图层。\n\n不能重命名下列图层:\n    图层 0\n    依赖外部参照的图层\n"),
         kProductName);
 }
 
@@ -69,7 +77,7 @@ std::optional<OdString> askName(const LayerRecord& record)
 
 std::optional<OdString> askDescription(const LayerRecord& record)
 {
-    return recordedits::askForText(record.text(layerkey::kDescription), L"说明:");
+    return recordedits::askForText(record.text(layerkey::kDescription), Texts::tr("说明:"));
 }
 
 void storeName(const LayerRecordList& layers, int row, const OdString& typed)

@@ -2,6 +2,7 @@
 
 #include "hostapi/hostcalls.h"
 #include "hostcodes.h"
+#include "moduletexts.h"
 #include "namerule.h"
 #include "vnstrings.h"
 
@@ -27,16 +28,18 @@ bool mayBeCurrent(const LayerRecord& record)
 {
     if (record.status() != kLayerDelete && !record.isFrozen() && !record.dependsOnReference())
         return true;
-    hostapi::messageBox(L"无法将选定图层置为当前图层。\n\n无法将下列图层置为当前图层:\n"
-                        L"    依赖外部参照的图层\n    已冻结的图层\n    已删除的图层\n",
-        L"图层 - 无法置为当前", kVnIconInformation);
+    hostapi::messageBox(Texts::tr("无法将选定图层置为当前图层。\n\n无法将下列图层置为当前图层:\n"
+                                  "    依赖外部参照的图层\n    已冻结的图层\n    已删除的图层\n"),
+        Texts::tr("图层 - 无法置为当前"), kVnIconInformation);
     return false;
 }
 
 bool asksToTurnOn()
 {
-    return hostapi::taskDialog(L"图层 - 关闭当前图层", L"当前图层将被关闭。希望执行什么操作？",
-               {{kTurnOff, L"关闭当前图层"}, {kKeepOn, L"使当前图层保持打开状态"}}) == kKeepOn;
+    return hostapi::taskDialog(Texts::tr("图层 - 关闭当前图层"),
+               Texts::tr("当前图层将被关闭。希望执行什么操作？"),
+               {{kTurnOff, Texts::tr("关闭当前图层")},
+                   {kKeepOn, Texts::tr("使当前图层保持打开状态")}}) == kKeepOn;
 }
 
 int toggleDeletion(const LayerRecordList& layers)
@@ -59,13 +62,14 @@ int toggleDeletion(const LayerRecordList& layers)
 
 void tellNotDeleted(int refused, int selected)
 {
-    // The line about external references has no bullet; the text stands as agreed.
+    // The line about external references has no bullet; the text stands as agreed, its line ends
+    // too.
     const QString text =
-        QStringLiteral("有 %1 个选定图层无法删除（共 %2 个选定图层)\r\n 无法删除以下图层：\r\n"
-                       "    ·图层0和图层Defpoints\r\n    ·当前图层\r\n    依赖外部参照的图层\r\n"
-                       "    ·包含对象的图层\r\n ");
-    hostapi::messageBox(
-        vnutQStringToOdString(text.arg(refused).arg(selected)), L"提示", kWarningStyle);
+        Texts::tr("有 %1 个选定图层无法删除（共 %2 个选定图层)\n 无法删除以下图层：\n"
+                  "    ·图层0和图层Defpoints\n    ·当前图层\n    依赖外部参照的图层\n"
+                  "    ·包含对象的图层\n ")
+            .replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    hostapi::messageBox(text.arg(refused).arg(selected), Texts::tr("提示"), kWarningStyle);
 }
 
 } // namespace vnsi::layerrules

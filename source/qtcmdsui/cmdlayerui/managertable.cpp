@@ -4,6 +4,7 @@
 #include "layerclicks.h"
 #include "layernaming.h"
 #include "layertable.h"
+#include "moduletexts.h"
 
 #include <QCoreApplication>
 #include <QScrollBar>
@@ -19,12 +20,12 @@ namespace {
 /// The first two columns and the last one take no single click, and only they a double click. A
 /// cell that the table does not have takes neither.
 constexpr LayerColumn kColumns[] = {
-    {QT_TRANSLATE_NOOP("vnsi::ManagerTable", "状态"), LayerCell::Status, layerkey::kStatus,
+    {QT_TRANSLATE_NOOP("cmdlayerui", "状态"), LayerCell::Status, layerkey::kStatus,
         LayerAlign::Left, LayerClick::None, {}, LayerDoubleClick::MakeCurrent},
-    {QT_TRANSLATE_NOOP("vnsi::ManagerTable", "名称"), LayerCell::Text, layerkey::kName,
-        LayerAlign::Left, LayerClick::None, {}, LayerDoubleClick::Rename},
+    {QT_TRANSLATE_NOOP("cmdlayerui", "名称"), LayerCell::Text, layerkey::kName, LayerAlign::Left,
+        LayerClick::None, {}, LayerDoubleClick::Rename},
     layercolumn::kOff,
-    layercolumn::frozen(QT_TRANSLATE_NOOP("vnsi::ManagerTable", "冻结")),
+    layercolumn::frozen(QT_TRANSLATE_NOOP("cmdlayerui", "冻结")),
     layercolumn::kLock,
     layercolumn::kColor,
     layercolumn::kLinetype,
@@ -33,7 +34,7 @@ constexpr LayerColumn kColumns[] = {
     layercolumn::kPlotStyle,
     layercolumn::kPrint,
     layercolumn::kVPortFrozen,
-    {QT_TRANSLATE_NOOP("vnsi::ManagerTable", "说明"), LayerCell::Text, layerkey::kDescription,
+    {QT_TRANSLATE_NOOP("cmdlayerui", "说明"), LayerCell::Text, layerkey::kDescription,
         LayerAlign::Left, LayerClick::None, {}, LayerDoubleClick::Describe},
 };
 constexpr int kColumnCount = static_cast<int>(std::size(kColumns));
@@ -63,7 +64,7 @@ void ManagerTable::setUp(QTableWidget& table, const VnJsonPtr& tree)
     m_tree = tree;
     QStringList headers;
     for (const LayerColumn& column : kColumns)
-        headers.append(QCoreApplication::translate("vnsi::ManagerTable", column.header));
+        headers.append(Texts::tr(column.header));
     layertable::setUp(table, headers);
 }
 

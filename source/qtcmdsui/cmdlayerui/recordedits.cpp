@@ -3,7 +3,9 @@
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
+#include "moduletexts.h"
 #include "vnqtuilayertransparencymodify.h"
+#include "vnstrings.h"
 
 namespace vnsi::recordedits {
 
@@ -13,12 +15,12 @@ constexpr int kQuestionStyle = kVnYesNo | kVnIconInformation;
 
 } // namespace
 
-std::optional<OdString> askForText(const OdString& present, const wchar_t* label)
+std::optional<OdString> askForText(const OdString& present, const QString& label)
 {
     const VnJsonPtr question = hostapi::makeObject();
     question->SetDataSW("DefaultName", present);
-    if (label)
-        question->SetDataSW("Tip", label);
+    if (!label.isEmpty())
+        question->SetDataSW("Tip", vnutQStringToOdString(label));
     const VnJsonPtr answer =
         hostapi::showDialog(L"Dialog/CmdsUI", L"Dialog/CmdsUI/ReNameDlg", question);
     return answer->GetDataB("Success") ? std::optional(answer->GetDataSW("NewName")) : std::nullopt;
@@ -26,13 +28,13 @@ std::optional<OdString> askForText(const OdString& present, const wchar_t* label
 
 bool asksToKeepCurrentOn()
 {
-    return hostapi::messageBox(L"当前图层将被关闭。\n是否要使当前图层保持打开状态?\n", kProductName,
-               kQuestionStyle) == kVnAnswerYes;
+    return hostapi::messageBox(Texts::tr("当前图层将被关闭。\n是否要使当前图层保持打开状态?\n"),
+               kProductName, kQuestionStyle) == kVnAnswerYes;
 }
 
 void refuseToFreezeCurrent()
 {
-    hostapi::messageBox(L"不能冻结当前图层\n", kProductName, kVnIconInformation);
+    hostapi::messageBox(Texts::tr("不能冻结当前图层\n"), kProductName, kVnIconInformation);
 }
 
 bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent)

@@ -2,6 +2,8 @@
 
 #include "layerrecord.h"
 
+#include <QString>
+
 #include <optional>
 
 class QWidget;
@@ -11,7 +13,7 @@ namespace vnsi::recordedits {
 
 /// Lets the user change a text in the host's rename dialog, which `label` may tell what it is; none
 /// when the user gives up.
-std::optional<OdString> askForText(const OdString& present, const wchar_t* label = nullptr);
+std::optional<OdString> askForText(const OdString& present, const QString& label = {});
 /// Asks whether the current layer, about to be turned off, is to stay on.
 bool asksToKeepCurrentOn();
 /// Tells that the current layer cannot be frozen.

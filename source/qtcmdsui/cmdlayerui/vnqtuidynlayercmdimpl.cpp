@@ -201,7 +201,7 @@ void VnQtUiDynLayerCmdImpl::slot_BtnCancelClicked(bool)
         canRequest() && std::any_of(list.begin(), list.end(),
                             [](const LayerRecord& record) { return record.isModified(); });
     if (isModified &&
-        hostapi::messageBox(L"是否保存对图层设置的修改？", L"提示", kVnYesNo) == kVnAnswerYes)
+        hostapi::messageBox(tr("是否保存对图层设置的修改？"), tr("提示"), kVnYesNo) == kVnAnswerYes)
         apply();
     reject();
 }

@@ -21,9 +21,12 @@ struct ControllerButton
 
 /// In the order of their ids.
 constexpr ControllerButton kControllers[] = {
-    {LayerIcon::NewLayer, "newLayerButton", QT_TR_NOOP("新建图层")},
-    {LayerIcon::DeleteLayer, "deleteLayerButton", QT_TR_NOOP("删除图层")},
-    {LayerIcon::SetCurrent, "setCurrentButton", QT_TR_NOOP("置为当前")},
+    {LayerIcon::NewLayer, "newLayerButton",
+        QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerCmdImpl", "新建图层")},
+    {LayerIcon::DeleteLayer, "deleteLayerButton",
+        QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerCmdImpl", "删除图层")},
+    {LayerIcon::SetCurrent, "setCurrentButton",
+        QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerCmdImpl", "置为当前")},
 };
 
 } // namespace

@@ -76,7 +76,7 @@ void VnQtUiLayerTransparencyModify::slot_onBtnOkClicked(bool)
     // Text that is no number counts as 0; a negative number is far above the limit when unsigned.
     const int value = m_value->currentText().toInt();
     if (static_cast<unsigned>(value) > kMost) {
-        hostapi::messageBox(L"请输入一个0至90之间的整数", L"", kVnIconWarning);
+        hostapi::messageBox(tr("请输入一个0至90之间的整数"), {}, kVnIconWarning);
         offerValue();
         return;
     }

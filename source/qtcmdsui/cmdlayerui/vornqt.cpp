@@ -3,8 +3,8 @@
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
+#include "moduletexts.h"
 
-#include <QCoreApplication>
 #include <QLoggingCategory>
 
 namespace vnsi {
@@ -22,12 +22,10 @@ void clearAnswers(IElementValueBase& node, const VnQtRequest& request)
         node.SetDataB(key, false);
 }
 
-void reportFailure(const char* cause)
+void reportFailure(const QString& cause)
 {
-    const QString text = QCoreApplication::translate(
-        "vnsi::VnQtRequest", "命令在处理对话框的请求时出错，此次操作没有完成。\n\n原因：%1");
-    hostapi::messageBox(OdString(text.arg(QString::fromUtf8(cause)).toStdWString().c_str()),
-        kProductName, kVnIconWarning);
+    const QString text = Texts::tr("命令在处理对话框的请求时出错，此次操作没有完成。\n\n原因：%1");
+    hostapi::messageBox(text.arg(cause), kProductName, kVnIconWarning);
 }
 
 void logRequest(
@@ -63,9 +61,9 @@ bool VnQtCommandInvoker::hasAnswered(const VnJsonPtr& tree)
         m_command->invoke(tree);
         return true;
     } catch (const std::exception& error) {
-        reportFailure(error.what());
+        reportFailure(QString::fromUtf8(error.what()));
     } catch (...) {
-        reportFailure("未知");
+        reportFailure(Texts::tr("未知"));
     }
     return false;
 }

@@ -1,11 +1,11 @@
 #include "layermarks.h"
 
+#include "benchtexts.h"
 #include "commandinvoker.h"
 #include "hostcodes.h"
 #include "vnmessages.h"
 #include "vnstrings.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 namespace layermarks {
@@ -70,12 +70,10 @@ std::vector<drawing::LayerId> present(CommandContext& context, const std::vector
     if (vanished.isEmpty())
         return ids;
     const QString names = vanished.mid(0, kMostNamesShown).join(QStringLiteral("、"));
-    tell(context,
-        QCoreApplication::translate("Commands", "图层%1%2已不存在，已跳过。")
-            .arg(names,
-                vanished.size() > kMostNamesShown
-                    ? QCoreApplication::translate("Commands", "等 %1 个").arg(vanished.size())
-                    : QString()));
+    tell(context, Texts::tr("图层%1%2已不存在，已跳过。")
+                      .arg(names, vanished.size() > kMostNamesShown
+                                      ? Texts::tr("等 %1 个").arg(vanished.size())
+                                      : QString()));
     return ids;
 }
 
@@ -89,13 +87,14 @@ void tell(CommandContext& context, const QString& text)
 
 void warn(const QString& text)
 {
-    vnsi::vnuiMessageBox(
-        vnsi::vnutQStringToOdString(text), vnsi::kProductName, vnsi::kVnIconWarning);
+    vnsi::vnuiMessageBox(vnsi::vnutQStringToOdString(text),
+        vnsi::vnutQStringToOdString(vnsi::kProductName), vnsi::kVnIconWarning);
 }
 
 bool confirms(const QString& question)
 {
-    return vnsi::vnuiMessageBox(vnsi::vnutQStringToOdString(question), vnsi::kProductName,
+    return vnsi::vnuiMessageBox(vnsi::vnutQStringToOdString(question),
+               vnsi::vnutQStringToOdString(vnsi::kProductName),
                vnsi::kVnYesNo | vnsi::kVnIconQuestion) == vnsi::kVnAnswerYes;
 }
 
@@ -107,8 +106,7 @@ void report(CommandContext& context, const QString& heading, QStringList& proble
     for (const QString& problem : problems.mid(0, kMostProblemsShown))
         text += QLatin1Char('\n') + problem;
     if (problems.size() > kMostProblemsShown) {
-        text += QCoreApplication::translate("Commands", "\n（共 %1 条，其余见命令行）")
-                    .arg(problems.size());
+        text += Texts::tr("\n（共 %1 条，其余见命令行）").arg(problems.size());
         for (const QString& problem : problems)
             context.say(problem);
     }

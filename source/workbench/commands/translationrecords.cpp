@@ -24,15 +24,16 @@ using namespace vnsi::transkey;
 constexpr char kColorIndex[] = "transToColorIndex";
 constexpr char kPlotted[] = "transToPlotted";
 
-/// A plot style in the dialogs' words and in the files'. A layer's own cannot be that of a layer or
+/// A plot style as records and as files name it. A layer's own cannot be that of a layer or
 /// of a block: it stays as it is then.
 struct PlotStyleRow
 {
-    const char* shown;
+    const char* recorded;
     const char* filed;
 };
 
-constexpr PlotStyleRow kPlotStyles[] = {{"普通", "Normal"}, {"ByLayer", ""}, {"ByBlock", ""}};
+constexpr PlotStyleRow kPlotStyles[] = {
+    {vnsi::transkey::kNormalPlotStyle, "Normal"}, {"ByLayer", ""}, {"ByBlock", ""}};
 
 struct OptionRow
 {
@@ -59,16 +60,16 @@ OdString od(const QString& text)
     return vnsi::vnutQStringToOdString(text);
 }
 
-QString shownPlotStyle(const QString& style)
+QString recordedPlotStyle(const QString& style)
 {
-    return style == QLatin1String(kPlotStyles[0].filed) ? QString::fromUtf8(kPlotStyles[0].shown)
+    return style == QLatin1String(kPlotStyles[0].filed) ? QString::fromUtf8(kPlotStyles[0].recorded)
                                                         : style;
 }
 
 QString filedPlotStyle(const QString& style)
 {
     for (const PlotStyleRow& row : kPlotStyles) {
-        if (style == QString::fromUtf8(row.shown))
+        if (style == QString::fromUtf8(row.recorded))
             return QString::fromLatin1(row.filed);
     }
     return style;
@@ -125,7 +126,7 @@ VnJsonPtr TranslationRecords::target(const TargetLayer& target)
     record.setLinetype(target.linetype, numberOf(target.linetypeDefinition));
     record.setLineWidth(target.lineweight, vnsi::lineWidthText(target.lineweight));
     record.setTransparency(target.transparency);
-    record.setPlotStyle(shownPlotStyle(target.plotStyle));
+    record.setPlotStyle(recordedPlotStyle(target.plotStyle));
     record.setUsed(target.used);
     record.node()->SetDataI(kColorIndex, target.colorIndex);
     if (target.plotted)

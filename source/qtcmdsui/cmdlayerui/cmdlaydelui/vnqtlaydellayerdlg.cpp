@@ -19,12 +19,14 @@ namespace {
 
 /// By whether a layer is referenced in blocks, then by whether there are several.
 constexpr const char* kQuestions[2][2] = {
-    {QT_TR_NOOP("图层 %1 将被删除。\n\n此图层上的所有对象或参照此图层的所有对象都将被删除。"),
-        QT_TR_NOOP(
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaydelLayerDlg",
+         "图层 %1 将被删除。\n\n此图层上的所有对象或参照此图层的所有对象都将被删除。"),
+        QT_TRANSLATE_NOOP("vnsi::VnQtLaydelLayerDlg",
             "%1 图层将被删除。\n\n这些图层上的所有对象或参照这些图层的所有对象都将被删除。")},
-    {QT_TR_NOOP("将要删除的图层“%1”，该图层在块中被参照。\n将要删除该图层上的所有对象并重定义已参照"
-                "的块。\n\n是否继续？"),
-        QT_TR_NOOP(
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaydelLayerDlg",
+         "将要删除的图层“%1”，该图层在块中被参照。\n将要删除该图层上的所有对象并重定义已参照"
+         "的块。\n\n是否继续？"),
+        QT_TRANSLATE_NOOP("vnsi::VnQtLaydelLayerDlg",
             "将要删除 %1 个图层，其中某些图层在块中被参照。\n将要删除该图层上的所有对象并重定"
             "义已参照的块。\n\n是否继续？")},
 };
@@ -99,7 +101,7 @@ void VnQtLaydelLayerDlg::slot_SureBtnClicked(bool)
     const QSet<QString> names = layerlist::selectedNames(*m_list);
     const bool inBlocks = isReferencedInBlocks(names);
     const QString text = question(inBlocks, items.size(), items.first()->text());
-    if (!layerlist::confirm(L"图层删除 - 删除确认", text, kVnOkCancel, kVnAnswerOk))
+    if (!layerlist::confirm(tr("图层删除 - 删除确认"), text, kVnOkCancel, kVnAnswerOk))
         return;
     layerlist::mark(LayerRecordList::of(data()), names, kLayerDelete);
     endDialog(1);

@@ -3,15 +3,21 @@
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
+#include "moduletexts.h"
 #include "namerule.h"
 #include "vnstrings.h"
 
 namespace vnsi::layerstates {
 
-OdString badCharactersText()
+QString badCharactersText()
 {
     // Not in the order in which other messages list them; both orders are meant.
-    return L"名称包含不支持的字符。\n 不支持以下字符：\n  \\<>/?\":;*|,=`";
+    return Texts::tr("名称包含不支持的字符。\n 不支持以下字符：\n  \\<>/?\":;*|,=`");
+}
+
+QString badCharactersCaption()
+{
+    return Texts::tr("图层状态 - 不支持的字符");
 }
 
 VnJsonPtr element(const VnJsonPtr& tree, StateElement element)
@@ -35,14 +41,14 @@ bool isFromReference(const VnJsonPtr& state)
         text(state, statekey::kSpace), vnutOdStringToQString(statekey::kReferenceSpace));
 }
 
-int ask(const OdString& caption, const OdString& text,
-    std::initializer_list<const wchar_t*> buttons, int fallback, int icon)
+int ask(
+    const QString& caption, const QString& text, const QStringList& buttons, int fallback, int icon)
 {
     constexpr const char* kKeys[] = {"btnText/0", "btnText/1", "btnText/2", "btnText/3"};
     const VnJsonPtr options = hostapi::makeObject();
     const auto* key = std::begin(kKeys);
-    for (const wchar_t* button : buttons)
-        options->SetDataSW(*key++, button);
+    for (const QString& button : buttons)
+        options->SetDataSW(*key++, vnutQStringToOdString(button));
     return hostapi::messageBoxEx(caption, text, options, kVnCustomButtons, 1, icon, fallback);
 }
 

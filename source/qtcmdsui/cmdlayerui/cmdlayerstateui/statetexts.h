@@ -4,17 +4,15 @@
 #include "statekeys.h"
 #include "vnjson.h"
 
-#include <QString>
-
-#include <initializer_list>
+#include <QStringList>
 
 /// What the dialogs of layer states share.
 namespace vnsi::layerstates {
 
 inline constexpr wchar_t kService[] = L"Dialog/CmdLayer";
-inline constexpr wchar_t kBadCharactersCaption[] = L"图层状态 - 不支持的字符";
-/// What to say of a name with characters that names may not hold.
-OdString badCharactersText();
+/// What to say of a name with characters that names may not hold, and under which caption.
+QString badCharactersText();
+QString badCharactersCaption();
 
 /// The node of a tree that holds the data of `element`; empty when there is none.
 VnJsonPtr element(const VnJsonPtr& tree, StateElement element);
@@ -29,7 +27,7 @@ bool isFromReference(const VnJsonPtr& state);
 
 /// Shows a message with buttons of its own; the number of the button from 0, `fallback` when none
 /// was pressed.
-int ask(const OdString& caption, const OdString& text,
-    std::initializer_list<const wchar_t*> buttons, int fallback, int icon = kVnIconInformation);
+int ask(const QString& caption, const QString& text, const QStringList& buttons, int fallback,
+    int icon = kVnIconInformation);
 
 } // namespace vnsi::layerstates

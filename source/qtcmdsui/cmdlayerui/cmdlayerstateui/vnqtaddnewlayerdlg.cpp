@@ -4,6 +4,7 @@
 #include "dialoghelp.h"
 #include "hostapi/hosttree.h"
 #include "layercells.h"
+#include "moduletexts.h"
 #include "statetexts.h"
 #include "vnstrings.h"
 
@@ -21,8 +22,8 @@ namespace vnsi {
 namespace {
 
 constexpr LayerColumn kColumns[] = {
-    {QT_TR_NOOP("名称"), LayerCell::Text, layerkey::kName},
-    {QT_TR_NOOP("说明"), LayerCell::Text, layerkey::kDescription},
+    {QT_TRANSLATE_NOOP("cmdlayerui", "名称"), LayerCell::Text, layerkey::kName},
+    {QT_TRANSLATE_NOOP("cmdlayerui", "说明"), LayerCell::Text, layerkey::kDescription},
 };
 constexpr int kColumnCount = static_cast<int>(std::size(kColumns));
 
@@ -40,7 +41,8 @@ bool VnQtAddNewLayerDlg::initDialog()
 {
     m_table = new QTableWidget(0, kColumnCount, this);
     m_table->setObjectName(QStringLiteral("candidateTable"));
-    m_table->setHorizontalHeaderLabels({tr(kColumns[0].header), tr(kColumns[1].header)});
+    m_table->setHorizontalHeaderLabels(
+        {Texts::tr(kColumns[0].header), Texts::tr(kColumns[1].header)});
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setHighlightSections(false);

@@ -5,6 +5,7 @@
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
+#include "moduletexts.h"
 #include "namerule.h"
 #include "recordedits.h"
 #include "statetexts.h"
@@ -36,9 +37,9 @@ enum Column {
 };
 
 constexpr LayerColumn kColumns[] = {
-    {QT_TR_NOOP("名称"), LayerCell::MarkedName, layerkey::kName},
+    {QT_TRANSLATE_NOOP("cmdlayerui", "名称"), LayerCell::MarkedName, layerkey::kName},
     layercolumn::kOff,
-    layercolumn::frozen(QT_TR_NOOP("在所有视口中冻结")),
+    layercolumn::frozen(QT_TRANSLATE_NOOP("cmdlayerui", "在所有视口中冻结")),
     layercolumn::kLock,
     layercolumn::kColor,
     layercolumn::kLinetype,
@@ -115,7 +116,7 @@ void VnQtEditLayerStateDlg::setUpTable()
 {
     QStringList headers;
     for (const LayerColumn& column : kColumns)
-        headers.append(tr(column.header));
+        headers.append(Texts::tr(column.header));
     m_table->setColumnCount(kColumnCount);
     m_table->setHorizontalHeaderLabels(headers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -273,8 +274,8 @@ void VnQtEditLayerStateDlg::slot_NewLayerButtonClicked(bool)
 {
     const VnJsonPtr missing = missingLayers();
     if (hostapi::count(missing) == 0) {
-        layerstates::ask(L"图层状态 - 添加图层",
-            L"所有图层都已包含在此图层状态中。没有可添加的图层。", {L"关闭(&C)"}, 0, 0);
+        layerstates::ask(tr("图层状态 - 添加图层"),
+            tr("所有图层都已包含在此图层状态中。没有可添加的图层。"), {tr("关闭(&C)")}, 0, 0);
         return;
     }
     hostapi::Members(state()).set(statekey::kCandidates, missing);

@@ -116,7 +116,7 @@ bool VnQtNewLayerStateDlg::acceptCharacters(const QString& name)
     if (!holdsForbiddenCharacter(name))
         return true;
     layerstates::ask(
-        layerstates::kBadCharactersCaption, layerstates::badCharactersText(), {L"关闭(&C)"}, 0);
+        layerstates::badCharactersCaption(), layerstates::badCharactersText(), {tr("关闭(&C)")}, 0);
     correctName();
     return false;
 }
@@ -129,14 +129,14 @@ bool VnQtNewLayerStateDlg::acceptReplacing(const QString& name)
         if (!isSameName(name, layerstates::text(state, statekey::kName)))
             continue;
         const QString text = tr("%1 已经存在。是否替换?").arg(name);
-        const int answer = layerstates::ask(
-            L"图层状态 - 已经存在", vnutQStringToOdString(text), {L"替换", L"取消"}, kClosed);
+        const int answer =
+            layerstates::ask(tr("图层状态 - 已经存在"), text, {tr("替换"), tr("取消")}, kClosed);
         if (answer == kKeep || answer == kClosed) {
             correctName();
             return false;
         }
         if (answer == kReplace && layerstates::isFromReference(state)) {
-            hostapi::messageBox(L"无法保存图层状态。", kProductName, kVnOk);
+            hostapi::messageBox(tr("无法保存图层状态。"), kProductName, kVnOk);
             return false;
         }
         return true;

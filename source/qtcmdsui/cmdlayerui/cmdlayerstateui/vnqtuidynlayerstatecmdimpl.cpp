@@ -20,6 +20,15 @@ namespace vnsi {
 
 using namespace layerstates;
 
+namespace {
+
+QString referenceSpace()
+{
+    return vnutOdStringToQString(statekey::kReferenceSpace);
+}
+
+} // namespace
+
 /// A check box whose state is kept.
 struct VnQtUiDynLayerStateCmdImpl::SettingRow
 {
@@ -127,13 +136,16 @@ void VnQtUiDynLayerStateCmdImpl::showStates(const VnJsonPtr& states)
 void VnQtUiDynLayerStateCmdImpl::showState(int row, const VnJsonPtr& state)
 {
     const bool isSame = state && state->GetDataB(statekey::kIsSameAsDrawing);
-    const QString texts[] = {text(state, statekey::kName), text(state, statekey::kSpace),
-        isSame ? tr("是") : tr("否"), text(state, statekey::kDescription)};
+    const QString space = text(state, statekey::kSpace);
+    const QString texts[] = {text(state, statekey::kName),
+        space == referenceSpace() ? tr("外部参照") : space, isSame ? tr("是") : tr("否"),
+        text(state, statekey::kDescription)};
     for (int column = 0; column < kColumnCount; ++column) {
         auto* item = new QTableWidgetItem(texts[column]);
         item->setTextAlignment(Qt::AlignCenter);
         m_table->setItem(row, column, item);
     }
+    m_table->item(row, kSpaceColumn)->setData(Qt::UserRole, space);
 }
 
 /// In the order in which they were selected.
@@ -163,10 +175,10 @@ void VnQtUiDynLayerStateCmdImpl::slot_TableCellClicked(int, int) {}
 
 void VnQtUiDynLayerStateCmdImpl::slot_TableitemSelectionChanged()
 {
-    const QString fromReference = vnutOdStringToQString(statekey::kReferenceSpace);
     const std::vector<int> rows = selectedRows();
-    const bool anyFromReference = std::any_of(rows.begin(), rows.end(),
-        [&](int row) { return m_table->item(row, kSpaceColumn)->text() == fromReference; });
+    const bool anyFromReference = std::any_of(rows.begin(), rows.end(), [&](int row) {
+        return m_table->item(row, kSpaceColumn)->data(Qt::UserRole) == referenceSpace();
+    });
     enableFor(rows.size() != 1, rows.empty() || anyFromReference);
     if (rows.size() == 1)
         showMask(nameAt(rows.front()));

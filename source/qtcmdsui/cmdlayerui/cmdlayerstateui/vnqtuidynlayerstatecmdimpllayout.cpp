@@ -14,8 +14,10 @@ namespace vnsi {
 
 namespace {
 
-constexpr const char* kHeaders[] = {
-    QT_TR_NOOP("名称"), QT_TR_NOOP("空间"), QT_TR_NOOP("与 DWG 相同"), QT_TR_NOOP("说明")};
+constexpr const char* kHeaders[] = {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "名称"),
+    QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "空间"),
+    QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "与 DWG 相同"),
+    QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "说明")};
 
 struct MaskRow
 {
@@ -25,17 +27,19 @@ struct MaskRow
 
 // The order on screen is not the bits' order, and two share the letter P; both are meant.
 constexpr MaskRow kMaskRows[] = {
-    {QT_TR_NOOP("开/关(&O)"), kMaskOnOff},
-    {QT_TR_NOOP("冻结/解冻(&F)"), kMaskFreeze},
-    {QT_TR_NOOP("在当前视口中的可见性(&U)"), kMaskCurrentViewport},
-    {QT_TR_NOOP("锁定/解锁(&K)"), kMaskLock},
-    {QT_TR_NOOP("打印/不打印(&P)"), kMaskPlot},
-    {QT_TR_NOOP("颜色(&L)"), kMaskColor},
-    {QT_TR_NOOP("线型(&P)"), kMaskLinetype},
-    {QT_TR_NOOP("线宽(&G)"), kMaskLineweight},
-    {QT_TR_NOOP("透明度(&T)"), kMaskTransparency},
-    {QT_TR_NOOP("打印样式(&V)"), kMaskPlotStyle},
-    {QT_TR_NOOP("新视口冻结/解冻(&Z)"), kMaskNewViewportFreeze},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "开/关(&O)"), kMaskOnOff},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "冻结/解冻(&F)"), kMaskFreeze},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "在当前视口中的可见性(&U)"),
+        kMaskCurrentViewport},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "锁定/解锁(&K)"), kMaskLock},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "打印/不打印(&P)"), kMaskPlot},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "颜色(&L)"), kMaskColor},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "线型(&P)"), kMaskLinetype},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "线宽(&G)"), kMaskLineweight},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "透明度(&T)"), kMaskTransparency},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "打印样式(&V)"), kMaskPlotStyle},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "新视口冻结/解冻(&Z)"),
+        kMaskNewViewportFreeze},
 };
 
 } // namespace

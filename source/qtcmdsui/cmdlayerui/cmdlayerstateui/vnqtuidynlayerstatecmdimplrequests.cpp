@@ -5,6 +5,7 @@
 #include "hostapi/filequestion.h"
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
+#include "moduletexts.h"
 #include "namerule.h"
 #include "recordedits.h"
 #include "statetexts.h"
@@ -23,18 +24,19 @@ namespace {
 
 enum DeleteAnswer { kDeleteThis, kDeleteAll, kKeepThis, kStop };
 
-constexpr wchar_t kDeleteCaption[] = L"图层 - 删除图层状态";
-constexpr wchar_t kStateFilter[] = L"图层状态(*.las)";
-constexpr wchar_t kImportFilter[] = L"图形(*.dwg);;标准(*.dws);;图形样板(*.dwt);;图层状态(*.las)";
+constexpr char kDeleteCaption[] = QT_TRANSLATE_NOOP("cmdlayerui", "图层 - 删除图层状态");
+constexpr char kStateFilter[] = QT_TRANSLATE_NOOP("cmdlayerui", "图层状态(*.las)");
+constexpr char kImportFilter[] =
+    QT_TRANSLATE_NOOP("cmdlayerui", "图形(*.dwg);;标准(*.dws);;图形样板(*.dwt);;图层状态(*.las)");
 
 OdString od(const QString& text)
 {
     return vnutQStringToOdString(text);
 }
 
-bool answersYes(const wchar_t* caption, const QString& question)
+bool answersYes(const QString& caption, const QString& question)
 {
-    return hostapi::messageBoxEx(caption, od(question), hostapi::makeObject(), kVnYesNo, 1,
+    return hostapi::messageBoxEx(caption, question, hostapi::makeObject(), kVnYesNo, 1,
                kVnIconInformation) == kVnAnswerYes;
 }
 
@@ -86,7 +88,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_NewBtnClicked(bool)
 void VnQtUiDynLayerStateCmdImpl::slot_SaveBtnClicked(bool)
 {
     const QString name = selectedName();
-    if (!answersYes(L"图层 - 覆盖图层状态", tr("是否要覆盖%1?").arg(name)) || !canRequest())
+    if (!answersYes(tr("图层 - 覆盖图层状态"), tr("是否要覆盖%1?").arg(name)) || !canRequest())
         return;
     request(kStateSave, [&](IElementValueBase& node) {
         Members(node).set(statekey::kSavedName, od(name)).set(statekey::kMask, mask());
@@ -130,22 +132,21 @@ void VnQtUiDynLayerStateCmdImpl::slot_RenameBtnClicked(bool)
 
 bool VnQtUiDynLayerStateCmdImpl::acceptNewName(const QString& name)
 {
-    const auto refuse = [](const OdString& text, const wchar_t* caption) {
+    const auto refuse = [](const QString& text, const QString& caption) {
         hostapi::messageBox(text, caption, kVnIconInformation);
         return false;
     };
     if (name.isEmpty())
-        return refuse(L"名称 必须至少有一个字符长。", L"图层状态 - 文字长度");
+        return refuse(tr("名称 必须至少有一个字符长。"), tr("图层状态 - 文字长度"));
     if (holdsForbiddenCharacter(name))
-        return refuse(badCharactersText(), kBadCharactersCaption);
+        return refuse(badCharactersText(), badCharactersCaption());
     if (isSameName(name, m_oldName))
         return true;
     const VnJsonPtr all = states();
     for (int i = 0, count = hostapi::count(all); i < count; ++i) {
         if (isSameName(name, text(hostapi::item(all, i), statekey::kName)))
-            return refuse(
-                od(tr("名称 %1 已在使用。").arg(name) + QStringLiteral("\n您需要输入其他名称。")),
-                L"图层状态 - 名称已经存在");
+            return refuse(tr("名称 %1 已在使用。").arg(name) + tr("\n您需要输入其他名称。"),
+                tr("图层状态 - 名称已经存在"));
     }
     return true;
 }
@@ -178,7 +179,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_DeleteBtnClicked(bool)
 
 void VnQtUiDynLayerStateCmdImpl::deleteOne(const QString& name)
 {
-    if (answersYes(kDeleteCaption, tr("是否确实要删除 %1?").arg(name)))
+    if (answersYes(Texts::tr(kDeleteCaption), tr("是否确实要删除 %1?").arg(name)))
         sendDeletion(name);
 }
 
@@ -186,7 +187,8 @@ void VnQtUiDynLayerStateCmdImpl::deleteSeveral(const QStringList& names)
 {
     for (int i = 0; i < names.size(); ++i) {
         const QString question = tr("是否确实要删除图层状态 %1?").arg(names.at(i));
-        switch (ask(kDeleteCaption, od(question), {L"是", L"全部删除", L"否", L"取消"}, kStop)) {
+        switch (ask(Texts::tr(kDeleteCaption), question,
+            {tr("是"), tr("全部删除"), tr("否"), tr("取消")}, kStop)) {
         case kDeleteThis:
             sendDeletion(names.at(i));
             break;
@@ -226,7 +228,9 @@ void VnQtUiDynLayerStateCmdImpl::sendDeletions(const QStringList& names)
 void VnQtUiDynLayerStateCmdImpl::slot_ImportBtnClicked(bool)
 {
     const VnJsonPtr file = askForFile(
-        makeFileQuestion({"输入图层状态", kImportFilter, kStateFilter, true, false}), this);
+        makeFileQuestion(
+            {tr("输入图层状态"), Texts::tr(kImportFilter), Texts::tr(kStateFilter), true, false}),
+        this);
     const VnJsonPtr paths = file ? file->GetDataJ("filePaths") : VnJsonPtr();
     if (!paths)
         return;
@@ -248,8 +252,8 @@ void VnQtUiDynLayerStateCmdImpl::slot_ImportBtnClicked(bool)
 void VnQtUiDynLayerStateCmdImpl::slot_ExportBtnClicked(bool)
 {
     const QString name = selectedName();
-    const VnJsonPtr file =
-        makeFileQuestion({"输出图层状态", kStateFilter, kStateFilter, false, false});
+    const VnJsonPtr file = makeFileQuestion(
+        {tr("输出图层状态"), Texts::tr(kStateFilter), Texts::tr(kStateFilter), false, false});
     if (m_table->currentRow() >= 0)
         setStartPlace(file, od(name));
     const VnJsonPtr answer = askForFile(file, this);

@@ -6,6 +6,7 @@
 #include "layerlistparts.h"
 #include "layerrecord.h"
 #include "layertoolkeys.h"
+#include "moduletexts.h"
 #include "namerule.h"
 #include "vnstrings.h"
 
@@ -24,14 +25,16 @@ namespace {
 bool refuseCharacters()
 {
     return layerlist::refuse(
-        L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  \\<>/\":;?*|,=`", L"图层-不支持的字符");
+        Texts::tr("\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  \\<>/\":;?*|,=`"),
+        Texts::tr("图层-不支持的字符"));
 }
 
 bool acceptName(const QString& name)
 {
     const auto isSpace = [](QChar c) { return c.isSpace(); };
     if (std::all_of(name.begin(), name.end(), isSpace))
-        return layerlist::refuse(L"\n图层名至少必须包含一个字符。", L"图层名无效");
+        return layerlist::refuse(
+            Texts::tr("\n图层名至少必须包含一个字符。"), Texts::tr("图层名无效"));
     // A blank is refused like the thirteen characters, though the message does not list it.
     if (std::any_of(name.begin(), name.end(), isSpace) || holdsForbiddenCharacter(name))
         return refuseCharacters();
@@ -45,7 +48,8 @@ bool acceptNewName(const QString& name)
     if (faults & NameFault::ControlCharacter)
         return refuseCharacters();
     return !(faults & NameFault::TooLong) ||
-           layerlist::refuse(L"\n图层名最多只能包含 255 个字符。", L"图层名无效");
+           layerlist::refuse(
+               Texts::tr("\n图层名最多只能包含 255 个字符。"), Texts::tr("图层名无效"));
 }
 
 } // namespace
@@ -128,9 +132,8 @@ bool VnQtLaymchLayerDlg::isKnown(const QString& name) const
 
 bool VnQtLaymchLayerDlg::confirmNewLayer(const QString& name) const
 {
-    const QString text =
-        QStringLiteral("\n图层\"") + name + QStringLiteral("\"不存在。\n是否创建它？");
-    return layerlist::confirm(L"是否创建图层？", text, kVnYesNo, kVnAnswerYes);
+    const QString text = tr("\n图层\"") + name + tr("\"不存在。\n是否创建它？");
+    return layerlist::confirm(tr("是否创建图层？"), text, kVnYesNo, kVnAnswerYes);
 }
 
 /// The request for a new layer rides on the last record of the list, as commands expect it.

@@ -118,12 +118,13 @@ void VnQtLaymrgLayerDlg::slot_SureBtnClicked(bool)
 bool VnQtLaymrgLayerDlg::acceptTarget(const QString& target) const
 {
     if (holdsForbiddenCharacter(target))
-        return layerlist::refuse(L"\n名称 包含不支持的字符。\n\n\n不支持以下字符:  \\<>/\":;?*|,=`",
-            L"图层-不支持的字符");
+        return layerlist::refuse(
+            tr("\n名称 包含不支持的字符。\n\n\n不支持以下字符:  \\<>/\":;?*|,=`"),
+            tr("图层-不支持的字符"));
     if (!m_names.contains(target))
-        return layerlist::refuse(L"图层名无效", kProductName);
+        return layerlist::refuse(tr("图层名无效"), kProductName);
     if (target.isEmpty())
-        return layerlist::refuse(L"\n\n图层名至少必须包含一个字符。", L"图层名无效。");
+        return layerlist::refuse(tr("\n\n图层名至少必须包含一个字符。"), tr("图层名无效。"));
     return true;
 }
 
@@ -143,7 +144,7 @@ bool VnQtLaymrgLayerDlg::confirm(const QString& target) const
                                ? tr("。\n\n是否继续？")
                                : tr("。\n将重定义已合并图层中参照的所用块。\n\n是否继续？");
     const QString text = what + QLatin1Char(' ') + target + ending;
-    return layerlist::confirm(L"合并到图层", text, kVnYesNo, kVnAnswerYes);
+    return layerlist::confirm(tr("合并到图层"), text, kVnYesNo, kVnAnswerYes);
 }
 
 void VnQtLaymrgLayerDlg::slot_HelpBtnClicked(bool)

@@ -26,13 +26,19 @@ struct MappingColumn
 };
 
 constexpr MappingColumn kColumns[] = {
-    {QT_TR_NOOP("旧图层名"), "A-FLOR-PATT", nullptr},
-    {QT_TR_NOOP("新图层名"), "A-FLOR-PATT", &TargetRecord::name},
-    {QT_TR_NOOP("颜色"), "RGB:255,255,255", &TargetRecord::colorText},
-    {QT_TR_NOOP("线型"), "Continuous", &TargetRecord::linetype},
-    {QT_TR_NOOP("线宽"), "0.25 mm", &TargetRecord::lineWidthText},
-    {QT_TR_NOOP("透明度"), "透明度", &TargetRecord::transparencyText},
-    {QT_TR_NOOP("打印样式"), "Color_255", &TargetRecord::plotStyle},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransQTableWgt", "旧图层名"), "A-FLOR-PATT", nullptr},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransQTableWgt", "新图层名"), "A-FLOR-PATT",
+        &TargetRecord::name},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransQTableWgt", "颜色"), "RGB:255,255,255",
+        &TargetRecord::colorText},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransQTableWgt", "线型"), "Continuous",
+        &TargetRecord::linetype},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransQTableWgt", "线宽"), "0.25 mm",
+        &TargetRecord::lineWidthText},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransQTableWgt", "透明度"), "透明度",
+        &TargetRecord::transparencyText},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransQTableWgt", "打印样式"), "Color_255",
+        &TargetRecord::plotStyleText},
 };
 
 } // namespace

@@ -25,7 +25,7 @@ constexpr int kMostTransparent = 90;
 constexpr int kTransparencyStep = 10;
 constexpr int kFirstLineWidth = 6;
 constexpr int kFirstColor = 1;
-constexpr const char* kPlotStyles[] = {QT_TR_NOOP("普通"), "ByLayer", "ByBlock"};
+constexpr const char* kPlotStyles[] = {transkey::kNormalPlotStyle, "ByLayer", "ByBlock"};
 /// The lineweight picker's codes for the weight of a layer and of a block, and for the usual one.
 constexpr int kWeightOfLayer = -1;
 constexpr int kWeightOfBlock = -2;
@@ -35,7 +35,7 @@ constexpr OdInt16 kColorsOfOthers[] = {256, 0};
 
 bool refuse(const QString& message)
 {
-    hostapi::messageBox(vnutQStringToOdString(message), L"", kVnOk);
+    hostapi::messageBox(message, {}, kVnOk);
     return false;
 }
 
@@ -60,6 +60,21 @@ void showText(QComboBox& box, const QString& entry)
     box.setCurrentIndex(row);
 }
 
+/// The box shows the user's words and keeps the record's.
+void addPlotStyle(QComboBox& box, const QString& style)
+{
+    box.addItem(TargetRecord::plotStyleText(style), style);
+}
+
+void showPlotStyle(QComboBox& box, const QString& style)
+{
+    if (style.isEmpty())
+        return;
+    if (box.findData(style, Qt::UserRole, Qt::MatchFixedString) < 0)
+        addPlotStyle(box, style);
+    box.setCurrentIndex(box.findData(style, Qt::UserRole, Qt::MatchFixedString));
+}
+
 /// Shows the weight if it is offered. A picker tells the weight of the row that it shows alone.
 bool showWeight(VnLineWidthComboBox& box, int weight)
 {
@@ -73,10 +88,9 @@ bool showWeight(VnLineWidthComboBox& box, int weight)
     return false;
 }
 
-/// Also where the picker speaks another language.
-void removeWeight(VnLineWidthComboBox& box, int weight, const QString& entry)
+/// By its weight, as pickers speak any language.
+void removeWeight(VnLineWidthComboBox& box, int weight)
 {
-    removeEntries(box, entry);
     while (showWeight(box, weight))
         box.removeItem(box.currentIndex());
 }
@@ -174,8 +188,8 @@ void VnQtLaytransNewEditWgt::prepareCombos()
 {
     removeEntries(*m_linetype, QStringLiteral("ByLayer"));
     removeEntries(*m_linetype, QStringLiteral("ByBlock"));
-    removeWeight(*m_lineWidth, kWeightOfLayer, QStringLiteral("随层"));
-    removeWeight(*m_lineWidth, kWeightOfBlock, QStringLiteral("随块"));
+    removeWeight(*m_lineWidth, kWeightOfLayer);
+    removeWeight(*m_lineWidth, kWeightOfBlock);
     if (m_lineWidth->count() > kFirstLineWidth + 1)
         m_lineWidth->setCurrentIndex(kFirstLineWidth);
     for (const OdInt16 index : kColorsOfOthers)
@@ -193,7 +207,7 @@ void VnQtLaytransNewEditWgt::prepareCombos()
 
     m_plotStyle->clear();
     for (const char* style : kPlotStyles)
-        m_plotStyle->addItem(tr(style));
+        addPlotStyle(*m_plotStyle, QString::fromUtf8(style));
     m_plotStyle->setCurrentText(QStringLiteral("ByLayer"));
     m_plotStyle->setEnabled(false);
 }
@@ -205,7 +219,7 @@ void VnQtLaytransNewEditWgt::prefill(const TargetRecord& record)
     showLinetype(record.linetype(), record.linetypeId());
     showLineWidth(record);
     m_transparency->setCurrentText(record.transparencyText());
-    showText(*m_plotStyle, record.plotStyle());
+    showPlotStyle(*m_plotStyle, record.plotStyle());
     showColor(record.color());
 }
 
@@ -296,7 +310,8 @@ VnJsonPtr VnQtLaytransNewEditWgt::makeResult(const QString& name, int transparen
     result->SetDataL(kResultColorMethod, color.method);
     result->SetDataL(kResultColorValue, color.value);
     result->SetDataI(kResultTransparency, transparency);
-    result->SetDataSW(kResultPlotStyle, vnutQStringToOdString(m_plotStyle->currentText()));
+    result->SetDataSW(
+        kResultPlotStyle, vnutQStringToOdString(m_plotStyle->currentData().toString()));
     return result;
 }
 

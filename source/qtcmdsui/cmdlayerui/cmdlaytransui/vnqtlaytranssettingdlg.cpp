@@ -21,25 +21,28 @@ struct OptionRow
 
 // One option has no mnemonic; its text is agreed.
 constexpr OptionRow kOptions[] = {
-    {QT_TR_NOOP("强制对象颜色为 ByLayer(&C)"),
-        QT_TR_NOOP(
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt", "强制对象颜色为 ByLayer(&C)"),
+        QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt",
             "指定每一个已转换对象是否采用指定给其图层的颜色。如果选定该选项，每个对象将呈现\n"
             "各自图层的颜色。如果不选择该选项，每个对象将保持其初始颜色。")},
-    {QT_TR_NOOP("强制对象线型为 ByLayer(&L)"),
-        QT_TR_NOOP(
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt", "强制对象线型为 ByLayer(&L)"),
+        QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt",
             "指定每一个已转换对象是否采用指定给其图层的线型。如果选择该选项，每个对象将呈现\n"
             "各自图层的线型。如果不选择该选项，每个对象将保持其初始线型。")},
-    {QT_TR_NOOP("强制对象透明度为 ByLayer"),
-        QT_TR_NOOP("指定每一个已转换对象是否采用指定给其图层的透明度。")},
-    {QT_TR_NOOP("转换块中的对象(&T)"),
-        QT_TR_NOOP("指定是否转换块中嵌套的对象。如果选择该选项，块中嵌套的对象将转换。如果不选\n"
-                   "择该选项，块中嵌套的对象将不转换。")},
-    {QT_TR_NOOP("写入转换日志(&W)"),
-        QT_TR_NOOP("指定是否创建详细说明转换结果的日志文件。如果选择该选项，将在与转换图形相同的\n"
-                   "文件夹中创建日志文件。为该日志文件指定的名称与已转换的图形的名称相同，文件\n"
-                   "扩展名为 .log。如果不选择“写入转换日志”选项，将不创建日志文件。")},
-    {QT_TR_NOOP("选定时显示图层内容(&S)"),
-        QT_TR_NOOP(
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt", "强制对象透明度为 ByLayer"),
+        QT_TRANSLATE_NOOP(
+            "vnsi::VnQtLaytransSettingWgt", "指定每一个已转换对象是否采用指定给其图层的透明度。")},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt", "转换块中的对象(&T)"),
+        QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt",
+            "指定是否转换块中嵌套的对象。如果选择该选项，块中嵌套的对象将转换。如果不选\n"
+            "择该选项，块中嵌套的对象将不转换。")},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt", "写入转换日志(&W)"),
+        QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt",
+            "指定是否创建详细说明转换结果的日志文件。如果选择该选项，将在与转换图形相同的\n"
+            "文件夹中创建日志文件。为该日志文件指定的名称与已转换的图形的名称相同，文件\n"
+            "扩展名为 .log。如果不选择“写入转换日志”选项，将不创建日志文件。")},
+    {QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt", "选定时显示图层内容(&S)"),
+        QT_TRANSLATE_NOOP("vnsi::VnQtLaytransSettingWgt",
             "指定将在绘图区域中显示的图层。如果选择此选项，仅在绘图区域中显示那些在“图层转换器”\n"
             "对话框中选择的图层。如果不选择此选项，将显示图形中的所有图层。")},
 };

@@ -4,6 +4,7 @@
 #include "hostapi/filequestion.h"
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
+#include "moduletexts.h"
 #include "vnqtlaytranslistwgt.h"
 #include "vnstrings.h"
 
@@ -16,10 +17,11 @@ namespace vnsi {
 
 namespace {
 
-constexpr wchar_t kDrawingFilter[] = L"图形(*.dwg)";
-constexpr wchar_t kStandardFilter[] = L"标准(*.dws)";
-constexpr wchar_t kLoadFilters[] = L"图形(*.dwg);;标准(*.dws);;图形样板(*.dwt)";
-constexpr wchar_t kSaveFilters[] = L"图形(*.dwg);;标准(*.dws)";
+constexpr char kDrawingFilter[] = QT_TRANSLATE_NOOP("cmdlayerui", "图形(*.dwg)");
+constexpr char kStandardFilter[] = QT_TRANSLATE_NOOP("cmdlayerui", "标准(*.dws)");
+constexpr char kLoadFilters[] =
+    QT_TRANSLATE_NOOP("cmdlayerui", "图形(*.dwg);;标准(*.dws);;图形样板(*.dwt)");
+constexpr char kSaveFilters[] = QT_TRANSLATE_NOOP("cmdlayerui", "图形(*.dwg);;标准(*.dws)");
 
 OdString od(const QString& text)
 {
@@ -132,8 +134,8 @@ void VnQtUiLaytransCmd::slot_pbFromSelectClicked()
 
 void VnQtUiLaytransCmd::slot_m_pbLoadClicked()
 {
-    const VnJsonPtr question =
-        makeFileQuestion({"选择图形文件", kLoadFilters, kDrawingFilter, true, true});
+    const VnJsonPtr question = makeFileQuestion(
+        {tr("选择图形文件"), Texts::tr(kLoadFilters), Texts::tr(kDrawingFilter), true, true});
     if (!m_loadedFiles.isEmpty())
         setStartPlace(question, od(QFileInfo(m_loadedFiles.first()).absolutePath()));
     const VnJsonPtr chosen = askForFile(question, this);
@@ -273,8 +275,8 @@ void VnQtUiLaytransCmd::slot_m_pbMapListDelete()
 
 void VnQtUiLaytransCmd::slot_m_pbMapListSave()
 {
-    const VnJsonPtr question =
-        makeFileQuestion({"保存图层映射", kSaveFilters, kStandardFilter, false, false});
+    const VnJsonPtr question = makeFileQuestion(
+        {tr("保存图层映射"), Texts::tr(kSaveFilters), Texts::tr(kStandardFilter), false, false});
     setStartPlace(question, od(m_drawingName + QStringLiteral(".dws")));
     const VnJsonPtr chosen = askForFile(question, this);
     if (!chosen)

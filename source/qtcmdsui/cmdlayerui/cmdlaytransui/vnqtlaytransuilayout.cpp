@@ -15,17 +15,18 @@ namespace vnsi {
 
 namespace {
 
-constexpr char kFromHelp[] =
-    QT_TR_NOOP("在当前图形中指定要转换的图层。可以通过在“转换自”列表中选择图层或通过提供选择\n"
-               "过滤器指定图层。");
-constexpr char kToHelp[] = QT_TR_NOOP("列出可以将当前图形的图层转换为哪些图层。");
-constexpr char kFilterHelp[] = QT_TR_NOOP(
+constexpr char kFromHelp[] = QT_TRANSLATE_NOOP("vnsi::VnQtUiLaytransCmd",
+    "在当前图形中指定要转换的图层。可以通过在“转换自”列表中选择图层或通过提供选择\n"
+    "过滤器指定图层。");
+constexpr char kToHelp[] =
+    QT_TRANSLATE_NOOP("vnsi::VnQtUiLaytransCmd", "列出可以将当前图形的图层转换为哪些图层。");
+constexpr char kFilterHelp[] = QT_TRANSLATE_NOOP("vnsi::VnQtUiLaytransCmd",
     "用可包括通配符的命名方式，在“转换自”列表中指定要选择的图层。有关有效通配符的列表，\n"
     "请参见《用户手册》的对图层列表进行过滤和排序中的表格。由选择过滤器指示的图层与之\n"
     "前选择的任意图层一起选定。");
-constexpr char kTableHelp[] =
-    QT_TR_NOOP("列出要转换的所有图层以及图层转换后所具有的特性。可以在该列表中选择图层，\n"
-               "然后使用“编辑”编辑图层特性。");
+constexpr char kTableHelp[] = QT_TRANSLATE_NOOP("vnsi::VnQtUiLaytransCmd",
+    "列出要转换的所有图层以及图层转换后所具有的特性。可以在该列表中选择图层，\n"
+    "然后使用“编辑”编辑图层特性。");
 
 } // namespace
 

@@ -4,6 +4,7 @@
 #include "dialoghelp.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
+#include "moduletexts.h"
 #include "vnqtlaywalklistwgt.h"
 #include "vnstrings.h"
 #include "walksettings.h"
@@ -16,8 +17,6 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-#include <cwchar>
 
 namespace vnsi {
 
@@ -50,26 +49,19 @@ constexpr char kRestoreHelp[] = QT_TRANSLATE_NOOP("vnsi::VnQtLayWalkDlg",
     "<body>退出该对话框时，将图层恢复为先前的状态。如果清除该复选框，则将保存所做的任何更改。</"
     "body>");
 
-constexpr wchar_t kCloseCaption[] = L"图层 - 图层状态更改";
-constexpr wchar_t kCloseQuestion[] = L"关闭对话框时某些图层状态可能会发生更改。希望执行什么操\n作？"
-                                     L"\n您可以通过选择\"退出时恢复\"选项保"
-                                     L"留以前的图层状态设置。";
+constexpr char kCloseQuestion[] =
+    QT_TRANSLATE_NOOP("cmdlayerui", "关闭对话框时某些图层状态可能会发生更改。希望执行什么操\n作？"
+                                    "\n您可以通过选择\"退出时恢复\"选项保留以前的图层状态设置。");
 enum CloseAnswer { kNoAnswer = -1, kGoOn = 0 };
 
 constexpr int kLongestPattern = 1 << 24; // The names of all layers may become one.
 
-/// The title while a filter is on. Built as wide text, which is how it is agreed.
-OdString filteredTitle(int shown, int all)
-{
-    wchar_t title[80];
-    std::swprintf(title, std::size(title), L"图层漫游 - 图层: 第 %d 层，共 %d 层", shown, all);
-    return title;
-}
-
 bool asksToGoOn()
 {
-    return layerstates::ask(kCloseCaption, kCloseQuestion, {L"继续", L"取消"}, kNoAnswer,
-               kVnIconQuestion) == kGoOn;
+    const QString caption = Texts::tr("图层 - 图层状态更改");
+    const QStringList buttons{Texts::tr("继续"), Texts::tr("取消")};
+    return layerstates::ask(
+               caption, Texts::tr(kCloseQuestion), buttons, kNoAnswer, kVnIconQuestion) == kGoOn;
 }
 
 } // namespace
@@ -224,7 +216,7 @@ void VnQtLayWalkDlg::updateTitle()
 {
     const int all = m_layers.count();
     setWindowTitle(m_filter.isOn
-                       ? vnutOdStringToQString(filteredTitle(static_cast<int>(m_rows.size()), all))
+                       ? tr("图层漫游 - 图层: 第 %1 层，共 %2 层").arg(m_rows.size()).arg(all)
                        : tr("图层漫游 - 图层数: %1").arg(all));
 }
 

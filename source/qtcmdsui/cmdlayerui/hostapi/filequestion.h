@@ -2,6 +2,8 @@
 
 #include "vnjson.h"
 
+#include <QString>
+
 class QWidget;
 
 namespace vnsi {
@@ -9,9 +11,9 @@ namespace vnsi {
 /// What the module's own dialogs ask of the host's file dialog.
 struct FileQuestion
 {
-    const char* caption; ///< UTF-8; it is handed over as such, unlike all other texts.
-    const wchar_t* filter;
-    const wchar_t* firstFilter;
+    QString caption; ///< Handed over as UTF-8, unlike all other texts.
+    QString filter;
+    QString firstFilter;
     bool opens;   ///< False to ask for a name to save under.
     bool several; ///< Whether several files may be chosen.
 };

@@ -3,6 +3,7 @@
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
 #include "vnqtfiledialog.h"
+#include "vnstrings.h"
 
 #include <algorithm>
 #include <string>
@@ -101,12 +102,12 @@ hostextras::ResultBuffer* chosenPaths(const IElementValueBase& answer, bool seve
 VnJsonPtr makeFileQuestion(const FileQuestion& question)
 {
     VnJsonPtr tree = hostapi::makeObject();
-    tree->SetDataS(kCaption, question.caption);
+    tree->SetDataS(kCaption, question.caption.toUtf8().constData());
     hostapi::Members(tree)
-        .set(kFilter, question.filter)
+        .set(kFilter, vnutQStringToOdString(question.filter))
         .set(kOpens, question.opens)
         .set(kSeveral, question.several)
-        .set(kFirstFilter, question.firstFilter);
+        .set(kFirstFilter, vnutQStringToOdString(question.firstFilter));
     return tree;
 }
 

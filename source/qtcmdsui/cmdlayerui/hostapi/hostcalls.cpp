@@ -34,6 +34,11 @@ Result guarded(const char* name, Result fallback, Call call)
     return fallback;
 }
 
+OdString od(const QString& text)
+{
+    return vnutQStringToOdString(text);
+}
+
 /// An answer that can be read: the host's, or an object without keys.
 VnJsonPtr readable(const VnJsonPtr& answer)
 {
@@ -70,28 +75,30 @@ QWidget* currentWindow()
         [] { return qt_windowHandle_to_widget(vnuiCurTargetWindow()); });
 }
 
-int messageBox(const OdString& text, const OdString& caption, int style)
+int messageBox(const QString& text, const QString& caption, int style)
 {
-    return guarded("vnuiMessageBox", 0, [&] { return vnuiMessageBox(text, caption, style); });
+    return guarded(
+        "vnuiMessageBox", 0, [&] { return vnuiMessageBox(od(text), od(caption), style); });
 }
 
-int messageBoxEx(const OdString& caption, const OdString& text, const VnJsonPtr& options, int style,
+int messageBoxEx(const QString& caption, const QString& text, const VnJsonPtr& options, int style,
     int code, int icon, int fallback)
 {
-    const VnJsonPtr answer = guarded("vnuiMessageBoxEx", VnJsonPtr(),
-        [&] { return vnuiMessageBoxEx(caption, text, readable(options), style, code, icon); });
+    const VnJsonPtr answer = guarded("vnuiMessageBoxEx", VnJsonPtr(), [&] {
+        return vnuiMessageBoxEx(od(caption), od(text), readable(options), style, code, icon);
+    });
     return answer ? answer->GetDataI("ControlBtn", fallback) : fallback;
 }
 
-int taskDialog(const OdString& title, const OdString& instruction,
-    std::initializer_list<std::pair<int, const wchar_t*>> commands)
+int taskDialog(const QString& title, const QString& instruction,
+    std::initializer_list<std::pair<int, QString>> commands)
 {
     return guarded("CVnUiTaskDialog", static_cast<int>(kVnAnswerCancel), [&] {
         CVnUiTaskDialog dialog;
-        dialog.SetWindowTitle(title);
-        dialog.SetMainInstruction(instruction);
+        dialog.SetWindowTitle(od(title));
+        dialog.SetMainInstruction(od(instruction));
         for (const auto& [id, text] : commands)
-            dialog.AddCommandControl(id, text);
+            dialog.AddCommandControl(id, od(text));
         return dialog.DoModal();
     });
 }

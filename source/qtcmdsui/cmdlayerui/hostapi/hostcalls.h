@@ -9,6 +9,7 @@
 #include <initializer_list>
 #include <utility>
 
+class QString;
 class QWidget;
 
 /// Every call that the module makes into the host while a dialog is open. None of them throws: what
@@ -28,15 +29,15 @@ VnJsonPtr showDialog(
 QWidget* currentWindow();
 
 /// Shows a message; the button pressed, 0 where the host fails.
-int messageBox(const OdString& text, const OdString& caption, int style);
+int messageBox(const QString& text, const QString& caption, int style);
 /// Shows a message with options, which may be empty. The button pressed as "ControlBtn" has it;
 /// `fallback` where the answer lacks it or the host fails.
-int messageBoxEx(const OdString& caption, const OdString& text, const VnJsonPtr& options, int style,
+int messageBoxEx(const QString& caption, const QString& text, const VnJsonPtr& options, int style,
     int code, int icon, int fallback = 0);
 /// Asks with a button for each command, an id and a text. The id chosen; 2 (cancel) where the host
 /// fails.
-int taskDialog(const OdString& title, const OdString& instruction,
-    std::initializer_list<std::pair<int, const wchar_t*>> commands);
+int taskDialog(const QString& title, const QString& instruction,
+    std::initializer_list<std::pair<int, QString>> commands);
 
 /// The tree of a persisted section of the user's settings. Where the host has none it is an object
 /// that nobody keeps, so it may be read and written all the same.
