@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>此图形的格式（DXF R12）不能保存图层过滤器。</source>
-        <translation>This drawing's format (DXF R12) cannot hold layer filters.</translation>
+        <translation>This drawing&apos;s format (DXF R12) cannot hold layer filters.</translation>
     </message>
     <message>
         <source>过滤器已不存在。</source>

@@ -1,17 +1,23 @@
 #include "vncolortext.h"
 
+#include "hosttexts.h"
+#include "vnstrings.h"
+
 #include <string>
 
 namespace vnsi {
 
 namespace {
 
-constexpr const wchar_t* kNames[] = {L"红", L"黄", L"绿", L"青", L"蓝", L"洋红", L"白"};
+constexpr const char* kNames[] = {QT_TRANSLATE_NOOP("host", "红"), QT_TRANSLATE_NOOP("host", "黄"),
+    QT_TRANSLATE_NOOP("host", "绿"), QT_TRANSLATE_NOOP("host", "青"),
+    QT_TRANSLATE_NOOP("host", "蓝"), QT_TRANSLATE_NOOP("host", "洋红"),
+    QT_TRANSLATE_NOOP("host", "白")};
 
 OdString indexText(int index)
 {
     if (index >= 1 && index <= static_cast<int>(std::size(kNames)))
-        return kNames[index - 1];
+        return vnutQStringToOdString(host::Texts::tr(kNames[index - 1]));
     return std::to_wstring(index).c_str();
 }
 

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QString>
+#include <QUrl>
+
+class QWidget;
 
 namespace host {
 
-struct HelpText
-{
-    QString title;
-    QString html;
-};
-
-/// The help of the dialog with this object name; the start page for names without help.
-HelpText helpText(const QString& dialogName);
+/// The manual's page about a window, in the language that texts are shown in: that of the window or
+/// of the nearest one around it that has one, by its object name or its property "helpPage"; else,
+/// and for null, the start page.
+QUrl helpPage(const QWidget* window);
 
 } // namespace host

@@ -2,25 +2,48 @@
 
 #include "helptexts.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
+#include <QImage>
+#include <QKeyEvent>
 #include <QPushButton>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
 namespace host {
 
 namespace {
-constexpr int kWidth = 460;
-constexpr int kHeight = 420;
+
+constexpr int kWidth = 640;
+constexpr int kHeight = 560;
+constexpr int kWidestPicture = 580;
+
+/// Shows pictures no wider than the window is at first.
+class Pages : public QTextBrowser
+{
+protected:
+    QVariant loadResource(int type, const QUrl& name) override
+    {
+        const QVariant resource = QTextBrowser::loadResource(type, name);
+        if (type != QTextDocument::ImageResource)
+            return resource;
+        const QImage picture = QImage::fromData(resource.toByteArray());
+        return picture.width() > kWidestPicture
+                   ? picture.scaledToWidth(kWidestPicture, Qt::SmoothTransformation)
+                   : picture;
+    }
+};
+
 } // namespace
 
-HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_text(new QTextBrowser)
+HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_text(new Pages)
 {
     setObjectName(QStringLiteral("helpWindow"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     m_text->setObjectName(QStringLiteral("helpText"));
-    m_text->setOpenLinks(false);
+    m_text->setAccessibleName(tr("帮助"));
     auto* const buttons = new QDialogButtonBox;
     QPushButton* const close = buttons->addButton(tr("关闭(&C)"), QDialogButtonBox::RejectRole);
     close->setObjectName(QStringLiteral("close"));
@@ -31,28 +54,46 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_text(new QTextBrows
     layout->addWidget(buttons);
     resize(kWidth, kHeight);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
+    connect(m_text, &QTextBrowser::sourceChanged, this, &HelpWindow::showTitle);
 }
 
 void HelpWindow::showFor(QWidget* window, int)
 {
     // As a child of the dialog it belongs to, the window is not blocked by that dialog.
     HelpWindow* help = qobject_cast<HelpWindow*>(window);
-    if (!help && window)
-        help = window->findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
+    QWidget* const owner = window ? window->window() : nullptr;
+    if (!help && owner)
+        help = owner->findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
     if (!help)
-        help = new HelpWindow(window);
+        help = new HelpWindow(owner);
     if (help != window)
-        help->showTopic(window ? window->objectName() : QString());
+        help->m_text->setSource(helpPage(window));
     help->show();
     help->raise();
     help->activateWindow();
 }
 
-void HelpWindow::showTopic(const QString& dialogName)
+/// A page begins with its title.
+void HelpWindow::showTitle()
 {
-    const HelpText text = helpText(dialogName);
-    setWindowTitle(tr("帮助 - %1").arg(text.title));
-    m_text->setHtml(text.html);
+    setWindowTitle(tr("帮助 - %1").arg(m_text->document()->firstBlock().text()));
+}
+
+HelpKey::HelpKey()
+{
+    if (QCoreApplication* const application = QCoreApplication::instance())
+        application->installEventFilter(this);
+}
+
+bool HelpKey::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || !object->isWidgetType() ||
+        !static_cast<QKeyEvent*>(event)->matches(QKeySequence::HelpContents))
+        return false;
+    auto* const widget = static_cast<QWidget*>(object);
+    const bool isHelp = qobject_cast<HelpWindow*>(widget->window());
+    HelpWindow::showFor(isHelp ? widget->window() : widget, 0);
+    return true;
 }
 
 } // namespace host

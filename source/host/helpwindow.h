@@ -6,7 +6,7 @@ class QTextBrowser;
 
 namespace host {
 
-/// The help of one dialog, beside which it stays open.
+/// A page of the manual, which stays open beside the dialog that it is about.
 class HelpWindow : public QDialog
 {
     Q_OBJECT
@@ -14,14 +14,24 @@ class HelpWindow : public QDialog
 public:
     explicit HelpWindow(QWidget* parent);
 
-    /// Shows the help of `window` (the start page where it has none, and for null); the window that
-    /// is open already is used again.
+    /// Shows the page about `window`, and the start page for null; the window that is open already
+    /// is used again.
     static void showFor(QWidget* window, int topic);
 
-    void showTopic(const QString& dialogName);
-
 private:
+    void showTitle();
+
     QTextBrowser* m_text;
+};
+
+/// Opens the manual where F1 is pressed, at the page of the window there.
+class HelpKey : public QObject
+{
+public:
+    HelpKey();
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
 };
 
 } // namespace host

@@ -2,13 +2,14 @@
 
 #include "documents.h"
 #include "editprimitive.h"
+#include "helpwindow.h"
 #include "hostservices.h"
+#include "hosttexts.h"
 #include "requests.h"
 #include "settings.h"
 #include "vnservicedict.h"
 #include "vnstrings.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -32,7 +33,7 @@ constexpr ServiceRow kServices[] = {
 
 } // namespace
 
-Host::Host()
+Host::Host() : m_helpKey(std::make_unique<HelpKey>())
 {
     for (const ServiceRow& row : kServices)
         vnsi::vn_arbitDict_regservice(row.name, row.create());
@@ -50,11 +51,10 @@ QString Host::loadModule(const QString& path)
 {
     unloadModule();
     const auto failure = [&](const QString& cause) {
-        return QCoreApplication::translate("Host", "无法加载模块“%1”: %2")
-            .arg(QDir::toNativeSeparators(path), cause);
+        return Texts::tr("无法加载模块“%1”: %2").arg(QDir::toNativeSeparators(path), cause);
     };
     if (!QFileInfo(path).isFile())
-        return failure(QCoreApplication::translate("Host", "文件不存在"));
+        return failure(Texts::tr("文件不存在"));
     try {
         m_module = odrxLoadModule(vnsi::vnutQStringToOdString(path));
     } catch (const OdError& error) {

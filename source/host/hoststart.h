@@ -3,7 +3,10 @@
 #include "platformextras.h"
 #include "vnsidef.h"
 
+#include <QObject>
 #include <QString>
+
+#include <memory>
 
 namespace host {
 
@@ -26,6 +29,7 @@ public:
 
 private:
     OdRxModulePtr m_module;
+    std::unique_ptr<QObject> m_helpKey;
 };
 
 } // namespace host

@@ -2,6 +2,7 @@
 
 #include "hostcodes.h"
 #include "hostfrontend.h"
+#include "hosttexts.h"
 #include "hostwindows.h"
 #include "readable.h"
 #include "valuetree.h"
@@ -9,7 +10,6 @@
 #include "vnrequests.h"
 #include "vnstrings.h"
 
-#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -22,11 +22,6 @@ namespace {
 constexpr int kButtonBits = 0x0F;
 constexpr int kIconBits = 0xF0;
 constexpr const char* kCustomTextKeys[] = {"btnText/0", "btnText/1", "btnText/2", "btnText/3"};
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("MessageBox", text);
-}
 
 struct Button
 {
@@ -52,14 +47,14 @@ std::vector<Button> customButtons(const vnsi::VnJsonPtr& options)
 /// The buttons of a style in the order they stand; the last one is the cancelling one.
 std::vector<Button> buttonsOf(const Message& message)
 {
-    const Button ok{tr("确定"), QMessageBox::AcceptRole, vnsi::kVnAnswerOk};
+    const Button ok{Texts::tr("确定"), QMessageBox::AcceptRole, vnsi::kVnAnswerOk};
     std::vector<Button> custom;
     switch (message.style & kButtonBits) {
     case vnsi::kVnOkCancel:
-        return {ok, {tr("取消"), QMessageBox::RejectRole, vnsi::kVnAnswerCancel}};
+        return {ok, {Texts::tr("取消"), QMessageBox::RejectRole, vnsi::kVnAnswerCancel}};
     case vnsi::kVnYesNo:
-        return {{tr("是(&Y)"), QMessageBox::YesRole, vnsi::kVnAnswerYes},
-            {tr("否(&N)"), QMessageBox::NoRole, vnsi::kVnAnswerNo}};
+        return {{Texts::tr("是(&Y)"), QMessageBox::YesRole, vnsi::kVnAnswerYes},
+            {Texts::tr("否(&N)"), QMessageBox::NoRole, vnsi::kVnAnswerNo}};
     case vnsi::kVnCustomButtons:
         custom = customButtons(message.options);
         return custom.empty() ? std::vector<Button>{ok} : custom;

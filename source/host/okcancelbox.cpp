@@ -1,6 +1,7 @@
 #include "okcancelbox.h"
 
-#include <QCoreApplication>
+#include "hosttexts.h"
+
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -9,12 +10,9 @@ namespace host {
 
 QDialogButtonBox* makeOkCancelBox(QDialog& dialog)
 {
-    const auto tr = [](const char* text) {
-        return QCoreApplication::translate("DialogButtons", text);
-    };
     auto* const box = new QDialogButtonBox;
-    QPushButton* const ok = box->addButton(tr("确定"), QDialogButtonBox::AcceptRole);
-    QPushButton* const cancel = box->addButton(tr("取消"), QDialogButtonBox::RejectRole);
+    QPushButton* const ok = box->addButton(Texts::tr("确定"), QDialogButtonBox::AcceptRole);
+    QPushButton* const cancel = box->addButton(Texts::tr("取消"), QDialogButtonBox::RejectRole);
     ok->setObjectName(QStringLiteral("ok"));
     ok->setDefault(true);
     cancel->setObjectName(QStringLiteral("cancel"));

@@ -32,14 +32,6 @@ int refuseNothing()
     return kMisuse;
 }
 
-/// "--language" counts for help and refusals too, so it is looked for before all else.
-QString languageOf(const QStringList& words)
-{
-    const int at = words.indexOf(QStringLiteral("--language"));
-    const QStringList joined = words.filter(QStringLiteral("--language="));
-    return at >= 0 ? words.value(at + 1) : joined.value(0).section(QLatin1Char('='), 1);
-}
-
 /// The verb that help is asked for; empty for all of them.
 QString helpTopic(const QStringList& words)
 {
@@ -101,6 +93,6 @@ int main(int argc, char** argv)
     const QStringList words = verbFirst(QCoreApplication::arguments());
     if (words.value(1) == QLatin1String(kWorkerOption))
         return runWorker();
-    useLanguage(languageOf(words));
+    useLanguage(language::asked(words));
     return run(words);
 }

@@ -117,7 +117,8 @@ OptionRow formatOption(const char* formats)
 OptionRow languageOption()
 {
     return {"language", OptionKind::Choice,
-        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), "zh en", false, false};
+        QT_TRANSLATE_NOOP("layertool", "显示的语言；不给时依区域设置。"), language::kCodes, false,
+        false};
 }
 
 OptionRow mergeOption()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "language.h"
+
 #include <QCoreApplication>
 
 namespace layertool {
@@ -10,5 +12,11 @@ class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(layertool)
 };
+
+/// Shows the program's texts in a language: "zh", "en", or that of the locale where it is empty.
+inline void useLanguage(const QString& code)
+{
+    language::use(code, {QStringLiteral("drawing"), QStringLiteral("layertool")});
+}
 
 } // namespace layertool

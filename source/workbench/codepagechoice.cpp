@@ -1,34 +1,29 @@
 #include "codepagechoice.h"
 
+#include "benchtexts.h"
 #include "file/codepages.h"
 #include "file/textcodec.h"
 #include "messages.h"
 
-#include <QCoreApplication>
 #include <QInputDialog>
 
 #include <algorithm>
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("CodePageChoice", text);
-}
-
 } // namespace
 
 std::optional<QByteArray> chooseCodePage(QWidget* parent, const drawing::TextCodec* now)
 {
-    QStringList titles{tr("按图形的声明")};
+    QStringList titles{Texts::tr("按图形的声明")};
     for (const drawing::CodePage& page : drawing::codePages())
         titles += drawing::codePageTitle(page.charset);
-    const QString title = tr("代码页");
+    const QString title = Texts::tr("代码页");
     QString chosen = now ? now->title() : titles.first();
     for (;;) {
         bool isChosen = false;
         chosen = QInputDialog::getItem(parent, title,
-            tr("图形中的文字按哪个代码页读取（也可以输入名称，如 ISO8859-15）："), titles,
+            Texts::tr("图形中的文字按哪个代码页读取（也可以输入名称，如 ISO8859-15）："), titles,
             std::max(0, titles.indexOf(chosen)), true, &isChosen);
         if (!isChosen)
             return {};
@@ -39,6 +34,6 @@ std::optional<QByteArray> chooseCodePage(QWidget* parent, const drawing::TextCod
         QByteArray name = chosen.trimmed().toUtf8();
         if (drawing::TextCodec::ofCodePage({name.constData(), static_cast<size_t>(name.size())}))
             return name;
-        messages::showWarning(parent, title, tr("没有代码页“%1”。").arg(chosen));
+        messages::showWarning(parent, title, Texts::tr("没有代码页“%1”。").arg(chosen));
     }
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "benchtexts.h"
 #include "commands/command.h"
 
-#include <QCoreApplication>
 #include <QString>
 
 #include <memory>
@@ -16,7 +16,7 @@ struct CommandRow
     std::unique_ptr<LayerCommand> (*make)(const char* name);
 
     std::unique_ptr<LayerCommand> create() const { return make(name); }
-    QString displayTitle() const { return QCoreApplication::translate("Commands", title); }
+    QString displayTitle() const { return Texts::tr(title); }
 };
 
 /// The layer commands in the order of the menu.

@@ -1,10 +1,10 @@
 #include "gallery.h"
 
+#include "benchtexts.h"
 #include "canvas.h"
 #include "mainwindow.h"
 #include "statusfields.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPixmap>
@@ -14,8 +14,7 @@ drawing::Expected<void> savePicture(QWidget& widget, const QString& path)
     QDir().mkpath(QFileInfo(path).absolutePath());
     if (widget.grab().save(path, "PNG"))
         return {};
-    return drawing::refusal(QCoreApplication::translate("Gallery", "无法写入图片“%1”。")
-                                .arg(QDir::toNativeSeparators(path)));
+    return drawing::refusal(Texts::tr("无法写入图片“%1”。").arg(QDir::toNativeSeparators(path)));
 }
 
 drawing::Expected<void> writeSheets(MainWindow& window, const QString& folder)

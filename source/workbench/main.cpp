@@ -1,7 +1,10 @@
+#include "benchtexts.h"
 #include "documents.h"
 #include "gallery.h"
 #include "hoststart.h"
 #include "hostwindows.h"
+#include "language.h"
+#include "languagemenu.h"
 #include "layerlist.h"
 #include "mainwindow.h"
 #include "messages.h"
@@ -9,9 +12,7 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QLibraryInfo>
 #include <QThread>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -128,10 +129,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(QStringLiteral("layerbench"));
     QApplication::setApplicationVersion(QStringLiteral(LAYERBENCH_VERSION));
     QApplication::setOrganizationName(QStringLiteral("layerbench"));
-    QTranslator translator;
-    if (translator.load(
-            QStringLiteral("qtbase_zh_CN"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&translator);
+    LanguageMenu::useLanguage(language::asked(QApplication::arguments()));
 
     const auto options = parseOptions(QApplication::arguments());
     if (!options) {
@@ -141,8 +139,8 @@ int main(int argc, char* argv[])
     if (options->list)
         return printList(*options);
     if (!display && !options->isBatch()) {
-        print(stderr, QStringLiteral("layerbench: 没有可用的显示；"
-                                     "可用 --gallery、--screenshot 或 --list。\n"));
+        print(stderr,
+            Texts::tr("layerbench: 没有可用的显示；可用 --gallery、--screenshot 或 --list。\n"));
         return Failed;
     }
     host::Host host;

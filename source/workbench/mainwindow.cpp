@@ -8,6 +8,8 @@
 #include "entitypick.h"
 #include "file/drawingfile.h"
 #include "geometry/geometry.h"
+#include "hostfrontend.h"
+#include "languagemenu.h"
 #include "layerpanel.h"
 #include "messages.h"
 #include "recentfiles.h"
@@ -21,6 +23,7 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QToolBar>
 
@@ -46,6 +49,13 @@ QString draggedFile(const QMimeData* data)
             return url.toLocalFile();
     }
     return {};
+}
+
+/// A menu's title as running text: Chinese ones have the mnemonic in brackets behind them.
+QString withoutMnemonic(QString title)
+{
+    static const QRegularExpression mark(QStringLiteral("\\(&.\\)|&|\\.\\.\\.$"));
+    return title.remove(mark);
 }
 
 } // namespace
@@ -86,6 +96,8 @@ const MainWindow::ActionRow MainWindow::kActions[] = {
         &MainWindow::toggleBackground},
     {"LWDISPLAY", QT_TR_NOOP("显示线宽(&W)"), nullptr, QKeySequence::UnknownKey, ActionRow::View,
         &MainWindow::toggleLineweights},
+    {"HELP", QT_TR_NOOP("手册(&M)"), nullptr, QKeySequence::UnknownKey, ActionRow::Help,
+        &MainWindow::help},
     {"ABOUT", QT_TR_NOOP("关于(&A)..."), nullptr, QKeySequence::UnknownKey, ActionRow::Help,
         &MainWindow::about},
 };
@@ -93,6 +105,7 @@ const MainWindow::ActionRow MainWindow::kActions[] = {
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("mainWindow"));
+    setProperty("helpPage", QStringLiteral("workbench"));
     setWindowIcon(QIcon(QStringLiteral(":/workbench/app-64.png")));
     setAcceptDrops(true);
     m_canvas = new Canvas(this);
@@ -125,8 +138,8 @@ void MainWindow::createActions()
         auto* made = new QAction(title, this);
         made->setObjectName(QLatin1String(name));
         // The name to type comes behind the title, whose mnemonic is the menu's alone.
-        made->setToolTip(QStringLiteral("%1 (%2)").arg(
-            title.section(QLatin1Char('('), 0, 0), QLatin1String(name)));
+        made->setToolTip(
+            QStringLiteral("%1 (%2)").arg(withoutMnemonic(title), QLatin1String(name)));
         menu->addAction(made);
         if (icon) {
             made->setIcon(QIcon(QStringLiteral(":/workbench/%1.png").arg(QLatin1String(icon))));
@@ -154,6 +167,10 @@ void MainWindow::createActions()
     action("BACKGROUND")->setCheckable(true);
     action("LWDISPLAY")->setCheckable(true);
     m_status->addSwitch(action("LWDISPLAY"), tr("线宽"));
+    auto* const languages = new LanguageMenu(this);
+    menus[ActionRow::View]->addMenu(languages);
+    connect(languages, &LanguageMenu::said, this,
+        [this](const QString& text) { m_commandLine->say(text); });
 }
 
 void MainWindow::createCommandLine()
@@ -179,6 +196,7 @@ void MainWindow::createCommandLine()
 void MainWindow::createLayerPanel()
 {
     m_panel = new LayerPanel(this);
+    m_panel->setProperty("helpPage", QStringLiteral("layer-panel"));
     auto* dock = new QDockWidget(tr("图层"), this);
     dock->setObjectName(QStringLiteral("layerDock"));
     dock->setWidget(m_panel);
@@ -546,6 +564,12 @@ void MainWindow::toggleLineweights()
 {
     m_canvas->setShowsLineweights(!m_canvas->showsLineweights());
     updateState();
+}
+
+/// F1 goes the same way, at the page of the part of the window that has the focus.
+void MainWindow::help()
+{
+    host::hostFrontEnd().help(0);
 }
 
 void MainWindow::about()

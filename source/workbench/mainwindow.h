@@ -76,6 +76,7 @@ private:
     void zoomToExtents();
     void toggleBackground();
     void toggleLineweights();
+    void help();
     void about();
 
     QString askForFile();

@@ -4,12 +4,9 @@
 import pathlib
 import re
 import shutil
-import subprocess
 import sys
 import tempfile
 import xml.etree.ElementTree as ElementTree
-
-SOURCES = {"layertool_en.ts": "source/layertool", "drawing_en.ts": "source/drawing"}
 
 
 def messages(path):
@@ -33,27 +30,27 @@ def faults_of_message(message):
         yield f"other placeholders: {source} / {text}"
 
 
-def faults(lupdate, root, name, folder):
-    path = root / "translations" / name
-    for _, message in messages(path):
-        yield from faults_of_message(message)
+def faults(lupdate, root):
+    translations = root / "translations"
+    sys.path.insert(0, str(translations))
+    from update import update
+    names = sorted(path.name for path in translations.glob("*.ts"))
     with tempfile.TemporaryDirectory() as scratch:
-        fresh = pathlib.Path(scratch) / name
-        shutil.copy(path, fresh)
-        done = subprocess.run(
-            [lupdate, "-silent", "-locations", "none", "-no-obsolete", str(root / folder), "-ts", str(fresh)],
-            capture_output=True, text=True, check=True)
+        for name in names:
+            shutil.copy(translations / name, scratch)
         # A text it could not read is one it would not miss.
-        yield from (f"lupdate: {line}" for line in done.stderr.splitlines())
-        known, now = ({(context, message.findtext("source")) for context, message in messages(each)}
-                      for each in (path, fresh))
-        yield from (f"without a translation: {context}: {source}" for context, source in sorted(now - known))
-        yield from (f"no longer in the sources: {context}: {source}" for context, source in sorted(known - now))
+        yield from update(lupdate, scratch)
+        for name in names:
+            yield from (f"{name}: {fault}" for _, message in messages(translations / name)
+                        for fault in faults_of_message(message))
+            known, now = ({(context, message.findtext("source")) for context, message in messages(each / name)}
+                          for each in (translations, pathlib.Path(scratch)))
+            yield from (f"{name}: without a translation: {text}" for text in sorted(now - known))
+            yield from (f"{name}: no longer in the sources: {text}" for text in sorted(known - now))
 
 
 def main():
-    lupdate, root = sys.argv[1], pathlib.Path(sys.argv[2])
-    found = [f"{name}: {fault}" for name, folder in SOURCES.items() for fault in faults(lupdate, root, name, folder)]
+    found = list(faults(sys.argv[1], pathlib.Path(sys.argv[2])))
     print("\n".join(found))
     return 1 if found else 0
 

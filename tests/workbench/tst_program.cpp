@@ -48,6 +48,9 @@ private slots:
         row("help", {"--help"}, 0, "--gallery");
         row("version", {"--version"}, 0, "layerbench 1.");
         row("unknown option", {"--frobnicate"}, 2, "frobnicate");
+        row("help in English", {"--language", "en", "--help"}, 0, "Paint each dialog");
+        row("refusal in English", {"--language=en", "--list"}, 2, "needs a drawing");
+        row("unknown language", {"--language", "fr"}, 2, "fr");
         row("two drawings", {drawing, drawing}, 2, "一次只能");
         row("unknown command", {"--command", "LAYZ"}, 2, "LAYZ");
         row("a list of nothing", {"--list"}, 2, "--list");

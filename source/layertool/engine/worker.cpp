@@ -5,7 +5,6 @@
 #include "filecause.h"
 #include "formats/printer.h"
 #include "interruption.h"
-#include "language.h"
 #include "texts.h"
 #include "verb.h"
 

@@ -20,9 +20,9 @@
 namespace {
 
 /// So many vertices are painted in less time than a frame takes.
-constexpr std::size_t kCheapVertices = 20'000;
+constexpr std::size_t kCheapVertices = 20000;
 /// Beyond this many vertices smooth lines cost more than they show.
-constexpr std::size_t kSmoothVertices = 400'000;
+constexpr std::size_t kSmoothVertices = 400000;
 constexpr double kReachPixels = 4; ///< How far from a line a click still hits it.
 
 } // namespace

@@ -11,7 +11,7 @@
 namespace {
 
 /// Dashes cost time; more than these are drawn solid.
-constexpr std::size_t kMostDashed = 50'000;
+constexpr std::size_t kMostDashed = 50000;
 constexpr QRgb kBright = 0xff3d9bff; // Stands out on black and on white.
 
 void paintPart(QPainter& painter, const QPolygonF& part)

@@ -22,10 +22,10 @@ namespace {
 
 /// Long enough that reading what blocks hold is done few times, short enough that an edit of one
 /// entity is shown within a frame or two.
-constexpr std::size_t kPartLength = 32'768;
+constexpr std::size_t kPartLength = 32768;
 /// Drawings with no more than this are flattened at once.
-constexpr std::size_t kEntitiesAtOnce = 5'000;
-constexpr GeometryAmount kRoomAtOnce{100'000, 10'000, 2'000};
+constexpr std::size_t kEntitiesAtOnce = 5000;
+constexpr GeometryAmount kRoomAtOnce{100000, 10000, 2000};
 constexpr int kPublishMilliseconds = 100;
 /// Posted by a thread that has finished a part.
 constexpr auto kPartBuilt = static_cast<QEvent::Type>(QEvent::User + 1);

@@ -1,12 +1,11 @@
 #include "laydelcommand.h"
 
+#include "benchtexts.h"
 #include "drawing.h"
 #include "layermarks.h"
 #include "layertoolkeys.h"
 #include "posing.h"
 #include "recordprovider.h"
-
-#include <QCoreApplication>
 
 using vnsi::VnJsonPtr;
 
@@ -16,11 +15,6 @@ namespace key = vnsi::layerkey;
 
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaydel";
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerDeleteCommand", text);
-}
 
 } // namespace
 
@@ -45,7 +39,7 @@ void LayerDeleteCommand::run(CommandContext& context)
     if (const auto deleted = drawing.deleteLayers(layers); !deleted)
         layermarks::warn(deleted.error().text);
     else
-        context.say(tr("已删除 %1 个图层。").arg(layers.size()));
+        context.say(Texts::tr("已删除 %1 个图层。").arg(layers.size()));
 }
 
 /// Whether any of the selected layers is used inside a block definition.

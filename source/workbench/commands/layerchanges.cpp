@@ -1,12 +1,11 @@
 #include "layerchanges.h"
+#include "benchtexts.h"
 #include "hostextras.h"
 #include "valuetree.h"
 
 #include "drawing.h"
 #include "layerrenaming.h"
 #include "recordprovider.h"
-
-#include <QCoreApplication>
 
 #include <utility>
 
@@ -51,8 +50,7 @@ void LayerChanges::rename(const Records& records)
     }
     for (const drawing::LayerRenamed& renamed : drawing::renameLayers(m_drawing, renames)) {
         if (renamed.outcome == drawing::LayerRenamed::Outcome::Refused)
-            m_refusals += QCoreApplication::translate(
-                "LayerPropertiesCommand", "图层“%1”没有重命名为“%2”：%3")
+            m_refusals += Texts::tr("图层“%1”没有重命名为“%2”：%3")
                               .arg(renamed.from, renamed.to, renamed.cause);
     }
 }

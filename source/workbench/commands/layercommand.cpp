@@ -1,4 +1,5 @@
 #include "layercommand.h"
+#include "benchtexts.h"
 #include "hostextras.h"
 
 #include "commandinvoker.h"
@@ -9,7 +10,6 @@
 #include "posing.h"
 #include "recordprovider.h"
 
-#include <QCoreApplication>
 #include <QSet>
 #include <QSettings>
 
@@ -25,11 +25,6 @@ namespace key = vnsi::layerkey;
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLayer";
 constexpr char kWidthsSetting[] = "layerColumnWidths";
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerPropertiesCommand", text);
-}
 
 /// The widths that the columns had when the dialog told them last, for the next opening.
 void storeWidths(const VnJsonPtr& tree)
@@ -64,7 +59,7 @@ QString freeName(const LayerRecordList& layers)
     QString name;
     int number = 0;
     do {
-        name = tr("图层%1").arg(++number);
+        name = Texts::tr("图层%1").arg(++number);
     } while (taken.contains(vnsi::foldedName(name)));
     return name;
 }
@@ -132,7 +127,7 @@ void LayerPropertiesCommand::apply(CommandContext& context, const VnJsonPtr& tre
     drawing.publishStep();
     for (const QString& notice : drawing.takeNotices())
         context.say(notice);
-    layermarks::report(context, tr("有 %1 项修改未能应用：").arg(refusals.size()), refusals);
+    layermarks::report(context, Texts::tr("有 %1 项修改未能应用：").arg(refusals.size()), refusals);
 }
 
 void LayerPropertiesCommand::pose(CommandContext& context, const Camera& camera)

@@ -1,4 +1,5 @@
 #include "layerstatecommand.h"
+#include "benchtexts.h"
 #include "hostextras.h"
 
 #include "commandinvoker.h"
@@ -16,7 +17,6 @@
 #include "vnmessages.h"
 #include "vnstrings.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -58,11 +58,6 @@ constexpr bool masksAgree()
 }
 
 static_assert(masksAgree(), "masks are handed on as they are");
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerStateCommand", text);
-}
 
 QString text(const VnJsonPtr& node, const char* key)
 {
@@ -153,7 +148,7 @@ void LayerStateCommand::showStates(const std::vector<LayerState>& states)
         hostextras::append(list, entry);
     }
     m_manager->SetDataJ(key::kList, list);
-    m_manager->SetDataSW(key::kCurrent, od(current.isEmpty() ? tr("*未保存*") : current));
+    m_manager->SetDataSW(key::kCurrent, od(current.isEmpty() ? Texts::tr("*未保存*") : current));
 }
 
 /// The state that a request names. One that is gone is told.
@@ -162,8 +157,8 @@ std::optional<LayerState> LayerStateCommand::named(const VnJsonPtr& node, const 
     const QString name = text(node, key);
     auto state = drawing().layerState(name);
     if (!state) {
-        m_problems += tr("图形中没有图层状态“%1”。").arg(name);
-        report(tr("图层状态没有改动："));
+        m_problems += Texts::tr("图形中没有图层状态“%1”。").arg(name);
+        report(Texts::tr("图层状态没有改动："));
     }
     return state;
 }
@@ -177,7 +172,7 @@ bool LayerStateCommand::done(const drawing::Expected<void>& outcome)
         m_context->step->takeBack();
         m_problems += outcome.error().text;
     }
-    report(tr("图层状态没有改动："));
+    report(Texts::tr("图层状态没有改动："));
     return outcome.has_value();
 }
 
@@ -286,7 +281,7 @@ void LayerStateCommand::restore(const VnJsonPtr& node)
     m_current = state->name;
     if (how.viewportOverrides)
         tellOfOverrides(*state);
-    report(tr("图层状态“%1”已恢复，但以下内容除外：").arg(state->name));
+    report(Texts::tr("图层状态“%1”已恢复，但以下内容除外：").arg(state->name));
     node->SetDataB(key::kRestoreCloses, true);
 }
 
@@ -296,9 +291,9 @@ void LayerStateCommand::tellOfOverrides(const LayerState& state)
     if (!drawing().checkViewport())
         return;
     const QString& layout = drawing().layouts()[static_cast<size_t>(drawing().shownLayout())].name;
-    m_context->say(tr("图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于“%2”的当前"
-                      "视口；画布不显示视口替代。")
-                       .arg(state.name, layout.isEmpty() ? tr("布局") : layout));
+    m_context->say(Texts::tr("图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于“%2”的当前"
+                             "视口；画布不显示视口替代。")
+                       .arg(state.name, layout.isEmpty() ? Texts::tr("布局") : layout));
 }
 
 void LayerStateCommand::importStates(const VnJsonPtr& node)
@@ -310,7 +305,8 @@ void LayerStateCommand::importStates(const VnJsonPtr& node)
             node->GetDataB(key::kImportSkipsReferences));
     const std::vector<LayerState> chosen = import.choose();
     m_problems += import.problems();
-    report(chosen.empty() ? tr("没有输入图层状态：") : tr("图层状态已输入，但以下内容除外："));
+    report(chosen.empty() ? Texts::tr("没有输入图层状态：")
+                          : Texts::tr("图层状态已输入，但以下内容除外："));
     if (chosen.empty() || !put(chosen))
         return;
     showStates(drawing().layerStates());
@@ -327,8 +323,8 @@ bool LayerStateCommand::offersRestore(const std::vector<LayerState>& imported)
         return false;
     const QString question =
         imported.size() == 1
-            ? tr("已输入图层状态“%1”。是否立即恢复?").arg(last)
-            : tr("已输入 %1 个图层状态。是否立即恢复“%2”?").arg(imported.size()).arg(last);
+            ? Texts::tr("已输入图层状态“%1”。是否立即恢复?").arg(last)
+            : Texts::tr("已输入 %1 个图层状态。是否立即恢复“%2”?").arg(imported.size()).arg(last);
     return layermarks::confirms(question);
 }
 
@@ -341,9 +337,9 @@ void LayerStateCommand::exportState(const VnJsonPtr& node)
     if (QFileInfo(path).suffix().isEmpty())
         path += QStringLiteral(".las");
     if (const auto written = drawing::writeLayerStateFile(path, {*state}); written)
-        m_context->say(
-            tr("图层状态“%1”已输出到“%2”。").arg(state->name, QDir::toNativeSeparators(path)));
+        m_context->say(Texts::tr("图层状态“%1”已输出到“%2”。")
+                           .arg(state->name, QDir::toNativeSeparators(path)));
     else
         m_problems += written.error().text;
-    report(tr("图层状态没有输出："));
+    report(Texts::tr("图层状态没有输出："));
 }

@@ -1,5 +1,6 @@
 #include "layerstateimport.h"
 
+#include "benchtexts.h"
 #include "drawing.h"
 #include "hostcodes.h"
 #include "namerule.h"
@@ -7,7 +8,6 @@
 #include "vnmessages.h"
 #include "vnstrings.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
@@ -26,34 +26,30 @@ struct ButtonRow
 };
 
 constexpr ButtonRow kButtons[] = {
-    {"btnText/0", QT_TRANSLATE_NOOP("LayerStateCommand", "覆盖")},
-    {"btnText/1", QT_TRANSLATE_NOOP("LayerStateCommand", "全部覆盖")},
-    {"btnText/2", QT_TRANSLATE_NOOP("LayerStateCommand", "跳过")},
-    {"btnText/3", QT_TRANSLATE_NOOP("LayerStateCommand", "取消")},
+    {"btnText/0", QT_TRANSLATE_NOOP("workbench", "覆盖")},
+    {"btnText/1", QT_TRANSLATE_NOOP("workbench", "全部覆盖")},
+    {"btnText/2", QT_TRANSLATE_NOOP("workbench", "跳过")},
+    {"btnText/3", QT_TRANSLATE_NOOP("workbench", "取消")},
 };
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerStateCommand", text);
-}
 
 /// The first few of the names and how many there are.
 QString shortList(const QStringList& names)
 {
     constexpr int kMost = 5;
-    const QString first = QStringList(names.mid(0, kMost)).join(tr("、"));
-    return names.size() > kMost ? tr("%1等 %2 个").arg(first).arg(names.size()) : first;
+    const QString first = QStringList(names.mid(0, kMost)).join(Texts::tr("、"));
+    return names.size() > kMost ? Texts::tr("%1等 %2 个").arg(first).arg(names.size()) : first;
 }
 
 int askToReplace(const QString& name)
 {
     const VnJsonPtr options = vnsi::ElementValue::createObject(2);
     for (const ButtonRow& button : kButtons)
-        options->SetDataSW(button.key, vnsi::vnutQStringToOdString(tr(button.text)));
-    const QString question = tr("图层状态“%1”已存在。是否覆盖?").arg(name);
+        options->SetDataSW(button.key, vnsi::vnutQStringToOdString(Texts::tr(button.text)));
+    const QString question = Texts::tr("图层状态“%1”已存在。是否覆盖?").arg(name);
     const VnJsonPtr answer =
-        vnsi::vnuiMessageBoxEx(L"图层状态 - 输入", vnsi::vnutQStringToOdString(question), options,
-            vnsi::kVnCustomButtons, 1, vnsi::kVnIconQuestion);
+        vnsi::vnuiMessageBoxEx(vnsi::vnutQStringToOdString(Texts::tr("图层状态 - 输入")),
+            vnsi::vnutQStringToOdString(question), options, vnsi::kVnCustomButtons, 1,
+            vnsi::kVnIconQuestion);
     return answer->GetDataI("ControlBtn", kCancel);
 }
 
@@ -85,7 +81,7 @@ std::vector<LayerState> LayerStateImport::statesOf(const QString& path)
     }
     auto states = (*other)->layerStates();
     if (states.empty())
-        m_problems += tr("文件“%1”中没有图层状态。").arg(QDir::toNativeSeparators(path));
+        m_problems += Texts::tr("文件“%1”中没有图层状态。").arg(QDir::toNativeSeparators(path));
     return states;
 }
 
@@ -118,7 +114,7 @@ std::vector<LayerState> LayerStateImport::choose()
         unknownLayers += dropUnknownLayers(state, m_drawing);
         const QString name = vnsi::foldedName(state.name);
         if (state.layers.empty()) {
-            m_problems += tr("图层状态“%1”中没有此图形的图层，没有输入。").arg(state.name);
+            m_problems += Texts::tr("图层状态“%1”中没有此图形的图层，没有输入。").arg(state.name);
         } else if (!known.contains(name) || mayReplace(state.name)) {
             known.insert(name);
             chosen.push_back(std::move(state));
@@ -128,7 +124,7 @@ std::vector<LayerState> LayerStateImport::choose()
     }
     unknownLayers.removeDuplicates();
     if (!unknownLayers.isEmpty())
-        m_problems +=
-            tr("此图形没有图层 %1，状态中的这些图层没有输入。").arg(shortList(unknownLayers));
+        m_problems += Texts::tr("此图形没有图层 %1，状态中的这些图层没有输入。")
+                          .arg(shortList(unknownLayers));
     return chosen;
 }

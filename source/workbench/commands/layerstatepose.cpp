@@ -1,3 +1,4 @@
+#include "benchtexts.h"
 #include "drawing.h"
 #include "layerstatecommand.h"
 #include "posing.h"
@@ -24,17 +25,10 @@ struct Sample
 };
 
 constexpr Sample kSamples[] = {
-    {QT_TRANSLATE_NOOP("LayerStateCommand", "全部打开"),
-        QT_TRANSLATE_NOOP("LayerStateCommand", "交底用")},
-    {QT_TRANSLATE_NOOP("LayerStateCommand", "打印布局"),
-        QT_TRANSLATE_NOOP("LayerStateCommand", "标注与家具冻结")},
-    {QT_TRANSLATE_NOOP("LayerStateCommand", "结构"), ""},
+    {QT_TRANSLATE_NOOP("workbench", "全部打开"), QT_TRANSLATE_NOOP("workbench", "交底用")},
+    {QT_TRANSLATE_NOOP("workbench", "打印布局"), QT_TRANSLATE_NOOP("workbench", "标注与家具冻结")},
+    {QT_TRANSLATE_NOOP("workbench", "结构"), ""},
 };
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerStateCommand", text);
-}
 
 /// Locks every third layer, or unlocks it.
 void changeSome(LayerState& state)
@@ -51,8 +45,8 @@ std::vector<LayerState> statesToShow(const drawing::Drawing& drawing)
     std::vector<LayerState> states = drawing.layerStates();
     bool isFirst = true;
     for (const Sample& sample : kSamples) {
-        LayerState state = captureLayerState(drawing, tr(sample.name));
-        state.description = tr(sample.description);
+        LayerState state = captureLayerState(drawing, Texts::tr(sample.name));
+        state.description = Texts::tr(sample.description);
         state.fromLayout = !isFirst;
         if (!isFirst)
             changeSome(state);

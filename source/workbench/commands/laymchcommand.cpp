@@ -1,13 +1,12 @@
 #include "laymchcommand.h"
 
+#include "benchtexts.h"
 #include "drawing.h"
 #include "layermarks.h"
 #include "layertoolkeys.h"
 #include "posing.h"
 #include "recordprovider.h"
 #include "vnstrings.h"
-
-#include <QCoreApplication>
 
 using vnsi::VnJsonPtr;
 
@@ -17,11 +16,6 @@ namespace key = vnsi::layerkey;
 
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaymch";
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerChangeCommand", text);
-}
 
 /// The name of the layer to be made; it rides on whatever record comes last.
 QString newLayerName(const VnJsonPtr& tree)
@@ -44,7 +38,8 @@ VnJsonPtr LayerChangeCommand::makeTree(const drawing::Drawing& drawing)
 void LayerChangeCommand::run(CommandContext& context)
 {
     if (context.selection.empty()) {
-        layermarks::tell(context, tr("请先在画布上选择要更改图层的对象，然后再执行此命令。"));
+        layermarks::tell(
+            context, Texts::tr("请先在画布上选择要更改图层的对象，然后再执行此命令。"));
         return;
     }
     const VnJsonPtr tree = makeTree(context.drawing);
@@ -61,7 +56,7 @@ std::optional<drawing::LayerId> LayerChangeCommand::target(
     if (name.isEmpty()) {
         const std::vector<layermarks::Marked> chosen = layermarks::marked(tree, vnsi::kLayerTarget);
         if (chosen.empty())
-            layermarks::tell(context, tr("没有名称与输入完全一致的图层，未作更改。"));
+            layermarks::tell(context, Texts::tr("没有名称与输入完全一致的图层，未作更改。"));
         const std::vector<drawing::LayerId> layers = layermarks::present(context, chosen);
         return layers.empty() ? std::nullopt : std::optional(layers.front());
     }
@@ -93,10 +88,11 @@ void LayerChangeCommand::move(CommandContext& context, drawing::LayerId target)
         return;
     }
     const std::size_t locked = context.selection.size() - movable.size();
-    QString text =
-        tr("%1 个对象已更改到图层“%2”。").arg(*moved).arg(drawing.layer(target)->properties.name);
+    QString text = Texts::tr("%1 个对象已更改到图层“%2”。")
+                       .arg(*moved)
+                       .arg(drawing.layer(target)->properties.name);
     if (locked > 0)
-        text += tr("%1 个对象在锁定的图层上，未作更改。").arg(locked);
+        text += Texts::tr("%1 个对象在锁定的图层上，未作更改。").arg(locked);
     layermarks::tell(context, text);
 }
 

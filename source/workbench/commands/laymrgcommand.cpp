@@ -1,4 +1,5 @@
 #include "laymrgcommand.h"
+#include "benchtexts.h"
 #include "hostextras.h"
 
 #include "drawing.h"
@@ -7,8 +8,6 @@
 #include "recordprovider.h"
 #include "vnstrings.h"
 #include "vntaskdialog.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -22,11 +21,6 @@ namespace toolkey = vnsi::layertoolkey;
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaymrg";
 constexpr int kFirstChoice = 100;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerMergeCommand", text);
-}
 
 bool contains(const std::vector<layermarks::Marked>& layers, drawing::LayerId id)
 {
@@ -84,7 +78,7 @@ void LayerMergeCommand::run(CommandContext& context)
 {
     const VnJsonPtr tree = makeSourceTree(context.drawing);
     if (tree->GetDataJ(key::kList).ArrayCount() == 0) {
-        layermarks::tell(context, tr("没有可以合并的图层。"));
+        layermarks::tell(context, Texts::tr("没有可以合并的图层。"));
         return;
     }
     if (!layermarks::show(context, kDialog, tree))
@@ -107,7 +101,8 @@ LayerMergeCommand::Layers LayerMergeCommand::askTarget(
         Layers target = settle(layermarks::marked(tree, vnsi::kLayerMergeTarget));
         if (target.empty() || !contains(sources, target.front().id))
             return target;
-        layermarks::warn(tr("图层“%1”是要合并的图层，不能作为目标图层。").arg(target.front().name));
+        layermarks::warn(
+            Texts::tr("图层“%1”是要合并的图层，不能作为目标图层。").arg(target.front().name));
     }
 }
 
@@ -117,8 +112,9 @@ LayerMergeCommand::Layers LayerMergeCommand::settle(const Layers& targets)
     if (targets.size() < 2)
         return targets;
     vnsi::CVnUiTaskDialog question;
-    question.SetWindowTitle(L"合并到图层");
-    question.SetMainInstruction(L"先后指定了几个目标图层，要合并到哪一个？");
+    question.SetWindowTitle(vnsi::vnutQStringToOdString(Texts::tr("合并到图层")));
+    question.SetMainInstruction(
+        vnsi::vnutQStringToOdString(Texts::tr("先后指定了几个目标图层，要合并到哪一个？")));
     for (std::size_t i = 0; i < targets.size(); ++i)
         question.AddCommandControl(
             kFirstChoice + static_cast<int>(i), vnsi::vnutQStringToOdString(targets[i].name));
@@ -139,8 +135,9 @@ void LayerMergeCommand::merge(CommandContext& context, const Layers& sources, co
     if (const auto merged = context.drawing.mergeLayers(layers, target.front().id); !merged)
         layermarks::warn(merged.error().text);
     else
-        context.say(
-            tr("已将 %1 个图层合并到图层“%2”。").arg(layers.size()).arg(target.front().name));
+        context.say(Texts::tr("已将 %1 个图层合并到图层“%2”。")
+                        .arg(layers.size())
+                        .arg(target.front().name));
 }
 
 void LayerMergeCommand::pose(CommandContext& context, const Camera& camera)

@@ -1,4 +1,5 @@
 #include "laytranscommand.h"
+#include "benchtexts.h"
 #include "hostextras.h"
 
 #include "drawing.h"
@@ -10,7 +11,6 @@
 #include "vndialogs.h"
 #include "vnsettings.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
@@ -32,11 +32,6 @@ constexpr wchar_t kDialog[] = L"Dialog/CmdLaytrans";
 constexpr wchar_t kSettingsDialog[] = L"Dialog/CmdLaytransSetting";
 /// Endings of a format that is not written here: programs would take the file for damaged.
 constexpr const char* kOtherFormats[] = {"dwg", "dws", "dwt"};
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerTranslateCommand", text);
-}
 
 QString text(const VnJsonPtr& node, const char* key)
 {
@@ -127,7 +122,7 @@ QString LayerTranslateCommand::offeredName(const QFileInfo& file) const
     const QString base = file.completeBaseName();
     const QString name = base + QStringLiteral(".dxf");
     const bool isDrawing = QFileInfo(file.dir(), name) == QFileInfo(drawing().path());
-    return isDrawing ? base + tr("-图层标准") + QStringLiteral(".dxf") : name;
+    return isDrawing ? base + Texts::tr("-图层标准") + QStringLiteral(".dxf") : name;
 }
 
 QString LayerTranslateCommand::acceptedPath(const QString& path) const
@@ -138,15 +133,17 @@ QString LayerTranslateCommand::acceptedPath(const QString& path) const
         [&](const char* format) { return ending.compare(format, Qt::CaseInsensitive) == 0; });
     if (isOtherFormat) {
         const QFileInfo offered(file.dir(), offeredName(file));
-        QString question = tr("没有写入文件“%1”：图层映射以 DXF 格式保存，文件名不能以 .%2 结尾。"
-                              "是否改为保存到“%3”？")
-                               .arg(shown(path), ending, offered.fileName());
+        QString question =
+            Texts::tr("没有写入文件“%1”：图层映射以 DXF 格式保存，文件名不能以 .%2 结尾。"
+                      "是否改为保存到“%3”？")
+                .arg(shown(path), ending, offered.fileName());
         if (offered.exists())
-            question += tr("\n该文件已存在，将被替换。");
+            question += Texts::tr("\n该文件已存在，将被替换。");
         return layermarks::confirms(question) ? offered.filePath() : QString();
     }
     if (file == QFileInfo(drawing().path())) {
-        layermarks::warn(tr("“%1”是正在转换的图形，图层映射要保存到另一个文件。").arg(shown(path)));
+        layermarks::warn(
+            Texts::tr("“%1”是正在转换的图形，图层映射要保存到另一个文件。").arg(shown(path)));
         return {};
     }
     return path;
@@ -160,7 +157,7 @@ void LayerTranslateCommand::save(const VnJsonPtr& tree)
     if (chosen.isEmpty())
         return;
     if (mappings.empty()) {
-        layermarks::warn(tr("还没有图层映射，没有写入文件“%1”。").arg(shown(chosen)));
+        layermarks::warn(Texts::tr("还没有图层映射，没有写入文件“%1”。").arg(shown(chosen)));
         return;
     }
     const QString path = acceptedPath(chosen);
@@ -172,9 +169,9 @@ void LayerTranslateCommand::save(const VnJsonPtr& tree)
         return;
     }
     tree->SetDataI(kSaveOutcome, 1);
-    say(tr("已将 %1 个图层映射保存到“%2”。").arg(mappings.size()).arg(shown(path)));
+    say(Texts::tr("已将 %1 个图层映射保存到“%2”。").arg(mappings.size()).arg(shown(path)));
     m_problems = *saved;
-    tellProblems(tr("图层映射已保存，但以下内容除外："));
+    tellProblems(Texts::tr("图层映射已保存，但以下内容除外："));
 }
 
 void LayerTranslateCommand::load(const VnJsonPtr& tree)
@@ -190,9 +187,9 @@ void LayerTranslateCommand::load(const VnJsonPtr& tree)
     m_records.offerLinetypes(drawing());
     tree->SetDataJ(kLoadedTargets, m_targets);
     tree->SetDataJ(kLoadedMappings, mappings);
-    say(tr("已加载 %1 个目标图层。").arg(m_targets.ArrayCount() - before));
+    say(Texts::tr("已加载 %1 个目标图层。").arg(m_targets.ArrayCount() - before));
     sayLoaded(mappings);
-    tellProblems(tr("以下内容没有加载："));
+    tellProblems(Texts::tr("以下内容没有加载："));
 }
 
 void LayerTranslateCommand::loadFile(const QString& path, const VnJsonPtr& mappings)
@@ -224,7 +221,7 @@ void LayerTranslateCommand::addTargets(const std::vector<TargetLayer>& targets, 
         hostextras::append(m_targets, m_records.target(target));
     }
     if (skipped > 0)
-        say(tr("文件“%1”：%2 个图层与列表中的图层同名，保留列表中的。")
+        say(Texts::tr("文件“%1”：%2 个图层与列表中的图层同名，保留列表中的。")
                 .arg(shown(path))
                 .arg(skipped));
 }
@@ -239,7 +236,9 @@ void LayerTranslateCommand::sayLoaded(const VnJsonPtr& mappings) const
         const QString name = text(mappings(i)->GetDataJ(kFrom), kFromName);
         missing += drawing().findLayer(name) ? 0 : 1;
     }
-    say(tr("文件中有 %1 个图层映射，其中 %2 个的图层不在此图形中。").arg(count).arg(missing));
+    say(Texts::tr("文件中有 %1 个图层映射，其中 %2 个的图层不在此图形中。")
+            .arg(count)
+            .arg(missing));
 }
 
 void LayerTranslateCommand::purge(const VnJsonPtr& tree)
@@ -258,8 +257,8 @@ void LayerTranslateCommand::purge(const VnJsonPtr& tree)
     }
     drawing().publishStep();
     tree->SetDataJ(kTheme, TranslationRecords::sources(drawing()));
-    say(tr("已清理 %1 个图层。").arg(gone));
-    tellProblems(tr("以下图层没有清理："));
+    say(Texts::tr("已清理 %1 个图层。").arg(gone));
+    tellProblems(Texts::tr("以下图层没有清理："));
 }
 
 void LayerTranslateCommand::addTarget(const VnJsonPtr& tree)
@@ -278,7 +277,7 @@ void LayerTranslateCommand::showSettings(const VnJsonPtr& tree)
 {
     const VnJsonPtr settings = tree->GetDataJ(kSettingsAsked);
     if (!TranslationRecords::isComplete(settings))
-        layermarks::warn(tr("保存的转换设置不是六项，现按全部未选显示。"));
+        layermarks::warn(Texts::tr("保存的转换设置不是六项，现按全部未选显示。"));
     const VnJsonPtr question = ElementValue::createObject(3);
     question->SetDataJ(kSettingsIn, settings);
     const VnJsonPtr answer =
@@ -298,12 +297,13 @@ void LayerTranslateCommand::translate(const VnJsonPtr& tree)
 {
     const std::vector<LayerMapping> mappings = m_records.mappings(tree->GetDataJ(kMappings));
     if (mappings.empty()) {
-        layermarks::warn(tr("还没有图层映射。请先将“转换自”中的图层映射到“转换为”中的图层。"));
+        layermarks::warn(
+            Texts::tr("还没有图层映射。请先将“转换自”中的图层映射到“转换为”中的图层。"));
         return;
     }
     const VnJsonPtr settings = tree->GetDataJ(kSettingsToUse);
     if (!TranslationRecords::isComplete(settings))
-        layermarks::warn(tr("保存的转换设置不是六项，现按全部未选转换。"));
+        layermarks::warn(Texts::tr("保存的转换设置不是六项，现按全部未选转换。"));
     const drawing::TranslationOptions options = TranslationRecords::options(settings);
     const auto translated = drawing::translateLayers(drawing(), mappings, options);
     if (!translated) {
@@ -316,7 +316,7 @@ void LayerTranslateCommand::translate(const VnJsonPtr& tree)
     // With nothing translated the user can put the mappings right and try again.
     tree->SetDataB(kCloses, translated->appliedCount() > 0);
     if (!tree->GetDataB(kIsSaved))
-        say(tr("这些图层映射没有保存到标准文件。"));
+        say(Texts::tr("这些图层映射没有保存到标准文件。"));
 }
 
 void LayerTranslateCommand::writeLog(
@@ -325,14 +325,14 @@ void LayerTranslateCommand::writeLog(
     const QString path = drawing::translationLogPath(drawing().path());
     const QString log = drawing::translationLog(drawing().path(), report, options);
     if (const auto written = drawing::writeTranslationLog(path, log); written)
-        say(tr("转换日志：“%1”。").arg(shown(path)));
+        say(Texts::tr("转换日志：“%1”。").arg(shown(path)));
     else
         m_problems += written.error().text;
 }
 
 void LayerTranslateCommand::report(const drawing::TranslationReport& report)
 {
-    say(tr("已转换 %1 个图层映射，%2 个对象。")
+    say(Texts::tr("已转换 %1 个图层映射，%2 个对象。")
             .arg(report.appliedCount())
             .arg(report.translatedCount()));
     for (const drawing::MappingResult& mapping : report.mappings) {
@@ -341,7 +341,7 @@ void LayerTranslateCommand::report(const drawing::TranslationReport& report)
         m_problems += mapping.notices;
     }
     m_problems += report.notices;
-    tellProblems(tr("图层转换中有以下问题："));
+    tellProblems(Texts::tr("图层转换中有以下问题："));
 }
 
 void LayerTranslateCommand::showClicked(const VnJsonPtr& tree)

@@ -1,4 +1,5 @@
 #include "laywalkcommand.h"
+#include "benchtexts.h"
 #include "hostextras.h"
 #include "valuetree.h"
 
@@ -13,7 +14,6 @@
 #include "vnstrings.h"
 #include "walkkeys.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -34,11 +34,6 @@ const layerrecords::Provider& records()
     static const layerrecords::Provider provider(
         {key::kName, key::kStatus, key::kOff, key::kFrozen, key::kUsed});
     return provider;
-}
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerWalkCommand", text);
 }
 
 /// The records of the layer tree that a request carries.
@@ -85,12 +80,12 @@ struct LayerWalkCommand::RequestRow
 
 const LayerWalkCommand::RequestRow LayerWalkCommand::kRequests[] = {
     {vnsi::kWalkSaveState, &LayerWalkCommand::saveState,
-        QT_TRANSLATE_NOOP("LayerWalkCommand", "图层状态没有保存：")},
+        QT_TRANSLATE_NOOP("workbench", "图层状态没有保存：")},
     {vnsi::kWalkApply, &LayerWalkCommand::apply,
-        QT_TRANSLATE_NOOP("LayerWalkCommand", "有图层未能打开或关闭：")},
+        QT_TRANSLATE_NOOP("workbench", "有图层未能打开或关闭：")},
     {vnsi::kWalkCount, &LayerWalkCommand::count, ""},
     {vnsi::kWalkPurge, &LayerWalkCommand::purge,
-        QT_TRANSLATE_NOOP("LayerWalkCommand", "以下图层没有清除：")},
+        QT_TRANSLATE_NOOP("workbench", "以下图层没有清除：")},
     {vnsi::kWalkPick, &LayerWalkCommand::pick, ""},
 };
 
@@ -167,7 +162,7 @@ void LayerWalkCommand::answer(const VnJsonPtr& root)
     (this->*row->answer)(root);
     for (const QString& notice : drawing().takeNotices())
         m_context->say(notice);
-    layermarks::report(*m_context, tr(row->failure), m_problems);
+    layermarks::report(*m_context, Texts::tr(row->failure), m_problems);
 }
 
 void LayerWalkCommand::apply(const VnJsonPtr& root)
@@ -261,7 +256,7 @@ void LayerWalkCommand::purge(const VnJsonPtr& root)
     }
     m_hasOtherEdits = m_hasOtherEdits || purged > 0;
     handBack(root);
-    m_context->say(tr("已清除 %1 个图层。").arg(purged));
+    m_context->say(Texts::tr("已清除 %1 个图层。").arg(purged));
     m_context->refresh();
 }
 
@@ -282,7 +277,7 @@ void LayerWalkCommand::saveState(const VnJsonPtr& root)
         return;
     m_hasOtherEdits = true;
     layers->SetDataJ(vnsi::statekey::kList, statelist::make(drawing()));
-    m_context->say(tr("图层状态“%1”已保存。").arg(state.name));
+    m_context->say(Texts::tr("图层状态“%1”已保存。").arg(state.name));
     statelist::tellWhereStatesAre(*m_context);
 }
 

@@ -1,10 +1,10 @@
 #include "quickcommands.h"
 
+#include "benchtexts.h"
 #include "layeracts.h"
 #include "layermarks.h"
 #include "layermemory.h"
 
-#include <QCoreApplication>
 #include <QSettings>
 
 #include <algorithm>
@@ -33,11 +33,6 @@ struct Act
 };
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("QuickCommands", text);
-}
 
 template <auto Member, bool Value>
 QStringList set(CommandContext& context, const Layers& layers)
@@ -92,31 +87,34 @@ QStringList moveToCurrent(CommandContext& context, const Layers&)
             movable.push_back(entity);
     }
     if (movable.size() < context.selection.size())
-        refusals += tr("%1 个对象在锁定的图层上，未作更改。")
+        refusals += Texts::tr("%1 个对象在锁定的图层上，未作更改。")
                         .arg(context.selection.size() - movable.size());
     const auto moved = context.drawing.moveEntities(movable, drawing.currentLayer());
     return moved ? refusals : refusals + QStringList(moved.error().text);
 }
 
-#define DONE(text) QT_TRANSLATE_NOOP("QuickCommands", text)
-
 constexpr Act kActs[] = {
-    {"LAYISO", Act::Objects, isolate, DONE("已隔离 %1 个图层。")},
-    {"LAYUNISO", Act::Nothing, endIsolation, DONE("已恢复隔离前的图层。"), isIsolated,
-        DONE("没有隔离的图层。")},
-    {"LAYFRZ", Act::Objects, set<&LayerProperties::frozen, true>, DONE("已冻结 %1 个图层。")},
-    {"LAYTHW", Act::Nothing, set<&LayerProperties::frozen, false>, DONE("已解冻 %1 个图层。")},
-    {"LAYOFF", Act::Objects, set<&LayerProperties::off, true>, DONE("已关闭 %1 个图层。")},
-    {"LAYON", Act::Nothing, set<&LayerProperties::off, false>, DONE("已打开 %1 个图层。")},
-    {"LAYLCK", Act::Objects, set<&LayerProperties::locked, true>, DONE("已锁定 %1 个图层。")},
-    {"LAYULK", Act::Objects, set<&LayerProperties::locked, false>, DONE("已解锁 %1 个图层。")},
-    {"LAYCUR", Act::Objects, moveToCurrent, DONE("对象已更改到当前图层。")},
-    {"LAYMCUR", Act::Objects, makeCurrent, DONE("已更改当前图层。")},
-    {"LAYERP", Act::Nothing, goBack, DONE("已恢复上一个图层状态。"), hasHistory,
-        DONE("没有上一个图层状态。")},
+    {"LAYISO", Act::Objects, isolate, QT_TRANSLATE_NOOP("workbench", "已隔离 %1 个图层。")},
+    {"LAYUNISO", Act::Nothing, endIsolation, QT_TRANSLATE_NOOP("workbench", "已恢复隔离前的图层。"),
+        isIsolated, QT_TRANSLATE_NOOP("workbench", "没有隔离的图层。")},
+    {"LAYFRZ", Act::Objects, set<&LayerProperties::frozen, true>,
+        QT_TRANSLATE_NOOP("workbench", "已冻结 %1 个图层。")},
+    {"LAYTHW", Act::Nothing, set<&LayerProperties::frozen, false>,
+        QT_TRANSLATE_NOOP("workbench", "已解冻 %1 个图层。")},
+    {"LAYOFF", Act::Objects, set<&LayerProperties::off, true>,
+        QT_TRANSLATE_NOOP("workbench", "已关闭 %1 个图层。")},
+    {"LAYON", Act::Nothing, set<&LayerProperties::off, false>,
+        QT_TRANSLATE_NOOP("workbench", "已打开 %1 个图层。")},
+    {"LAYLCK", Act::Objects, set<&LayerProperties::locked, true>,
+        QT_TRANSLATE_NOOP("workbench", "已锁定 %1 个图层。")},
+    {"LAYULK", Act::Objects, set<&LayerProperties::locked, false>,
+        QT_TRANSLATE_NOOP("workbench", "已解锁 %1 个图层。")},
+    {"LAYCUR", Act::Objects, moveToCurrent,
+        QT_TRANSLATE_NOOP("workbench", "对象已更改到当前图层。")},
+    {"LAYMCUR", Act::Objects, makeCurrent, QT_TRANSLATE_NOOP("workbench", "已更改当前图层。")},
+    {"LAYERP", Act::Nothing, goBack, QT_TRANSLATE_NOOP("workbench", "已恢复上一个图层状态。"),
+        hasHistory, QT_TRANSLATE_NOOP("workbench", "没有上一个图层状态。")},
 };
-
-#undef DONE
 
 /// Of the objects, in the order they come; each once.
 Layers layersOf(const Drawing& drawing, const std::vector<int>& entities)
@@ -147,15 +145,15 @@ public:
     void run(CommandContext& context) override
     {
         if (m_act.isPossible && !m_act.isPossible(context))
-            return layermarks::tell(context, tr(m_act.otherwise));
+            return layermarks::tell(context, Texts::tr(m_act.otherwise));
         const Layers layers = this->layers(context);
         if (layers.empty())
-            return layermarks::tell(context, tr("没有选择对象，未作更改。"));
+            return layermarks::tell(context, Texts::tr("没有选择对象，未作更改。"));
         QStringList refusals = m_act.run(context, layers);
         if (refusals.isEmpty())
             return layermarks::tell(context,
-                tr(m_act.done).replace(QLatin1String("%1"), QString::number(layers.size())));
-        layermarks::report(context, tr("有些更改没有完成："), refusals);
+                Texts::tr(m_act.done).replace(QLatin1String("%1"), QString::number(layers.size())));
+        layermarks::report(context, Texts::tr("有些更改没有完成："), refusals);
     }
 
     void pose(CommandContext&, const Camera&) override {}

@@ -1,4 +1,5 @@
 #include "statelist.h"
+#include "benchtexts.h"
 #include "hostextras.h"
 
 #include "drawing.h"
@@ -6,7 +7,6 @@
 #include "statekeys.h"
 #include "vnstrings.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 using vnsi::VnJsonPtr;
@@ -17,16 +17,11 @@ namespace {
 
 namespace key = vnsi::statekey;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerStateCommand", text);
-}
-
 OdString spaceOf(const drawing::LayerState& state)
 {
     if (state.isFromReference())
         return key::kReferenceSpace;
-    return vnsi::vnutQStringToOdString(state.fromLayout ? tr("布局") : tr("模型"));
+    return vnsi::vnutQStringToOdString(state.fromLayout ? Texts::tr("布局") : Texts::tr("模型"));
 }
 
 } // namespace
@@ -55,8 +50,9 @@ void tellWhereStatesAre(CommandContext& context)
     const QString path = context.drawing.layerStatesPath();
     if (path.isEmpty())
         return;
-    const QString note = tr("此图形的格式不能保存图层状态：它们随图形保存在旁边的文件“%1”中。")
-                             .arg(QFileInfo(path).fileName());
+    const QString note =
+        Texts::tr("此图形的格式不能保存图层状态：它们随图形保存在旁边的文件“%1”中。")
+            .arg(QFileInfo(path).fileName());
     context.say(note);
     if (context.notice)
         context.notice(note);

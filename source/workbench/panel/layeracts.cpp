@@ -1,6 +1,6 @@
 #include "layeracts.h"
 
-#include <QCoreApplication>
+#include "benchtexts.h"
 
 #include <algorithm>
 #include <set>
@@ -13,11 +13,6 @@ using drawing::LayerProperties;
 namespace layeracts {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerActs", text);
-}
 
 QStringList overrideInViewport(
     Drawing& drawing, const Layers& layers, const LayerColumn& column, const QString& text)
@@ -33,11 +28,11 @@ QStringList overrideInViewport(
     }
     const auto done = drawing.overrideInViewport(shown, column.property);
     if (!done)
-        return {tr("视口中的图层特性没有更改：%1。").arg(done.error().text)};
+        return {Texts::tr("视口中的图层特性没有更改：%1。").arg(done.error().text)};
     QStringList refusals;
     for (const LayerId id : *done)
-        refusals +=
-            tr("图层“%1”：图形中没有线型“%2”。").arg(drawing.layer(id)->properties.name, text);
+        refusals += Texts::tr("图层“%1”：图形中没有线型“%2”。")
+                        .arg(drawing.layer(id)->properties.name, text);
     return refusals;
 }
 
@@ -53,7 +48,7 @@ QStringList change(Drawing& drawing, const Layers& layers, const Change& change)
         LayerProperties wanted = layer->properties;
         change(wanted);
         if (wanted.frozen && !layer->properties.frozen && id == drawing.currentLayer()) {
-            refusals += tr("不能冻结当前图层“%1”。").arg(layer->properties.name);
+            refusals += Texts::tr("不能冻结当前图层“%1”。").arg(layer->properties.name);
             continue;
         }
         if (const auto done = drawing.setLayerProperties(id, wanted); !done)
@@ -68,7 +63,7 @@ QStringList setText(
     LayerProperties value;
     const QString trimmed = text.trimmed();
     if (!column.set || !column.set(trimmed, value))
-        return {tr("“%1”不是有效的%2。").arg(text, column.displayTitle())};
+        return {Texts::tr("“%1”不是有效的%2。").arg(text, column.displayTitle())};
     switch (column.scope) {
     case LayerColumn::FrozenInViewport:
         return freezeInViewport(drawing, layers, value.frozen);
@@ -91,7 +86,7 @@ QStringList freezeInViewport(Drawing& drawing, const Layers& layers, bool isFroz
             frozen.erase(id);
     }
     if (const auto done = drawing.setFrozenInViewport({frozen.begin(), frozen.end()}); !done)
-        return {tr("视口中的图层没有更改：%1。").arg(done.error().text)};
+        return {Texts::tr("视口中的图层没有更改：%1。").arg(done.error().text)};
     return {};
 }
 
@@ -103,7 +98,7 @@ LayerId add(Drawing& drawing, LayerId model, QStringList& refusals)
     properties.frozen = false;
     properties.description.clear();
     for (int number = 1; number == 1 || drawing.findLayer(properties.name); ++number)
-        properties.name = tr("图层%1").arg(number);
+        properties.name = Texts::tr("图层%1").arg(number);
     const auto added = drawing.addLayer(properties);
     if (added)
         return *added;
@@ -113,17 +108,17 @@ LayerId add(Drawing& drawing, LayerId model, QStringList& refusals)
 
 QString flagStepName(const LayerColumn& column, bool value)
 {
-    const QString word = column.word(value);
-    if (column.scope == LayerColumn::FrozenInViewport)
-        return tr("在视口中%1图层").arg(word);
-    if (word.size() > 1)
-        return tr("%1图层").arg(word);
-    return value ? tr("打开图层") : tr("关闭图层");
+    // Turning on and off takes other words than setting and clearing what has a name.
+    if (column.key == QLatin1String("on"))
+        return value ? Texts::tr("打开图层") : Texts::tr("关闭图层");
+    const bool isOfViewport = column.scope == LayerColumn::FrozenInViewport;
+    return (isOfViewport ? Texts::tr("在视口中%1图层") : Texts::tr("%1图层"))
+        .arg(column.word(value));
 }
 
 QString stepName(const LayerColumn& column)
 {
-    return tr("更改图层%1").arg(column.displayTitle());
+    return Texts::tr("更改图层%1").arg(column.displayTitle());
 }
 
 } // namespace layeracts

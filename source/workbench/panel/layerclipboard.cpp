@@ -1,6 +1,6 @@
 #include "layerclipboard.h"
 
-#include <QCoreApplication>
+#include "benchtexts.h"
 
 #include <algorithm>
 
@@ -14,11 +14,6 @@ namespace {
 
 constexpr QLatin1Char kQuote('"');
 constexpr QLatin1Char kTab('\t');
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerClipboard", text);
-}
 
 QString quoted(const QString& cell)
 {
@@ -149,7 +144,7 @@ QStringList paste(Drawing& drawing, const Table& table, const layeracts::Layers&
     const auto from = std::find(visible.begin(), visible.end(), column);
     const std::vector<int> columns(from, visible.end());
     if (targets.empty() || columns.empty())
-        return {tr("请先选择要粘贴到的图层。")};
+        return {Texts::tr("请先选择要粘贴到的图层。")};
     QStringList refusals;
     for (size_t i = 0; i < targets.size(); ++i) {
         if (table.rows.size() > 1 && i >= table.rows.size())

@@ -1,13 +1,13 @@
 #include "layercolumns.h"
 
 #include "CmColor.h"
+#include "benchtexts.h"
 #include "lineweights.h"
 #include "vncolortext.h"
 #include "vnstrings.h"
 
 #include "layers/layermask.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <iterator>
@@ -21,7 +21,7 @@ constexpr qint64 kTrueColors = 1 << 16; // Sorted behind the index colours.
 
 QString translated(const char* text)
 {
-    return QCoreApplication::translate("LayerColumns", text);
+    return Texts::tr(text);
 }
 
 using Source = const LayerProperties& (*)(const LayerRow& row);
@@ -173,54 +173,56 @@ bool setFrozenHere(const QString& text, LayerProperties& properties)
     return setFlag<LayerColumns::Frozen, &LayerProperties::frozen>(text, properties);
 }
 
-#define TITLE(text) QT_TRANSLATE_NOOP("LayerColumns", text)
-
 using P = LayerProperties;
 using C = LayerColumn;
 
 constexpr LayerColumn kColumns[] = {
-    {"status", TITLE("当前"), C::Mark, C::Nothing, 36, {TITLE(""), TITLE("当前")},
-        {nullptr, "layer_current"}, nullptr, isCurrent},
-    {"name", TITLE("名称"), C::Text, C::OfLayer, 170, {}, {}, textOf<own, &P::name>, nullptr,
-        setText<&P::name>},
-    {"on", TITLE("开"), C::Flag, C::OfLayer, 30, {TITLE("关"), TITLE("开")},
+    {"status", QT_TRANSLATE_NOOP("workbench", "当前"), C::Mark, C::Nothing, 36,
+        {"", QT_TRANSLATE_NOOP("workbench", "当前")}, {nullptr, "layer_current"}, nullptr,
+        isCurrent},
+    {"name", QT_TRANSLATE_NOOP("workbench", "名称"), C::Text, C::OfLayer, 170, {}, {},
+        textOf<own, &P::name>, nullptr, setText<&P::name>},
+    {"on", QT_TRANSLATE_NOOP("workbench", "开"), C::Flag, C::OfLayer, 30,
+        {QT_TRANSLATE_NOOP("workbench", "关"), QT_TRANSLATE_NOOP("workbench", "开")},
         {"layer_off", "layer_on"}, nullptr, isOn, setFlag<LayerColumns::On, &P::off, true>},
-    {"frozen", TITLE("冻结"), C::Flag, C::OfLayer, 36, {TITLE("解冻"), TITLE("冻结")},
+    {"frozen", QT_TRANSLATE_NOOP("workbench", "冻结"), C::Flag, C::OfLayer, 36,
+        {QT_TRANSLATE_NOOP("workbench", "解冻"), QT_TRANSLATE_NOOP("workbench", "冻结")},
         {"layer_thaw", "layer_frozed"}, nullptr, numberOf<own, &P::frozen>,
         setFlag<LayerColumns::Frozen, &P::frozen>},
-    {"locked", TITLE("锁定"), C::Flag, C::OfLayer, 36, {TITLE("解锁"), TITLE("锁定")},
+    {"locked", QT_TRANSLATE_NOOP("workbench", "锁定"), C::Flag, C::OfLayer, 36,
+        {QT_TRANSLATE_NOOP("workbench", "解锁"), QT_TRANSLATE_NOOP("workbench", "锁定")},
         {"layer_unlock", "layer_lock"}, nullptr, numberOf<own, &P::locked>,
         setFlag<LayerColumns::Locked, &P::locked>},
-    {"plotted", TITLE("打印"), C::Flag, C::OfLayer, 36, {TITLE("不打印"), TITLE("打印")},
+    {"plotted", QT_TRANSLATE_NOOP("workbench", "打印"), C::Flag, C::OfLayer, 36,
+        {QT_TRANSLATE_NOOP("workbench", "不打印"), QT_TRANSLATE_NOOP("workbench", "打印")},
         {"layer_noprint", "layer_print"}, nullptr, numberOf<own, &P::plotted>,
         setFlag<LayerColumns::Plotted, &P::plotted>},
-    {"color", TITLE("颜色"), C::Color, C::OfLayer, 90, {}, {}, colorText<own>, colorNumber<own>,
-        setColor},
-    {"linetype", TITLE("线型"), C::Linetype, C::OfLayer, 100, {}, {}, textOf<own, &P::linetype>,
-        nullptr, setText<&P::linetype>},
-    {"lineweight", TITLE("线宽"), C::Lineweight, C::OfLayer, 70, {}, {}, lineweightText<own>,
-        numberOf<own, &P::lineweight>, setLineweight},
-    {"transparency", TITLE("透明度"), C::Transparency, C::OfLayer, 56, {}, {},
-        transparencyText<own>, numberOf<own, &P::transparency>, setTransparency},
-    {"count", TITLE("对象数"), C::Count, C::Nothing, 60, {}, {}, entityCountText, entityCount},
-    {"description", TITLE("说明"), C::Text, C::OfLayer, 160, {}, {}, textOf<own, &P::description>,
-        nullptr, setText<&P::description>},
-    {"vpFrozen", TITLE("视口冻结"), C::Flag, C::FrozenInViewport, 60,
-        {TITLE("解冻"), TITLE("冻结")}, {"layer_thaw", "layer_frozed"}, nullptr, isFrozenHere,
-        setFrozenHere},
-    {"vpColor", TITLE("视口颜色"), C::Color, C::OfViewport, 90, {}, {}, colorText<here>,
-        colorNumber<here>, setColor, drawing::kStateColor},
-    {"vpLinetype", TITLE("视口线型"), C::Linetype, C::OfViewport, 100, {}, {},
-        textOf<here, &P::linetype>, nullptr, setText<&P::linetype>, drawing::kStateLinetype},
-    {"vpLineweight", TITLE("视口线宽"), C::Lineweight, C::OfViewport, 70, {}, {},
-        lineweightText<here>, numberOf<here, &P::lineweight>, setLineweight,
+    {"color", QT_TRANSLATE_NOOP("workbench", "颜色"), C::Color, C::OfLayer, 90, {}, {},
+        colorText<own>, colorNumber<own>, setColor},
+    {"linetype", QT_TRANSLATE_NOOP("workbench", "线型"), C::Linetype, C::OfLayer, 100, {}, {},
+        textOf<own, &P::linetype>, nullptr, setText<&P::linetype>},
+    {"lineweight", QT_TRANSLATE_NOOP("workbench", "线宽"), C::Lineweight, C::OfLayer, 70, {}, {},
+        lineweightText<own>, numberOf<own, &P::lineweight>, setLineweight},
+    {"transparency", QT_TRANSLATE_NOOP("workbench", "透明度"), C::Transparency, C::OfLayer, 56, {},
+        {}, transparencyText<own>, numberOf<own, &P::transparency>, setTransparency},
+    {"count", QT_TRANSLATE_NOOP("workbench", "对象数"), C::Count, C::Nothing, 60, {}, {},
+        entityCountText, entityCount},
+    {"description", QT_TRANSLATE_NOOP("workbench", "说明"), C::Text, C::OfLayer, 160, {}, {},
+        textOf<own, &P::description>, nullptr, setText<&P::description>},
+    {"vpFrozen", QT_TRANSLATE_NOOP("workbench", "视口冻结"), C::Flag, C::FrozenInViewport, 60,
+        {QT_TRANSLATE_NOOP("workbench", "解冻"), QT_TRANSLATE_NOOP("workbench", "冻结")},
+        {"layer_thaw", "layer_frozed"}, nullptr, isFrozenHere, setFrozenHere},
+    {"vpColor", QT_TRANSLATE_NOOP("workbench", "视口颜色"), C::Color, C::OfViewport, 90, {}, {},
+        colorText<here>, colorNumber<here>, setColor, drawing::kStateColor},
+    {"vpLinetype", QT_TRANSLATE_NOOP("workbench", "视口线型"), C::Linetype, C::OfViewport, 100, {},
+        {}, textOf<here, &P::linetype>, nullptr, setText<&P::linetype>, drawing::kStateLinetype},
+    {"vpLineweight", QT_TRANSLATE_NOOP("workbench", "视口线宽"), C::Lineweight, C::OfViewport, 70,
+        {}, {}, lineweightText<here>, numberOf<here, &P::lineweight>, setLineweight,
         drawing::kStateLineweight},
-    {"vpTransparency", TITLE("视口透明度"), C::Transparency, C::OfViewport, 70, {}, {},
-        transparencyText<here>, numberOf<here, &P::transparency>, setTransparency,
+    {"vpTransparency", QT_TRANSLATE_NOOP("workbench", "视口透明度"), C::Transparency, C::OfViewport,
+        70, {}, {}, transparencyText<here>, numberOf<here, &P::transparency>, setTransparency,
         drawing::kStateTransparency},
 };
-
-#undef TITLE
 
 } // namespace
 

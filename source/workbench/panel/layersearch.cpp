@@ -1,8 +1,8 @@
 #include "layersearch.h"
 
+#include "benchtexts.h"
 #include "wildcardpattern.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringMatcher>
 
@@ -59,10 +59,9 @@ LayerSearch::LayerSearch(const QString& typed)
             expressionIn(text), QRegularExpression::CaseInsensitiveOption |
                                     QRegularExpression::UseUnicodePropertiesOption);
         if (!expression.isValid()) {
-            m_fault =
-                QCoreApplication::translate("LayerSearch", "正则表达式有误：%1（第 %2 个字符）")
-                    .arg(expression.errorString())
-                    .arg(expression.patternErrorOffset() + 1);
+            m_fault = Texts::tr("正则表达式有误：%1（第 %2 个字符）")
+                          .arg(expression.errorString())
+                          .arg(expression.patternErrorOffset() + 1);
             return;
         }
         expression.optimize();

@@ -1,9 +1,8 @@
 #include "layeruses.h"
 
+#include "benchtexts.h"
 #include "file/groupcode.h"
 #include "file/owntags.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <map>
@@ -22,51 +21,42 @@ namespace {
 
 constexpr int kMostReasons = 5;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LayerUses", text);
-}
-
 struct KindName
 {
     const char* type;
     const char* name;
 };
 
-#define NAME(text) QT_TRANSLATE_NOOP("LayerUses", text)
-
 constexpr KindName kNames[] = {
-    {"LINE", NAME("直线")},
-    {"LWPOLYLINE", NAME("多段线")},
-    {"POLYLINE", NAME("多段线")},
-    {"CIRCLE", NAME("圆")},
-    {"ARC", NAME("圆弧")},
-    {"ELLIPSE", NAME("椭圆")},
-    {"SPLINE", NAME("样条曲线")},
-    {"POINT", NAME("点")},
-    {"TEXT", NAME("文字")},
-    {"MTEXT", NAME("多行文字")},
-    {"INSERT", NAME("块参照")},
-    {"ATTDEF", NAME("属性定义")},
-    {"HATCH", NAME("填充")},
-    {"SOLID", NAME("实心面")},
-    {"DIMENSION", NAME("标注")},
-    {"LEADER", NAME("引线")},
-    {"MULTILEADER", NAME("多重引线")},
-    {"VIEWPORT", NAME("视口")},
-    {"ACAD_TABLE", NAME("表格")},
-    {"IMAGE", NAME("图像")},
-    {"WIPEOUT", NAME("区域覆盖")},
-    {"MLINE", NAME("多线")},
+    {"LINE", QT_TRANSLATE_NOOP("workbench", "直线")},
+    {"LWPOLYLINE", QT_TRANSLATE_NOOP("workbench", "多段线")},
+    {"POLYLINE", QT_TRANSLATE_NOOP("workbench", "多段线")},
+    {"CIRCLE", QT_TRANSLATE_NOOP("workbench", "圆")},
+    {"ARC", QT_TRANSLATE_NOOP("workbench", "圆弧")},
+    {"ELLIPSE", QT_TRANSLATE_NOOP("workbench", "椭圆")},
+    {"SPLINE", QT_TRANSLATE_NOOP("workbench", "样条曲线")},
+    {"POINT", QT_TRANSLATE_NOOP("workbench", "点")},
+    {"TEXT", QT_TRANSLATE_NOOP("workbench", "文字")},
+    {"MTEXT", QT_TRANSLATE_NOOP("workbench", "多行文字")},
+    {"INSERT", QT_TRANSLATE_NOOP("workbench", "块参照")},
+    {"ATTDEF", QT_TRANSLATE_NOOP("workbench", "属性定义")},
+    {"HATCH", QT_TRANSLATE_NOOP("workbench", "填充")},
+    {"SOLID", QT_TRANSLATE_NOOP("workbench", "实心面")},
+    {"DIMENSION", QT_TRANSLATE_NOOP("workbench", "标注")},
+    {"LEADER", QT_TRANSLATE_NOOP("workbench", "引线")},
+    {"MULTILEADER", QT_TRANSLATE_NOOP("workbench", "多重引线")},
+    {"VIEWPORT", QT_TRANSLATE_NOOP("workbench", "视口")},
+    {"ACAD_TABLE", QT_TRANSLATE_NOOP("workbench", "表格")},
+    {"IMAGE", QT_TRANSLATE_NOOP("workbench", "图像")},
+    {"WIPEOUT", QT_TRANSLATE_NOOP("workbench", "区域覆盖")},
+    {"MLINE", QT_TRANSLATE_NOOP("workbench", "多线")},
 };
-
-#undef NAME
 
 QString kindName(const QByteArray& type)
 {
     for (const KindName& known : kNames) {
         if (type == known.type)
-            return tr(known.name);
+            return Texts::tr(known.name);
     }
     return QString::fromLatin1(type);
 }
@@ -83,9 +73,10 @@ QString spaceName(const Drawing& drawing, const Entity& entity)
 {
     for (const drawing::Layout& layout : drawing.layouts()) {
         if (drawing::holds(layout, entity))
-            return layout.name.isEmpty() ? tr("布局") : tr("布局“%1”").arg(layout.name);
+            return layout.name.isEmpty() ? Texts::tr("布局")
+                                         : Texts::tr("布局“%1”").arg(layout.name);
     }
-    return tr("模型空间");
+    return Texts::tr("模型空间");
 }
 
 bool isInBlock(const Drawing& drawing, const Entity& entity)
@@ -155,7 +146,7 @@ LayerUse useOf(const Drawing& drawing, const std::vector<int>& entities)
     use.kind = kindName(typeOf(drawing, first));
     use.block = isInBlock(drawing, first) ? first.block : -1;
     use.place = use.block >= 0
-                    ? tr("块“%1”").arg(drawing.blocks()[static_cast<size_t>(use.block)].name)
+                    ? Texts::tr("块“%1”").arg(drawing.blocks()[static_cast<size_t>(use.block)].name)
                     : spaceName(drawing, first);
     use.entities = entities;
     return use;
@@ -172,11 +163,11 @@ QStringList ownReasons(const Drawing& drawing, const drawing::Layer& layer)
 {
     QStringList reasons;
     if (layer.properties.name == QLatin1String("0"))
-        reasons += tr("图层“0”总是存在");
+        reasons += Texts::tr("图层“0”总是存在");
     if (layer.id == drawing.currentLayer())
-        reasons += tr("是当前图层");
+        reasons += Texts::tr("是当前图层");
     if (layer.dependsOnReference)
-        reasons += tr("依赖外部参照");
+        reasons += Texts::tr("依赖外部参照");
     return reasons;
 }
 
@@ -229,10 +220,12 @@ std::vector<QStringList> reasonsToStay(const Drawing& drawing, const std::vector
         std::vector<LayerUse>& own = uses[id];
         std::stable_sort(own.begin(), own.end(), isMoreFrequent);
         for (size_t i = 0; i < own.size() && i < kMostReasons; ++i)
-            reasons +=
-                tr("%1中有 %2 个%3").arg(own[i].place).arg(own[i].entities.size()).arg(own[i].kind);
+            reasons += Texts::tr("%1中有 %2 个%3")
+                           .arg(own[i].place)
+                           .arg(own[i].entities.size())
+                           .arg(own[i].kind);
         if (layer && (own.size() > kMostReasons || (own.empty() && layer->used())))
-            reasons += tr("共有 %1 个对象").arg(layer->entityCount);
+            reasons += Texts::tr("共有 %1 个对象").arg(layer->entityCount);
         all.push_back(reasons);
     }
     return all;

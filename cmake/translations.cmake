@@ -1,0 +1,20 @@
+# Puts the translations of LIBRARIES, translations/NAME_CODE.ts each, into a target as
+# ":/i18n/NAME_CODE.qm", in a resource named after the target.
+function(vn_embed_translations target)
+    set(files "")
+    foreach(library ${ARGN})
+        file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/translations/${library}_*.ts)
+        list(APPEND files ${found})
+    endforeach()
+    qt5_add_translation(compiled ${files})
+    set(entries "")
+    foreach(file ${compiled})
+        get_filename_component(name ${file} NAME)
+        string(APPEND entries "    <file>${name}</file>\n")
+    endforeach()
+    set(collection ${CMAKE_CURRENT_BINARY_DIR}/${target}_i18n.qrc)
+    file(CONFIGURE OUTPUT ${collection} CONTENT
+        "<RCC>\n<qresource prefix=\"/i18n\">\n${entries}</qresource>\n</RCC>\n")
+    qt5_add_resources(resource ${collection} OPTIONS --format-version 1)
+    target_sources(${target} PRIVATE ${compiled} ${resource})
+endfunction()

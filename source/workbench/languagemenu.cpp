@@ -1,0 +1,52 @@
+#include "languagemenu.h"
+
+#include "language.h"
+
+#include <QActionGroup>
+#include <QSettings>
+
+namespace {
+
+constexpr char kKey[] = "language";
+
+struct LanguageRow
+{
+    const char* code;
+    const char* name; ///< In the language itself, for whoever reads no other.
+};
+
+constexpr LanguageRow kLanguages[] = {{"zh", "中文(&Z)"}, {"en", "&English"}};
+
+QString kept()
+{
+    return QSettings().value(QLatin1String(kKey)).toString();
+}
+
+} // namespace
+
+LanguageMenu::LanguageMenu(QWidget* parent) : QMenu(tr("语言(&L)"), parent)
+{
+    setObjectName(QStringLiteral("languageMenu"));
+    auto* const choices = new QActionGroup(this);
+    const auto offer = [&](const QString& name, const QString& code) {
+        QAction* const choice = choices->addAction(addAction(name));
+        choice->setObjectName(QStringLiteral("language_") + code);
+        choice->setCheckable(true);
+        choice->setChecked(code == kept());
+        connect(choice, &QAction::triggered, this, [this, code] {
+            QSettings().setValue(QLatin1String(kKey), code);
+            emit said(tr("重新启动后改用所选的语言。"));
+        });
+    };
+    offer(tr("跟随系统(&S)"), {});
+    for (const LanguageRow& row : kLanguages)
+        offer(QString::fromUtf8(row.name), QLatin1String(row.code));
+}
+
+void LanguageMenu::useLanguage(const QString& asked)
+{
+    Q_INIT_RESOURCE(workbench_i18n);
+    const QStringList libraries{QStringLiteral("drawing"), QStringLiteral("host"),
+        QStringLiteral("cmdlayerui"), QStringLiteral("workbench")};
+    language::use(asked.isEmpty() ? kept() : asked, libraries);
+}
