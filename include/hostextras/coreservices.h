@@ -7,40 +7,40 @@
 
 #include <functional>
 
-// The services that this host has in its dictionary, and what is reached through them.
+// The services in this host's service dictionary, and the interfaces that are reached through them.
 
 namespace vnsi {
 
-/// An open drawing as dialogs see it.
+/// An open drawing as the dialogs see it.
 class VNSI_EXPORT VnDocument : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(VnDocument)
 public:
-    /// The colours that indices stand for, by index.
+    /// The RGB colours of the index colours; the position in the array is the index.
     virtual const OdArray<ODCOLORREF>& colorTable() const = 0;
 };
 
 using VnDocumentPtr = OdSmartPtr<VnDocument>;
 
-/// The service "Core/DocMgr".
+/// The document manager, registered as the service "Core/DocMgr".
 class VNSI_EXPORT VnDocMgr : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(VnDocMgr)
 public:
-    /// The drawing in front; null when none is open.
+    /// The drawing in the foreground; null when no drawing is open.
     virtual VnDocumentPtr currentDocument() const = 0;
 };
 
-/// The service "Core/EditPrimitiveServer".
+/// The help service, registered as "Core/EditPrimitiveServer".
 class VNSI_EXPORT VnEditPrimitiveServer : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(VnEditPrimitiveServer)
 public:
-    /// Shows the help of what is running; `topic` 0 is its start page.
+    /// Shows the help of the running command. `topic` 0 is its start page.
     virtual void help(int topic) = 0;
 };
 
-/// The service "Core/RequestSvr".
+/// The request server, registered as the service "Core/RequestSvr".
 class VNSI_EXPORT VnRequestSvr : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(VnRequestSvr)
@@ -48,7 +48,7 @@ public:
     virtual VnDocumentPtr currentDocument() const = 0;
 };
 
-/// Work for the user-interface thread.
+/// A piece of work that is to run on the user-interface thread.
 class VNSI_EXPORT VnsiRequest : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(VnsiRequest)
@@ -60,15 +60,15 @@ private:
     std::function<void()> m_work;
 };
 
-/// What `VnUiProxy` reports while a request is under way.
+/// The status that `VnUiProxy` reports for a posted request.
 enum VnRequestStatus { kVnRequestPending = -5018, kVnRequestDone = -5019 };
 
-/// A command thread's way to the user interface of a document.
+/// Lets a thread that runs a command reach the user interface of a document.
 class VNSI_EXPORT VnUiProxy
 {
 public:
     virtual ~VnUiProxy();
-    /// Names the current state of the interface for `vnedPushUIScrap`.
+    /// The number of the interface's current state, to be passed to `vnedPushUIScrap`.
     virtual int scrapId() const = 0;
     /// Posts a request. "proxyRequest" takes a `VnsiRequest`; any other object under that name
     /// raises `OdError_NotThatKindOfClass`. Returns a `VnRequestStatus`.

@@ -4,15 +4,15 @@
 
 namespace vnsi {
 
-/// One node of a result-buffer list; the caller owns the list.
+/// One node of a linked list of result buffers. The caller owns the list.
 struct VnResbuf
 {
     VnResbuf* rbnext = nullptr;
     int restype = 0;
-    wchar_t* rstring = nullptr; ///< Of a string node; made by `vnsiutNewString`.
+    wchar_t* rstring = nullptr; ///< Only set in a string node; made by `vnsiutNewString`.
 };
 
-/// Frees a list and the texts in it; null is allowed.
+/// Frees a list and all its texts. `list` may be null.
 VNSI_EXPORT void vnsiutRelRb(VnResbuf* list);
 
 } // namespace vnsi

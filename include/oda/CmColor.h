@@ -2,15 +2,15 @@
 
 #include "OdaCommon.h"
 
-/// A colour as drawings store it: by a method, and an index or a true colour.
+/// A colour as drawings store it: a method together with a colour index or a true colour.
 class ODRX_EXPORT OdCmEntityColor
 {
 public:
     enum ColorMethod {
         kByLayer = 192,
         kByBlock = 193,
-        kByColor = 194, ///< True colour.
-        kByACI = 195    ///< Colour index.
+        kByColor = 194, ///< A true colour.
+        kByACI = 195    ///< A colour index.
     };
 
     OdCmEntityColor() = default;
@@ -18,18 +18,21 @@ public:
 
     ColorMethod colorMethod() const { return m_method; }
     void setColorMethod(ColorMethod method) { m_method = method; }
-    /// The index; 0 for a true colour.
+    /// The colour index; 0 for a true colour.
     OdInt16 colorIndex() const { return m_index; }
-    /// Sets the index and with it the method: 0 by block, 256 by layer, otherwise by index.
+    /// Sets the index and the method that belongs to it: 0 is ByBlock, 256 is ByLayer, and every
+    /// other value is an index colour.
     void setColorIndex(OdInt16 index);
     void setRGB(OdUInt8 red, OdUInt8 green, OdUInt8 blue);
 
-    /// The colour to show: the true colour, or what the index stands for.
+    /// The three parts of the colour to show: of the true colour itself, or of the index's table
+    /// entry.
     OdUInt8 red() const { return static_cast<OdUInt8>(displayed()); }
     OdUInt8 green() const { return static_cast<OdUInt8>(displayed() >> 8); }
     OdUInt8 blue() const { return static_cast<OdUInt8>(displayed() >> 16); }
 
-    /// The colour of an index of the published 255-colour table; indices outside 1..255 give white.
+    /// The RGB colour of an index in the published table of 255 colours. An index outside 1..255
+    /// gives white.
     static ODCOLORREF lookUpRGB(int index);
 
 private:

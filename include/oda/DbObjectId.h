@@ -2,7 +2,7 @@
 
 #include "OdaCommon.h"
 
-/// Names an object of a drawing database; null by default.
+/// Identifies an object of a drawing by its handle. A default-constructed id is null.
 class OdDbObjectId
 {
 public:

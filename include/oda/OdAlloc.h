@@ -3,8 +3,8 @@
 #include "OdaCommon.h"
 
 extern "C" {
-/// Memory of at least `size` bytes aligned for any type, or null when there is none.
+/// Allocates at least `size` bytes, aligned for any type. Returns null when no memory is left.
 ODRX_EXPORT void* odrxAlloc(std::size_t size);
-/// Gives back what `odrxAlloc` gave; null is allowed.
+/// Frees memory that `odrxAlloc` returned. `memory` may be null.
 ODRX_EXPORT void odrxFree(void* memory);
 }

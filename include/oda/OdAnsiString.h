@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// Narrow text; UTF-8 where it holds more than ASCII.
+/// Narrow text. Text beyond ASCII is encoded as UTF-8.
 class ODRX_EXPORT OdAnsiString
 {
 public:
@@ -27,7 +27,7 @@ private:
 };
 
 class OdString;
-/// The text in UTF-8.
+/// Converts wide text to UTF-8.
 ODRX_EXPORT OdAnsiString OdStringToUtf8String(const OdString& text);
-/// Wide text of UTF-8; bytes that are no UTF-8 become U+FFFD.
+/// Converts UTF-8 to wide text. Bytes that are not valid UTF-8 become U+FFFD.
 ODRX_EXPORT OdString Utf8StringToOdString(const OdAnsiString& text);

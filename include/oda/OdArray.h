@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// A growing array whose element access is checked.
+/// A growable array that checks the index of every element access.
 template <class T>
 class OdArray
 {
@@ -14,7 +14,7 @@ public:
     void append(const T& item) { m_items.push_back(item); }
     void clear() { m_items.clear(); }
 
-    /// Throws `OdError_InvalidIndex` outside the array.
+    /// Throws `OdError_InvalidIndex` when `index` lies outside the array.
     const T& at(unsigned index) const
     {
         if (index >= m_items.size())

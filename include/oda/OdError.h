@@ -13,7 +13,7 @@ enum OdResult {
     eInvalidInput
 };
 
-/// What the platform throws.
+/// The base of all exceptions that the platform throws.
 class ODRX_EXPORT OdError : public std::exception
 {
 public:
@@ -32,7 +32,7 @@ private:
 
 class OdRxClass;
 
-/// An object was asked to be what it is not.
+/// Thrown when an object is used as a class that it does not belong to.
 class ODRX_EXPORT OdError_NotThatKindOfClass : public OdError
 {
 public:
@@ -40,7 +40,7 @@ public:
     ~OdError_NotThatKindOfClass() override;
 };
 
-/// An index outside its array.
+/// Thrown when an index lies outside its array.
 class ODRX_EXPORT OdError_InvalidIndex : public OdError
 {
 public:

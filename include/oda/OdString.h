@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-/// Immutable wide text. Copies share the characters, so handing one on costs a reference count.
+/// Immutable wide text. Copies share the characters, so copying only increases a reference count.
 class ODRX_EXPORT OdString
 {
 public:
@@ -17,9 +17,9 @@ public:
     bool isEmpty() const { return !m_text; }
     int getLength() const;
 
-    /// Order by character codes: below, equal to or above zero.
+    /// Compares by character codes. Returns a value below, equal to or above zero.
     int compare(const OdString& other) const;
-    /// As `compare`, without regard to letter case.
+    /// Compares like `compare`, but ignores letter case.
     int iCompare(const OdString& other) const;
 
     OdString operator+(const OdString& other) const;

@@ -11,8 +11,8 @@ using OdInt32 = std::int32_t;
 using OdUInt32 = std::uint32_t;
 using OdInt64 = std::int64_t;
 
-/// A colour packed as 0x00BBGGRR.
+/// An RGB colour packed as 0x00BBGGRR.
 using ODCOLORREF = std::uint32_t;
 
-/// Reports a broken assertion: the expression, and where it stands.
+/// Reports a failed assertion with its expression and its place in the source.
 ODRX_EXPORT void OdAssert(const char* expression, const char* file, int line);

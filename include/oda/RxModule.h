@@ -7,13 +7,14 @@ class ODRX_EXPORT OdRxModule : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(OdRxModule)
 public:
-    /// The system's handle of the loaded library.
+    /// The operating system's handle of the loaded library.
     virtual void* sysData() = 0;
-    /// Ends the module object; called once, after `uninitApp`, before the library is unloaded.
+    /// Destroys the module object. It is called once, after `uninitApp` and before the library is
+    /// unloaded.
     virtual void deleteModule() = 0;
-    /// Called after loading: the module registers what it offers.
+    /// Called after the library was loaded. The module registers its services here.
     virtual void initApp();
-    /// Called before unloading: the module takes back what it registered.
+    /// Called before the library is unloaded. The module removes what it registered in `initApp`.
     virtual void uninitApp();
     virtual OdString moduleName() const = 0;
 };

@@ -7,7 +7,7 @@
 class OdRxObject;
 using OdRxObjectPtr = OdSmartPtr<OdRxObject>;
 
-/// Describes one class of run-time objects; one per class for the life of the process.
+/// Describes one run-time class. There is exactly one description per class while the process runs.
 class ODRX_EXPORT OdRxClass
 {
 public:
@@ -21,13 +21,13 @@ private:
     const OdRxClass* m_parent;
 };
 
-/// Base of everything that is handed across libraries: counted by reference and able to tell its
+/// Base of every object that libraries hand to each other. It is reference-counted and knows its
 /// class.
 class ODRX_EXPORT OdRxObject
 {
 public:
     static const OdRxClass* desc();
-    /// The object as its own smart pointer type, or null.
+    /// Returns `object` as this class's smart pointer, or null when it is not of this class.
     static OdRxObjectPtr cast(const OdRxObject* object);
 
     OdRxObject() = default;
@@ -35,30 +35,33 @@ public:
     OdRxObject& operator=(const OdRxObject&) = delete;
     virtual ~OdRxObject();
 
-    /// This object, with a reference for the caller, when it is of class `wanted`; otherwise null.
+    /// Returns this object when it is of class `wanted`, otherwise null. The caller owns one
+    /// reference to the returned object.
     virtual OdRxObject* queryX(const OdRxClass* wanted) const;
-    /// The extension object of class `wanted` attached to this one's class; none unless overridden.
+    /// Returns the extension object of class `wanted` that is attached to this object's class. This
+    /// implementation knows none and returns null.
     virtual OdRxObject* x(const OdRxClass* wanted) const;
     virtual const OdRxClass* isA() const;
     virtual void addRef() = 0;
     virtual void release() = 0;
     virtual long numRefs() const;
-    /// A copy, or null where the class cannot be copied.
+    /// Returns a copy, or null when the class cannot be copied.
     virtual OdRxObjectPtr clone() const;
-    /// Throws `OdError_NotThatKindOfClass` where the class cannot be assigned.
+    /// Takes over the contents of `source`. Throws `OdError_NotThatKindOfClass` when the class
+    /// cannot be assigned.
     virtual void copyFrom(const OdRxObject* source);
-    /// 0 for the same object, otherwise -1 or 1 by address.
+    /// Returns 0 when `other` is this same object; otherwise -1 or 1 by comparing addresses.
     virtual int comparedTo(const OdRxObject* other) const;
     virtual bool isEqualTo(const OdRxObject* other) const;
 
-    /// Of `odrxAlloc`: while there is no memory the installed new-handler is called and the
-    /// allocation tried again; without a handler the allocation failure is raised.
+    /// Allocates through `odrxAlloc`. While no memory is left, it calls the installed new-handler
+    /// and tries again; without a handler it throws the usual allocation failure.
     static void* operator new(std::size_t size);
     static void operator delete(void* memory) { odrxFree(memory); }
 };
 
-/// Declares what a run-time class needs to be recognised: `cast` gives the object as one of the
-/// class, or null.
+/// Declares the members by which a run-time class is recognised. `cast` returns the object as this
+/// class, or null when it is not of this class.
 #define ODRX_DECLARE_MEMBERS(ClassName)                                                            \
 public:                                                                                            \
     static const OdRxClass* desc();                                                                \
@@ -69,7 +72,7 @@ public:                                                                         
     }                                                                                              \
     const OdRxClass* isA() const override;
 
-/// Defines it, in one source file.
+/// Defines the members that `ODRX_DECLARE_MEMBERS` declares. Use it in one source file only.
 #define ODRX_DEFINE_MEMBERS(ClassName, ParentName, wideName)                                       \
     const OdRxClass* ClassName::desc()                                                             \
     {                                                                                              \

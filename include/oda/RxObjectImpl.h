@@ -4,7 +4,8 @@
 
 #include <atomic>
 
-/// Makes a run-time class concrete: adds the reference count, which starts at one for the maker.
+/// Makes a run-time class concrete by adding the reference count. The count starts at one, which
+/// belongs to the maker.
 template <class T, class TInterface = T>
 class OdRxObjectImpl : public T
 {

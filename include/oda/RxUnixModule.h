@@ -3,12 +3,12 @@
 #include "RxModule.h"
 #include "RxObjectImpl.h"
 
-/// Binds a module class to the library it was loaded from.
+/// Binds a module class to the library that it was loaded from.
 template <class T, class TInterface = OdRxModule>
 class OdRxUnixModule : public OdRxObjectImpl<T, TInterface>
 {
 public:
-    /// The library's one module object, made at the first call.
+    /// Returns the library's only module object and makes it at the first call.
     static OdRxModule* create(void* systemHandle, const OdString& name)
     {
         if (!s_module)
@@ -36,7 +36,7 @@ private:
     OdString m_name;
 };
 
-/// The two entry points of a module library of this release.
+/// Defines the two entry points that a module library of this release must export.
 #define ODRX_DEFINE_DYNAMIC_MODULE(ModuleClass)                                                    \
     extern "C" ODRX_EXPORT OdRxModule* odrxCreateModuleObject(                                     \
         void* systemHandle, const OdString& name)                                                  \

@@ -8,7 +8,7 @@ enum OdRxObjMod {
     kOdRxObjAttach ///< The pointer takes over a reference that its maker holds.
 };
 
-/// Holds one reference on a run-time object.
+/// A smart pointer that holds one reference to a run-time object.
 template <class T>
 class OdSmartPtr
 {
@@ -37,7 +37,7 @@ public:
     T& operator*() const { return *m_object; }
     bool isNull() const { return !m_object; }
     explicit operator bool() const { return m_object; }
-    /// Gives the reference to the caller.
+    /// Gives up the object without releasing it; the reference passes to the caller.
     T* detach() { return std::exchange(m_object, nullptr); }
 
 private:

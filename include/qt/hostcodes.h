@@ -2,22 +2,24 @@
 
 namespace vnsi {
 
-/// Codes of message boxes, as desktop systems commonly number them: buttons in bits 0-3, icon in
-/// 4-7.
+/// The style codes of message boxes, numbered as desktop systems commonly do: bits 0 to 3 choose
+/// the buttons, bits 4 to 7 the icon.
 enum VnMessageStyle {
     kVnOk = 0,
     kVnOkCancel = 1,
     kVnYesNo = 4,
-    kVnCustomButtons = 6, ///< Texts under "btnText/0".."btnText/3" of the options; answers 0 to 3.
+    /// Custom buttons: their texts are "btnText/0".."btnText/3" of the options, their answers 0 to
+    /// 3.
+    kVnCustomButtons = 6,
     kVnIconQuestion = 32,
     kVnIconWarning = 48,
     kVnIconInformation = 64
 };
 
-/// The button a message box was left with; also what a dialog has as its "result".
+/// The button that closed a message box. Dialogs report their "result" with the same numbers.
 enum VnMessageAnswer { kVnAnswerOk = 1, kVnAnswerCancel = 2, kVnAnswerYes = 6, kVnAnswerNo = 7 };
 
-/// The host product's name, the title of many of its messages.
+/// The host product's name, which is the title of many of its messages.
 inline constexpr char kProductName[] = "Quenlith";
 
 } // namespace vnsi

@@ -5,23 +5,24 @@
 
 namespace vnsi {
 
-/// A whole number, whichever of the two integer types it was written with: trees may keep them
-/// apart. `fallback` where there is none.
+/// Reads a whole number that may have been written with either integer type, because trees may keep
+/// the two types apart. Returns `fallback` when the key holds no integer.
 inline OdInt64 wholeNumber(const IElementValueBase& node, const char* key, OdInt32 fallback = 0)
 {
     const OdInt64 number = node.GetDataL(key, fallback);
     return number != fallback ? number : OdInt64{node.GetDataI(key, fallback)};
 }
 
-/// A colour as trees hold it: method 195 and an index, of which the low 16 bits count, or method
-/// 194 and red, green and blue from the lowest byte up. Every other method reads as 194.
+/// A colour as value trees hold it. With method 195 the low 16 bits of the value are a colour
+/// index. With method 194 the value holds red, green and blue, with red in the lowest byte. Every
+/// other method reads as 194.
 struct LayerColor
 {
     OdInt64 method = 0;
     OdInt64 value = 0;
 
     static LayerColor ofIndex(int index) { return {OdCmEntityColor::kByACI, index}; }
-    /// Of a colour as drawing files keep it, 0x00RRGGBB.
+    /// Makes a true colour from the form that drawing files use, 0x00RRGGBB.
     static LayerColor ofRgb(OdUInt32 rgb)
     {
         return {
@@ -44,14 +45,14 @@ struct LayerColor
     OdUInt8 red() const { return static_cast<OdUInt8>(value); }
     OdUInt8 green() const { return static_cast<OdUInt8>(value >> 8); }
     OdUInt8 blue() const { return static_cast<OdUInt8>(value >> 16); }
-    /// 0x00RRGGBB, for a true colour.
+    /// The true colour as 0x00RRGGBB. Only meaningful for a true colour.
     OdUInt32 rgb() const
     {
         return static_cast<OdUInt32>(red()) << 16 | static_cast<OdUInt32>(green()) << 8 | blue();
     }
-    /// What to hand to those who choose another: the index, or the value as it stands.
+    /// The value to hand to a colour chooser: the index, or for a true colour the unchanged value.
     OdInt64 chosenValue() const { return isIndex() ? index() : value; }
-    /// The colour as the platform shows it.
+    /// The colour as the platform's type.
     OdCmColor resolved() const
     {
         OdCmColor color(0, 0, 0);

@@ -10,9 +10,8 @@
 
 namespace vnsi {
 
-/// A view of one layer record, for dialogs and commands. It shares the node, so what is written
-/// through it is in the list. Without a node it reads as a record without members and writes
-/// nothing.
+/// A view of one layer record, for dialogs and commands. It shares the node, so writing through it
+/// changes the list. Without a node every getter returns its default and every setter does nothing.
 class LayerRecord
 {
 public:
@@ -44,12 +43,12 @@ public:
 
     OdString name() const { return text(layerkey::kName); }
     void setName(const OdString& name) { setText(layerkey::kName, name); }
-    /// What the record says or asks for, a `LayerStatus`. A record that says nothing reads as the
-    /// current layer's.
+    /// The status or requested action of the record, a `LayerStatus`. A record without this key
+    /// reads as the current layer.
     int status() const { return number(layerkey::kStatus); }
     void setStatus(int status) { setNumber(layerkey::kStatus, status); }
     bool isCurrent() const { return status() == kLayerCurrent; }
-    /// In a layer state the key reads the other way round: 1 is the current layer, 0 any other.
+    /// In a layer state the key has the opposite meaning: 1 is the current layer, 0 any other.
     bool isCurrentOfState() const { return status() == 1; }
     void setCurrentOfState(bool current) { setStatus(current ? 1 : 0); }
     bool isOff() const { return flag(layerkey::kOff); }
@@ -70,15 +69,15 @@ public:
             color.write(*m_node, layerkey::kColorMethod, layerkey::kColorValue);
     }
 
-    /// Whether the record was changed. The mark is a bool but for the actions that write it as the
-    /// number 1 (`markModifiedByAction`); both count.
+    /// Whether the record was changed. The mark is normally a bool; the actions that write a status
+    /// code write it as the number 1 (see `markModifiedByAction`). Both count.
     bool isModified() const
     {
         return flag(layerkey::kModified) || number(layerkey::kModified) == 1;
     }
     void markModified() { setFlag(layerkey::kModified, true); }
-    /// The mark of the actions that go with a status code: the number 1, which commands tell from a
-    /// changed property.
+    /// Marks the record as changed by an action that writes a status code. The mark is the number
+    /// 1, which lets commands tell it from a changed property.
     void markModifiedByAction() { setNumber(layerkey::kModified, 1); }
     /// Whether a dialog asked for the action `status` on this layer.
     bool asksFor(LayerStatus action) const { return status() == action && isModified(); }
@@ -88,7 +87,7 @@ private:
 };
 
 /// The records of a list in their order: `for (LayerRecord record : LayerRecordList::of(tree))`.
-/// Without a list there are none.
+/// Without a list the range is empty.
 class LayerRecordList
 {
 public:
@@ -121,18 +120,18 @@ public:
           m_count(treearray::count(m_list))
     {
     }
-    /// Those of a tree, which may be empty.
+    /// The record list under `key` of a tree. The tree may be empty.
     static LayerRecordList of(const VnJsonPtr& tree, const char* key = layerkey::kList)
     {
         return LayerRecordList(tree ? tree->GetDataJ(key) : VnJsonPtr());
     }
 
-    /// Whether there is a list, be it an empty one.
+    /// Whether there is a list. An empty list counts.
     bool exists() const { return bool(m_list); }
     const VnJsonPtr& node() const { return m_list; }
     int count() const { return m_count; }
     bool holds(int index) const { return index >= 0 && index < m_count; }
-    /// A null record outside the list.
+    /// The record at `index`; a null record when `index` lies outside the list.
     LayerRecord operator[](int index) const
     {
         return LayerRecord(holds(index) ? treearray::item(m_list, index) : VnJsonPtr());
@@ -142,7 +141,7 @@ public:
 
 private:
     VnJsonPtr m_list;
-    int m_count; ///< When this was made; records added since are not seen.
+    int m_count; ///< The count at the time of construction; records added later are not seen.
 };
 
 } // namespace vnsi

@@ -4,8 +4,8 @@
 
 namespace vnsi {
 
-/// The text of a lineweight in hundredths of a millimetre, or of its codes: -1 ByLayer, -2 ByBlock,
-/// -3 default.
+/// The text of a lineweight. `lineWidth` is in hundredths of a millimetre or one of the codes -1
+/// (ByLayer), -2 (ByBlock) and -3 (default).
 inline QString lineWidthText(int lineWidth)
 {
     switch (lineWidth) {

@@ -5,26 +5,27 @@
 
 namespace vnsi {
 
-// The rule for the names of layers and layer states. Dialogs and drawings go by it alike, so that
-// what one of them takes the other takes, too. It says what is wrong; how that is worded, and what
-// is looked at first, is for whoever asks.
+// The rule for the names of layers and layer states. Dialogs and drawings share it, so a name that
+// one of them accepts is accepted by the others. The functions only tell what is wrong with a name;
+// each caller decides the wording of its message and the order of its checks.
 
-/// The thirteen characters that no name may hold, in the order in which messages list them.
+/// The thirteen characters that names must not contain, in the order in which messages list them.
 inline constexpr QLatin1String kForbiddenInNames("\\<>/\":;?*|,=`", 13);
-/// The most characters a name may have: code points, so that a rare character counts as one.
+/// The maximum length of a name in code points, so that a rare character counts as one.
 inline constexpr int kMostNameCharacters = 255;
 
-/// What may be wrong with a name; several things may be at once.
+/// What can be wrong with a name. Several faults can occur together.
 enum class NameFault {
     Empty = 1,
-    TooLong = 2,            ///< More than `kMostNameCharacters`.
-    ForbiddenCharacter = 4, ///< One of `kForbiddenInNames`.
-    ControlCharacter = 8    ///< Below the blank, or DEL: a drawing file's lines cannot hold it.
+    TooLong = 2,            ///< More than `kMostNameCharacters` code points.
+    ForbiddenCharacter = 4, ///< Contains one of `kForbiddenInNames`.
+    /// Contains a code below the blank, or DEL; a line of a drawing file cannot hold it.
+    ControlCharacter = 8
 };
 Q_DECLARE_FLAGS(NameFaults, NameFault)
 Q_DECLARE_OPERATORS_FOR_FLAGS(NameFaults)
 
-/// Either kind of character that no name may hold.
+/// Both kinds of characters that names must not contain.
 inline constexpr NameFaults kUnsupportedCharacter =
     NameFault::ForbiddenCharacter | NameFault::ControlCharacter;
 
@@ -42,7 +43,7 @@ inline bool isControlCharacter(QChar c)
     return c < QLatin1Char(' ') || c == QLatin1Char('\x7f');
 }
 
-/// All that is wrong with `name` as it stands; blanks around it are for the caller to strip.
+/// All faults of `name` exactly as given. The caller strips blanks around it beforehand.
 inline NameFaults nameFaults(const QString& name)
 {
     NameFaults faults;
@@ -71,14 +72,15 @@ inline bool isTooLongForName(const QString& name)
     return nameFaults(name).testFlag(NameFault::TooLong);
 }
 
-/// Whether two names mean the same: letter case does not count.
+/// Whether two names are the same name. Letter case is ignored.
 inline bool isSameName(const QString& a, const QString& b)
 {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-/// One spelling for all names that `isSameName` takes for one: a key to look names up by. Folds a
-/// character at a time, as names are compared; folding a whole text makes "ss" of one letter.
+/// A key for looking names up: all names that `isSameName` treats as equal have the same key. It
+/// folds each character on its own, as comparing does; folding a whole text would turn the German
+/// sharp s into "ss".
 inline QString foldedName(const QString& name)
 {
     QVector<uint> characters = name.toUcs4();

@@ -12,8 +12,8 @@
 namespace vnsi {
 
 /// A view of the record of one target layer, for the translator's dialogs and their command. It
-/// shares the node, so what is written through it is in the list. Without a node it reads as a
-/// record without members and writes nothing.
+/// shares the node, so writing through it changes the list. Without a node every getter returns its
+/// default and every setter does nothing.
 class TargetRecord
 {
 public:
@@ -34,7 +34,7 @@ public:
         if (m_node)
             color.write(*m_node, transkey::kToColorMethod, transkey::kToColorValue);
     }
-    /// The index, or the true colour's three parts.
+    /// The text of the colour: its index, or the three parts of a true colour.
     QString colorText() const
     {
         const LayerColor shown = color();
@@ -44,7 +44,7 @@ public:
     }
 
     QString linetype() const { return text(transkey::kToLinetype); }
-    /// By which whoever made the record knows the linetype; 0 where it has none.
+    /// The number by which the maker of the record knows the linetype; 0 when there is none.
     OdInt64 linetypeId() const { return m_node ? m_node->GetDataL(transkey::kToLinetypeId) : 0; }
     void setLinetype(const QString& name, OdInt64 id)
     {
@@ -54,7 +54,7 @@ public:
     }
 
     bool hasLineWidth() const { return lineWidth(0) == lineWidth(1); }
-    /// Hundredths of a millimetre; -3 is the default.
+    /// The lineweight in hundredths of a millimetre; -3 is the default lineweight.
     int lineWidth(int fallback = -3) const
     {
         return m_node ? m_node->GetDataI(transkey::kToLineWidth, fallback) : fallback;
@@ -67,7 +67,7 @@ public:
             m_node->SetDataI(transkey::kToLineWidth, weight);
     }
 
-    /// Percent, 0..90.
+    /// The transparency in percent, 0 to 90.
     int transparency() const { return m_node ? m_node->GetDataI(transkey::kToTransparency) : 0; }
     QString transparencyText() const { return QString::number(transparency()); }
     void setTransparency(int percent)
@@ -87,7 +87,7 @@ public:
     }
     void setPlotStyle(const QString& style) { setText(transkey::kToPlotStyle, style); }
 
-    /// Whether objects are on the layer.
+    /// Whether the layer holds objects.
     bool isUsed() const { return m_node && m_node->GetDataB(transkey::kToUsed); }
     void setUsed(bool isUsed)
     {
@@ -95,7 +95,7 @@ public:
             m_node->SetDataB(transkey::kToUsed, isUsed);
     }
 
-    /// Takes over what the new/edit dialog answered, all but whether the layer is used.
+    /// Copies the answer of the new/edit dialog into the record, except whether the layer is used.
     void takeResult(const IElementValueBase& result)
     {
         using namespace transkey;

@@ -2,15 +2,15 @@
 
 namespace vnsi {
 
-/// The keys that the layer translator's dialogs and the command share. Where their spellings differ
-/// from one another, that is agreed.
+/// The keys that the layer translator's dialogs and the command share. Some spellings are
+/// inconsistent; they are agreed and must stay as they are.
 namespace transkey {
 
-// The record of a layer of the drawing.
+// The keys of the record of a layer of the drawing.
 inline constexpr char kFromName[] = "LayerNameT";
 inline constexpr char kFromUsed[] = "bUsedT";
 
-// The record of a target layer.
+// The keys of the record of a target layer.
 inline constexpr char kToName[] = "transToName";
 inline constexpr char kToColorMethod[] = "transToColor/clrMethod";
 inline constexpr char kToColorValue[] = "transToColor/selectClr";
@@ -25,11 +25,11 @@ inline constexpr char kToUsed[] = "transTobUsed";
 /// The plot style of a layer without one of its own, as records name it in every language.
 inline constexpr char kNormalPlotStyle[] = "普通";
 
-// A mapping.
+// The keys of a mapping.
 inline constexpr char kFrom[] = "Ltransmapfrom";
 inline constexpr char kTo[] = "Ltransmapto";
 
-// What the new/edit dialog is given and answers.
+// The keys of what the new/edit dialog is given and what it answers.
 inline constexpr char kIsEdit[] = "ltransInitIsEditLayer";
 inline constexpr char kInitRecord[] = "ltransInitNewEditLayer";
 inline constexpr char kNamesInUse[] = "newToLayerNameArray/ToLayerNameArray";
@@ -44,18 +44,18 @@ inline constexpr char kResultColorValue[] = "ltransResultNewselectClr";
 inline constexpr char kResultTransparency[] = "ltransResultNewTparency";
 inline constexpr char kResultPlotStyle[] = "ltransResultNewPlotstyle";
 
-// What the settings dialog is given and answers: an array of six objects.
+// The keys of what the settings dialog is given and what it answers: an array of six objects.
 inline constexpr char kSettingsIn[] = "qLtransSettingParamset";
 inline constexpr char kSettingsOut[] = "LtransSettingParamOut";
 inline constexpr char kSetting[] = "LtransSettingData";
 
-// What the translator is given, and what it keeps among the user's settings.
+// The keys of what the translator is given and of what it keeps in the user's settings.
 inline constexpr char kDrawingName[] = "LaytransDwgName";
 inline constexpr char kTheme[] = "LaytransTheme";
 inline constexpr wchar_t kConfigSection[] = L"layertransset_dialog";
 inline constexpr char kConfigSettings[] = "LtransSettingDates";
 
-// What the translator asks the command, and the command's answers.
+// The keys of the translator's requests and of the command's answers.
 inline constexpr char kRequestCode[] = "layTransUserType";
 inline constexpr char kSaveAnswer[] = "ltransSaveMapListdlg";
 inline constexpr char kSaveMappings[] = "ltransMapListArray";
@@ -81,7 +81,7 @@ inline constexpr char kClickedName[] = "laytransFMClickedName";
 
 } // namespace transkey
 
-/// The translator's requests, under "layTransUserType".
+/// The translator's requests, written under "layTransUserType".
 enum TranslatorRequest {
     kTranslatorSave = 0,
     kTranslatorLoad = 1,
@@ -92,7 +92,7 @@ enum TranslatorRequest {
     kTranslatorClicked = 7
 };
 
-/// The translator's options by their place in the settings.
+/// The translator's options; the value is the option's position in the settings array.
 enum TranslatorOption {
     kForceColor,
     kForceLinetype,

@@ -12,38 +12,41 @@
 
 namespace vnsi {
 
-/// Runs `work` on the user-interface thread and waits for it: at once when the caller is there,
-/// through the request service while a command runs elsewhere. Returns false when neither holds and
-/// when the service fails; `work` is then dropped.
+/// Runs `work` on the user-interface thread and waits until it is done. On that thread it runs
+/// directly; on another thread it goes through the request service, but only while a command is
+/// running. Returns false, without running `work`, when neither applies or when the service fails.
 bool vnqtRunOnUiThread(const std::function<void()>& work);
 
-/// One question of a dialog to the running command.
+/// One request that a dialog sends to the running command.
 struct VnQtRequest
 {
     int code = 0;
-    /// Keys the command answers in; cleared before it is asked, and no others are.
+    /// The keys that the command answers in. They, and no others, are cleared before the command is
+    /// asked.
     std::vector<const char*> answers = {};
     int parameter = 0;
-    /// Stands under "parameter" instead of the number when not empty.
+    /// Written under "parameter" in place of the number, unless it is empty.
     VnJsonPtr parameterTree = {};
     const char* codeKey = "marker";
 };
 
-/// Writes the arguments of a request into the node it goes out on.
+/// A function that writes the arguments of a request into the node that the request is sent on.
 using VnQtArgumentWriter = std::function<void(IElementValueBase& node)>;
 
-/// What a request brought: the very node that it went out on, kept alive whatever the command did
-/// to the tree around it. Without an answer (no node, nobody to ask, a call-back that threw) it
-/// stands for an object without keys, so that every answer reads its default.
+/// The answer to a request. It holds the very node that the request was sent on and keeps it alive,
+/// whatever the command did to the tree around it. When there is no answer (no node, no command to
+/// ask, or a call-back that threw), it holds an object without keys, so that every key reads its
+/// default.
 ///
-/// What the command may have put elsewhere in the tree is looked up afresh from the dialog's data.
+/// What the command may have written elsewhere in the tree must be looked up again from the
+/// dialog's data.
 class VnQtAnswer
 {
 public:
     VnQtAnswer();
     explicit VnQtAnswer(VnJsonPtr node) : m_node(std::move(node)), m_isAnswered(true) {}
 
-    /// Whether the command was asked and came back.
+    /// Whether the command was asked and returned normally.
     explicit operator bool() const { return m_isAnswered; }
     const VnJsonPtr& node() const { return m_node; }
     const IElementValueBase* operator->() const { return &*m_node; }
@@ -53,30 +56,31 @@ private:
     bool m_isAnswered = false;
 };
 
-/// A dialog's call-back object: hands requests on to the command's, and ends there what that
-/// throws, with a message box that tells the cause.
+/// A dialog's call-back object. It passes requests on to the command's call-back object, catches
+/// what that throws, and reports the cause in a message box.
 class VnQtCommandInvoker : public VnUiDialogInvoker
 {
 public:
-    /// `command` may be null or no call-back object at all; then nobody is asked.
+    /// `command` may be null or an object that is no call-back object; then requests stay
+    /// unanswered.
     explicit VnQtCommandInvoker(const OdRxObjectPtr& command);
 
     bool hasCommand() const { return !m_command.isNull(); }
     void invoke(VnJsonPtr tree) override { hasAnswered(tree); }
-    /// Hands the tree on; false where nobody was asked and where the command threw.
+    /// Passes the tree to the command. Returns false when there is no command and when it threw.
     bool hasAnswered(const VnJsonPtr& tree);
 
 private:
     OdSmartPtr<VnUiDialogInvoker> m_command;
 };
 
-/// Sends a request on `node`: writes "parameter", the code and the arguments, clears the answers,
-/// hands the node over and returns when it has been answered. Nothing is written without a node
-/// or somebody to ask.
+/// Sends a request on `node`: writes "parameter", the code and the arguments, clears the answer
+/// keys, passes the node to the command and returns when the command has answered. Without a node
+/// or without a command it writes nothing.
 VnQtAnswer vnqtAsk(VnJsonPtr node, OdSmartPtr<VnQtCommandInvoker> invoker, OdAnsiString dialogName,
     const VnQtRequest& request, const VnQtArgumentWriter& writeArguments = {});
 
-/// What every dialog's wrapper is to the host, apart from the dialog class.
+/// The part of a dialog's wrapper, as the host sees it, that does not depend on the dialog class.
 class VnQtUIModeDialogBase : public VnUiModeDialogBase
 {
 public:
@@ -84,23 +88,25 @@ public:
     ~VnQtUIModeDialogBase() override;
 
     int doModal() override;
-    /// The wrapper's own way of ending the dialog, for dialogs without one: writes `code` as
-    /// "result" and closes the window.
+    /// Ends a dialog that has no `endDialog` of its own: writes `code` as "result" and closes the
+    /// window.
     virtual void endDialog(int code);
-    /// Builds the window under `parent` (may be null); true when it is there, also from an earlier
-    /// call. By place the last of the wrapper's virtual functions.
+    /// Builds the window under `parent`, which may be null. Returns true when the window exists,
+    /// also from an earlier call. This must stay the last of the wrapper's virtual functions,
+    /// because they are called by position.
     virtual bool createDialog(QWidget* parent, unsigned flags, const char* objectName) = 0;
-    /// The tree that carries "result".
+    /// The tree that "result" is written into.
     const VnJsonPtr& resultData() const { return m_result; }
 
-    /// Shows the dialog again as soon as it is closed, instead of returning.
+    /// Makes `doModal` show the dialog again after it is closed instead of returning.
     void reshow() { m_reshow = 1; }
 
 protected:
     VnJsonPtr m_data;
     OdRxObjectPtr m_invoker;
     VnJsonPtr m_result;
-    QPointer<QWidget> m_dialog; ///< Guarded: the parent window may take the dialog with it.
+    /// A guarded pointer, because the parent window may delete the dialog.
+    QPointer<QWidget> m_dialog;
     OdInt32 m_reshow = 0;
 };
 
@@ -131,8 +137,8 @@ private:
     QPointer<T> m_pDialog;
 };
 
-/// Makes a wrapper concrete: adds the reference count, whose last release deletes wrapper and
-/// dialog on the user-interface thread.
+/// Makes a wrapper concrete by adding the reference count. The last release deletes the wrapper and
+/// the dialog on the user-interface thread.
 template <class T, class TInterface = T>
 class VnQtRxObjectImpl : public T
 {
@@ -157,10 +163,11 @@ private:
     std::atomic<OdInt32> m_nRefCounter{1};
 };
 
-/// Base of every dialog class `T`: what it is handed, and how it asks and ends.
+/// Base of every dialog class `T`. It keeps what the dialog was given and knows how the dialog
+/// sends requests and ends.
 ///
-/// The virtual functions are called by place, also those this module leaves empty; their order is
-/// part of the interface.
+/// The virtual functions are called by position, including those that this module leaves empty.
+/// Their order is part of the interface.
 template <class T, class Base>
 class VnQtModeDialogImpl : public Base
 {
@@ -173,11 +180,11 @@ public:
     {
     }
 
-    // Hooks take handles by value: what overrides them relies on that.
+    // The hooks take handles by value because overriding functions rely on it.
     // NOLINTBEGIN(performance-unnecessary-value-param)
     virtual void onCreated() {}
     virtual void onShown() {}
-    /// The dialog has been handed its tree; called by `setData`.
+    /// Called by `setData` when the dialog has received its tree.
     virtual void onDataSet(VnJsonPtr) {}
     virtual void onHidden() {}
     virtual void onActivated() {}
@@ -185,7 +192,8 @@ public:
     /// Closes the dialog with `code` as its result.
     virtual void endDialog(int code) { m_wrapper->endDialog(code); }
 
-    /// Keeps the tree and the call-back object. Dialogs extend it and fill their widgets.
+    /// Stores the tree and the call-back object. Dialogs extend this function to fill their
+    /// widgets.
     virtual bool setData(VnJsonPtr data, OdRxObjectPtr invoker)
     {
         m_data = std::move(data);
@@ -194,7 +202,7 @@ public:
         onDataSet(m_data);
         return true;
     }
-    /// Builds the widgets; false when the dialog cannot be shown.
+    /// Builds the widgets. Returns false when the dialog cannot be shown.
     virtual bool initDialog() { return true; }
 
     virtual void onInvoke(VnJsonPtr) {}
@@ -204,7 +212,7 @@ public:
     virtual void onHostQuit() {}
     // NOLINTEND(performance-unnecessary-value-param)
 
-    /// Names the dialog, for scripts and for the request log.
+    /// Sets the dialog's object name, by which scripts find it and which the request log records.
     void setDialogName(const char* objectName)
     {
         m_dialogName = objectName;
@@ -214,19 +222,18 @@ public:
 protected:
     const VnJsonPtr& data() const { return m_data; }
     const OdRxObjectPtr& invoker() const { return m_invoker; }
-    /// Whether there is a tree to ask about and somebody to ask.
+    /// Whether there are both a tree to send requests on and a command to answer them.
     bool canRequest() const { return m_data && m_callBack && m_callBack->hasCommand(); }
     VnQtUIModeDialogBase* wrapper() const { return m_wrapper; }
     VnJsonPtr result() const { return m_wrapper->resultData(); }
 
-    /// Asks the running command on the dialog's tree. Read the answers from what comes back:
-    /// `askCommand({6, {"IsExistBlock"}})->GetDataB("IsExistBlock")`.
+    /// Sends a request to the running command on the dialog's tree. Read the answers from the
+    /// returned object: `askCommand({6, {"IsExistBlock"}})->GetDataB("IsExistBlock")`.
     VnQtAnswer askCommand(const VnQtRequest& request, const VnQtArgumentWriter& writeArguments = {})
     {
         return askCommandOn(m_data, request, writeArguments);
     }
-    /// The same on another node, which is written and handed over in the tree's place; nothing is
-    /// sent where it is empty.
+    /// Sends a request on `node` instead of the dialog's tree. Sends nothing when `node` is empty.
     VnQtAnswer askCommandOn(const VnJsonPtr& node, const VnQtRequest& request,
         const VnQtArgumentWriter& writeArguments = {})
     {

@@ -4,50 +4,50 @@
 
 namespace vnsi {
 
-/// The keys that the layer walk's dialogs and the command share, besides those of the records.
+/// The keys, besides those of the records, that the layer walk's dialogs and the command share.
 namespace walkkey {
 
-/// The layer tree, which holds the drawing's layer states as well (`statekey::kList`), for the
-/// dialog that names a new one: what the dialog is given, what the command hands back when it made
-/// it anew. Requests carry the dialog's own copy of it under `requestkey::kParameter`. What is
-/// found there afterwards in that copy's place, or under `kResult`, counts as handed back as well.
+/// The layer tree that the dialog is given. It also holds the drawing's layer states
+/// (`statekey::kList`) for the dialog that names a new one. The command may hand back a new layer
+/// tree under this key. Requests carry the dialog's own tree under `requestkey::kParameter`; a tree
+/// that the command puts there, or under `kResult`, also counts as handed back.
 inline constexpr char kLayers[] = "LayerStateMgr";
-/// 0 where the command refused; what it leaves alone counts as done.
+/// 0 when the command refused. A missing answer counts as success.
 inline constexpr char kResult[] = "result";
 
-/// In a record: whether the layer is pinned and stays on.
+/// In a record: whether the layer is pinned, so that it always stays on.
 inline constexpr char kAlwaysShow[] = "bAlwaysShow";
 
-// On the root: what a request needs to know.
-/// With a click on a row: the name of the layer that was current before. The command may make the
-/// clicked layer current while that one is hidden.
+// Arguments of requests, written on the root.
+/// Sent with a click on a row: the name of the layer that was current before. The command may make
+/// the clicked layer current while the old one is hidden.
 inline constexpr char kOldCurrent[] = "oldlaywalkLName";
 inline constexpr char kPurgeOne[] = "laywalkselLName";
 inline constexpr char kPurgeSeveral[] = "laywalkselLNameS";
 
-// On the root: answers.
+// Answers, written on the root.
 inline constexpr char kLayerCount[] = "LayerCount";
 inline constexpr char kSelectedCount[] = "SelectLayerCount";
-inline constexpr char kSelectedEntities[] = "SelectLayerEntitys"; // The key's agreed spelling.
+inline constexpr char kSelectedEntities[] = "SelectLayerEntitys"; // The misspelt key is agreed.
 inline constexpr char kPickedNames[] = "laywalkpickLNameS";
 
 } // namespace walkkey
 
-/// The dialogs of the walk and the service that makes them.
+/// The names of the walk's dialogs and of the service that makes them.
 namespace walkdialog {
 inline constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 inline constexpr wchar_t kWalk[] = L"Dialog/CmdLaywalk";
 inline constexpr wchar_t kVerify[] = L"Dialog/CmdLaywalk/Verify";
 } // namespace walkdialog
 
-/// The walk's requests, under "marker".
+/// The walk's requests, written under "marker".
 enum WalkRequest {
     kWalkSaveState = 1,
-    kWalkApply = 4, ///< Show the layers as the tree has them, at once.
+    kWalkApply = 4, ///< Show the layers at once as the tree has them.
     kWalkCount = 7,
     kWalkPurge = 12,
-    /// Let the user pick entities while the dialog is hidden, and answer the names of their layers
-    /// in an array. A command that does not know it leaves the dialog as it was.
+    /// Hide the dialog, let the user pick entities, and answer an array with the names of their
+    /// layers. A command that does not know this request leaves the dialog unchanged.
     kWalkPick = 13
 };
 

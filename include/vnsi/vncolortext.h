@@ -8,9 +8,9 @@
 
 namespace vnsi {
 
-/// The text that names a colour: "ByLayer", "ByBlock", the name or number of an index colour, the
-/// three parts of a true colour with commas. `layer` gives what a ByLayer colour resolves to; null
-/// for none.
+/// The text of a colour: "ByLayer", "ByBlock", the name or number of an index colour, or the three
+/// parts of a true colour separated by commas. `layer` is the layer that a ByLayer colour is
+/// resolved with; it may be null.
 VNSI_EXPORT OdString formatColor(
     const OdCmColor& color, const OdArray<ODCOLORREF>& colorTable, OdDbObjectId layer);
 

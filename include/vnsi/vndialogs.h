@@ -7,13 +7,13 @@ class QWidget;
 
 namespace vnsi {
 
-/// Answers the requests of a dialog: the running command's side of the channel.
+/// Answers the requests of a dialog. The running command implements it.
 class VNSI_EXPORT VnUiDialogInvoker : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(VnUiDialogInvoker)
 public:
-    /// Reads the request from `tree` and writes the answer into it before returning. Does nothing
-    /// here.
+    /// Reads the request from `tree` and writes the answer into it before returning. This base
+    /// implementation does nothing.
     virtual void invoke(VnJsonPtr tree);
 };
 
@@ -22,8 +22,8 @@ class VNSI_EXPORT VnUiDialogBase : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(VnUiDialogBase)
 public:
-    /// Hands over the input tree and the call-back object (either may be empty) and lets the dialog
-    /// fill its widgets. Returns 1 when the dialog took them, otherwise 0.
+    /// Passes the input tree and the call-back object to the dialog, which fills its widgets.
+    /// Either may be empty. Returns 1 when the dialog accepted them, otherwise 0.
     virtual int setData(VnJsonPtr data, OdRxObjectPtr invoker) = 0;
 };
 
@@ -38,27 +38,27 @@ public:
 
 using VnUiModeDialogBasePtr = OdSmartPtr<VnUiModeDialogBase>;
 
-/// Makes dialogs by name.
+/// A service that makes dialogs by name.
 class VNSI_EXPORT VnUiService : public OdRxObject
 {
     ODRX_DECLARE_MEMBERS(VnUiService)
 public:
-    /// A new dialog; null for a name the service does not know and when the dialog cannot be built.
+    /// Makes a new dialog. Returns null for an unknown name and when the dialog cannot be built.
     virtual VnUiModeDialogBasePtr createDialog(const OdString& dialogName) = 0;
 };
 
-/// Shows dialog `dialogName` of service `serviceName` and returns when it is closed. The dialog is
-/// given `tree` as it is, also empty. Gives back `tree` (a new object where that was empty) with
-/// "result" written into it; 0 when there is no such dialog.
+/// Shows dialog `dialogName` of service `serviceName` and returns when it is closed. The dialog
+/// receives `tree` unchanged, even when it is empty. Returns `tree`, or a new object when it was
+/// empty, with "result" written into it. The "result" is 0 when there is no such dialog.
 VNSI_EXPORT VnJsonPtr vnuiShowModelDialogEx(const OdString& serviceName, const OdString& dialogName,
     const VnJsonPtr& tree, const OdRxObjectPtr& invoker, QWidget* parent);
-/// The same without a call-back object, under the host's current window.
+/// Shows a dialog under the host's current window and without a call-back object.
 VNSI_EXPORT VnJsonPtr vnuiShowModelDialog(
     const OdString& serviceName, const OdString& dialogName, const VnJsonPtr& tree);
 
-/// Native handle of the window that dialogs belong to now; null when there is none.
+/// The native handle of the window that new dialogs belong to; null when there is none.
 VNSI_EXPORT void* vnuiCurTargetWindow();
-/// The widget of a native handle; null for null.
+/// The widget that a native handle belongs to; null for a null handle.
 VNSI_EXPORT QWidget* qt_windowHandle_to_widget(void* handle);
 
 } // namespace vnsi

@@ -10,13 +10,13 @@ namespace vnsi {
 
 class IElementValueBase;
 
-/// Shared handle on one node of a value tree; may be empty. Copies share the node, so what is
-/// written through one is seen through all.
+/// A shared handle to one node of a value tree, or an empty handle. Copies share the node, so a
+/// change made through one of them is visible through all.
 class VNSI_EXPORT VnJsonPtr
 {
 public:
     VnJsonPtr() = default;
-    /// Takes over the maker's reference.
+    /// Takes over the reference that the maker of the node holds.
     explicit VnJsonPtr(IElementValueBase* node) : m_node(node) {}
     VnJsonPtr(const VnJsonPtr& other);
     VnJsonPtr(VnJsonPtr&& other) noexcept : m_node(std::exchange(other.m_node, nullptr)) {}
@@ -32,10 +32,10 @@ public:
     IElementValueBase* operator->() const { return m_node; }
     IElementValueBase& operator*() const { return *m_node; }
 
-    /// Element `index` of an array, from 0; empty for an empty handle, another kind of node, and an
-    /// index outside.
+    /// Element `index` of an array, counted from 0. Empty for an empty handle, for a node that is
+    /// no array, and for an index outside the array.
     VnJsonPtr operator()(int index) const;
-    /// The element count of an array; 0 for an empty handle and other kinds of nodes.
+    /// The number of elements of an array; 0 for an empty handle and for other kinds of nodes.
     int ArrayCount() const;
 
     friend bool operator==(const VnJsonPtr& a, const VnJsonPtr& b) { return a.m_node == b.m_node; }
@@ -47,10 +47,10 @@ private:
 
 /// One node of a JSON-like tree: an object, an array or a scalar.
 ///
-/// Keys are ASCII; "a/b" reaches member "b" of the object under "a", and setters make the objects
-/// on the way. A getter gives its default where the key is missing or holds another type, of which
-/// the two integer types are two. A setter replaces, whatever was there; on a node that is no
-/// object it does nothing.
+/// Keys are ASCII. The key "a/b" addresses member "b" of the object under "a"; setters create the
+/// objects on that path. A getter returns its default when the key is missing or holds another
+/// type; the two integer types count as different types. A setter replaces any earlier value of any
+/// type; on a node that is no object it does nothing.
 class VNSI_EXPORT IElementValueBase
 {
 public:
@@ -61,7 +61,7 @@ public:
     virtual OdInt32 GetDataI(const char* key, OdInt32 fallback = 0) const = 0;
     virtual OdInt64 GetDataL(const char* key, OdInt64 fallback = 0) const = 0;
     virtual OdString GetDataSW(const char* key, const OdString& fallback = OdString()) const = 0;
-    /// The object or array under `key`; empty where there is none.
+    /// The object or array under `key`; empty when there is none.
     virtual VnJsonPtr GetDataJ(const char* key) const = 0;
 
     virtual void SetDataB(const char* key, bool value) = 0;
@@ -69,24 +69,25 @@ public:
     virtual void SetDataL(const char* key, OdInt64 value) = 0;
     virtual void SetDataSW(const char* key, const OdString& value) = 0;
     virtual void SetDataS(const char* key, const OdAnsiString& utf8) = 0;
-    /// Hangs a sub-tree under `key`; the node is shared, not copied. An empty handle, and a node
-    /// that would become its own descendant, remove the key.
+    /// Puts a sub-tree under `key`. The node is shared, not copied. The key is removed when `value`
+    /// is an empty handle or when the node would become its own descendant.
     virtual void SetDataJ(const char* key, const VnJsonPtr& value) = 0;
 
-    /// Number of elements of an array; 0 for other kinds.
+    /// The number of elements of an array; 0 for other kinds of nodes.
     virtual int ArrayCount() const = 0;
-    /// Element `index` of an array; a scalar element comes as a node of its own that reads alone.
+    /// Element `index` of an array. A scalar element is returned as a node of its own, which can
+    /// only be read.
     virtual VnJsonPtr operator()(int index) const = 0;
 
 protected:
     virtual ~IElementValueBase() = default;
 };
 
-/// Makes nodes.
+/// Creates nodes.
 class VNSI_EXPORT ElementValue
 {
 public:
-    /// An empty object with room for `capacity` members.
+    /// Creates an empty object with room for `capacity` members.
     static VnJsonPtr createObject(int capacity);
 };
 

@@ -9,20 +9,20 @@
 
 namespace vnsi {
 
-/// Chooses a colour: ByLayer, ByBlock, the named index colours with swatches, and an entry that
-/// opens the host's colour dialog. The dialog allows ByLayer and ByBlock as long as the list has
-/// them.
+/// A combo box for colours. It lists ByLayer, ByBlock, the named index colours with swatches, and
+/// an entry that opens the host's colour dialog. That dialog offers ByLayer and ByBlock only while
+/// the list contains them.
 class VNSI_EXPORT VnColorComboBox : public QComboBox
 {
     Q_OBJECT
 
 public:
     explicit VnColorComboBox(QWidget* parent = nullptr);
-    /// The colour that is shown.
+    /// The selected colour.
     OdCmColor GetCurrentColorEx() const { return m_color; }
-    /// The row that shows `color`; -1 where none does.
+    /// The row that shows `color`, or -1 when no row does.
     int FindColor(const OdCmColor& color) const;
-    /// Adds a row for `color` and returns it; the row that is there already where one is.
+    /// Returns the row that shows `color` and adds one when there is none yet.
     int AppendColorItem(const OdCmColor& color);
 
 private:
@@ -32,27 +32,28 @@ private:
     OdCmColor m_color;
 };
 
-/// Chooses a linetype by name.
+/// A combo box for linetypes, chosen by name.
 class VNSI_EXPORT VnLineTypeComboBox : public QComboBox
 {
     Q_OBJECT
 
 public:
     explicit VnLineTypeComboBox(QWidget* parent = nullptr);
-    /// The name of the linetype that is shown.
+    /// The name of the selected linetype.
     OdString getCurrentLineTypeString() const;
-    /// The linetype's record in the drawing; null for one that the drawing lacks.
+    /// The selected linetype's record in the drawing; null when the drawing does not have it.
     OdDbObjectId getCurrentLineType() const;
 };
 
-/// Chooses a lineweight: ByLayer, ByBlock, default, or one of the weights that exist.
+/// A combo box for lineweights: ByLayer, ByBlock, default, or one of the available weights.
 class VNSI_EXPORT VnLineWidthComboBox : public QComboBox
 {
     Q_OBJECT
 
 public:
     explicit VnLineWidthComboBox(QWidget* parent = nullptr);
-    /// Hundredths of a millimetre, or -1 ByLayer, -2 ByBlock, -3 default.
+    /// The selected lineweight in hundredths of a millimetre, or -1 (ByLayer), -2 (ByBlock), -3
+    /// (default).
     int GetCurrentLineWeight() const;
 };
 

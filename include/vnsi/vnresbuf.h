@@ -5,12 +5,12 @@
 
 namespace vnsi {
 
-/// One node of a result-buffer list.
+/// One node of a linked list of result buffers.
 struct VnResbuf;
 
-/// A node of the given type, 5005 for a string, not linked; null when there is no memory.
+/// Creates a single node of the given type; 5005 is a string. Returns null when no memory is left.
 VNSI_EXPORT VnResbuf* vnsiutNewRb(int type);
-/// A copy of the text for a string node; null when there is no memory.
+/// Copies a text for use in a string node. Returns null when no memory is left.
 VNSI_EXPORT wchar_t* vnsiutNewString(const OdString& text);
 
 } // namespace vnsi

@@ -4,12 +4,12 @@
 
 namespace vnsi {
 
-/// The value tree of a persisted section of the user's settings; the same node at every call. What
-/// a dialog writes into it is kept when the dialog is closed. A section whose file cannot be read
-/// starts empty, and the file is set aside.
+/// The value tree of one section of the user's persistent settings. Every call returns the same
+/// node. What a dialog writes into it is saved when the dialog is closed. When the section's file
+/// cannot be read, the section starts empty and the file is set aside.
 VNSI_EXPORT VnJsonPtr vn_user_config(const OdString& section);
 
-/// The value of a host system variable; 0 for one that is not known.
+/// The value of a host system variable; 0 for an unknown name.
 VNSI_EXPORT OdInt16 getVar(const OdString& name);
 
 } // namespace vnsi

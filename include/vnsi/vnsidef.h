@@ -1,4 +1,4 @@
 #pragma once
 
-/// Marks what the host library offers.
+/// Exports a symbol from the host library.
 #define VNSI_EXPORT __attribute__((visibility("default")))

@@ -11,7 +11,7 @@ struct TaskQuestion;
 
 namespace vnsi {
 
-/// A question with a button for each of several answers.
+/// A question that has one button for each possible answer.
 class VNSI_EXPORT CVnUiTaskDialog
 {
 public:
@@ -20,9 +20,10 @@ public:
 
     void SetWindowTitle(const OdString& text);
     void SetMainInstruction(const OdString& text);
-    /// Adds a button; `id` is what `DoModal` returns for it.
+    /// Adds a button. `DoModal` returns `id` when the button is pressed.
     void AddCommandControl(int id, const OdString& text);
-    /// Asks; returns the id chosen, or 2 (cancel) when the dialog was closed without a choice.
+    /// Asks the question. Returns the id of the pressed button, or 2 (cancel) when the dialog was
+    /// closed without a choice.
     int DoModal();
 
 private:
