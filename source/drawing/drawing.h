@@ -33,181 +33,199 @@ struct TargetLayer;
 struct TranslationOptions;
 struct TranslationReport;
 
-/// A drawing held in a DXF file: its layers, its entities' places, its edits.
+/// A drawing that is stored in a DXF file: its layers, its entities and the edits made to it.
 ///
-/// The file's bytes are mapped and never changed; an edit replaces a byte range in a journal, and
-/// saving streams the original with the replacements spliced in. What was not edited is written
-/// byte for byte. All edits belong to a step; one step is one undo.
+/// The file's bytes are mapped and never changed. An edit replaces a byte range in a journal, and
+/// saving writes the original bytes with the replacements in their places, so whatever was not
+/// edited is written byte for byte. Every edit belongs to a step, and a step is the unit of undo.
 class Drawing : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Maps and indexes `path`. Refuses (naming line and cause) what is no readable DXF file.
-    /// May run on a worker thread; the result is moved to `owner`.
+    /// Maps and indexes the file `path`. Refuses a file that is not a readable DXF file; the error
+    /// names the line and the cause. May run on a worker thread; the returned object is then moved
+    /// to the thread `owner`.
     static Expected<std::unique_ptr<Drawing>> open(const QString& path,
         Progress* progress = nullptr, QThread* owner = nullptr, const OpenOptions& options = {});
     ~Drawing() override;
 
-    /// Writes the drawing through a temporary file that replaces `path` only when whole.
-    /// On success the drawing lives in `path` and is unmodified; on refusal nothing has changed.
-    /// May run on a worker thread while nobody edits; refuses while a step is open.
+    /// Writes the drawing to a temporary file, which replaces `path` only when it is complete.
+    /// After success the drawing belongs to `path` and is unmodified; after a failure nothing has
+    /// changed. May run on a worker thread as long as nobody edits the drawing. Refuses while a
+    /// step is open.
     Expected<void> save(const QString& path, Progress* progress = nullptr);
 
     QString path() const;
-    /// The version the file says it has, such as "AC1009"; empty where it says none.
+    /// The version that the file declares, such as "AC1009"; empty when it declares none.
     QByteArray version() const;
-    /// Whether the file holds binary groups, and has no lines.
+    /// Whether the file is a binary DXF file, which has no lines.
     bool isBinary() const;
-    /// Where a layer's record stands in the file read; null for layers that have none there.
+    /// The byte range of a layer's record in the original file; null for a layer that has no record
+    /// there.
     ByteRange recordRange(LayerId id) const;
-    /// What had to be guessed when the file was read, a sentence each.
+    /// One sentence for each thing that had to be guessed when the file was read.
     QStringList openingNotices() const;
-    /// Whether only what is whole of a file that is cut off was opened; until it is saved.
+    /// Whether only the intact part of a truncated file was opened. Saving resets this.
     bool isIncomplete() const;
-    /// True when the drawing differs from what its file holds.
+    /// Whether the drawing differs from its file.
     bool isModified() const;
 
-    /// In file order, deleted ones left out; then the layers that only entities name, which get a
-    /// record with their first edit; then those added. Valid until the next call after an edit.
+    /// The layers that exist: first those of the file in file order; then those that only entities
+    /// name, which get a record with their first edit; then the added ones. The reference is valid
+    /// until the next call after an edit.
     const std::vector<Layer>& layers() const;
-    /// Null when there is none (any more). The pointer stays good while the drawing is open.
+    /// The layer with this id, or null when it does not exist (any more). The pointer stays valid
+    /// while the drawing is open.
     const Layer* layer(LayerId id) const;
-    const Layer* findLayer(const QString& name) const; ///< Without regard to letter case.
+    /// Ignores letter case; null when there is none.
+    const Layer* findLayer(const QString& name) const;
     LayerId currentLayer() const;
 
-    /// The layer states in the order of the file; those made since behind them.
+    /// The layer states: first those of the file in file order, then the new ones.
     std::vector<LayerState> layerStates() const;
     QStringList layerStateNames() const;
-    /// By name, without regard to letter case.
+    /// The layer state of this name, ignoring letter case.
     std::optional<LayerState> layerState(const QString& name) const;
-    /// The file beside the drawing that holds its layer states; empty where they live in the
-    /// drawing itself.
+    /// The path of the file beside the drawing that holds its layer states. It is empty when the
+    /// drawing itself holds them.
     QString layerStatesPath() const;
-    /// Names of the linetypes, ByLayer and ByBlock left out: those of the file in their order, then
-    /// those added.
+    /// The names of the linetypes without ByLayer and ByBlock: first those of the file in file
+    /// order, then the added ones.
     QStringList linetypes() const;
-    /// What the drawing says of a linetype, by name without regard to letter case; null when it has
+    /// The definition of the linetype of this name, ignoring letter case; null when the drawing has
     /// none of that name.
     LinetypePointer linetype(const QString& name) const;
-    /// Whether layers have plot styles by name; otherwise these follow from the colour.
+    /// Whether layers have named plot styles. Otherwise the plot style follows from the layer's
+    /// colour.
     bool hasNamedPlotStyles() const;
-    /// True while model space is shown, false for a layout.
+    /// Whether model space is shown; false while a layout is shown.
     bool isModelSpace() const;
-    /// The layouts in the order of their tabs, at least one.
+    /// The layouts in the order of their tabs. There is at least one.
     const std::vector<Layout>& layouts() const;
-    /// Index of the layout shown; in model space of the one shown last, at first the file's own.
+    /// The index of the layout that is shown or, in model space, was shown last. At first it is the
+    /// layout that the file has as its active one.
     int shownLayout() const;
-    /// Whether an entity belongs to the space shown. What is in block definitions does not, those
-    /// of layouts left out.
+    /// Whether an entity belongs to the model space or layout that is shown. Entities in block
+    /// definitions do not, except in the blocks of layouts.
     bool isShown(const Entity& entity) const;
-    /// The sheet of the layout shown, with what its viewports show; none in model space.
+    /// The sheet of the layout that is shown and its viewports; empty in model space.
     std::optional<Sheet> sheet() const;
-    /// Index of the entity that is the current viewport; -1 when there is none.
+    /// The index of the entity that is the current viewport; -1 when there is none.
     int currentViewport() const;
-    /// Makes a viewport of the layout shown the current one; false when it is none of them. No
-    /// edit: it is kept as long as the drawing is open.
+    /// Makes a viewport of the shown layout the current one. Returns false when `viewport` is not
+    /// one of them. This is not an edit: it is remembered only while the drawing is open.
     bool setCurrentViewport(int viewport);
-    /// Whether a layout is shown that has a viewport, whose current one can show layers otherwise.
-    /// It is the one made so, else the one last active, as the file says, else the first.
+    /// Checks that a layout with a viewport is shown, so that layers can be overridden in the
+    /// current viewport; refuses otherwise. The current viewport is the one set by
+    /// `setCurrentViewport`, else the one that the file records as last active, else the first.
     Expected<void> checkViewport() const;
-    /// The layers frozen in the current viewport, ascending; none in model space.
+    /// The layers that are frozen in the current viewport, in ascending order; empty in model
+    /// space.
     std::vector<LayerId> frozenInViewport() const;
 
-    /// The layers that have properties of their own in the current viewport, ascending by id.
+    /// The layers that have overrides in the current viewport, in ascending order of their ids.
     std::vector<LayerInViewport> overriddenInViewport() const;
-    /// The layer filters saved in the drawing, in its order; those inside a filter come behind it.
+    /// The layer filters saved in the drawing, in the drawing's order. Nested filters follow their
+    /// parent.
     std::vector<LayerFilter> layerFilters() const;
 
-    /// All entities: those of the block definitions and of the ENTITIES section, in file order.
-    /// Deleted ones stay in their places, marked as removed.
+    /// All entities, those of the block definitions and those of the ENTITIES section, in file
+    /// order. A deleted entity keeps its place and is marked as removed.
     const std::vector<Entity>& entities() const;
     const std::vector<Block>& blocks() const;
-    const Block* findBlock(const QString& name) const; ///< Without regard to letter case.
-    /// What a picture of the drawing is made of; good until the drawing changes.
+    /// Ignores letter case; null when there is none.
+    const Block* findBlock(const QString& name) const;
+    /// Everything that a picture of the drawing is made from. Valid until the drawing changes.
     GeometrySource geometrySource() const;
-    /// The tags of an entity as they stand in the file read; valid as long as the drawing is open.
+    /// The tags of an entity as they are in the original file. Valid while the drawing is open.
     TagReader tags(const Entity& entity) const;
-    /// Text of a value in the file's code page, escapes resolved.
+    /// Converts a value from the file's code page to text and resolves its escapes.
     QString decoded(std::string_view value) const;
-    const TextCodec& codec() const; ///< Of the file's text.
+    const TextCodec& codec() const; ///< The codec of the file's text.
 
-    // Edits; each needs an open step. A refused edit changes nothing.
+    // Edits. Each needs an open step, and a refused edit changes nothing.
 
-    /// Changes what differs, also the name; then all that names the layer follows at the end of the
-    /// step. Refuses a name that is empty, longer than 255, in use or with one of \ < > / " : ; ?
-    /// * | , = ` in it, renaming layer 0 or a layer that depends on a reference, a linetype the
-    /// drawing lacks, and values out of their ranges. What the file's version cannot store is left
-    /// as it was, see `takeNotices`. The plot style is changed where the drawing has named styles
-    /// and one of that name.
+    /// Changes those properties of a layer that differ, including its name; references to a renamed
+    /// layer are updated at the end of the step. Refuses a name that is empty, longer than 255
+    /// characters, already in use or contains one of \ < > / " : ; ? * | , = `; renaming layer 0 or
+    /// a layer that depends on an external reference; a linetype that the drawing does not have;
+    /// and values outside their ranges. Properties that the file's version cannot store stay as
+    /// they were (see `takeNotices`). The plot style changes only when the drawing has named plot
+    /// styles and one of that name.
     Expected<void> setLayerProperties(LayerId id, const LayerProperties& properties);
-    Expected<LayerId> addLayer(const LayerProperties& properties); ///< Refuses the same.
-    /// Refuses layer 0, the current layer and used layers. What still names the layer (block heads,
-    /// layer states, frozen layers of viewports) forgets it.
+    /// Refuses what `setLayerProperties` refuses.
+    Expected<LayerId> addLayer(const LayerProperties& properties);
+    /// Deletes a layer. Refuses layer 0, the current layer and layers that hold entities. Remaining
+    /// references to the layer (block heads, layer states, frozen layers of viewports) are removed.
     Expected<void> removeLayer(LayerId id);
     Expected<void> setCurrentLayer(LayerId id);
-    /// Puts entities, by their indices, on a layer; returns how many came from another one. What
-    /// follows an entity (vertices, attributes, end marks) comes along where it was on the entity's
-    /// layer and stays where it was not; the index of a part stands for the whole. Refuses a target
-    /// that depends on a reference.
+    /// Puts entities, given by their indices, on a layer and returns how many of them came from
+    /// another layer. Subentities (vertices, attributes, end marks) move along when they were on
+    /// their entity's layer and stay where they are otherwise. The index of a subentity stands for
+    /// the whole entity. Refuses a target that depends on an external reference.
     Expected<int> moveEntities(const std::vector<int>& entities, LayerId target);
-    /// Puts everything on the sources, in layouts and blocks too, on the target and removes the
-    /// sources; what names them names the target then. Layer states and viewports forget them.
-    /// Refuses layer 0, the current layer, layers that depend on a reference and the target itself
-    /// as sources, and a target that depends on a reference.
+    /// Moves everything on the source layers, including the contents of layouts and blocks, to the
+    /// target and deletes the sources. References to a source then name the target; layer states
+    /// and viewports drop the sources. Refuses layer 0, the current layer, layers that depend on an
+    /// external reference and the target itself as sources, and a target that depends on an
+    /// external reference.
     Expected<void> mergeLayers(const std::vector<LayerId>& sources, LayerId target);
-    /// Removes layers with the entities on them in model space, layouts and blocks, and all that
-    /// refers to either. Parts on them of entities that stay: attributes go, vertices and end marks
-    /// come to their entity's layer; a sheet's own viewport comes to layer 0. Refuses layer 0, the
-    /// current layer and layers that depend on a reference.
+    /// Deletes layers together with their entities in model space, layouts and blocks, and
+    /// everything that refers to either. When an entity stays but subentities of it are on a
+    /// deleted layer, its attributes are deleted, and its vertices and end marks move to the
+    /// entity's layer. A sheet's own viewport moves to layer 0. Refuses layer 0, the current layer
+    /// and layers that depend on an external reference.
     Expected<void> deleteLayers(const std::vector<LayerId>& layers);
-    /// Takes in a linetype and the text styles and shape files it needs; one of the same name stays
-    /// as it is. Where the format has no place for letters and shapes their dashes are taken, see
-    /// `takeNotices`.
+    /// Adds a linetype with the text styles and shape files that it needs. A linetype of the same
+    /// name stays as it is. When the format cannot hold a linetype's letters and shapes, only its
+    /// dashes are added (see `takeNotices`).
     Expected<void> addLinetype(const LinetypeDefinition& definition);
-    /// Whether anything inside a block definition, layouts left out, is on one of these layers.
+    /// Whether anything inside a block definition is on one of these layers. Layouts do not count.
     bool isReferencedInBlocks(const std::vector<LayerId>& layers) const;
-    /// How many block references place a definition that has something on one of these layers.
+    /// The number of block references whose definition has something on one of these layers.
     int countBlockReferences(const std::vector<LayerId>& layers) const;
-    /// Takes in layer states; those of the same name, whatever its letter case, are replaced.
-    /// What they say of the drawing's layers is not checked.
+    /// Adds layer states; they replace those whose names differ at most in letter case. Whether the
+    /// states fit the drawing's layers is not checked.
     Expected<void> putLayerStates(const std::vector<LayerState>& states);
-    /// Refuses when the drawing has none of these.
+    /// Removes the layer states of these names. Refuses when the drawing has none of them.
     Expected<void> removeLayerStates(const QStringList& names);
-    /// Refuses a name in use.
+    /// Renames a layer state. Refuses a name that is in use.
     Expected<void> renameLayerState(const QString& name, const QString& newName);
     Expected<void> setModelSpace(bool modelSpace);
-    /// Shows a layout, by its index. Which one it is is not kept in the file, that it is one is.
+    /// Shows the layout with this index. The file keeps that a layout is shown, but not which one.
     Expected<void> showLayout(int layout);
-    /// Freezes these layers, and no others, in the current viewport; refuses as `checkViewport`.
+    /// Freezes exactly these layers in the current viewport. Refuses when `checkViewport` does.
     Expected<void> setFrozenInViewport(const std::vector<LayerId>& layers);
-    /// Gives layers properties (`LayerOverrides::kProperties`) for the current viewport alone.
-    /// Layers whose linetype the drawing lacks come back, with all but that done.
+    /// Overrides properties (`LayerOverrides::kProperties`) of layers in the current viewport only.
+    /// Returns the layers whose linetype the drawing does not have; their other properties are
+    /// still set.
     Expected<std::vector<LayerId>> overrideInViewport(
         const std::vector<LayerInViewport>& layers, int properties);
-    /// Saves a filter inside `filter.parent`; the handle of its record comes back. Refuses an empty
-    /// name, one in use beside it, and formats without objects.
+    /// Saves a new filter inside `filter.parent` and returns the handle of its record. Refuses an
+    /// empty name, a name that another filter with the same parent has, and formats without
+    /// objects.
     Expected<quint64> addLayerFilter(const LayerFilter& filter);
-    /// Gives the filter of `filter.record` that name, expression and list of layers. Refuses the
-    /// same, and filters of an unknown kind.
+    /// Changes name, expression and layers of the filter whose record is `filter.record`. Refuses
+    /// what `addLayerFilter` refuses, and filters of an unknown kind.
     Expected<void> changeLayerFilter(const LayerFilter& filter);
-    Expected<void> removeLayerFilter(quint64 record); ///< With the filters inside it.
-    /// What edits since the last call had to leave out, a sentence each: the file's version may
-    /// have no place for lineweights, true colours or the plot flag.
+    Expected<void> removeLayerFilter(quint64 record); ///< Removes its nested filters, too.
+    /// One sentence for each thing that edits since the last call had to leave out, for example
+    /// because the file's version cannot store lineweights, true colours or the plot flag.
     QStringList takeNotices();
 
-    /// Has long edits call `rest` again and again, on the thread that edits, so that a window can
-    /// be painted meanwhile. Nothing may be edited then.
+    /// Makes long edits call `rest` repeatedly on the thread that edits, so that a window can be
+    /// painted meanwhile. `rest` must not edit the drawing.
     void setBreak(const std::function<void()>& rest);
 
-    /// Opens an undo step; steps do not nest.
+    /// Opens an undo step. Steps must not be nested.
     void beginStep(const QString& name);
-    /// Closes it; one that changed nothing leaves no trace.
+    /// Closes the open step. A step that changed nothing is not recorded.
     void commitStep();
-    /// Takes back what the open step did.
+    /// Undoes and closes the open step.
     void rollbackStep();
-    /// Lets listeners see what the open step did so far, as an applied dialog that stays open
-    /// wants it.
+    /// Tells listeners what the open step has changed so far. A dialog that applies its changes but
+    /// stays open uses this.
     void publishStep();
     bool inStep() const;
 
@@ -219,12 +237,14 @@ public:
     void redo();
 
 signals:
-    /// Right before the drawing changes or goes: whoever reads it on another thread must have
-    /// stopped when this returns.
+    /// Emitted immediately before the drawing changes or is destroyed. Whoever reads the drawing on
+    /// another thread must have stopped when this signal returns.
     void aboutToChange() const;
-    /// Any layer, or the current layer, changed; once a step, undo, redo or `publishStep`.
+    /// A layer or the choice of the current layer has changed. Emitted once per step, undo, redo or
+    /// `publishStep`.
     void layersChanged();
-    /// Entities, by their indices in any order, went, came or changed their layer.
+    /// Entities, given by their indices in any order, were added or removed or have changed their
+    /// layer.
     void entitiesChanged(const std::vector<int>& entities);
     void modifiedChanged(bool modified);
 
@@ -239,7 +259,7 @@ private:
     std::unique_ptr<Private> d;
 };
 
-/// A step of a drawing that is taken back when it is left early.
+/// An undo step that is rolled back when its scope is left before it was committed.
 class DrawingStep
 {
 public:
@@ -259,13 +279,13 @@ public:
         m_isOpen = false;
         m_drawing.commitStep();
     }
-    /// What comes now is a step of its own, of the same name.
+    /// Commits the step and opens a new one of the same name.
     void next()
     {
         m_drawing.commitStep();
         m_drawing.beginStep(m_name);
     }
-    /// Takes back what was done so far; the step goes on.
+    /// Undoes what was done so far and keeps the step open.
     void takeBack()
     {
         m_drawing.rollbackStep();
@@ -278,48 +298,51 @@ private:
     bool m_isOpen = true;
 };
 
-/// Flattens the space shown. Works on any thread while the drawing is left alone; refuses only when
-/// cancelled. Block references are bounded in depth and number, a block inside itself is left out.
+/// Converts the model space or layout that is shown into flat geometry. Runs on any thread as long
+/// as the drawing is not changed. Refuses only when cancelled. The depth and number of block
+/// references are limited, and a block inside itself is left out.
 Expected<Geometry> buildGeometry(const Drawing& drawing, Progress* progress = nullptr);
 
-/// What the linetypes repeat, as they are now.
+/// The current patterns of the drawing's linetypes.
 std::shared_ptr<const LinetypePatterns> linetypePatterns(const Drawing& drawing);
 
-/// The layers of the drawing as they are now; in a layout also which of them its current viewport
-/// hides.
+/// The current properties of the drawing's layers as a layer state. In a layout it also holds which
+/// layers are frozen in the current viewport.
 LayerState captureLayerState(const Drawing& drawing, const QString& name);
 
-/// Whether restoring the state, over its own mask, would change nothing. Layers the state does not
-/// hold do not count; one the drawing lacks does. What a viewport hides counts in layouts, for
-/// states saved in one.
+/// Whether restoring the state with its own mask would change nothing. Layers that the state does
+/// not hold are ignored; a layer that the drawing does not have counts as a difference. In a
+/// layout, layers frozen in the viewport count for states that were saved in a layout.
 bool isSameAsDrawing(const LayerState& state, const Drawing& drawing);
 
-/// Restores `state` within the open step; returns a sentence for each thing that could not be.
+/// Restores `state` within the open step. Returns one sentence for each thing that could not be
+/// restored.
 QStringList restoreLayerState(
     Drawing& drawing, const LayerState& state, const LayerStateRestore& how);
 
-/// Drops what the drawing cannot use: layers it lacks, second mentions of a layer. Returns the
-/// names of the layers it lacks.
+/// Removes from `state` the layers that the drawing does not have and repeated entries of a layer.
+/// Returns the names of the missing layers.
 QStringList dropUnknownLayers(LayerState& state, const Drawing& drawing);
 
-/// Brings layers of the drawing to their targets: what is on a source moves to the target, which is
-/// made, or changed to what the standard says of it. All mappings are about the layers as they were
-/// before, so layers may swap their contents. A target that is made takes over whether its source
-/// was off, frozen or locked, also in single viewports, so what was hidden stays hidden. A current
-/// layer that is translated makes its target current. Sources that end empty are removed, all but
-/// layer 0, Defpoints and the current layer; what named them names the target then. A target of the
-/// source's own name changes the properties alone.
+/// Translates layers of the drawing to their targets. Everything on a source layer moves to its
+/// target, which is created, or changed to match the standard. All mappings refer to the layers as
+/// they were before, so layers may swap their contents. A created target takes over whether its
+/// source was off, frozen or locked, in single viewports as well, so hidden contents stay hidden.
+/// When the current layer is translated, its target becomes the current layer. Sources that end up
+/// empty are deleted, except layer 0, Defpoints and the current layer; references to them then name
+/// the target. A mapping whose target has the source's own name only changes the properties.
 ///
-/// A mapping that cannot be carried out (no such source, a second one for the same source, a layer
-/// that depends on a reference, a target name that is refused) is left out, and its cause says why.
-/// Belongs to the open step; refuses when there is none, and then changes nothing.
+/// A mapping that cannot be carried out is left out, and its `cause` says why: the source does not
+/// exist or already has a mapping, a layer depends on an external reference, or the target's name
+/// is refused. The changes belong to the open step. Refuses, without changing anything, when no
+/// step is open.
 Expected<TranslationReport> translateLayers(
     Drawing& drawing, const std::vector<LayerMapping>& mappings, const TranslationOptions& options);
 
-/// What a drawing says of its own layers, as targets: those of references left out.
+/// The drawing's own layers as targets, without those of external references.
 std::vector<TargetLayer> targetLayers(const Drawing& drawing);
 
-/// Maps the layers that have a target of the same name, without regard to letter case, and no
+/// Mappings for all layers that have a target of the same name (ignoring letter case) and no
 /// mapping in `known` yet.
 std::vector<LayerMapping> sameNamedMappings(const Drawing& drawing,
     const std::vector<TargetLayer>& targets, const std::vector<LayerMapping>& known);

@@ -12,12 +12,13 @@
 
 namespace drawing {
 
-/// The parts of a drawing, each of which knows only those that it needs, and the work that takes
-/// several of them.
+/// All parts of a drawing, and the operations that need several of them. Each part only knows the
+/// parts that it needs itself.
 class DrawingData
 {
 public:
-    /// What a step changes as a whole, besides the layers, the entities and the bytes.
+    /// The state that a step saves and restores as a whole; layers, entities and bytes are tracked
+    /// by changes instead.
     struct State
     {
         DrawingFile::State file;
@@ -29,7 +30,7 @@ public:
         bool operator==(const State& other) const;
     };
 
-    /// All that one step changed.
+    /// Everything that one step changed.
     struct Changes
     {
         std::vector<EditChange> edits;
@@ -41,16 +42,17 @@ public:
         bool isEmpty() const;
     };
 
-    /// From here on changes are gathered.
+    /// Starts collecting changes.
     void begin() { m_before = state(); }
     bool hasChanges() const;
-    /// Makes all that names layers follow what became of them since `begin`.
+    /// Updates everything that refers to layers which were renamed, merged or deleted since
+    /// `begin`.
     void followLayers();
-    /// The changes since `begin`.
+    /// Returns the changes since `begin`.
     Changes take();
     void apply(const Changes& changes, bool forward);
 
-    // Edits of layers together with what is on them; as `Drawing` has them.
+    // Edits that change layers and their contents together; `Drawing` documents them.
     Expected<int> moveEntities(const std::vector<int>& chosen, LayerId target);
     Expected<void> mergeLayers(const std::vector<LayerId>& sources, LayerId target);
     Expected<void> deleteLayers(const std::vector<LayerId>& chosen);
@@ -66,8 +68,9 @@ public:
 
     DrawingFile file;
     LeftOut leftOut;
-    QStringList openingNotices; ///< What had to be guessed or left out when it was read.
-    QByteArray wholePart;       ///< Of a file that was cut off: the bytes of `file`.
+    QStringList openingNotices; ///< What had to be guessed or left out when the file was read.
+    /// The bytes of `file` when only the intact part of a truncated file was opened.
+    QByteArray wholePart;
     EntityTable entities;
     LayerTable layers;
     LinetypeTable linetypes{file, leftOut};

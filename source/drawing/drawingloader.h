@@ -8,8 +8,8 @@ namespace drawing {
 
 struct Progress;
 
-/// Indexes `data.bytes` and fills in all that is known of a drawing when it is opened. Refuses
-/// what is no readable drawing, in words that call the file `fileName`.
+/// Indexes `data.bytes` and fills in everything that is known about a drawing when it is opened.
+/// Refuses a file that is not a readable drawing; the error calls the file `fileName`.
 Expected<void> loadDrawing(
     DrawingData& data, const QString& fileName, const OpenOptions& options, Progress* progress);
 

@@ -14,7 +14,7 @@ public:
     Expected<void> map(const QString& fileName);
 
     QString path;
-    QFile file; // Keeps the mapping; its inode lives on when saving replaces the file.
+    QFile file; // Keeps the mapping alive; the inode remains valid when saving replaces the file.
     DrawingData data;
     UndoStack steps;
     QString stepName;
@@ -24,7 +24,7 @@ public:
     bool isIncomplete = false;
 };
 
-/// The inside of a drawing, for what edits it in ways that are no concern of its users.
+/// Access to the inside of a drawing, for edits that are not part of its public interface.
 struct DrawingAccess
 {
     static DrawingData& data(Drawing& drawing);

@@ -23,30 +23,30 @@ enum class IndexFaultKind {
     Cancelled
 };
 
-/// Why a file cannot be indexed, and where.
+/// Why and where a file cannot be indexed.
 struct IndexFault
 {
     IndexFaultKind kind = IndexFaultKind::NotTagged;
     qint64 offset = 0;
-    std::string_view section; ///< The section it was found in; may be empty.
-    /// Up to here all is whole; -1 where that is not worth having.
+    std::string_view section; ///< The section that contains the fault; may be empty.
+    /// Everything before this offset is intact; -1 when opening the intact part is not worthwhile.
     qint64 wholeEnd = -1;
-    /// What has to be closed there.
+    /// What is still open at `wholeEnd` and has to be closed there.
     bool inSection = false;
     bool inTable = false;
     bool inBlock = false;
 };
 
-/// Finds where all stands, in one pass over the tags.
+/// Builds the index of a file in one pass over its tags.
 class DrawingIndexer
 {
 public:
-    /// The bytes of `tags` must outlive the index made. `progress` may be null.
+    /// The bytes of `tags` must outlive the index. `progress` may be null.
     DrawingIndexer(const TagReader& tags, Progress* progress) : m_tags(tags), m_progress(progress)
     {
     }
 
-    /// Fills both; the fault that stopped it, if any.
+    /// Fills both indices. Returns the fault that stopped it, if any.
     std::optional<IndexFault> run(FileIndex& file, EntityIndex& entities);
 
 private:
@@ -80,7 +80,7 @@ private:
     FileIndex* m_file = nullptr;
     EntityIndex* m_entities = nullptr;
     std::string_view m_section;
-    IndexFault m_whole; // What of it is known as the reading goes on.
+    IndexFault m_whole; // What is known about the intact part so far.
     std::optional<IndexFault> m_fault;
 };
 

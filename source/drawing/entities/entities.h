@@ -9,7 +9,7 @@
 
 namespace drawing {
 
-/// Those that are treated otherwise than the rest.
+/// The kinds of entities that need special treatment.
 enum class EntityKind : quint8 {
     Other,
     Polyline,
@@ -18,22 +18,23 @@ enum class EntityKind : quint8 {
     Insert,
     Attrib,
     Viewport,
-    Proxy ///< Of an application that was missing when the file was written.
+    Proxy ///< A proxy of an entity whose application was missing when the file was written.
 };
 
-/// Where an entity stands in the file and what it is on. What follows an owner (VERTEX, ATTRIB,
-/// SEQEND) has an entry of its own right behind the owner's.
+/// Where an entity is in the file and which layer it is on. Subentities (VERTEX, ATTRIB, SEQEND)
+/// have entries of their own directly after the entity that they belong to.
 struct Entity
 {
-    qint64 begin = 0; ///< File offset of its `0` group.
-    qint64 end = 0;   ///< File offset behind its last tag.
+    qint64 begin = 0; ///< File offset of the entity's `0` group.
+    qint64 end = 0;   ///< File offset after the entity's last tag.
     LayerId layer = LayerId::None;
     int block = -1; ///< Index into `Drawing::blocks()`; -1 in the ENTITIES section.
     EntityKind kind = EntityKind::Other;
-    bool paperSpace = false; ///< Group 67 = 1; meaningful in the ENTITIES section.
-    bool subEntity = false;  ///< Follows an owner; does not count as an entity of its own.
-    bool removed = false; ///< Deleted; it keeps its place, so that indices of entities stay good.
-    OwnProperties own;    ///< What it does not take from its layer.
+    bool paperSpace = false; ///< Whether group 67 is 1; only meaningful in the ENTITIES section.
+    /// Belongs to the entity before it and does not count as an entity of its own.
+    bool subEntity = false;
+    bool removed = false; ///< Deleted. The entry keeps its place so that entity indices stay valid.
+    OwnProperties own;    ///< The properties that it does not take from its layer.
 
     ByteRange range() const { return {begin, end}; }
 };
@@ -46,7 +47,8 @@ struct Block
     int count = 0;
     double baseX = 0;
     double baseY = 0;
-    bool layout = false; ///< *Model_Space, *Paper_Space and their like.
+    /// Whether it is the block of a layout: *Model_Space, *Paper_Space and the like.
+    bool layout = false;
 };
 
 } // namespace drawing

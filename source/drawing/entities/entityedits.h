@@ -7,26 +7,28 @@ namespace drawing {
 
 class LayerReplacements;
 
-/// A flag for each layer by its id.
+/// One flag per layer; the index is the layer's id.
 using LayerMarks = std::vector<char>;
 
-/// What is on a layer, and where it goes. The rest is filled in when it went.
+/// A request to move the contents of one layer. The move fills in the remaining members.
 struct ContentMove
 {
     LayerId from = LayerId::None;
-    LayerId to = LayerId::None; ///< May be the same layer: then the entities stay on it.
+    LayerId to = LayerId::None; ///< May equal `from`; the entities then stay on their layer.
     int moved = 0;
     int leftInBlocks = 0;
-    bool isEmptied = true; ///< Nothing is left on `from`, parts of entities included.
+    bool isEmptied = true; ///< Whether nothing is left on `from`, subentities included.
 };
 
 struct ContentRules
 {
-    bool inBlocks = false; ///< What stands in block definitions goes too, not only in layouts.
-    OwnProperties byLayer; ///< What entities that go take from their layer from then on.
+    /// Also move the contents of block definitions, not only those of layouts.
+    bool inBlocks = false;
+    /// The properties that moved entities take from their layer from then on.
+    OwnProperties byLayer;
 };
 
-/// The edits that touch entities, each in one pass over them.
+/// The edits that change entities. Each takes one pass over the entities.
 class EntityEdits
 {
 public:
@@ -37,14 +39,15 @@ public:
     {
     }
 
-    /// The targets must be there. Returns how many entities came from another layer.
+    /// The target layer must exist. Returns how many entities came from another layer.
     int move(const std::vector<int>& entities, LayerId target);
     void merge(const std::vector<LayerId>& sources, LayerId target);
     void removeOn(const std::vector<LayerId>& layers);
-    /// Moves the contents of layers, all at once: an entity, or a part of one, goes by the layer
-    /// that it was on before. The layers must be there, and each be the source of one move.
+    /// Moves the contents of several layers at once. Each entity or subentity moves according to
+    /// the layer that it was on before. All layers must exist, and no layer may be the source of
+    /// two moves.
     void moveContents(std::vector<ContentMove>& moves, const ContentRules& rules);
-    /// What names a layer that got another name, or went, names what became of it.
+    /// Updates references to layers that were renamed, merged or deleted.
     void follow(const LayerReplacements& replacements);
 
     bool isReferencedInBlocks(const std::vector<LayerId>& layers) const;
@@ -63,7 +66,7 @@ private:
     DrawingFile& m_file;
     EntityTable& m_entities;
     LayerTable& m_layers;
-    std::vector<int> m_counts; ///< Entities come and gone, by layer id.
+    std::vector<int> m_counts; ///< For each layer id, the entities gained less those lost.
 };
 
 } // namespace drawing

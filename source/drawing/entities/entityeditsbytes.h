@@ -5,15 +5,15 @@
 
 namespace drawing {
 
-/// Writes the name of the layer that an entity is on. An entity that names none gets the group.
+/// Writes the name of an entity's layer into the file; adds the group when the entity has none.
 void writeLayerName(
     DrawingFile& file, const EntityTable& entities, size_t entity, const QByteArray& name);
 
-/// Lets an entity take these from its layer.
+/// Removes an entity's own values of these properties, so that it takes them from its layer.
 void forceByLayer(
     DrawingFile& file, EntityTable& entities, size_t entity, OwnProperties properties);
 
-/// Takes out an entity with all its groups.
+/// Removes an entity with all its groups.
 void removeEntityBytes(DrawingFile& file, const EntityTable& entities, size_t entity);
 
 } // namespace drawing

@@ -9,8 +9,9 @@
 
 namespace drawing {
 
-/// Takes out what points at entities that go: objects that only they owned or that only tell of
-/// them, entries of lists, and single handles. One pass over the file however many entities go.
+/// Removes everything that points at deleted entities: objects that only they owned or that only
+/// describe them, entries of lists, and single handles. It takes one pass over the file however
+/// many entities are deleted.
 class PointerRemoval
 {
 public:
@@ -20,7 +21,7 @@ public:
     {
     }
 
-    /// Notes an entity that goes.
+    /// Registers an entity that is being deleted.
     void addEntity(size_t entity);
     void run();
 
@@ -49,14 +50,15 @@ private:
 
     DrawingFile& m_file;
     const EntityTable& m_entities;
-    std::unordered_set<quint64> m_gone; ///< Handles.
-    std::vector<quint64> m_open;        ///< Those whose dependents are still to be found.
-    std::vector<char> m_objectGoes;     ///< By the objects' indices.
+    std::unordered_set<quint64> m_gone; ///< The handles of everything that is deleted.
+    std::vector<quint64> m_open;    ///< Deleted handles whose dependents still have to be found.
+    std::vector<char> m_objectGoes; ///< For each object, by index, whether it is deleted.
     std::unordered_multimap<quint64, const ObjectPlace*> m_dependents;
 
-    // Of the record or object being cleaned.
+    // State of the record or object that is being cleaned.
     std::vector<Tag> m_tags;
-    std::vector<int> m_groupHead; ///< For each tag its group's 102; -1 outside of groups.
+    /// For each tag, the index of the 102 tag that opens its group; -1 outside of groups.
+    std::vector<int> m_groupHead;
 };
 
 } // namespace drawing

@@ -5,12 +5,12 @@
 
 namespace drawing {
 
-/// Takes out the entities on some layers, whole, with all that only they owned and all that points
-/// at them.
+/// Deletes all entities on certain layers, with everything that only they owned and everything that
+/// points at them.
 class EntityRemoval
 {
 public:
-    /// A part that stays though its layer goes.
+    /// A subentity that is kept although its layer is deleted.
     struct Move
     {
         int entity = 0;
@@ -19,14 +19,14 @@ public:
 
     EntityRemoval(DrawingFile& file, EntityTable& entities) : m_file(file), m_entities(entities) {}
 
-    /// Finds out what goes with the marked layers. An entity takes what follows it along, on
-    /// whatever layer that is. Of an entity that stays, attributes on these layers go; vertices and
-    /// end marks, which it cannot do without, come to its own layer. A sheet's own viewport is part
-    /// of the sheet and comes to layer 0, which is `zero`.
+    /// Finds out what is deleted together with the marked layers. An entity is deleted with all its
+    /// subentities, whatever layers they are on. When an entity stays, its attributes on these
+    /// layers are deleted; its vertices and end marks, which it needs, move to its own layer. A
+    /// sheet's own viewport is part of the sheet and moves to layer 0, given as `zero`.
     void choose(const std::vector<char>& isLeaving, LayerId zero);
     const std::vector<int>& entities() const { return m_chosen; }
     const std::vector<Move>& moves() const { return m_moves; }
-    /// Takes out what was chosen.
+    /// Deletes what `choose` found.
     void run();
 
 private:
@@ -35,9 +35,9 @@ private:
 
     DrawingFile& m_file;
     EntityTable& m_entities;
-    std::vector<int> m_chosen; ///< Ascending.
+    std::vector<int> m_chosen; ///< In ascending order.
     std::vector<Move> m_moves;
-    std::vector<int> m_bared; ///< Block references that lost all their attributes.
+    std::vector<int> m_bared; ///< Block references that lose all their attributes.
 };
 
 } // namespace drawing

@@ -6,9 +6,9 @@
 
 namespace drawing {
 
-/// `EntityKind::Other` for kinds that nobody asks for.
+/// The kind of an entity by its type name; `EntityKind::Other` for kinds without special treatment.
 EntityKind entityKind(std::string_view name);
-/// True for what follows an owner and does not count as an entity of its own.
+/// Whether the kind belongs to another entity and does not count as an entity of its own.
 bool isSubEntity(EntityKind kind);
 
 } // namespace drawing

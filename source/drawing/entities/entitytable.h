@@ -10,28 +10,28 @@
 
 namespace drawing {
 
-/// A place outside the entities where a layer is named: where the value begins.
+/// A place outside of entities where a layer's name is written: the offset of the value.
 struct LayerNamePlace
 {
     qint64 value = 0;
     LayerId layer = LayerId::None;
 };
 
-/// Entities, blocks and names of layers as they are met in the file. Names are kept as spelled in
-/// `layerSpellings`; a `LayerId` here is the number of a spelling.
+/// The entities, blocks and layer names found while indexing. Layer names are kept exactly as
+/// spelled in `layerSpellings`; a `LayerId` in this struct is the number of a spelling.
 struct EntityIndex
 {
-    std::vector<Block> blocks; ///< Their names are left empty.
+    std::vector<Block> blocks; ///< Without names; these are in `blockNames`.
     std::vector<Tag> blockNames;
     std::vector<Entity> entities;
-    /// For each entity where its layer name stands, counted from its begin; 0 when it names none.
+    /// For each entity the offset of its layer name, relative to its `begin`; 0 when it has none.
     std::vector<quint32> layerNameAt;
-    std::vector<LayerNamePlace> blockLayers; ///< Of BLOCK and ENDBLK.
-    std::vector<qint64> xdataNames;          ///< Where the values of the 1003 groups begin.
+    std::vector<LayerNamePlace> blockLayers; ///< Layer names of BLOCK and ENDBLK.
+    std::vector<qint64> xdataNames;          ///< File offsets of the values of the 1003 groups.
     NameInterner layerSpellings;
 };
 
-/// An entity that changed its layer, lost what it had of its own, or went.
+/// The change of an entity that moved to another layer, lost own properties or was deleted.
 struct EntityChange
 {
     struct State
@@ -46,7 +46,7 @@ struct EntityChange
     State after;
 };
 
-/// The entities of a drawing, and the definitions that they stand in.
+/// The entities of a drawing and its block definitions.
 class EntityTable
 {
 public:
@@ -57,22 +57,23 @@ public:
     const Entity& operator[](size_t entity) const { return m_entities[entity]; }
     size_t size() const { return m_entities.size(); }
     const std::vector<Block>& blocks() const { return m_blocks; }
-    /// Index of a definition, by name without regard to letter case; -1 when there is none.
+    /// The index of the block definition of this name, ignoring letter case; -1 when there is none.
     int block(const QString& name) const;
-    /// Whether an entity stands in a block definition and not in a layout.
+    /// Whether an entity is inside a block definition that does not belong to a layout.
     bool isInBlock(const Entity& entity) const;
-    /// For each entity the one it follows as a vertex, an attribute or an end mark; itself where it
-    /// stands alone.
+    /// For each entity the index of the entity that it belongs to as a vertex, attribute or end
+    /// mark; its own index when it belongs to none.
     std::vector<int> owners() const;
-    /// Where the entity names its layer; -1 where it does not.
+    /// The file offset of the entity's layer name; -1 when it has none.
     qint64 layerName(size_t entity) const;
-    /// Where layers are named outside the entities' own group: BLOCK, ENDBLK and XDATA.
+    /// The places where layers are named outside of the entities' own groups: in BLOCK, ENDBLK and
+    /// XDATA.
     const std::vector<LayerNamePlace>& namePlaces() const { return m_namePlaces; }
 
-    // Changes belong to the open step.
+    // Edits. They belong to the open step.
     void setLayer(size_t entity, LayerId layer);
     void remove(size_t entity);
-    /// Marks an entity as taking these from its layer.
+    /// Marks these properties of an entity as taken from its layer.
     void dropOwn(size_t entity, OwnProperties properties);
     const std::vector<EntityChange>& changes() const { return m_changes; }
     std::vector<EntityChange> takeChanges();
@@ -84,7 +85,7 @@ private:
     std::vector<Entity> m_entities;
     std::vector<quint32> m_layerNameAt;
     std::vector<Block> m_blocks;
-    QHash<QString, int> m_blockByName; ///< By folded name.
+    QHash<QString, int> m_blockByName; ///< The keys are folded names.
     std::vector<LayerNamePlace> m_namePlaces;
     std::vector<EntityChange> m_changes;
 };

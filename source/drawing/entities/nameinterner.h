@@ -11,8 +11,8 @@
 
 namespace drawing {
 
-/// Numbers the spellings of names as they are met, without decoding or copying them: the bytes must
-/// outlive this.
+/// Numbers different spellings of names in the order in which they occur. Names are neither decoded
+/// nor copied; their bytes must outlive this object.
 class NameInterner
 {
 public:
@@ -28,7 +28,7 @@ public:
         known = {key, at->second};
         return at->second;
     }
-    /// The number of a name met before; -1 when it was not.
+    /// The number of a known name; -1 for an unknown one.
     int find(std::string_view name) const
     {
         const auto at = m_numbers.find(name);
@@ -37,7 +37,8 @@ public:
     const std::vector<std::string_view>& names() const { return m_names; }
 
 private:
-    /// The first and last bytes of a name, which may overlap: all of a short one.
+    /// The first and last bytes of a name. They overlap in short names and then cover the whole
+    /// name.
     struct Key
     {
         quint64 head = 0;
@@ -54,7 +55,8 @@ private:
         Key key;
         int number = -1;
     };
-    static constexpr size_t kWhole = 2 * sizeof(quint64); ///< So long a key tells all of a name.
+    /// Up to this length the key covers the whole name.
+    static constexpr size_t kWhole = 2 * sizeof(quint64);
     static constexpr int kSlotBits = 6;
 
     static Key keyOf(std::string_view name)
@@ -74,7 +76,8 @@ private:
 
     std::unordered_map<std::string_view, int> m_numbers;
     std::vector<std::string_view> m_names;
-    std::array<Known, 1 << kSlotBits> m_known; ///< Names met lately: hashing takes its time.
+    /// A cache of recently used names, because hashing takes time.
+    std::array<Known, 1 << kSlotBits> m_known;
 };
 
 } // namespace drawing

@@ -6,17 +6,17 @@
 
 namespace drawing {
 
-/// What an entity can have of its own instead of taking it from its layer.
+/// The properties that an entity can define itself instead of taking them from its layer.
 enum class OwnProperty : quint8 { Color = 1, Linetype = 2, Lineweight = 4, Transparency = 8 };
 Q_DECLARE_FLAGS(OwnProperties, OwnProperty)
 Q_DECLARE_OPERATORS_FOR_FLAGS(OwnProperties)
 
-/// The subclass that these groups belong to; other subclasses use the same codes for their own
-/// things. Old formats have no subclasses, and nothing else in these groups.
+/// The subclass whose groups hold these properties. Other subclasses use the same group codes for
+/// other purposes. Old formats have no subclasses and use these codes for nothing else.
 constexpr std::string_view kCommonData = "AcDbEntity";
 
-/// What a group of an entity's common data gives it of its own; nothing where it says that the
-/// layer has it, and for groups about something else.
+/// The property that a group of an entity's common data defines. Empty when the group refers to the
+/// layer or has another meaning.
 OwnProperties ownPropertiesIn(const Tag& tag);
 
 } // namespace drawing

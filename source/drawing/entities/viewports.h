@@ -4,8 +4,8 @@
 
 namespace drawing {
 
-/// Whether a viewport is the sheet that it stands on, which sees itself through a viewport too: it
-/// has number 1, or shows its own place as it is.
+/// Whether a viewport represents the sheet that it is on, because a sheet also sees itself through
+/// a viewport. Such a viewport has number 1, or shows exactly its own area.
 bool isSheetsOwn(const TagReader& viewport);
 
 } // namespace drawing

@@ -9,11 +9,12 @@
 
 namespace drawing {
 
-/// The system's converter between a code page and Unicode, one for each thread: it has a state.
+/// The system's converter between a code page and Unicode. Each thread has its own because a
+/// converter has a state.
 class CharsetConverter
 {
 public:
-    /// Null when the system does not know the code page.
+    /// Returns null when the system does not know the code page.
     static CharsetConverter* toUnicode(const QByteArray& charset);
     static CharsetConverter* fromUnicode(const QByteArray& charset);
 
@@ -21,12 +22,11 @@ public:
     CharsetConverter(const CharsetConverter&) = delete;
     CharsetConverter& operator=(const CharsetConverter&) = delete;
 
-    /// The longest beginning of `bytes` that means something, as text; what does not is left in
-    /// `bytes`.
+    /// Converts the longest valid beginning of `bytes` to text and leaves the rest in `bytes`.
     QString convert(std::string_view& bytes);
-    /// The text of bytes all of which mean something; null when some do not.
+    /// Converts `bytes` to text; returns null unless all of them are valid.
     QString converted(std::string_view bytes);
-    /// The bytes of a text; null when the code page lacks some of it.
+    /// Converts text to bytes; returns null when the code page lacks one of the characters.
     QByteArray encoded(const QString& text);
 
 private:

@@ -7,22 +7,24 @@
 
 namespace drawing {
 
-/// A way to write text as bytes, of those that drawings are in.
+/// A code page that drawings can be encoded in.
 struct CodePage
 {
-    const char* name;    ///< As drawings declare it.
-    const char* charset; ///< As the system's converter knows it.
-    const char* title;   ///< The language, for users; not translated.
+    const char* name;    ///< The name in drawings.
+    const char* charset; ///< The name for the system's converter.
+    const char* title;   ///< The language, as shown to users; not translated.
 };
 
-/// Those to choose from, the common ones first.
+/// The code pages to choose from, common ones first.
 const std::vector<CodePage>& codePages();
-/// What the system's converter calls the code page that drawings name so, whatever its letter case
-/// and with or without `_` and `-`; empty for one that nobody knows, and for no name at all.
+/// The system converter's name for a code page that a drawing names. Letter case, `_` and `-` do
+/// not matter. Empty for an unknown or empty name.
 QByteArray charsetOfCodePage(std::string_view name);
-/// Whether the name says nothing of letters beyond ASCII: `ASCII`, `UNDEFINED`, or nothing at all.
+/// Whether the name says nothing about characters beyond ASCII: it is `ASCII`, `UNDEFINED` or
+/// empty.
 bool isNoCodePage(std::string_view name);
-/// A code page for users, by the converter's name: `简体中文 GBK (ANSI_936)`.
+/// The title of a code page as shown to users, found by the converter's name: `简体中文 GBK
+/// (ANSI_936)`.
 QString codePageTitle(const QByteArray& charset);
 
 } // namespace drawing

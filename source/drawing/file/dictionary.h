@@ -7,27 +7,27 @@
 
 namespace drawing {
 
-/// A dictionary object, taken apart for reading and editing.
+/// A dictionary object, decomposed for reading and editing.
 class Dictionary
 {
 public:
     struct Entry
     {
-        QByteArray key; ///< Not decoded, without blanks around it.
+        QByteArray key; ///< Not decoded; blanks around it are removed.
         quint64 object = 0;
     };
 
     explicit Dictionary(TagList tags) : m_tags(std::move(tags)) {}
 
-    /// In their order; none of an empty list of tags.
+    /// The entries in their order; none when the tag list is empty.
     std::vector<Entry> entries() const;
     /// The handle under `key`; 0 when there is no such entry.
     quint64 find(std::string_view key) const;
 
-    /// Adds an entry behind the others, which refers to its object as they do.
+    /// Appends an entry. It refers to its object with the same group code as the other entries.
     void add(const QByteArray& key, quint64 object);
     void remove(std::string_view key);
-    /// Drops the entries for which `isGone` is true.
+    /// Removes the entries for which `isGone` returns true.
     void removeIf(const std::function<bool(const Entry&)>& isGone);
 
     const TagList& tags() const { return m_tags; }
@@ -38,7 +38,7 @@ private:
     int endOfEntries() const;
 
     TagList m_tags;
-    int m_reference = 0; ///< The code of references in it, where one is known.
+    int m_reference = 0; ///< The group code of the references; 0 while none is known.
 };
 
 } // namespace drawing

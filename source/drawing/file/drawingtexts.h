@@ -4,8 +4,8 @@
 
 namespace drawing {
 
-/// Where the library's texts are translated: `Texts::tr("...")`, and `Texts::tr(row.text)` for the
-/// texts of tables, which are marked with QT_TRANSLATE_NOOP("drawing", "...").
+/// The translation context of the library's texts. Use `Texts::tr("...")`, or `Texts::tr(row.text)`
+/// for texts in tables, which are marked with QT_TRANSLATE_NOOP("drawing", "...").
 class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(drawing)

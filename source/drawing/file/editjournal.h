@@ -12,7 +12,7 @@
 
 namespace drawing {
 
-/// Where an edit stands. Insertions at one offset follow each other by `order`, and stand before a
+/// The position of an edit. Insertions at the same offset are sorted by `order`, and they precede a
 /// replacement that begins there.
 struct EditPlace
 {
@@ -31,7 +31,8 @@ inline bool operator==(const EditPlace& a, const EditPlace& b)
     return a.begin == b.begin && a.order == b.order;
 }
 
-/// The bytes that stand instead of the original's up to `end`; `end` = -1 stands for no edit.
+/// The bytes that replace the original ones up to `end`. An `end` of -1 means that there is no
+/// edit.
 struct Edit
 {
     qint64 end = -1;
@@ -45,7 +46,7 @@ inline bool operator==(const Edit& a, const Edit& b)
     return a.end == b.end && a.text == b.text;
 }
 
-/// One edit made, changed or taken away: what undo and redo need.
+/// An edit that was made, changed or removed, as undo and redo need it.
 struct EditChange
 {
     EditPlace place;
@@ -53,8 +54,8 @@ struct EditChange
     Edit after;
 };
 
-/// The edits of a file whose bytes stay as they are: replaced ranges (removed ones are replaced by
-/// nothing) and insertions. Edits never overlap: a replacement swallows those within its range.
+/// The edits of a file whose bytes do not change: replaced ranges (a removed range is replaced by
+/// nothing) and insertions. Edits never overlap: a replacement absorbs all edits inside its range.
 class EditJournal
 {
 public:
@@ -62,33 +63,33 @@ public:
 
     explicit EditJournal(std::string_view original = {}) : m_original(original) {}
 
-    /// Puts `text` instead of the original's bytes in a range, which is not empty. Putting the
-    /// original's own bytes back takes the edit away. Refuses (false, nothing changed) a range that
-    /// reaches over the edge of an earlier replacement, or lies within a larger one.
+    /// Replaces the original bytes of a range, which must not be empty, by `text`. When `text`
+    /// equals the original bytes, the edit is removed. Returns false and changes nothing when the
+    /// range crosses the edge of an earlier replacement or lies inside a larger one.
     bool replace(const ByteRange& range, const QByteArray& text);
-    /// Takes back what was done to the range.
+    /// Removes the replacement of the range.
     bool restore(const ByteRange& range);
-    /// Puts `text` instead of the range, which may be empty.
+    /// Replaces the range by `text`, or inserts `text` when the range is empty.
     bool overwrite(const ByteRange& range, quint32 order, const QByteArray& text);
-    /// Puts `text` in before the byte at `at`, instead of what stood at this very order. Refuses
-    /// (false) a place within a replaced range.
+    /// Inserts `text` before the byte at `at`. It replaces an earlier insertion with the same
+    /// `order`. Returns false when `at` lies inside a replaced range.
     bool insert(qint64 at, quint32 order, const QByteArray& text);
     void removeInsertion(qint64 at, quint32 order);
 
-    /// The bytes of a range as edited: insertions at its begin left out, replacements must not
-    /// reach over the edges.
+    /// The edited bytes of a range, without insertions at its begin. Replacements must not cross
+    /// its edges.
     QByteArray current(const ByteRange& range) const;
-    /// The text inserted at this place; null when there is none.
+    /// The text that was inserted at this place; null when there is none.
     QByteArray inserted(qint64 at, quint32 order) const;
-    /// Hands out the whole edited file piece by piece, until `sink` refuses.
+    /// Passes the whole edited file to `sink` piece by piece until `sink` returns false.
     bool stream(const Sink& sink) const;
 
     bool isEmpty() const { return m_edits.empty(); }
 
-    /// The changes since the last call, each place once, those that changed nothing left out.
+    /// The changes since the last call, one for each place. Changes without an effect are left out.
     std::vector<EditChange> takeChanges();
     bool hasChanges() const { return !m_changes.empty(); }
-    /// Applies changes, or takes them back; not recorded as changes themselves.
+    /// Applies changes, or reverts them when `forward` is false. This is not recorded as a change.
     void apply(const std::vector<EditChange>& changes, bool forward, Pace& pace);
 
 private:

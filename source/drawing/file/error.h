@@ -9,17 +9,17 @@
 
 namespace drawing {
 
-/// Why something could not be done, worded for the user.
+/// The reason why something could not be done, worded for the user.
 struct Error
 {
-    QString text;    ///< A Chinese sentence that names the thing and the cause.
-    qint64 line = 0; ///< Line of the file where it was found, from 1; 0 when no line is to blame.
-    bool cancelled = false; ///< The user stopped the work: nothing to report.
-    /// Of a file that is cut off: what is whole can be opened, see `OpenOptions`.
+    QString text;    ///< A Chinese sentence that names the thing concerned and the cause.
+    qint64 line = 0; ///< The line of the file, counted from 1; 0 when the error concerns no line.
+    bool cancelled = false; ///< The user stopped the work, so there is nothing to report.
+    /// The file is truncated, but its intact part can be opened (see `OpenOptions`).
     bool hasWholePart = false;
 };
 
-/// What a function gives back that can fail; a refusal must not be overlooked.
+/// The result of a function that can fail. The compiler warns when the result is ignored.
 template <class T>
 class [[nodiscard]] Expected : public tl::expected<T, Error>
 {
@@ -30,7 +30,8 @@ public:
     Expected() = default;
     Expected(Base other) : Base(std::move(other)) {}
 
-    /// What `act`, which can fail as well, gives back; the refusal where there is one already.
+    /// Calls `act`, which may fail too, with the value and returns its result; an error is passed
+    /// on.
     template <class Act>
     auto and_then(Act&& act) const
     {
@@ -44,7 +45,7 @@ public:
     }
 };
 
-/// A refusal with these words.
+/// Makes an error with this text.
 inline tl::unexpected<Error> refusal(const QString& text)
 {
     return tl::make_unexpected(Error{text, 0, false});

@@ -17,20 +17,22 @@ enum class HeaderVariable {
     Count
 };
 
-/// In the order in which missing ones are made: layers name linetypes.
+/// The kinds are in the order in which missing tables are created, because layers refer to
+/// linetypes.
 enum class TableKind { Linetype, Layer, Style, AppId, BlockRecord, Other, Count };
 
 /// A table of the TABLES section.
 struct TablePlace
 {
-    ByteRange head; ///< From `0 TABLE` to the first record; null when the file has no such table.
-    qint64 endTab = -1; ///< File offset behind the last record.
+    /// From `0 TABLE` to the first record; null when the file does not have the table.
+    ByteRange head;
+    qint64 endTab = -1; ///< File offset after the last record.
     std::vector<ByteRange> records;
 
     bool isNull() const { return head.isNull(); }
 };
 
-/// `LayerList` objects name layers in their 8 groups.
+/// The kinds of objects that need special treatment. `LayerList` objects name layers in 8 groups.
 enum class ObjectKind : quint8 { Other, Dictionary, XRecord, LayerList, Layout, Proxy };
 
 /// An object of the OBJECTS section.
@@ -41,7 +43,7 @@ struct ObjectPlace
     ObjectKind kind = ObjectKind::Other;
 };
 
-/// A value for each of an enumeration that ends in `Count`.
+/// An array with one value per enumerator of an enumeration that ends in `Count`.
 template <class Key, class Value>
 class EnumArray
 {
@@ -56,29 +58,31 @@ private:
     std::array<Value, static_cast<size_t>(Key::Count)> m_values{};
 };
 
-/// Where the parts of a file stand, apart from what is drawn.
+/// Where the parts of a file are, except for entities and blocks.
 struct FileIndex
 {
-    EnumArray<HeaderVariable, Tag> header; ///< Their values.
+    EnumArray<HeaderVariable, Tag> header; ///< The values of the header variables.
     EnumArray<TableKind, TablePlace> tables;
     std::vector<ObjectPlace> objects;
 
-    qint64 headerEnd = -1;  ///< The HEADER section's `0 ENDSEC`; -1 when there is no such section.
-    qint64 tablesEnd = -1;  ///< The TABLES section's `0 ENDSEC`.
-    qint64 objectsEnd = -1; ///< The OBJECTS section's `0 ENDSEC`.
-    qint64 eof = -1;        ///< `0 EOF`.
+    /// The HEADER section's `0 ENDSEC`; -1 when the file has no such section.
+    qint64 headerEnd = -1;
+    qint64 tablesEnd = -1;    ///< The TABLES section's `0 ENDSEC`.
+    qint64 objectsEnd = -1;   ///< The OBJECTS section's `0 ENDSEC`.
+    qint64 eof = -1;          ///< `0 EOF`.
     qint64 firstSection = -1; ///< `0 SECTION` of the first section.
-    qint64 firstBody = -1;    ///< Of the first section that must follow TABLES; else `0 EOF`.
+    /// Begin of the first section that must follow TABLES; the `0 EOF` when there is none.
+    qint64 firstBody = -1;
 };
 
-// What the names in a file stand for, each with "other" for those nobody asks for.
+// Look-up of names in a file. Names without special treatment give the "other" value.
 
 ObjectKind objectKind(std::string_view name);
 TableKind tableKind(std::string_view name);
-/// `HeaderVariable::Count` for a variable that is not needed.
+/// Returns `HeaderVariable::Count` for a variable that is not needed.
 HeaderVariable headerVariable(std::string_view name);
 
-/// What is written for it, and the code of its value.
+/// The name of a header variable in files, and the group code of its value.
 struct HeaderVariableName
 {
     std::string_view name;

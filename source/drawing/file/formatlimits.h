@@ -4,15 +4,17 @@
 
 namespace drawing {
 
-/// What a version of the format has a place for.
+/// The features that a version of the format can store.
 struct FormatLimits
 {
-    bool markers = true;      ///< Handles, owners, subclass markers, objects.
-    bool plotFlag = true;     ///< Layers that are not plotted.
-    bool lineweight = true;   ///< Of layers.
-    bool trueColor = true;    ///< Of layers.
-    bool softPointers = true; ///< Viewports list frozen layers in 331 groups, before in 341.
-    bool longNames = true;    ///< More than 31 characters, and others than letters, digits, $ - _.
+    bool markers = true;    ///< Handles, owners, subclass markers and objects.
+    bool plotFlag = true;   ///< The plot flag of layers.
+    bool lineweight = true; ///< Lineweights of layers.
+    bool trueColor = true;  ///< True colours of layers.
+    /// Viewports list frozen layers in 331 groups; older versions use 341.
+    bool softPointers = true;
+    /// Names may exceed 31 characters and may contain more than letters, digits, $, - and _.
+    bool longNames = true;
 
     static constexpr FormatLimits of(std::string_view version)
     {

@@ -2,12 +2,12 @@
 
 namespace drawing {
 
-/// Group codes that mean the same wherever they stand, or in what the names say.
+/// Group codes that have the same meaning everywhere, or within the context that their name states.
 namespace group {
 
 constexpr int kType = 0;
 constexpr int kName = 2;
-constexpr int kKey = 3; ///< Of a dictionary's entry, before its object.
+constexpr int kKey = 3; ///< The key of a dictionary entry; it precedes the entry's object.
 constexpr int kHandle = 5;
 constexpr int kLinetype = 6;
 constexpr int kLayer = 8;
@@ -17,12 +17,12 @@ constexpr int kHasAttributes = 66;
 constexpr int kPaperSpace = 67;
 constexpr int kFlags = 70;
 constexpr int kSubclass = 100;
-constexpr int kEmbedded = 101; ///< Begins an object within another one.
-constexpr int kBrace = 102;    ///< Begins and ends a group that an application keeps.
+constexpr int kEmbedded = 101; ///< Begins an embedded object.
+constexpr int kBrace = 102;    ///< Begins and ends an application's group.
 constexpr int kDimStyleHandle = 105;
-constexpr int kCloning = 280; ///< What becomes of an XRECORD's or dictionary's copies.
+constexpr int kCloning = 280; ///< How copies of an XRECORD or dictionary are treated.
 constexpr int kPlotted = 290;
-constexpr int kSoftPointer = 330; ///< The first one of an object is its owner.
+constexpr int kSoftPointer = 330; ///< The first one in an object is its owner.
 constexpr int kHardPointer = 340;
 constexpr int kMaterial = 347;
 constexpr int kSoftOwner = 350;
@@ -34,20 +34,20 @@ constexpr int kColorName = 430;
 constexpr int kTransparency = 440;
 constexpr int kComment = 999;
 
-// Extended data, always behind everything else.
-constexpr int kXdata = 1000; ///< All codes from here on; as such a text.
+// Extended data, which always comes last.
+constexpr int kXdata = 1000; ///< A text. All group codes from here on are extended data.
 constexpr int kApplication = 1001;
 constexpr int kXdataLayer = 1003;
 constexpr int kXdataHandle = 1005;
 constexpr int kXdataLong = 1071;
 
-/// Whether a group points at what goes with it.
+/// Whether a group refers to an object that it owns.
 constexpr bool isOwning(int code)
 {
     return code == kSoftOwner || code == kHardOwner;
 }
 
-/// Whether a group holds the handle of something else.
+/// Whether a group holds the handle of another object.
 constexpr bool isPointer(int code)
 {
     return (code >= 320 && code <= 369) || (code >= 390 && code <= 399) || code == 480 ||

@@ -4,24 +4,25 @@
 
 namespace drawing {
 
-/// Insertions at one place of a file follow each other in this order. Sections that are missing are
-/// made at the same place: what belongs to one must stand between its head and its tail.
+/// The order of insertions at the same place of a file. Missing sections may all be created at one
+/// place, so the contents of each must stay between its head and its tail.
 enum InsertionOrder : quint32 {
     kHeaderHead,
-    // Within records and entities, where no section begins.
+    // Used inside records and entities, where no section begins.
     kNewHandle,
     kNewLayerName,
     kNewExtension,
     kNewFrozenLayers,
-    kNewVariables = 0x10, ///< And the number of the variable.
+    kNewVariables = 0x10, ///< Plus the number of the variable.
     kHeaderTail = 0x80,
     kTablesHead = 0x100,
-    // A table is its head, its records and its tail, which takes the last order of its span.
-    kNewTables = 0x10000000, ///< And a span for each kind of table before it.
+    // A table consists of its head, its records and its tail. The tail has the last order of the
+    // table's span.
+    kNewTables = 0x10000000, ///< Plus one span for each kind of table before it.
     kTableSpan = 0x10000000,
     kTablesTail = 0x70000000,
     kObjectsHead = 0x72000000,
-    kNewObjects = 0x72000001, ///< And the number of the object.
+    kNewObjects = 0x72000001, ///< Plus the number of the object.
     kObjectsTail = 0x7f000000,
 };
 

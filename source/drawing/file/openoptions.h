@@ -4,12 +4,13 @@
 
 namespace drawing {
 
-/// How a drawing is to be opened, where its file leaves room or is wrong.
+/// Choices for opening a file that is ambiguous or damaged.
 struct OpenOptions
 {
-    /// The code page of its texts, by a name as drawings have it; empty: as the file says.
+    /// The code page of the texts, by its name in drawings; empty to use the one that the file
+    /// declares.
     QByteArray codePage;
-    /// Whether of a file that is cut off what is whole is to be opened; refused otherwise.
+    /// Whether to open the intact part of a truncated file. Otherwise such a file is refused.
     bool wholePart = false;
 };
 

@@ -8,30 +8,31 @@
 
 namespace drawing {
 
-/// The group in which the handle of an extension dictionary stands.
+/// The group that holds the handle of an extension dictionary.
 constexpr char kExtensionGroup[] = "{ACAD_XDICTIONARY";
 
-/// Whose a tag of a record, an object or an entity is.
+/// The part of a record, object or entity that a tag belongs to.
 enum class TagPart : quint8 {
-    Own,      ///< What it says itself.
-    Group,    ///< Of an application, between braces; reactors and extension dictionaries too.
-    Embedded, ///< Of an object within it, which uses the same codes for other things.
-    Xdata     ///< Of applications, behind all else.
+    Own,      ///< The data of the record itself.
+    Group,    ///< A group in braces: application data, reactors or the extension dictionary.
+    Embedded, ///< An embedded object, which uses the same group codes for other purposes.
+    Xdata     ///< Extended data of applications, after everything else.
 };
 
-/// Tells the tags of one record apart, taken one after the other.
+/// Determines the part that each tag belongs to. Tags must be passed in their order.
 class TagSorter
 {
 public:
     TagPart take(const Tag& tag);
 
-    /// The subclass that the last tag belongs to; empty before the first marker.
+    /// The subclass of the last tag; empty before the first subclass marker.
     std::string_view subclass() const { return m_subclass; }
-    /// What the group around the last tag is called, with its brace; empty outside of groups.
+    /// The name of the group that contains the last tag, including its brace; empty outside of
+    /// groups.
     std::string_view group() const { return m_group; }
-    /// Whether the last tag began that group.
+    /// Whether the last tag opened that group.
     bool opensGroup() const { return m_opensGroup; }
-    /// The application of the last tag, in the extended data.
+    /// The application of the last tag when it is extended data.
     std::string_view application() const { return m_application; }
 
 private:
@@ -45,16 +46,16 @@ private:
     bool m_isGroupClosed = false; // The last tag was a closing brace.
 };
 
-/// Walks over a record's own tags. Those of an XRECORD, which may hold anything, are its data with
-/// all groups in it.
+/// Iterates over the own tags of a record. In an XRECORD, which may hold anything, these are its
+/// data including all groups in it.
 class OwnTags
 {
 public:
     explicit OwnTags(const TagReader& tags) : m_tags(tags) {}
 
-    /// The next own tag; false when there is none.
+    /// Reads the next own tag; false when there is none.
     bool next(Tag& tag);
-    /// The next tag of any part but embedded objects; false when there is none.
+    /// Reads the next tag of any part except embedded objects; false when there is none.
     bool nextOfAll(Tag& tag);
     TagPart part() const { return m_part; }
     const TagSorter& place() const { return m_sorter; }
@@ -65,15 +66,15 @@ private:
     TagPart m_part = TagPart::Own;
 };
 
-/// The record's first own tag with this code; a null one when it has none.
+/// The record's first own tag with this code; a null tag when there is none.
 Tag findOwn(const TagReader& tags, int code);
-/// The same of tags taken apart; `TagList::kNone` when there is none. Where `last` is set, the last
-/// one.
+/// The index of the first own tag with this code, or of the last one when `last` is set;
+/// `TagList::kNone` when there is none.
 int findOwn(const TagList& tags, int code, bool last = false);
 
-/// Handle of a record, an object or an entity itself; 0 when it has none.
+/// The handle of a record, object or entity; 0 when it has none.
 quint64 ownHandle(const TagReader& tags);
-/// Handle of the extension dictionary of a record, an object or a table's head; 0 without one.
+/// The handle of the extension dictionary of a record, object or table head; 0 when it has none.
 quint64 extensionOf(const TagReader& tags);
 
 } // namespace drawing

@@ -5,14 +5,14 @@
 
 namespace drawing {
 
-/// Lets long work on one thread take breaks, in which a window can be painted.
+/// Lets long work on one thread take breaks, in which for example a window can be painted.
 class Pace
 {
 public:
-    /// What is done in a break; it must leave the drawing as it is.
+    /// Sets the function that a break calls. It must not change the drawing.
     void setBreak(std::function<void()> rest) { m_rest = std::move(rest); }
 
-    /// One more piece of work is done: time for a break now and then.
+    /// Counts one piece of work as done and takes a break now and then.
     void step()
     {
         constexpr int kStepsBetween = 256;

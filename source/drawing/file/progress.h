@@ -5,11 +5,11 @@
 
 namespace drawing {
 
-/// Told of long work as it goes on; called on the working thread.
+/// The progress of long work. `report` is called on the working thread.
 struct Progress
 {
     std::function<void(int percent)> report; ///< May be empty.
-    std::atomic<bool> cancelled{false};      ///< Set from any thread to stop the work.
+    std::atomic<bool> cancelled{false};      ///< May be set from any thread to stop the work.
 };
 
 } // namespace drawing

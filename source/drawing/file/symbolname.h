@@ -5,17 +5,19 @@
 
 namespace drawing {
 
-// Names compare and fold as the dialogs do it.
+// Drawings compare and fold names in the same way as the dialogs.
 using vnsi::foldedName;
 using vnsi::isSameName;
 
-/// The most characters of names in formats without long ones.
+/// The maximum length of names in formats without long names.
 constexpr int kMostInOldFormats = 31;
-/// Whether such formats can hold a name: letters, those of the code page among them, digits, $ - _.
+/// Whether a format without long names can hold this name: letters (including those of the code
+/// page), digits, $, - and _.
 bool isOldName(const QString& name);
 
-/// What is wrong with a name that is to be given, as a sentence that calls it by `what` ("图层名");
-/// empty when it may be given. Older versions allow less; what a file has is kept in any case.
+/// The reason why `name` must not be given to something, as a sentence that refers to it as `what`
+/// ("图层名"); empty when the name is allowed. Older versions allow less. Names that a file already
+/// has are kept in any case.
 QString nameRefusal(const QString& name, const QString& what, const FormatLimits& limits);
 
 } // namespace drawing

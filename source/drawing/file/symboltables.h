@@ -14,44 +14,45 @@ namespace drawing {
 
 class DrawingFile;
 
-/// Adds and removes records of the TABLES section, and what goes with them: handles and the tables'
-/// counts. A table or section that is missing is made.
+/// Adds and removes records of the TABLES section and maintains handles and table counts. A missing
+/// table or section is created.
 class SymbolTables
 {
 public:
     explicit SymbolTables(DrawingFile& file) : m_file(file) {}
-    /// Looks at what the file has.
+    /// Reads what the file has.
     void load();
 
-    /// How a section is written.
+    /// The style in which a section is written.
     TagStyle sectionStyle() const;
-    /// How the records of a table are written.
+    /// The style in which the records of a table are written.
     TagStyle style(TableKind kind) const;
-    /// 0 for a table without a handle, and for none.
+    /// The handle of a table; 0 when the table has none or does not exist.
     quint64 handle(TableKind kind) const;
-    /// The name of a record in the file.
+    /// The name of a record of the file.
     QString nameOf(const ByteRange& record) const;
 
-    /// What a new record begins with, its handle among it; it is counted in.
+    /// The beginning of a new record, including its handle. Making one increases the table's count.
     struct NewRecord
     {
-        quint64 handle = 0; ///< 0 in formats without.
+        quint64 handle = 0; ///< 0 in formats without handles.
         QByteArray head;
     };
     NewRecord begin(TableKind kind);
-    /// Puts a record behind those of its table.
+    /// Inserts a record after the others of its table.
     EditPlace insert(TableKind kind, const QByteArray& record);
-    /// Counts a record out that was taken out of its table.
+    /// Decreases a table's count after a record was removed from it.
     void countOut(TableKind kind) { count(kind, -1); }
-    /// Adds a record with these tags behind its head. Returns its handle; 0 in formats without.
+    /// Adds a record with these tags after its head. Returns its handle; 0 in formats without
+    /// handles.
     quint64 add(TableKind kind, const std::vector<TextTag>& tags);
-    /// Lists an XDATA application, where it is not listed yet.
+    /// Registers an XDATA application in the APPID table unless it is already registered.
     void needAppId(const QString& name);
-    /// Handle of a table's extension dictionary; 0 without one.
+    /// The handle of a table's extension dictionary; 0 when it has none.
     quint64 extension(TableKind kind) const;
-    /// The same; a missing one is made.
+    /// The handle of a table's extension dictionary, which is created when it is missing.
     quint64 madeExtension(TableKind kind);
-    /// Handle of a table; one that is missing is made, and one without a handle gets one.
+    /// The handle of a table. A missing table is created, and a table without a handle gets one.
     quint64 madeHandle(TableKind kind);
 
 private:
@@ -64,7 +65,7 @@ private:
     void linkExtension(TableKind kind, quint64 dictionary);
 
     DrawingFile& m_file;
-    QSet<QString> m_appIds; ///< Folded names.
+    QSet<QString> m_appIds; ///< The folded names of the registered applications.
 };
 
 } // namespace drawing

@@ -6,17 +6,17 @@
 
 namespace drawing {
 
-/// A few tags taken apart for editing; those not touched keep their bytes.
+/// A short list of tags, decomposed for editing. Tags that are not changed keep their bytes.
 class TagList
 {
 public:
     static constexpr int kNone = -1;
 
-    /// Stops at the first broken tag; what follows is kept as it stands.
+    /// Stops at the first broken tag; everything from there on is kept unchanged.
     explicit TagList(const QByteArray& bytes, Spelling spelling);
 
     int size() const { return static_cast<int>(m_items.size()); }
-    /// Good until the list changes; its offsets count from its own begin.
+    /// Valid until the list changes. The tag's offsets are relative to its own begin.
     Tag tag(int at) const;
     int code(int at) const { return item(at).code; }
     std::string_view text(int at) const { return tag(at).text(); }
@@ -28,12 +28,12 @@ public:
     int find(int code, int from, int to) const;
 
     void setText(int at, const QByteArray& text);
-    /// Keeps the width of the number it replaces.
+    /// Replaces an integer value and keeps its width.
     void setInteger(int at, qint64 value);
     void setHandle(int at, quint64 handle) { setText(at, handleText(handle)); }
     void insert(int at, const QByteArray& tag);
     void remove(int from, int to);
-    /// Drops all tags but these, given in ascending order.
+    /// Removes all tags except these. `kept` must be in ascending order.
     void keepOnly(const std::vector<int>& kept);
 
     const TagStyle& style() const { return m_style; }

@@ -6,12 +6,12 @@
 
 namespace drawing {
 
-/// Walks over the tags of some bytes. Stops at their end, at a tag that is cut off, and where no
-/// tag stands; `broken()` tells the last two from the first.
+/// Reads the tags in a range of bytes one by one. It stops at the end, at a truncated tag, and
+/// where there is no tag; `broken()` distinguishes the last two cases from the first.
 class TagReader
 {
 public:
-    /// `bytes` must outlive the reader and its tags; `base` is the file offset of its first byte.
+    /// `bytes` must outlive the reader and its tags. `base` is the file offset of the first byte.
     explicit TagReader(std::string_view bytes, qint64 base = 0, Spelling spelling = Spelling::Text)
         : m_next(bytes.data()),
           m_end(bytes.data() + bytes.size()),
@@ -22,11 +22,12 @@ public:
 
     TagReader(const QByteArray& bytes, Spelling spelling) : TagReader(viewOf(bytes), 0, spelling) {}
 
-    /// Reads the next tag; false, with `tag` untouched, when there is none.
+    /// Reads the next tag. Returns false and leaves `tag` unchanged when there is none.
     bool next(Tag& tag) { return read(tag) == ScanResult::Tag; }
-    /// The same, with the reason. The reader stays where it is when nothing could be read.
+    /// Reads the next tag and returns the reason when there is none. The reader then keeps its
+    /// position.
     ScanResult read(Tag& tag);
-    /// The same of a file that is known to be spelled so.
+    /// Like `read`, for a file whose spelling is known at compile time.
     template <Spelling spelling>
     [[gnu::always_inline]] ScanResult readAs(Tag& tag)
     {
@@ -42,11 +43,11 @@ public:
     bool isCutOff() const { return m_last == ScanResult::CutOff; }
     bool broken() const { return m_last != ScanResult::Tag && m_last != ScanResult::End; }
 
-    /// Goes on with `tag`, which was read from the same bytes.
+    /// Moves back to `tag`, which must have been read from the same bytes; it is read next.
     void backTo(const Tag& tag) { m_next = tag.first; }
-    /// File offset of the tag that `next` reads next.
+    /// The file offset of the tag that `next` reads next.
     qint64 offset() const { return m_next - m_origin; }
-    /// File offset behind the last byte.
+    /// The file offset after the last byte.
     qint64 end() const { return m_end - m_origin; }
 
 private:

@@ -11,17 +11,19 @@
 
 namespace drawing {
 
-/// A longer line is refused: no text could hold the longest, and nothing that is meant needs it.
+/// Longer lines are refused: no legitimate line is that long, and a text could not hold the
+/// longest.
 constexpr std::ptrdiff_t kLongestLine = 1 << 24;
 
 enum class ScanResult { Tag, End, TooLong, CutOff, BadCode };
 
-/// The next such byte from `p` on, or `end`.
+/// The next byte equal to `wanted` from `p` on, or `end`.
 template <char wanted>
 [[gnu::always_inline]] inline const char* findByte(const char* p, const char* end)
 {
 #ifdef __SSE2__
-    // Most lines are shorter than 16 bytes: one compare here beats the call of memchr.
+    // Most lines are shorter than 16 bytes, so comparing 16 bytes here is faster than calling
+    // memchr.
     const __m128i sought = _mm_set1_epi8(wanted);
     for (; end - p >= 16; p += 16) {
         const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
@@ -36,7 +38,7 @@ template <char wanted>
     return hit ? static_cast<const char*>(hit) : end;
 }
 
-/// The end of the line at `p`, whose break may have a CR in front.
+/// The end of the value in the line at `p`, without a CR before the line break.
 template <char lineFeed>
 const char* lineValueEnd(const char* p, const char* lineEnd)
 {
@@ -52,8 +54,8 @@ inline const char* valueEnd(const char* p, const char* end, Spelling spelling)
                                       : findByte<'\r'>(p, end);
 }
 
-/// Reads the pair of lines at `p`; `tag` is left alone unless there is one. A value line without a
-/// line end counts when it ends the bytes.
+/// Reads the pair of lines at `p`. `tag` is changed only when there is one. A value line without a
+/// line break is accepted at the very end of the bytes.
 template <char lineFeed>
 [[gnu::always_inline]] inline ScanResult scanText(const char* p, const char* end, Tag& tag)
 {
@@ -93,12 +95,12 @@ template <char lineFeed>
     return ScanResult::Tag;
 }
 
-/// Reads the group of a binary file at `p`, with a code of one byte in old files; otherwise as
+/// Reads the group of a binary file at `p`; group codes take one byte in old files. Otherwise like
 /// `scanText`.
 template <bool isOld>
 [[gnu::always_inline]] inline ScanResult scanBinary(const char* p, const char* end, Tag& tag)
 {
-    constexpr uchar kLongCode = 255; // The code itself follows in two bytes.
+    constexpr uchar kLongCode = 255; // After this byte the group code follows in two bytes.
     if (p == end)
         return ScanResult::End;
     const char* const first = p;
@@ -136,7 +138,7 @@ template <bool isOld>
     return ScanResult::Tag;
 }
 
-/// Reads the group at `p` of a file that spells it so. Opening a file is this, over and over.
+/// Reads the group at `p` in a known spelling. Opening a file spends most of its time here.
 template <Spelling spelling>
 [[gnu::always_inline]] inline ScanResult scanAs(const char* p, const char* end, Tag& tag)
 {
@@ -146,7 +148,7 @@ template <Spelling spelling>
         return scanText<(spelling == Spelling::Text ? '\n' : '\r')>(p, end, tag);
 }
 
-/// Calls `act` with the spelling as a constant.
+/// Calls `act` with the spelling as a compile-time constant.
 template <class Act>
 auto withSpelling(Spelling spelling, Act act)
 {
@@ -163,13 +165,14 @@ auto withSpelling(Spelling spelling, Act act)
     return act(std::integral_constant<Spelling, Spelling::OldBinary>());
 }
 
-/// How the groups of a file are written, and where the first one stands.
+/// How the groups of a file are written, and where the first one is.
 struct FileForm
 {
     Spelling spelling = Spelling::Text;
     size_t begin = 0;
 
-    /// Passes over what may stand in front: a UTF-8 mark and blank lines.
+    /// Detects the form and skips what may precede the first group: a UTF-8 byte order mark and
+    /// blank lines.
     static FileForm of(std::string_view bytes);
 };
 

@@ -6,13 +6,13 @@
 
 namespace drawing {
 
-/// What a group holds, as far as its code tells.
+/// The type of a group's value, as far as its code tells.
 enum class ValueKind : quint8 { Unknown, Text, Real, Int8, Int16, Int32, Int64, Chunk };
 
-/// Bytes that a value takes in a binary file; 0 where they have to be counted.
+/// The bytes that a value takes in a binary file; 0 when the length varies.
 constexpr std::array<quint8, 8> kValueSizes = {0, 0, 8, 1, 2, 4, 8, 0};
 
-/// The codes from `first` to `last` hold this.
+/// The group codes from `first` to `last` hold values of this kind.
 struct ValueKindRow
 {
     int first;
@@ -61,7 +61,7 @@ constexpr auto kValueKinds = [] {
     return kinds;
 }();
 
-/// `Unknown` for codes that do not exist.
+/// Returns `Unknown` for group codes that do not exist.
 constexpr ValueKind valueKind(int code)
 {
     return code >= 0 && code < static_cast<int>(kValueKinds.size())
