@@ -8,14 +8,14 @@ namespace drawing {
 
 class Drawing;
 
-/// The name that a layer is to have.
+/// A request to rename a layer.
 struct LayerRename
 {
     LayerId layer = LayerId::None;
     QString name;
 };
 
-/// What became of a rename.
+/// The outcome of a rename.
 struct LayerRenamed
 {
     enum class Outcome : quint8 { Renamed, Merged, Refused };
@@ -24,21 +24,23 @@ struct LayerRenamed
     QString from;
     QString to;
     Outcome outcome = Outcome::Refused;
-    QString cause;  ///< A sentence; why it was refused.
-    QString holder; ///< The layer that has the name and keeps it, where that is why; else empty.
+    QString cause; ///< A sentence that says why the rename was refused.
+    /// The layer that already has the name, when that is the reason for a refusal; otherwise empty.
+    QString holder;
 };
 
-/// What is done where a layer that keeps its name has the one wanted.
+/// What to do when a layer that keeps its name already has the wanted name.
 enum class NameClash : quint8 {
     Refuse,
-    Merge ///< What is on the layer comes to the other one, and the layer goes.
+    Merge ///< Move the contents of the renamed layer to the other one and delete the renamed layer.
 };
 
-/// Renames layers in the open step, in an order in which none stands in another's way; names may go
-/// round in circles. Of several that want one name the first gets it, unless one of them is in a
-/// circle, which could not go round otherwise. Tells of each rename that changes anything what
-/// became of it, in their order; of several for one layer the first counts. A layer whose rename is
-/// refused keeps its name; no layer is left under a name that it neither had nor was to have.
+/// Renames layers in the open step. It finds an order in which no rename blocks another one, so
+/// names may be exchanged in cycles. When several layers want the same name, the first one gets it,
+/// unless one of them is part of a cycle, which could not be carried out otherwise. When there are
+/// several renames of one layer, the first one counts. Returns the outcome of each rename that has
+/// an effect, in their order. A layer whose rename is refused keeps its name; no layer is left with
+/// a name that it neither had nor was meant to get.
 std::vector<LayerRenamed> renameLayers(
     Drawing& drawing, const std::vector<LayerRename>& renames, NameClash clash = NameClash::Refuse);
 

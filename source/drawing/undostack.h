@@ -6,20 +6,20 @@
 
 namespace drawing {
 
-/// A step that was done.
+/// A completed undo step.
 struct UndoStep
 {
     QString name;
     DrawingData::Changes changes;
 };
 
-/// The steps done and undone, and which of them the file on disk has.
+/// The steps that were done and undone, and which of them are in the file on disk.
 class UndoStack
 {
 public:
-    /// Takes in a step just done; those undone before it are lost.
+    /// Adds a step that was just done and drops the steps undone before it.
     void push(UndoStep step);
-    /// The step to take back or to do again next; null when there is none.
+    /// The step to undo (or, for `redoStep`, to redo) next; null when there is none.
     const UndoStep* undoStep() const;
     const UndoStep* redoStep() const;
     void stepBack() { --m_done; }
@@ -31,7 +31,8 @@ public:
 private:
     std::vector<UndoStep> m_steps;
     int m_done = 0;
-    int m_clean = 0; // Steps the saved file has; -1 when these can no longer be reached.
+    // The number of steps in the saved file; -1 when that state can no longer be reached.
+    int m_clean = 0;
 };
 
 } // namespace drawing

@@ -8,10 +8,11 @@ namespace drawing {
 
 class DrawingFile;
 
-/// Whether a file that cannot be indexed can be opened as far as it is whole: it ends too early, or
-/// rubbish begins.
+/// Whether the intact part of a file that cannot be indexed can be opened: the file ends too early,
+/// or garbage begins somewhere.
 bool hasWholePart(const IndexFault& fault);
-/// A file of what is whole, up to the last entity or record that is, with all closed behind it.
+/// Makes a file of the intact part, up to the last complete entity or record, and closes everything
+/// that was open there.
 QByteArray wholePart(const DrawingFile& file, const IndexFault& fault, const FileIndex& index,
     const EntityIndex& entities);
 

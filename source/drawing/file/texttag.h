@@ -4,7 +4,7 @@
 
 namespace drawing {
 
-/// A group with its value as decoded text.
+/// A group whose value is decoded text.
 struct TextTag
 {
     int code = -1;

@@ -24,23 +24,25 @@ class LinetypeTable;
 class ViewportLayers;
 struct Progress;
 
-/// A run of a group's vertices that belong together. A vertex of NaN begins a new part.
+/// A run of vertices of a group that belong together. A vertex of NaN begins a new part.
 struct Primitive
 {
     enum class Shape : quint8 { Lines, Fill, Dot, Mask };
 
     quint32 first = 0;
     quint32 count = 0;
-    int entity = -1;      ///< Index into `Drawing::entities()` of what was drawn in model space.
-    quint32 sequence = 0; ///< Order of drawing among all groups.
-    Shape shape = Shape::Lines;   ///< Fills are even-odd; a mask covers what was drawn before.
-    bool patternRestarts = false; ///< The linetype begins anew at each vertex.
-    float linetypeScale = 1;      ///< The entity's own, and that of the blocks around it.
-    float width = 0;              ///< Of lines, in drawing units; 0 = by the lineweight.
+    /// Index into `Drawing::entities()` of the entity that was drawn in model space.
+    int entity = -1;
+    quint32 sequence = 0; ///< The drawing order, across all groups.
+    /// Fills use the even-odd rule; a mask covers what was drawn before it.
+    Shape shape = Shape::Lines;
+    bool patternRestarts = false; ///< The linetype pattern restarts at each vertex.
+    float linetypeScale = 1;      ///< The entity's own scale times that of the surrounding blocks.
+    float width = 0;              ///< Width of lines in drawing units; 0 to use the lineweight.
     Box bounds;
 };
 
-/// One line of text. The canvas knows the font, so alignment is left to it.
+/// One line of text. The alignment is left to the canvas, which knows the font.
 struct TextRun
 {
     enum class Horizontal : quint8 { Left, Center, Right };
@@ -48,24 +50,26 @@ struct TextRun
 
     QString text;
     QPointF origin;
-    QPointF right;       ///< One text height along the line, stretching included.
-    QPointF up;          ///< One text height (of a capital letter) across it.
-    double fitWidth = 0; ///< In lengths of `right`: the text is stretched to it; 0 = as it runs.
+    QPointF right; ///< One text height along the line, including stretching.
+    QPointF up;    ///< One text height (the height of a capital letter) across the line.
+    /// The width that the text is stretched to, in lengths of `right`; 0 for its natural width.
+    double fitWidth = 0;
     Horizontal horizontal = Horizontal::Left;
     Vertical vertical = Vertical::Baseline;
     int entity = -1;
-    quint32 sequence = 0; ///< As that of primitives.
+    quint32 sequence = 0; ///< The drawing order, shared with primitives.
     Box bounds;           ///< Estimated.
 };
 
-/// Everything that is shown, hidden and styled as one.
+/// Geometry that is shown, hidden and styled together.
 struct GeometryGroup
 {
     LayerId layer = LayerId::None;
     int owners = 0; ///< Index into `Geometry::owners`.
-    /// Of the dimension, table or leader whose picture this is: off hides it, too. None elsewhere.
+    /// The layer of the dimension, table or leader that this is the picture of; turning that layer
+    /// off hides the group as well. None for other groups.
     LayerId whole = LayerId::None;
-    /// In model space while a layout is shown: seen through its viewports alone.
+    /// Belongs to model space while a layout is shown, so it is visible through viewports only.
     bool isThroughViewports = false;
     GeometryStyle style;
     std::vector<QPointF> vertices;
@@ -76,10 +80,10 @@ struct GeometryGroup
     Box bounds;
 };
 
-/// A ray or a construction line: as long as the drawing around it is wide.
+/// A ray or a construction line. It becomes as long as the drawing around it is wide.
 struct EndlessLine
 {
-    std::size_t group = 0; ///< Whose look it has.
+    std::size_t group = 0; ///< The group whose style it has.
     QPointF from;
     QPointF direction;
     bool bothWays = false;
@@ -87,30 +91,33 @@ struct EndlessLine
     quint32 sequence = 0;
 };
 
-/// How much there is to keep and to draw, or how much more there may be.
+/// An amount of geometry that is kept and drawn, or the amount that may still be added.
 struct GeometryAmount
 {
     qint64 vertices = 0;
     qint64 pieces = 0;    ///< Primitives and texts.
-    qint64 instances = 0; ///< Placed block references.
+    qint64 instances = 0; ///< Placed instances of block references.
 };
 
-/// A space of a drawing, or a part of it, flattened and grouped by what decides on visibility and
-/// style.
+/// The flattened geometry of a space of a drawing or of a part of it, grouped by what decides on
+/// visibility and style.
 struct Geometry
 {
     std::vector<GeometryGroup> groups;
-    /// Layers of the block references around a group: one of them frozen hides the group.
+    /// For each `owners` index, the layers of the block references around a group. The group is
+    /// hidden when one of them is frozen.
     std::vector<std::vector<LayerId>> owners;
     PictureSwitches switches;
-    std::shared_ptr<const LinetypePatterns> linetypes; ///< What the groups' styles number.
-    std::vector<EndlessLine> endless; ///< Not drawn yet, for the extents of all parts count.
-    GeometryAmount amount;            ///< Of what is here.
-    GeometryIndex index;              ///< Empty until it is made.
-    bool truncated = false;           ///< There was more than can be shown.
+    /// The linetype patterns that the groups' styles refer to.
+    std::shared_ptr<const LinetypePatterns> linetypes;
+    /// Not drawn yet, because their length depends on the extents of all parts.
+    std::vector<EndlessLine> endless;
+    GeometryAmount amount;  ///< The amount in this object.
+    GeometryIndex index;    ///< Empty until it is built.
+    bool truncated = false; ///< Some geometry was left out because there was too much.
 };
 
-/// What of a drawing its picture is made of.
+/// The parts of a drawing that its picture is made from.
 struct GeometrySource
 {
     const DrawingFile& file;
@@ -124,15 +131,17 @@ struct GeometrySource
 
 using GeometryPart = std::shared_ptr<const Geometry>;
 
-/// The room that is left for the geometry of one drawing; those who build parts of it share it.
+/// The amount of geometry that may still be made for one drawing. All builders of its parts share
+/// it.
 class GeometryRoom
 {
 public:
-    static constexpr GeometryAmount kMost{16'000'000, 4'000'000, 1'000'000}; ///< 256 MB of points.
+    /// Corresponds to 256 MB of points.
+    static constexpr GeometryAmount kMost{16'000'000, 4'000'000, 1'000'000};
 
     explicit GeometryRoom(const GeometryAmount& room = kMost);
 
-    /// Whether there is room for more than `used`, which has not been taken yet.
+    /// Whether there is no room for more than `used`, an amount that has not been taken yet.
     bool isFull(const GeometryAmount& used) const;
     void take(const GeometryAmount& used);
 
@@ -142,21 +151,21 @@ private:
     std::atomic<qint64> m_instances;
 };
 
-/// Entities by their indices, the last one not included.
+/// A range of entity indices, [first, last).
 struct EntityRange
 {
     std::size_t first = 0;
     std::size_t last = 0;
 };
 
-/// Cuts the entities into ranges of about `length`, none of which begins with what follows an
-/// entity as its own.
+/// Divides the entities into ranges of about `length`. No range begins with a subentity.
 std::vector<EntityRange> geometryRanges(const std::vector<Entity>& entities, std::size_t length);
 
-/// Draws the endless lines of all parts, through what else there is, as a part of its own.
+/// Draws the endless lines of all parts through the extents of everything else, as a part of its
+/// own.
 Geometry endlessLines(const std::vector<GeometryPart>& parts);
 
-/// Flattens the space shown, as `Drawing` has it.
+/// See the overload for `Drawing`.
 Expected<Geometry> buildGeometry(const GeometrySource& source, Progress* progress);
 
 } // namespace drawing

@@ -13,25 +13,26 @@
 
 namespace drawing {
 
-/// Places what the entities of model space draw, block references unfolded, into groups. What a
-/// block holds is read once, however many ranges are built.
+/// Turns entities into groups of geometry and expands block references. Each block definition is
+/// read only once, however many ranges are built.
 class GeometryBuilder
 {
 public:
-    /// What the source refers to, and the room, must outlive this.
+    /// Everything that `source` refers to, and `room`, must outlive this object.
     GeometryBuilder(const GeometrySource& source, GeometryRoom& room, Progress* progress);
-    /// What these entities draw, endless lines left to be drawn. Refuses only when cancelled.
+    /// The geometry of these entities. Endless lines are collected but not drawn. Refuses only when
+    /// cancelled.
     Expected<Geometry> build(const EntityRange& range);
 
 private:
-    /// What ByBlock stands for where there is no block.
+    /// The style that ByBlock gives outside of any block.
     static constexpr GeometryStyle kUnstyled{{GeometryColor::Source::Index, kColorForeground},
         {LayerId::None, LinetypePatterns::kContinuous}, {LayerId::None, kDefaultLineweight}, {}};
-    /// What the block references around a definition decide for it.
+    /// What the block references around a definition decide about it.
     struct Context
     {
-        LayerId layer = LayerId::None;   ///< Taken by what is on layer 0; None in model space.
-        GeometryStyle style = kUnstyled; ///< For ByBlock.
+        LayerId layer = LayerId::None; ///< The layer for contents on layer 0; None in model space.
+        GeometryStyle style = kUnstyled; ///< The style for ByBlock.
         int owners = 0;
         LayerId whole = LayerId::None;
     };
@@ -57,7 +58,7 @@ private:
     };
     bool isCancelled() const { return m_progress && m_progress->cancelled; }
     void startAnew();
-    /// The place in the order of drawing of one more piece.
+    /// The position of the next piece in the drawing order.
     quint32 nextSequence()
     {
         return static_cast<quint32>(m_geometry.amount.pieces + m_used.pieces++);
@@ -65,19 +66,19 @@ private:
     void takeRoom();
     bool goOn(std::size_t done, std::size_t total);
     const Definition& definitionOf(int block);
-    /// True when there is no room for more; what was left out is noted.
+    /// Whether no more geometry may be added. If so, the geometry is marked as truncated.
     bool isFull();
     LayerId layerOf(const EntityStyle& style, const Context& context) const;
     GeometryColor colorOf(const EntityStyle& style, const Context& context) const;
     GeometryStyle styleOf(const EntityStyle& style, const Context& context) const;
-    /// The list of `owners` with one more layer.
+    /// The index of the list of `owners` with `layer` appended.
     int ownersWith(int owners, LayerId layer);
     GeometryGroup& groupFor(const EntityStyle& style, const Context& context);
     void emitDefinition(
         const Definition& definition, const Transform3& place, const Context& context, int depth);
     void emitShape(const Definition& definition, const Definition::Shape& shape,
         const Transform3& place, const Context& context);
-    /// Kept until the extents are known.
+    /// Keeps an endless line until the extents are known.
     void noteEndless(
         const Definition::Endless& line, const Transform3& place, const Context& context);
     void emitText(const Definition::Text& text, const Transform3& place, const Context& context);
@@ -90,13 +91,14 @@ private:
     PictureSwitches m_switches;
     std::shared_ptr<const LinetypePatterns> m_linetypes;
     EntityReader m_reader;
-    bool m_isThroughViewports = false; ///< What is being drawn.
+    /// Whether the geometry being built is seen through viewports.
+    bool m_isThroughViewports = false;
     std::vector<std::optional<Definition>> m_definitions;
-    std::vector<char> m_active; ///< Blocks being drawn right now.
+    std::vector<char> m_active; ///< For each block, whether it is currently being drawn.
     Geometry m_geometry;
     QHash<GroupKey, std::size_t> m_groupIndex;
     std::map<std::pair<int, LayerId>, int> m_ownerIndex;
-    GeometryAmount m_used; ///< Since room was taken last.
+    GeometryAmount m_used; ///< The amount used since room was last taken.
     int m_entity = -1;
     int m_percent = -1;
 };

@@ -5,22 +5,23 @@
 
 namespace drawing {
 
-/// A property as an entity states it.
+/// A property as an entity defines it.
 struct EntitySetting
 {
     enum class Source : quint8 { Layer, Block, Own };
 
     Source source = Source::Layer;
-    int value = 0; ///< As in `GeometrySetting`, where it is the entity's own.
+    int value = 0; ///< The entity's own value, as in `GeometrySetting`.
 };
 
-/// Layer and style as an entity states them, before the block reference around it has its say.
+/// Layer and style as an entity defines them, before a surrounding block reference is taken into
+/// account.
 struct EntityStyle
 {
     enum class Color : quint8 { ByLayer, ByBlock, Index, True };
 
     LayerId layer = LayerId::None;
-    LayerId owner = LayerId::None; ///< The layer of the block reference an attribute belongs to.
+    LayerId owner = LayerId::None; ///< For an attribute, the layer of its block reference.
     Color color = Color::ByLayer;
     quint32 value = 0;
     EntitySetting linetype;
@@ -29,7 +30,8 @@ struct EntityStyle
     float linetypeScale = 1;
 };
 
-/// A block's (or one entity's) content in its own coordinates, read once and drawn many times.
+/// The contents of a block, or of one entity, in its own coordinates. It is read once and drawn
+/// many times.
 struct Definition
 {
     struct Shape
@@ -44,7 +46,7 @@ struct Definition
     struct Text
     {
         EntityStyle style;
-        TextRun run; ///< Everything but the place.
+        TextRun run; ///< Complete except for its position.
         Vec3 origin;
         Vec3 right;
         Vec3 up;
@@ -53,12 +55,13 @@ struct Definition
     {
         EntityStyle style;
         int block = -1;
-        Transform3 place; ///< Of the first instance.
+        Transform3 place; ///< The position of the first instance.
         Vec3 columnStep;
         Vec3 rowStep;
         int columns = 1;
         int rows = 1;
-        bool isWhole = false; ///< The block is all there is of the entity, and gone with it.
+        /// The block is the whole picture of the entity and disappears together with it.
+        bool isWhole = false;
     };
 
     struct Endless

@@ -6,25 +6,26 @@
 
 namespace drawing {
 
-/// One family of parallel lines of a hatch pattern, in the hatch's plane.
+/// One family of parallel lines of a hatch pattern, in the plane of the hatch.
 struct PatternLine
 {
-    double angle = 0; ///< Degrees.
+    double angle = 0; ///< In degrees.
     Vec3 base;        ///< A point of the first line.
-    Vec3 offset;      ///< From a line to the next.
-    /// Lengths along a line in turn: positive drawn, negative left out, 0 a dot; empty = unbroken.
+    Vec3 offset;      ///< The offset from one line to the next.
+    /// The lengths of the dashes along a line: positive ones are drawn, negative ones are gaps, 0
+    /// is a dot. Empty for unbroken lines.
     std::vector<double> dashes;
 };
 
-/// A segment of a pattern line inside the hatch.
+/// The part of a pattern line that lies inside the hatch.
 struct HatchSegment
 {
     Vec3 from;
     Vec3 to;
 };
 
-/// The pattern's lines inside the boundary, by the even-odd rule. Adds nothing and returns false
-/// when the pattern is too fine for its area: then only the boundary is worth drawing.
+/// Appends the pattern's lines inside the boundary, by the even-odd rule. When the pattern is too
+/// fine for its area it appends nothing and returns false; the caller then draws only the boundary.
 bool appendPattern(std::vector<HatchSegment>& segments, const std::vector<Path>& boundary,
     const std::vector<PatternLine>& pattern);
 

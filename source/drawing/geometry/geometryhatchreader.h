@@ -5,13 +5,13 @@
 
 namespace drawing {
 
-/// Gathers a HATCH from its tags in order. Counts in the file are not believed: a part ends where
-/// the next begins.
+/// Reads a HATCH from its tags, which must be passed in their order. It does not trust the counts
+/// in the file: a part ends where the next one begins.
 class HatchReader
 {
 public:
     void take(const Tag& tag);
-    /// Call once behind the last tag.
+    /// Call this once after the last tag.
     void finish();
 
     bool isSolid() const { return m_solid; }
@@ -24,8 +24,8 @@ private:
     struct Edge
     {
         EdgeKind kind = EdgeKind::None;
-        Path points;  ///< Codes 10 and 20.
-        Path seconds; ///< Codes 11 and 21.
+        Path points;  ///< From the codes 10 and 20.
+        Path seconds; ///< From the codes 11 and 21.
         double size = 0;
         double start = 0;
         double end = 0;

@@ -8,17 +8,17 @@ namespace drawing {
 
 struct Geometry;
 
-/// Tells what lies near a place without looking at all of a geometry.
+/// Finds what lies near a place without visiting a whole geometry.
 class GeometryIndex
 {
 public:
-    /// One of the primitives or texts of a geometry.
+    /// A reference to one primitive or text of a geometry.
     struct Place
     {
         quint32 group = 0;
         quint32 index = 0;
     };
-    /// What may reach into a box: places in the order of groups, and within these of indices.
+    /// What may overlap a box. The places are sorted by group and by the index within the group.
     struct Found
     {
         std::vector<Place> primitives;
@@ -29,13 +29,15 @@ public:
     explicit GeometryIndex(const Geometry& geometry);
 
     bool isEmpty() const { return m_primitives.places.empty() && m_texts.places.empty(); }
-    /// Whether the box is so much smaller than what was indexed that searching pays.
+    /// Whether the box is so much smaller than the indexed geometry that a search saves time.
     bool narrows(const Box& box) const;
-    /// What may reach into the box, of those that the geometry had when it was indexed.
+    /// Everything that may overlap the box, as far as the geometry contained it when it was
+    /// indexed.
     Found find(const Box& box) const;
 
 private:
-    /// Places, those near each other next to each other, and the bounds of so many at a time.
+    /// Places, sorted so that neighbours are close together, and the bounds of each `kSize` of
+    /// them.
     struct Bunches
     {
         static constexpr std::size_t kSize = 32;

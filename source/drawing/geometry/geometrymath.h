@@ -15,9 +15,9 @@ struct Vec3
     double y = 0;
     double z = 0;
 
-    bool isFinite() const; ///< No NaN, no infinity, and small enough to be squared.
+    bool isFinite() const; ///< Not NaN, not infinite, and small enough to be squared.
     double length() const;
-    Vec3 normalized() const; ///< The null vector stays as it is.
+    Vec3 normalized() const; ///< The null vector stays unchanged.
     static Vec3 cross(const Vec3& a, const Vec3& b);
 };
 
@@ -36,14 +36,14 @@ inline Vec3 operator*(const Vec3& a, double factor)
     return {a.x * factor, a.y * factor, a.z * factor};
 }
 
-/// An affine map of space: the images of the three axes, and of the origin.
+/// An affine transformation of space, stored as the images of the three axes and of the origin.
 class Transform3
 {
 public:
     Transform3() = default;
     Transform3(const Vec3& x, const Vec3& y, const Vec3& z, const Vec3& origin);
 
-    /// From the coordinate system an extrusion direction stands for to the world's.
+    /// Transforms from the object coordinate system of an extrusion direction to world coordinates.
     static Transform3 fromExtrusion(const Vec3& normal);
     static Transform3 translation(const Vec3& by);
     static Transform3 scaling(const Vec3& factors);
@@ -55,10 +55,10 @@ public:
         return m_x * direction.x + m_y * direction.y + m_z * direction.z;
     }
     bool isFinite() const;
-    /// By how much lengths in the xy plane grow, on the average of its directions.
+    /// The factor by which lengths in the xy plane grow, averaged over all directions.
     double planarScale() const;
 
-    /// The map that does `inner` first.
+    /// The transformation that applies `inner` first and `outer` second.
     friend Transform3 operator*(const Transform3& outer, const Transform3& inner);
 
 private:
@@ -68,7 +68,8 @@ private:
     Vec3 m_origin;
 };
 
-/// An upright box on the plane; empty until something is added. A single point is not empty.
+/// An axis-aligned box in the plane. It is empty until something is added; a single point is not
+/// empty.
 struct Box
 {
     double minX = 1;
@@ -82,7 +83,7 @@ struct Box
     QPointF center() const { return {(minX + maxX) / 2, (minY + maxY) / 2}; }
     void add(const QPointF& point);
     void add(const Box& other);
-    void grow(double by); ///< On all sides.
+    void grow(double by); ///< By the same distance on all sides.
     bool intersects(const Box& other) const
     {
         return minX <= other.maxX && maxX >= other.minX && minY <= other.maxY && maxY >= other.minY;

@@ -5,8 +5,8 @@
 
 namespace drawing {
 
-/// The lines of an MLINE side by side, each from end to end, in the world's coordinates. Where one
-/// is cut there is a break.
+/// The parallel lines of an MLINE in world coordinates, each from end to end. Cuts in a line appear
+/// as breaks.
 std::vector<Path> multiLineElements(const EntityTags& multiLine);
 
 } // namespace drawing

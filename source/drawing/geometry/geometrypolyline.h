@@ -7,10 +7,10 @@
 
 namespace drawing {
 
-/// A vertex that divides the parts of a path.
+/// A vertex that separates two parts of a path.
 Vec3 pathBreak();
 
-/// A VERTEX of a POLYLINE, whatever the polyline's kind makes of it.
+/// A VERTEX of a POLYLINE of any kind.
 struct PolylineVertex
 {
     Vec3 point;
@@ -18,25 +18,27 @@ struct PolylineVertex
     double startWidth = 0;
     double endWidth = 0;
     qint64 flags = 0;
-    std::array<qint64, 4> corners{}; ///< Of a face: numbers of vertices from 1, 0 = no corner.
+    /// The corners of a face as vertex numbers from 1; 0 for no corner.
+    std::array<qint64, 4> corners{};
 };
 
-/// A POLYLINE with its vertices as lines: a flat or spatial one, a mesh of rows and columns, or
-/// faces over numbered vertices.
+/// A POLYLINE with its vertices, drawn as lines. It is a flat or spatial polyline, a mesh of rows
+/// and columns, or a set of faces over numbered vertices.
 class Polyline
 {
 public:
-    /// `head` must outlive this.
+    /// `head` must outlive this object.
     explicit Polyline(const EntityTags& head);
 
     void add(const EntityTags& vertex);
-    /// Its coordinates are those of the plane its extrusion stands for.
+    /// Whether its coordinates are those of the plane that its extrusion direction defines.
     bool isPlanar() const;
-    /// Runs through its vertices, in a plane or not; the others have `lines` alone.
+    /// Whether it runs through its vertices one after the other, in a plane or in space. The other
+    /// kinds only have `lines`.
     bool isFlat() const;
     bool isClosed() const;
-    bool isContinuous() const; ///< Its linetype is, at the vertices.
-    /// Of a curve-fitted polyline the curve, not its frame.
+    bool isContinuous() const; ///< Whether the linetype pattern continues through the vertices.
+    /// The vertices; for a curve-fitted polyline those of the curve, not of its frame.
     std::vector<BulgeVertex> vertices() const;
     Path lines() const;
 
@@ -49,7 +51,7 @@ private:
     std::vector<PolylineVertex> m_vertices;
 };
 
-/// The edges of a MESH's faces at its coarsest level.
+/// The edges of the faces of a MESH at its coarsest level.
 Path meshEdges(const EntityTags& mesh);
 
 } // namespace drawing

@@ -13,15 +13,16 @@ namespace drawing {
 class MultiLeader;
 struct TextPiece;
 
-/// Turns entities into the shapes, texts and block references that draw them.
+/// Converts entities to the shapes, texts and block references that draw them.
 class EntityReader
 {
 public:
-    /// The parts and the patterns must outlive this.
+    /// The parts in `source` and `linetypes` must outlive this object.
     EntityReader(const GeometrySource& source, const LinetypePatterns& linetypes);
 
-    /// Adds entity `index` to `definition` with what follows it as its own (vertices, attributes).
-    /// `inBlock`: attribute definitions are left out there, the references bring the attributes.
+    /// Adds entity `index` with its subentities (vertices, attributes) to `definition`. With
+    /// `inBlock`, attribute definitions are left out, because each block reference brings its own
+    /// attributes.
     void read(std::size_t index, bool inBlock, Definition& definition);
 
 private:
@@ -29,19 +30,20 @@ private:
     struct HandlerRow;
     static const HandlerRow kHandlers[];
 
-    /// How lines of text stand together and where from their place.
+    /// How the lines of a text are spaced and how they are placed relative to the text's position.
     struct Paragraph
     {
         double height = 1;
-        double spacing = 1; ///< In units of the usual distance.
-        int column = 0;     ///< 0 to the right of the place, 1 centred, 2 to the left.
-        int row = 0;        ///< 0 below the place, 1 centred, 2 above.
+        double spacing = 1; ///< The line spacing in units of the normal one.
+        /// 0, 1, 2: the text is to the right of the position, centred, to the left of it.
+        int column = 0;
+        int row = 0; ///< 0, 1, 2: the text is below the position, centred, above it.
         TextStyle style;
     };
-    /// Where the pixels of an image lie.
+    /// Where the pixels of an image are.
     struct ImageFrame
     {
-        Vec3 corner, right, up;       ///< Of the lower left; `right` and `up` are its sides.
+        Vec3 corner, right, up; ///< `corner` is the lower left one; `right` and `up` are the sides.
         double width = 0, height = 0; ///< In pixels.
     };
 
@@ -89,13 +91,13 @@ private:
     void addArrow(const Path& path, double size);
     void addEndless(bool bothWays);
     void addFrame(const Vec3& corner, const Vec3& right, const Vec3& up);
-    /// What stands for something that is not shown: the name of its file in its frame.
+    /// Draws a placeholder for something that cannot be shown: its file's name inside its frame.
     void addFileName(const Vec3& corner, const Vec3& right, const Vec3& up, int pointer);
     void addBlock(quint64 record, Definition::Reference reference);
     ImageFrame imageFrame() const;
     TextStyle textStyle() const;
     void load(std::size_t index);
-    /// The shape added; null when nothing was left of it.
+    /// Adds a shape and returns it; null when nothing of the path was usable.
     Definition::Shape* addShape(
         Primitive::Shape shape, const Path& path, const Transform3& place = {});
     void addPolyline(const PolylinePicture& picture, const Transform3& place);
@@ -112,9 +114,9 @@ private:
     const LinetypePatterns& m_linetypes;
     TextStyles m_textStyles;
     bool m_showsWipeoutFrames = true;
-    double m_textHeight = 1;   ///< Of what has none of its own.
-    QByteArray m_linetypeName; ///< The one looked up last.
-    EntitySetting m_linetype;  ///< What it means.
+    double m_textHeight = 1;   ///< For texts without a height of their own.
+    QByteArray m_linetypeName; ///< The linetype name that was looked up last.
+    EntitySetting m_linetype;  ///< The result of that look-up.
     EntityStyle m_style;
     EntityTags m_tags;
     std::size_t m_index = 0;

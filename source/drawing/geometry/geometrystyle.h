@@ -4,33 +4,33 @@
 
 namespace drawing {
 
-/// Where the colour of something drawn comes from; ByBlock is resolved by then.
+/// Where the colour of drawn geometry comes from. ByBlock has already been resolved.
 struct GeometryColor
 {
     enum class Source : quint8 { Layer, Index, True };
 
     Source source = Source::Layer;
-    quint32 value = 0; ///< A layer's id, a colour index 1..255, or 0x00RRGGBB.
+    quint32 value = 0; ///< A layer id, a colour index 1..255, or 0x00RRGGBB.
 };
 
 bool operator==(const GeometryColor& a, const GeometryColor& b);
 
-/// A property that follows a layer, or is said outright; ByBlock is resolved by then.
+/// A property that follows a layer or has a value of its own. ByBlock has already been resolved.
 struct GeometrySetting
 {
-    LayerId layer = LayerId::None; ///< The one followed; None: `value` counts.
+    LayerId layer = LayerId::None; ///< The layer to follow; None when `value` applies.
     int value = 0;
 };
 
 bool operator==(const GeometrySetting& a, const GeometrySetting& b);
 
-/// How something is drawn, as far as the drawing itself tells.
+/// The style of drawn geometry, as far as the drawing itself defines it.
 struct GeometryStyle
 {
     GeometryColor color;
-    GeometrySetting linetype;     ///< Index into the drawing's linetype patterns.
-    GeometrySetting lineweight;   ///< Hundredths of a millimetre; -3 is "default".
-    GeometrySetting transparency; ///< Percent.
+    GeometrySetting linetype;     ///< The value is an index into the drawing's linetype patterns.
+    GeometrySetting lineweight;   ///< In hundredths of a millimetre; -3 is the default lineweight.
+    GeometrySetting transparency; ///< In percent.
 };
 
 bool operator==(const GeometryStyle& a, const GeometryStyle& b);

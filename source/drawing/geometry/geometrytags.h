@@ -8,19 +8,19 @@
 
 namespace drawing {
 
-/// The own tags of one entity, looked up by code.
+/// The own tags of one entity, with look-up by group code.
 class EntityTags
 {
 public:
     void load(const TagReader& reader);
 
-    std::string_view type() const;   ///< What the `0` group says.
-    const Tag* find(int code) const; ///< The first of that code.
+    std::string_view type() const;   ///< The value of the `0` group.
+    const Tag* find(int code) const; ///< The first tag with this code; null when there is none.
     double number(int code, double otherwise = 0) const;
     qint64 integer(int code, qint64 otherwise = 0) const;
-    /// `code`, `code + 10` and `code + 20`; missing ones are 0.
+    /// The point with the codes `code`, `code + 10` and `code + 20`; missing coordinates are 0.
     Vec3 point(int code) const;
-    /// The extrusion direction; 0,0,1 unless stated.
+    /// The extrusion direction; (0, 0, 1) when the entity has none.
     Vec3 extrusion() const;
 
     std::vector<Tag>::const_iterator begin() const { return m_tags.begin(); }
@@ -30,7 +30,8 @@ private:
     std::vector<Tag> m_tags;
 };
 
-/// Takes one coordinate of the point whose codes begin at `first`; false for tags of other codes.
+/// Stores the tag's value when it is a coordinate of the point whose codes begin at `first`.
+/// Returns false for tags with other codes.
 bool takeCoordinate(const Tag& tag, int first, Vec3& point);
 
 } // namespace drawing

@@ -6,8 +6,8 @@
 
 namespace drawing {
 
-/// The rows of cells that the text of a TOLERANCE stands for, symbols as characters. Rows of
-/// nothing are left out.
+/// The rows of cells that the text of a TOLERANCE describes. Symbols become characters, and empty
+/// rows are left out.
 std::vector<QStringList> toleranceCells(const QString& text);
 
 } // namespace drawing

@@ -6,16 +6,16 @@
 
 namespace drawing {
 
-/// What a polyline's vertices draw in its plane: lines of one width, or surfaces where it tapers.
+/// The picture of a polyline in its plane: lines of one width, or surfaces where the width changes.
 struct PolylinePicture
 {
     Path lines;
-    std::vector<Path> surfaces; ///< Closed outlines, a segment each.
-    double width = 0;           ///< Of the lines.
+    std::vector<Path> surfaces; ///< One closed outline per segment.
+    double width = 0;           ///< The width of the lines.
     bool patternRestarts = false;
 };
 
-/// `isContinuous`: the linetype runs on through the vertices.
+/// `isContinuous` tells whether the linetype pattern continues through the vertices.
 PolylinePicture pictureOf(
     const std::vector<BulgeVertex>& vertices, bool isClosed, bool isContinuous);
 

@@ -8,32 +8,33 @@ namespace drawing {
 
 class LinetypeTable;
 
-/// What a linetype repeats along a line, in drawing units at scale 1.
+/// The elements that a linetype repeats along a line, in drawing units at scale 1.
 struct LinetypePattern
 {
-    /// A dash, a gap or a dot, and what is written where it ends.
+    /// A dash, a gap or a dot, and the text at its end.
     struct Element
     {
-        double length = 0; ///< More than 0: drawn; less: left out; 0: a dot.
-        QString text;      ///< Empty for plain elements, and for shapes, whose files are not read.
+        double length = 0; ///< Positive for a dash, negative for a gap, 0 for a dot.
+        /// Empty for plain elements and for shapes, because shape files are not read.
+        QString text;
         double height = 0;
-        double rotation = 0; ///< Degrees, from the line's direction.
-        double along = 0;    ///< From where the element ends.
+        double rotation = 0; ///< In degrees, relative to the line.
+        double along = 0;    ///< Offset along the line from the end of the element.
         double across = 0;
-        bool isUpright = false; ///< The rotation is from the x axis.
+        bool isUpright = false; ///< The rotation is relative to the x axis instead.
     };
 
     std::vector<Element> elements;
-    double length = 0; ///< Of one repeat; more than 0.
+    double length = 0; ///< The length of one repetition; more than 0.
 };
 
-/// A pattern that draws as it is told: null for unbroken lines.
+/// A shared, unchanging pattern; null for unbroken lines.
 using LinetypePatternPointer = std::shared_ptr<const LinetypePattern>;
 
-/// Null where the definition leaves nothing out.
+/// The pattern of a linetype definition; null when it has no gaps.
 LinetypePatternPointer patternOf(const LinetypeDefinition& definition);
 
-/// The patterns of all linetypes of a drawing, which may change afterwards.
+/// The patterns of all linetypes of a drawing. Later changes of the drawing do not affect them.
 class LinetypePatterns
 {
 public:
@@ -42,13 +43,14 @@ public:
     LinetypePatterns() = default;
     explicit LinetypePatterns(const LinetypeTable& linetypes);
 
-    /// By name, without regard to letter case; `kContinuous` for one that is not there as well.
+    /// The index of the linetype of this name, ignoring letter case; `kContinuous` for an unknown
+    /// name.
     int find(const QString& name) const;
     LinetypePatternPointer at(int index) const;
 
 private:
     std::vector<LinetypePatternPointer> m_patterns;
-    QHash<QString, int> m_byName; ///< Folded.
+    QHash<QString, int> m_byName; ///< The keys are folded names.
 };
 
 } // namespace drawing

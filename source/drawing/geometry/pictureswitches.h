@@ -4,18 +4,18 @@ namespace drawing {
 
 class TagReader;
 
-/// What the header of a drawing says of how all of it is shown.
+/// The header variables that affect how the whole drawing is shown.
 struct PictureSwitches
 {
-    double linetypeScale = 1;        ///< Of all linetypes.
-    bool paperSpaceLinetypes = true; ///< Dashes are as long in viewports as on their sheet.
+    double linetypeScale = 1;        ///< Applies to all linetypes.
+    bool paperSpaceLinetypes = true; ///< Dashes in viewports are as long as on the sheet.
     bool showsLineweights = false;
-    int pointMode = 0;        ///< What points are drawn as.
-    double pointSize = 0;     ///< Drawing units; 0 or less: a share of the view's height.
-    double textHeight = 0.18; ///< Of dimensions and of what takes its size from them.
+    int pointMode = 0;    ///< The style in which points are drawn.
+    double pointSize = 0; ///< In drawing units; 0 or less means a share of the height of the view.
+    double textHeight = 0.18; ///< For dimensions and everything that takes its size from them.
 };
 
-/// From the tags of the HEADER section; what is missing or no number keeps its default.
+/// Reads the tags of the HEADER section. Missing and invalid values keep their defaults.
 PictureSwitches readPictureSwitches(TagReader header);
 
 } // namespace drawing

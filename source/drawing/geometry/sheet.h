@@ -7,27 +7,27 @@
 
 namespace drawing {
 
-/// A window of a sheet onto model space.
+/// A viewport: a window of a sheet onto model space.
 struct SheetViewport
 {
     int entity = -1;
-    Transform3 toSheet;           ///< From model space.
-    double scale = 1;             ///< Units of the sheet that a unit of model space takes.
-    std::vector<QPointF> outline; ///< On the sheet; what lies outside is cut away.
-    bool isOn = true;             ///< Shows what it is a window onto.
-    bool isLocked = false;        ///< Its scale stays.
+    Transform3 toSheet;           ///< Transforms from model space to the sheet.
+    double scale = 1;             ///< The number of sheet units per unit of model space.
+    std::vector<QPointF> outline; ///< On the sheet; geometry outside is clipped.
+    bool isOn = true;             ///< Whether the viewport shows its contents.
+    bool isLocked = false;        ///< Whether its scale is locked.
     bool isCurrent = false;
-    std::vector<LayerId> frozen;             ///< Ascending.
-    std::vector<LayerInViewport> overridden; ///< Layers that look otherwise in it.
+    std::vector<LayerId> frozen;             ///< The frozen layers in ascending order.
+    std::vector<LayerInViewport> overridden; ///< The layers with overrides in this viewport.
 };
 
 /// The sheet of a layout.
 struct Sheet
 {
-    Box paper;     ///< In the layout's units; empty where the file does not tell.
-    Box printable; ///< Without the margins.
+    Box paper;     ///< In the layout's units; empty when the file does not define it.
+    Box printable; ///< The paper without its margins.
     double unitsPerMillimetre = 1;
-    bool hasPaperLinetypes = true; ///< Dashes are as long in the viewports as on the sheet.
+    bool hasPaperLinetypes = true; ///< Dashes in viewports are as long as on the sheet.
     std::vector<SheetViewport> viewports;
 };
 

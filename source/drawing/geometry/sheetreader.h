@@ -6,11 +6,11 @@
 
 namespace drawing {
 
-/// Reads the sheet of the layout shown.
+/// Reads the sheet of the layout that is shown.
 class SheetReader
 {
 public:
-    /// The parts must outlive this.
+    /// The parts in `source` must outlive this object.
     explicit SheetReader(const GeometrySource& source);
     Sheet read();
 

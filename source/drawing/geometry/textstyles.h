@@ -7,11 +7,12 @@ namespace drawing {
 
 class DrawingFile;
 
-/// What a text style does to the letters of paragraphs; single lines of text say it themselves.
+/// What a text style says about the letters of paragraphs. Single lines of text define this
+/// themselves.
 struct TextStyle
 {
     double widthFactor = 1;
-    double oblique = 0; ///< Degrees, to the right.
+    double oblique = 0; ///< In degrees, to the right.
 };
 
 /// The text styles of a drawing.
@@ -20,12 +21,12 @@ class TextStyles
 public:
     explicit TextStyles(const DrawingFile& file);
 
-    /// By name, without regard to letter case; plain for one that is not there.
+    /// The style of this name, ignoring letter case; the plain style for an unknown name.
     TextStyle find(const QString& name) const;
     TextStyle find(quint64 handle) const { return m_byHandle.value(handle); }
 
 private:
-    QHash<QString, TextStyle> m_byName; ///< Folded.
+    QHash<QString, TextStyle> m_byName; ///< The keys are folded names.
     QHash<quint64, TextStyle> m_byHandle;
 };
 

@@ -6,9 +6,10 @@
 
 namespace drawing {
 
-/// Layers called `NAME @ 1` that hold what annotations on NAME look like at one scale, for programs
-/// that do not know scales. Their records point at the layer they are copies of; a name alone
-/// proves nothing. They go with it.
+/// Maintains layers named like `NAME @ 1`. They hold a copy of the annotations of layer NAME at one
+/// scale, for programs that do not support annotation scales. The record of such a copy points at
+/// its base layer; a matching name alone proves nothing. Copies are renamed and deleted together
+/// with their base layer.
 class AnnotationCopies
 {
 public:
@@ -19,19 +20,20 @@ public:
     {
     }
 
-    /// These layers with their copies, each once. The current layer is not added, as it stays.
+    /// These layers and their copies, each once. The current layer is not added because it must
+    /// stay.
     std::vector<LayerId> withCopies(const std::vector<LayerId>& layers) const;
-    /// Copies of layers that the open step renamed are called after them; those of merged layers
-    /// are copies of the merge targets then, and those of deleted ones that are still there are
-    /// plain layers.
+    /// Updates the copies after layers changed in the open step. Copies of renamed layers are
+    /// renamed, copies of merged layers become copies of the merge target, and remaining copies of
+    /// deleted layers become ordinary layers.
     void follow();
 
 private:
     struct Copy
     {
         LayerId layer = LayerId::None;
-        LayerId base = LayerId::None; ///< May be gone.
-        quint64 record = 0;           ///< Points at the base.
+        LayerId base = LayerId::None; ///< May no longer exist.
+        quint64 record = 0;           ///< The record that points at the base.
     };
 
     std::vector<Copy> copies() const;

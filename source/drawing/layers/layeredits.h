@@ -8,8 +8,8 @@
 
 namespace drawing {
 
-/// The edits of single layers. What other places of the file say of them follows when the step is
-/// closed, see `LayerReplacements`.
+/// The edits of single layers. References elsewhere in the file are updated when the step is closed
+/// (see `LayerReplacements`).
 class LayerEdits
 {
 public:
@@ -26,15 +26,16 @@ public:
 
     Expected<void> setProperties(LayerId id, const LayerProperties& properties);
     Expected<LayerId> add(const LayerProperties& properties);
-    /// Refuses a layer that something is on.
+    /// Deletes a layer. Refuses a layer that holds entities.
     Expected<void> remove(LayerId id);
     Expected<void> setCurrent(LayerId id);
 
-    /// Refuses a layer that depends on a reference.
+    /// Refuses a layer that depends on an external reference.
     Expected<void> checkTarget(LayerId target) const;
-    /// Refuses layers that have to stay: 0, the current one and those of external references.
+    /// Refuses layers that must not be deleted: 0, the current one and those of external
+    /// references.
     Expected<void> checkLeaving(const std::vector<LayerId>& layers) const;
-    /// Takes out a layer that nothing is on; what names it names the other one then.
+    /// Deletes an empty layer. References to it then name the layer `mergedInto`.
     void drop(LayerId layer, LayerId mergedInto);
 
 private:

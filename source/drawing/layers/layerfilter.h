@@ -8,21 +8,21 @@
 
 namespace drawing {
 
-/// A layer filter saved in a drawing.
+/// A layer filter that is saved in a drawing.
 struct LayerFilter
 {
     enum class Kind {
-        Property, ///< Layers that an expression describes.
-        Group,    ///< Layers that it lists.
-        Unknown   ///< Kept as it is.
+        Property, ///< Selects layers by an expression.
+        Group,    ///< Lists its layers.
+        Unknown   ///< A filter of another kind, which is kept unchanged.
     };
 
     Kind kind = Kind::Property;
     QString name;
-    QString expression;          ///< Of a property filter.
-    std::vector<LayerId> layers; ///< Of a group, in its order.
-    quint64 record = 0;          ///< Handle of its record: which filter it is.
-    quint64 parent = 0;          ///< Record of the filter around it; 0 at the top.
+    QString expression;          ///< The expression of a property filter.
+    std::vector<LayerId> layers; ///< The layers of a group filter, in its order.
+    quint64 record = 0;          ///< The handle of its record, which identifies the filter.
+    quint64 parent = 0;          ///< The record of the parent filter; 0 at the top level.
 };
 
 } // namespace drawing

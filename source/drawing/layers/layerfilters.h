@@ -4,12 +4,12 @@
 
 namespace drawing {
 
-/// The expression of a layer filter in which terms that name a layer (`NAME == "X"`) name what
-/// became of it. What is no name of a layer that changed, patterns with wildcards above all, and
-/// what cannot be understood stays as it is.
+/// Updates the layer names in the expression of a filter (`NAME == "X"`) after layers changed.
+/// Everything else stays as it is: names of other layers, patterns with wildcards, and parts that
+/// cannot be parsed.
 QString followedExpression(const QString& expression, const LayerReplacements& replacements);
 
-/// A pattern of layer names, or some with commas between them.
+/// Updates layer names in a pattern, or in several patterns separated by commas.
 QString followedPattern(const QString& pattern, const LayerReplacements& replacements);
 
 } // namespace drawing

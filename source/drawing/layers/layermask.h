@@ -4,8 +4,8 @@
 
 namespace drawing {
 
-/// The properties of a layer that layer states restore and viewports override, as the bits of a
-/// mask.
+/// The layer properties that layer states restore and viewports override. The values are the bits
+/// of a mask.
 enum LayerStateMask : int {
     kStateOnOff = 1,
     kStateFreeze = 2,
@@ -21,7 +21,7 @@ enum LayerStateMask : int {
     kStateEverything = 2047
 };
 
-/// `now` with the properties of `saved` that the mask names.
+/// Returns `now` with the properties in `mask` taken from `saved`.
 LayerProperties maskedProperties(
     const LayerProperties& now, const LayerProperties& saved, int mask);
 

@@ -10,13 +10,14 @@
 namespace drawing {
 
 /// The objects of a drawing that name layers: filters of both kinds, lists and indices of layers,
-/// and what the layers themselves own.
+/// and objects that the layers themselves own.
 class LayerObjects
 {
 public:
     explicit LayerObjects(DrawingFile& file) : m_file(file) {}
 
-    /// Returns the handles of the records it understands, which need no notice.
+    /// Updates these objects after layers changed. Returns the handles of the records that it
+    /// understands and that therefore need no notice.
     QSet<quint64> follow(const LayerReplacements& replacements);
 
 private:
@@ -31,9 +32,10 @@ private:
     DrawingFile& m_file;
 };
 
-/// Notes the layers that went or got another name and that what nobody here understands still
-/// mentions: proxies of entities and objects, and records that applications keep. `understood` are
-/// handles of records that may go on naming layers. To be called when all else has followed.
+/// Reports layers that were deleted or renamed but are still mentioned in data that cannot be
+/// interpreted: proxies of entities and objects, and records that applications keep. The records
+/// with handles in `understood` may still name such layers. Call this after everything else has
+/// been updated.
 void noteOpaque(const DrawingFile& file, const EntityTable& entities,
     const LayerReplacements& replacements, const QSet<quint64>& understood, LeftOut& leftOut);
 

@@ -9,15 +9,15 @@
 
 namespace drawing {
 
-/// A layer and how it shall look in a viewport.
+/// A layer and its properties in a viewport.
 struct LayerInViewport
 {
     LayerId layer = LayerId::None;
     LayerProperties shown;
 };
 
-/// What layers look like in one viewport alone. Each layer keeps it in its extension dictionary:
-/// an XRECORD a property, with a group for each viewport.
+/// The properties that layers have in one viewport only. Each layer stores them in its extension
+/// dictionary: one XRECORD per property, with one group per viewport.
 class LayerOverrides
 {
 public:
@@ -34,11 +34,12 @@ public:
     static constexpr int kProperties =
         kStateColor | kStateLinetype | kStateLineweight | kStateTransparency;
 
-    /// Gives the layer these properties in the viewport; those in which it is so anyway lose their
-    /// override. False when the drawing lacks the linetype, which is then left as it was.
+    /// Sets these properties of a layer in a viewport. Properties that equal the layer's own lose
+    /// their override. Returns false when the drawing does not have the linetype; its override is
+    /// then left unchanged.
     bool set(LayerId layer, quint64 viewport, const LayerProperties& shown, int properties);
 
-    /// The layers that look otherwise in a viewport, by the viewports' handles.
+    /// All layers with overrides, by the handle of the viewport.
     std::map<quint64, std::vector<LayerInViewport>> all() const;
 
 private:

@@ -5,7 +5,7 @@
 
 namespace drawing {
 
-/// The records of the LAYER table as edited so far.
+/// The records of the LAYER table, including all edits so far.
 class LayerRecords
 {
 public:
@@ -13,12 +13,12 @@ public:
 
     TagList tags(const LayerEntry& entry) const;
     void store(const LayerEntry& entry, const QByteArray& record);
-    /// Adds a record for `entry`, filling in its place and handle.
+    /// Adds a record for `entry` and sets its place and handle.
     void add(LayerEntry& entry);
     void remove(const LayerEntry& entry);
-    /// The handle of a layer's record, which is made where only entities name the layer.
+    /// The handle of a layer's record. A record is created for a layer that only entities name.
     quint64 madeHandle(LayerId layer);
-    /// The handle of a layer's extension dictionary, which is made where it is missing.
+    /// The handle of a layer's extension dictionary, which is created when it is missing.
     quint64 madeExtension(LayerId layer);
 
 private:

@@ -8,44 +8,45 @@
 
 namespace drawing {
 
-/// What became of the layers that a step renamed, merged or deleted: all that names a layer follows
-/// it when the step is closed, in one pass however many layers changed. What names a merged layer
-/// names the layer it was merged into; what still names a deleted one and cannot do without a layer
-/// names layer 0.
+/// Describes what became of the layers that a step renamed, merged or deleted. All references are
+/// updated when the step is closed, in one pass however many layers changed. References to a merged
+/// layer then name its merge target. References to a deleted layer that cannot be removed name
+/// layer 0.
 class LayerReplacements
 {
 public:
     struct Replacement
     {
-        LayerId layer = LayerId::None; ///< Itself, or the one that what named it goes to.
-        QByteArray name;               ///< Encoded; null where nothing changes.
+        /// The layer itself, or the one that replaces it in references.
+        LayerId layer = LayerId::None;
+        QByteArray name; ///< Encoded; null when the name does not change.
     };
 
     LayerReplacements(const LayerTable& layers, const TextCodec& codec);
 
-    /// True when nothing has to follow.
+    /// Whether no references have to be updated.
     bool isEmpty() const { return m_newNames.isEmpty() && m_removed.empty(); }
     const Replacement& of(LayerId id) const { return m_replacements[static_cast<size_t>(id)]; }
 
-    // By names as they were before the step, without regard to letter case.
+    // Look-up by the name that a layer had before the step, ignoring letter case.
 
-    /// The new name of a layer that is still there; null where it has none.
+    /// The new name of a layer that still exists; null when it was not renamed.
     QString newName(const QString& name) const;
     bool isRemoved(const QString& name) const;
-    /// The name of the layer that took a removed one's place; null where there is none.
+    /// The name of the layer that a deleted layer was merged into; null when there is none.
     QString mergeTarget(const QString& name) const;
-    /// The new name, or that of the layer it was merged into.
+    /// The new name of the layer, or the name of the layer that it was merged into.
     QString currentName(const QString& name) const;
 
-    /// Layers that went, as they were.
+    /// The deleted layers as they were before.
     const std::vector<LayerEntry>& removed() const { return m_removed; }
     bool isRemovedHandle(quint64 handle) const { return m_removedHandles.contains(handle); }
-    /// Of the layer that took a removed one's place; 0 where there is none.
+    /// The handle of the layer that a deleted layer was merged into; 0 when there is none.
     quint64 mergeTargetHandle(quint64 handle) const
     {
         return m_removedHandles.value(handle).mergeTarget;
     }
-    /// What a removed layer was called.
+    /// The former name of a deleted layer.
     QString removedName(quint64 handle) const { return m_removedHandles.value(handle).name; }
 
 private:
@@ -57,8 +58,8 @@ private:
 
     void follow(const LayerTable& layers, const TextCodec& codec, const std::vector<char>& changed);
 
-    std::vector<Replacement> m_replacements; // By layer id.
-    QHash<QString, QString> m_newNames;      // These three by folded old name.
+    std::vector<Replacement> m_replacements; // The index is the layer id.
+    QHash<QString, QString> m_newNames;      // This and the next two have folded old names as keys.
     QSet<QString> m_removedNames;
     QHash<QString, QString> m_mergeTargets;
     std::vector<LayerEntry> m_removed;

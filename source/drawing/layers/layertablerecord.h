@@ -7,18 +7,19 @@
 
 namespace drawing {
 
-/// What a LAYER record says.
+/// The contents of a LAYER record.
 struct LayerRecord
 {
-    LayerProperties properties; ///< `plotStyle` is left empty: a record holds a handle.
-    quint64 handle = 0;         ///< 0 when the record has none.
-    quint64 plotStyle = 0;      ///< Handle of the plot style name object.
+    /// `plotStyle` is left empty because a record holds a handle instead of the name.
+    LayerProperties properties;
+    quint64 handle = 0;    ///< 0 when the record has none.
+    quint64 plotStyle = 0; ///< The handle of the plot style object.
     quint64 material = 0;
-    quint64 extension = 0;           ///< Handle of its extension dictionary.
-    bool dependsOnReference = false; ///< By its flags; a `|` in the name counts too.
+    quint64 extension = 0;           ///< The handle of its extension dictionary.
+    bool dependsOnReference = false; ///< Set by the record's flags, or by a `|` in the name.
 };
 
-/// Reads LAYER records; remembers the last linetype, as runs of layers share theirs.
+/// Reads LAYER records. It remembers the last linetype because successive layers often share it.
 class LayerRecordReader
 {
 public:
@@ -32,17 +33,17 @@ private:
     const TextCodec& m_codec;
     std::string_view m_linetypeBytes;
     QString m_linetype;
-    int m_strings = 0; // Of the application read, so far.
+    int m_strings = 0; // The number of strings read so far in the current application's data.
 };
 
 /// The record with only those groups changed in which `after` differs from `before`.
 QByteArray editedLayerRecord(TagList record, const LayerProperties& before,
     const LayerProperties& after, const TextCodec& codec);
 
-/// The record with another plot style name object.
+/// The record with another plot style object.
 QByteArray withPlotStyle(TagList record, quint64 handle);
 
-/// XDATA applications the layer properties need.
+/// The XDATA applications that layer properties need.
 constexpr char kTransparencyApp[] = "AcCmTransparency";
 constexpr char kStandardApp[] = "AcAecLayerStandard";
 

@@ -12,32 +12,33 @@ class DrawingFile;
 class EntityTable;
 struct Entity;
 
-/// A layout: a sheet, and the viewports on it.
+/// A layout: a sheet with its viewports.
 struct Layout
 {
-    QString name;   ///< Empty in formats that do not name theirs.
-    int block = -1; ///< Index of the definition that holds its entities; -1 when there is none.
-    /// Its entities stand in the ENTITIES section; those of other layouts in their definition.
+    QString name;   ///< Empty in formats without layout names.
+    int block = -1; ///< The index of the block that holds its entities; -1 when there is none.
+    /// Whether its entities are in the ENTITIES section; those of other layouts are in their block.
     bool isActive = false;
-    ByteRange record; ///< Of its LAYOUT object; null in formats without.
-    /// Entities by their indices: the viewport last active in it first, the sheet's own left out.
+    ByteRange record; ///< The range of its LAYOUT object; null in formats without such objects.
+    /// The entity indices of its viewports, without the sheet's own. The last active one comes
+    /// first.
     std::vector<int> viewports;
 };
 
-/// Whether the entity stands on this sheet.
+/// Whether the entity is on this sheet.
 bool holds(const Layout& layout, const Entity& entity);
 
-/// The layouts in the order of their tabs; a file that does not name any has one.
+/// The layouts in the order of their tabs. A file without layout names has exactly one.
 std::vector<Layout> readLayouts(const DrawingFile& file, const EntityTable& entities);
 
-/// The layouts of a drawing, and what of them is shown.
+/// The layouts of a drawing, and which of them or model space is shown.
 class LayoutTable
 {
 public:
     struct State
     {
-        bool modelSpace = true; ///< Model space is shown: TILEMODE.
-        int layout = 0;         ///< The one shown, or shown last.
+        bool modelSpace = true; ///< Whether model space is shown (TILEMODE).
+        int layout = 0;         ///< The layout that is shown or was shown last.
 
         bool operator==(const State& other) const
         {
@@ -47,16 +48,17 @@ public:
 
     void load(DrawingFile& file, const EntityTable& entities);
 
-    const std::vector<Layout>& all() const { return m_layouts; } ///< One at least.
+    const std::vector<Layout>& all() const { return m_layouts; } ///< At least one.
     const Layout& shown() const { return m_layouts[static_cast<size_t>(m_state.layout)]; }
     bool isModelSpace() const { return m_state.modelSpace; }
     int shownIndex() const { return m_state.layout; }
     bool isShown(const Entity& entity) const;
-    /// The entity that is the current viewport of the layout shown: the one made it, else the one
-    /// last active in it, else its first; -1 in model space and where the layout has none.
+    /// The entity index of the current viewport of the shown layout: the one set by
+    /// `setCurrentViewport`, else the one that was last active, else the first. -1 in model space
+    /// and when the layout has no viewport.
     int currentViewport(const EntityTable& entities) const;
-    /// Makes a viewport the current one of the layout shown; false when it stands elsewhere. Not
-    /// kept in the file, and no part of the state.
+    /// Makes a viewport of the shown layout the current one. Returns false when it is not on that
+    /// layout. The choice is neither written to the file nor part of the state.
     bool setCurrentViewport(int viewport);
 
     void showModelSpace(DrawingFile& file, bool modelSpace);
@@ -66,7 +68,7 @@ public:
     const State& state() const { return m_state; }
 
 private:
-    std::vector<Layout> m_layouts; ///< Their current viewports come first.
+    std::vector<Layout> m_layouts; ///< The current viewport comes first in each layout.
     State m_state;
 };
 

@@ -6,21 +6,21 @@
 
 namespace drawing {
 
-/// What edits had to leave out or leave behind, to be told to the user.
+/// Collects what edits had to leave out, so that the user can be told.
 class LeftOut
 {
 public:
     enum Kind { PlotFlag, Lineweight, TrueColor, LinetypeParts, LinetypeStyles, Opaque, KindCount };
 
-    /// Notes the layer or linetype it concerns.
+    /// Records an omission; `name` is the layer or linetype concerned.
     void note(Kind kind, const QString& name);
-    /// A sentence for each kind; then all is forgotten.
+    /// Returns one sentence for each kind of omission and forgets them all.
     QStringList take();
 
 private:
     struct Note
     {
-        QString name; ///< The first one; empty when there is none.
+        QString name; ///< The first name that was recorded; empty when there is none.
         bool more = false;
     };
 

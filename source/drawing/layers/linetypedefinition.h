@@ -13,21 +13,21 @@ namespace drawing {
 struct LinetypeStyle
 {
     QString name;              ///< Empty for a shape file.
-    std::vector<TextTag> tags; ///< What follows the name, fonts included.
+    std::vector<TextTag> tags; ///< The tags after the name, including the fonts.
 };
 
-/// What a drawing's LTYPE record says, apart from its place in that drawing.
+/// The contents of a drawing's LTYPE record, independent of that drawing.
 struct LinetypeDefinition
 {
     QString name;
-    /// What follows the name: description, alignment, dashes. The value of a 340 group is an index
-    /// into `styles`.
+    /// The tags after the name: description, alignment and dashes. The value of a 340 group is an
+    /// index into `styles`.
     std::vector<TextTag> tags;
     std::vector<LinetypeStyle> styles;
-    /// Letters or shapes had to be left out, as their styles are nowhere to be found.
+    /// Letters or shapes had to be left out because their styles could not be found.
     bool isSimplified = false;
 
-    /// Whether there is more in it than dashes and gaps, which formats without objects lack.
+    /// Whether it contains more than dashes and gaps, which formats without objects cannot store.
     bool hasLettersOrShapes() const { return !styles.empty(); }
 };
 

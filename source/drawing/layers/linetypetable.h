@@ -19,8 +19,10 @@ public:
     /// What a step changes besides the bytes.
     struct State
     {
-        QHash<QString, LinetypePointer> linetypes; ///< Added, by folded name.
-        QHash<QString, quint64> styles;            ///< Added to the STYLE table, see `styleKey`.
+        /// The added linetypes; the keys are folded names.
+        QHash<QString, LinetypePointer> linetypes;
+        /// The added records of the STYLE table; see `styleKey` for the keys.
+        QHash<QString, quint64> styles;
 
         bool operator==(const State& other) const
         {
@@ -32,15 +34,16 @@ public:
     void load();
 
     QStringList names() const;
-    /// As the drawing spells it; null when it has none of that name, whatever its letter case.
+    /// The linetype's name as the drawing spells it; null when no name matches, ignoring letter
+    /// case.
     QString spelled(const QString& name) const;
-    /// By name, without regard to letter case; null when there is none.
+    /// The linetype of this name, ignoring letter case; null when there is none.
     LinetypePointer find(const QString& name) const;
-    /// The name of a linetype of the file; null when there is none with this handle.
+    /// The name of a linetype of the file; null when none has this handle.
     QString name(quint64 handle) const { return m_byHandle.value(handle); }
-    /// 0 for a linetype that is not in the file.
+    /// The handle of a linetype; 0 when the file does not have it.
     quint64 handle(const QString& name) const;
-    /// Adds a linetype and the styles it needs; one of the same name stays as it is.
+    /// Adds a linetype and the styles that it needs. A linetype of the same name stays as it is.
     void add(const LinetypeDefinition& definition);
 
     State& state() { return m_state; }
@@ -50,15 +53,16 @@ private:
     /// A linetype of the file.
     struct Entry
     {
-        QString name; ///< As the file spells it.
+        QString name; ///< The file's spelling of the name.
         ByteRange record;
         quint64 handle = 0;
     };
     /// The STYLE records of the file.
     struct StyleIndex
     {
-        QHash<quint64, ByteRange> records; ///< By handle.
-        QHash<QString, quint64> handles;   ///< By folded name; shape files by their font's.
+        QHash<quint64, ByteRange> records; ///< The keys are handles.
+        /// The keys are folded names; for shape files the names of their fonts.
+        QHash<QString, quint64> handles;
     };
 
     const StyleIndex& styles() const;
@@ -68,11 +72,12 @@ private:
 
     DrawingFile& m_file;
     LeftOut& m_leftOut;
-    QStringList m_names;             ///< Of the file, in its order.
-    QHash<QString, Entry> m_entries; ///< By folded name.
+    QStringList m_names;             ///< The file's linetypes in file order.
+    QHash<QString, Entry> m_entries; ///< The keys are folded names.
     QHash<quint64, QString> m_byHandle;
-    mutable std::mutex m_indexing;              ///< Several threads may be the first to ask.
-    mutable std::optional<StyleIndex> m_styles; ///< Made when a linetype asks for it.
+    /// Protects `m_styles`, which several threads may request first.
+    mutable std::mutex m_indexing;
+    mutable std::optional<StyleIndex> m_styles; ///< Built when a linetype needs it.
     State m_state;
 };
 

@@ -7,7 +7,7 @@
 
 namespace drawing {
 
-/// What the plot styles of layers are called: they have names of their own, or follow from the
+/// The names of the layers' plot styles. They are either names of their own or follow from the
 /// layers' colours.
 class PlotStyles
 {
@@ -16,21 +16,22 @@ public:
     void load();
 
     bool areByColor() const { return m_areByColor; }
-    /// Of a layer with this colour index, 1..255, and plot style handle.
+    /// The plot style name of a layer with this colour index, 1..255, and this plot style handle.
     QString name(int colorIndex, quint64 handle) const;
-    /// The handle of a style by name, without regard to letter case; `otherwise` where there is
-    /// none of that name, or none has a name.
+    /// The handle of the style of this name, ignoring letter case. Returns `otherwise` when there
+    /// is none and when the drawing has no named plot styles.
     quint64 handle(const QString& name, quint64 otherwise) const;
 
-    /// Gives a new drawing, in which styles follow from colours, styles with these names, besides
-    /// those it has already. No part of any step.
+    /// Adds named plot styles to a new drawing whose plot styles follow from colours. Existing
+    /// names are kept. This does not belong to a step.
     void make(const QStringList& names);
 
 private:
     quint64 dictionary() const;
 
     DrawingFile& m_file;
-    QHash<quint64, QString> m_names; ///< By handle; unused where styles go by colour.
+    /// The keys are handles. Unused when plot styles follow from colours.
+    QHash<quint64, QString> m_names;
     bool m_areByColor = true;
 };
 

@@ -9,25 +9,26 @@
 
 namespace drawing {
 
-/// Where a filter of the newer kind stands.
+/// The position of a filter of the newer kind.
 struct FilterPlace
 {
     quint64 dictionary = 0;
     QByteArray key;
     quint64 record = 0;
-    quint64 parent = 0; ///< The record of the filter around it; 0 at the top.
+    quint64 parent = 0; ///< The record of the parent filter; 0 at the top level.
 };
 
-/// The filters of the newer kind in the order of their dictionaries, those inside a filter behind
-/// it. They hang in the extension dictionary of the filter around them, at once or in a dictionary
-/// there.
+/// The filters of the newer kind in the order of their dictionaries; nested filters follow their
+/// parent. A filter is stored in the extension dictionary of its parent, either directly or in a
+/// dictionary inside it.
 std::vector<FilterPlace> filterPlaces(const DrawingFile& file);
-/// The list that older programs keep; 0 without one.
+/// The handle of the filter list of older programs; 0 when there is none.
 quint64 oldFilterList(const DrawingFile& file);
 
-/// The layer filters of a drawing. What a record holds besides name, expression and layers is kept
-/// as it is. Older programs have a list of their own, with the property filters at the top once
-/// more; what is there of a filter that changes or goes does so as well.
+/// The layer filters of a drawing. Everything in a record besides name, expression and layers is
+/// kept. Older programs use a list of their own, which repeats the property filters of the top
+/// level; when such a filter is changed or removed, its entry in that list is changed or removed as
+/// well.
 class SavedFilters
 {
 public:
@@ -38,7 +39,8 @@ public:
     {
     }
 
-    /// In the order of `filterPlaces`; then those that only the older list has.
+    /// The filters in the order of `filterPlaces`, followed by those that only the older list
+    /// contains.
     std::vector<LayerFilter> read() const;
     Expected<quint64> add(const LayerFilter& filter);
     Expected<void> change(const LayerFilter& filter);
@@ -53,7 +55,7 @@ private:
     quint64 madeDictionary(quint64 parent);
     void putText(TagList& tags, int code, const QString& text) const;
     void putLayers(TagList& tags, const std::vector<LayerId>& layers);
-    /// Null takes the filter out.
+    /// Changes a filter in the older list, or removes it when `after` is null.
     void changeOld(const LayerFilter& before, const LayerFilter* after);
 
     DrawingFile& m_file;

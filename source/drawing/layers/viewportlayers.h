@@ -11,7 +11,7 @@ namespace drawing {
 
 class LayerReplacements;
 
-/// What the viewports of layouts show otherwise than the layers themselves say.
+/// The layers that are frozen or have overrides in the viewports of layouts.
 class ViewportLayers
 {
 public:
@@ -26,23 +26,24 @@ public:
     {
     }
 
-    /// Refuses where there is no current viewport, or the format keeps nothing of this.
+    /// Refuses when there is no current viewport or when the format cannot store such properties.
     Expected<void> check() const;
-    /// The layers frozen in the current viewport, ascending.
+    /// The layers that are frozen in the current viewport, in ascending order.
     std::vector<LayerId> frozen() const;
-    /// The same for any viewport, whatever is shown; none in formats that keep nothing of this.
+    /// The layers frozen in any viewport, whatever is shown. Empty when the format cannot store
+    /// them.
     std::vector<LayerId> frozenIn(const Entity& viewport) const;
-    /// 0 for one without.
+    /// The handle of a viewport; 0 when it has none.
     quint64 handleOf(const Entity& viewport) const;
-    /// Refuses as `check` does.
+    /// Freezes exactly these layers in the current viewport. Refuses when `check` does.
     Expected<void> setFrozen(const std::vector<LayerId>& layers);
-    /// Properties as `LayerStateMask` bits. The layers whose linetype the drawing lacks come back;
-    /// refuses as `check` does.
+    /// Overrides properties, given as `LayerStateMask` bits, in the current viewport. Returns the
+    /// layers whose linetype the drawing does not have. Refuses when `check` does.
     Expected<std::vector<LayerId>> override(
         const std::vector<LayerInViewport>& layers, int properties);
-    /// The layers that look otherwise in the current viewport, ascending.
+    /// The layers with overrides in the current viewport, in ascending order.
     std::vector<LayerInViewport> overridden() const;
-    /// Takes layers that went out of every viewport's list.
+    /// Removes deleted layers from the lists of all viewports.
     void follow(const LayerReplacements& replacements);
 
 private:

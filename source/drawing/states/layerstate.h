@@ -9,7 +9,7 @@
 
 namespace drawing {
 
-/// One layer as a state holds it. The description is not part of a state.
+/// One layer as a state stores it. The description is not part of a state.
 struct LayerStateLayer
 {
     LayerProperties properties;
@@ -18,29 +18,30 @@ struct LayerStateLayer
 
 bool operator==(const LayerStateLayer& a, const LayerStateLayer& b);
 
-/// The saved properties of layers under a name.
+/// A named set of saved layer properties.
 struct LayerState
 {
     QString name;
     QString description;
     QString currentLayer;
-    int mask = kStateEverything; ///< `LayerStateMask` bits.
-    bool fromLayout = false;     ///< Saved while a layout was shown.
+    int mask = kStateEverything; ///< The `LayerStateMask` bits.
+    bool fromLayout = false;     ///< Whether it was saved while a layout was shown.
     std::vector<LayerStateLayer> layers;
 
-    /// States that came with an external reference carry its name before a `|`.
+    /// Whether it came with an external reference; the name of such a state begins with the
+    /// reference's name and a `|`.
     bool isFromReference() const { return name.contains(QLatin1Char('|')); }
 };
 
 bool operator==(const LayerState& a, const LayerState& b);
 
-/// How a state is restored.
+/// How to restore a state.
 struct LayerStateRestore
 {
     int mask = kStateEverything;
-    bool turnOthersOff = false; ///< Layers that the state does not hold.
-    /// In a layout: colours, linetypes and the like are wanted for its current viewport alone, the
-    /// layers keep theirs.
+    bool turnOthersOff = false; ///< Turns off the layers that the state does not contain.
+    /// In a layout, sets colours, linetypes and the like as overrides in the current viewport and
+    /// leaves the layers' own properties unchanged.
     bool viewportOverrides = false;
 };
 

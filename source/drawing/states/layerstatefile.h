@@ -7,23 +7,23 @@ namespace drawing {
 
 class TextCodec;
 
-/// What a file of layer states holds.
+/// The contents of a layer state file.
 struct LayerStateFile
 {
     std::vector<LayerState> states;
-    QStringList notices; ///< What of the file could not be used, a sentence each.
+    QStringList notices; ///< One sentence for each thing in the file that could not be used.
 };
 
-/// Whether the file begins as files of layer states do, whatever its name.
+/// Whether the file begins like a layer state file, whatever its name.
 bool isLayerStateFile(const QString& path);
 
-/// Reads a file of layer states (*.las). Text that is no UTF-8 is taken to be in the code page of
-/// `fallback`, or in GBK where that fits better; a notice says in which. What cannot be used
-/// (groups, bits and values nobody knows, what follows a cut) is left out with a notice; what is no
-/// such file is refused. A file that is not there gives no states.
+/// Reads a layer state file (*.las). Text that is not UTF-8 is decoded with `fallback`, or as GBK
+/// when that fits better; a notice names the encoding. Unusable contents (unknown groups, bits and
+/// values, anything after a truncation) are left out with a notice. Refuses a file that is not a
+/// layer state file. A missing file gives no states.
 Expected<LayerStateFile> readLayerStateFile(const QString& path, const TextCodec& fallback);
 
-/// Replaces the file only when all is written.
+/// Writes a layer state file. An existing file is replaced only when everything has been written.
 Expected<void> writeLayerStateFile(const QString& path, const std::vector<LayerState>& states);
 
 } // namespace drawing

@@ -13,12 +13,12 @@
 
 namespace drawing {
 
-/// The layer states of a drawing: one object each, listed in a dictionary of the layer table. A
-/// format without objects keeps them in a file beside the drawing.
+/// The layer states of a drawing. Each is an object, and a dictionary of the layer table lists
+/// them. In formats without objects they are kept in a file beside the drawing.
 class LayerStates
 {
 public:
-    /// Null: as the file was read.
+    /// A null state means that the states are as in the file.
     using State = std::shared_ptr<const LayerStateTable>;
 
     LayerStates(DrawingFile& file, const LayerTable& layers, const LinetypeTable& linetypes)
@@ -27,28 +27,28 @@ public:
           m_linetypes(linetypes)
     {
     }
-    /// Where a format without objects keeps layer states.
+    /// Sets the path of the file that holds the layer states in formats without objects.
     void setPath(const QString& path) { m_path = path; }
 
-    /// Whether the format has a place for states in the drawing itself.
+    /// Whether the format can store states in the drawing itself.
     bool liveInDrawing() const { return m_file.limits().markers; }
-    /// The file beside the drawing; empty where they live in the drawing itself.
+    /// The path of the file beside the drawing; empty when the drawing itself holds the states.
     QString path() const { return liveInDrawing() ? QString() : m_path; }
-    /// Formats without objects: puts the states beside the drawing, when they are others than
-    /// there.
+    /// In formats without objects, writes the states to the file beside the drawing when they
+    /// differ from that file's contents.
     Expected<void> saveBeside(const QString& path);
     QStringList names() const;
     std::vector<LayerState> all() const;
     std::optional<LayerState> find(const QString& name) const;
 
-    /// Takes in states; those of the same name, whatever its letter case, are replaced.
+    /// Adds states; they replace those whose names differ at most in letter case.
     Expected<void> put(const std::vector<LayerState>& states);
     Expected<void> remove(const QStringList& names);
     Expected<void> rename(const QString& name, const QString& newName);
 
-    /// Layers in states follow what became of them: those that went are forgotten.
+    /// Updates the layer names in states after layers changed; deleted layers are removed.
     void follow(const LayerReplacements& replacements);
-    /// Handles of the objects that hold states.
+    /// The handles of the objects that hold states.
     QSet<quint64> records() const;
 
     State& state() { return m_state; }
@@ -72,9 +72,9 @@ private:
     const LinetypeTable& m_linetypes;
     QString m_path;
     mutable QString m_fault; ///< Why the file beside the drawing could not be read.
-    mutable State m_loaded;  ///< Null until they are asked for.
+    mutable State m_loaded;  ///< Null until the states are first needed.
     State m_state;
-    State m_saved; ///< What the file beside the drawing has.
+    State m_saved; ///< The contents of the file beside the drawing.
 };
 
 } // namespace drawing

@@ -7,11 +7,11 @@
 
 namespace drawing {
 
-/// A layer state and the object that holds it.
+/// A layer state and where it is stored.
 struct LayerStateEntry
 {
     QString name;
-    quint64 handle = 0; ///< 0 for a state kept beside the drawing.
+    quint64 handle = 0; ///< The handle of its object; 0 for a state kept beside the drawing.
     QByteArray aside;   ///< The tags of a state that is kept beside the drawing.
 };
 

@@ -10,7 +10,7 @@
 
 namespace drawing {
 
-/// What the handles in a drawing's states stand for; files of states have none.
+/// What the handles in a drawing's states refer to. Layer state files have no handles.
 struct LayerStateHandles
 {
     const LayerTable* layers = nullptr;
@@ -18,25 +18,25 @@ struct LayerStateHandles
 
     QString layerName(quint64 handle) const;
     QString linetypeName(quint64 handle) const;
-    /// 0 for what has none and is written by name.
+    /// The handle of a layer; 0 when it has none, so that its name is written instead.
     quint64 layer(const QString& name) const;
     quint64 linetype(const QString& name) const;
 };
 
-/// The groups of a state that name layers.
+/// The group codes of a state that name layers.
 constexpr int kStateLayerName = 8;
 constexpr int kStateCurrentLayer = 302;
 constexpr int kStateLayerHandle = 330;
 
-/// What of the tags of states said nothing that can be used.
+/// What could not be used while reading states.
 struct LayerStateUnused
 {
-    std::set<int> codes; ///< Groups nobody knows.
+    std::set<int> codes; ///< Unknown group codes.
     qint64 maskBits = 0;
-    int values = 0; ///< Colours and lineweights that do not exist.
+    int values = 0; ///< The number of invalid colours and lineweights.
 };
 
-/// Puts a state together from its tags. Codes it does not know are skipped.
+/// Builds a state from its tags. Unknown group codes are skipped.
 class LayerStateReader
 {
 public:
@@ -48,11 +48,11 @@ public:
     }
 
     void take(const Tag& tag);
-    /// Forgets the layer whose tags were being read.
+    /// Discards the layer whose tags were being read.
     void dropOpenLayer();
-    /// The state as read; the reader is then empty.
+    /// Returns the state and resets the reader for the next one.
     LayerState finish();
-    /// Of all states since the beginning.
+    /// What could not be used in all states read so far.
     const LayerStateUnused& unused() const { return m_unused; }
 
 private:
@@ -74,11 +74,11 @@ private:
     LayerStateLayer m_layer;
     LayerStateUnused m_unused;
     bool m_isLayerOpen = false;
-    Decoded m_linetype; // Runs of layers share these.
+    Decoded m_linetype; // Cached because successive layers often share these.
     Decoded m_plotStyle;
 };
 
-/// The tags of a state behind its name. `plotStyleCode` is 1 in drawings and 2 in files of states.
+/// The tags of a state after its name. `plotStyleCode` is 1 in drawings and 2 in layer state files.
 QByteArray layerStateTags(const LayerState& state, const LayerStateHandles& handles,
     int plotStyleCode, const TagStyle& style, const TextCodec& codec);
 

@@ -10,7 +10,7 @@ class LayoutTable;
 class PlotStyles;
 class ViewportLayers;
 
-/// What of a drawing a layer state holds.
+/// The parts of a drawing that a layer state is captured from.
 struct StateSource
 {
     const LayerTable& layers;
@@ -18,7 +18,7 @@ struct StateSource
     const ViewportLayers& viewports;
 };
 
-/// What of a drawing a layer state is restored to.
+/// The parts of a drawing that a layer state is restored to.
 struct StateTarget
 {
     const LayerTable& layers;
@@ -28,7 +28,7 @@ struct StateTarget
     LayerEdits& edits;
 };
 
-// As `Drawing` has them.
+// The overloads for `Drawing` document these functions.
 LayerState captureLayerState(const StateSource& source, const QString& name);
 bool isSameAsDrawing(const LayerState& state, const StateSource& source);
 QStringList restoreLayerState(

@@ -7,7 +7,7 @@
 
 namespace drawing {
 
-/// A mapping as files hold it: the target's properties are those of its layer.
+/// A mapping as files store it. The properties of its target are those of the layer of that name.
 struct SavedMapping
 {
     QString from;
@@ -17,25 +17,26 @@ struct SavedMapping
 struct SavedMappingList
 {
     std::vector<SavedMapping> mappings;
-    /// Layer 0 is there since every drawing has one, not as a target.
+    /// Layer 0 is not meant as a target; it only exists because every drawing has it.
     bool isZeroIdle = false;
 };
 
-/// The mappings of a standards file: an object each, in a dictionary of the root dictionary.
+/// The mappings of a standards file: one object each, listed in a dictionary of the root
+/// dictionary.
 class SavedMappings
 {
 public:
     SavedMappings(DrawingFile& file, const LayerTable& layers) : m_file(file), m_layers(layers) {}
 
-    /// As edited so far.
+    /// The mappings, including all edits so far.
     SavedMappingList read() const;
-    /// Puts mappings in the place of those the file has. Refuses a format without objects, and a
-    /// file without a root dictionary.
+    /// Replaces the mappings of the file. Refuses a format without objects and a file without a
+    /// root dictionary.
     Expected<void> write(const SavedMappingList& list);
-    /// Targets that were renamed or merged are named as they are now. One that is gone stays named,
-    /// so that who reads the mappings can tell what is missing.
+    /// Updates the names of targets that were renamed or merged. The name of a deleted target
+    /// stays, so that readers of the mappings can tell what is missing.
     void follow(const LayerReplacements& replacements);
-    /// Handles of the records, which also name layers of other drawings.
+    /// The handles of the records, which also name layers of other drawings.
     QSet<quint64> records() const;
 
 private:

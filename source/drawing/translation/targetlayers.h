@@ -4,20 +4,20 @@
 
 namespace drawing {
 
-/// Brings layers of a drawing to what a standard says of them, in its open step.
+/// Makes layers of a drawing match a standard, within the open step.
 class TargetLayers
 {
 public:
     explicit TargetLayers(const TranslationParts& parts) : m_parts(parts) {}
 
-    /// Changes a layer; its name stays.
+    /// Changes the properties of a layer, but not its name.
     Expected<void> change(LayerId id, const TargetLayer& target);
-    /// Adds a layer; what the standard does not speak of is as in `base`.
+    /// Adds a layer. Properties that the standard leaves open are taken from `base`.
     Expected<LayerId> add(const TargetLayer& target, const LayerProperties& base);
-    /// Makes a layer the target, name included.
+    /// Changes a layer into the target, including its name.
     Expected<void> turnInto(LayerId id, const TargetLayer& target);
 
-    /// What could not be done as wanted since the last call, a sentence each.
+    /// One sentence for each thing that could not be done as requested since the last call.
     QStringList takeNotices();
 
 private:
@@ -29,13 +29,13 @@ private:
     QStringList m_notices;
 };
 
-/// A key for names of layers and linetypes, which compare without regard to letter case.
+/// A look-up key for names of layers and linetypes, which ignore letter case.
 QString nameKey(const QString& name);
 
-/// False for styles that follow from the colour: these are no names to look for.
+/// Whether this is the name of a plot style, as opposed to one that follows from the colour.
 bool isNamedPlotStyle(const QString& style);
 
-/// Whether two targets of one name say the same of it.
+/// Whether two targets of the same name have the same properties.
 bool isSameTarget(const TargetLayer& a, const TargetLayer& b);
 
 } // namespace drawing

@@ -4,14 +4,14 @@
 
 namespace drawing {
 
-/// The log's place: beside the drawing, under its name with the extension .log.
+/// The path of the log: beside the drawing, with the same name and the extension .log.
 QString translationLogPath(const QString& drawingPath);
 
-/// What became of each mapping of a drawing, with the numbers of entities, and what went wrong.
+/// The text of the log: the outcome of each mapping, the numbers of entities, and what went wrong.
 QString translationLog(
     const QString& drawingPath, const TranslationReport& report, const TranslationOptions& options);
 
-/// Writes a log; the one before it under this name is replaced when the new one is whole.
+/// Writes a log. An existing log is replaced only when the new one is complete.
 Expected<void> writeTranslationLog(const QString& path, const QString& text);
 
 } // namespace drawing

@@ -12,7 +12,7 @@ class LeftOut;
 class LinetypeTable;
 class PlotStyles;
 
-/// What of a drawing a translation works on.
+/// The parts of a drawing that a translation works on.
 struct TranslationParts
 {
     const LayerTable& layers;
@@ -24,7 +24,7 @@ struct TranslationParts
     LeftOut& leftOut;
 };
 
-// As `Drawing` has them.
+// The overloads for `Drawing` document these functions.
 TranslationReport translateLayers(const TranslationParts& parts,
     const std::vector<LayerMapping>& mappings, const TranslationOptions& options);
 std::vector<TargetLayer> targetLayers(const LayerTable& layers, const LinetypeTable& linetypes);
