@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 scripts/setup.sh
-scripts/build.sh release
+scripts/build.sh release layerbench cmdlayerui
 
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "没有可用的显示：改为把各对话框的图片写入 build/gallery。"

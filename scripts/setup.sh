@@ -5,11 +5,12 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build
-    qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libexpected-dev libcli11-dev libxxhash-dev libbenchmark-dev libdxflib-dev
+    qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
+    libexpected-dev libcli11-dev libxxhash-dev
     fonts-wqy-zenhei
 )
 if [ "${1:-}" = "--tests" ]; then
-    packages+=(python3-ezdxf python3-jsonschema parallel)
+    packages+=(libbenchmark-dev libdxflib-dev python3-ezdxf python3-jsonschema parallel)
 elif [ "${1:-}" = "--pictures" ]; then # For compare_pictures.py.
     packages+=(python3-ezdxf python3-matplotlib)
 elif [ "${1:-}" = "--fuzz" ]; then
