@@ -275,6 +275,20 @@ Expected<void> readStandardDrawing(const QString& path, LayerRules& rules)
     return {};
 }
 
+Expected<LayerRules> readRules(const QStringList& paths)
+{
+    LayerRules rules;
+    for (const char* name : {"0", "Defpoints"})
+        rules.exempt.add(QLatin1String(name));
+    for (const QString& path : paths) {
+        auto read =
+            isRuleFile(path) ? readRuleFile(path, rules) : readStandardDrawing(path, rules);
+        if (!read)
+            return tl::make_unexpected(std::move(read.error()));
+    }
+    return rules;
+}
+
 Expected<void> readRuleFile(const QString& path, LayerRules& rules)
 {
     return readChain(path, {}, rules);

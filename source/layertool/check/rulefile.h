@@ -66,6 +66,9 @@ bool isRuleFile(const QString& path);
 /// Reads a rule file (JSON, see docs/layer-rules.schema.json). Refuses keys and values that make no
 /// sense, naming them.
 drawing::Expected<void> readRuleFile(const QString& path, LayerRules& rules);
+/// Reads standards, drawings and rule files, into one set of rules. Layer 0 and Defpoints, which no
+/// drawing can do without, are passed over by rules on names.
+drawing::Expected<LayerRules> readRules(const QStringList& paths);
 /// The files that a rule file builds on, and those that they do; empty for other files.
 QStringList rulesBehind(const QString& path);
 

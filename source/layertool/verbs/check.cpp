@@ -46,16 +46,12 @@ private:
 
 Expected<void> StandardVerb::prepare(const Arguments& arguments)
 {
-    for (const char* name : {"0", "Defpoints"})
-        m_rules.exempt.add(QLatin1String(name));
     if (!arguments.isSet("standard"))
         return tl::make_unexpected(Error{Texts::tr("缺少 --standard：按什么标准检查？")});
-    for (const QString& path : arguments.values("standard")) {
-        auto read =
-            isRuleFile(path) ? readRuleFile(path, m_rules) : readStandardDrawing(path, m_rules);
-        if (!read)
-            return read;
-    }
+    auto rules = readRules(arguments.values("standard"));
+    if (!rules)
+        return tl::make_unexpected(rules.error());
+    m_rules = std::move(*rules);
     return arguments.isSet("baseline") ? m_baseline.read(arguments.value("baseline"))
                                        : Expected<void>();
 }
