@@ -1363,5 +1363,9 @@ See --help for the usage.
         <source>--sheets 需要一个图形。</source>
         <translation>--sheets needs a drawing.</translation>
     </message>
+    <message>
+        <source>图层模块的库文件；不给时用安装的模块，或环境变量 LAYERBENCH_MODULE 所指的。</source>
+        <translation>The layer module's library; without it the installed one, or the one the environment variable LAYERBENCH_MODULE names.</translation>
+    </message>
 </context>
 </TS>

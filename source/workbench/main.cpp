@@ -3,6 +3,7 @@
 #include "gallery.h"
 #include "hoststart.h"
 #include "hostwindows.h"
+#include "installation.h"
 #include "language.h"
 #include "languagemenu.h"
 #include "layerlist.h"
@@ -11,7 +12,6 @@
 #include "options.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QThread>
 
 #include <cstdio>
@@ -38,13 +38,6 @@ bool hasDisplay()
            qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
-QString sampleDrawing()
-{
-    const QDir samples(QStringLiteral(LAYERBENCH_SAMPLES));
-    const QStringList found = samples.entryList({QStringLiteral("*.dxf")}, QDir::Files, QDir::Name);
-    return found.isEmpty() ? QString() : samples.filePath(found.first());
-}
-
 int printList(const Options& options)
 {
     const auto drawing = drawing::Drawing::open(options.file);
@@ -54,14 +47,13 @@ int printList(const Options& options)
     return Fine;
 }
 
-/// Makes the host's services and loads the module that lies beside the program, or the one that the
-/// environment names. Without it there are no layer dialogs, but drawings can be seen.
-void startHost(host::Host& host)
+/// Makes the host's services and loads the module. Without it there are no layer dialogs, but
+/// drawings can be seen.
+void startHost(host::Host& host, const QString& module)
 {
-    const QString beside = QApplication::applicationDirPath() + QStringLiteral("/libcmdlayerui.so");
-    const QString path = qEnvironmentVariable("LAYERBENCH_MODULE", beside);
     host::setCurrentDocument(host::makeDocument());
-    if (const QString failure = host.loadModule(path); !failure.isEmpty())
+    if (const QString failure = host.loadModule(installation::modulePath(module));
+        !failure.isEmpty())
         print(stderr, QStringLiteral("layerbench: %1\n").arg(failure));
 }
 
@@ -72,7 +64,7 @@ int makePictures(const Options& options)
     host::setMainWindow(&window);
     window.show();
     const bool useSample = options.file.isEmpty() && !options.gallery.isEmpty();
-    const QString path = useSample ? sampleDrawing() : options.file;
+    const QString path = useSample ? installation::sampleDrawing() : options.file;
     if (!path.isEmpty()) {
         auto file = drawing::Drawing::open(path, nullptr, QThread::currentThread());
         if (!file)
@@ -144,6 +136,6 @@ int main(int argc, char* argv[])
         return Failed;
     }
     host::Host host;
-    startHost(host);
+    startHost(host, options->module);
     return options->isBatch() ? makePictures(*options) : runWindow(*options);
 }

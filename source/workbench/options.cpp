@@ -40,6 +40,9 @@ tl::expected<Options, EarlyExit> parseOptions(const QStringList& arguments)
     const QCommandLineOption sheets(QStringLiteral("sheets"),
         Texts::tr("把模型空间和每个布局各画成一个 PNG 文件，存入文件夹并退出。"),
         Texts::tr("文件夹"));
+    const QCommandLineOption module(QStringLiteral("module"),
+        Texts::tr("图层模块的库文件；不给时用安装的模块，或环境变量 LAYERBENCH_MODULE 所指的。"),
+        Texts::tr("文件"));
     const QCommandLineOption list(
         QStringLiteral("list"), Texts::tr("在标准输出上以 JSON 列出图层表并退出，不显示窗口。"));
     const QCommandLineOption languageOption(QStringLiteral("language"),
@@ -47,7 +50,8 @@ tl::expected<Options, EarlyExit> parseOptions(const QStringList& arguments)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(Texts::tr("图层工作台: 打开 DXF 图形，管理其中的图层。"));
-    parser.addOptions({help, version, command, screenshot, gallery, sheets, list, languageOption});
+    parser.addOptions(
+        {help, version, command, screenshot, gallery, sheets, module, list, languageOption});
     parser.addPositionalArgument(
         Texts::tr("图形"), Texts::tr("要打开的 DXF 文件。"), Texts::tr("[图形]"));
     if (!parser.parse(arguments))
@@ -66,6 +70,7 @@ tl::expected<Options, EarlyExit> parseOptions(const QStringList& arguments)
     options.screenshot = parser.value(screenshot);
     options.gallery = parser.value(gallery);
     options.sheets = parser.value(sheets);
+    options.module = parser.value(module);
     options.list = parser.isSet(list);
     if (!options.command.isEmpty() && !CommandTable().find(options.command))
         return badUsage(Texts::tr("没有图层命令“%1”。").arg(options.command));

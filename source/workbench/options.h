@@ -13,6 +13,7 @@ struct Options
     QString screenshot; ///< PNG file to draw the window into.
     QString gallery;    ///< Folder for one PNG a dialog.
     QString sheets;     ///< Folder for one PNG a space of the drawing.
+    QString module;     ///< The layer module's library; empty for the installed one.
     bool list = false;  ///< Print the layer table.
 
     /// Ends by itself, without anybody at a screen.

@@ -50,7 +50,7 @@ Expected<void> StandardVerb::prepare(const Arguments& arguments)
         return tl::make_unexpected(Error{Texts::tr("缺少 --standard：按什么标准检查？")});
     auto rules = readRules(arguments.values("standard"));
     if (!rules)
-        return tl::make_unexpected(rules.error());
+        return tl::make_unexpected(std::move(rules.error()));
     m_rules = std::move(*rules);
     return arguments.isSet("baseline") ? m_baseline.read(arguments.value("baseline"))
                                        : Expected<void>();
