@@ -1,0 +1,35 @@
+// renamelayers DRAWING OLD NEW: gives a layer another name, and with it everything that names it.
+#include <drawing.h>
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    const QStringList words = QCoreApplication::arguments();
+    QTextStream err(stderr);
+    if (words.size() != 4)
+        return 2;
+    const auto opened = drawing::Drawing::open(words[1]);
+    if (!opened) {
+        err << opened.error().text << '\n';
+        return 1;
+    }
+    drawing::Drawing& drawing = **opened;
+    const drawing::Layer* layer = drawing.findLayer(words[2]);
+    if (!layer) {
+        err << words[1] << ": no layer " << words[2] << '\n';
+        return 1;
+    }
+    drawing::LayerProperties properties = layer->properties;
+    properties.name = words[3];
+    drawing::DrawingStep step(drawing, "rename"); // One undo; taken back when left early.
+    const auto saved = drawing.setLayerProperties(layer->id, properties).and_then([&] {
+        step.commit();
+        return drawing.save(words[1]);
+    });
+    if (!saved)
+        err << saved.error().text << '\n';
+    return saved ? 0 : 1;
+}
