@@ -10,7 +10,7 @@ packages=(
     fonts-wqy-zenhei
 )
 if [ "${1:-}" = "--tests" ]; then
-    packages+=(libbenchmark-dev libdxflib-dev pkg-config python3-ezdxf python3-jsonschema parallel)
+    packages+=(libbenchmark-dev libdxflib-dev pkg-config pybind11-dev python3-dev python3-ezdxf python3-jsonschema parallel)
 elif [ "${1:-}" = "--pictures" ]; then # For compare_pictures.py.
     packages+=(python3-ezdxf python3-matplotlib)
 elif [ "${1:-}" = "--fuzz" ]; then

@@ -675,5 +675,21 @@
         <source>过滤器的名称不能为空。</source>
         <translation>The name of a filter must not be empty.</translation>
     </message>
+    <message>
+        <source>图层已从图形中删除。</source>
+        <translation>The layer has been removed from the drawing.</translation>
+    </message>
+    <message>
+        <source>已有一个步骤打开：步骤不能嵌套。</source>
+        <translation>A step is open already; steps do not nest.</translation>
+    </message>
+    <message>
+        <source>没有语言“%1”；可用 zh 或 en。</source>
+        <translation>There is no language “%1”; zh and en are there.</translation>
+    </message>
+    <message>
+        <source>图层状态“%1”：图形中没有图层“%2”。</source>
+        <translation>Layer state “%1”: the drawing has no layer “%2”.</translation>
+    </message>
 </context>
 </TS>

@@ -1365,7 +1365,7 @@ See --help for the usage.
     </message>
     <message>
         <source>图层模块的库文件；不给时用安装的模块，或环境变量 LAYERBENCH_MODULE 所指的。</source>
-        <translation>The layer module's library; without it the installed one, or the one the environment variable LAYERBENCH_MODULE names.</translation>
+        <translation>The layer module&apos;s library; without it the installed one, or the one the environment variable LAYERBENCH_MODULE names.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,49 @@
+#include "editing.h"
+#include "language.h"
+
+#include <QCoreApplication>
+
+namespace py = pybind11;
+
+namespace {
+
+/// Qt translates for an application only. It is never taken down: what the interpreter takes down
+/// after it may still have something to say.
+void useLanguage(const QString& code)
+{
+    if (!language::isKnown(code))
+        dxflayers::refuse(drawing::Texts::tr("没有语言“%1”；可用 zh 或 en。").arg(code));
+    static int count = 1;
+    static char name[] = "dxflayers";
+    static char* words[] = {name, nullptr};
+    if (!QCoreApplication::instance())
+        new QCoreApplication(count, words);
+    language::use(code, {QStringLiteral("drawing"), QStringLiteral("layertool")});
+}
+
+} // namespace
+
+PYBIND11_MODULE(_dxflayers, module)
+{
+    module.doc() = "The layers of DXF drawings, edited without losing a byte.";
+    // Made once; it lives as long as the interpreter.
+    static PyObject* const error = PyErr_NewExceptionWithDoc("dxflayers.Error",
+        "A refusal: a sentence that names the thing and the cause; `line` of the file, or None.",
+        PyExc_ValueError, nullptr);
+    module.add_object("Error", error);
+    py::register_exception_translator([](std::exception_ptr thrown) {
+        try {
+            std::rethrow_exception(thrown);
+        } catch (const dxflayers::Refusal& refusal) {
+            py::object value = py::reinterpret_borrow<py::object>(error)(refusal.what());
+            value.attr("line") = refusal.line() > 0 ? py::cast(refusal.line()) : py::none();
+            PyErr_SetObject(error, value.ptr());
+        }
+    });
+    module.def("use_language", useLanguage, py::arg("language"),
+        "Says sentences in a language, zh or en. Comes after an application of Qt, where one is "
+        "made.");
+    dxflayers::DrawingClass drawing = dxflayers::bindLayers(module);
+    dxflayers::bindStates(drawing);
+    dxflayers::bindStandards(module, drawing);
+}
