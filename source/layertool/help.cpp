@@ -1,30 +1,15 @@
 #include "help.h"
 
 #include "commandline.h"
-#include "engine/console.h"
+#include "textlayout.h"
 #include "texts.h"
 
 namespace layertool {
 
+using commandline::entry;
+using commandline::wrappedParagraph;
+
 namespace {
-
-/// A head with its text beside it, on as many lines as the text takes; the head has a line of its
-/// own where it reaches into the text's columns.
-QString entry(const QString& head, int headWidth, const QString& text)
-{
-    const QStringList lines = wrapped(text, textColumns() - headWidth);
-    const bool isBeside = widthOf(head) + 1 < headWidth;
-    QString all = isBeside ? padded(head, headWidth) : head + QLatin1Char('\n');
-    for (int i = 0; i < lines.size(); ++i)
-        all += QString(i == 0 && isBeside ? 0 : headWidth, QLatin1Char(' ')) + lines.at(i) +
-               QLatin1Char('\n');
-    return all;
-}
-
-QString paragraph(const QString& text)
-{
-    return wrapped(text, textColumns()).join(QLatin1Char('\n')) + QLatin1Char('\n');
-}
 
 QString verbEntry(const char* name, const char* text)
 {
@@ -60,25 +45,25 @@ QString helpText()
     QString text =
         Texts::tr("用法：%1").arg(Texts::tr("layertool 命令 [选项...] 图形或文件夹...")) +
         QStringLiteral("\n\n") +
-        paragraph(Texts::tr("处理一个或许多 DXF 图形的图层，不需要窗口。")) + QLatin1Char('\n') +
-        Texts::tr("命令：") + QLatin1Char('\n');
+        wrappedParagraph(Texts::tr("处理一个或许多 DXF 图形的图层，不需要窗口。")) +
+        QLatin1Char('\n') + Texts::tr("命令：") + QLatin1Char('\n');
     for (const VerbRow& row : verbs())
         text += verbEntry(row.name, row.text);
     return text + verbEntry(kHelpRow.name, kHelpRow.text) + QLatin1Char('\n') +
-           paragraph(exitCodesText());
+           wrappedParagraph(exitCodesText());
 }
 
 QString helpText(const VerbRow& verb)
 {
     QString text = Texts::tr("用法：%1").arg(usageText(verb)) + QStringLiteral("\n\n") +
-                   paragraph(Texts::tr(verb.text));
+                   wrappedParagraph(Texts::tr(verb.text));
     const std::vector<OptionRow> options = optionsOf(verb);
     if (!options.empty())
         text += QLatin1Char('\n') + Texts::tr("选项：") + QLatin1Char('\n');
     constexpr int kHeadWidth = 28;
     for (const OptionRow& row : options)
-        text += entry(QStringLiteral("  --%1 %2").arg(QLatin1String(row.name), valueText(row)),
-            kHeadWidth, Texts::tr(row.text));
+        text += entry(QStringLiteral("  %1 %2").arg(dashed(row), valueText(row)), kHeadWidth,
+            Texts::tr(row.text));
     return text;
 }
 

@@ -65,11 +65,6 @@ constexpr OptionRow kEditing[] = {
 
 } // namespace
 
-QStringList wordsOf(const char* words)
-{
-    return QString::fromLatin1(words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 QString valueText(const OptionRow& row)
 {
     switch (row.kind) {
@@ -89,6 +84,19 @@ QString valueText(const OptionRow& row)
         return wordsOf(row.choices).join(QLatin1Char('|'));
     }
     return {};
+}
+
+OptionText optionText(const OptionRow& row)
+{
+    return {row, valueText(row), Texts::tr(row.text)};
+}
+
+std::vector<OptionText> optionTexts(const std::vector<OptionRow>& rows)
+{
+    std::vector<OptionText> texts;
+    for (const OptionRow& row : rows)
+        texts.push_back(optionText(row));
+    return texts;
 }
 
 std::vector<OptionRow> joined(OptionRows first, OptionRows second)

@@ -1,58 +1,22 @@
 #pragma once
 
-#include <QStringList>
-
-#include <vector>
+#include "optiontable.h"
 
 namespace layertool {
 
-/// What an option takes.
-enum class OptionKind : quint8 {
-    Flag,
-    Text,
-    File,   ///< A file that goes into the result: its contents count when work is to be skipped.
-    Path,   ///< Another file's path.
-    Folder, ///< A folder's path.
-    Number, ///< A whole number, 0 or more.
-    Count,  ///< A whole number, 1 or more.
-    Choice  ///< One of the words in `choices`.
-};
+using commandline::dashed;
+using commandline::OptionKind;
+using commandline::OptionRow;
+using commandline::OptionRows;
+using commandline::OptionText;
+using commandline::wordsOf;
 
-/// An option as it is described to the user, read from the command line and completed in a shell.
-struct OptionRow
-{
-    const char* name; ///< Without its dashes.
-    OptionKind kind;
-    const char* text;         ///< A sentence, to be translated.
-    const char* choices = ""; ///< Of a `Choice`: words with blanks between them.
-    bool several = false;     ///< May be given more than once.
-    bool shapesResult = true; ///< Whether another value can give another result for a drawing.
-};
-
-/// A part of a table of options.
-struct OptionRows
-{
-    const OptionRow* first = nullptr;
-    int count = 0;
-
-    template <int N>
-    static constexpr OptionRows of(const OptionRow (&rows)[N])
-    {
-        return {rows, N};
-    }
-    static OptionRows of(const std::vector<OptionRow>& rows)
-    {
-        return {rows.data(), static_cast<int>(rows.size())};
-    }
-    const OptionRow* begin() const { return first; }
-    const OptionRow* end() const { return first + count; }
-};
-
-/// The words of a table's cell that holds several, with blanks between them.
-QStringList wordsOf(const char* words);
 /// What stands for the option's value in help, "FILE" say; its choices with bars between them.
 /// Empty for flags.
 QString valueText(const OptionRow& row);
+/// Options in the language that texts are shown in.
+OptionText optionText(const OptionRow& row);
+std::vector<OptionText> optionTexts(const std::vector<OptionRow>& rows);
 
 /// Two parts of a table as one.
 std::vector<OptionRow> joined(OptionRows first, OptionRows second);

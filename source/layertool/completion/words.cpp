@@ -14,9 +14,4 @@ QStringList operandWords(const VerbRow& verb)
     return ids;
 }
 
-QString dashed(const OptionRow& row)
-{
-    return QLatin1String("--") + QLatin1String(row.name);
-}
-
 } // namespace layertool

@@ -6,7 +6,6 @@ namespace layertool {
 
 /// Words that may stand behind a verb besides drawings and folders.
 QStringList operandWords(const VerbRow& verb);
-QString dashed(const OptionRow& row);
 
 /// The scripts that complete command lines of this program in a shell.
 QString bashScript();

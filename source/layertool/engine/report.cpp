@@ -1,8 +1,8 @@
 #include "report.h"
 
-#include "console.h"
 #include "filecause.h"
 #include "formats/csv.h"
+#include "textlayout.h"
 #include "texts.h"
 
 #include <QSaveFile>
@@ -64,7 +64,7 @@ QStringList Totals::lines() const
     constexpr int kNameWidth = 24;
     QStringList all;
     for (const auto& [name, number] : rows)
-        all += padded(name, kNameWidth) + QString::number(number).rightJustified(8);
+        all += commandline::padded(name, kNameWidth) + QString::number(number).rightJustified(8);
     return all;
 }
 

@@ -2,6 +2,7 @@
 
 #include "csv.h"
 #include "engine/console.h"
+#include "textlayout.h"
 #include "texts.h"
 
 #include <QJsonDocument>
@@ -9,6 +10,8 @@
 #include <utility>
 
 namespace layertool {
+
+using commandline::widthOf;
 
 namespace {
 

@@ -4,12 +4,17 @@
 #include "check/rules.h"
 #include "engine/console.h"
 #include "engine/run.h"
+#include "textlayout.h"
 #include "texts.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
 namespace layertool {
+
+using commandline::padded;
+using commandline::textColumns;
+using commandline::wrapped;
 
 namespace {
 
@@ -66,7 +71,7 @@ QString explanation(const Rule& rule)
     };
     QString text;
     for (const QString& line : lines)
-        text += wrapped(line, textColumns()).join(QLatin1Char('\n')) + QLatin1Char('\n');
+        text += commandline::wrappedParagraph(line);
     return text;
 }
 

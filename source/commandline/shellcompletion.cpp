@@ -1,0 +1,146 @@
+#include "shellcompletion.h"
+
+namespace commandline {
+
+namespace {
+
+constexpr char kBashHead[] = R"bash(# bash completion of %1
+_%1() {
+    local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD-1]}
+    local options= words= values=
+    # "--name=value" comes as three words.
+    if [ "$cur" = = ]; then
+        cur=
+    elif [ "$prev" = = ]; then
+        prev=${COMP_WORDS[COMP_CWORD-2]}
+    fi
+    COMPREPLY=()
+)bash";
+
+constexpr char kBashTail[] = R"bash(    if [ -n "$values" ]; then
+        compopt -o filenames
+        eval "COMPREPLY=(\$(compgen $values -- \"\$cur\"))"
+    elif [[ $cur == -* ]]; then
+        COMPREPLY=($(compgen -W "$options" -- "$cur"))
+    else
+        local IFS=$' \t\n'
+        COMPREPLY=($(compgen -W "$words" -- "$cur"))
+        IFS=$'\n'
+        COMPREPLY+=($(compgen -f -X '!*.[dD][xX][fF]' -- "$cur") $(compgen -d -- "$cur"))
+        compopt -o filenames
+    fi
+}
+complete -F _%1 %1
+)bash";
+
+constexpr char kZshFrame[] = R"zsh(#compdef %1
+_%1() {
+%2}
+if [ "$funcstack[1]" = _%1 ]; then
+    _%1 "$@"
+else
+    compdef _%1 %1
+fi
+)zsh";
+
+/// What bash is to offer for an option's value: the arguments of `compgen`.
+QString bashValues(const OptionRow& row)
+{
+    switch (row.kind) {
+    case OptionKind::Choice:
+        return QStringLiteral("-W '%1'").arg(QLatin1String(row.choices));
+    case OptionKind::Folder:
+        return QStringLiteral("-d");
+    case OptionKind::File:
+    case OptionKind::Path:
+        return QStringLiteral("-f");
+    case OptionKind::Text:
+    case OptionKind::Flag:
+    case OptionKind::Number:
+    case OptionKind::Count:
+        break;
+    }
+    return {};
+}
+
+QString zshValues(const OptionRow& row)
+{
+    switch (row.kind) {
+    case OptionKind::Choice:
+        return QStringLiteral(":(%1)").arg(QLatin1String(row.choices));
+    case OptionKind::Folder:
+        return QStringLiteral(":_files -/");
+    case OptionKind::File:
+    case OptionKind::Path:
+        return QStringLiteral(":_files");
+    case OptionKind::Text:
+    case OptionKind::Flag:
+    case OptionKind::Number:
+    case OptionKind::Count:
+        break;
+    }
+    return QStringLiteral(":");
+}
+
+QString zshOption(const OptionText& option)
+{
+    const OptionRow& row = option.row;
+    QString text =
+        QStringLiteral("'%1%2[%3]")
+            .arg(row.several ? QStringLiteral("*") : QString(), dashed(row), zshText(option.text));
+    if (row.kind != OptionKind::Flag)
+        text += QLatin1Char(':') +
+                zshText(row.kind == OptionKind::Choice ? QLatin1String(row.name) : option.value) +
+                zshValues(row);
+    return text + QLatin1Char('\'');
+}
+
+} // namespace
+
+QString bashScript(const char* program, const QString& body)
+{
+    const auto named = [program](const char* text) {
+        return QString(QLatin1String(text)).replace(QLatin1String("%1"), QLatin1String(program));
+    };
+    return named(kBashHead) + body + named(kBashTail);
+}
+
+QString bashWords(const std::vector<OptionRow>& options, const QStringList& words)
+{
+    QStringList names;
+    QString values;
+    for (const OptionRow& row : options) {
+        names += dashed(row);
+        if (const QString offered = bashValues(row); !offered.isEmpty())
+            values +=
+                QStringLiteral("            %1) values=\"%2\" ;;\n").arg(dashed(row), offered);
+    }
+    return QStringLiteral("        options='%1' words='%2'\n        case $prev in\n%3"
+                          "        esac\n")
+        .arg(names.join(QLatin1Char(' ')), words.join(QLatin1Char(' ')), values);
+}
+
+QString zshScript(const char* program, const QString& body)
+{
+    return QString(QLatin1String(kZshFrame)).arg(QLatin1String(program), body);
+}
+
+QString zshArguments(const std::vector<OptionText>& options, const QStringList& words)
+{
+    QString text = QStringLiteral("_arguments");
+    for (const OptionText& option : options)
+        text += QLatin1String(" \\\n        ") + zshOption(option);
+    if (!words.isEmpty())
+        text += QStringLiteral(" \\\n        '1: :(%1)'").arg(words.join(QLatin1Char(' ')));
+    return text + QStringLiteral(" \\\n        '*: :_files -g \"*.(#i)dxf(-.)\"'");
+}
+
+QString zshText(QString text)
+{
+    text.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    for (const char c : {'[', ']', ':'})
+        text.replace(QLatin1Char(c), QLatin1String("\\") + QLatin1Char(c));
+    return text.replace(QLatin1Char('\''), QLatin1String("'\\''"));
+}
+
+} // namespace commandline
