@@ -14,11 +14,12 @@ namespace host {
 class ColorPreview;
 class IndexColorPage;
 
-/// Chooses an index colour or a true colour.
-/// Keys: "clrMethod" (192 by layer, 193 by block, 194 true colour, 195 index), "selectClr" (the
-/// index, or red in bits 0-7, green in 8-15, blue in 16-23), "isByLayerEnable", "isByBLockEnable"
-/// (0 switches a button off; the capital L is meant), "backgroundColor" (packed, of the preview).
-/// Answers, when accepted: "clrMethod" and "selectClr".
+/// Lets the user choose an index colour or a true colour.
+///
+/// Input keys: "clrMethod" (192 ByLayer, 193 ByBlock, 194 true colour, 195 index), "selectClr" (the
+/// index, or red in bits 0-7, green in 8-15, blue in 16-23), "isByLayerEnable" and
+/// "isByBLockEnable" (0 disables the button; the capital L is intended), "backgroundColor" (the
+/// preview's background, packed). Answer keys, when accepted: "clrMethod" and "selectClr".
 class ColorDialog : public QDialog
 {
     Q_OBJECT

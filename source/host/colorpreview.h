@@ -5,7 +5,7 @@
 
 namespace host {
 
-/// Shows the colour that was there beside the one that is chosen, on the drawing's background.
+/// Shows the old and the new colour side by side on the drawing's background.
 class ColorPreview : public QWidget
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
     explicit ColorPreview(QWidget* parent = nullptr);
 
     void setBackground(const QColor& color);
-    /// An invalid colour shows as the empty background.
+    /// An invalid colour shows the bare background.
     void setOld(const QColor& color);
     void setNew(const QColor& color);
 

@@ -4,14 +4,14 @@
 
 namespace host {
 
-/// Names the drawing in front; null when none is open.
+/// Sets the drawing in the foreground; null when no drawing is open.
 VNSI_EXPORT void setCurrentDocument(const vnsi::VnDocumentPtr& document);
-/// The drawing in front; null when none is open.
+/// The drawing in the foreground; null when no drawing is open.
 VNSI_EXPORT vnsi::VnDocumentPtr currentDocument();
-/// A document with the published colour table.
+/// Makes a document with the published table of index colours.
 VNSI_EXPORT vnsi::VnDocumentPtr makeDocument();
 
-/// The service "Core/DocMgr".
+/// Makes the service "Core/DocMgr".
 OdRxObjectPtr makeDocMgr();
 
 } // namespace host

@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// The service "Core/EditPrimitiveServer".
+/// Makes the service "Core/EditPrimitiveServer".
 OdRxObjectPtr makeEditPrimitiveServer();
 
 } // namespace host

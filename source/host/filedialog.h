@@ -7,9 +7,11 @@
 namespace host {
 
 /// Asks for the path of one or several files.
-/// Keys: "title", "caption" (the title where that is missing), "defawlt" (file name offered),
-/// "Open" (otherwise a file to save is asked for; without the key bit 0 of "flags" asks for that),
-/// "MutiFile", "filter", "defFilter", "dir". Answers: "filePath"; with "MutiFile" also "filePaths".
+///
+/// Input keys: "title", "caption" (the title when "title" is missing), "defawlt" (the suggested
+/// file name), "Open" (true to open files, false to save one; without this key bit 0 of "flags"
+/// asks for saving), "MutiFile", "filter", "defFilter", "dir". Answer keys: "filePath"; with
+/// "MutiFile" also "filePaths".
 class FileDialog : public QFileDialog
 {
     Q_OBJECT

@@ -4,11 +4,12 @@
 
 namespace host {
 
-/// The entries of a filter text: parted by ";;", "|", a line end, or a closing parenthesis. An
-/// entry of bare extensions ("dwg dxf") gets its patterns.
+/// Splits a filter text into its entries. They are separated by ";;", "|" or a line end, or end
+/// with a closing parenthesis. Patterns are added to an entry that consists of bare extensions
+/// ("dwg dxf").
 QStringList splitFilters(const QString& filter);
 
-/// The extension of an entry's first pattern; empty for "*.*" and where there is none.
+/// The extension of an entry's first pattern; empty for "*.*" and when there is no pattern.
 QString firstExtension(const QString& entry);
 
 } // namespace host

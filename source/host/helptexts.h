@@ -6,9 +6,9 @@ class QWidget;
 
 namespace host {
 
-/// The manual's page about a window, in the language that texts are shown in: that of the window or
-/// of the nearest one around it that has one, by its object name or its property "helpPage"; else,
-/// and for null, the start page.
+/// The page of the manual about a window, in the language of the user interface. The window, or
+/// else the nearest window around it that has a page, is identified by its object name or its
+/// property "helpPage". The start page when there is no such window or `window` is null.
 QUrl helpPage(const QWidget* window);
 
 } // namespace host

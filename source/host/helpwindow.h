@@ -6,7 +6,7 @@ class QTextBrowser;
 
 namespace host {
 
-/// A page of the manual, which stays open beside the dialog that it is about.
+/// Shows a page of the manual. It can stay open beside the dialog that the page is about.
 class HelpWindow : public QDialog
 {
     Q_OBJECT
@@ -14,8 +14,7 @@ class HelpWindow : public QDialog
 public:
     explicit HelpWindow(QWidget* parent);
 
-    /// Shows the page about `window`, and the start page for null; the window that is open already
-    /// is used again.
+    /// Shows the page about `window`, or the start page for null. An open help window is reused.
     static void showFor(QWidget* window, int topic);
 
 private:
@@ -24,7 +23,7 @@ private:
     QTextBrowser* m_text;
 };
 
-/// Opens the manual where F1 is pressed, at the page of the window there.
+/// Opens the manual when F1 is pressed, at the page about the window that has the focus.
 class HelpKey : public QObject
 {
 public:

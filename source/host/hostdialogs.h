@@ -7,23 +7,23 @@
 
 namespace host {
 
-/// A dialog of a service of the dictionary; null where there is no such service or dialog.
+/// Makes a dialog of a registered service; null when there is no such service or dialog.
 VNSI_EXPORT vnsi::VnUiModeDialogBasePtr makeDialog(const OdString& service, const OdString& name);
 
-/// A dialog together with its window, for programs that look into windows without running them.
-/// Dialogs do not tell their window: it is the one that comes up under the dialog's name while the
-/// dialog is made.
+/// A dialog together with its window, for programs that inspect windows without running them. A
+/// dialog object does not give access to its window, so the window is recognised by its object name
+/// while the dialog is being made.
 class VNSI_EXPORT WatchedDialog
 {
 public:
     WatchedDialog() = default;
-    /// Makes the dialog; null where there is no such service or dialog.
+    /// Makes the dialog; `window` is null when there is no such service or dialog.
     WatchedDialog(const OdString& service, const OdString& name);
 
     bool isNull() const { return m_dialog.isNull(); }
     explicit operator bool() const { return !isNull(); }
     vnsi::VnUiModeDialogBase* operator->() const { return m_dialog.get(); }
-    /// Null where the window is gone.
+    /// Null when the window has been deleted.
     QDialog* window() const { return m_window; }
 
 private:

@@ -8,8 +8,8 @@
 
 namespace host {
 
-/// A dialog of the host's own as its services hand it out. `T` is a QDialog that takes its keys
-/// with `readKeys(tree)` and leaves its answers with `writeAnswers(tree, isAccepted)`.
+/// Makes one of the host's own dialogs available to a service. `T` is a QDialog that reads its
+/// input with `readKeys(tree)` and writes its answers with `writeAnswers(tree, isAccepted)`.
 template <class T>
 class HostModeDialog : public vnsi::VnUiModeDialogBase
 {

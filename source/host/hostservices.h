@@ -4,9 +4,9 @@
 
 namespace host {
 
-/// The service "Dialog/Common": colour and file dialogs.
+/// Makes the service "Dialog/Common", which provides the colour and file dialogs.
 OdRxObjectPtr makeCommonDialogs();
-/// The service "Dialog/CmdsUI": the rename dialog.
+/// Makes the service "Dialog/CmdsUI", which provides the rename dialog.
 OdRxObjectPtr makeCommandDialogs();
 
 } // namespace host

@@ -10,19 +10,19 @@
 
 namespace host {
 
-/// The host of a program: while it lives, the host's services are registered and the loaded module
-/// is there. Make one, after the application object.
+/// The host inside a program. The host's services are registered and the module stays loaded as
+/// long as this object exists. Create one object, after the application object.
 class VNSI_EXPORT Host
 {
 public:
     Host();
-    /// Unloads the module, takes the services back and writes the settings.
+    /// Unloads the module, removes the services and writes the settings.
     ~Host();
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
 
-    /// Loads the module library at `path`, unloading one that was loaded before. Returns what went
-    /// wrong as a sentence for the user; empty when it is loaded.
+    /// Loads the module library at `path` and unloads an earlier one first. Returns an empty text
+    /// on success, otherwise a sentence that tells the user what went wrong.
     QString loadModule(const QString& path);
     void unloadModule();
     bool isModuleLoaded() const { return !m_module.isNull(); }

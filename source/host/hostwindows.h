@@ -6,15 +6,15 @@ class QWidget;
 
 namespace host {
 
-/// Names the program's main window, under which dialogs stand when no other window is active. The
-/// caller keeps it; null takes it back.
+/// Sets the program's main window, which is the parent of dialogs when no other window is active.
+/// The caller keeps ownership; null unsets it.
 VNSI_EXPORT void setMainWindow(QWidget* window);
 
-/// The window that a dialog made now belongs to: the modal one in front, else the active one, else
-/// the main window; null when there is none and off the user-interface thread.
+/// The window that a new dialog belongs to: the topmost modal window, else the active window, else
+/// the main window. Null when there is none and when called off the user-interface thread.
 VNSI_EXPORT QWidget* currentWindow();
 
-/// Makes another window the current one while it lives; null changes nothing.
+/// Makes another window the current one while this object exists; null changes nothing.
 class CurrentWindowScope
 {
 public:

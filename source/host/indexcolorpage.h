@@ -10,7 +10,7 @@ namespace host {
 
 class SwatchGrid;
 
-/// The page of the colour dialog that chooses an index colour, ByLayer or ByBlock.
+/// The page of the colour dialog for index colours, ByLayer and ByBlock.
 class IndexColorPage : public QWidget
 {
     Q_OBJECT
@@ -19,7 +19,8 @@ public:
     explicit IndexColorPage(QWidget* parent = nullptr);
 
     void setLogicalColorsEnabled(bool byLayer, bool byBlock);
-    /// The index: 1 to 255, 0 ByBlock, 256 ByLayer; -1 while the text field holds none of them.
+    /// The chosen index: 1 to 255, 0 for ByBlock or 256 for ByLayer; -1 while the text field is
+    /// invalid.
     int index() const { return m_index; }
     void setIndex(int index);
 

@@ -6,14 +6,15 @@
 
 namespace vnsi {
 
-/// A key of objects: kept once for the life of the process, however many objects have it.
+/// The key of an object member. Each text is stored once while the process runs, however many
+/// objects use it.
 struct Key
 {
     std::string text;
     std::size_t hash;
 };
 
-/// The one entry of `text`; the same pointer for the same text, from any thread.
+/// Returns the entry of `text`. Equal texts give the same pointer, on every thread.
 const Key* internKey(std::string_view text);
 
 } // namespace vnsi

@@ -14,11 +14,12 @@ struct LineType
     OdDbObjectId id;
 };
 
-/// Names the linetypes of the drawing in front, which linetype pickers offer from then on. ByLayer
-/// and ByBlock need not be among them.
+/// Sets the linetypes of the drawing in the foreground, which the linetype pickers offer from now
+/// on. ByLayer and ByBlock need not be included.
 VNSI_EXPORT void setLineTypes(std::vector<LineType> types);
 
-/// ByLayer, ByBlock and the linetypes of the drawing in front; "Continuous" is always there.
+/// ByLayer, ByBlock and the linetypes of the drawing in the foreground. "Continuous" is always
+/// included.
 const std::vector<LineType>& lineTypes();
 
 } // namespace host

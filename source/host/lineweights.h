@@ -6,7 +6,8 @@
 
 namespace host {
 
-/// What a lineweight is called, in hundredths of a millimetre; -1 ByLayer, -2 ByBlock, -3 default.
+/// The text of a lineweight in hundredths of a millimetre, or of -1 (ByLayer), -2 (ByBlock), -3
+/// (default).
 VNSI_EXPORT QString lineweightText(int weight);
 
 } // namespace host

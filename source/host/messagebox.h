@@ -14,8 +14,8 @@ struct Message
     int icon = 0;
 };
 
-/// Shows the message and returns the answer of the button pressed; of its cancelling button when it
-/// was closed another way.
+/// Shows the message and returns the answer of the pressed button. When the box was closed in
+/// another way, returns the answer of its cancelling button.
 int showMessageBox(const Message& message);
 
 } // namespace host

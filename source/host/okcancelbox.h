@@ -5,7 +5,8 @@ class QDialogButtonBox;
 
 namespace host {
 
-/// "确定" and "取消", connected to the dialog, named "ok" and "cancel".
+/// Makes the buttons OK and Cancel, which have the object names "ok" and "cancel" and are connected
+/// to the dialog.
 QDialogButtonBox* makeOkCancelBox(QDialog& dialog);
 
 } // namespace host

@@ -4,8 +4,8 @@
 
 namespace host {
 
-/// The text as a message can show it: line feeds alone as line ends, endless words allowed to
-/// break, and what no window has room for left out.
+/// Prepares a text for a message: converts line ends to line feeds, allows very long words to
+/// break, and leaves out what no window has room for.
 QString readable(const QString& text);
 
 } // namespace host

@@ -9,9 +9,10 @@ class QLineEdit;
 
 namespace host {
 
-/// Asks for one line of text. Checks nothing: what a name may be is the caller's business.
-/// Keys: "DefaultName", "Tip" (the label; with it the dialog asks for a description). Answers:
-/// "Success" and, where that is true, "NewName".
+/// Asks for one line of text. It accepts any text; callers check names themselves.
+///
+/// Input keys: "DefaultName", "Tip" (the label; with it the dialog asks for a description). Answer
+/// keys: "Success" and, when that is true, "NewName".
 class RenameDialog : public QDialog
 {
     Q_OBJECT

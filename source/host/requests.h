@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// A command runs while one of these lives.
+/// Marks a command as running while this object exists.
 class VNSI_EXPORT CommandScope
 {
 public:
@@ -14,10 +14,10 @@ public:
     CommandScope& operator=(const CommandScope&) = delete;
 };
 
-/// How many interface states are marked as left by requests.
+/// The number of interface states that are marked as left by requests.
 VNSI_EXPORT int markedScraps();
 
-/// The service "Core/RequestSvr".
+/// Makes the service "Core/RequestSvr".
 OdRxObjectPtr makeRequestSvr();
 
 } // namespace host

@@ -10,7 +10,7 @@ namespace host {
 
 VNSI_EXPORT QColor indexColor(int index);
 QColor toQColor(const OdCmEntityColor& color);
-/// A square of the colour with a thin border.
+/// A square icon in this colour with a thin border.
 QIcon swatchIcon(const QColor& color);
 
 } // namespace host

@@ -5,18 +5,19 @@
 
 namespace host {
 
-/// Index colours in rows to choose from, with the mouse or the arrow keys.
+/// Shows index colours in rows. The user chooses one with the mouse or the arrow keys.
 class SwatchGrid : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `indices` row by row, `columns` to a row, each drawn `side` pixels wide and high.
+    /// Shows `indices` row by row with `columns` per row. Each swatch is `side` pixels wide and
+    /// high.
     SwatchGrid(QVector<int> indices, int columns, int side, QWidget* parent = nullptr);
 
-    /// The index chosen; -1 for none.
+    /// The chosen index; -1 when there is none.
     int current() const { return m_current; }
-    /// Marks an index; one that is not in the grid takes the mark away.
+    /// Marks an index as chosen. An index outside the grid removes the mark.
     void setCurrent(int index);
 
     QSize sizeHint() const override;
@@ -24,9 +25,9 @@ public:
 
 signals:
     void chosen(int index);
-    /// A double click or Enter on an index.
+    /// Emitted when the user double-clicks an index or presses Enter on it.
     void confirmed(int index);
-    /// The index under the mouse; -1 when it left.
+    /// Emitted with the index under the mouse, or with -1 when the mouse has left.
     void hovered(int index);
 
 protected:

@@ -5,7 +5,7 @@
 
 namespace host {
 
-/// Sets a system variable; names compare without regard to case. "TILEMODE" is 1 at first.
+/// Sets a system variable. Names are compared without letter case. "TILEMODE" is initially 1.
 VNSI_EXPORT void setVar(const OdString& name, OdInt16 value);
 
 } // namespace host

@@ -9,7 +9,7 @@
 
 namespace host {
 
-/// What a task dialog asks: `commands` are its answers, an id and a text each.
+/// The question of a task dialog. `commands` are the possible answers, each with an id and a text.
 struct TaskQuestion
 {
     OdString title;
@@ -17,7 +17,7 @@ struct TaskQuestion
     std::vector<std::pair<int, OdString>> commands;
 };
 
-/// A question with a large button for each answer.
+/// Asks a question with one large button per answer.
 class TaskDialog : public QDialog
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ class TaskDialog : public QDialog
 public:
     TaskDialog(const TaskQuestion& question, QWidget* parent);
 
-    /// The id of the answer chosen; 2 when none was.
+    /// The id of the chosen answer; 2 when none was chosen.
     int answer() const { return m_answer; }
 
 private:

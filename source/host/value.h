@@ -8,8 +8,8 @@ namespace vnsi {
 
 class ValueNode;
 
-/// A place in a container that holds a node. It holds a reference, and lets the node count how many
-/// containers it hangs in.
+/// A container's reference to a node. It keeps the node alive and lets the node count how many
+/// containers it is part of.
 class Branch
 {
 public:
@@ -29,28 +29,28 @@ private:
     ValueNode* m_node;
 };
 
-/// A whole number out of a JSON text, which does not tell the two integer types apart: it reads as
-/// either one that it fits.
+/// A whole number from a JSON text. JSON does not distinguish the two integer types, so it can be
+/// read as either type that it fits.
 struct JsonInteger
 {
     OdInt64 value;
 };
 
-/// What stands under a key or in an array: a scalar in place, or a node.
+/// The value of a member or array element: a scalar, or a node.
 using Value =
     std::variant<std::monostate, bool, OdInt32, OdInt64, JsonInteger, double, OdString, Branch>;
 
-// Reading with the getters' rules: another type gives the fallback.
+// These functions follow the rule of the getters: a value of another type gives the fallback.
 bool readBool(const Value& value, bool fallback);
 OdInt32 readInt(const Value& value, OdInt32 fallback);
 OdInt64 readLong(const Value& value, OdInt64 fallback);
 OdString readText(const Value& value, const OdString& fallback);
-/// The node of a branch; null for scalars.
+/// The node of a branch; null for a scalar.
 ValueNode* readNode(const Value& value);
 
-/// The scalar of a scalar node, otherwise a branch on the node.
+/// The value of a scalar node; for any other node a branch that refers to it.
 Value toValue(const VnJsonPtr& node);
-/// A handle on the value: the node of a branch, a node of its own for a scalar.
+/// A handle for the value: the node of a branch, or a new node for a scalar.
 VnJsonPtr toHandle(const Value& value);
 
 } // namespace vnsi

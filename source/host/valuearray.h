@@ -22,7 +22,7 @@ public:
     void Clear() override;
 
     const std::vector<Value>& elements() const { return m_elements; }
-    /// Appends without asking whether the value holds this array.
+    /// Appends a value without checking whether it contains this array.
     void add(Value value) { m_elements.push_back(std::move(value)); }
 
 private:

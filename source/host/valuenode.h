@@ -7,8 +7,8 @@
 
 namespace vnsi {
 
-/// What all kinds of nodes share: the counts, and the answers of a node that is not of the kind an
-/// operation is for.
+/// Common base of all nodes. It keeps the counts and implements the operations for nodes of a kind
+/// that does not support them.
 class ValueNode : public IElementValueBase
 {
 public:
@@ -20,12 +20,12 @@ public:
     virtual Kind kind() const = 0;
     /// The value of a scalar node; null for containers.
     virtual const Value* scalar() const { return nullptr; }
-    /// Appends the containers that hang in this one.
+    /// Appends the containers that are direct children of this one.
     virtual void collectChildren(std::vector<ValueNode*>& children) const;
 
     void hang() { m_hanging.fetch_add(1, std::memory_order_relaxed); }
     void unhang() { m_hanging.fetch_sub(1, std::memory_order_relaxed); }
-    /// Whether this node may become a child of `parent`: it must not be it nor hold it somewhere.
+    /// Whether this node may become a child of `parent`: it must not be `parent` or contain it.
     bool mayHangIn(const ValueNode& parent) const;
 
     bool GetDataB(const char* key, bool fallback) const override;
@@ -48,16 +48,16 @@ public:
     virtual void Append(const VnJsonPtr& value);
     virtual void AppendI(OdInt32 value);
     virtual void AppendSW(const OdString& value);
-    /// Inserts before element `index`; at the end when it is not below the count.
+    /// Inserts before element `index`; appends when `index` is not below the count.
     virtual void Insert(int index, const VnJsonPtr& value);
     virtual void Remove(int index);
     /// Removes all members or elements.
     virtual void Clear();
 
 protected:
-    /// What stands under `path`; null where there is nothing and on nodes that are no objects.
+    /// The value under `path`; null when there is none and on nodes that are no objects.
     virtual const Value* find(const char* path) const;
-    /// Writes `value` under `path`; nothing on nodes that are no objects.
+    /// Writes `value` under `path`; does nothing on nodes that are no objects.
     virtual void store(const char* path, Value value);
 
 private:

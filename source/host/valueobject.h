@@ -8,14 +8,14 @@
 
 namespace vnsi {
 
-/// An object: its members in one array in the order they came. Few members are searched one by one,
-/// many through an index.
+/// An object with its members in one array, in the order in which they were added. A few members
+/// are searched one by one, many through an index.
 class ValueObject final : public ValueNode
 {
 public:
     struct Member
     {
-        const Key* key; ///< Null where a member was removed.
+        const Key* key; ///< Null for a removed member.
         Value value;
     };
 
@@ -29,7 +29,7 @@ public:
     void Clear() override;
 
     const std::vector<Member>& members() const { return m_members; }
-    /// Writes a member of this object itself; the key is taken as it stands.
+    /// Sets a member of this very object; `key` is not treated as a path.
     void put(std::string_view key, Value value);
 
 protected:
@@ -42,9 +42,9 @@ private:
     const Member* member(std::string_view key) const;
     void removeMember(const Member& gone);
     void rebuildIndex();
-    /// The object that the last part of `path` is a key of; null where there is none.
+    /// The object that contains the last key of `path`; null when it does not exist.
     const ValueObject* holderOf(std::string_view path) const;
-    /// The same, made where it is missing.
+    /// The object that contains the last key of `path`; creates it when it is missing.
     ValueObject& makeHolderOf(std::string_view path);
     ValueObject& makeObject(std::string_view key);
 

@@ -4,7 +4,7 @@
 
 namespace vnsi {
 
-/// A scalar that stands alone: an element taken out of its array.
+/// A scalar as a node of its own, made for an element that is taken out of an array.
 class ValueScalar final : public ValueNode
 {
 public:

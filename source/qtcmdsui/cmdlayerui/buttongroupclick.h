@@ -4,9 +4,9 @@
 
 namespace vnsi {
 
-/// The signal `buttonClicked(int)`, by which the dialogs' groups of buttons are connected. Qt's
-/// newest headers of this line call it `idClicked`; the older name is what other programs on this
-/// interface listen to, and it is there in all of them.
+/// The signal `buttonClicked(int)`, which the dialogs use for their button groups. The newest
+/// headers of Qt 5 prefer the name `idClicked`; the older name exists in all of them, and other
+/// programs on this interface rely on it.
 inline auto buttonClickedWithId()
 {
     QT_WARNING_PUSH

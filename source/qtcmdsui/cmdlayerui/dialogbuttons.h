@@ -6,7 +6,7 @@ class QPushButton;
 
 namespace vnsi {
 
-/// The buttons that dialogs end with.
+/// The buttons at the end of a dialog.
 struct OkCancelHelp
 {
     QPushButton* ok = nullptr;
@@ -14,7 +14,7 @@ struct OkCancelHelp
     QPushButton* help = nullptr;
 };
 
-/// The row of OK, Cancel and Help at a dialog's right, with OK as its default button.
+/// Makes the row with OK, Cancel and Help at the right edge of a dialog. OK is the default button.
 QBoxLayout* makeButtonRow(QDialog& dialog, OkCancelHelp& buttons);
 
 } // namespace vnsi

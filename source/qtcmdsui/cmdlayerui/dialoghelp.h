@@ -2,7 +2,7 @@
 
 namespace vnsi {
 
-/// Shows the host's help; does nothing where the host offers none.
+/// Shows the host's help; does nothing when the host offers none.
 void vnqtShowHelp();
 
 } // namespace vnsi

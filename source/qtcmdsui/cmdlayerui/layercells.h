@@ -14,10 +14,10 @@ class QTableWidgetItem;
 
 namespace vnsi {
 
-/// How a column shows a record's value.
+/// How a column shows the value of a record.
 enum class LayerCell { Status, Text, MarkedName, Toggle, Color, LineWidth, Number };
 
-/// The icons of cells and buttons, by their file names.
+/// The icons of cells and buttons. The enumerators correspond to the names of the icon files.
 enum class LayerIcon {
     Current,
     NoCurrent,
@@ -38,35 +38,35 @@ enum class LayerIcon {
     Count
 };
 
-/// What a click on a cell does to its record.
+/// The effect of a click on a cell.
 enum class LayerClick {
     None,
-    Mark,         ///< Nothing is edited, yet the layer counts as changed; this is intended.
-    Toggle,       ///< Turns the flag under the column's key round.
-    ToggleOff,    ///< The same; for the current layer only when the user insists.
-    ToggleFrozen, ///< The same; refused for the current layer.
+    Mark,         ///< Edits nothing, yet the layer counts as changed; this is intended.
+    Toggle,       ///< Inverts the flag under the column's key.
+    ToggleOff,    ///< Like `Toggle`, but the current layer is only turned off after a confirmation.
+    ToggleFrozen, ///< Like `Toggle`, but refused for the current layer.
     ChooseColor,
     ChooseTransparency
 };
 
-/// What a double click does.
+/// The effect of a double click on a cell.
 enum class LayerDoubleClick { None, MakeCurrent, Rename, Describe };
 
 enum class LayerAlign { Left, Centre };
 
-/// The icons of a toggle.
+/// The two icons of a toggle.
 struct LayerIcons
 {
     LayerIcon whenTrue = LayerIcon::Count;
     LayerIcon whenFalse = LayerIcon::Count;
 };
 
-/// One column of a table of layers: all that tables know of it.
+/// The complete description of a column in a table of layers.
 struct LayerColumn
 {
-    const char* header; ///< Source text; tables translate it.
+    const char* header; ///< The source text, which the tables translate.
     LayerCell cell;
-    const char* key; ///< Of the record's member that is shown.
+    const char* key; ///< The key of the record member that is shown.
     LayerAlign align = LayerAlign::Left;
     LayerClick click = LayerClick::None; ///< All but `None` mark the layer as modified.
     LayerIcons icons = {};
@@ -96,7 +96,7 @@ inline constexpr LayerColumn kVPortFrozen{QT_TRANSLATE_NOOP("cmdlayerui", "æ–°è§
     LayerCell::Toggle, layerkey::kVPortFrozen, LayerAlign::Centre, LayerClick::Toggle,
     {LayerIcon::AllFrozen, LayerIcon::AllThaw}};
 
-/// The column of all viewports' freezing, which tables head differently.
+/// The column for freezing in all viewports, whose header differs between the tables.
 constexpr LayerColumn frozen(const char* header)
 {
     return {header, LayerCell::Toggle, layerkey::kFrozen, LayerAlign::Centre,
@@ -104,9 +104,9 @@ constexpr LayerColumn frozen(const char* header)
 }
 } // namespace layercolumn
 
-/// Puts icons into the middle of their cells where the alignment says so; item views draw them at
-/// the left whatever it says. Remembers the size of each look: laying out the same few texts for
-/// thousands of cells is most of what sizing the columns costs.
+/// Draws icons in the centre of cells that are aligned to the centre, because item views always
+/// draw them at the left. It also caches the sizes of cells: most of the time for sizing the
+/// columns would otherwise be spent on laying out the same few texts thousands of times.
 class LayerCellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -117,31 +117,32 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// To be called when fonts or looks may have changed.
+    /// Call this when fonts or styles may have changed.
     void forgetSizes() { m_sizes.clear(); }
 
 private:
-    mutable QHash<QPair<QString, bool>, QSize> m_sizes; ///< By text and whether there is an icon.
+    /// The key is the text and whether there is an icon.
+    mutable QHash<QPair<QString, bool>, QSize> m_sizes;
 };
 
-/// Makes the cells of layer tables. Icons, swatches and colour texts are made once and shared by
+/// Makes the cells of layer tables. Icons, swatches and colour texts are created once and shared by
 /// all cells of a dialog.
 class LayerCells
 {
 public:
-    /// The icon, read from the resources at its first use.
+    /// The icon, which is read from the resources when it is first used.
     const QIcon& icon(LayerIcon icon);
-    /// The icon of a record's status; statuses without one of their own look like an ordinary
-    /// layer's.
+    /// The icon of a record's status. A status without an icon of its own uses that of an ordinary
+    /// layer.
     const QIcon& statusIcon(int status);
-    /// The icon of a layer within a layer state.
+    /// The icon of a layer in a layer state.
     const QIcon& stateIcon(bool current);
-    /// A new cell that cannot be edited in place.
+    /// Makes a cell that cannot be edited in place.
     QTableWidgetItem* makeItem(const LayerRecord& record, const LayerColumn& column);
-    /// Replaces one cell by what its record says now.
+    /// Updates one cell from its record.
     void refresh(QTableWidget& table, int row, int column, const LayerRecord& record,
         const LayerColumn& description);
-    /// Rebuilds all rows in one go; records with "Selected" are selected.
+    /// Rebuilds all rows and selects those whose records have "Selected" set.
     void fill(QTableWidget& table, const std::vector<LayerRecord>& records,
         const LayerColumn* columns, int columnCount);
 
@@ -157,7 +158,8 @@ private:
 
     std::array<QIcon, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
     QHash<QPair<qint64, qint64>, Swatch> m_swatches;
-    QHash<QPair<int, int>, QString> m_numberTexts; ///< By the cell's kind and the number.
+    /// The key consists of the kind of cell and the number.
+    QHash<QPair<int, int>, QString> m_numberTexts;
 };
 
 } // namespace vnsi

@@ -10,24 +10,24 @@ class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
 
-/// What the dialogs that offer layers in a list have in common.
+/// Functions that the dialogs with a list of layers share.
 namespace vnsi::layerlist {
 
 QListWidget* makeList(QDialog& dialog);
-/// A line edit that takes the focus by click only, so that the list keeps the keyboard.
+/// Makes a line edit that only gets the focus by a click, so that the list keeps the keyboard.
 QLineEdit* makeNameEdit(QDialog& dialog);
 
-/// One item for each record of `layers`, in order; the first one is made current.
+/// Adds one item for each record of `layers`, in order, and makes the first one current.
 void fill(QListWidget& list, const LayerRecordList& layers);
 void copyText(const QListWidgetItem* item, QLineEdit* edit);
 QSet<QString> selectedNames(const QListWidget& list);
-/// Writes the action `status` and the mark of a change into every record that `names` holds,
-/// exactly as written.
+/// Sets the status `status` and marks the record as changed for every record whose exact name is in
+/// `names`.
 void mark(const LayerRecordList& layers, const QSet<QString>& names, LayerStatus status);
 
-/// Shows why a name will not do; false, for the caller to hand on.
+/// Shows why a name is not acceptable. Always returns false, which callers can return in turn.
 bool refuse(const QString& text, const QString& caption);
-/// Asks with these buttons; whether the answer is `consent`.
+/// Asks a question with these buttons and returns whether the answer is `consent`.
 bool confirm(const QString& caption, const QString& text, int buttons, int consent);
 
 } // namespace vnsi::layerlist

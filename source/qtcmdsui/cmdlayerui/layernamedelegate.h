@@ -6,8 +6,9 @@
 
 namespace vnsi {
 
-/// For lists of thousands of names in one font: rows are equally high, and as wide as the advances
-/// of their characters add up to. Laying out each name is most of what showing such a list costs.
+/// A fast delegate for lists of thousands of names in one font. All rows have the same height, and
+/// a row's width is the sum of the advances of its characters. Laying out each name would take most
+/// of the time for showing such a list.
 class LayerNameDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -20,7 +21,8 @@ private:
     qreal textWidth(const QString& text) const;
 
     mutable QFont m_font;
-    mutable QSize m_frame; ///< What a row needs beside its text: width; height with the text.
+    /// The space that a row needs besides its text: the width without it, the height with it.
+    mutable QSize m_frame;
     mutable QHash<QChar, qreal> m_advances;
 };
 

@@ -4,19 +4,19 @@
 
 #include <optional>
 
-/// Names and descriptions of layers as the Layer Properties Manager lets the user type them.
+/// Editing of layer names and descriptions in the Layer Properties Manager.
 namespace vnsi::layernaming {
 
-/// Whether a layer may be renamed at all; the user is told where it may not.
+/// Whether a layer can be renamed at all. If not, the user is told why.
 bool mayRename(const LayerRecord& record);
 
-/// The new name, or description, that the user typed in the host's dialog; none when the user gave
-/// up.
+/// Asks for a new name or description in the host's dialog. Returns nothing when the user
+/// cancelled.
 std::optional<OdString> askName(const LayerRecord& record);
 std::optional<OdString> askDescription(const LayerRecord& record);
 
-/// Stores a typed name in record `row`, without the blanks around it. A name that is refused, which
-/// the user is told, leaves the one before.
+/// Stores a typed name, without surrounding blanks, in record `row`. A name that is not allowed is
+/// reported to the user, and the old one stays.
 void storeName(const LayerRecordList& layers, int row, const OdString& typed);
 
 } // namespace vnsi::layernaming

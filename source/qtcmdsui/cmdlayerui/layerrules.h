@@ -2,18 +2,18 @@
 
 #include "layerrecord.h"
 
-/// Which layers may become current and which may go, and what the user is told and asked about it.
+/// The rules for which layers may become current or be deleted, with their messages and questions.
 namespace vnsi::layerrules {
 
-/// Whether a layer may become the current one; the user is told where it may not.
+/// Whether a layer may become the current one. If not, the user is told why.
 bool mayBeCurrent(const LayerRecord& record);
-/// Asks what becomes of a layer that is off when it becomes current; true to turn it on.
+/// Asks whether a layer that is off and becomes current is to be turned on. Returns true for yes.
 bool asksToTurnOn();
 
-/// Marks the selected layers for deletion, or unmarks them where they were marked; how many may
-/// not be deleted.
+/// Marks the selected layers for deletion, or removes the mark from those that have it. Returns how
+/// many of them cannot be deleted.
 int toggleDeletion(const LayerRecordList& layers);
-/// Tells how many of the selected layers cannot be deleted.
+/// Tells the user how many of the selected layers cannot be deleted.
 void tellNotDeleted(int refused, int selected);
 
 } // namespace vnsi::layerrules

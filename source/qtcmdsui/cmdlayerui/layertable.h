@@ -8,25 +8,24 @@
 
 class QTableWidget;
 
-/// What tables of layers have in common beside their cells.
+/// What tables of layers share besides their cells.
 namespace vnsi::layertable {
 
-/// Columns, headers and the way of selecting; to be called once.
+/// Sets up columns, headers and the selection mode. Call it once.
 void setUp(QTableWidget& table, const QStringList& headers);
 
-/// Gives the columns the widths that a node keeps, as far as it has any.
+/// Sets the column widths that are stored in a node, as far as it has any.
 void applyWidths(QTableWidget& table, const VnJsonPtr& node);
-/// Writes the widths of all columns into a node.
+/// Stores the widths of all columns in a node.
 void writeWidths(const QTableWidget& table, const VnJsonPtr& node);
 
-/// Calls `react` whenever the user has drawn a column to another width; widths that the program
-/// gives do not count.
+/// Calls `react` when the user has resized a column. Widths set by the program do not count.
 void whenUserSizes(QTableWidget& table, std::function<void()> react);
 
-/// Lets the scroll bars follow the present rows and widths at once instead of later.
+/// Updates the scroll bars for the present rows and widths immediately instead of later.
 void settle(QTableWidget& table);
 
-/// Puts the keyboard's cursor into a cell, and its row into view, without selecting it.
+/// Moves the keyboard cursor to a cell and scrolls its row into view, without selecting it.
 void moveCursor(QTableWidget& table, int row, int column);
 
 } // namespace vnsi::layertable

@@ -8,20 +8,20 @@
 
 class QWidget;
 
-/// Edits of single layers that the tables of layers have in common.
+/// Edits of single layers that the tables of layers share.
 namespace vnsi::recordedits {
 
-/// Lets the user change a text in the host's rename dialog, which `label` may tell what it is; none
-/// when the user gives up.
+/// Lets the user edit a text in the host's rename dialog; `label` may say what the text is. Returns
+/// nothing when the user cancelled.
 std::optional<OdString> askForText(const OdString& present, const QString& label = {});
-/// Asks whether the current layer, about to be turned off, is to stay on.
+/// Asks whether the current layer, which is about to be turned off, should stay on.
 bool asksToKeepCurrentOn();
-/// Tells that the current layer cannot be frozen.
+/// Tells the user that the current layer cannot be frozen.
 void refuseToFreezeCurrent();
-/// Lets the user choose another colour in the host's dialog, whose tree is `question`; true when
-/// the record holds a new one.
+/// Lets the user choose another colour in the host's dialog, whose input tree is `question`.
+/// Returns true when the record has a new colour.
 bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent);
-/// Lets the user choose another transparency; true when the record holds a new one.
+/// Lets the user choose another transparency. Returns true when the record has a new one.
 bool editTransparency(LayerRecord record);
 
 } // namespace vnsi::recordedits

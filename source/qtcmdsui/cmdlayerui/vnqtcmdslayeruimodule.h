@@ -2,7 +2,7 @@
 
 #include "RxUnixModule.h"
 
-/// The module: registers the dialog service when it is loaded and takes it back when it is
+/// The module. It registers the dialog service when it is loaded and removes it when it is
 /// unloaded.
 class VnQtCmdsLayerUIModule : public OdRxModule
 {

@@ -8,8 +8,8 @@ namespace vnsi {
 class VnQtLayerCmdsUISvr : public hostapi::DialogService
 {
 public:
-    /// A new dialog under the host's current window; names compare without regard to case. Null for
-    /// an unknown name and for a dialog that cannot be built.
+    /// Makes a new dialog under the host's current window. Names are compared without letter case.
+    /// Returns null for an unknown name and when the dialog cannot be built.
     VnUiModeDialogBasePtr makeDialog(const OdString& dialogName) override;
 };
 

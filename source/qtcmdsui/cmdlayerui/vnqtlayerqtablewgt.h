@@ -4,7 +4,7 @@
 
 namespace vnsi {
 
-/// The table of layers: a press below the last row leaves the selection alone.
+/// The table of layers. Pressing the mouse below the last row does not change the selection.
 class VnQtLayerQTableWgt : public QTableWidget
 {
     Q_OBJECT

@@ -13,7 +13,8 @@ namespace vnsi {
 
 class VnQtLayerQTableWgt;
 
-/// The Layer Properties Manager: edits the records of "LayerList" and lets the command apply them.
+/// The Layer Properties Manager. The user edits the records of "LayerList", and the command applies
+/// them.
 class VnQtUiDynLayerCmdImpl : public VnQtModeDialogImpl<VnQtUiDynLayerCmdImpl, QDialog>
 {
     Q_OBJECT
@@ -37,7 +38,7 @@ private slots:
     void slot_BtnLayerControllerGroupClicked(int id);
 
 private:
-    /// The buttons above the table, by their ids.
+    /// The ids of the buttons above the table.
     enum Controller { kNewLayer, kDeleteLayer, kSetCurrent };
 
     QBoxLayout* makeButtonRow();
@@ -62,7 +63,8 @@ private:
     QPushButton* m_applyButton = nullptr;
     QShortcut* m_deleteKey = nullptr;
     ManagerTable m_rows;
-    bool m_renaming = false; ///< A typed name or description is on its way into the table.
+    /// Whether a typed name or description is currently being written into the table.
+    bool m_renaming = false;
 };
 
 } // namespace vnsi

@@ -15,8 +15,8 @@ class VnQtUiLayerTransparencyModify : public QDialog
 
 public:
     explicit VnQtUiLayerTransparencyModify(QWidget* parent = nullptr);
-    /// Shows the percentage under "transparency" of `tree`; when the dialog is accepted the chosen
-    /// one, 0 to 90, stands there.
+    /// Shows the percentage under "transparency" of `tree`. When the dialog is accepted, the chosen
+    /// percentage, 0 to 90, is written there.
     void setData(const VnJsonPtr& tree);
 
 private slots:

@@ -7,7 +7,7 @@ class QListWidgetItem;
 
 namespace vnsi {
 
-/// Lets the user pick layers to delete and, once confirmed, marks them for the command.
+/// Lets the user pick layers to delete and, after a confirmation, marks them for the command.
 class VnQtLaydelLayerDlg : public VnQtModeDialogImpl<VnQtLaydelLayerDlg, QDialog>
 {
     Q_OBJECT
@@ -25,7 +25,8 @@ private slots:
 
 private:
     bool isReferencedInBlocks(const QSet<QString>& names);
-    /// The question about `count` layers; `single` names the layer where it is only one.
+    /// The question whether to delete `count` layers. `single` is the layer's name when there is
+    /// only one.
     QString question(bool inBlocks, int count, const QString& single) const;
 
     QListWidget* m_list = nullptr;

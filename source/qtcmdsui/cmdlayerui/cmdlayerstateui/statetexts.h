@@ -6,11 +6,11 @@
 
 #include <QStringList>
 
-/// What the dialogs of layer states share.
+/// Functions that the dialogs of layer states share.
 namespace vnsi::layerstates {
 
 inline constexpr wchar_t kService[] = L"Dialog/CmdLayer";
-/// What to say of a name with characters that names may not hold, and under which caption.
+/// The message about a name with characters that are not allowed, and its caption.
 QString badCharactersText();
 QString badCharactersCaption();
 
@@ -21,12 +21,12 @@ VnJsonPtr list(const VnJsonPtr& element);
 
 /// The text under `key`; empty for an empty node.
 QString text(const VnJsonPtr& node, const char* key);
-/// Whether a record of a state says that it comes from an external reference, whatever the letter
-/// case.
+/// Whether a state's record says that the state comes from an external reference. Letter case is
+/// ignored.
 bool isFromReference(const VnJsonPtr& state);
 
-/// Shows a message with buttons of its own; the number of the button from 0, `fallback` when none
-/// was pressed.
+/// Shows a message with custom buttons. Returns the number of the pressed button, counted from 0,
+/// or `fallback` when none was pressed.
 int ask(const QString& caption, const QString& text, const QStringList& buttons, int fallback,
     int icon = kVnIconInformation);
 

@@ -6,7 +6,8 @@ class QTableWidget;
 
 namespace vnsi {
 
-/// Offers the layers of "NeedAddlayerList" and leaves the chosen ones there.
+/// Lets the user choose from the layers in "NeedAddlayerList" and leaves only the chosen ones
+/// there.
 class VnQtAddNewLayerDlg : public VnQtModeDialogImpl<VnQtAddNewLayerDlg, QDialog>
 {
     Q_OBJECT

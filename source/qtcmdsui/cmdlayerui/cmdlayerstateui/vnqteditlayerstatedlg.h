@@ -52,9 +52,10 @@ private:
     QPushButton* m_deleteButton = nullptr;
     QTableWidget* m_table = nullptr;
     LayerCells m_cells;
-    std::vector<LayerRecord> m_rows;          ///< What the rows show; removed layers have none.
-    int m_currentRow = -1;                    ///< -1 when its layer is not shown.
-    std::vector<LayerRecord> m_currentLayers; ///< What says that it is current, shown or not.
+    std::vector<LayerRecord> m_rows; ///< The record of each row; removed layers have no row.
+    int m_currentRow = -1;           ///< The row of the current layer; -1 when it is not shown.
+    /// All records that claim to be the current layer, whether shown or not.
+    std::vector<LayerRecord> m_currentLayers;
     QStringList m_pendingDeletion;
 };
 

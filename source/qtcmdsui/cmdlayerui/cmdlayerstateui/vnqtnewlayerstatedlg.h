@@ -8,7 +8,7 @@ class QTextEdit;
 
 namespace vnsi {
 
-/// Asks for name and description of a new layer state.
+/// Asks for the name and the description of a new layer state.
 class VnQtNewLayerStateDlg : public VnQtModeDialogImpl<VnQtNewLayerStateDlg, QDialog>
 {
     Q_OBJECT

@@ -15,7 +15,8 @@ class QTableWidgetItem;
 
 namespace vnsi {
 
-/// The Layer State Manager: lists the layer states and asks the command for what is done with them.
+/// The Layer State Manager. It lists the layer states and asks the command to carry out the user's
+/// actions.
 class VnQtUiDynLayerStateCmdImpl : public VnQtModeDialogImpl<VnQtUiDynLayerStateCmdImpl, QDialog>
 {
     Q_OBJECT
@@ -26,9 +27,9 @@ public:
 
     bool initDialog() override;
     bool setData(VnJsonPtr data, OdRxObjectPtr invoker) override;
-    /// The section of the user's settings that the dialog keeps.
+    /// The name of the section of the user's settings that this dialog keeps.
     virtual OdString configSection() const;
-    /// Esc closes the window like its close button, so that the settings are kept.
+    /// Esc closes the window in the same way as its close button, so that the settings are saved.
     void reject() override;
 
 protected:
@@ -112,7 +113,7 @@ private:
     QPushButton* m_extendButton = nullptr;
 
     VnJsonPtr m_config;
-    QTableWidgetItem* m_currentItem = nullptr; ///< The name cell the last action worked on.
+    QTableWidgetItem* m_currentItem = nullptr; ///< The name cell that the last action worked on.
     QString m_oldName;
     bool m_isExpanded = false;
 };

@@ -8,7 +8,7 @@ class QListWidgetItem;
 
 namespace vnsi {
 
-/// Lets the user choose, or name anew, the layer that selected entities go to.
+/// Lets the user choose, or type as a new name, the layer that selected entities are moved to.
 class VnQtLaymchLayerDlg : public VnQtModeDialogImpl<VnQtLaymchLayerDlg, QDialog>
 {
     Q_OBJECT

@@ -10,8 +10,8 @@ class QListWidgetItem;
 
 namespace vnsi {
 
-/// Both steps of a merge: first the layers to merge, then the one they are merged into. The tree
-/// says which step it is.
+/// Both steps of a merge: first the user chooses the source layers, then the target layer. The tree
+/// tells which step to show.
 class VnQtLaymrgLayerDlg : public VnQtModeDialogImpl<VnQtLaymrgLayerDlg, QDialog>
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ private:
     int m_blockReferences = 0;
     QStringList m_names;
     QStringList m_sources;
-    QLineEdit* m_targetEdit = nullptr; ///< Null in source mode.
+    QLineEdit* m_targetEdit = nullptr; ///< Null in the step for the sources.
     QListWidget* m_list = nullptr;
 };
 

@@ -8,13 +8,13 @@
 
 namespace vnsi {
 
-/// The translator's three lists: the drawing's layers that are not mapped yet, the target layers,
-/// and the mappings. They are the dialog's own: records are copied on their way in and out, so
-/// nothing that a command does to a tree reaches them. What has no name is no layer and is left
-/// out.
+/// The translator's three lists: the layers of the drawing that are not mapped yet, the target
+/// layers, and the mappings. The dialog owns these lists. Records are copied when they enter and
+/// leave them, so changes that a command makes to a tree do not affect them. Records without a name
+/// are left out.
 ///
-/// Names pair without regard to case; of several layers that pair, the one of the same letters goes
-/// first.
+/// Names are matched without letter case. When several layers match, one with exactly the same
+/// spelling takes precedence.
 class TranslationLists
 {
 public:
@@ -23,17 +23,18 @@ public:
     {
         QString name;
         VnJsonPtr record;
-        int place; ///< In the drawing's list, where it goes back to.
+        /// The position in the drawing's list, to which the layer returns when it is unmapped.
+        int place;
         bool isUsed() const { return record->GetDataB(transkey::kFromUsed); }
     };
-    /// Both halves are always there.
+    /// Both members are always set.
     struct Mapping
     {
         Source source;
         TargetRecord target;
     };
 
-    /// In the order of their places.
+    /// In the order of their `place`.
     const std::vector<Source>& sources() const { return m_sources; }
     const std::vector<TargetRecord>& targets() const { return m_targets; }
     const std::vector<Mapping>& mappings() const { return m_mappings; }
@@ -41,21 +42,21 @@ public:
     VnJsonPtr targetArray() const;
     VnJsonPtr mappingArray() const;
 
-    /// The drawing's layers as they are now: those that are mapped are not listed, and mappings of
-    /// layers that are gone go, too. False when there were none such.
+    /// Sets the drawing's current layers. Mapped layers are not listed, and mappings of layers that
+    /// no longer exist are dropped. Returns false when no mapping was dropped.
     bool setSources(const VnJsonPtr& records);
     void setTargets(const VnJsonPtr& records);
 
-    /// Maps the layers in those rows of the sources onto a copy of the target.
+    /// Maps the layers in these rows of the sources to copies of the target.
     void map(const std::vector<int>& rows, const TargetRecord& target);
-    /// Whether some layer has a target of its own name.
+    /// Whether some layer has a target of the same name.
     bool hasSame() const;
-    /// Maps every layer that has one.
+    /// Maps every layer that has a target of the same name.
     void mapSame();
-    /// Takes in mappings that files brought, for the layers that are there and not mapped yet;
-    /// those of other layers are left out. False when there were none to take in.
+    /// Adds mappings that were loaded from files, as far as their layers exist and are not mapped
+    /// yet. Returns false when no mapping was added.
     bool applyLoaded(const VnJsonPtr& mappings);
-    /// Takes a mapping apart again: its layer goes back where it was.
+    /// Removes a mapping. Its layer returns to its former position in the sources.
     void unmap(int index);
     void unmapAll();
 
@@ -66,7 +67,8 @@ private:
     std::vector<Source> m_sources;
     std::vector<TargetRecord> m_targets;
     std::vector<Mapping> m_mappings;
-    QHash<QString, int> m_targetRows; ///< By folded name; the first of several.
+    /// The keys are folded names; the value is the first of several rows.
+    QHash<QString, int> m_targetRows;
 };
 
 } // namespace vnsi

@@ -20,13 +20,13 @@ public:
     explicit VnQtLaytransListWgt(QWidget* parent = nullptr);
 
     QMenu& menu() const { return *m_menu; }
-    /// One item for each layer, in one go. What was selected or current stays so as long as it is
-    /// listed.
+    /// Shows one item for each layer. Items that were selected or current keep that state if they
+    /// are still listed.
     void fill(const std::vector<TranslationLists::Source>& layers, LayerCells& cells);
     void fill(const std::vector<TargetRecord>& layers, LayerCells& cells);
-    /// From top to bottom.
+    /// The selected rows from top to bottom.
     std::vector<int> selectedRows() const;
-    /// Adds every item whose text is `name`, letter case apart, to the selection.
+    /// Adds every item whose text is `name`, ignoring letter case, to the selection.
     void addToSelection(const QString& name);
 
 protected:
@@ -40,7 +40,7 @@ private:
     QMenu* m_menu;
 };
 
-/// The table of mappings: one row a mapping, nothing edited in place.
+/// The table of mappings with one row per mapping. Its cells cannot be edited in place.
 class VnQtLaytransQTableWgt : public QTableWidget
 {
     Q_OBJECT
@@ -48,9 +48,9 @@ class VnQtLaytransQTableWgt : public QTableWidget
 public:
     explicit VnQtLaytransQTableWgt(QWidget* parent = nullptr);
 
-    /// One row for each mapping, in one go.
+    /// Shows one row for each mapping.
     void fill(const std::vector<TranslationLists::Mapping>& mappings);
-    /// The selected row; -1 when none is.
+    /// The selected row; -1 when there is none.
     int selectedRow() const;
 };
 

@@ -13,7 +13,7 @@ class VnColorComboBox;
 class VnLineTypeComboBox;
 class VnLineWidthComboBox;
 
-/// Defines a new target layer of the layer translator, or edits the target of a mapping.
+/// Defines a new target layer for the layer translator, or edits the target of a mapping.
 class VnQtLaytransNewEditWgt : public VnQtModeDialogImpl<VnQtLaytransNewEditWgt, QDialog>
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private:
     QComboBox* m_transparency = nullptr;
     QComboBox* m_plotStyle = nullptr;
 
-    VnJsonPtr m_namesInUse; ///< Empty while a layer is edited.
+    VnJsonPtr m_namesInUse; ///< Empty while an existing layer is edited.
 };
 
 } // namespace vnsi

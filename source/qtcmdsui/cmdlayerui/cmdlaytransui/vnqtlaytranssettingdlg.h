@@ -8,7 +8,7 @@ class QCheckBox;
 
 namespace vnsi {
 
-/// Lets the user tick the six options of a layer translation.
+/// Lets the user choose the six options of a layer translation.
 class VnQtLaytransSettingWgt : public VnQtModeDialogImpl<VnQtLaytransSettingWgt, QDialog>
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ private slots:
     void slot_pbhelpClicked();
 
 private:
-    std::vector<QCheckBox*> m_boxes; ///< By option.
+    std::vector<QCheckBox*> m_boxes; ///< One check box per option.
 };
 
 } // namespace vnsi

@@ -17,8 +17,8 @@ namespace vnsi {
 class VnQtLaytransListWgt;
 class VnQtLaytransQTableWgt;
 
-/// The layer translator: maps the drawing's layers onto target layers and has the command translate
-/// them.
+/// The layer translator. The user maps layers of the drawing to target layers, and the command then
+/// translates them.
 class VnQtUiLaytransCmd : public VnQtModeDialogImpl<VnQtUiLaytransCmd, QDialog>
 {
     Q_OBJECT
@@ -82,18 +82,19 @@ private:
     void fillFrom();
     void fillTo();
     void fillTable();
-    /// Shows mappings that changed, which are then no longer the saved ones.
+    /// Shows the changed mappings and marks them as not saved.
     void showChangedMappings();
     void setSaved(bool isSaved);
 
     VnQtAnswer ask(int code, const VnQtArgumentWriter& writeArguments = {},
         std::vector<const char*> answers = {});
-    /// Replaces the targets by those the command answered, if it did.
+    /// Replaces the targets by those in the command's answer, if it contains any.
     void takeTargets(const VnQtAnswer& answer);
     void sendClicked(const QString& layer, bool inTable);
-    /// The layer as the user defines it, from `initial` on; empty when cancelled.
+    /// Lets the user define a layer, starting with `initial`. Returns the layer's record; empty
+    /// when the user cancelled.
     VnJsonPtr askForLayer(bool isEdit, const TargetRecord& initial);
-    /// Without a node when none is.
+    /// The selected target; a record without a node when none is selected.
     TargetRecord currentTarget() const;
 
     VnQtLaytransListWgt* m_fromList = nullptr;
@@ -116,11 +117,11 @@ private:
 
     LayerCells m_cells;
     TranslationLists m_lists;
-    QStringList m_loadedFiles; ///< Those of the last load.
+    QStringList m_loadedFiles; ///< The files of the last load.
     VnJsonPtr m_config;
     VnJsonPtr m_settings;
     QString m_drawingName;
-    bool m_isSaved = false; ///< Whether the mappings stand in a file as they are.
+    bool m_isSaved = false; ///< Whether the mappings are saved in a file as they are now.
 };
 
 } // namespace vnsi

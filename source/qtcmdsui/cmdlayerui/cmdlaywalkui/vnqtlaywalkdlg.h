@@ -15,8 +15,8 @@ namespace vnsi {
 
 class VnQtLayWalkListWgt;
 
-/// Shows the layers of a drawing to walk through: those selected are on in the drawing, at once,
-/// and all others off.
+/// The layer walk. The drawing immediately shows the layers that are selected in the list; all
+/// others are off.
 class VnQtLayWalkDlg : public VnQtModeDialogImpl<VnQtLayWalkDlg, QDialog>
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
 
     bool initDialog() override;
     bool setData(VnJsonPtr data, OdRxObjectPtr invoker) override;
-    /// The one way out, of the close button, the frame and Esc.
+    /// Closes the dialog. The close button, the window frame and Esc all end here.
     void reject() override;
 
 private slots:
@@ -68,14 +68,15 @@ private:
     struct ActionRow;
     static const ActionRow kActions[];
 
-    /// The filter used last. It is kept when it is turned off, as deleting it hides its layers.
+    /// The filter that was used last. It is remembered when the user turns it off, because deleting
+    /// it hides its layers.
     struct Filter
     {
         bool isOn = false;
         QString pattern;
         WalkLayers::Choice letThrough;
     };
-    /// What the list is put back to when a request fails.
+    /// The state to which the list returns when a request fails.
     struct View
     {
         Filter filter;
@@ -115,11 +116,11 @@ private:
     void saveSettings() const;
 
     WalkLayers m_layers;
-    VnJsonPtr m_kept;        ///< The layers as they were when the dialog opened.
-    LayerTreeMark m_given;   ///< The layer tree last taken from the command.
-    std::vector<int> m_rows; ///< The record of each row.
+    VnJsonPtr m_kept;        ///< The layers as they were when the dialog was opened.
+    LayerTreeMark m_given;   ///< The layer tree that was last received from the command.
+    std::vector<int> m_rows; ///< The index of the record of each row.
     Filter m_filter;
-    View m_before; ///< As the command last knew it.
+    View m_before; ///< The view that the command last knew.
 
     VnQtLayWalkListWgt* m_list = nullptr;
     QComboBox* m_filters = nullptr;

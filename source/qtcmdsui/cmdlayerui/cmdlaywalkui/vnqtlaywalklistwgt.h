@@ -6,31 +6,33 @@
 
 namespace vnsi {
 
-/// The list of layers of the walk: several rows can be selected, and selecting thousands of them
-/// takes no longer than passing over them.
+/// The layer list of the walk. Several rows can be selected, and selecting thousands of them takes
+/// time proportional to their number only.
 class VnQtLayWalkListWgt : public QListWidget
 {
     Q_OBJECT
 
 public:
-    /// A yes or no for each row.
+    /// One flag per row.
     using Rows = std::vector<bool>;
 
     explicit VnQtLayWalkListWgt(QWidget* parent);
 
-    /// Shows these texts, a row each. A row that stays keeps its item: the second press of a double
-    /// click counts only on the item that the first one met.
+    /// Shows these texts, one per row. Rows that remain keep their items, because the second press
+    /// of a double click only counts on the same item as the first one.
     void setTexts(const QStringList& texts);
     Rows selectedRows() const;
     bool hasSelection() const { return selectionModel()->hasSelection(); }
-    /// Those that the latest click on a row left selected, whatever was selected since.
+    /// The rows that were selected directly after the latest click on a row, whatever was selected
+    /// since then.
     const Rows& clickedRows() const { return m_clicked; }
-    /// Selects exactly these rows; the current one stays current.
+    /// Selects exactly these rows. The current row stays the same.
     void selectRows(const Rows& rows);
 
 signals:
-    /// The user selected otherwise than by a click on a row, which `itemClicked` tells: by keys, by
-    /// drawing the mouse over rows, by a click below the last one.
+    /// Emitted when the user changes the selection in another way than by a click on a row, which
+    /// `itemClicked` reports: with the keyboard, by dragging over rows, or by a click below the
+    /// last row.
     void selectionEdited();
 
 protected:
@@ -45,7 +47,8 @@ private:
     void tellIfEdited();
 
     Rows m_clicked;
-    bool m_isEdited = false; ///< Selected otherwise by the user since the last key or press.
+    /// Whether the user changed the selection in such a way since the last key or mouse press.
+    bool m_isEdited = false;
 };
 
 } // namespace vnsi

@@ -4,7 +4,7 @@
 
 namespace vnsi {
 
-/// Tells how many layers a drawing has, how many are selected, and how much is on those.
+/// Shows the number of layers in the drawing, of selected layers, and of the entities on these.
 class VnQtLayWalkVerifyDlg : public VnQtModeDialogImpl<VnQtLayWalkVerifyDlg, QDialog>
 {
     Q_OBJECT

@@ -10,8 +10,9 @@
 
 namespace vnsi {
 
-/// What a place in the request held when it was last looked at. It tells where a command put other
-/// layers: a new tree, a new list in the tree, or more or fewer records in the list.
+/// Remembers what a key of the request held when it was last read. Comparing two marks tells
+/// whether the command provided other layers: a new tree, a new list in the tree, or another number
+/// of records in the list.
 struct LayerTreeMark
 {
     LayerTreeMark() = default;
@@ -28,49 +29,48 @@ inline bool operator!=(const LayerTreeMark& a, const LayerTreeMark& b)
            a.count != b.count;
 }
 
-/// The layers a walk goes through: a copy of the tree that is the dialog's own.
+/// The layers of a walk: the dialog's own copy of the tree.
 ///
-/// What is pinned is never turned off, whoever asks for it. Changes can be taken back until they
-/// are settled.
+/// Pinned layers are never turned off. Changes can be undone until `settle` is called.
 class WalkLayers
 {
 public:
-    /// A yes or no for each record, in their order.
+    /// One flag per record, in the records' order.
     using Choice = std::vector<bool>;
     static bool holdsAny(const Choice& choice);
 
-    /// Copies the tree; without one, or without a list in it, there are no layers.
+    /// Copies the tree. Without a tree, or without a list in it, there are no layers.
     void take(const VnJsonPtr& layers);
 
     const VnJsonPtr& tree() const { return m_tree; }
     int count() const { return static_cast<int>(m_firstOfName.size()); }
     LayerRecord record(int index) const { return LayerRecord(hostapi::item(m_list, index)); }
     const OdString& name(int index) const { return m_names[static_cast<std::size_t>(index)]; }
-    /// Of the record that was the current layer's when the tree came; empty when there is none.
+    /// The name of the layer that was current when the tree was taken; empty when there was none.
     OdString currentName() const;
     bool isPinned(int index) const;
     bool isVisible(int index) const;
     Choice choiceOf(bool (WalkLayers::*question)(int index) const) const;
     Choice matching(const OdString& pattern) const;
-    /// Those with one of these names, an array of texts; letter case does not count.
+    /// The records whose names are in `names`, an array of texts. Letter case is ignored.
     Choice named(const VnJsonPtr& names) const;
-    /// Neither layer 0 nor the current layer.
+    /// Whether the layer may be purged: it is neither layer 0 nor the current layer.
     bool mayBePurged(const OdString& name) const;
     bool isUnused(int index) const { return !record(index).isUsed(); }
 
     void setOff(int index, bool off);
-    /// Turns the layer off and marks it as changed, though it was off before.
+    /// Turns the layer off and marks it as changed even when it was off before.
     void turnOff(int index);
     void setPinned(int index, bool pinned);
-    /// Turns the chosen layers, and others of the same names, on and the rest off. The current
-    /// layer's record says then whether it stayed.
+    /// Turns on the chosen layers, and all others of the same names, and turns off the rest.
+    /// Afterwards the record of the current layer tells whether that layer is still shown.
     void showOnly(const Choice& chosen);
-    /// Makes the current layer's record say so again; false when it does.
+    /// Marks the record of the current layer as current again. Returns false when it already was.
     bool restoreCurrent();
     void markModified() { m_tree->SetDataB(layerkey::kModified, true); }
-    /// The changes since the last call stay.
+    /// Makes the changes since the last call permanent.
     void settle();
-    /// Undoes them.
+    /// Undoes the changes since the last call of `settle`.
     void takeBack();
 
 private:
@@ -87,9 +87,11 @@ private:
     VnJsonPtr m_tree;
     VnJsonPtr m_list;
     std::vector<FlagChange> m_changes;
-    std::optional<int> m_statusBefore; ///< Of the current layer's record, where that changed.
-    std::vector<OdString> m_names;     ///< The walk changes none, and reads them often.
-    std::vector<int> m_firstOfName;    ///< For each record the first one of its name.
+    /// The former status of the current layer's record, if it was changed.
+    std::optional<int> m_statusBefore;
+    /// Kept here because they are read often; the walk does not change names.
+    std::vector<OdString> m_names;
+    std::vector<int> m_firstOfName; ///< For each record the first record of the same name.
     int m_current = -1;
 };
 

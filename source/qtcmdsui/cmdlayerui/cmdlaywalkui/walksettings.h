@@ -4,13 +4,13 @@
 
 #include <optional>
 
-/// What the layer walk remembers from one use to the next.
+/// What the layer walk remembers between two uses.
 namespace vnsi::walksettings {
 
 struct Settings
 {
-    std::optional<bool> restores; ///< Whether closing restores the layers; none: never chosen.
-    QStringList filters;          ///< In the order of the list.
+    std::optional<bool> restores; ///< Whether closing restores the layers; empty when never chosen.
+    QStringList filters;          ///< In the order in which they are listed.
 };
 
 Settings load();

@@ -4,7 +4,7 @@
 
 namespace vnsi::hostapi {
 
-/// Base of a service that makes dialogs, in its `makeDialog`.
+/// Base of a service that makes dialogs; derived classes override `makeDialog`.
 using hostextras::DialogService;
 
 } // namespace vnsi::hostapi

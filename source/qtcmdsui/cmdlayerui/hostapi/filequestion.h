@@ -8,21 +8,21 @@ class QWidget;
 
 namespace vnsi {
 
-/// What the module's own dialogs ask of the host's file dialog.
+/// A request to the host's file dialog, as the module's own dialogs use it.
 struct FileQuestion
 {
-    QString caption; ///< Handed over as UTF-8, unlike all other texts.
+    QString caption; ///< Passed as UTF-8, unlike all other texts.
     QString filter;
     QString firstFilter;
-    bool opens;   ///< False to ask for a name to save under.
-    bool several; ///< Whether several files may be chosen.
+    bool opens;   ///< True to open files, false to ask for a name to save under.
+    bool several; ///< Whether several files can be chosen.
 };
 
-/// The question as a tree, for the caller to add what else there is to say.
+/// Converts the request to a tree, to which the caller may add further keys.
 VnJsonPtr makeFileQuestion(const FileQuestion& question);
-/// Says where to start: a folder, or a name to save under.
+/// Sets the initial folder, or the suggested name to save under.
 void setStartPlace(const VnJsonPtr& question, const OdString& place);
-/// Asks; the answer, empty where the user cancelled.
+/// Shows the file dialog and returns its answer; empty when the user cancelled.
 VnJsonPtr askForFile(const VnJsonPtr& question, QWidget* parent);
 
 } // namespace vnsi

@@ -5,8 +5,8 @@
 
 #include <string>
 
-/// What the module does with value trees beyond the typed getters and setters. Nothing here takes
-/// an empty handle amiss: it reads as nothing, and writing to it does nothing.
+/// Operations on value trees beyond the typed getters and setters. All functions accept empty
+/// handles: reading one gives nothing, and writing to one does nothing.
 namespace vnsi::hostapi {
 
 inline VnJsonPtr makeObject()
@@ -22,7 +22,7 @@ inline VnJsonPtr makeArray(int capacity = 0)
 using treearray::count;
 using treearray::item;
 
-/// Appends a node, which is shared and not copied.
+/// Appends a node. The node is shared, not copied.
 inline void append(const VnJsonPtr& array, const VnJsonPtr& node)
 {
     if (array && node)
@@ -47,7 +47,7 @@ inline void removeItem(const VnJsonPtr& array, int index)
         hostextras::removeItem(array, index);
 }
 
-/// Element `index` of an array of numbers.
+/// Element `index` of an array of integers.
 inline OdInt32 intAt(const VnJsonPtr& array, int index, OdInt32 fallback = 0)
 {
     const VnJsonPtr element = item(array, index);
@@ -61,7 +61,7 @@ inline OdString textAt(const VnJsonPtr& array, int index)
     return element ? hostextras::textOf(element) : OdString();
 }
 
-/// Whether two handles are on one node; two empty ones count as the same.
+/// Whether two handles refer to the same node. Two empty handles do.
 inline bool isSameNode(const VnJsonPtr& a, const VnJsonPtr& b)
 {
     return a.get() == b.get();
@@ -73,7 +73,7 @@ inline VnJsonPtr copyOf(const VnJsonPtr& node)
     return node ? hostextras::copyOf(node) : VnJsonPtr();
 }
 
-/// Whether a number stands under the key, be it 0.
+/// Whether the key holds an integer, including 0.
 inline bool holdsInt(const VnJsonPtr& node, const char* key)
 {
     return node && node->GetDataI(key, 0) == node->GetDataI(key, 1);
@@ -90,7 +90,7 @@ inline void removeKey(const VnJsonPtr& node, const char* key)
         removeKey(*node, key);
 }
 
-/// Hangs a sub-tree under a key; an empty one takes the key away.
+/// Puts a sub-tree under a key; an empty handle removes the key.
 inline void setTree(IElementValueBase& node, const char* key, const VnJsonPtr& tree)
 {
     if (tree)
@@ -104,7 +104,7 @@ inline std::string jsonOf(const VnJsonPtr& node)
     return node ? hostextras::jsonOf(node) : std::string("null");
 }
 
-/// Writes members one after another; the setter goes by the value's type.
+/// Sets several members one after the other. The type of each value selects the setter.
 class Members
 {
 public:
@@ -135,7 +135,8 @@ public:
             m_node->SetDataSW(key, value);
         return *this;
     }
-    const Members& set(const char* key, const wchar_t* value) const // Else a literal is a bool.
+    // Without this overload a literal would become a bool.
+    const Members& set(const char* key, const wchar_t* value) const
     {
         return set(key, OdString(value));
     }
@@ -146,7 +147,8 @@ public:
         return *this;
     }
     template <class T>
-    const Members& set(const char* key, const T* value) const = delete; // It would be a bool.
+    // Other pointers would become bools.
+    const Members& set(const char* key, const T* value) const = delete;
 
 private:
     IElementValueBase* m_node;
