@@ -6,30 +6,30 @@
 
 namespace commandline {
 
-/// What an option takes.
+/// The kind of value that an option takes.
 enum class OptionKind : quint8 {
     Flag,
     Text,
-    File,   ///< A file that goes into the result: its contents count when work is to be skipped.
-    Path,   ///< Another file's path.
-    Folder, ///< A folder's path.
+    File,   ///< A file that affects the result, so its contents decide whether work can be skipped.
+    Path,   ///< The path of another file.
+    Folder, ///< The path of a folder.
     Number, ///< A whole number, 0 or more.
     Count,  ///< A whole number, 1 or more.
     Choice  ///< One of the words in `choices`.
 };
 
-/// An option as it is described to the user, read from the command line and completed in a shell.
+/// An option as help, parsing and shell completion need it.
 struct OptionRow
 {
-    const char* name; ///< Without its dashes.
+    const char* name; ///< Without the leading dashes.
     OptionKind kind;
-    const char* text;         ///< A sentence, to be translated.
-    const char* choices = ""; ///< Of a `Choice`: words with blanks between them.
-    bool several = false;     ///< May be given more than once.
-    bool shapesResult = true; ///< Whether another value can give another result for a drawing.
+    const char* text;         ///< A sentence that gets translated.
+    const char* choices = ""; ///< For a `Choice`, the words, separated by blanks.
+    bool several = false;     ///< Whether it may be given more than once.
+    bool shapesResult = true; ///< Whether its value can affect the result for a drawing.
 };
 
-/// A part of a table of options.
+/// A section of a table of options.
 struct OptionRows
 {
     const OptionRow* first = nullptr;
@@ -56,7 +56,7 @@ struct OptionText
     QString text;  ///< A sentence.
 };
 
-/// The words of a table's cell that holds several, with blanks between them.
+/// Splits the cell of a table that holds several words, separated by blanks.
 QStringList wordsOf(const char* words);
 /// The option as it is typed.
 QString dashed(const OptionRow& row);

@@ -4,17 +4,17 @@
 
 namespace commandline {
 
-/// Columns a text takes on a terminal: a Chinese character takes two.
+/// The number of terminal columns that a text takes. A Chinese character takes two.
 int widthOf(const QString& text);
-/// The text with blanks behind it up to a width.
+/// The text, padded with blanks to a width.
 QString padded(const QString& text, int width);
-/// Whether a line may end between two characters: at a blank, and beside Chinese characters unless
-/// that would leave a closing mark in front or an opening one behind.
+/// Whether a line may be broken between two characters: at a blank, and next to a Chinese
+/// character, unless a closing mark would begin a line or an opening mark would end one.
 bool mayBreak(QChar before, QChar next);
-/// The text's lines, cut where a line may end so that none is wider than `width` columns. Line ends
-/// in the text stay.
+/// Breaks a text into lines that are at most `width` columns wide where possible. Existing line
+/// breaks are kept.
 QStringList wrapped(const QString& text, int width);
-/// Columns that texts for people may take: those of the terminal, at most 100.
+/// The number of columns for texts that people read: the terminal's width, but at most 100.
 int textColumns();
 /// A text cut to those columns.
 QString wrappedParagraph(const QString& text);

@@ -5,18 +5,18 @@
 
 namespace layertool {
 
-/// Ends the program before it began: with a text asked for, or with a refusal.
+/// The program ends before it starts to work, with a requested text or with an error message.
 struct EarlyExit
 {
     int code = 0;
     QString text;
 };
 
-/// Reads the command line by the tables of verbs and options. Refuses, with a sentence that names
-/// the word, what they do not know.
+/// Parses the command line according to the tables of verbs and options. Refuses unknown words with
+/// a sentence that names them.
 tl::expected<Arguments, EarlyExit> readCommandLine(const QStringList& arguments);
 
-/// The options a verb takes, with those it shares with others.
+/// All options of a verb, including those that it shares with others.
 std::vector<OptionRow> optionsOf(const VerbRow& verb);
 
 } // namespace layertool

@@ -8,8 +8,8 @@ class Drawing;
 
 namespace layertool {
 
-/// Holds the layers and the layer states of two drawings against each other. Each difference
-/// becomes a row of `result` (change, name, property, before, after) and is counted there.
+/// Compares the layers and the layer states of two drawings. Each difference is counted in `result`
+/// and becomes one of its rows (change, name, property, before, after).
 void compareDrawings(const drawing::Drawing& first, const drawing::Drawing& second, Result& result);
 
 } // namespace layertool

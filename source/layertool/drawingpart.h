@@ -13,16 +13,16 @@ struct Entity;
 
 namespace layertool {
 
-/// A file name for a layer's: in old files a layer may be called "..", or hold a slash.
+/// A file name for a layer. Layer names of old files may be ".." or contain a slash.
 QString safeFileName(const QString& layer);
 
-/// Whether an entity stands in model space or a layout: what blocks hold goes where they are
-/// placed.
+/// Whether an entity is in model space or a layout. The contents of blocks appear where the blocks
+/// are inserted.
 bool isPlaced(const drawing::Drawing& drawing, const drawing::Entity& entity);
 
-/// Leaves, in the open step, of what is placed only what is on the layers wanted, and of the layers
-/// those still needed. Something placed must be on one of these. An error takes back nothing: the
-/// caller rolls back.
+/// Reduces a drawing, in the open step, to the entities of model space and layouts on the wanted
+/// layers and to the layers that are still needed. At least one such entity must be on a wanted
+/// layer. An error does not undo anything; the caller rolls the step back.
 drawing::Expected<void> keepOnly(
     drawing::Drawing& drawing, const std::function<bool(const QString& layer)>& isKept);
 

@@ -5,7 +5,7 @@
 
 namespace layertool {
 
-/// Opens a drawing as the common options want it. Refuses, in words, what is no DXF drawing.
+/// Opens a drawing according to the common options. Refuses a file that is not a DXF drawing.
 drawing::Expected<std::unique_ptr<drawing::Drawing>> openDrawing(
     const QString& path, const Arguments& arguments, drawing::Progress& progress);
 

@@ -4,20 +4,20 @@
 
 namespace layertool {
 
-/// Help as people read it, of the program or of one verb.
+/// The help text of the program or of one verb.
 QString helpText();
 QString helpText(const VerbRow& verb);
 
-/// How the verb is called: "layertool check [OPTION...] DRAWING-OR-FOLDER...".
+/// The usage line of a verb: "layertool check [OPTION...] DRAWING-OR-FOLDER...".
 QString usageText(const VerbRow& verb);
-/// What the exit codes mean.
+/// Explains the exit codes.
 QString exitCodesText();
 
-/// What is no verb of the table but stands beside them in help: its name and what it does.
+/// An entry of the help that is not in the table of verbs: its name and what it does.
 struct HelpRow
 {
     const char* name;
-    const char* text; ///< To be translated.
+    const char* text; ///< Gets translated.
 };
 inline constexpr HelpRow kHelpRow{
     "help", QT_TRANSLATE_NOOP("layertool", "显示用法，或一个命令的用法。")};

@@ -17,21 +17,20 @@ class WildcardPattern;
 
 namespace layertool {
 
-/// Which layers a command line means: by names, by wildcard patterns and by regular expressions.
+/// The layers that a command line selects by names, wildcard patterns and regular expressions.
 class LayerChoice
 {
 public:
-    /// Reads the options `layer` (names), `pattern` and `regex`. Refuses an expression that is
-    /// none.
+    /// Reads the options `layer` (names), `pattern` and `regex`. Refuses an invalid expression.
     Expected<void> read(const Arguments& arguments);
     bool isEmpty() const { return m_names.isEmpty() && m_patterns.empty() && m_regexes.isEmpty(); }
 
     bool matches(const QString& name) const;
-    /// Whether the layer is meant by its name, not by a pattern or an expression.
+    /// Whether the layer is selected by its exact name rather than by a pattern or an expression.
     bool names(const QString& name) const;
-    /// The layers of a drawing that are meant, in its order.
+    /// The selected layers of a drawing, in its order.
     std::vector<drawing::LayerId> in(const drawing::Drawing& drawing) const;
-    /// The names given that the drawing has no layer of.
+    /// The selected names that are not layers of the drawing.
     QStringList missingIn(const drawing::Drawing& drawing) const;
 
     static OptionRows options();
@@ -42,8 +41,8 @@ private:
     QList<QRegularExpression> m_regexes;
 };
 
-/// Reads a regular expression that is to fit whole names, without regard to letter case. Refuses
-/// what is none, with its place.
+/// Parses a regular expression that has to match whole names, ignoring letter case. Refuses an
+/// invalid one and tells the position of the fault.
 Expected<QRegularExpression> readRegex(const QString& text);
 
 } // namespace layertool

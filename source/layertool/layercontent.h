@@ -12,24 +12,26 @@ class Drawing;
 
 namespace layertool {
 
-/// The properties that entities may have of their own, in the order of `LayerContent::own`.
+/// The properties that entities can define themselves, in the order of `LayerContent::own`.
 inline constexpr drawing::OwnProperty kOwnProperties[] = {drawing::OwnProperty::Color,
     drawing::OwnProperty::Linetype, drawing::OwnProperty::Lineweight,
     drawing::OwnProperty::Transparency};
 
-/// The entities on a layer: how many, where, and what they do not take from it.
+/// Counts of the entities on a layer, by their places and by the properties that they define
+/// themselves.
 struct LayerContent
 {
     int model = 0;
     int layouts = 0;
     int blocks = 0;
-    std::vector<int> inBlocks; ///< The block definitions, as indices, each once.
-    std::array<int, std::size(kOwnProperties)> own = {}; ///< How many have it of their own.
+    std::vector<int> inBlocks; ///< The indices of the block definitions, each once.
+    /// How many entities define each property themselves.
+    std::array<int, std::size(kOwnProperties)> own = {};
 
     int placed() const { return model + layouts; }
 };
 
-/// The contents of a drawing's layers as they are now, from one pass over its entities.
+/// The present contents of all layers of a drawing, counted in one pass over its entities.
 class LayerContents
 {
 public:
@@ -37,7 +39,7 @@ public:
     const LayerContent& of(drawing::LayerId layer) const;
 
 private:
-    std::vector<LayerContent> m_all; ///< By the layers' ids.
+    std::vector<LayerContent> m_all; ///< The index is the layer id.
 };
 
 } // namespace layertool

@@ -5,21 +5,21 @@
 
 namespace layertool {
 
-/// A layer's properties as texts: what `list` writes and `set` reads. One row a property.
+/// A layer property as text: `list` writes it and `set` reads it.
 struct LayerField
 {
-    const char* id;   ///< The English word of machine formats.
-    const char* text; ///< The heading people see.
+    const char* id;   ///< The English word in machine-readable formats.
+    const char* text; ///< The heading for people.
     QVariant (*get)(const drawing::LayerProperties& properties);
-    /// Takes a cell's text. False when it makes no sense for this property.
+    /// Sets the property from a cell's text. Returns false when the text is invalid.
     bool (*set)(drawing::LayerProperties& properties, const QString& text);
 };
 
-/// "name" first.
+/// All fields; "name" is the first.
 const std::vector<LayerField>& layerFields();
-/// The columns of what `list` tells of a layer's contents besides.
+/// The additional columns in which `list` describes a layer's contents.
 std::vector<Column> contentColumns();
-/// The columns of these fields.
+/// The columns for `layerFields`.
 std::vector<Column> layerColumns();
 
 } // namespace layertool

@@ -6,31 +6,31 @@
 
 namespace layertool {
 
-/// A row of a table of layers, and where it stands in it.
+/// A row of a layer table and its position.
 struct SheetRow
 {
-    int line = 0; ///< From 1, the head included.
+    int line = 0; ///< Counted from 1, including the header.
     QStringList cells;
 };
 
-/// The name of a cell as spreadsheets call it: "C7".
+/// The name of a cell in a spreadsheet, such as "C7".
 QString cellName(int column, int line);
 
-/// A table of layers as `list` writes it, edited in a spreadsheet.
+/// A layer table as `list` writes it and people edit it in a spreadsheet.
 class LayerSheet
 {
 public:
-    /// Reads a file. Refuses one without a head, or without a column of names.
+    /// Reads a file. Refuses a table without a header or without a column of names.
     Expected<void> read(const QString& path);
 
-    /// The rows for a drawing: all of them where the table has no column of drawings.
+    /// The rows for a drawing; all rows when the table has no column of drawings.
     const std::vector<SheetRow>& rowsFor(const QString& drawing) const;
     int columnCount() const { return static_cast<int>(m_fields.size()); }
-    /// The property in a column; null for columns that hold none.
+    /// The property in a column; null when the column holds none.
     const LayerField* field(int column) const { return m_fields[static_cast<size_t>(column)]; }
     int nameColumn() const { return m_nameColumn; }
-    int newNameColumn() const { return m_newNameColumn; } ///< -1 where there is none.
-    /// Heads that mean nothing here.
+    int newNameColumn() const { return m_newNameColumn; } ///< -1 when there is none.
+    /// Headers that have no meaning here.
     const QStringList& unknownColumns() const { return m_unknownColumns; }
 
 private:
@@ -41,7 +41,8 @@ private:
     int m_drawingColumn = -1;
     int m_nameColumn = -1;
     int m_newNameColumn = -1;
-    QHash<QString, std::vector<SheetRow>> m_rows; ///< By drawing; "" where there is no such column.
+    /// The keys are drawings; "" when there is no column of drawings.
+    QHash<QString, std::vector<SheetRow>> m_rows;
 };
 
 } // namespace layertool

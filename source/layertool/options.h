@@ -11,25 +11,25 @@ using commandline::OptionRows;
 using commandline::OptionText;
 using commandline::wordsOf;
 
-/// What stands for the option's value in help, "FILE" say; its choices with bars between them.
-/// Empty for flags.
+/// The placeholder for the option's value in help, such as "FILE"; for a choice its words,
+/// separated by bars. Empty for flags.
 QString valueText(const OptionRow& row);
 /// Options in the language that texts are shown in.
 OptionText optionText(const OptionRow& row);
 std::vector<OptionText> optionTexts(const std::vector<OptionRow>& rows);
 
-/// Two parts of a table as one.
+/// Joins two sections of a table.
 std::vector<OptionRow> joined(OptionRows first, OptionRows second);
 
 /// The options of every verb that works on drawings.
 OptionRows drawingOptions();
-/// Those of the verbs that change drawings, besides.
+/// The additional options of verbs that change drawings.
 OptionRows editingOptions();
-/// Of verbs with formats, whose words are the choices.
+/// The option of verbs with several output formats; the words of `formats` are its choices.
 OptionRow formatOption(const char* formats);
-/// Of all verbs.
+/// The option of all verbs.
 OptionRow languageOption();
-/// Of verbs that rename.
+/// The option of verbs that rename layers.
 OptionRow mergeOption();
 
 } // namespace layertool

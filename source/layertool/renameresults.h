@@ -5,13 +5,13 @@
 
 namespace layertool {
 
-/// The English word for what became of a rename.
+/// The English word for the outcome of a rename.
 const char* outcomeWord(drawing::LayerRenamed::Outcome outcome);
 
-/// Why a rename was refused; where the name is taken, with the way to merge.
+/// Why a rename was refused. When the name is in use, the text also explains how to merge.
 QString causeOf(const drawing::LayerRenamed& renamed);
 
-/// Notes the rename in the result, if it was refused.
+/// Adds a notice to the result when the rename was refused.
 void noteRefusal(Result& result, const drawing::LayerRenamed& renamed);
 
 } // namespace layertool

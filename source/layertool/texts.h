@@ -6,14 +6,15 @@
 
 namespace layertool {
 
-/// Where the program's texts are translated: `Texts::tr("...")`, and `Texts::tr(row.text)` for the
-/// texts of tables, which are marked with QT_TRANSLATE_NOOP("layertool", "...").
+/// The translation context of the program's texts. Use `Texts::tr("...")`, or `Texts::tr(row.text)`
+/// for texts in tables, which are marked with QT_TRANSLATE_NOOP("layertool", "...").
 class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(layertool)
 };
 
-/// Shows the program's texts in a language: "zh", "en", or that of the locale where it is empty.
+/// Sets the language of the program's texts: "zh", "en", or the locale's language when `code` is
+/// empty.
 inline void useLanguage(const QString& code)
 {
     language::use(code, {QStringLiteral("drawing"), QStringLiteral("layertool")});

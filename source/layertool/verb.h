@@ -21,68 +21,73 @@ struct Printing;
 using drawing::Error;
 using drawing::Expected;
 
-/// The columns of a verb's table; also the keys of its JSON.
+/// A column of a verb's table, which is also a key in its JSON.
 struct Column
 {
-    const char* id;   ///< The English word that machine formats use in every language.
-    const char* text; ///< The heading people see, to be translated.
+    const char* id;   ///< The English word in machine-readable formats of every language.
+    const char* text; ///< The heading for people, which gets translated.
 };
 
-/// What a verb does with one drawing. The engine opens the drawing, has the verb work on it within
-/// one undo step, has it written where that is wanted, and makes the report.
+/// What a verb does with one drawing. The engine opens the drawing, runs the verb within one undo
+/// step, has the drawing written when necessary, and makes the report.
 class Verb
 {
 public:
     virtual ~Verb() = default;
 
-    /// Reads what goes for all drawings (standards, tables), once a process. Refuses a command line
-    /// that makes no sense with a sentence.
+    /// Reads what all drawings need, such as standards and tables. Called once per process. Refuses
+    /// an invalid command line with a sentence.
     virtual Expected<void> prepare(const Arguments& arguments) = 0;
-    /// Works on one drawing, in its open step, and says in `result` what was found or changed.
+    /// Processes one drawing within its open step and describes in `result` what was found or
+    /// changed.
     virtual Expected<void> run(drawing::Drawing& drawing, const Job& job, Result& result) = 0;
-    /// Writes the changed drawing, and what belongs beside it, where `job` says. The engine moves
-    /// the files in `result.staged` to their places when all are whole. Saves the drawing here.
+    /// Writes the changed drawing and its accompanying files to the places given in `job`. The
+    /// engine moves the files in `result.staged` into place when all of them are complete. This
+    /// implementation saves the drawing.
     virtual Expected<void> write(
         drawing::Drawing& drawing, const Job& job, drawing::Progress& progress, Result& result);
 
     virtual std::vector<Column> columns() const = 0;
-    /// The rows of the answer as texts by the columns, for text and CSV.
+    /// The rows of the answer as texts by column, for text and CSV output.
     std::vector<QStringList> rows(const Result& result) const;
-    /// The same as objects, `result.data` being made of `result.cells` where these hold the answer.
+    /// The rows of the answer as objects. They are made from `result.cells` if these hold the
+    /// answer, otherwise taken from `result.data`.
     QJsonArray data(const Result& result) const;
-    /// A printer of the verb's own for a format; null for those that every verb has.
+    /// The verb's own printer for a format; null for the formats that all verbs share.
     virtual std::unique_ptr<Printer> printer(const QString& format, const Printing& printing) const;
 };
 
-/// How a verb takes drawings.
+/// How a verb takes its drawings.
 enum class Inputs : quint8 {
-    Drawings, ///< Each by itself.
-    Pairs     ///< Two drawings, or two folders whose drawings of one name are held together.
+    Drawings, ///< One by one.
+    Pairs     ///< As two drawings, or two folders in which drawings of the same name are compared.
 };
 
-/// What a verb is to the command line, to help and to the engine.
+/// The description of a verb for the command line, the help and the engine.
 struct VerbRow
 {
     const char* name;
-    const char* text; ///< A sentence, to be translated.
+    const char* text; ///< A sentence that gets translated.
     OptionRows options;
-    const char* formats; ///< Words with blanks between them, the first one is the default.
-    bool edits;          ///< Changes drawings: takes `editingOptions`, needs somewhere to write.
+    const char* formats; ///< Words separated by blanks; the first one is the default.
+    /// Whether it changes drawings; it then takes `editingOptions` and needs an output.
+    bool edits;
     std::unique_ptr<Verb> (*make)();
-    const char* actions = "";        ///< The words that may follow the verb; empty for most.
+    const char* actions = "";        ///< The words that may follow the verb; empty for most verbs.
     const char* readingActions = ""; ///< Those of `actions` that change nothing.
     Inputs inputs = Inputs::Drawings;
-    /// Of commands that work on no drawings: does all there is to do and returns the exit code.
+    /// Set for commands that do not work on drawings. Does all their work and returns the exit
+    /// code.
     int (*runAlone)(const Arguments& arguments) = nullptr;
     const char* operands =
         ""; ///< What such a command is given, as help shows it; to be translated.
 };
 
-/// All verbs, in the order in which help shows them.
+/// All verbs in the order in which help shows them.
 const std::vector<VerbRow>& verbs();
-/// Whether the verb, with its action, changes drawings and needs somewhere to write.
+/// Whether the verb with its action changes drawings and therefore needs an output.
 bool editsDrawings(const VerbRow& verb, const Arguments& arguments);
-/// Null for a name that none has.
+/// The verb of this name; null when there is none.
 const VerbRow* findVerb(const QString& name);
 
 template <class T>

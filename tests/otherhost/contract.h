@@ -5,10 +5,11 @@
 
 #include <vector>
 
-/// What dialogs and commands agreed on: keys with their types, requests, and questions to the host.
+/// The agreement between dialogs and commands: keys with their types, requests, and questions to
+/// the host.
 namespace contract {
 
-/// The first five in the order of the scalars that a node may hold.
+/// The types of keys. The first five are in the order of the scalars that a node may hold.
 enum Type {
     kBool = 1,
     kInt = 2,
@@ -16,24 +17,24 @@ enum Type {
     kWide = 8,
     kNarrow = 16,
     kTree = 32,
-    kEitherInteger = 64 ///< Is looked for as the other kind of integer as well.
+    kEitherInteger = 64 ///< A key that is also read as the other integer type.
 };
 
-/// The types of the value that a path leads to; 0 where nobody knows the key.
+/// The types of the value at a path; 0 for an unknown key.
 int typesOf(const char* path);
 
 struct Request
 {
     const char* dialog;
     int code;
-    const char* parameter; ///< The number, or "tree".
-    const char* arguments; ///< Keys that must be there; "|" between such as stand for one another.
-    const char* answers;   ///< Keys that must be clear.
-    const char* answer;    ///< What a command answers, as JSON.
-    const char* inList;    ///< A path to records and the key that each must have.
+    const char* parameter; ///< A number, or "tree".
+    const char* arguments; ///< Required keys; "|" separates alternatives.
+    const char* answers;   ///< Keys that must have been cleared.
+    const char* answer;    ///< The command's answer as JSON.
+    const char* inList;    ///< A path to records and the key that each of them must have.
 };
 
-/// The request a dialog may send; null for an unknown one.
+/// The request that a dialog may send; null for an unknown one.
 const Request* findRequest(const QString& dialog, int code);
 const std::vector<Request>& requests();
 
@@ -45,7 +46,7 @@ struct Question
 };
 
 const Question* findQuestion(const QString& service, const QString& dialog);
-/// The key that a dialog's request code stands under.
+/// The key that holds the request code of a dialog.
 const char* codeKeyOf(const QString& dialog);
 
 } // namespace contract

@@ -13,23 +13,24 @@
 
 namespace otherhost {
 
-/// What a host may do and still keep the contract.
+/// Ways of behaving that the contract allows to a host.
 enum Freedom {
-    kEmptyAnswers = 1, ///< Of dialogs and of message boxes.
-    kSaysNo = 2,       ///< To every question.
-    kRealDialogs = 4,  ///< The module's own dialogs are shown, not played.
+    kEmptyAnswers = 1, ///< Dialogs and message boxes give empty answers.
+    kSaysNo = 2,       ///< Answers no to every question.
+    kRealDialogs = 4,  ///< Shows the module's own dialogs instead of playing their answers.
     kNoSettings = 8,
-    kOddSettings = 16, ///< Of other types than were written.
+    kOddSettings = 16, ///< Settings have other types than were written.
     kNoServices = 32,
-    kOddServices = 64, ///< Of classes that nobody expects.
+    kOddServices = 64, ///< Services are of unexpected classes.
     kNoColorText = 128,
     kWindow = 256, ///< Dialogs have a parent.
     kNoTree = 512,
     kNoCommand = 1024,
-    kDumbCommand = 2048,     ///< The call-back object keeps the default that does nothing.
-    kOtherThread = 4096,     ///< Lets go of dialogs on another thread, while a command runs.
-    kTakesArguments = 16384, ///< Away again before a request is sent.
-    kEverything = 8192       ///< Has the user do all there is to do, not each kind of thing once.
+    /// The call-back object keeps the default implementation, which does nothing.
+    kDumbCommand = 2048,
+    kOtherThread = 4096,     ///< Releases dialogs on another thread while a command runs.
+    kTakesArguments = 16384, ///< Removes the arguments again before a request is sent.
+    kEverything = 8192       ///< Performs all user actions, not just one of each kind.
 };
 
 using Change = std::function<void(const vnsi::VnJsonPtr& asked)>;
@@ -38,15 +39,15 @@ struct Mischief
 {
     const char* name;
     int freedoms = 0;
-    Change command = {};   ///< Instead of the agreed answer; may throw.
-    Change questions = {}; ///< Before each dialog or box of the host; may throw.
-    const char* key = "";  ///< What it is done to; nothing happens in trees without it.
+    Change command = {};   ///< Replaces the agreed answer; may throw.
+    Change questions = {}; ///< Runs before each dialog or box of the host; may throw.
+    const char* key = "";  ///< The key concerned; nothing happens in trees without it.
 };
 
-/// Everything that this host does to dialogs, a row each.
+/// All ways in which this host mistreats dialogs.
 const std::vector<Mischief>& mischiefs();
 
-/// The host's state: how it behaves now, what it shows and what it noticed.
+/// The host's state: its present behaviour, what it shows, and what it has recorded.
 class OtherHost
 {
 public:
@@ -55,7 +56,7 @@ public:
     bool may(int freedom) const { return mischief && (mischief->freedoms & freedom); }
     void fault(const QString& text);
     void note(const QString& question);
-    /// Answers as agreed.
+    /// Answers a request as agreed.
     void answer(const vnsi::VnJsonPtr& tree);
     void answerRequest(const vnsi::VnJsonPtr& tree);
     vnsi::VnJsonPtr show(const OdString& service, const OdString& name, const vnsi::VnJsonPtr& tree,
@@ -77,11 +78,11 @@ private:
     void checkRecords(const vnsi::VnJsonPtr& list, const QString& key, const QString& name);
 };
 
-/// The tree of a JSON object, each value with the type agreed on for its key.
+/// Makes a tree from a JSON object. Each value gets the type that was agreed for its key.
 vnsi::VnJsonPtr treeOf(const QString& json);
-/// Every node below and including `node`, once.
+/// All nodes of the tree, including `node` itself, each once.
 std::vector<vnsi::VnJsonPtr> nodesIn(const vnsi::VnJsonPtr& node);
-/// A call-back object that asks the host.
+/// Makes a call-back object that asks the host.
 OdRxObjectPtr makeCommand(bool isDumb);
 
 } // namespace otherhost

@@ -8,7 +8,7 @@
 
 #include <memory>
 
-/// A dialog of the module on the screen, with its tree, in front of a recording host and command.
+/// A dialog of the module on the screen, with its tree, a recording host and a recording command.
 class DialogFixture : public QObject
 {
 protected:
@@ -19,7 +19,7 @@ protected:
         m_host.reset();
     }
 
-    /// `keys` are those of requests that the log shows.
+    /// Opens a dialog. `keys` are the request keys that the log shows.
     void open(const char* name, const QString& json, const QStringList& keys = {"none"},
         const char* markerKey = "marker")
     {

@@ -9,17 +9,17 @@ class QDialog;
 class QMenu;
 class QWidget;
 
-/// Everything a user could do next in a window that is shown: press a button, click or double click
-/// a cell or a header, choose, type, ask for a context menu, press a key. Good until the window
+/// Everything that a user could do next in a visible window: press a button, click or double-click
+/// a cell or a header, choose, type, open a context menu, press a key. Valid until the window
 /// changes.
 std::vector<std::function<void()>> actsIn(QWidget& window);
 
-/// While it lives, answers the menus and modal windows that come up, so that nothing waits for a
-/// user. A menu gets one of its entries; in a window a few acts are done before it is closed.
+/// Handles menus and modal windows while it exists, so that nothing waits for a user. It chooses an
+/// entry of a menu; in a window it does a few actions and then closes it.
 class PopupAnswerer : public QObject
 {
 public:
-    /// A number from 0 to below `count`, which is at least 1.
+    /// Returns a number from 0 to `count` - 1; `count` is at least 1.
     using Choice = std::function<int(int count)>;
 
     explicit PopupAnswerer(Choice choose);

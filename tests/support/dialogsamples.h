@@ -5,19 +5,19 @@
 
 #include <vector>
 
-/// A dialog of the module with a tree that lets it do all it can.
+/// A dialog of the module with a tree that makes all of its functions available.
 struct DialogSample
 {
     QString name;
     QString tree;        ///< As JSON.
-    bool asksItsCommand; ///< Some of its buttons send requests.
+    bool asksItsCommand; ///< Whether some of its buttons send requests.
 };
 
 Q_DECLARE_METATYPE(DialogSample)
 
-/// All dialogs of the module; those that differ by their tree come once for each way.
+/// All dialogs of the module. A dialog that depends on its tree appears once for each variant.
 const std::vector<DialogSample>& dialogSamples();
 
-/// What a dialog of the host or of the module answers when it is left with OK, as JSON; an empty
-/// object where it only says so.
+/// The answer, as JSON, of a dialog of the host or the module that is closed with OK; an empty
+/// object when it has no answer keys.
 QString answerOfDialog(const QString& name);

@@ -4,7 +4,7 @@
 
 #include <QDir>
 
-/// A row with the path of every drawing that is at hand, and of those in more folders.
+/// Adds a test row with the path of each available drawing, including those in the folders `more`.
 inline void everyDrawing(const QStringList& more = {})
 {
     const Rows<QString> row("path");

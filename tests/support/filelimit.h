@@ -5,7 +5,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While it lives, writing beyond so many bytes of a file fails half-way, as it does on a full
+/// While it exists, writing more than this number of bytes to a file fails half-way, as on a full
 /// disk.
 class FileLimit
 {

@@ -2,14 +2,14 @@
 
 #include <QFile>
 
-/// What is in a file; a word of its own for one that cannot be read.
+/// The contents of a file; a special text for a file that cannot be read.
 inline QByteArray contentOf(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
-/// Makes a file of these bytes, and gives its path; ends the test program where that fails.
+/// Writes these bytes to a file and returns its path. Ends the test program when that fails.
 inline QString writtenFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);

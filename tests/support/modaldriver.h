@@ -5,8 +5,8 @@
 
 #include <functional>
 
-/// Does in modal dialogs what a user would: each dialog that comes up gets the next step. Steps
-/// that are left at the end fail the test.
+/// Acts like a user in modal dialogs. Each dialog that appears gets the next step; steps left over
+/// at the end fail the test.
 class ModalDriver : public QObject
 {
 public:
@@ -15,7 +15,7 @@ public:
     ModalDriver();
     ~ModalDriver() override;
 
-    /// Queues a step; it must end its dialog, at once or later.
+    /// Adds a step. It must close its dialog, immediately or later.
     void then(const Step& step) { m_steps.enqueue(step); }
 
 protected:

@@ -6,7 +6,7 @@
 
 #include <QString>
 
-/// The host with the module loaded, for the life of a test.
+/// The host with the loaded module, for the duration of a test.
 class ModuleFixture
 {
 public:
@@ -15,7 +15,8 @@ public:
     /// The path of the module's library.
     static QString modulePath();
 
-    /// A dialog of the module, made by its service and given its tree; null for an unknown name.
+    /// Makes a dialog of the module through its service and gives it its tree; null for an unknown
+    /// name.
     host::WatchedDialog createDialog(
         const QString& name, const vnsi::VnJsonPtr& tree, const OdRxObjectPtr& invoker = {});
 

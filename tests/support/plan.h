@@ -3,7 +3,8 @@
 #include <QByteArray>
 #include <QMetaType>
 
-/// Tagged text from lines of a group code, a blank and a value; " | " divides as a line's end does.
+/// Converts lines of a group code, a blank and a value to tags; " | " separates tags like a line
+/// end.
 inline QByteArray tagged(QByteArray lines, const QByteArray& lineEnd = "\n")
 {
     QByteArray text;
@@ -15,21 +16,21 @@ inline QByteArray tagged(QByteArray lines, const QByteArray& lineEnd = "\n")
     return text;
 }
 
-/// A drawing in its parts, each of them lines as `tagged` takes them.
+/// A drawing in parts. Each part consists of lines in the form that `tagged` reads.
 struct Plan
 {
     QByteArray version = "AC1018";
     QByteArray current = "0";
     QByteArray seed = "100";
-    QByteArray variables; ///< More of the header.
+    QByteArray variables; ///< Additional header variables.
     QByteArray linetypes = "0 LTYPE | 5 30 | 2 Continuous\n0 LTYPE | 5 31 | 2 Dashed\n";
     QByteArray layers;
-    QByteArray layerCount; ///< As many as there are where it is empty.
-    QByteArray layerTable; ///< More of the table's head.
-    QByteArray tables;     ///< Behind that of the layers.
+    QByteArray layerCount; ///< Empty to write the true number.
+    QByteArray layerTable; ///< Additional tags of the table's head.
+    QByteArray tables;     ///< Tables after the layer table.
     QByteArray blocks;
     QByteArray entities;
-    QByteArray objects; ///< Behind the root dictionary's handle.
+    QByteArray objects; ///< Objects after the root dictionary's handle.
 
     QByteArray lines() const
     {
@@ -57,7 +58,7 @@ inline QByteArray layerRecord(const QByteArray& handle, const QByteArray& name,
            "\n6 Continuous\n";
 }
 
-/// A drawing with the layers 0, Wall, Keep and one of a reference.
+/// A drawing with the layers 0, Wall, Keep and one layer of an external reference.
 struct Yard : Plan
 {
     Yard(const QByteArray& itsEntities = {}, const QByteArray& itsObjects = {},
@@ -74,16 +75,16 @@ struct Yard : Plan
     static QByteArray keep() { return layerRecord("12", "Keep", "2"); }
     static QByteArray reference() { return layerRecord("13", "plan|X", "2", "16"); }
 
-    /// Puts these records in the place of Wall's and Keep's.
+    /// Replaces the records of Wall and Keep.
     void setLayers(const QByteArray& records) { layers = zero() + records + reference(); }
 };
 
 Q_DECLARE_METATYPE(Yard)
 
-/// A drawing of two layouts: `A1`, whose entities stand beside those of model space, and before it
-/// by its tab `A0`, whose entities stand in their block. A line each; the layout's line is longer.
-/// `A1` has the viewports 51 and 52, of which 52 was active last, and the sheet's own; `A0` has 42,
-/// and no active one but the sheet's own.
+/// A drawing with two layouts: `A1`, whose entities are stored with those of model space, and, with
+/// an earlier tab, `A0`, whose entities are in its block. Each contains one line; the layout's line
+/// is longer. `A1` has the viewports 51 and 52 (52 was active last) and the sheet's own viewport.
+/// `A0` has viewport 42; only its sheet's own viewport is active.
 inline QByteArray sheetsDrawing()
 {
     Plan plan;

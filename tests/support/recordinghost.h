@@ -8,12 +8,12 @@
 
 #include <functional>
 
-/// Stands in the user's place while it lives: notes everything that is asked, in order, and answers
-/// from a script. A question without an answer, and an answer without a question, fail the test.
+/// Takes the place of the user while it exists: records every question in order and answers it from
+/// a script. A question without an answer, or an answer without a question, fails the test.
 ///
 /// Lines of the log:
 ///   message|text|caption|style
-///   messageEx|caption|text|style|code|icon          and |btnText/0|... where there are such
+///   messageEx|caption|text|style|code|icon          and |btnText/0|... if present
 ///   task|title|instruction|101=..;102=..
 ///   dialog|service|name|tree as JSON
 ///   help|topic
@@ -27,21 +27,21 @@ public:
     ~RecordingHost() override;
 
     /// Queues the answer of the next message box (its button), task dialog (its id) or dialog (its
-    /// result). Messages with one button ask nothing and take no answer.
+    /// result). Messages with only one button take no answer.
     void answer(int value);
-    /// Queues the answer of a dialog: the members of `json` are written into its tree.
+    /// Queues a dialog's result and the members that are written into its tree, as JSON.
     void answer(int result, const QString& json);
-    /// Queues the answer of a dialog as a function that sees its tree; the value is the result.
+    /// Queues a function that receives a dialog's tree and returns the dialog's result.
     void answer(const Answer& answer);
 
-    /// Lets a dialog of this name be made and run for real; it is noted all the same.
+    /// Makes dialogs of this name run for real. They are recorded nevertheless.
     void passThrough(const QString& dialogName) { m_passed.insert(dialogName); }
-    /// The trees of dialogs are left out of the log.
+    /// Whether the log shows the trees of dialogs.
     void setLogsTrees(bool logsTrees) { m_logsTrees = logsTrees; }
 
     void note(const QString& line) { m_log.append(line); }
     const QStringList& log() const { return m_log; }
-    /// The log, which starts anew.
+    /// Returns the log and clears it.
     QStringList takeLog() { return std::exchange(m_log, {}); }
 
     int messageBox(const OdString& text, const OdString& caption, int style) override;

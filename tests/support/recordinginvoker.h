@@ -11,18 +11,19 @@
 
 class RecordingHost;
 
-/// A command that notes each request in the log of a recording host and answers with a function.
+/// A command that records each request in the log of a recording host and answers it with a
+/// function.
 class RecordingInvoker : public vnsi::VnUiDialogInvoker
 {
 public:
     using Answer = std::function<void(const vnsi::VnJsonPtr& tree)>;
     using Ptr = OdSmartPtr<RecordingInvoker>;
 
-    /// `keys` are the members noted with each request; none for the whole tree.
+    /// `keys` are the members that are recorded with each request; empty for the whole tree.
     static Ptr create(RecordingHost& host, const QStringList& keys, Answer answer = {});
     RecordingInvoker(RecordingHost& host, QStringList keys, Answer answer);
 
-    /// The key of the request code, where it is not "marker".
+    /// Sets the key of the request code when it is not "marker".
     void setMarkerKey(const char* key) { m_markerKey = key; }
     void setAnswer(Answer answer) { m_answer = std::move(answer); }
 

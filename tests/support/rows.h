@@ -2,8 +2,8 @@
 
 #include <QtTest>
 
-/// The rows of a data-driven test: names its columns, then is called once a row with the row's name
-/// and a value for each column.
+/// Adds the rows of a data-driven test. It is constructed with the names of the columns and then
+/// called once per row with the row's name and one value per column.
 template <class... Columns>
 class Rows
 {

@@ -6,7 +6,7 @@
 
 #include <QTemporaryDir>
 
-/// A block of these entities; `base` is the x and y of its base point.
+/// A block with these entities; `base` is the x and y of its base point.
 inline QByteArray block(
     const QByteArray& name, const QByteArray& entities, const QByteArray& base = "0 0")
 {
@@ -14,16 +14,17 @@ inline QByteArray block(
            entities + " 0 ENDBLK 8 0 ";
 }
 
-/// Puts small drawings into files of a folder that goes with it. Entities are written as the tags
-/// of the format, each a code, a blank and a value; "~" stands for a blank within a value.
+/// Writes small drawings to files in a temporary folder, which is removed with this object.
+/// Entities are written as tags, each a code, a blank and a value; "~" stands for a blank within a
+/// value.
 class Sketch
 {
 public:
-    /// Layers besides "0": each "name code value code value ...".
+    /// Layers besides "0", each in the form "name code value code value ...".
     QByteArray layers = "A 62 1;B 62 5";
     QByteArray blocks;
-    QByteArray header; ///< Variables: "9 $LTSCALE 40 2".
-    /// "DASHED" draws 6 units and leaves out 4; what is added stands behind it.
+    QByteArray header; ///< Header variables such as "9 $LTSCALE 40 2".
+    /// "DASHED" draws 6 units and leaves 4 out; further linetypes are added after it.
     QByteArray linetypes = kDashed;
     QByteArray objects;
 

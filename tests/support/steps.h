@@ -2,7 +2,7 @@
 
 #include "drawing.h"
 
-/// Does `act` as a step of its own; what it gives.
+/// Runs `act` in a step of its own and returns its result.
 template <class Act>
 auto inStep(drawing::Drawing& drawing, Act act)
 {
@@ -12,7 +12,8 @@ auto inStep(drawing::Drawing& drawing, Act act)
     return result;
 }
 
-/// Runs `change` on a layer's properties, in a step of its own; the refusal's text, if any.
+/// Runs `change` on a layer's properties in a step of its own. Returns the text of a refusal, or an
+/// empty text.
 template <class Change>
 QString edit(drawing::Drawing& drawing, const QString& layer, Change change)
 {
@@ -24,13 +25,13 @@ QString edit(drawing::Drawing& drawing, const QString& layer, Change change)
     return result ? QString() : result.error().text;
 }
 
-/// The name of the layer that new objects go to.
+/// The name of the current layer.
 inline QString currentName(const drawing::Drawing& drawing)
 {
     return drawing.layer(drawing.currentLayer())->properties.name;
 }
 
-/// The names of all layers, in their order.
+/// The names of all layers in their order.
 inline QStringList layerNames(const drawing::Drawing& drawing)
 {
     QStringList names;

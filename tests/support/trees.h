@@ -7,13 +7,13 @@
 
 #include <vector>
 
-/// The tree of a JSON text; fails the test when it is none.
+/// Parses a JSON text to a tree. Fails the test when the text is invalid.
 vnsi::VnJsonPtr tree(const QString& json);
-/// The tree as one line of JSON, members in the order of their keys.
+/// The tree as one line of JSON with sorted keys.
 QString toText(const vnsi::VnJsonPtr& node);
-/// The members of an object as Qt has them.
+/// An object's members as Qt's JSON object.
 QJsonObject toJsonObject(const vnsi::VnJsonPtr& node);
-/// Writes the members of `json` into `target`, through nested objects.
+/// Writes the members of `json`, including nested ones, into `target`.
 void merge(const vnsi::VnJsonPtr& target, const QJsonObject& json);
 void merge(const vnsi::VnJsonPtr& target, const QString& json);
 

@@ -5,16 +5,18 @@
 
 namespace layertool {
 
-/// Puts findings into a result's data, a row each: what, where (the lines of the layer's record, or
-/// its bytes in a binary file), and a fingerprint that tells it again in a later run.
+/// Adds findings to a result's data, one row each: the finding, its position (the lines of the
+/// layer's record, or its bytes in a binary file), and a fingerprint that identifies it in later
+/// runs.
 void addFindings(
     const std::vector<Finding>& findings, const drawing::Drawing& drawing, Result& result);
 
-/// Known findings, by their fingerprints: a baseline.
+/// A baseline: known findings, identified by their fingerprints.
 class Baseline
 {
 public:
-    /// Reads what the format "baseline" wrote: a fingerprint a line, words for people behind it.
+    /// Reads a file in the format "baseline": one fingerprint per line, followed by text for
+    /// people.
     drawing::Expected<void> read(const QString& path);
     bool knows(const QJsonObject& finding) const;
 

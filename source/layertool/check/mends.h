@@ -5,13 +5,13 @@
 
 namespace layertool {
 
-/// Whether `mendDrawing` sees to what a rule finds.
+/// Whether `mendDrawing` can correct what a rule finds.
 bool isMended(const Rule& rule);
 
-/// Mends in the open step what needs no question of what `checkDrawing` finds: the names, layers
-/// and properties of the standard, entities' own properties, layers nobody uses. Counts in `result`
-/// what was done, and notes there what was refused. An error takes back nothing: the caller rolls
-/// back.
+/// Corrects, in the open step, those findings of `checkDrawing` that need no decision: names,
+/// layers and properties that the standard defines, properties that entities define themselves, and
+/// unused layers. `result` receives the counts of corrections and the refusals. An error does not
+/// undo anything; the caller rolls the step back.
 Expected<void> mendDrawing(drawing::Drawing& drawing, const LayerRules& rules, Result& result);
 
 } // namespace layertool

@@ -14,22 +14,22 @@ namespace layertool {
 struct NameField
 {
     QString name;
-    int least = 1;              ///< Characters.
-    int most = 0;               ///< 0 for no limit.
-    QStringList values;         ///< Empty: any.
-    QRegularExpression pattern; ///< Empty: any.
+    int least = 1;              ///< The minimum number of characters.
+    int most = 0;               ///< The maximum number of characters; 0 for no limit.
+    QStringList values;         ///< The allowed values; empty for any.
+    QRegularExpression pattern; ///< The pattern of allowed values; empty for any.
     bool isOptional = false;
-    QString before; ///< What separates it from the field in front, where that differs.
+    QString before; ///< The separator before this field, if it differs from the scheme's.
 };
 
-/// How layer names are made of fields: with a separator between them, or each of its own width.
+/// How layer names are composed of fields, which are either separated or have fixed widths.
 class NamingScheme
 {
 public:
-    /// Reads the "naming" object of a rule file. Refuses what makes no sense, naming it.
+    /// Reads the "naming" object of a rule file. Refuses invalid contents and names them.
     static drawing::Expected<NamingScheme> read(const QJsonObject& json);
 
-    /// Why a name does not follow the scheme, a sentence; empty when it does.
+    /// A sentence that says why a name does not follow the scheme; empty when it does.
     QString fault(const QString& name) const;
 
 private:

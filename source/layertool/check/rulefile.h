@@ -15,7 +15,7 @@
 
 namespace layertool {
 
-/// Names by wildcard patterns.
+/// A set of names, given as wildcard patterns.
 class NamePatterns
 {
 public:
@@ -29,47 +29,50 @@ private:
     std::vector<std::shared_ptr<const wildcard::WildcardPattern>> m_patterns;
 };
 
-/// How much a finding matters.
+/// The severity of a finding.
 enum class Level : quint8 { Off, Note, Warning, Error };
 
-/// "off", "note", "warning" or "error": the words of rule files and of SARIF. Nothing for others.
+/// Converts "off", "note", "warning" or "error", the words of rule files and of SARIF. Returns
+/// nothing for other words.
 std::optional<Level> levelOf(const QString& word);
 const char* levelWord(Level level);
 
-/// A layer that a standard describes: its name, and those of its properties it speaks of.
+/// A layer as a standard describes it: its name and those properties that the standard defines.
 struct StandardLayer
 {
     QString name;
-    QMap<QString, QString> properties; ///< By the ids of `layerFields`, as these write them.
-    /// The whole layer, where it came from a drawing: what a missing one is made of.
+    /// The keys are ids of `layerFields`; the values have the form that these write.
+    QMap<QString, QString> properties;
+    /// The whole layer when the standard is a drawing. A missing layer is created from it.
     std::optional<drawing::TargetLayer> target;
 };
 
-/// What drawings are held against: a standard drawing, a rule file, or both.
+/// The rules that drawings are checked against, from a standard drawing, a rule file, or both.
 struct LayerRules
 {
     QString name;
-    NamePatterns exempt; ///< Names that rules on names pass over.
+    NamePatterns exempt; ///< Names that rules about names ignore.
     QStringList required;
     NamePatterns allowed;
     NamePatterns forbidden;
     std::optional<NamingScheme> naming;
-    QHash<QString, StandardLayer> layers; ///< By folded name.
-    QHash<QString, QString> renames;      ///< New names by folded old ones.
-    QHash<QString, Level> levels;         ///< Of rules whose level the file changes.
+    QHash<QString, StandardLayer> layers; ///< The keys are folded names.
+    QHash<QString, QString> renames;      ///< New names; the keys are folded old names.
+    QHash<QString, Level> levels;         ///< Changed levels; the keys are rules.
 };
 
-/// Reads the layers of a standard drawing into `rules`: each must look so where a drawing has it.
+/// Reads the layers of a standard drawing into `rules`. Layers of the same names must then look
+/// like them.
 drawing::Expected<void> readStandardDrawing(const QString& path, LayerRules& rules);
-/// Whether a standard is a rule file, going by its name; others are drawings.
+/// Whether the name of a standard is that of a rule file; other standards are drawings.
 bool isRuleFile(const QString& path);
-/// Reads a rule file (JSON, see docs/layer-rules.schema.json). Refuses keys and values that make no
-/// sense, naming them.
+/// Reads a rule file (JSON, see docs/layer-rules.schema.json). Refuses invalid keys and values and
+/// names them.
 drawing::Expected<void> readRuleFile(const QString& path, LayerRules& rules);
 /// Reads standards, drawings and rule files, into one set of rules. Layer 0 and Defpoints, which no
 /// drawing can do without, are passed over by rules on names.
 drawing::Expected<LayerRules> readRules(const QStringList& paths);
-/// The files that a rule file builds on, and those that they do; empty for other files.
+/// The files that a rule file includes, directly or indirectly; empty for other files.
 QStringList rulesBehind(const QString& path);
 
 } // namespace layertool

@@ -10,39 +10,40 @@ class Drawing;
 
 namespace layertool {
 
-/// Something a rule found in a drawing.
+/// Something that a rule found in a drawing.
 struct Finding
 {
     const char* rule = "";
     Level level = Level::Warning;
-    QString layer;                                ///< Empty where no layer is concerned.
-    drawing::LayerId id = drawing::LayerId::None; ///< None for a layer the drawing lacks.
-    QString property;                             ///< What of the layer, an id of `layerFields`.
+    QString layer; ///< Empty when the finding concerns no layer.
+    /// None for a layer that does not exist in the drawing.
+    drawing::LayerId id = drawing::LayerId::None;
+    QString property; ///< The layer's property concerned, an id of `layerFields`.
     QString expected;
     QString actual;
-    int count = 0; ///< Entities concerned.
+    int count = 0; ///< The number of entities concerned.
     QString text;  ///< A sentence.
 };
 
-/// What a rule is given and where it puts what it finds.
+/// The input of a rule, and the place for its findings.
 struct CheckContext;
 
-/// A rule: its word, how much it matters unless the rule file says otherwise, and what it is about.
+/// A rule: its id, its default level and what it is about.
 struct Rule
 {
     const char* id;
     Level level;
-    const char* text; ///< A sentence, to be translated.
+    const char* text; ///< A sentence that gets translated.
     void (*check)(CheckContext& context);
-    const char* keys = ""; ///< Of the rule file's keys those it looks at, with blanks between.
+    const char* keys = ""; ///< The keys of the rule file that it reads, separated by blanks.
 };
 
 /// All rules, in the order in which findings are listed.
 const std::vector<Rule>& rules();
-/// Null for a word that names none.
+/// The rule with this id; null when there is none.
 const Rule* findRule(const QString& id);
 
-/// Holds a drawing against rules.
+/// Checks a drawing against rules.
 std::vector<Finding> checkDrawing(const drawing::Drawing& drawing, const LayerRules& rules);
 
 } // namespace layertool

@@ -4,10 +4,10 @@
 
 namespace layertool {
 
-/// Words that may stand behind a verb besides drawings and folders.
+/// The words that may follow a verb besides drawings and folders.
 QStringList operandWords(const VerbRow& verb);
 
-/// The scripts that complete command lines of this program in a shell.
+/// Scripts that complete this program's command lines, one for each shell.
 QString bashScript();
 QString zshScript();
 

@@ -11,17 +11,17 @@
 
 namespace layertool {
 
-/// How drawings are worked on.
+/// Limits for the work on many drawings.
 struct BatchLimits
 {
     int processes = 1;
-    int seconds = 0;        ///< For each drawing; 0 for no limit.
-    int megabytes = 0;      ///< For each process, which keeps to it by itself; 0 for no limit.
-    bool failsFast = false; ///< Begins nothing new once a drawing has failed.
+    int seconds = 0;        ///< The time per drawing; 0 for no limit.
+    int megabytes = 0;      ///< The memory that each process allows itself; 0 for no limit.
+    bool failsFast = false; ///< Starts nothing new after the first failure.
 };
 
-/// Works on drawings in processes of this same program, one drawing at a time in each, so that one
-/// that brings its process down, or takes longer than it may, costs itself alone.
+/// Processes drawings in worker processes, which run this same program and handle one drawing at a
+/// time. A drawing that crashes its process or exceeds its time therefore affects no other.
 class Batch : public QObject
 {
     Q_OBJECT
@@ -29,14 +29,14 @@ class Batch : public QObject
 public:
     using Listener = std::function<void(const Result& result)>;
 
-    /// `drawings` is how many the run tells of, those included that need no work.
+    /// `drawings` is the number of drawings in the run's report, including those that need no work.
     Batch(const Arguments& arguments, int drawings, const BatchLimits& limits);
     ~Batch() override;
 
-    /// Runs the jobs, whose numbers are their places, and tells of each result as it comes. An
-    /// event loop runs meanwhile.
+    /// Runs the jobs, whose numbers are their indices, and passes each result to `listener` as soon
+    /// as it arrives. An event loop runs meanwhile.
     void run(const std::vector<Job>& jobs, const Listener& listener);
-    /// Gives out no more jobs and lets those under way end; nothing half-done is left.
+    /// Starts no more jobs and lets the running ones finish, so that no output is left incomplete.
     void interrupt();
 
 private:
@@ -46,7 +46,7 @@ private:
     void connectWorker(Worker& worker);
     void feed(Worker& worker);
     void readAnswers(Worker& worker);
-    /// Nothing as long as an answer is not whole.
+    /// Returns nothing until the answer is complete.
     static std::optional<Result> takeAnswer(Worker& worker);
     void onFinished(Worker& worker);
     void settle(const Result& result);
@@ -59,7 +59,7 @@ private:
     BatchLimits m_limits;
     Listener m_listener;
     std::vector<std::unique_ptr<Worker>> m_workers;
-    std::vector<Job> m_waiting; ///< The next one is the last.
+    std::vector<Job> m_waiting; ///< The next job is the last element.
     bool m_isInterrupted = false;
 };
 

@@ -9,17 +9,17 @@ namespace layertool {
 void say(const QString& text);
 /// Writes a line to standard error.
 void complain(const QString& line);
-/// The same, with the program's name in front.
+/// Writes a line to standard error that begins with the program's name.
 void complainOf(const QString& sentence);
 
-/// A line of its own on a terminal, drawn over again and again; nothing where standard error is
-/// none, or when it is to be quiet.
+/// A progress line on a terminal that is redrawn in place. It shows nothing when standard error is
+/// not a terminal or when the program is to be quiet.
 class ProgressLine
 {
 public:
     explicit ProgressLine(bool isQuiet);
     void show(int done, int total, int failed);
-    /// Takes the line away, before something else is written.
+    /// Removes the line before something else is written.
     void clear();
 
 private:

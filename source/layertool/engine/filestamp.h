@@ -6,12 +6,12 @@
 
 namespace layertool {
 
-/// What a file was when it was read: enough to tell later that it is the same. The hash is XXH3 of
-/// 128 bits over the contents, in hexadecimal.
+/// Identifies the contents that a file had when it was read, so that a later comparison tells
+/// whether it changed. The hash is the 128-bit XXH3 of the contents, in hexadecimal.
 struct FileStamp
 {
     qint64 size = -1;
-    qint64 modified = 0; ///< Milliseconds since 1970, UTC.
+    qint64 modified = 0; ///< In milliseconds since 1970, UTC.
     QByteArray hash;
 
     bool isNull() const { return size < 0; }
@@ -19,12 +19,12 @@ struct FileStamp
 
 bool operator==(const FileStamp& a, const FileStamp& b);
 
-/// Null for a file that cannot be read.
+/// The stamp of a file; null when the file cannot be read.
 FileStamp stampOf(const QString& path);
 QJsonObject stampJson(const FileStamp& stamp);
 FileStamp stampFrom(const QJsonObject& json);
 
-/// The hash of some bytes, as stamps have it.
+/// The hash of some bytes, as used in stamps.
 QByteArray hashOf(const QByteArray& bytes);
 
 } // namespace layertool

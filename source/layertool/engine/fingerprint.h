@@ -9,9 +9,9 @@
 
 namespace layertool {
 
-/// One hash of all that shapes the results besides the drawing: the program's version, the verb,
-/// the options that matter and the contents of the files they name. Refuses a file that cannot be
-/// read.
+/// A hash of everything besides the drawing that affects the results: the program's version, the
+/// verb, the relevant options and the contents of the files that they name. Refuses a file that
+/// cannot be read.
 drawing::Expected<QByteArray> runFingerprint(
     const Arguments& arguments, const std::vector<OptionRow>& options);
 

@@ -6,19 +6,20 @@
 
 namespace layertool {
 
-/// The part of all drawings that a run does.
+/// The share of all drawings that one run handles.
 struct Shard
 {
-    int number = 1; ///< From 1.
+    int number = 1; ///< Counted from 1.
     int count = 1;
 };
 
-/// Keeps other runs out of an output folder while it lives. The shards of one division may work at
-/// the same time, each once; a whole run, and shards of another division, may not.
+/// Keeps other runs out of an output folder while it exists. Different shards of the same division
+/// may work at the same time; a whole run, or a shard of another division, may not.
 class FolderLock
 {
 public:
-    /// Refuses, with a sentence, while another run has the folder; waits for it when told to.
+    /// Locks the folder. While another run has it, waits if `waits` is set and otherwise refuses
+    /// with a sentence.
     static drawing::Expected<std::unique_ptr<FolderLock>> take(
         const QString& outFolder, const Shard& shard, bool waits);
     ~FolderLock();

@@ -8,25 +8,25 @@
 
 namespace layertool {
 
-/// What there is to do, and what to say of it beforehand.
+/// The jobs of a run, and what to tell the user beforehand.
 struct Plan
 {
     std::vector<Job> jobs;
     QStringList notices;
 };
 
-/// The drawings that the command line names: files, folders (walked for `*.dxf`, the output folder
-/// left out) and lists. Each is done once, however many ways lead to it. What outputs are called
-/// follows from a drawing's own path alone: the one below the root or, for a drawing elsewhere, its
-/// absolute one. Refuses an empty input, a list that cannot be read, and outputs that would take
-/// the place of a drawing or of a file in `precious`.
+/// Collects the drawings that the command line names: files, folders (searched for `*.dxf`, except
+/// for the output folder) and lists. Each drawing is processed once, however often it is named. The
+/// name of an output depends only on the drawing's own path, relative to the root or, outside of
+/// it, absolute. Refuses empty input, unreadable lists, and outputs that would overwrite a drawing
+/// or a file in `precious`.
 drawing::Expected<Plan> planJobs(
     const Arguments& arguments, const VerbRow& verb, const QStringList& precious);
 
-/// "K/N"; refuses anything else.
+/// The shard that the option "K/N" asks for. Refuses any other form.
 drawing::Expected<Shard> shardOf(const Arguments& arguments);
 
-/// The part of the jobs that is the shard's.
+/// The jobs that belong to the shard.
 std::vector<Job> jobsOf(const Shard& shard, const std::vector<Job>& jobs);
 
 } // namespace layertool

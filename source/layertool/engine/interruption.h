@@ -8,17 +8,17 @@ class QSocketNotifier;
 
 namespace layertool {
 
-/// Tells of SIGINT and SIGTERM, in the event loop or through a flag. One at a time.
+/// Reports SIGINT and SIGTERM through the event loop or through a flag. Only one object may exist.
 class Interruption : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Sets `flag`, where there is one, as soon as a signal comes.
+    /// When `flag` is not null, a signal sets it immediately.
     explicit Interruption(std::atomic<bool>* flag = nullptr);
     ~Interruption() override;
 
-    /// The signal that came; 0 as long as there was none.
+    /// The signal that arrived; 0 when there was none.
     static int signalNumber();
 
 signals:

@@ -13,66 +13,69 @@
 
 namespace layertool {
 
-/// A drawing to work on. Passed to worker processes as a line of JSON.
+/// One drawing to process. Jobs are passed to worker processes as lines of JSON.
 struct Job
 {
-    int number = 0; ///< Its place among all jobs, from 0.
+    int number = 0; ///< Its index among all jobs, from 0.
     QString input;
-    QString other;        ///< The drawing it is held against, of verbs that take two.
-    bool isAlone = false; ///< Only one of two folders has it: the first one, or the second.
+    QString other; ///< The drawing to compare with, for verbs that take two.
+    bool isAlone =
+        false; ///< Only one folder of two has it: the second if `isSecond`, else the first.
     bool isSecond = false;
-    QString name;    ///< What outputs and reports call it: its path below the root.
-    QString output;  ///< Empty where nothing is written.
-    QString staging; ///< A folder on the output's file system for what is not whole yet.
+    QString name;    ///< The name in outputs and reports: the path relative to the root.
+    QString output;  ///< Empty when nothing is written.
+    QString staging; ///< A folder on the output's file system for files that are not complete yet.
     bool keepsBackup = false;
-    bool isProven = false; ///< The result is to hold the stamps that prove it later.
+    bool isProven = false; ///< Whether the result must contain the stamps that prove it later.
     bool isStamped() const { return isProven || output == input; }
 
     QByteArray toLine() const;
     static Job fromLine(const QByteArray& line);
 };
 
-/// A file that a verb wrote, as it was when it was put into its place.
+/// A file that a verb wrote, with its state when it was moved into place.
 struct WrittenFile
 {
     QString path;
     FileStamp stamp;
 };
 
-/// A file that is whole and waits to be put into its place.
+/// A complete file that still has to be moved into place.
 struct StagedFile
 {
     QString from;
     QString to;
 };
 
-/// What became of a drawing. Comes back from worker processes as a line of JSON, and is what the
-/// journal keeps.
+/// The outcome for one drawing. Worker processes send it as a line of JSON, and the journal stores
+/// it.
 struct Result
 {
     enum class Status : quint8 { Done, Skipped, Failed, Cancelled };
 
-    int number = 0; ///< Of its job.
+    int number = 0; ///< The number of its job.
     QString input;
     QString name;
-    QString output; ///< Empty where nothing was written.
+    QString output; ///< Empty when nothing was written.
     Status status = Status::Failed;
-    bool found = false;   ///< Something to report: a finding, a difference.
-    bool changed = false; ///< The drawing is not what it was.
-    QString error;        ///< Why it failed: one of the words in `errorid`.
-    QString text;         ///< Why it failed, a sentence.
-    QJsonObject counts;   ///< Numbers by their English words.
+    bool found = false;   ///< Whether there is something to report: a finding or a difference.
+    bool changed = false; ///< Whether the drawing was changed.
+    QString error;        ///< The reason for a failure, one of the words in `errorid`.
+    QString text;         ///< The reason for a failure as a sentence.
+    QJsonObject counts;   ///< Counts by their English names.
     QJsonArray notices;   ///< Objects with "id" and "text".
-    QJsonArray data;      ///< The rows of the verb's answer, objects.
-    /// The same by the verb's columns, for verbs that answer so; kept by the worker to itself.
+    QJsonArray data;      ///< The rows of the verb's answer as objects.
+    /// The same rows by the verb's columns, for verbs that answer in this form. Only used inside a
+    /// worker.
     std::vector<std::vector<QVariant>> cells = {};
-    /// What is printed of it; nothing where that is still to be made. Not kept either.
+    /// The printed form; empty while it has not been made. Not stored in the journal.
     std::optional<QByteArray> printed = {};
     double seconds = 0;
-    FileStamp inputStamp; ///< Of the drawing as it was read; null where no proof was asked for.
+    FileStamp inputStamp; ///< The drawing as it was read; null when no proof is needed.
     FileStamp otherStamp;
-    std::vector<WrittenFile> written;    ///< What stands in its place now, with its proof.
-    std::vector<StagedFile> staged = {}; ///< Not kept: moved by the worker.
+    /// The files that are in place, with the stamps that prove it.
+    std::vector<WrittenFile> written;
+    std::vector<StagedFile> staged = {}; ///< Moved into place by the worker and not stored.
 
     explicit Result(const Job& job = {})
         : number(job.number),
@@ -91,7 +94,7 @@ struct Result
 
 using Results = std::vector<Result>;
 
-/// Why a drawing failed, in machine formats.
+/// The reasons for failures as words in machine-readable formats.
 namespace errorid {
 inline constexpr char kDrawing[] = "drawing-unreadable";
 inline constexpr char kChanged[] = "drawing-changed-meanwhile";
@@ -103,7 +106,7 @@ inline constexpr char kTime[] = "time-limit";
 inline constexpr char kMemory[] = "memory-limit";
 } // namespace errorid
 
-/// The English word for a status, as reports have it.
+/// The English word for a status, as used in reports.
 QString statusWord(Result::Status status);
 
 QByteArray lineOf(const QJsonObject& json);

@@ -7,36 +7,37 @@
 
 namespace layertool {
 
-/// The sums over drawings.
+/// Totals over several drawings.
 struct Totals
 {
     int drawings = 0;
     int done = 0;
-    int skipped = 0; ///< Of those done: by an earlier run, as the journal proves.
+    /// Those of the finished drawings that an earlier run had already done, as its journal proves.
+    int skipped = 0;
     int changed = 0;
-    int found = 0; ///< Drawings with something to report.
+    int found = 0; ///< The number of drawings with something to report.
     int failed = 0;
-    int cancelled = 0; ///< An interruption came before or while they were worked on.
+    int cancelled = 0; ///< An interruption came before or during the work on them.
 
     void add(const Result& result);
     bool isComplete() const { return failed == 0 && cancelled == 0; }
-    /// Lines for people.
+    /// The totals as lines for people.
     QStringList lines() const;
 };
 
-/// A result, and the verb that it is of.
+/// A result and the verb that produced it.
 struct ReportRow
 {
     QString verb;
     const Result& result;
 };
 
-/// Writes a CSV file (UTF-8, with a mark for spreadsheets), a row a drawing: what became of it, its
-/// counts, and the identifiers and sentences of its notices. Replaces the file when it is whole;
-/// refuses with a sentence.
+/// Writes a CSV file (UTF-8 with a byte order mark for spreadsheets) with one row per drawing: its
+/// status, its counts, and the identifiers and sentences of its notices. An existing file is
+/// replaced only when the new one is complete. Refuses with a sentence.
 drawing::Expected<void> writeReport(const QString& path, const std::vector<ReportRow>& rows);
 
-/// The report's bytes, with no mark in front.
+/// The bytes of the report without a byte order mark.
 QByteArray reportCsv(const std::vector<ReportRow>& rows);
 
 } // namespace layertool

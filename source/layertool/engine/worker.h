@@ -4,21 +4,22 @@
 
 namespace layertool {
 
-/// The option that makes a process a worker; not for users.
+/// The internal option that makes a process a worker.
 inline constexpr char kWorkerOption[] = "--worker";
 
-/// What a worker ends with when it is refused memory.
+/// The exit code of a worker that runs out of memory.
 inline constexpr int kOutOfMemoryExit = 87;
 
-/// The key of an answer under which stands how many bytes follow its line: what is printed of it.
+/// The key in an answer for the number of printed bytes that follow the answer's line.
 inline constexpr char kPrintedSize[] = "printedSize";
 
-/// The line that tells a worker what the run is about; `drawings` is how many it tells of.
+/// The line that tells a worker about the run; `drawings` is the number of drawings in the run's
+/// report.
 QByteArray workerOrder(const Arguments& arguments, int drawings);
 
-/// Takes the order and then jobs from standard input, a line each, and answers each job with a line
-/// and what is to be printed on standard output, until there are no more or a signal comes. Returns
-/// the exit code.
+/// Reads the order and then one job per line from standard input. Answers each job on standard
+/// output with a line and the printed form, until the input ends or a signal arrives. Returns the
+/// exit code.
 int runWorker();
 
 } // namespace layertool

@@ -9,22 +9,22 @@
 
 namespace layertool {
 
-/// Tables as comma-separated values (RFC 4180), as spreadsheets write and read them.
+/// Tables as comma-separated values (RFC 4180), which spreadsheets read and write.
 namespace csv {
 
-/// In front of files, so that spreadsheets take them for UTF-8.
+/// Put in front of a file so that spreadsheets recognise UTF-8.
 inline constexpr char kByteOrderMark[] = "\xef\xbb\xbf";
 
-/// One row with its line end; fields with commas, quotes or line ends are quoted.
+/// One row including its line end. Fields with commas, quotes or line ends are quoted.
 QByteArray row(const QStringList& fields);
 
-/// Takes a table apart, whoever wrote it: with a mark in front, separated by commas, semicolons or
-/// tabs (the one that the first row holds most of), in UTF-8, UTF-16 with a mark, or GBK. Rows
-/// without any text are empty lists, so that places are those a spreadsheet shows. Refuses a quote
-/// that is never closed, naming its line.
+/// Parses a table from any program: with or without a byte order mark; separated by commas,
+/// semicolons or tabs, whichever occurs most in the first row; encoded in UTF-8, UTF-16 (with a
+/// mark) or GBK. Rows without any text become empty lists, so that row numbers match those in a
+/// spreadsheet. Refuses a quote that is never closed and names its line.
 drawing::Expected<std::vector<QStringList>> parse(const QByteArray& bytes);
 
-/// The table in a file. Refuses one that cannot be read.
+/// Parses the table in a file. Refuses a file that cannot be read.
 drawing::Expected<std::vector<QStringList>> read(const QString& path);
 
 } // namespace csv

@@ -5,35 +5,37 @@
 
 namespace layertool {
 
-/// Makes the text of a run's results in one format. The text of one drawing needs no other, so the
-/// process that worked on it makes it; they are put together, in the drawings' order, by another.
+/// Prints the results of a run in one format. The text of one drawing does not depend on others, so
+/// the process that handled the drawing makes it. Another process joins the texts in the order of
+/// the drawings.
 class Printer
 {
 public:
     virtual ~Printer() = default;
 
     virtual QByteArray begin() { return {}; }
-    /// The text for a drawing. Does not change the printer.
+    /// The text for one drawing. Does not change the printer.
     virtual QByteArray textOf(const Result& result) const = 0;
-    /// What is to be written of a drawing, `text` being what `textOf` made of it anywhere.
+    /// The bytes to write for a drawing. `text` is the result of `textOf`, possibly from another
+    /// process.
     virtual QByteArray added(const Result&, const QByteArray& text) { return text; }
     virtual QByteArray end() { return {}; }
 };
 
-/// What a printer is made for.
+/// The parameters of a printer.
 struct Printing
 {
     const Verb& verb;
     const Arguments& arguments;
-    int drawings = 0;    ///< How many there are to come.
-    bool isFile = false; ///< The output goes to a file of its own.
+    int drawings = 0;    ///< The number of drawings to expect.
+    bool isFile = false; ///< Whether the output goes to a separate file.
 };
 
-/// The format asked for: the verb's first one where none was.
+/// The requested format, or the verb's first format when none was requested.
 QString formatOf(const Arguments& arguments, const VerbRow& verb);
 
-/// Text for people, CSV or JSON by the verb's columns; SARIF and JUnit of findings. Null for a
-/// format nobody prints.
+/// Makes a printer for text, CSV or JSON with the verb's columns, or for SARIF or JUnit with
+/// findings. Returns null for an unknown format.
 std::unique_ptr<Printer> makePrinter(const QString& format, const Printing& printing);
 
 } // namespace layertool

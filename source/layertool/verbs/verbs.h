@@ -4,7 +4,7 @@
 
 namespace layertool {
 
-// Each verb tells of itself; `verbs` gathers them.
+// The description of each verb. `verbs` collects them.
 VerbRow listVerb();
 VerbRow checkVerb();
 VerbRow fixVerb();

@@ -1,6 +1,6 @@
 #pragma once
 
-// The interface of this host, in one header: the names of its headers all lead here.
+// The whole interface of this host in one header. The names of the real headers all lead here.
 
 #include "platform.h"
 
@@ -18,7 +18,7 @@ namespace vnsi {
 
 class IElementValueBase;
 
-/// Shared handle on one node of a value tree; may be empty.
+/// A shared handle to one node of a value tree, or an empty handle.
 class VnJsonPtr
 {
 public:
@@ -38,13 +38,13 @@ private:
     std::shared_ptr<IElementValueBase> m_node;
 };
 
-/// A strict node: a value is read with the type that it was written with, and with no other. To
-/// read or write a key with a type that was not agreed on is noted as a fault.
+/// A strict node: a value can only be read with the type that it was written with. Reading or
+/// writing a key with a type that was not agreed is recorded as a fault.
 class IElementValueBase
 {
 public:
     enum class Form { Object, Array, Scalar };
-    /// In the order of `contract::Type`.
+    /// The alternatives are in the order of `contract::Type`.
     using Scalar = std::variant<bool, OdInt32, OdInt64, OdString, OdAnsiString>;
 
     bool GetDataB(const char* key, bool other = false) const { return read(key, other); }
@@ -64,13 +64,13 @@ public:
     int ArrayCount() const { return static_cast<int>(elements.size()); }
     VnJsonPtr operator()(int index) const;
 
-    // What this host has besides, under names of its own.
+    // Additional functions of this host, under its own names.
 
     explicit IElementValueBase(Form itsForm) : form(itsForm) {}
     explicit IElementValueBase(Scalar value) : form(Form::Scalar), scalar(std::move(value)) {}
-    /// The member that a path leads to, whatever it is; empty where there is none.
+    /// The member at a path, whatever its type; empty when there is none.
     VnJsonPtr member(const char* path) const;
-    /// Hangs in a member without a look at its type; an empty one takes the key away.
+    /// Sets a member without checking its type; an empty handle removes the key.
     void hang(const char* path, const VnJsonPtr& value);
     VnJsonPtr copy() const;
     void clear();
@@ -110,7 +110,7 @@ OdString vnutQStringToOdString(const QString& text);
 bool vnsiutWcMatchEx(const OdString& text, const OdString& pattern, bool ignoreCase);
 OdString formatColor(const OdCmColor& color, const OdArray<ODCOLORREF>& table, OdDbObjectId layer);
 
-// Services, and the thread of the user interface.
+// Services and the user-interface thread.
 void vn_arbitDict_regservice(const OdString& name, const OdRxObjectPtr& service);
 OdRxObjectPtr vn_arbitDict_getservice(const OdString& name);
 void vn_arbitDict_clearservice(const OdString& name);
@@ -222,13 +222,13 @@ public:
 
 } // namespace vnsi
 
-/// What the interface leaves open.
+/// What the interface leaves to each host.
 namespace hostextras {
 
 using vnsi::IElementValueBase;
 using vnsi::VnJsonPtr;
 
-/// A node of its own that holds `value`.
+/// Makes a separate node that holds `value`.
 VnJsonPtr scalarOf(IElementValueBase::Scalar value);
 VnJsonPtr createArray(int capacity);
 
@@ -285,7 +285,7 @@ inline OdInt64 numberOf(const OdDbObjectId&)
 OdArray<ODCOLORREF> currentColorTable(const OdRxObjectPtr& documentManager);
 void callHelp(const OdRxObjectPtr& editPrimitiveServer, int topic);
 
-/// Posts to the thread of the user interface; done as soon as it is asked how far it is.
+/// Posts work to the user-interface thread. The work is done when its status is first asked for.
 struct UiProxy
 {
 };

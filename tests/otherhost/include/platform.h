@@ -1,7 +1,7 @@
 #pragma once
 
-// The platform as this host has it. It keeps to what the interface says: what a module needs beyond
-// that does not compile here.
+// This host's platform. It offers only what the interface defines, so a module that needs more does
+// not compile here.
 
 #include <atomic>
 #include <cstdint>
@@ -20,7 +20,7 @@ using OdUInt32 = std::uint32_t;
 using OdInt64 = std::int64_t;
 using ODCOLORREF = std::uint32_t;
 
-/// An assertion that does not hold ends the process here.
+/// A failed assertion ends the process.
 [[noreturn]] inline void OdAssert(const char*, const char*, int)
 {
     std::abort();
@@ -103,7 +103,7 @@ private:
     T* m_object = nullptr;
 };
 
-/// A class of run-time objects, told from others by its name: each library has its own copy.
+/// A run-time class, which is identified by its name because each library has its own copy.
 struct OdRxClass
 {
     std::string name;
