@@ -6,8 +6,8 @@
 class QLineEdit;
 class QPlainTextEdit;
 
-/// Where commands are typed: an echo of what was said above, a line with completion below. Up and
-/// Down walk through what was typed before.
+/// The command line: the latest messages above a line edit with completion. Up and Down recall
+/// earlier input.
 class CommandLine : public QWidget
 {
     Q_OBJECT
@@ -15,12 +15,12 @@ class CommandLine : public QWidget
 public:
     explicit CommandLine(QWidget* parent = nullptr);
 
-    void setWords(const QStringList& words); ///< Offered while typing, in any case.
-    void say(const QString& text);           ///< Adds a line to the echo.
+    void setWords(const QStringList& words); ///< Offered for completion, ignoring letter case.
+    void say(const QString& text);           ///< Adds a line to the messages.
     QString echo() const;
 
 signals:
-    void entered(const QString& word); ///< Trimmed, never empty.
+    void entered(const QString& word); ///< Without surrounding blanks and never empty.
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -32,5 +32,5 @@ private:
     QPlainTextEdit* m_echo = nullptr;
     QLineEdit* m_input = nullptr;
     QStringList m_history;
-    int m_shown = 0; ///< Index into the history; its size stands for the line being typed.
+    int m_shown = 0; ///< An index into the history; its size stands for the line being typed.
 };

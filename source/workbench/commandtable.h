@@ -7,12 +7,13 @@
 
 #include <memory>
 
-/// A layer command as menu, tool bar and command line know it.
+/// A layer command as the menu, the tool bar and the command line need it.
 struct CommandRow
 {
-    const char* name;  ///< As typed, in any case.
+    const char* name;  ///< As typed; letter case is ignored.
     const char* title; ///< As shown; also the name of the undo step.
-    const char* icon;  ///< File under ":/workbench/" without ".png"; null: not on the tool bar.
+    /// A file under ":/workbench/" without ".png"; null for commands that are not on the tool bar.
+    const char* icon;
     std::unique_ptr<LayerCommand> (*make)(const char* name);
 
     std::unique_ptr<LayerCommand> create() const { return make(name); }
@@ -25,6 +26,7 @@ class CommandTable
 public:
     const CommandRow* begin() const;
     const CommandRow* end() const;
-    /// Null for what is no layer command. Letter case and blanks around the word do not matter.
+    /// The command for a word; null when it is no layer command. Letter case and surrounding blanks
+    /// are ignored.
     const CommandRow* find(const QString& word) const;
 };

@@ -6,7 +6,7 @@
 
 class QWidget;
 
-/// The drawing that is open, and how it comes from its file and goes back there. Asks and reports
+/// The open drawing, and how it is read from and written to its file. Questions and errors appear
 /// in message boxes over the window.
 class DrawingSession : public QObject
 {
@@ -15,27 +15,29 @@ class DrawingSession : public QObject
 public:
     explicit DrawingSession(QWidget* window);
 
-    drawing::Drawing* drawing() const { return m_drawing.get(); } ///< Null: none is open.
+    drawing::Drawing* drawing() const { return m_drawing.get(); } ///< Null when none is open.
     FileWorker* worker() const { return m_worker.get(); }
     bool isBusy() const { return m_worker->isBusy(); }
 
-    /// Opens in the background; asks first when the present drawing has unsaved changes. A file
-    /// that cannot be opened is reported, and the present drawing stays.
+    /// Opens a file in the background. Asks first when the present drawing has unsaved changes.
+    /// When the file cannot be opened, the user is told and the present drawing stays.
     void open(const QString& path, const drawing::OpenOptions& options = {});
-    /// Takes over a drawing that was read already.
+    /// Takes over a drawing that was already read.
     void adopt(std::shared_ptr<drawing::Drawing> drawing);
-    /// Saves in the background; a failure is reported and leaves the drawing modified.
+    /// Saves in the background. A failure is reported, and the drawing stays modified.
     void save(const QString& path);
-    /// True when there is nothing to lose: unmodified, saved now, or given up by the user.
+    /// Returns true when nothing would be lost: the drawing is unmodified, was saved now, or the
+    /// user discards its changes.
     bool confirmDiscard();
-    /// Stops what is under way and settles unsaved changes; false when the user wants to go on.
+    /// Stops the work under way and asks about unsaved changes. Returns false when the user wants
+    /// to continue.
     bool confirmClose();
 
 signals:
     void opened();
     void saved(const QString& path);
     void failed(const QString& path); ///< The file could not be opened.
-    void said(const QString& text);   ///< A line for the command line's echo.
+    void said(const QString& text);   ///< A line for the command line.
 
 private:
     void waitForWorker();
@@ -43,6 +45,7 @@ private:
 
     QWidget* m_window;
     std::shared_ptr<drawing::Drawing> m_drawing;
-    std::unique_ptr<FileWorker> m_worker; ///< Behind the drawing: it ends first.
+    /// Declared after the drawing so that it is destroyed first.
+    std::unique_ptr<FileWorker> m_worker;
     bool m_waiting = false;
 };

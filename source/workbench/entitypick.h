@@ -4,6 +4,6 @@
 
 class Canvas;
 
-/// Lets the user pick entities on the canvas and returns when that is over: the entities,
-/// ascending; none when the user gave up. What was selected before is selected again then.
+/// Lets the user pick entities on the canvas and waits until that is over. Returns the entities in
+/// ascending order, or none when the user cancelled. Afterwards the former selection is restored.
 std::vector<int> pickEntities(Canvas& canvas);

@@ -8,19 +8,19 @@
 
 class QThread;
 
-/// Opens and saves on a thread of its own; one job at a time. Signals come on the thread the worker
-/// lives on.
+/// Opens and saves drawings on a separate thread, one job at a time. Signals are emitted on the
+/// thread that the worker belongs to.
 class FileWorker : public QObject
 {
     Q_OBJECT
 
 public:
     explicit FileWorker(QObject* parent = nullptr);
-    ~FileWorker() override; ///< Stops the job under way and waits for its end.
+    ~FileWorker() override; ///< Stops the running job and waits for its end.
 
     bool isBusy() const { return m_thread != nullptr; }
     void open(const QString& path, const drawing::OpenOptions& options);
-    /// The drawing must be left alone until the job has ended.
+    /// The drawing must not be changed until the job has ended.
     void save(drawing::Drawing& drawing, const QString& path);
     void cancel();
 
@@ -32,7 +32,8 @@ signals:
     void openFailed(
         const QString& path, const drawing::OpenOptions& options, const drawing::Error& error);
     void saveFailed(const QString& path, const drawing::Error& error);
-    void finished(); ///< Right before one of the four above; the next job may start.
+    /// Emitted directly before one of the four signals above; the next job may start.
+    void finished();
 
 private:
     void start(const QString& what, std::function<std::function<void()>()> job);

@@ -2,7 +2,7 @@
 
 #include <QMenu>
 
-/// Chooses the language that the workbench starts in and keeps the choice among the settings.
+/// Lets the user choose the language in which the workbench starts, and stores it in the settings.
 class LanguageMenu : public QMenu
 {
     Q_OBJECT
@@ -10,8 +10,8 @@ class LanguageMenu : public QMenu
 public:
     explicit LanguageMenu(QWidget* parent = nullptr);
 
-    /// Shows all texts in this language, "zh" or "en"; where it is empty in the one that was chosen
-    /// from the menu, else in that of the locale. To be called before windows are made.
+    /// Shows all texts in this language, "zh" or "en". When `asked` is empty, uses the language
+    /// chosen in the menu, or else that of the locale. Call this before any window is made.
     static void useLanguage(const QString& asked);
 
 signals:

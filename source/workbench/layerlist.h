@@ -6,5 +6,5 @@ namespace drawing {
 class Drawing;
 }
 
-/// The layer table as a JSON document, one object a layer in the order of the file.
+/// The layer table as a JSON document with one object per layer in file order.
 QByteArray layerListJson(const drawing::Drawing& drawing);

@@ -18,7 +18,7 @@ class SceneBuilder;
 class StatusFields;
 struct Scene;
 
-/// The workbench: one drawing, its canvas, and the layer commands.
+/// The main window of the workbench: one drawing, its canvas, and the layer commands.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -26,27 +26,27 @@ class MainWindow : public QMainWindow
 public:
     explicit MainWindow(QWidget* parent = nullptr);
 
-    /// Opens in the background; asks first when the present drawing has unsaved changes. A file
-    /// that cannot be opened is reported in a message box and the present drawing stays.
+    /// Opens a file in the background. Asks first when the present drawing has unsaved changes.
+    /// When the file cannot be opened, a message box says so and the present drawing stays.
     void openFile(const QString& path, const drawing::OpenOptions& options = {});
-    /// Takes over a drawing that was read already.
+    /// Takes over a drawing that was already read.
     void setFile(std::shared_ptr<drawing::Drawing> drawing);
-    /// Runs what was typed; anything that cannot run is answered in the echo.
+    /// Runs a typed command. If that is not possible, the command line says why.
     void runCommand(const QString& word);
 
-    /// Pictures the window and each dialog that a layer command shows.
+    /// Passes the window and each dialog of the layer commands to the camera.
     void pose(const LayerCommand::Camera& camera);
 
     drawing::Drawing* drawing() const;
     Canvas* canvas() const { return m_canvas; }
-    /// Whether the canvas shows all of the drawing as it is now.
+    /// Whether the canvas shows all of the drawing in its present state.
     bool isPictureWhole() const;
-    void waitForPicture(); ///< Returns when it is.
-    /// Shows a layout, by its index, or model space: `StatusFields::kModelSpace`.
+    void waitForPicture(); ///< Waits until it does.
+    /// Shows the layout with this index, or model space for `StatusFields::kModelSpace`.
     void showSpace(int layout);
 
 signals:
-    void fileOpened(); ///< The drawing shown is another one.
+    void fileOpened(); ///< Another drawing is shown.
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -96,17 +96,18 @@ private:
     bool isBusy() const;
     QAction* action(const char* name) const;
 
-    SceneBuilder* m_builder = nullptr; ///< Goes before the session and its drawing.
+    SceneBuilder* m_builder = nullptr; ///< Deleted before the session and its drawing.
     DrawingSession* m_session = nullptr;
     Canvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
     LayerPanel* m_panel = nullptr;
     RecentFiles* m_recent = nullptr;
     StatusFields* m_status = nullptr;
-    bool m_commandRunning = false; ///< Or an edit without one.
-    QElapsedTimer m_sinceRest;     ///< Of a long edit.
-    int m_rests = 0;               ///< Of the edit under way.
-    int m_shownSpace = 0;          ///< Of the scene on the canvas, as the status bar counts them.
-    bool m_isNewScene = false;     ///< And not whole yet; the view follows its extents.
-    bool m_showsOnly = false;      ///< One layer, for a command.
+    bool m_commandRunning = false; ///< A command, or an edit outside of commands, is running.
+    QElapsedTimer m_sinceRest;     ///< The time since the last break in a long edit.
+    int m_rests = 0;               ///< The number of breaks in the current edit.
+    int m_shownSpace = 0; ///< The space of the scene on the canvas, numbered as in the status bar.
+    /// The scene is new and not complete yet, so the view follows its extents.
+    bool m_isNewScene = false;
+    bool m_showsOnly = false; ///< A command shows only certain layers.
 };

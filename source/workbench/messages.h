@@ -11,22 +11,22 @@ namespace messages {
 
 enum class SaveChoice { Save, Discard, Cancel };
 
-/// Asks what becomes of unsaved changes; Esc means cancel.
+/// Asks what to do with unsaved changes. Esc means cancel.
 SaveChoice askToSave(QWidget* parent, const QString& fileName);
 
-/// A warning of one button.
+/// Shows a warning with one button.
 void showWarning(QWidget* parent, const QString& title, const QString& text);
 
-/// One sentence that names file, line (where one is to blame) and cause, each once.
+/// One sentence that names the file, the line (if there is one) and the cause, each once.
 QString describe(const QString& path, const drawing::Error& error);
-/// Names file, line and cause of what went wrong.
+/// Shows an error message that names the file, the line and the cause.
 void showFailure(
     QWidget* parent, const QString& title, const QString& path, const drawing::Error& error);
 
-/// The same of a file that is cut off; whether what is whole of it shall be opened.
+/// Shows the error of a truncated file and asks whether to open its intact part.
 bool askToOpenPart(QWidget* parent, const QString& path, const drawing::Error& error);
 
-/// Says that a command failed, why, and that what it did was taken back.
+/// Says that a command failed, why it failed, and that its changes were undone.
 void showCommandFailure(QWidget* parent, const QString& command, const QString& cause);
 
 void showAbout(QWidget* parent);

@@ -2,5 +2,5 @@
 
 #include <QCollator>
 
-/// Orders layers' names the way people look them up: letter case apart, numbers by their value.
+/// Sorts layer names as people expect: letter case is ignored, and numbers are compared by value.
 QCollator nameCollator();

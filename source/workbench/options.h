@@ -5,30 +5,30 @@
 
 #include <tl/expected.hpp>
 
-/// What the workbench is told on its command line.
+/// The options from the workbench's command line.
 struct Options
 {
-    QString file;       ///< Drawing to open; may be empty.
-    QString command;    ///< Layer command to start once it is open.
-    QString screenshot; ///< PNG file to draw the window into.
-    QString gallery;    ///< Folder for one PNG a dialog.
-    QString sheets;     ///< Folder for one PNG a space of the drawing.
+    QString file;       ///< The drawing to open; may be empty.
+    QString command;    ///< The layer command to start once the drawing is open.
+    QString screenshot; ///< A PNG file for a picture of the window.
+    QString gallery;    ///< A folder for one PNG per dialog.
+    QString sheets;     ///< A folder for one PNG per space of the drawing.
     QString module;     ///< The layer module's library; empty for the installed one.
-    bool list = false;  ///< Print the layer table.
+    bool list = false;  ///< Whether to print the layer table.
 
-    /// Ends by itself, without anybody at a screen.
+    /// Whether the program ends by itself without needing a user.
     bool isBatch() const
     {
         return list || !screenshot.isEmpty() || !gallery.isEmpty() || !sheets.isEmpty();
     }
 };
 
-/// The program is to end right away: help was asked for, or the usage was wrong.
+/// Tells the program to end immediately because help was requested or the usage was wrong.
 struct EarlyExit
 {
-    int code = 0; ///< 0 fine, 2 bad usage.
-    QString text; ///< For standard output, or standard error when the code is not 0.
+    int code = 0; ///< 0 for success, 2 for wrong usage.
+    QString text; ///< For standard output, or for standard error when the code is not 0.
 };
 
-/// Reads `arguments` (the program's name first). Needs an application object.
+/// Parses `arguments`, which begin with the program's name. Needs an application object.
 tl::expected<Options, EarlyExit> parseOptions(const QStringList& arguments);

@@ -3,7 +3,7 @@
 #include <QMenu>
 #include <QStringList>
 
-/// The menu of drawings opened lately, kept in the user's settings.
+/// The menu of recently opened drawings, which are stored in the user's settings.
 class RecentFiles : public QMenu
 {
     Q_OBJECT
@@ -11,9 +11,9 @@ class RecentFiles : public QMenu
 public:
     explicit RecentFiles(QWidget* parent = nullptr);
 
-    QStringList paths() const;               ///< The latest first.
-    void add(const QString& path);           ///< Comes first from now on.
-    void removeMissing(const QString& path); ///< Forgets it when it is not there any more.
+    QStringList paths() const;               ///< The latest comes first.
+    void add(const QString& path);           ///< Moves the path to the front.
+    void removeMissing(const QString& path); ///< Removes the path if its file no longer exists.
 
 signals:
     void chosen(const QString& path);

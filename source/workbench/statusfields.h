@@ -10,8 +10,8 @@ class QMenu;
 class QProgressBar;
 class QToolButton;
 
-/// The status bar: the switch between model space and the layouts, current layer, number of layers,
-/// cursor position, and the progress of long work with its cancel button.
+/// The status bar: the switch between model space and layouts, the current layer, the number of
+/// layers, the cursor's position, and the progress of long work with a cancel button.
 class StatusFields : public QStatusBar
 {
     Q_OBJECT
@@ -21,20 +21,21 @@ public:
 
     explicit StatusFields(QWidget* parent = nullptr);
 
-    /// A button for a switch of the window, with a short title of its own.
+    /// Adds a button for an action of the window, with a short title.
     void addSwitch(QAction* action, const QString& title);
-    void showLayers(const drawing::Drawing* drawing); ///< Null: no drawing is open.
-    void showViewport(bool isInside);                 ///< Whether the user is at work in one.
-    void showSelection(int count);                    ///< Of entities; 0 shows nothing.
+    void showLayers(const drawing::Drawing* drawing); ///< Null when no drawing is open.
+    void showViewport(bool isInside);                 ///< Whether the user works inside a viewport.
+    void showSelection(int count); ///< The number of selected entities; 0 shows nothing.
     void showCursor(const QPointF& point);
     void showWork(const QString& what);
-    void showWait(const QString& what); ///< For work that cannot be stopped, until `hideWork`.
+    /// For work that cannot be stopped; shown until `hideWork`.
+    void showWait(const QString& what);
     void showProgress(int percent);
     void hideWork();
 
 signals:
     void cancelClicked();
-    void spaceChosen(int layout); ///< Index of the layout wanted; `kModelSpace` for model space.
+    void spaceChosen(int layout); ///< The index of the requested layout, or `kModelSpace`.
 
 private:
     QToolButton* makeSpaceSwitch();
@@ -44,7 +45,7 @@ private:
 
     QToolButton* m_space = nullptr;
     QMenu* m_spaces = nullptr;
-    int m_otherSpace = kModelSpace; ///< What a click on the switch goes to.
+    int m_otherSpace = kModelSpace; ///< The space that a click on the switch shows.
     QLabel* m_viewport = nullptr;
     QLabel* m_current = nullptr;
     QLabel* m_count = nullptr;

@@ -9,15 +9,16 @@
 
 class ScenePainters;
 
-/// Shows a space of a drawing: wheel zooms at the cursor, the middle button pans, a double click
-/// of it zooms to the extents. The left button selects: a click what is there, a window drawn to
-/// the right what lies in it, to the left what reaches into it; Ctrl adds, and takes out what is
-/// clicked again; Esc clears. What is on layers not shown cannot be selected, what is on locked
-/// layers can. Double clicks on a sheet enter the viewport there, or leave it.
+/// Shows a space of a drawing. The wheel zooms at the cursor, the middle button pans, and its
+/// double click zooms to the extents. The left button selects: a click selects the entity at the
+/// cursor, a window drawn to the right selects what lies inside it, and one drawn to the left also
+/// what crosses it. Ctrl adds to the selection, or removes what is clicked again; Esc clears the
+/// selection. Entities on hidden layers cannot be selected, those on locked layers can. A double
+/// click on a sheet enters the viewport there, or leaves it.
 ///
-/// Geometry is handed in once; layers switching on, off or changing colour only choose anew which
-/// of its groups to draw and how. Large drawings are painted on other threads; meanwhile the last
-/// picture is shown, moved to where it belongs.
+/// The geometry is passed in once. When layers are switched or change their colour, the canvas only
+/// decides anew which groups of the geometry to draw and how. Large drawings are painted on other
+/// threads; until they are done, the last picture is shown at its place in the view.
 class Canvas : public QWidget
 {
     Q_OBJECT
@@ -27,44 +28,44 @@ public:
 
     ~Canvas() override;
 
-    /// Replaces what is shown. The view stays where it is, and the selection as far as it is shown:
-    /// for another drawing it must be cleared.
+    /// Replaces the contents. The view stays the same, and so does the selection as far as it is
+    /// still shown. For another drawing the caller must clear the selection.
     void setScene(Scene scene);
     /// Takes over the state of the layers and redraws.
     void setLayers(const std::vector<drawing::Layer>& layers);
 
-    /// Where the layers' linetypes are looked up from the next `setLayers` on; null: where those of
-    /// the scene are.
+    /// Sets where the layers' linetypes are looked up, beginning with the next `setLayers`; null
+    /// means in the scene.
     void setLinetypes(std::shared_ptr<const drawing::LinetypePatterns> linetypes);
-    /// The sheet that is shown from the next `setLayers` on; null in model space.
+    /// Sets the sheet to show, beginning with the next `setLayers`; null for model space.
     void setSheet(std::shared_ptr<const drawing::Sheet> sheet) { m_sheet = std::move(sheet); }
-    /// Whether the user is at work in the current viewport of the sheet.
+    /// Whether the user works inside the current viewport of the sheet.
     bool isInViewport() const { return m_isInViewport; }
     void leaveViewport();
     bool showsLineweights() const { return m_showsLineweights; }
     void setShowsLineweights(bool shows);
 
     bool isDark() const { return m_dark; }
-    void setDark(bool dark); ///< White on black or black on white.
-    /// What the visible layers hold, or all of them when none is visible.
+    void setDark(bool dark); ///< White on black, or black on white.
+    /// The extents of the visible layers, or of all layers when none is visible.
     drawing::Box extents() const;
     void zoomToExtents();
-    /// Whether all is shown and nobody zoomed or panned since.
+    /// Whether the view shows the extents and the user has not zoomed or panned since.
     bool isFitted() const { return m_fitted; }
-    /// Whether what is seen is all there is to be seen, and nothing is being painted.
+    /// Whether the picture is up to date and nothing is being painted.
     bool isPainted() const;
     const CanvasView& view() const { return m_view; }
 
-    /// Indices of entities of the drawing, ascending.
+    /// The indices of the selected entities in ascending order.
     const std::vector<int>& selection() const { return m_selection; }
-    /// Selects these, in any order, as far as they are shown.
+    /// Selects these entities, given in any order, as far as they are shown.
     void setSelection(std::vector<int> entities);
     void clearSelection() { setSelection({}); }
-    /// Shows what is selected, with room around it; nothing moves without a selection.
+    /// Shows the selection with a margin around it. Does nothing without a selection.
     void zoomToSelection();
 
-    /// Starts a pick: from nothing selected, clicks and windows add what they hit, or take out what
-    /// is clicked again, until ENTER or the right button ends it, or Esc gives up.
+    /// Starts a pick. It begins without a selection; clicks and windows add entities, and clicking
+    /// one again removes it. ENTER or the right button accepts the pick, Esc cancels it.
     void beginPick();
 
     QSize sizeHint() const override { return {900, 600}; }
@@ -73,8 +74,8 @@ signals:
     void cursorMoved(const QPointF& point); ///< In drawing units.
     void backgroundChanged(bool dark);
     void selectionChanged(int count);
-    void pickEnded(bool accepted);    ///< The pick is what is selected.
-    void viewportEntered(int entity); ///< By a double click in it.
+    void pickEnded(bool accepted);    ///< The picked entities are selected.
+    void viewportEntered(int entity); ///< The user double-clicked inside it.
     void viewportLeft();
 
 protected:
@@ -109,17 +110,17 @@ private:
     std::shared_ptr<ScenePainters> m_painters;
     CanvasView m_view;
     bool m_dark = true;
-    bool m_fitted = true; ///< Shows the extents and goes on doing so when resized.
+    bool m_fitted = true; ///< Shows the extents, and keeps showing them when resized.
     QPoint m_panFrom;
     bool m_panning = false;
 
     std::vector<int> m_selection;
     QPoint m_windowFrom;
     QPoint m_windowTo;
-    bool m_pressed = false; ///< The left button, to select.
+    bool m_pressed = false; ///< The left button is pressed in order to select.
     bool m_windowing = false;
-    bool m_picking = false; ///< Between `beginPick` and its end.
+    bool m_picking = false; ///< A pick was begun and has not ended.
 
     KeptPicture* m_frame = nullptr;
-    KeptPicture* m_overlay = nullptr; ///< The marks of what is selected.
+    KeptPicture* m_overlay = nullptr; ///< The marks of the selected entities.
 };

@@ -2,8 +2,9 @@
 
 #include <QFont>
 
-/// The font that texts of drawings are shown in, whatever fonts these name.
+/// The font for the texts of drawings, whatever fonts they name.
 QFont canvasFont(int pixelSize);
 
-/// How wide a character of it is, in heights of its capital letters. Good on any thread.
+/// The width of a character of this font in heights of a capital letter. May be called on any
+/// thread.
 double canvasCharacterWidth(QChar character);

@@ -7,14 +7,14 @@
 
 class QPainter;
 
-/// Marks selected entities with bright dashes over the drawing.
+/// Marks selected entities with bright dashes on top of the drawing.
 class CanvasHighlight
 {
 public:
-    /// Looks up what is to be drawn for these entities.
+    /// Finds the geometry of these entities.
     CanvasHighlight(ScenePointer scene, const std::vector<int>& entities);
-    /// Draws what lies in `area` of the view, to which the painter must be clipped, until
-    /// `isDropped` turns true.
+    /// Draws everything in `area` of the view until `isDropped` becomes true. The painter must be
+    /// clipped to the area.
     void paint(QPainter& painter, const CanvasView& view, const QRect& area,
         const std::atomic<bool>& isDropped) const;
     std::size_t vertexCount() const { return m_vertices; }
@@ -28,7 +28,7 @@ private:
 
     void paintPrimitive(QPainter& painter, const Piece& piece, const CanvasView& view) const;
 
-    ScenePointer m_scene; ///< Keeps the groups.
+    ScenePointer m_scene; ///< Keeps the groups alive.
     std::vector<Piece> m_primitives;
     std::vector<Piece> m_texts;
     std::size_t m_vertices = 0;

@@ -4,24 +4,25 @@
 
 #include <QPolygonF>
 
-/// Finds entities by where their visible geometry lies. Whatever a block reference or a dimension
-/// shows counts as the reference or the dimension itself. Lengths are drawing units.
+/// Finds entities by the position of their visible geometry. Everything that a block reference or a
+/// dimension shows counts as that reference or dimension. Lengths are in drawing units.
 class CanvasPick
 {
 public:
     enum class Mode { Inside, Crossing };
 
-    /// The scene must outlive this.
+    /// The scene must outlive this object.
     explicit CanvasPick(const ShownScene& scene) : m_scene(scene) {}
 
-    /// The entity whose lines pass nearest to `at`, within `reach`; where none do, the one drawn
-    /// last that has a fill or a text there. -1 when there is none.
+    /// The entity with the line nearest to `at`, at most `reach` away. When there is none, the
+    /// topmost entity with a fill or a text at that point; -1 when there is none either.
     int nearest(const QPointF& at, double reach) const;
-    /// The entities that lie in the box with all they show, or that reach into it; ascending.
+    /// The entities that are completely inside the box or that cross it, depending on `mode`, in
+    /// ascending order.
     std::vector<int> within(const drawing::Box& box, Mode mode) const;
-    /// Of these those that show anything; ascending.
+    /// Those of the entities that show anything, in ascending order.
     std::vector<int> shown(const std::vector<int>& entities) const;
-    /// What these, given in ascending order, take up as far as they show.
+    /// The bounds of the visible geometry of the entities, which must be given in ascending order.
     drawing::Box bounds(const std::vector<int>& entities) const;
 
 private:
@@ -30,5 +31,5 @@ private:
     const ShownScene& m_scene;
 };
 
-/// The box around a line of text, slanted as the text is. Its width is an estimate.
+/// The box around a line of text, rotated like the text. Its width is an estimate.
 QPolygonF textOutline(const drawing::TextRun& run);

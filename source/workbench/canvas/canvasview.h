@@ -5,7 +5,7 @@
 #include <QPointF>
 #include <QRect>
 
-/// Which part of the drawing a widget shows: the centre, and pixels per drawing unit.
+/// The part of a drawing that a widget shows, given by its centre and the pixels per drawing unit.
 class CanvasView
 {
 public:
@@ -21,11 +21,11 @@ public:
     }
     QPointF toDrawing(const QPointF& pixel) const;
     drawing::Box visibleBox() const { return boxOf(QRect({0, 0}, m_size)); }
-    drawing::Box boxOf(const QRect& pixels) const; ///< What these pixels show.
+    drawing::Box boxOf(const QRect& pixels) const; ///< The part of the drawing in these pixels.
 
-    /// Shows all of `box` with a margin; an empty one shows a hundred units around the origin.
+    /// Shows the whole box with a margin. For an empty box shows a hundred units around the origin.
     void fit(const drawing::Box& box);
-    /// Scales by `factor`; the drawing's point under `pixel` stays there.
+    /// Scales by `factor` and keeps the point of the drawing under `pixel` in place.
     void zoomAt(const QPointF& pixel, double factor);
     void pan(const QPointF& pixels);
 

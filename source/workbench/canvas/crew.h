@@ -7,20 +7,20 @@
 #include <thread>
 #include <vector>
 
-/// As many threads as there are processors, which take tasks in their order. They are started with
-/// the first task. Made of the language's own parts, so that the thread sanitizer sees what is
-/// handed over.
+/// A pool with one thread per processor, which runs tasks in their order. The threads are started
+/// with the first task. It uses only the standard library so that the thread sanitizer understands
+/// how data is passed between threads.
 class Crew
 {
 public:
     Crew() = default;
-    ~Crew(); ///< Waits until all is done.
+    ~Crew(); ///< Waits until all tasks are done.
     Crew(const Crew&) = delete;
     Crew& operator=(const Crew&) = delete;
 
-    static int size(); ///< Of every crew.
+    static int size(); ///< The number of threads in every crew.
     void start(std::function<void()> task);
-    /// Returns when no task is left or under way.
+    /// Waits until no task is queued or running.
     void waitForDone();
 
 private:
@@ -31,6 +31,6 @@ private:
     std::condition_variable m_isIdle;
     std::deque<std::function<void()>> m_tasks;
     std::vector<std::thread> m_threads;
-    int m_busy = 0; ///< Threads with a task.
+    int m_busy = 0; ///< The number of threads that run a task.
     bool m_isOver = false;
 };

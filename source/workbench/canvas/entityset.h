@@ -2,8 +2,7 @@
 
 #include <vector>
 
-/// A set of entities by their indices, which are not below 0; asking and adding take no time that
-/// grows with the set.
+/// A set of entity indices, which must not be negative. Testing and adding take constant time.
 class EntitySet
 {
 public:
@@ -26,7 +25,7 @@ public:
         const auto at = static_cast<std::size_t>(entity);
         return at < m_has.size() && m_has[at];
     }
-    /// Ascending.
+    /// The indices in ascending order.
     std::vector<int> entities() const
     {
         std::vector<int> all;

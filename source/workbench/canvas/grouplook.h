@@ -8,26 +8,28 @@
 
 #include <vector>
 
-/// How a group of the geometry is shown right now.
+/// The present look of a group of geometry.
 struct GroupLook
 {
     bool visible = true;
     QColor color;
     drawing::LinetypePatternPointer linetype; ///< Null for unbroken lines.
-    int lineweight = 0;                       ///< Hundredths of a millimetre.
+    int lineweight = 0;                       ///< In hundredths of a millimetre.
 };
 
-/// What decides on the looks of groups, besides what the drawing says of each.
+/// What determines the looks of groups besides the drawing's own definitions.
 struct LookSource
 {
     const std::vector<drawing::Layer>& layers;
-    /// Where the layers' linetypes are; null: where those of the geometry are.
+    /// The patterns of the layers' linetypes; null to use those of the geometry.
     const drawing::LinetypePatterns* linetypes = nullptr;
-    bool isDark = true; ///< The background.
-    /// What is seen through it; null: what is on the sheet, or in model space when that is shown.
+    bool isDark = true; ///< Whether the background is dark.
+    /// The viewport to look through; null for what is directly on the sheet or, without a sheet, in
+    /// model space.
     const drawing::SheetViewport* viewport = nullptr;
 };
 
-/// One look per group, by the layers' present state: off and frozen layers hide what is on them, a
-/// frozen layer hides all of the block references on it. Colour 7 is white on dark, black on light.
+/// One look per group according to the present state of the layers. A layer that is off or frozen
+/// hides what is on it; a frozen layer also hides the contents of the block references on it.
+/// Colour 7 is white on a dark background and black on a light one.
 std::vector<GroupLook> looksOf(const drawing::Geometry& geometry, const LookSource& source);

@@ -14,34 +14,34 @@
 
 class QPainter;
 
-/// A picture of a view that is kept until there is a newer one. A cheap one is painted at once;
-/// others are painted on threads of their own while the last one is shown, moved to where it
-/// belongs. Where the view only moved by whole pixels, what was painted is kept and the margin
+/// Keeps a picture of a view until there is a newer one. A cheap picture is painted immediately.
+/// Others are painted on separate threads, and meanwhile the last one is shown at its place in the
+/// view. When the view only moved by whole pixels, the old picture is reused and only its margin is
 /// painted.
 class KeptPicture : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Paints what lies in `area`, to which the painter is clipped, over the ground. Runs on
-    /// several threads at the same time; may give up when `isDropped` turns true.
+    /// Paints everything in `area`, to which the painter is clipped, over the background. It is
+    /// called on several threads at the same time and may stop when `isDropped` becomes true.
     using Paint = std::function<void(QPainter& painter, const CanvasView& view, const QRect& area,
         const std::atomic<bool>& isDropped)>;
 
     KeptPicture(QImage::Format format, QObject* parent);
-    ~KeptPicture() override; ///< Drops what is being painted.
+    ~KeptPicture() override; ///< Cancels the painting under way.
 
-    /// From here on another content is painted over another ground.
+    /// Sets new contents and a new background.
     void setContent(const Paint& paint, const QColor& ground, bool isCheap);
-    /// Sees to a picture of this view: it is there on return when it is cheap, or will be.
+    /// Makes sure that there will be a picture of this view. A cheap one is ready on return.
     void provide(const CanvasView& view, qreal pixelRatio);
-    /// Draws the last picture where it belongs in the view.
+    /// Draws the last picture at its place in the view.
     void draw(QPainter& painter, const CanvasView& view) const;
-    /// Whether the picture shows the present content in this view.
+    /// Whether the picture shows the present contents in this view.
     bool isOf(const CanvasView& view) const;
 
 signals:
-    void painted(); ///< There is a newer picture, which may be out of date already.
+    void painted(); ///< There is a newer picture, which may already be out of date.
 
 protected:
     bool event(QEvent* event) override;
@@ -65,8 +65,8 @@ private:
     Content m_content;
     bool m_isCheap = true;
     QImage m_image;
-    CanvasView m_view;          ///< Of the image.
-    int m_version = -1;         ///< Of the content that the image shows.
-    std::shared_ptr<Job> m_job; ///< Under way.
+    CanvasView m_view;          ///< The view that the image shows.
+    int m_version = -1;         ///< The version of the contents that the image shows.
+    std::shared_ptr<Job> m_job; ///< The painting under way.
     Crew m_crew;
 };

@@ -9,33 +9,35 @@
 
 #include <vector>
 
-/// Cuts lines into the dashes, gaps and dots of their linetypes. All lengths are pixels, y grows
-/// downwards.
+/// Divides lines into the dashes, gaps and dots of their linetypes. All lengths are in pixels, and
+/// y grows downwards.
 ///
-/// A run begins and ends with a dash of at least half the first one's length, as the patterns of
-/// this format are aligned; one too short for a repeat is drawn whole, and so is one whose dashes
-/// nobody could tell apart. Closed runs have the pattern stretched until it closes.
+/// A run begins and ends with a dash of at least half the length of the pattern's first dash, which
+/// is the alignment that this format defines. A run that is too short for one repetition is drawn
+/// unbroken, and so is one whose dashes would be too small to see. In closed runs the pattern is
+/// stretched until it closes.
 class LineDasher
 {
 public:
-    /// Something written along a line.
+    /// A text along a line.
     struct Letters
     {
         QString text;
         QPointF place;
-        double angle = 0; ///< Radians, to the right of the x axis.
+        double angle = 0; ///< In radians.
         double height = 0;
     };
 
-    /// What there is to draw; whoever draws it empties it.
+    /// The result. Whoever draws it also clears it.
     QVector<QLineF> lines;
-    QVector<QPolygonF> bends; ///< Dashes around corners.
+    QVector<QPolygonF> bends; ///< Dashes that go around corners.
     QVector<QPointF> dots;
     std::vector<Letters> letters;
 
-    /// What lies outside is left out.
+    /// Sets the visible area. Everything outside is left out.
     void setSeen(const QRectF& seen) { m_seen = seen; }
-    /// Adds a line as `pattern` cuts it at `scale` pixels a unit. `restarts`: anew at each vertex.
+    /// Adds a line with a pattern at `scale` pixels per unit. With `restarts` the pattern restarts
+    /// at each vertex.
     void dash(const QPolygonF& line, const drawing::LinetypePattern& pattern, double scale,
         bool restarts);
 
@@ -53,15 +55,15 @@ private:
     const drawing::LinetypePattern* m_pattern = nullptr;
     double m_scale = 1;
 
-    // Of the run under way; lengths are along it.
-    double m_unit = 1;   ///< `m_scale` as fitted.
-    double m_length = 0; ///< Of the run.
-    double m_lead = 0;   ///< Of the dashes at its ends, where they are not the pattern's.
-    double m_phase = 0;  ///< Where in the pattern the run begins.
+    // State of the current run. Lengths are measured along the run.
+    double m_unit = 1;   ///< `m_scale`, adjusted to the run.
+    double m_length = 0; ///< The length of the run.
+    double m_lead = 0; ///< The length of the dashes at its ends when it differs from the pattern's.
+    double m_phase = 0; ///< The position in the pattern at which the run begins.
 
-    // Of the segment under way.
+    // State of the current segment.
     QPointF m_from;
-    QPointF m_way; ///< Of length 1.
+    QPointF m_way; ///< The direction, of length 1.
     double m_start = 0;
 
     QPolygonF m_piece;

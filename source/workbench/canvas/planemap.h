@@ -5,26 +5,27 @@
 
 #include <QRectF>
 
-/// An affine map from a plane of a drawing to pixels: that of a view, or of what a view shows
+/// An affine map from a plane of a drawing to pixels, either directly by a view or by a view
 /// through a viewport.
 class PlaneMap
 {
 public:
     PlaneMap() = default;
     explicit PlaneMap(const CanvasView& view);
-    /// From model space, where this is the map of the sheet.
+    /// For a map of a sheet, the map of model space through one of the sheet's viewports.
     PlaneMap through(const drawing::SheetViewport& viewport) const;
 
     QPointF toPixel(const QPointF& point) const { return m_pixel + ofDirection(point - m_anchor); }
     QPointF toPlane(const QPointF& pixel) const;
     QPointF ofDirection(const QPointF& way) const { return m_x * way.x() + m_y * way.y(); }
-    /// Pixels that a unit of the plane takes, on the average of its directions.
+    /// The number of pixels per unit of the plane, averaged over all directions.
     double scale() const { return m_scale; }
-    /// What of the plane may be seen in these pixels.
+    /// The part of the plane that may be visible in these pixels.
     drawing::Box boxAround(const QRectF& pixels) const;
 
 private:
-    // Anchored in what is seen, as far from the origin a sum would lose its last digits.
+    // The map is anchored in the visible area, because sums far from the origin lose their last
+    // digits.
     QPointF m_anchor;
     QPointF m_pixel;
     QPointF m_x{1, 0};
@@ -32,5 +33,5 @@ private:
     double m_scale = 1;
 };
 
-/// Where the cut of a viewport lies.
+/// The bounds of a viewport's outline.
 drawing::Box boundsOf(const drawing::SheetViewport& viewport);

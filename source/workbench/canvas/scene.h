@@ -7,35 +7,36 @@
 #include <memory>
 #include <vector>
 
-/// What a canvas shows: a drawing flattened in parts, in the order in which they are drawn.
+/// The contents of a canvas: the flattened parts of a drawing in drawing order.
 struct Scene
 {
     Scene() = default;
-    Scene(drawing::GeometryPart whole) ///< A drawing in one part; none for null.
+    Scene(drawing::GeometryPart whole) ///< A drawing in one part; empty for null.
     {
         if (whole)
             parts.push_back(std::move(whole));
     }
 
     std::vector<drawing::GeometryPart> parts;
-    std::shared_ptr<const drawing::Sheet> sheet; ///< Null where model space is shown.
+    std::shared_ptr<const drawing::Sheet> sheet; ///< Null while model space is shown.
 };
 
-/// A scene with the looks of its groups. Threads share it, so nobody changes it once it is made.
+/// A scene with the looks of its groups. Several threads share it, so it must not change after it
+/// was made.
 class ShownScene
 {
 public:
     ShownScene() = default;
     ShownScene(Scene scene, const LookSource& source);
 
-    /// A group that is seen, in the order of drawing.
+    /// A visible group. Groups are stored in drawing order.
     struct Group
     {
         const drawing::GeometryGroup& geometry;
         const GroupLook& look;
         std::size_t part;
     };
-    /// Calls `visit(const Group&)` for each group that is seen.
+    /// Calls `visit(const Group&)` for each visible group.
     template <class Visit>
     void forEachGroup(Visit visit) const
     {
@@ -52,7 +53,7 @@ public:
         }
     }
 
-    /// The pieces of a group that are to be looked at: all, or those at these places.
+    /// The pieces of a group to look at: all of them, or those at the given places.
     struct Pieces
     {
         const drawing::GeometryIndex::Place* first = nullptr;
@@ -68,17 +69,17 @@ public:
                 visit(pieces[place->index]);
         }
     };
-    /// Calls `visit(group, primitives, texts)` for each group that is seen, with those of its
-    /// pieces that may reach into the box; in the order of drawing.
+    /// Calls `visit(group, primitives, texts)` for each visible group, in drawing order, with those
+    /// of its pieces that may overlap the box.
     template <class Visit>
     void forEachGroupNear(const drawing::Box& box, Visit visit) const;
 
-    /// Calls `onPrimitive(group, primitive)` and `onText(group, run)` for those that are seen and
-    /// whose bounds reach into the box, in the order of drawing.
+    /// Calls `onPrimitive(group, primitive)` and `onText(group, run)`, in drawing order, for
+    /// everything visible whose bounds overlap the box.
     template <class OnPrimitive, class OnText>
     void forEachNear(const drawing::Box& box, OnPrimitive onPrimitive, OnText onText) const;
 
-    /// A viewport that is on, and what is seen through it.
+    /// A viewport that is on, and what is visible through it.
     struct Window
     {
         drawing::SheetViewport viewport;
@@ -88,17 +89,17 @@ public:
     const Scene& scene() const { return m_scene; }
     const std::vector<Window>& windows() const { return m_windows; }
     std::size_t partCount() const { return m_looks.size(); }
-    /// What is seen, or all there is when nothing is.
+    /// The extents of what is visible, or of everything when nothing is visible.
     const drawing::Box& extents() const { return m_extents; }
     const QColor& background() const { return m_background; }
-    /// How many vertices are seen; a text counts as much as takes the same time.
+    /// The number of visible vertices. A text counts as many vertices as take the same time.
     std::size_t vertexCount() const { return m_vertexCount; }
 
 private:
     void openWindows(const LookSource& source);
 
     Scene m_scene;
-    std::vector<std::vector<GroupLook>> m_looks; ///< By part and group.
+    std::vector<std::vector<GroupLook>> m_looks; ///< Indexed by part and group.
     std::vector<Window> m_windows;
     QColor m_background;
     drawing::Box m_extents;

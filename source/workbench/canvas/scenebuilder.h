@@ -13,10 +13,10 @@ namespace drawing {
 class Drawing;
 } // namespace drawing
 
-/// Flattens the drawing part by part on threads of its own, and hands out what there is as it
-/// comes. An edit has those parts built anew that it touched; until they are, their old ones are
-/// shown. Before the drawing changes the threads stop; what they had not finished starts again once
-/// control is back in the event loop. Small drawings are flattened at once.
+/// Flattens the drawing part by part on separate threads and publishes the parts as they become
+/// ready. After an edit, only the affected parts are built anew, and their old versions remain
+/// visible until then. Before the drawing changes the threads stop; unfinished parts are started
+/// again when control returns to the event loop. Small drawings are flattened immediately.
 class SceneBuilder : public QObject
 {
     Q_OBJECT
@@ -25,15 +25,15 @@ public:
     explicit SceneBuilder(QObject* parent = nullptr);
     ~SceneBuilder() override;
 
-    /// Begins with another drawing; null stands for none.
+    /// Starts with another drawing; null for none.
     void setDrawing(const drawing::Drawing* drawing);
-    /// Begins from nothing, as another space of the drawing is to be shown.
+    /// Starts from the beginning because another space of the drawing is to be shown.
     void restart();
     bool isBuilding() const { return !m_isWhole; }
 
 signals:
-    void sceneChanged(const Scene& scene); ///< More of it is there, or it is there anew.
-    /// All is there. `isTruncated`: there is more than can be shown.
+    void sceneChanged(const Scene& scene); ///< Some of it was added or replaced.
+    /// Everything has been built. `isTruncated` tells that there is more than can be shown.
     void finished(bool isTruncated);
 
 protected:
@@ -52,11 +52,11 @@ private:
     void publish();
 
     const drawing::Drawing* m_drawing = nullptr;
-    std::vector<drawing::EntityRange> m_ranges; ///< Of the parts.
-    std::vector<drawing::GeometryPart> m_parts; ///< Null where there is none yet.
-    std::vector<std::size_t> m_stale;           ///< Parts to be built, ascending.
-    bool m_isWhole = true;                      ///< And handed out.
-    std::shared_ptr<Build> m_build;             ///< Under way.
+    std::vector<drawing::EntityRange> m_ranges; ///< The ranges of the parts.
+    std::vector<drawing::GeometryPart> m_parts; ///< Null for parts that have not been built.
+    std::vector<std::size_t> m_stale; ///< The parts that must be built, in ascending order.
+    bool m_isWhole = true;            ///< Everything has been built and published.
+    std::shared_ptr<Build> m_build;   ///< The build under way.
     QTimer m_resume;
     QTimer m_publish;
     Crew m_crew;

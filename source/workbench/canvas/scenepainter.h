@@ -19,17 +19,17 @@
 
 class QPainter;
 
-/// Draws flattened geometry. Keeps the outlines of texts from one drawing to the next.
+/// Draws flattened geometry. It keeps the outlines of texts for the next time.
 class ScenePainter
 {
 public:
     ScenePainter();
 
-    /// Pixels that a millimetre of lineweight takes; 0 draws all lines as thin as can be.
+    /// Sets the pixels per millimetre of lineweight; 0 draws all lines as thin as possible.
     void setLineweightScale(double pixels) { m_lineweightScale = pixels; }
-    /// Draws what of the scene lies in `area` of the view: fills in their order, then lines and
-    /// texts of one group after the other. `painter` must be clipped to the area. Gives up when
-    /// `isDropped` turns true, which another thread may do.
+    /// Draws the part of the scene in `area` of the view: first the fills in their order, then the
+    /// lines and texts group by group. `painter` must be clipped to the area. Stops when another
+    /// thread sets `isDropped`.
     void paint(QPainter& painter, const ShownScene& scene, const CanvasView& view,
         const QRect& area, const std::atomic<bool>& isDropped);
 
@@ -40,21 +40,21 @@ private:
         double width = 0;
     };
 
-    /// How a space is seen.
+    /// How a space is shown.
     struct Space
     {
         PlaneMap map;
-        double dashScale = 1; ///< Pixels a unit of linetypes at scale 1.
-        double height = 0;    ///< Of what shows it, in pixels.
+        double dashScale = 1; ///< Pixels per unit of linetypes at scale 1.
+        double height = 0;    ///< The height in pixels of the view or viewport that shows it.
     };
-    /// A surface that covers what was drawn before.
+    /// A surface that hides what was drawn before.
     struct Mask
     {
         quint64 order;
         const drawing::GeometryGroup* group;
         const drawing::Primitive* primitive;
     };
-    /// Places in the order of drawing, over all parts.
+    /// Positions in the drawing order across all parts.
     static constexpr quint64 kLast = std::numeric_limits<quint64>::max();
     static quint64 orderOf(std::size_t part, quint32 sequence)
     {
@@ -71,7 +71,7 @@ private:
         const PlaneMap& map, const QRect& area);
     void paintSpace(const ShownScene& scene, const Space& space, const QRect& area);
     std::vector<Mask> masksOf(const ShownScene& scene) const;
-    /// What lies between two masks.
+    /// Paints everything between two masks.
     void paintRange(const ShownScene& scene);
     void paintFills(const ShownScene& scene, std::size_t part);
     void paintFill(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
@@ -102,21 +102,22 @@ private:
     QHash<QString, Outline> m_outlines;
     double m_lineweightScale = 0;
 
-    // What follows is of use only while painting.
+    // Only used while painting.
     QPainter* m_painter = nullptr;
     PlaneMap m_map;
-    quint64 m_from = 0; ///< What of the order of drawing is painted now.
+    quint64 m_from = 0; ///< The range of the drawing order that is being painted.
     quint64 m_to = kLast;
     std::size_t m_partNumber = 0;
     drawing::Box m_visible;
     std::optional<PointMark> m_mark;
-    double m_linetypeScale = 1;                          ///< Pixels a unit of the patterns.
-    const drawing::LinetypePattern* m_pattern = nullptr; ///< Of the group's lines.
+    double m_linetypeScale = 1;                          ///< Pixels per unit of the patterns.
+    const drawing::LinetypePattern* m_pattern = nullptr; ///< The pattern of the group's lines.
     LineDasher m_dasher;
     const std::atomic<bool>* m_isDropped = nullptr;
     QVector<QLineF> m_lines;
     QVector<QPointF> m_dots;
-    std::vector<quint32> m_dotted; ///< By pixel of the area: the group last dotted there, from 1.
+    /// For each pixel of the area, the number (from 1) of the group that last drew a dot there.
+    std::vector<quint32> m_dotted;
     quint32 m_dotsOfGroup = 0;
     QPointF m_dotsFrom;
     QSize m_dotsSize;

@@ -7,13 +7,13 @@
 #include <mutex>
 #include <vector>
 
-/// Painters with the outlines that they keep, lent to whichever thread paints.
+/// A pool of painters, so that the outlines that they keep are reused by any thread.
 class ScenePainters
 {
 public:
     using Loan = std::unique_ptr<ScenePainter, std::function<void(ScenePainter*)>>;
 
-    /// A painter that comes back when the loan ends.
+    /// Borrows a painter, which returns to the pool when the loan ends.
     Loan take()
     {
         const std::lock_guard lock(m_mutex);

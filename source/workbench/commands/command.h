@@ -14,38 +14,39 @@ class DrawingStep;
 enum class LayerId : int;
 } // namespace drawing
 
-/// What a layer command works on and talks through.
+/// Everything that a layer command works with.
 struct CommandContext
 {
     drawing::Drawing& drawing;
-    QWidget* parent = nullptr;               ///< For dialogs.
-    std::function<void(const QString&)> say; ///< A line for the command line's echo.
+    QWidget* parent = nullptr;               ///< The parent of dialogs.
+    std::function<void(const QString&)> say; ///< Shows a line in the command line.
     std::function<void()>
-        refresh; ///< Draws the layers as they are now, within the open step, at once.
-    std::vector<int> selection = {}; ///< Entities selected on the canvas, ascending.
-    std::function<void(const QString&)> notice = {}; ///< A line for the status bar.
-    /// Lets the user pick entities on the canvas; none when the user gives up. No dialog may be in
-    /// the way meanwhile.
+        refresh; ///< Immediately draws the layers as they are now, within the open step.
+    std::vector<int> selection = {}; ///< The entities selected on the canvas, in ascending order.
+    std::function<void(const QString&)> notice = {}; ///< Shows a line in the status bar.
+    /// Lets the user pick entities on the canvas; returns none when the user cancelled. No dialog
+    /// may cover the canvas meanwhile.
     std::function<std::vector<int>()> pick = {};
-    /// Shows what is on these layers alone, whatever the layers say, until `refresh` or the
-    /// command's end. The drawing does not change.
+    /// Shows only the contents of these layers, whatever their states, until `refresh` or the end
+    /// of the command. The drawing does not change.
     std::function<void(const std::vector<drawing::LayerId>&)> showOnly = {};
-    drawing::DrawingStep* step = nullptr; ///< What the command changes belongs to it.
-    LayerMemory* memory = nullptr;             ///< What the window remembers of the layers.
-    std::vector<drawing::LayerId> layers = {}; ///< Chosen in the panel for this command.
+    drawing::DrawingStep* step = nullptr; ///< The step that the command's changes belong to.
+    LayerMemory* memory = nullptr;        ///< What the window remembers about the layers.
+    /// The layers selected in the panel for this command.
+    std::vector<drawing::LayerId> layers = {};
 };
 
-/// One of the layer commands. A new object for every run.
+/// Base of the layer commands. Each run uses a new object.
 class LayerCommand
 {
 public:
-    /// Takes a picture of a window under a file name without its ending.
+    /// Saves a picture of a window under a file name without extension.
     using Camera = std::function<void(const QString& name, QWidget& window)>;
 
     virtual ~LayerCommand() = default;
-    /// Runs to its end, dialogs included. A step of the drawing is open meanwhile and is committed
-    /// behind it: whatever the command changes is one undo.
+    /// Runs the command with all its dialogs. A step of the drawing is open meanwhile and is
+    /// committed afterwards, so everything that the command changes is undone at once.
     virtual void run(CommandContext& context) = 0;
-    /// Shows the camera each of the command's dialogs, filled from the drawing.
+    /// Passes each of the command's dialogs, filled from the drawing, to the camera.
     virtual void pose(CommandContext& context, const Camera& camera) = 0;
 };

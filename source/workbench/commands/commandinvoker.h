@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// Hands the requests of a dialog to the command that shows it.
+/// Passes the requests of a dialog to the command that shows it.
 class CommandInvoker : public vnsi::VnUiDialogInvoker
 {
 public:

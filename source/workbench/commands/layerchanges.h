@@ -11,16 +11,17 @@ namespace drawing {
 class Drawing;
 }
 
-/// Carries out in a drawing what the Layer Properties Manager changed in its records. What the
-/// drawing refuses is left out, by itself: what else was changed of the same layer is done.
+/// Applies the changes that the Layer Properties Manager made in its records to a drawing. When the
+/// drawing refuses a change, only that change is left out; other changes of the same layer are
+/// applied.
 class LayerChanges
 {
 public:
     explicit LayerChanges(drawing::Drawing& drawing) : m_drawing(drawing) {}
 
-    /// Applies the modified records of a list. Afterwards they say what the drawing says, those of
-    /// deleted layers are gone, and those of new layers know them. Returns a sentence for each
-    /// change that was refused.
+    /// Applies the modified records of a list and then updates the list: records show the state of
+    /// the drawing, those of deleted layers are removed, and those of new layers get their ids.
+    /// Returns one sentence for each refused change.
     QStringList apply(const vnsi::VnJsonPtr& list);
 
 private:

@@ -3,7 +3,7 @@
 #include "command.h"
 #include "vnjson.h"
 
-/// LAYER: shows the Layer Properties Manager and applies what it changed.
+/// LAYER: shows the Layer Properties Manager and applies its changes.
 class LayerPropertiesCommand : public LayerCommand
 {
 public:

@@ -5,38 +5,38 @@
 #include "recordprovider.h"
 #include "vnjson.h"
 
-/// What the commands share that offer layers in a list and carry out what a dialog marked there.
+/// Functions for commands that list layers in a dialog and act on those that the dialog marked.
 namespace layermarks {
 
-/// A layer as it was when a dialog showed it.
+/// A layer as it was when a dialog was opened.
 struct Marked
 {
     drawing::LayerId id = drawing::LayerId::None;
     QString name;
 };
 
-/// A tree whose list names the layers that pass.
+/// A tree with the records of the layers that pass the filter.
 vnsi::VnJsonPtr makeTree(const drawing::Drawing& drawing, const layerrecords::Filter& passes);
-/// Whether a layer may be taken out of the drawing: not 0, not current, not of a reference.
+/// Whether a layer may be deleted: it is not 0, not current and not from an external reference.
 bool mayGo(const drawing::Drawing& drawing, const drawing::Layer& layer);
 
-/// Shows a dialog of the module on `tree`; true when it ended with OK.
+/// Shows a dialog of the module on `tree`. Returns true when the user chose OK.
 bool show(CommandContext& context, const OdString& dialog, const vnsi::VnJsonPtr& tree,
     std::function<void(const vnsi::VnJsonPtr& tree)> answer = {});
 
-/// The layers whose records carry the action `status`, in their order.
+/// The layers whose records have the status `status`, in their order.
 std::vector<Marked> marked(const vnsi::VnJsonPtr& tree, vnsi::LayerStatus status);
-/// The ids of those that are still there; the others are named to the user.
+/// The ids of those layers that still exist. The user is told the names of the others.
 std::vector<drawing::LayerId> present(CommandContext& context, const std::vector<Marked>& layers);
 
-/// A line for echo and status bar.
+/// Shows a line in the command line and in the status bar.
 void tell(CommandContext& context, const QString& text);
-/// A message box on why something could not be done.
+/// Shows a message box that says why something could not be done.
 void warn(const QString& text);
-/// Asks whether to do something; true for yes.
+/// Asks a question and returns true for yes.
 bool confirms(const QString& question);
-/// A message box with what could not be done, a sentence each, which starts anew then; nothing
-/// without any. A box has room for the first ten: of more, all are echoed.
+/// Shows a message box with the sentences in `problems` and clears them. Does nothing when there
+/// are none. The box shows the first ten; if there are more, all appear in the command line.
 void report(CommandContext& context, const QString& heading, QStringList& problems);
 
 } // namespace layermarks

@@ -9,8 +9,8 @@
 
 #include <optional>
 
-/// LAYERSTATE: shows the Layer State Manager and does what it asks for. Each request that changes
-/// the drawing is a step of its own, as the dialog stays open between them.
+/// LAYERSTATE: shows the Layer State Manager and carries out its requests. Each request that
+/// changes the drawing is a step of its own because the dialog stays open in between.
 class LayerStateCommand : public LayerCommand
 {
 public:
@@ -48,6 +48,6 @@ private:
     CommandContext* m_context = nullptr;
     vnsi::VnJsonPtr m_manager; ///< The elements that requests are sent on.
     vnsi::VnJsonPtr m_editor;
-    QString m_current;      ///< The state restored, made or overwritten last.
-    QStringList m_problems; ///< What of a request could not be done.
+    QString m_current;      ///< The state that was last restored, created or overwritten.
+    QStringList m_problems; ///< What the current request could not do.
 };

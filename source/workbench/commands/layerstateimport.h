@@ -4,19 +4,20 @@
 
 #include <QStringList>
 
-/// Takes layer states from files, as far as a drawing can use them.
+/// Imports layer states from files, as far as a drawing can use them.
 class LayerStateImport
 {
 public:
-    /// The drawing must outlive the object.
+    /// The drawing must outlive this object.
     explicit LayerStateImport(const drawing::Drawing& drawing) : m_drawing(drawing) {}
 
-    /// Reads the states of a file of states or of a drawing: what it holds counts, not its name.
+    /// Reads the states of a layer state file or of a drawing. The contents decide on the type, not
+    /// the name.
     void read(const QString& path, bool leavesOutReferences);
-    /// Those read that the drawing can use and the user wants: asks before a state of the same name
-    /// goes. None when the user cancels. Those read are then used up.
+    /// Returns the states read so far that the drawing can use and the user wants, and forgets
+    /// them. Asks before a state of the same name is replaced. Returns none when the user cancels.
     std::vector<drawing::LayerState> choose();
-    /// What could not be used, a sentence each.
+    /// One sentence for each thing that could not be used.
     const QStringList& problems() const { return m_problems; }
 
 private:
@@ -28,5 +29,5 @@ private:
     const drawing::Drawing& m_drawing;
     std::vector<drawing::LayerState> m_read;
     QStringList m_problems;
-    Existing m_existing = Existing::Ask; ///< What becomes of states that are there already.
+    Existing m_existing = Existing::Ask; ///< How to treat states that already exist.
 };

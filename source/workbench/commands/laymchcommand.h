@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// LAYMCH: puts the selected entities on a layer that is there or made for them.
+/// LAYMCH: puts the selected entities on an existing or new layer.
 class LayerChangeCommand : public LayerCommand
 {
 public:
@@ -15,7 +15,7 @@ public:
 
 private:
     static vnsi::VnJsonPtr makeTree(const drawing::Drawing& drawing);
-    /// The layer the dialog chose; none when it chose none, or none can be had.
+    /// The layer chosen in the dialog; nothing when none was chosen or it could not be created.
     static std::optional<drawing::LayerId> target(
         CommandContext& context, const vnsi::VnJsonPtr& tree);
     static void move(CommandContext& context, drawing::LayerId target);

@@ -5,7 +5,7 @@
 #include "layers/layer.h"
 #include "vnjson.h"
 
-/// LAYMRG: puts everything on some layers on another one and removes them.
+/// LAYMRG: moves everything on some layers to another layer and deletes them.
 class LayerMergeCommand : public LayerCommand
 {
 public:
@@ -17,7 +17,7 @@ private:
 
     static vnsi::VnJsonPtr makeSourceTree(const drawing::Drawing& drawing);
     static vnsi::VnJsonPtr makeTargetTree(const drawing::Drawing& drawing, const Layers& sources);
-    /// Asks until a layer is chosen that is no source; empty when the user gives up.
+    /// Asks until a layer is chosen that is not a source; empty when the user cancels.
     static Layers askTarget(CommandContext& context, const Layers& sources);
     static Layers settle(const Layers& targets);
     static void merge(CommandContext& context, const Layers& sources, const Layers& target);

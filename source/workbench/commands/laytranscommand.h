@@ -7,8 +7,8 @@
 
 class QFileInfo;
 
-/// LAYTRANS: shows the layer translator and answers what it asks. What the translation and a purge
-/// change is one step; what is looked at meanwhile changes the canvas alone.
+/// LAYTRANS: shows the layer translator and answers its requests. A translation and purging
+/// together are one step. Showing layers alone only affects the canvas.
 class LayerTranslateCommand : public LayerCommand
 {
 public:
@@ -35,21 +35,21 @@ private:
     void addTargets(const std::vector<drawing::TargetLayer>& targets, const QString& path);
     void sayLoaded(const vnsi::VnJsonPtr& mappings) const;
     QString offeredName(const QFileInfo& file) const;
-    /// Where mappings that are to be saved as `path` go: a name that none can have is told to the
-    /// user, who may take another one instead. Empty where they are not saved.
+    /// The path under which mappings are saved. When `path` is not possible, the user is told and
+    /// may choose another one. Empty when they are not saved.
     QString acceptedPath(const QString& path) const;
-    /// Shows those layers alone if the user wants that; names of none change nothing.
+    /// Shows these layers alone if the user wants that. Unknown names have no effect.
     void showAlone(const QStringList& layers) const;
     void report(const drawing::TranslationReport& report);
     void writeLog(
         const drawing::TranslationReport& report, const drawing::TranslationOptions& options);
     void answerWithSamples(const vnsi::VnJsonPtr& tree);
-    /// Shows what the last request could not do, under a line of its own.
+    /// Shows what the last request could not do, under this heading.
     void tellProblems(const QString& title);
 
     CommandContext* m_context = nullptr;
     TranslationRecords m_records;
-    vnsi::VnJsonPtr m_targets;     ///< The to-list as it was answered last.
-    bool m_showsSelection = false; ///< The option that shows chosen layers alone.
+    vnsi::VnJsonPtr m_targets;     ///< The targets as they were last sent to the dialog.
+    bool m_showsSelection = false; ///< The option to show the selected layers alone.
     QStringList m_problems;
 };

@@ -7,8 +7,8 @@
 
 #include <QStringList>
 
-/// LAYWALK: shows the walk through the layers and has the drawing follow it at once. The whole walk
-/// is one step, and none when the drawing ends as it began.
+/// LAYWALK: shows the layer walk and updates the drawing immediately. The whole walk is one step,
+/// or none when the drawing ends up as it began.
 class LayerWalkCommand : public LayerCommand
 {
 public:
@@ -43,10 +43,11 @@ private:
     };
 
     CommandContext* m_context = nullptr;
-    std::vector<Before> m_before; ///< The layers when the walk began.
+    std::vector<Before> m_before; ///< The layers at the beginning of the walk.
     drawing::LayerId m_currentBefore = drawing::LayerId::None;
-    /// The layer that was current before the latest click, as the dialog says.
+    /// The layer that was current before the latest click, according to the dialog.
     drawing::LayerId m_oldCurrent = drawing::LayerId::None;
-    bool m_hasOtherEdits = false; ///< Purged, or saved a state: restoring layers leaves that.
-    QStringList m_problems;       ///< Why parts of a request could not be carried out.
+    /// The walk purged layers or saved a state, which restoring the layers does not revert.
+    bool m_hasOtherEdits = false;
+    QStringList m_problems; ///< Why parts of a request could not be carried out.
 };

@@ -3,23 +3,23 @@
 #include "command.h"
 #include "hostfrontend.h"
 
-/// Shows dialogs to a camera without waiting for a user.
+/// Shows dialogs to a camera without involving a user.
 namespace posing {
 
-/// Makes a dialog through its service, fills it from `tree`, pictures it as `name` and lets `more`
-/// go on with its window. `answer` answers its requests meanwhile.
+/// Makes a dialog through its service, fills it from `tree`, saves its picture as `name` and then
+/// calls `more` with its window. `answer` answers its requests.
 void showDialog(const OdString& service, const OdString& dialog, const vnsi::VnJsonPtr& tree,
     const LayerCommand::Camera& camera, const QString& name,
     const std::function<void(QWidget& window)>& more = {},
     const std::function<void(const vnsi::VnJsonPtr& tree)>& answer = {});
 
-/// Calls the slot `method(row, column)` of `window`, pictures the modal dialog that it opens, and
-/// cancels that.
+/// Calls the slot `method(row, column)` of `window`, saves a picture of the modal dialog that it
+/// opens, and cancels that dialog.
 void showNested(QWidget& window, const char* method, int row, int column,
     const LayerCommand::Camera& camera, const QString& name);
 
-/// While it lives, answers every dialog that the host is asked for in the user's place: with OK and
-/// a file to open, whichever.
+/// Answers every dialog of the host in place of the user while it exists: it chooses OK and some
+/// file to open.
 class FileChooser : public host::HostFrontEnd
 {
 public:

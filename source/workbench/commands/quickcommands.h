@@ -4,13 +4,13 @@
 
 #include <memory>
 
-/// The layer commands without a dialog. They act on the layers the panel hands over, else on those
-/// of the objects selected; where neither is there and a command needs some, the user picks.
+/// The layer commands without a dialog. They act on the layers selected in the panel or else on
+/// those of the selected entities. A command that needs layers and finds none lets the user pick.
 namespace quickcommands {
 
 struct Act;
 
-/// A command of this name; it must be one of the table's.
+/// Makes the command of this name, which must be one of the table's.
 std::unique_ptr<LayerCommand> make(const char* name);
 
 } // namespace quickcommands

@@ -4,15 +4,15 @@
 #include "states/layerstate.h"
 #include "vnjson.h"
 
-/// What the commands share that show and save layer states.
+/// Functions for commands that show and save layer states.
 namespace statelist {
 
-/// The entry of a state: all but whether the drawing is in it.
+/// The entry of a state, complete except for whether the drawing is in that state.
 vnsi::VnJsonPtr makeEntry(const drawing::LayerState& state);
 /// The entries of the drawing's states.
 vnsi::VnJsonPtr make(const drawing::Drawing& drawing);
-/// Says so where the drawing's format has no place for layer states, which then live in a file
-/// beside it.
+/// Tells the user when the drawing's format cannot store layer states, so that they are kept in a
+/// file beside the drawing.
 void tellWhereStatesAre(CommandContext& context);
 
 } // namespace statelist

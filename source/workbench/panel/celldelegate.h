@@ -2,8 +2,8 @@
 
 #include <QStyledItemDelegate>
 
-/// The editors in the cells of the layer panel: a list where there is a choice, a number for the
-/// transparency, a line for the rest. Colours have a dialog and no editor.
+/// The editors in the cells of the layer panel: a list when there is a choice, a number field for
+/// the transparency, and a line edit otherwise. Colours have a dialog instead of an editor.
 class CellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -4,13 +4,14 @@
 
 #include <optional>
 
-/// The expression of a property filter as drawings keep it: terms `VARIABLE == "text"`, each in
-/// brackets or not, joined by `and`; letter case does not count. Texts are wildcard patterns.
+/// The expression of a property filter in the form that drawings store: terms `VARIABLE == "text"`,
+/// optionally in brackets, joined by `and`. Letter case is ignored. The texts are wildcard
+/// patterns.
 namespace filterexpression {
 
-/// The test that an expression stands for; none where it cannot be understood.
+/// The test for an expression; nothing when it cannot be understood.
 std::optional<LayerTest> parsed(const QString& expression);
-/// The expression for layers whose names fit a pattern.
+/// The expression for layers whose names match a pattern.
 QString ofNames(const QString& pattern);
 
 } // namespace filterexpression

@@ -8,8 +8,8 @@
 class FilterTree;
 class QLineEdit;
 
-/// The layer filters saved in the drawing as a tree, a few that every drawing has in front of them,
-/// and the expression of the one chosen. Layers dropped on a group are added to it.
+/// Shows the layer filters of the drawing as a tree, preceded by a few that every drawing has, and
+/// the expression of the selected filter. Layers dropped on a group filter are added to it.
 class FilterPane : public QWidget
 {
     Q_OBJECT
@@ -19,14 +19,14 @@ public:
 
     /// Reads the drawing's filters again.
     void follow();
-    /// What is typed into the search, which a new filter takes over.
+    /// Sets the text of the search, which a new filter takes over.
     void setTyped(const QString& typed) { m_typed = typed; }
-    /// Whether the filter chosen is a group, which layers can be taken out of.
+    /// Whether a group filter is selected, from which layers can be removed.
     bool isGroupChosen() const;
     void removeFromGroup(const std::vector<drawing::LayerId>& layers);
 
 signals:
-    void chosen(const LayerTest& test); ///< Null: all layers.
+    void chosen(const LayerTest& test); ///< Null selects all layers.
 
 private:
     using Filter = drawing::LayerFilter;

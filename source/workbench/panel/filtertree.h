@@ -4,7 +4,8 @@
 
 #include <QTreeWidget>
 
-/// Shows filters, by the handles of their records; those that every drawing has have small numbers.
+/// Shows filters. They are identified by the handles of their records; the built-in ones have small
+/// numbers.
 class FilterTree : public QTreeWidget
 {
     Q_OBJECT
@@ -15,14 +16,14 @@ public:
     struct Entry
     {
         quint64 record = 0;
-        quint64 parent = 0; ///< 0 at the top; shown before what is inside.
+        quint64 parent = 0; ///< 0 at the top level. A parent precedes its children.
         QString name;
-        QString explanation; ///< A tool tip.
+        QString explanation; ///< The tool tip.
         bool isEditable = false;
         bool isUsable = true;
-        bool takesLayers = false; ///< Layers can be dropped on it.
+        bool takesLayers = false; ///< Whether layers can be dropped on it.
     };
-    /// What was chosen and what was folded stays so.
+    /// Shows these entries. Selected and collapsed entries stay so.
     void show(const std::vector<Entry>& entries);
     quint64 chosen() const;
     void choose(quint64 record);

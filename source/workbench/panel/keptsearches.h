@@ -2,7 +2,7 @@
 
 #include <QToolButton>
 
-/// A button with the searches the user keeps, in the settings.
+/// A button with a menu of the searches that the user has saved in the settings.
 class KeptSearches : public QToolButton
 {
     Q_OBJECT
@@ -10,7 +10,7 @@ class KeptSearches : public QToolButton
 public:
     explicit KeptSearches(QWidget* parent = nullptr);
 
-    /// What is in the search line, to be kept or forgotten.
+    /// Sets the text of the search line, which can be saved or removed.
     void setTyped(const QString& typed) { m_typed = typed; }
 
 signals:

@@ -2,28 +2,30 @@
 
 #include "layeracts.h"
 
-/// Layers as a table of text, the way spreadsheets exchange them: a line a layer, tabs between the
-/// cells, quotes around cells that hold either. The first line names the columns.
+/// Layers as a text table in the form that spreadsheets exchange: one line per layer, tabs between
+/// cells, and quotes around cells that contain tabs or line ends. The first line names the columns.
 namespace layerclipboard {
 
-/// The layers, by their places in the snapshot, in these columns.
+/// The text of layers, given by their positions in the snapshot, with these columns.
 QString copied(
     const LayerSnapshot& layers, const std::vector<int>& places, const std::vector<int>& columns);
 
-/// What is pasted.
+/// A pasted table.
 struct Table
 {
     std::vector<QStringList> rows;
-    std::vector<int> columns; ///< What each cell of a row is, by the head; empty without one.
+    /// The column of each cell in a row according to the header; empty without a header.
+    std::vector<int> columns;
 
     bool isEmpty() const { return rows.empty(); }
     bool hasHead() const { return !columns.empty(); }
 };
 Table parsed(const QString& text);
 
-/// Pastes into a drawing with an open step. A table with a head finds its layers by their names,
-/// and makes those that are missing; one without goes into the columns `visible` from `column` on
-/// of the layers `targets`, a single row into all of them. Returns a sentence for what was refused.
+/// Pastes a table into a drawing with an open step. A table with a header finds its layers by their
+/// names and creates missing ones. A table without a header fills the columns `visible`, beginning
+/// at `column`, of the layers `targets`; a single row fills all of them. Returns sentences about
+/// what was refused.
 QStringList paste(drawing::Drawing& drawing, const Table& table, const layeracts::Layers& targets,
     const std::vector<int>& visible, int column);
 

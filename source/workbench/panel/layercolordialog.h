@@ -10,8 +10,8 @@ class QWidget;
 
 namespace layercolordialog {
 
-/// Asks for a layer's colour in the host's dialog, which shows the one it has. The colour comes as
-/// cells show it; none when the user gives up.
+/// Asks for a layer's colour in the host's dialog, beginning with its present colour. Returns the
+/// colour in the form that cells show; nothing when the user cancelled.
 std::optional<QString> choose(const drawing::LayerProperties& shown, QWidget* parent);
 
 } // namespace layercolordialog

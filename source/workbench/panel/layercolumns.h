@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// A layer of a snapshot.
+/// A layer in a snapshot.
 struct LayerRow
 {
     const LayerSnapshot& layers;
@@ -14,43 +14,44 @@ struct LayerRow
     const drawing::LayerProperties& properties() const { return layer().properties; }
 };
 
-/// A column of the layer panel: what it shows of a layer, what it sorts by, and how a text becomes
-/// its value.
+/// A column of the layer panel: what it shows of a layer, how it is sorted, and how a text is
+/// converted to its value.
 struct LayerColumn
 {
     enum Kind { Mark, Flag, Text, Color, Linetype, Lineweight, Transparency, Count };
-    /// What its cells change.
+    /// What editing a cell changes.
     enum Scope {
         Nothing,
         OfLayer,
         OfViewport,       ///< Overrides a property in the current viewport.
-        FrozenInViewport, ///< The list of frozen layers of the current viewport.
+        FrozenInViewport, ///< Changes the list of layers frozen in the current viewport.
     };
     using Properties = drawing::LayerProperties;
 
-    const char* key;   ///< In settings.
-    const char* title; ///< Of the column, and of what is changed in it.
+    const char* key;   ///< The name in the settings.
+    const char* title; ///< The title of the column and of edits in it.
     Kind kind;
     Scope scope;
-    int width;                                       ///< Pixels at first.
-    const char* words[2] = {};                       ///< Of a flag: cleared, set.
-    const char* icons[2] = {};                       ///< The same under ":/workbench/".
-    QString (*text)(const LayerRow& row) = nullptr;  ///< Null: the word of a flag.
-    qint64 (*number)(const LayerRow& row) = nullptr; ///< What sorts it; null: the text.
-    /// Makes a text, as cells show it or people type it, the value; false when it is none.
+    int width;                 ///< The initial width in pixels.
+    const char* words[2] = {}; ///< For a flag, the words for false and true.
+    const char* icons[2] = {}; ///< The icons for false and true, under ":/workbench/".
+    QString (*text)(const LayerRow& row) = nullptr;  ///< Null to show the word of a flag.
+    qint64 (*number)(const LayerRow& row) = nullptr; ///< The sort key; null to sort by text.
+    /// Sets the value from a text as cells show it or people type it. Returns false when the text
+    /// is invalid.
     bool (*set)(const QString& text, Properties& properties) = nullptr;
-    int property = 0; ///< Its bit among those a viewport can override.
+    int property = 0; ///< The property's bit if viewports can override it.
 
     QString displayTitle() const;
     QString displayText(const LayerRow& row) const;
     QString word(bool isSet) const;
     bool isFlag() const { return kind == Flag; }
     bool isOfViewport() const { return scope == OfViewport || scope == FrozenInViewport; }
-    /// What people may write for a flag.
+    /// Reads what people may type for a flag.
     bool readFlag(const QString& typed, bool& value) const;
 };
 
-/// The columns in their order at first.
+/// The columns in their initial order.
 class LayerColumns
 {
 public:
@@ -58,9 +59,9 @@ public:
 
     static int count();
     static const LayerColumn& at(int column);
-    /// -1 for no column.
+    /// The index of the column with this key; -1 when there is none.
     static int find(const QString& key);
 };
 
-/// The colour as cells show it: a name, a number, or three numbers.
+/// The colour as cells show it: a name, an index, or three numbers.
 QString layerColorText(const drawing::LayerProperties& properties);

@@ -8,14 +8,14 @@
 
 #include <functional>
 
-/// Edits a drawing for the panel: each act is one step of undo. Nothing is edited while a command
-/// or a file's way to the disk has the drawing to itself.
+/// Edits a drawing for the panel. Each action is one undo step. Nothing can be edited while a
+/// command runs or the drawing is being saved.
 class LayerEditor : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Edits the drawing; a sentence for what was refused.
+    /// Edits the drawing and returns sentences about what was refused.
     using Act = std::function<QStringList(drawing::Drawing& drawing)>;
 
     using QObject::QObject;
@@ -23,17 +23,18 @@ public:
     void setDrawing(drawing::Drawing* drawing) { m_drawing = drawing; }
     drawing::Drawing* drawing() const { return m_drawing; }
     void setBusy(bool busy) { m_isBusy = busy; }
-    /// Runs an act as the step `name`. False when the drawing may not be edited now.
+    /// Runs an action as the step `name`. Returns false when the drawing cannot be edited at the
+    /// moment.
     bool run(const QString& name, const Act& act);
 
-    /// Says that something was not done.
+    /// Reports that something was not done.
     void refuse(const QString& sentence) { emit refused({sentence}); }
 
 signals:
-    void began(); ///< An act, which may take long.
+    void began(); ///< An action begins, which may take long.
     void ended();
     void refused(const QStringList& sentences);
-    void said(const QString& text); ///< For the command line's echo.
+    void said(const QString& text); ///< A line for the command line.
 
 private:
     QPointer<drawing::Drawing> m_drawing;

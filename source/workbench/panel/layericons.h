@@ -4,13 +4,13 @@
 
 #include <QIcon>
 
-/// The pictures in the cells of layers; each is made once.
+/// The icons in the cells of layers. Each is made once.
 namespace layericons {
 
-/// By its file name under ":/workbench/" without the ending; null for null.
+/// The icon with this file name under ":/workbench/", without extension; a null icon for null.
 QIcon icon(const char* name);
-/// A square in the layer's colour. Colour 7 is half white, half black: what it is depends on the
-/// background. The picture is the same when selected.
+/// A square in the layer's colour. Colour 7 is half white and half black because it depends on the
+/// background. The icon looks the same when selected.
 QIcon swatch(const drawing::LayerProperties& properties);
 
 } // namespace layericons

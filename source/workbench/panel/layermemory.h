@@ -7,9 +7,9 @@
 
 #include <vector>
 
-/// The states that layers were in, for going back to the one before. Names, and layers that came or
-/// went, are left alone by that. A change that takes the last one back, as undo does, is no new
-/// state.
+/// Records the states of the layers so that the user can return to the previous one. Returning does
+/// not affect names and layers that were added or deleted. A change that reverts the last one, such
+/// as undo, does not count as a new state.
 class LayerHistory : public QObject
 {
     Q_OBJECT
@@ -19,8 +19,8 @@ public:
 
     void setDrawing(drawing::Drawing* drawing);
     bool isEmpty() const { return m_steps.empty(); }
-    /// Gives layers the properties they had before the last change; needs an open step. A sentence
-    /// for what was refused.
+    /// Restores the properties that layers had before the last change. Needs an open step. Returns
+    /// sentences about what was refused.
     QStringList goBack(drawing::Drawing& drawing) const;
 
 private:
@@ -42,36 +42,37 @@ private:
     static bool isReverse(const Step& a, const Step& b);
 
     QPointer<drawing::Drawing> m_drawing;
-    std::vector<drawing::Layer> m_layers; ///< As they were last.
+    std::vector<drawing::Layer> m_layers; ///< The last known state.
     drawing::LayerId m_current = drawing::LayerId::None;
     std::vector<Step> m_steps;
 };
 
-/// Which layers were hidden, or locked, to leave others alone in view; and the way back.
+/// Remembers which layers were hidden or locked in order to isolate others, and restores them.
 class LayerIsolation
 {
 public:
     enum class Way { Hide, LockAndFade };
     using Layers = std::vector<drawing::LayerId>;
 
-    /// Leaves these layers in view, or unlocked, alone; what was isolated before is restored first.
-    /// One of them becomes the current layer where it is none of them. Needs an open step; a
-    /// sentence for what was refused.
+    /// Isolates these layers by hiding or locking all others. An earlier isolation is undone first.
+    /// When the current layer is not one of them, one of them becomes current. Needs an open step.
+    /// Returns sentences about what was refused.
     QStringList isolate(drawing::Drawing& drawing, const Layers& layers, Way way);
-    /// Gives the others back what they had, as far as nobody changed it meanwhile.
+    /// Restores the other layers as far as nobody changed them meanwhile.
     QStringList restore(drawing::Drawing& drawing);
     bool isActive() const { return !m_changed.empty(); }
-    void forget() { *this = {}; } ///< For another drawing.
-    /// The layers as the canvas shows them: what isolation locked is faded.
+    void forget() { *this = {}; } ///< Call this for another drawing.
+    /// The layers as the canvas shows them: layers that isolation locked are faded.
     std::vector<drawing::Layer> shown(std::vector<drawing::Layer> layers) const;
 
 private:
-    Layers m_changed; ///< Ascending.
+    Layers m_changed; ///< In ascending order.
     Way m_way = Way::Hide;
-    drawing::LayerId m_current = drawing::LayerId::None; ///< Before; None where it stayed.
+    /// The former current layer; None if it did not change.
+    drawing::LayerId m_current = drawing::LayerId::None;
 };
 
-/// What the window remembers of the layers of its drawing.
+/// What the window remembers about the layers of its drawing.
 struct LayerMemory
 {
     LayerHistory history;

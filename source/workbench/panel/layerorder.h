@@ -7,8 +7,8 @@
 
 #include <vector>
 
-/// The order of a snapshot's layers by a column. Names are compared as people look them up, numbers
-/// in them by their value; of many layers that takes time and is done on another thread.
+/// Sorts the layers of a snapshot by a column. Names are compared as people expect, with numbers by
+/// value. For many layers that takes time and is done on another thread.
 class LayerOrder : public QObject
 {
     Q_OBJECT
@@ -17,15 +17,15 @@ public:
     explicit LayerOrder(QObject* parent = nullptr);
     ~LayerOrder() override;
 
-    /// Sorts anew. Until it is done, layers that are there stay in their order, new ones are last.
+    /// Sorts again. Until that is done, known layers keep their order and new ones come last.
     void sort(const LayerSnapshot& layers, int column, Qt::SortOrder direction);
-    /// Places in the snapshot.
+    /// The positions in the snapshot, sorted.
     const std::vector<int>& places() const { return m_places; }
-    /// Whether a thread is at it.
+    /// Whether a thread is sorting.
     bool isPending() const { return m_isPending; }
 
 signals:
-    void sorted(); ///< The order asked for last is there; not sent when `sort` made it itself.
+    void sorted(); ///< The latest order is ready. Not emitted when `sort` finished it immediately.
 
 private:
     using Places = std::vector<int>;
@@ -34,7 +34,8 @@ private:
     void keepPresent(int count);
 
     Places m_places;
-    int m_round = 0; ///< What was asked for before the last time is of no use.
+    int m_round = 0; ///< The number of the latest request; earlier ones are obsolete.
     bool m_isPending = false;
-    QThreadPool m_pool; ///< Last: its thread ends before anything else goes.
+    /// Declared last so that its thread ends before the other members are destroyed.
+    QThreadPool m_pool;
 };

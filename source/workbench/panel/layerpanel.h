@@ -13,8 +13,8 @@ class QLabel;
 class QLineEdit;
 class QSplitter;
 
-/// The layers of the drawing beside the canvas: a search, a table, and what is done to the layers
-/// chosen in it.
+/// The layer panel beside the canvas: a search, a table of layers, and actions on the selected
+/// ones.
 class LayerPanel : public QWidget
 {
     Q_OBJECT
@@ -23,23 +23,23 @@ public:
     explicit LayerPanel(QWidget* parent = nullptr);
     ~LayerPanel() override;
 
-    void setDrawing(drawing::Drawing* drawing); ///< Null: none is open.
-    /// While busy the panel shows the layers, and changes none.
+    void setDrawing(drawing::Drawing* drawing); ///< Null when none is open.
+    /// While busy, the panel shows layers but does not change them.
     void setBusy(bool busy);
 
     LayerModel* model() const { return m_model; }
     LayerView* view() const { return m_view; }
-    /// What commands know of the layers' former states.
+    /// What commands can learn about former states of the layers.
     LayerMemory* memory() { return &m_memory; }
 
 signals:
-    void editBegan(); ///< Between this and `editEnded` the panel has the drawing to itself.
+    void editBegan(); ///< The panel alone may use the drawing until `editEnded`.
     void editEnded();
-    void refused(const QStringList& sentences); ///< Why an act was not done, or not wholly.
-    void said(const QString& text);             ///< A line for the command line's echo.
-    /// A command is to be run on these layers.
+    void refused(const QStringList& sentences); ///< Why an action was not done, or only partly.
+    void said(const QString& text);             ///< A line for the command line.
+    /// Asks to run a command on these layers.
     void commandWanted(const QString& name, const std::vector<drawing::LayerId>& layers);
-    /// These are to be selected on the canvas, and brought into view.
+    /// Asks to select these entities on the canvas and, if `intoView` is set, to zoom to them.
     void entitiesWanted(const std::vector<int>& entities, bool intoView);
 
 private:
@@ -72,5 +72,5 @@ private:
     QLineEdit* m_search = nullptr;
     KeptSearches* m_kept = nullptr;
     QLabel* m_counts = nullptr;
-    QString m_fault; ///< Of what is typed into the search.
+    QString m_fault; ///< The fault in the typed search.
 };

@@ -4,21 +4,21 @@
 
 #include <functional>
 
-/// Whether a layer is to be shown.
+/// Decides whether a layer is shown.
 using LayerTest = std::function<bool(const LayerRow& row)>;
 
-/// What is typed to find layers by name or description, letter case apart: a text is looked for
-/// anywhere in either; one with `*`, `?` or the other wildcards must fit the whole name; one
-/// between slashes is a regular expression to be found in either.
+/// A typed search for layers by name or description, ignoring letter case. A plain text is found
+/// anywhere in either. A text with `*`, `?` or other wildcards must match the whole name. A text
+/// between slashes is a regular expression that is searched for in either.
 class LayerSearch
 {
 public:
     LayerSearch() = default;
     explicit LayerSearch(const QString& typed);
 
-    /// What is wrong with the expression, for people; empty when it can be used.
+    /// A text for people that says what is wrong with the expression; empty when it is valid.
     const QString& fault() const { return m_fault; }
-    /// Null where every layer is found.
+    /// Null when every layer is found.
     const LayerTest& test() const { return m_test; }
 
 private:
@@ -26,5 +26,5 @@ private:
     QString m_fault;
 };
 
-/// A test whether a text fits a wildcard pattern, for many texts.
+/// Makes a test for whether texts match a wildcard pattern. It is fast for many texts.
 std::function<bool(const QString& text)> wildcardTest(const QString& pattern);

@@ -4,9 +4,9 @@
 
 #include <QTableView>
 
-/// The table of the layer panel. A click on a flag switches it, for all selected layers when its
-/// own is among them; F2 renames, Space switches, the head of a column sorts and its menu chooses
-/// columns. What is selected stays so when other rows come.
+/// The table of the layer panel. A click on a flag switches it, for all selected layers if the
+/// clicked one is selected. F2 renames, Space switches flags, a column header sorts, and its menu
+/// chooses the columns. The selection survives a change of the rows.
 class LayerView : public QTableView
 {
     Q_OBJECT
@@ -14,14 +14,14 @@ class LayerView : public QTableView
 public:
     explicit LayerView(LayerModel* model, QWidget* parent = nullptr);
 
-    /// Lets the name of the layer in hand be changed in its cell.
+    /// Starts to edit the name of the current layer in its cell.
     void editName();
-    /// In the order of their rows.
+    /// The selected layers in the order of their rows.
     std::vector<drawing::LayerId> selectedLayers() const;
     void select(const std::vector<drawing::LayerId>& layers);
-    /// None where no row is the current one.
+    /// The layer of the current row; none when there is no current row.
     drawing::LayerId layerInHand() const;
-    /// The columns that are shown, in their order.
+    /// The visible columns in their order.
     std::vector<int> visibleColumns() const;
 
     void loadState();
@@ -31,7 +31,7 @@ signals:
     void toggled(drawing::LayerId layer, int column);
     void colorWanted(drawing::LayerId layer, int column);
     void currentWanted(drawing::LayerId layer);
-    void layersSelected(); ///< Others than before.
+    void layersSelected(); ///< The selection has changed.
     void copyWanted();
     void pasteWanted();
     void removalWanted();
@@ -55,9 +55,9 @@ private:
     void applyHidden();
 
     LayerModel* m_model;
-    QStringList m_hidden; ///< Columns the user does not want, by their keys.
+    QStringList m_hidden; ///< The keys of the columns that the user has hidden.
     std::vector<drawing::LayerId> m_kept;
     drawing::LayerId m_keptInHand = drawing::LayerId::None;
     int m_keptColumn = 0;
-    QPersistentModelIndex m_pressed; ///< A flag under the button.
+    QPersistentModelIndex m_pressed; ///< The flag under the pressed mouse button.
 };

@@ -6,15 +6,15 @@
 
 class QTreeWidget;
 
-/// A window with lines of text in columns, which stays open beside the drawing.
+/// A window with a table of texts, which stays open beside the drawing.
 class UsesList : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Lists what is on layers; a click on a line asks to show it.
+    /// Lists the uses of layers. A click on a line asks to show that use.
     static UsesList* ofUses(std::vector<LayerUse> uses, const QString& title, QWidget* parent);
-    /// Lists layers and why they stay.
+    /// Lists layers and the reasons why they cannot be purged.
     static UsesList* ofReasons(
         const std::vector<QStringList>& lines, const QString& title, QWidget* parent);
 
