@@ -106,7 +106,7 @@ Expected<void> Drawing::save(const QString& path, Progress* progress)
     if (d->isIncomplete && isSameFile(path, d->path))
         return refused(Texts::tr("图形不完整，不能覆盖原文件，请另存为其他文件"));
     const auto size = static_cast<qint64>(d->data.file.bytes().size());
-    // The bytes that were not edited are still read from it.
+    // Saving still reads the unedited bytes from the original file, so it must be unchanged.
     if (d->data.wholePart.isNull() && d->file.size() != size)
         return refused(Texts::tr("原文件已被其他程序改写"));
     if (auto beside = d->data.layerStates.saveBeside(statesPathOf(path)); !beside)
@@ -430,7 +430,7 @@ void Drawing::setBreak(const std::function<void()>& rest)
 {
     d->data.file.pace().setBreak([this, rest] {
         rest();
-        emit aboutToChange(); // For whoever began to read in the break.
+        emit aboutToChange(); // For readers that started during the break.
     });
 }
 

@@ -13,7 +13,7 @@ namespace drawing {
 
 namespace {
 
-/// The line at an offset, from 1; 0 in files without lines.
+/// The line at an offset, counted from 1; 0 in files without lines.
 qint64 lineOf(const DrawingFile& file, qint64 offset)
 {
     const char lineEnd = file.spelling() == Spelling::OldText ? '\r' : '\n';
@@ -34,8 +34,8 @@ QString shown(std::string_view text)
     return QString::fromUtf8(part.data(), static_cast<int>(part.size()));
 }
 
-/// Programs before the formats of today wrote no sections: their files are told by the version they
-/// may state, or by their groups.
+/// Explains why a file has no tagged sections. Older programs wrote files without sections; these
+/// are recognised by the version that they may state, or by their groups.
 QString notTagged(const DrawingFile& file, const QString& fileName, const QString& place)
 {
     constexpr std::pair<std::string_view, const char*> kOldVersions[] = {
@@ -57,7 +57,7 @@ QString notTagged(const DrawingFile& file, const QString& fileName, const QStrin
 Error faultError(const DrawingFile& file, const IndexFault& fault, const QString& fileName)
 {
     Error error;
-    // Of a line that is too long it is known where its group begins, a line above.
+    // For a line that is too long, the offset is that of its group, which begins one line above.
     error.line = lineOf(file, fault.offset);
     if (error.line > 0 && fault.kind == IndexFaultKind::TooLong)
         ++error.line;
@@ -110,7 +110,7 @@ Error faultError(const DrawingFile& file, const IndexFault& fault, const QString
     return error;
 }
 
-/// What is no tagged text at all is told apart by how it begins.
+/// Refuses a file that is not tagged text at all, with a message that depends on how it begins.
 Expected<void> checkFormat(std::string_view bytes, const QString& fileName)
 {
     const auto refusal = [&fileName](const char* text) {
@@ -149,7 +149,7 @@ private:
     {
         return m_index.header[which].trimmed();
     }
-    /// Files without a version come from programs that write R12.
+    /// A file without a version comes from a program that writes R12.
     std::string_view version() const
     {
         const std::string_view stated = variable(HeaderVariable::Version);
@@ -159,7 +159,7 @@ private:
     LayerId layerOf(LayerId spelling) const;
 
     DrawingData& m_data;
-    FileIndex m_index; // Until the file takes it.
+    FileIndex m_index; // Moved into the file later.
     EntityIndex m_entities;
     std::vector<LayerId> m_layerOfSpelling;
 };
@@ -184,8 +184,8 @@ Expected<void> Loader::run(const OpenOptions& options)
     return {};
 }
 
-/// The code page wanted, else the file's own; texts that are plainly UTF-8 are read so, whatever an
-/// old file says. What had to be guessed is noted.
+/// The requested code page, else the file's own. Texts that are clearly UTF-8 are read as such,
+/// whatever an old file declares. Guesses are recorded as notices.
 Expected<TextCodec> Loader::chosenCodec(const OpenOptions& options)
 {
     const std::string_view named = variable(HeaderVariable::CodePage);
@@ -235,7 +235,8 @@ void Loader::loadLayerRecords()
     m_data.layers.reserve(records.size());
     for (const ByteRange& range : records) {
         const LayerRecord record = reader.read(m_data.file.tags(range));
-        // Nothing can be on it: entities that name no layer are on layer 0.
+        // Nothing can be on a layer without a name, because entities that name no layer are on
+        // layer 0.
         if (record.properties.name.isEmpty())
             continue;
         LayerEntry entry;
@@ -255,7 +256,7 @@ void Loader::loadLayerRecords()
     }
 }
 
-/// Layers that only entities name are layers too, with everything as a plain layer has it.
+/// A layer that only entities name is a layer too; it has the default properties.
 LayerId Loader::layerNamed(std::string_view spelling)
 {
     QString name = m_data.file.decoded(trimmedView(spelling));
@@ -307,7 +308,7 @@ std::vector<LayerNamePlace> Loader::namePlaces() const
     std::vector<LayerNamePlace> places;
     for (const LayerNamePlace& place : m_entities.blockLayers)
         places.push_back({place.value, layerOf(place.layer)});
-    // XDATA may name layers that are no more; it brings none about.
+    // XDATA may name layers that no longer exist, so it does not create layers.
     const DrawingFile& file = m_data.file;
     for (const qint64 value : m_entities.xdataNames) {
         const QString name = file.decoded(trimmedView(file.view(file.valueRange(value))));

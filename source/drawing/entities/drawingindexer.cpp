@@ -23,7 +23,8 @@ std::optional<IndexFault> DrawingIndexer::run(FileIndex& file, EntityIndex& enti
     return m_fault;
 }
 
-/// As many as there usually are: growing again and again takes longer than what is never touched.
+/// Reserves memory for the usual number of entities. Growing repeatedly would take longer than
+/// reserving memory that is never used.
 void DrawingIndexer::reserveEntities()
 {
     const int bytesOfOne = isBinary(m_tags.spelling()) ? 128 : 256;
@@ -41,7 +42,7 @@ bool DrawingIndexer::fail(IndexFaultKind kind, qint64 offset)
     return false;
 }
 
-/// Notes why there is no further tag.
+/// Records why there is no further tag.
 bool DrawingIndexer::failed(ScanResult result)
 {
     const qint64 at = m_tags.offset();
@@ -61,7 +62,7 @@ bool DrawingIndexer::next()
     return result == ScanResult::Tag || failed(result);
 }
 
-/// Tells whether the section goes on at the `0` group just read.
+/// Whether the section continues at the `0` group that was just read.
 bool DrawingIndexer::goesOn()
 {
     if (m_tag.begin() >= m_nextReport)
@@ -73,7 +74,7 @@ bool DrawingIndexer::goesOn()
     if (name == "ENDSEC")
         return false;
     if (name == "SECTION")
-        markWhole(-1); // What follows may be whole as well.
+        markWhole(-1); // The part that follows may be intact, too.
     if (name == "SECTION" || name == "EOF")
         return fail(IndexFaultKind::SectionNotEnded, m_tag.begin());
     return true;
@@ -114,7 +115,7 @@ bool DrawingIndexer::readSections()
     return true;
 }
 
-/// Reads a section up to its ENDSEC.
+/// Reads a section up to and including its ENDSEC.
 bool DrawingIndexer::readSection()
 {
     const qint64 begin = m_tag.begin();
@@ -143,8 +144,8 @@ bool DrawingIndexer::readSection()
     return true;
 }
 
-/// A section that nobody knows may name layers as well: it is read as entities are, which are seen
-/// by all edits.
+/// Reads the contents of a section. An unknown section may name layers as well, so it is read like
+/// one with entities, which all edits take into account.
 bool DrawingIndexer::readContents()
 {
     constexpr std::string_view kNamingNoLayers[] = {"CLASSES", "THUMBNAILIMAGE", "ACDSDATA"};
@@ -214,13 +215,13 @@ bool DrawingIndexer::readTables()
     }
 }
 
-/// Reads a table and stops at the `0` group that ends it. What is no record of its kind is left
-/// alone.
+/// Reads a table and stops at the `0` group that ends it. Anything that is not a record of the
+/// table's kind is ignored.
 bool DrawingIndexer::readTable()
 {
     TablePlace read;
     read.head.begin = m_tag.begin();
-    m_whole.inTable = false; // What has no head is no table yet.
+    m_whole.inTable = false; // Without a head it is not a table yet.
     std::string_view name;
     bool isRecord = false;
     while (next()) {
@@ -281,7 +282,7 @@ bool DrawingIndexer::readBlocks()
     return !m_fault;
 }
 
-/// Reads a BLOCK or ENDBLK record and stops at the `0` group behind it.
+/// Reads a BLOCK or ENDBLK record and stops at the `0` group after it.
 bool DrawingIndexer::readBlockHead()
 {
     const bool isHead = m_tag.trimmed() == "BLOCK";
@@ -335,14 +336,15 @@ bool DrawingIndexer::readEntities()
     return !m_fault;
 }
 
-/// An entity while its tags are read.
+/// The state of an entity whose tags are being read.
 struct DrawingIndexer::OpenEntity
 {
     Entity entity;
-    const char* first = nullptr; // Of its bytes.
+    const char* first = nullptr; // The first of its bytes.
     quint32 nameAt = 0;
-    bool isCommon = true; // Among the data that all entities have, until another subclass begins.
-    bool inGroup = false; // Of an application.
+    // The tag belongs to the common data, which ends where another subclass begins.
+    bool isCommon = true;
+    bool inGroup = false; // The tag belongs to an application's group.
 };
 
 [[gnu::always_inline]] inline void DrawingIndexer::take(const Tag& tag, OpenEntity& open)
@@ -381,7 +383,7 @@ struct DrawingIndexer::OpenEntity
     }
 }
 
-/// Reads an entity and stops at the `0` group behind it. Most of a file's tags pass here.
+/// Reads an entity and stops at the `0` group after it. Most tags of a file are read here.
 bool DrawingIndexer::readEntity(int block)
 {
     OpenEntity open;
@@ -391,7 +393,7 @@ bool DrawingIndexer::readEntity(int block)
     entity.block = block;
     entity.subEntity = isSubEntity(entity.kind);
     open.first = m_tag.first;
-    TagReader tags = m_tags; // A copy, which needs no memory of its own.
+    TagReader tags = m_tags; // A local copy, which the compiler can keep in registers.
     Tag tag;
     const ScanResult result = withSpelling(m_tags.spelling(), [&](auto spelling) {
         ScanResult last = ScanResult::Tag;

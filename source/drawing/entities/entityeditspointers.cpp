@@ -15,7 +15,8 @@ bool isType(const std::vector<Tag>& tags, std::string_view type)
 
 } // namespace
 
-/// Pointers that go with their tag, and what goes along. Any other pointer becomes the null handle.
+/// The pointers that are removed with their tag, and the adjacent tag that is removed with them.
+/// All other pointers become null handles.
 struct PointerRemoval::Rule
 {
     enum With { Alone, TagBefore, TagBehind };
@@ -37,20 +38,21 @@ const PointerRemoval::Rule PointerRemoval::kRules[] = {
     {"LEADER", group::kHardPointer, Rule::Alone},
 };
 
-/// What else of an entity says that the pointer is there.
+/// A tag that must change when a pointer of the same entity is removed.
 struct PointerRemoval::Flag
 {
     std::string_view type;
     int pointer;
     int code;
-    qint64 kept; ///< Bits of the old value.
-    qint64 set;  ///< Bits set besides.
+    qint64 kept; ///< The bits kept from the old value.
+    qint64 set;  ///< The bits that are set in addition.
 };
 
 const PointerRemoval::Flag PointerRemoval::kFlags[] = {
-    {"VIEWPORT", group::kHardPointer, 90, ~qint64(0x10000), 0}, // Clipped by an entity.
-    {"LEADER", group::kHardPointer, 73, 0, 3},                  // The kind of its annotation: none.
-    {"HATCH", group::kSoftPointer, 71, 0, 0},                   // Follows its boundary.
+    // The flag for clipping by an entity.
+    {"VIEWPORT", group::kHardPointer, 90, ~qint64(0x10000), 0},
+    {"LEADER", group::kHardPointer, 73, 0, 3}, // The kind of annotation; 3 is none.
+    {"HATCH", group::kSoftPointer, 71, 0, 0},  // The flag for following its boundary.
 };
 
 void PointerRemoval::addEntity(size_t entity)
@@ -83,7 +85,8 @@ void PointerRemoval::addObject(const ObjectPlace* object)
     m_objectGoes[static_cast<size_t>(object - m_file.index().objects.data())] = true;
 }
 
-/// Objects that go with another one: those it owns, and what ties a dimension to what it measures.
+/// Finds the objects that are deleted together with another one: those that it owns, and those that
+/// tie a dimension to what it measures.
 void PointerRemoval::findDependents()
 {
     for (const ObjectPlace& object : m_file.index().objects) {
@@ -111,7 +114,7 @@ void PointerRemoval::addDependents()
     }
 }
 
-/// A group that loses all its members goes with them.
+/// A group that loses all its members is deleted, too.
 void PointerRemoval::addEmptiedGroups()
 {
     for (const ObjectPlace& object : m_file.index().objects) {
@@ -229,7 +232,8 @@ void PointerRemoval::drop(size_t at)
     updateFlags(code);
 }
 
-/// A group without contents goes as a whole, and so does what a layer looks like in a viewport.
+/// Removes a tag from its group, and with the handle of a viewport also the overrides for it. A
+/// group that becomes empty is removed as a whole.
 void PointerRemoval::dropFromGroup(size_t at)
 {
     constexpr int kViewport = 335;
@@ -251,7 +255,8 @@ void PointerRemoval::dropFromGroup(size_t at)
     erase(end);
 }
 
-/// Drops what goes from a list of handles that stands behind its length; false when this is none.
+/// Removes the deleted handles from a list that is preceded by its length. Returns false when the
+/// tag is not part of such a list.
 bool PointerRemoval::dropCounted(size_t at)
 {
     const int code = m_tags[at].code;

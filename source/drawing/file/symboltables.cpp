@@ -17,7 +17,7 @@ struct TableNames
 {
     TableKind kind;
     const char* table;
-    const char* record; ///< Its subclass marker.
+    const char* record; ///< The subclass marker of its records.
 };
 
 constexpr TableNames kTables[] = {
@@ -33,7 +33,7 @@ const TableNames& namesOf(TableKind kind)
         [kind](const TableNames& names) { return names.kind == kind; });
 }
 
-/// The order of a table's head; its records follow.
+/// The insertion order of a table's head, which its records follow.
 quint32 headOrder(TableKind kind)
 {
     return kNewTables + static_cast<quint32>(kind) * kTableSpan;
@@ -84,7 +84,7 @@ quint64 SymbolTables::madeHandle(TableKind kind)
     return taken;
 }
 
-/// Where in the head of a table of the file its name ends.
+/// The offset after the table's name in the head of a table of the file.
 qint64 SymbolTables::behindName(TableKind kind) const
 {
     return findOwn(m_file.tags(m_file.table(kind).head), group::kName).end();
@@ -95,7 +95,7 @@ QString SymbolTables::nameOf(const ByteRange& record) const
     return m_file.decoded(findOwn(m_file.tags(record), group::kName).trimmed());
 }
 
-/// Where new records of a table go.
+/// The offset at which new records of a table are inserted.
 qint64 SymbolTables::place(TableKind kind) const
 {
     const FileIndex& index = m_file.index();
@@ -111,7 +111,7 @@ EditPlace SymbolTables::insert(TableKind kind, const QByteArray& record)
     return place;
 }
 
-/// Sets the count of a table to what the file says and what came and went since.
+/// Updates the count of a table: the file's value plus the records added and less those removed.
 void SymbolTables::count(TableKind kind, int added)
 {
     const int all = m_file.state().recordsAdded[kind] += added;
@@ -122,14 +122,14 @@ void SymbolTables::count(TableKind kind, int added)
     }
     const Tag old = findOwn(m_file.tags(table.head), group::kFlags);
     const qint64 count = old.integer();
-    // A count that is not there or that lies tells nobody anything.
+    // A missing or invalid count is left alone because nobody can rely on it.
     if (old.raw().empty() || count < 0 || count > std::numeric_limits<int>::max() - std::abs(all))
         return;
     m_file.journal().replace(
         old.valueRange(), numberInPlace(old, std::max<qint64>(0, count + all)));
 }
 
-/// Makes a missing table around its records, and a missing TABLES section around the table.
+/// Creates a missing table around its records and, if necessary, the TABLES section around it.
 void SymbolTables::makeFrame(TableKind kind)
 {
     const TagStyle style = sectionStyle();
@@ -185,11 +185,11 @@ quint64 SymbolTables::add(TableKind kind, const std::vector<TextTag>& tags)
     return made.handle;
 }
 
-/// Where the head of a table of the file names its extension dictionary, or would.
+/// Where the head of a table of the file names its extension dictionary, or where it should.
 struct SymbolTables::ExtensionPlace
 {
-    Tag handle;         ///< Null where the file has none.
-    qint64 behind = -1; ///< Of what it stands behind.
+    Tag handle;         ///< Null when there is none.
+    qint64 behind = -1; ///< The offset after which the handle belongs.
 };
 
 SymbolTables::ExtensionPlace SymbolTables::extensionPlace(TableKind kind) const
@@ -232,7 +232,7 @@ quint64 SymbolTables::madeExtension(TableKind kind)
     return made;
 }
 
-/// The head may have been edited besides: it is not replaced as a whole.
+/// The head may contain other edits, so it must not be replaced as a whole.
 void SymbolTables::linkExtension(TableKind kind, quint64 dictionary)
 {
     const TagStyle style = this->style(kind);

@@ -14,11 +14,11 @@ namespace {
 constexpr char kUtf8[] = "UTF-8";
 constexpr char kWestern[] = "CP1252";
 constexpr QChar kUnreadable(QChar::ReplacementCharacter);
-constexpr int kUnicodeEscape = 7;   // \U+XXXX
-constexpr int kMultibyteEscape = 8; // \M+nXXXX
+constexpr int kUnicodeEscape = 7;   // The length of \U+XXXX.
+constexpr int kMultibyteEscape = 8; // The length of \M+nXXXX.
 constexpr int kAscii = 0x80;
 
-/// The code pages by their numbers in `\M+nXXXX`, from 1.
+/// The code pages in the order of their numbers in `\M+nXXXX`, which start at 1.
 constexpr const char* kEscapedPages[] = {"ANSI_932", "ANSI_950", "ANSI_949", "JOHAB", "ANSI_936"};
 
 bool isAscii(std::string_view value)
@@ -35,7 +35,7 @@ int hexDigit(QChar c)
     return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : -1;
 }
 
-/// The number of `count` hexadecimal digits at `at`; -1 where they are not all there.
+/// The value of `count` hexadecimal digits at `at`; -1 when they are not all there.
 int hexAt(const QString& text, int at, int count)
 {
     if (at + count > text.size())
@@ -60,7 +60,7 @@ QString unreadable(char byte)
     return kUnreadable + hex(static_cast<uchar>(byte), 2);
 }
 
-/// The byte that could not be read and stands for itself at `at`; -1 where none does.
+/// The value of the unreadable byte that is represented at `at`; -1 when there is none.
 int unreadableAt(const QString& text, int at)
 {
     const int byte = text.at(at) == kUnreadable ? hexAt(text, at + 1, 2) : -1;
@@ -72,7 +72,7 @@ QByteArray escaped(ushort unit)
     return "\\U+" + hex(unit, 4).toLatin1();
 }
 
-/// The character that `\M+nXXXX` at `at` stands for; null when it is none.
+/// The character that `\M+nXXXX` at `at` represents; null when it is not valid.
 QString multibyteAt(const QString& text, int at)
 {
     const int page = at + 3 < text.size() ? text.at(at + 3).unicode() - '1' : -1;
@@ -86,8 +86,8 @@ QString multibyteAt(const QString& text, int at)
     return converter ? converter->converted(bytes[0] == 0 ? all.substr(1) : all) : QString();
 }
 
-/// The character that `\U+XXXX` at `at` stands for; null when it is none, or would be taken for a
-/// byte that could not be read.
+/// The character that `\U+XXXX` at `at` represents. Null when it is not valid or when the character
+/// could be confused with an unreadable byte.
 QString unicodeAt(const QString& text, int at)
 {
     const int unit = hexAt(text, at + 3, 4);
@@ -119,7 +119,7 @@ QString withEscapesResolved(const QString& text)
     return from == 0 ? text : resolved + text.midRef(from);
 }
 
-/// A caret and a letter are a control character, a caret and a blank a caret.
+/// Resolves carets: a caret and a letter are a control character, a caret and a blank are a caret.
 QString withCaretsResolved(const QString& text)
 {
     QString resolved;
@@ -137,7 +137,7 @@ QString withCaretsResolved(const QString& text)
     return resolved;
 }
 
-/// Whether a backslash in a text would be read as the beginning of an escape.
+/// Whether a backslash in a text would be read as the beginning of an escape sequence.
 bool beginsEscape(const QString& text, int at)
 {
     return at + 2 < text.size() && text.at(at + 2) == QLatin1Char('+') &&
@@ -178,7 +178,8 @@ QString TextCodec::decode(std::string_view value) const
     QString text = isAscii(value)
                        ? QString::fromLatin1(value.data(), static_cast<int>(value.size()))
                        : decodePage(value);
-    // Only now: in some code pages these are also the second byte of a character.
+    // This must be done after decoding, because in some code pages a caret is also the second byte
+    // of a character.
     if (m_controls == Controls::Caret && text.contains(QLatin1Char('^')))
         text = withCaretsResolved(text);
     return text.contains(QLatin1Char('\\')) ? withEscapesResolved(text) : text;
@@ -195,7 +196,7 @@ QString TextCodec::decodePage(std::string_view bytes) const
         text += unreadable(bytes.front());
         bytes.remove_prefix(1);
     }
-    // Two code pages have other signs in the places of these.
+    // The converter maps one byte of these two code pages to another character.
     if (m_charset == "JOHAB")
         text.replace(QChar(0x20a9), QLatin1Char('\\'));
     else if (m_charset == "CP864")
@@ -203,8 +204,8 @@ QString TextCodec::decodePage(std::string_view bytes) const
     return text;
 }
 
-/// A U+FFFD of the file's own, with what looks like the digits of a byte behind it, is as good as
-/// bytes that cannot be read.
+/// Escapes a U+FFFD in the file's text that looks like an unreadable byte because two hexadecimal
+/// digits follow it. Its bytes are represented like unreadable ones.
 QString TextCodec::withLettersMarked(const QString& text) const
 {
     if (m_isNewFile || !text.contains(kUnreadable))
@@ -249,7 +250,7 @@ QByteArray TextCodec::encode(const QString& text) const
     return bytes;
 }
 
-/// A value may hold anything but what ends it.
+/// Encodes a control character. A value may contain anything except what would end it.
 QByteArray TextCodec::encodedControl(QChar c) const
 {
     const ushort unit = c.unicode();
@@ -260,11 +261,12 @@ QByteArray TextCodec::encodedControl(QChar c) const
     return {"^" + QByteArray(1, static_cast<char>(unit + '@'))};
 }
 
-/// A character; escaped, unless it comes back the same from the code page.
+/// Encodes a character. It is escaped unless the code page can represent it without loss.
 QByteArray TextCodec::encodedPoint(const QString& point) const
 {
     QByteArray bytes;
-    // Private-use characters have no fixed place in the double-byte code pages: readers disagree.
+    // Private-use characters are escaped, because programs disagree about their place in the
+    // double-byte code pages.
     const ushort first = point.at(0).unicode();
     const bool isPrivate = first >= 0xe000 && first <= 0xf8ff && m_charset != kUtf8;
     const bool isHalf = point.size() == 1 && point.at(0).isSurrogate();
@@ -287,7 +289,7 @@ bool TextCodec::canDecode(std::string_view bytes) const
         std::string_view piece = bytes.substr(0, kPiece);
         const size_t taken = piece.size();
         converter->convert(piece);
-        // A piece may end within a character, and so may a file.
+        // The end of a piece, or of the file, may split a character.
         if (piece.size() >= kLongestCharacter)
             return false;
         if (taken == bytes.size())
@@ -311,7 +313,7 @@ QString TextCodec::title() const
 
 namespace {
 
-/// The length of the UTF-8 sequence at the beginning of `text`; 0 when there is none.
+/// The length of the UTF-8 sequence at the beginning of `text`; 0 when it is invalid.
 size_t sequenceLength(std::string_view text)
 {
     const auto byte = [text](size_t at) { return static_cast<uchar>(text[at]); };
@@ -323,7 +325,7 @@ size_t sequenceLength(std::string_view text)
         if ((byte(i) & 0xc0) != 0x80)
             return 0;
     }
-    // Longer than needed, halves of pairs, and what is behind the last character.
+    // Overlong sequences, surrogates, and values above the last character are invalid.
     const bool isBad = (lead == 0xe0 && byte(1) < 0xa0) || (lead == 0xed && byte(1) >= 0xa0) ||
                        (lead == 0xf0 && byte(1) < 0x90) || (lead == 0xf4 && byte(1) >= 0x90);
     return isBad ? 0 : length;

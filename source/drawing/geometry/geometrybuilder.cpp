@@ -12,7 +12,7 @@ namespace drawing {
 
 namespace {
 
-constexpr int kMaxDepth = 64; ///< Of block references inside blocks.
+constexpr int kMaxDepth = 64; ///< The limit for nested block references.
 
 QPointF flat(const Vec3& point)
 {
@@ -30,7 +30,7 @@ Box estimatedBounds(const TextRun& run)
     const double start = -width * static_cast<double>(run.horizontal) / 2;
     Box box;
     for (const double along : {start, start + width}) {
-        // Whatever the vertical alignment, the line lies within this.
+        // The line is within these limits, whatever its vertical alignment.
         for (const double across : {-1.2, 1.2})
             box.add(run.origin + run.right * along + run.up * across);
     }
@@ -299,7 +299,7 @@ void GeometryBuilder::emitReference(const Definition::Reference& reference, cons
     const bool isShown =
         depth < kMaxDepth && !m_active[block] && !definitionOf(reference.block).isEmpty();
     if (!isShown) {
-        ++m_used.instances; // Looking at one that shows nothing takes time, too.
+        ++m_used.instances; // Even an instance that shows nothing takes time.
         return;
     }
     const Definition& definition = definitionOf(reference.block);

@@ -23,8 +23,9 @@ namespace drawing {
 namespace {
 
 constexpr double kDegree = kPi / 180;
-constexpr double kLineDistance = 5.0 / 3; ///< Of lines of text, in text heights, if not told.
-// Bits of a polyline's or spline's flags.
+/// The default distance of lines of text, in text heights.
+constexpr double kLineDistance = 5.0 / 3;
+// Bits in the flags of polylines and splines.
 constexpr qint64 kClosed = 1;
 constexpr qint64 kContinuous = 128;
 
@@ -96,7 +97,7 @@ void EntityReader::read(std::size_t index, bool inBlock, Definition& definition)
     m_definition = &definition;
     load(index);
     if (m_tags.integer(60) == 1)
-        return; // Invisible.
+        return; // The entity is invisible.
     const auto row = std::find_if(std::begin(kHandlers), std::end(kHandlers),
         [type = m_tags.type()](const HandlerRow& candidate) { return candidate.type == type; });
     if (row != std::end(kHandlers))
@@ -118,10 +119,10 @@ EntityStyle EntityReader::readStyle()
     style.owner = m_owner;
     if (m_owner != LayerId::None && style.layer == m_source.layerZero)
         style.layer = m_owner;
-    // Backwards, so that of several groups of one code the first counts.
+    // The tags are read backwards so that the first of several groups with the same code wins.
     for (auto tag = m_tags.end(); tag != m_tags.begin();)
         takeStyle(style, *--tag);
-    // Tags go on telling of what the entity takes from its layer since then.
+    // The tags still contain properties that an edit has since set to ByLayer.
     if (!entity.own.testFlag(OwnProperty::Color))
         style.color = EntityStyle::Color::ByLayer;
     if (!entity.own.testFlag(OwnProperty::Linetype))
@@ -152,7 +153,7 @@ void EntityReader::takeStyle(EntityStyle& style, const Tag& tag)
             style.linetypeScale = static_cast<float>(scale);
         return;
     case Index:
-        // Beside a true colour it only stands in for it.
+        // Next to a true colour, the index is only a substitute.
         if (style.color != EntityStyle::Color::True)
             takeColor(style, withoutSign(tag.integer()));
         return;
@@ -385,7 +386,7 @@ void EntityReader::spline()
 
 void EntityReader::point()
 {
-    // The marks of a dimension are dots, whatever other points are drawn as.
+    // The marks of dimensions are always dots, whatever style other points have.
     const Tag* layer = m_tags.find(group::kLayer);
     const bool isMark =
         m_inBlock && layer && isNeverPlotted(m_source.file.decoded(layer->trimmed()));
@@ -394,7 +395,8 @@ void EntityReader::point()
 
 void EntityReader::solid()
 {
-    // The third and fourth corner are stored crosswise; a triangle repeats or leaves out the last.
+    // The third and fourth corners are stored in reverse order. A triangle repeats its last corner
+    // or omits it.
     const Vec3 last = m_tags.find(13) ? m_tags.point(13) : m_tags.point(12);
     addShape(Primitive::Shape::Fill, {m_tags.point(10), m_tags.point(11), last, m_tags.point(12)},
         plane());
@@ -452,12 +454,13 @@ void EntityReader::leader()
             path.back().z = tag.real();
     }
     addShape(Primitive::Shape::Lines, path);
-    // The arrow is as long as the annotation's text is high, as dimension styles agree.
+    // The arrow is as long as the annotation's text is high, which is the default of dimension
+    // styles.
     if (m_tags.integer(71, 1) != 0)
         addArrow(path, m_tags.number(40));
 }
 
-/// An arrowhead at the beginning of a line that has room for it.
+/// Adds an arrowhead at the beginning of a line if the line is long enough.
 void EntityReader::addArrow(const Path& path, double size)
 {
     if (path.size() < 2 || !(size > 0))
@@ -498,7 +501,7 @@ void EntityReader::multiLeader()
         addTextFrame(lines, place, unit, height, leader);
 }
 
-/// Around the lines of text that hang from the place.
+/// Adds the frame around lines of text that extend downwards from their position.
 void EntityReader::addTextFrame(const QStringList& lines, const Transform3& place, double unit,
     double height, const MultiLeader& leader)
 {
@@ -519,7 +522,7 @@ EntityReader::ImageFrame EntityReader::imageFrame() const
     return {m_tags.point(10), m_tags.point(11) * width, m_tags.point(12) * height, width, height};
 }
 
-/// Pixels are not shown, but where the image lies is.
+/// Draws the outline of an image. Its pixels are not shown.
 void EntityReader::image()
 {
     const ImageFrame frame = imageFrame();
@@ -552,7 +555,7 @@ void EntityReader::addFileName(const Vec3& corner, const Vec3& right, const Vec3
         addLines({name}, place, {height, 1, 0, 2, {}});
 }
 
-/// What lies under it is covered; its edge shows where the drawing says so.
+/// Covers what is below a wipeout; its edge is drawn when the drawing says so.
 void EntityReader::wipeout()
 {
     enum Boundary { Rectangle = 1 };
@@ -581,7 +584,7 @@ void EntityReader::wipeout()
         addShape(Primitive::Shape::Lines, outline);
 }
 
-/// The page itself is not shown, but the part of it that is, and whose it is.
+/// Draws the outline of the visible part of an underlay and its file name, but not the page.
 void EntityReader::underlay()
 {
     Path outline;
@@ -607,7 +610,7 @@ void EntityReader::underlay()
     addFileName(corner, right, up, 340);
 }
 
-/// The edge of a window onto model space; a window of another form has an edge of its own.
+/// Draws the edge of a viewport. When the viewport has another outline, that entity draws the edge.
 void EntityReader::viewport()
 {
     constexpr qint64 kHasOutline = 0x10000;
@@ -619,7 +622,7 @@ void EntityReader::viewport()
     addFrame(m_tags.point(10) - (right + up) * 0.5, right, up);
 }
 
-/// Its letters are in a file of another format: the frame of one stands for it.
+/// Draws a square in place of a shape, because shapes are stored in files of another format.
 void EntityReader::shape()
 {
     const double size = m_tags.number(40, 1);
@@ -635,7 +638,7 @@ void EntityReader::multiLine()
         addShape(Primitive::Shape::Lines, element);
 }
 
-/// Its picture is a block; what else it says of its cells is the same over again.
+/// Draws a table by its block, which contains the whole picture.
 void EntityReader::table()
 {
     const Tag* name = m_tags.find(2);
@@ -650,7 +653,8 @@ void EntityReader::table()
     addReference(m_source.file.decoded(name->trimmed()), reference);
 }
 
-/// Cells twice as high as their text, from the middle of the first row's left side.
+/// Draws a tolerance frame with cells twice as high as the text. It begins at the middle of the
+/// left side of the first row.
 void EntityReader::tolerance()
 {
     const Tag* value = m_tags.find(1);
@@ -723,7 +727,7 @@ void EntityReader::attributeDefinition()
             static_cast<TextRun::Vertical>(std::clamp<qint64>(m_tags.integer(74), 0, 3)));
 }
 
-/// A line of text by the codes of TEXT.
+/// Adds a line of text with the properties of a TEXT.
 bool EntityReader::addText(const QString& value, TextRun::Vertical vertical)
 {
     enum Justification { Left, Center, Right, Aligned, Middle, Fit };
@@ -783,7 +787,7 @@ void EntityReader::mtext()
     const double height = m_tags.number(40, 1);
     if (!(height > 0) || !std::isfinite(height))
         return;
-    // A direction and an angle may both be there: the later one counts.
+    // There may be both a direction and an angle; the later one counts.
     const Tag* direction = m_tags.find(11);
     const Tag* angle = m_tags.find(50);
     Transform3 place = plane() * Transform3::rotation(m_tags.number(50));
@@ -813,7 +817,7 @@ void EntityReader::addLines(
     }
 }
 
-/// A line of text whose baseline passes the place.
+/// Adds a line of text whose baseline goes through the position.
 void EntityReader::addLine(const QString& line, const Transform3& place, const Paragraph& paragraph)
 {
     const std::vector<TextPiece> pieces = piecesOf(line);
@@ -837,7 +841,7 @@ void EntityReader::addLine(const QString& line, const Transform3& place, const P
 
 void EntityReader::addStack(const TextPiece& piece, const Transform3& place, Paragraph paragraph)
 {
-    // The lower text stands below the line, the upper one as far above its height.
+    // The lower text stands below the baseline; the upper one is raised accordingly.
     constexpr double kBelow = -0.2;
     constexpr double kAbove = 0.65;
     constexpr double kBar = (kBelow + stack::kHeight + kAbove) / 2;
@@ -905,7 +909,7 @@ void EntityReader::attributes()
     }
 }
 
-/// The picture of a dimension is a block of its own, drawn where it belongs.
+/// Draws a dimension by its block, which is already at the right position.
 void EntityReader::dimension()
 {
     const Tag* name = m_tags.find(2);

@@ -27,7 +27,7 @@ bool beginsStack(QChar character)
     return character == stack::kFraction || character == stack::kTolerance;
 }
 
-/// Behind the character at `i`, or behind the stack that begins there.
+/// The index after the character at `i`, or after the stack that begins there.
 int behind(const QString& line, int i)
 {
     const int end = beginsStack(line[i]) ? line.indexOf(stack::kEnd, i) : i;
@@ -43,7 +43,7 @@ double widthOf(const QString& text)
     return sum;
 }
 
-/// The stack that `text` is, its signs included.
+/// Parses a stack; `text` includes its separator characters.
 TextPiece stackPiece(const QString& text)
 {
     TextPiece piece;
@@ -56,7 +56,8 @@ TextPiece stackPiece(const QString& text)
     return piece;
 }
 
-/// The character a `%%` code at `i` (behind the two signs) stands for; moves `i` behind the code.
+/// The character for the `%%` code at `i`, which is the index after the two signs. Moves `i` to the
+/// end of the code.
 QString percentCode(const QString& text, int& i)
 {
     const QChar code = text[i].toLower();
@@ -86,7 +87,7 @@ QString percentCode(const QString& text, int& i)
     }
 }
 
-/// Reads MTEXT's inline codes into lines of plain text.
+/// Converts the inline codes of MTEXT to lines of plain text.
 class MTextReader
 {
 public:
@@ -156,7 +157,7 @@ private:
         }
     }
 
-    /// What lies before the next semicolon; all the rest when there is none.
+    /// The text up to the next semicolon, or all the rest when there is none.
     QString argument()
     {
         const int end = m_text.indexOf(QLatin1Char(';'), m_position);
@@ -190,7 +191,8 @@ private:
     QStringList m_lines;
 };
 
-/// Where a line has to break so that its head is no wider than `width`; at least one character.
+/// The index where a line must break so that its beginning is at most `width` wide. It includes at
+/// least one character.
 int breakPosition(const QString& line, int from, double width)
 {
     double used = 0;
@@ -207,7 +209,7 @@ int breakPosition(const QString& line, int from, double width)
     return line.size();
 }
 
-/// Behind the word at `from`, which is wider than the line and stays whole.
+/// The index after the word at `from`, which is too wide for a line but stays in one piece.
 int endOfWord(const QString& line, int from)
 {
     while (from < line.size() && !line[from].isSpace())
@@ -254,7 +256,8 @@ QStringList plainLines(const QString& text, double width)
     QStringList lines = MTextReader(text).lines();
     if (!(width > 0) || !std::isfinite(width))
         return lines;
-    // The width was made for another font, so lines are only broken when clearly too long.
+    // The width was determined with another font, so a line is broken only when it is clearly too
+    // long.
     constexpr double kSlack = 1.05;
     QStringList wrapped;
     for (const QString& line : lines)

@@ -13,15 +13,16 @@ namespace {
 
 constexpr double kMillimetresPerInch = 25.4;
 
-/// What the plot settings say of the paper, in millimetres.
+/// The paper according to the plot settings, in millimetres.
 struct PaperSettings
 {
-    double left = 0, bottom = 0, right = 0, top = 0; ///< Margins, of the paper as it is printed.
+    double left = 0, bottom = 0, right = 0, top = 0; ///< The margins of the printed paper.
     double width = 0, height = 0;
-    double originX = 0, originY = 0;         ///< Of the plot, from the corner of the margins.
-    double paperUnits = 1, drawingUnits = 1; ///< Of the plot's scale.
-    qint64 unit = 1;                         ///< 0 inch, 1 millimetre.
-    qint64 turns = 0;                        ///< Quarters of a turn counterclockwise.
+    /// The origin of the plot, relative to the corner of the margins.
+    double originX = 0, originY = 0;
+    double paperUnits = 1, drawingUnits = 1; ///< The two sides of the plot scale.
+    qint64 unit = 1;                         ///< 0 for inch, 1 for millimetre.
+    qint64 turns = 0;                        ///< Counterclockwise quarter turns.
 
     void take(const Tag& tag);
     void turn();
@@ -48,7 +49,7 @@ void PaperSettings::take(const Tag& tag)
         turns = tag.integer() & 3;
 }
 
-/// By a quarter: what was on top comes to the left.
+/// Turns the paper by a quarter, so that its top becomes its left side.
 void PaperSettings::turn()
 {
     std::swap(width, height);
@@ -59,7 +60,7 @@ void PaperSettings::turn()
     bottom = wasLeft;
 }
 
-/// What a VIEWPORT says, its numbers by their meaning.
+/// The contents of a VIEWPORT by their meaning.
 struct ViewportTags
 {
     Vec3 center, target, direction{0, 0, 1};
@@ -132,8 +133,8 @@ void ViewportTags::take(const Tag& tag)
     }
 }
 
-/// Old files keep the view in the data of an application, known by its order alone: a target, a
-/// direction, then the twist, the height and the centre of the view.
+/// Reads the view from application data, where old files keep it. The values are identified by
+/// their order alone: target, direction, twist, height and centre of the view.
 void ViewportTags::takeOldView(const std::vector<Tag>& xdata)
 {
     std::vector<double> numbers;
@@ -169,14 +170,15 @@ ViewportTags readTags(const TagReader& reader)
     return viewport;
 }
 
-/// Seen along the direction, about the target, turned and moved to where the viewport stands.
+/// The transformation that looks along the view direction at the target, twists and scales the
+/// view, and moves it to the viewport's place on the sheet.
 Transform3 toSheet(const ViewportTags& viewport, double scale)
 {
     const Vec3 z = viewport.direction.normalized();
     const bool isPlan = z.x == 0 && z.y == 0;
     const Vec3 x = isPlan ? Vec3{1, 0, 0} : Vec3::cross({0, 0, 1}, z).normalized();
     const Vec3 y = Vec3::cross(z, x);
-    // The rows of the turn are the axes seen.
+    // The rows of the rotation matrix are the axes of the view.
     const Transform3 look({x.x, y.x, 0}, {x.y, y.y, 0}, {x.z, y.z, 0}, {});
     const Transform3 place = Transform3::translation(viewport.center) *
                              Transform3::scaling({scale, scale, 1}) *
@@ -259,7 +261,7 @@ SheetViewport SheetReader::readViewport(int entity)
     viewport.scale = tags.viewHeight > 0 ? tags.height / tags.viewHeight : 0;
     viewport.toSheet = toSheet(tags, viewport.scale);
     viewport.isLocked = tags.flags & Locked;
-    // Old files say so by the order in which viewports lie upon each other.
+    // In old files the stacking order of the viewports tells whether they are on.
     const bool isOff = tags.hasFlags ? (tags.flags & Off) != 0 : tags.status == 0;
     viewport.isOn = !isOff && viewport.scale > 0 && viewport.toSheet.isFinite();
     if (tags.flags & ClippedByOutline)
@@ -273,7 +275,7 @@ SheetViewport SheetReader::readViewport(int entity)
     return viewport;
 }
 
-/// What another entity of the same sheet draws.
+/// The outline that another entity of the same sheet draws.
 std::vector<QPointF> SheetReader::outlineOf(quint64 handle, const Entity& viewport)
 {
     const auto& entities = m_source.entities.all();

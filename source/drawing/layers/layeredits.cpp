@@ -14,15 +14,16 @@ namespace {
 
 constexpr int kLongestDescription = 255;
 
-/// What the record says, as far as it is not known from the name alone.
+/// The properties as the record states them. They differ from the real ones for layers that are
+/// never plotted because of their name.
 LayerProperties stored(LayerProperties before, const LayerProperties& after)
 {
     if (isNeverPlotted(before.name) && !isNeverPlotted(after.name))
-        before.plotted = !after.plotted; // So that it is written in any case.
+        before.plotted = !after.plotted; // Forces the flag to be written.
     return before;
 }
 
-/// Text as it can be read back: a value is one line.
+/// Replaces line breaks, because a value of a file is a single line.
 QString oneLine(QString text)
 {
     for (QChar& c : text) {
@@ -73,14 +74,14 @@ Expected<void> LayerEdits::checkValues(
     if (after.transparency < 0 || after.transparency > kMostTransparent)
         return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：透明度 %2 不在 0 到 90 之间。"),
             QString::number(after.transparency));
-    // Drawings of other programs may hold longer ones, which stay.
+    // Drawings of other programs may have longer descriptions, which are kept.
     if (after.description != before.description && after.description.size() > kLongestDescription)
         return refuse(QT_TRANSLATE_NOOP("drawing", "图层“%1”：说明“%2…”超过 255 个字符。"),
             after.description.left(20));
     return {};
 }
 
-/// The wanted properties in the form in which the file will give them back.
+/// The properties as they will be read back from the file.
 Expected<LayerProperties> LayerEdits::asStored(
     const LayerProperties& before, const LayerProperties& wanted) const
 {
@@ -105,7 +106,7 @@ Expected<LayerProperties> LayerEdits::asStored(
     return after;
 }
 
-/// Older formats lack some groups: what they would hold stays as it was, and a notice says so.
+/// Resets properties for which the format has no group to their old values and adds a notice.
 void LayerEdits::dropUnsupported(const LayerProperties& before, LayerProperties& after)
 {
     const FormatLimits& limits = m_file.limits();
@@ -192,7 +193,7 @@ Expected<void> LayerEdits::checkTarget(LayerId target) const
     return {};
 }
 
-/// Layer 0 and the current layer stay.
+/// Refuses layer 0 and the current layer, which must stay.
 Expected<void> LayerEdits::checkLeaving(LayerId id) const
 {
     const Layer* layer = m_layers.layer(id);
@@ -236,7 +237,7 @@ void LayerEdits::drop(LayerId layer, LayerId mergedInto)
 {
     LayerEntry entry = m_layers.entry(layer);
     if (!entry.present)
-        return; // Named twice.
+        return; // The layer was listed twice.
     m_records.remove(entry);
     entry.present = false;
     entry.mergedInto = mergedInto;

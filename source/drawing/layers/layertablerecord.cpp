@@ -9,7 +9,7 @@ namespace drawing {
 
 namespace {
 
-/// Bits of a LAYER record's flags.
+/// The bits in the flags of a LAYER record.
 enum Flag : qint64 { kFrozen = 1, kFrozenInNewViewports = 2, kLocked = 4, kFromReference = 16 };
 
 int colorOf(qint64 index)
@@ -35,12 +35,12 @@ public:
     QByteArray bytes() const { return m_tags.bytes(); }
 
 private:
-    /// Of several tags the last one counts, as it is read.
+    /// Finds the last tag with this code, which is the one that counts when reading.
     int find(int code) const { return findOwn(m_tags, code, true); }
     void insert(int code, const QByteArray& tag);
     void remove(int code);
-    /// The application's data, [begin, end), behind its name; the name is added where it is
-    /// missing.
+    /// The application's data, [begin, end), without the application's name. Adds the name when it
+    /// is missing.
     std::pair<int, int> xdataOf(const char* application);
 
     TagList m_tags;
@@ -86,7 +86,7 @@ void RecordEditor::setColor(const LayerProperties& before, const LayerProperties
 {
     const int at = find(group::kColor);
     qint64 index = after.colorIndex;
-    // A colour out of range stays what it is when the layer is only turned on or off.
+    // An invalid colour is kept when the layer is only turned on or off.
     const qint64 old = at == TagList::kNone ? 0 : m_tags.integer(at);
     if (before.colorIndex == after.colorIndex && old > -0x8000 && old < 0x8000 && old != 0)
         index = std::abs(old);
@@ -95,7 +95,7 @@ void RecordEditor::setColor(const LayerProperties& before, const LayerProperties
 
 void RecordEditor::setTrueColor(std::optional<quint32> color)
 {
-    remove(group::kColorName); // Named the colour that was.
+    remove(group::kColorName); // The name belonged to the old colour.
     if (color)
         setInteger(group::kTrueColor, *color);
     else
@@ -237,7 +237,7 @@ void LayerRecordReader::readXdata(const Tag& tag, std::string_view application, 
 {
     if (tag.code == group::kXdataLong && application == kTransparencyApp)
         record.properties.transparency = transparencyPercent(tag.integer());
-    // The second string is the description.
+    // The second string is the layer's description.
     if (tag.code == group::kXdata && application == kStandardApp && ++m_strings == 2)
         record.properties.description = m_codec.decode(tag.text());
 }

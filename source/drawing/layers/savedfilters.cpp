@@ -19,8 +19,8 @@ constexpr char kOldList[] = "ACAD_LAYERFILTERS";
 constexpr char kProperty[] = "AcLyLayerFilter";
 constexpr char kGroup[] = "AcLyLayerGroup";
 
-// Groups of a filter's record.
-constexpr int kText = 1; ///< What it is; of the old ones their name, then patterns.
+// Groups in the record of a filter.
+constexpr int kText = 1; ///< The kind of record; in the old list the filter's name and patterns.
 constexpr int kVersion = 90;
 constexpr int kFilterName = 300;
 constexpr int kExpression = 301;
@@ -39,7 +39,7 @@ bool isFilter(const DrawingFile& file, quint64 record)
     return kind != TagList::kNone && tags.trimmed(kind).substr(0, 4) == "AcLy";
 }
 
-/// The filters in a dictionary, those of dictionaries in it included.
+/// Collects the filters in a dictionary, including those in nested dictionaries.
 void gather(const DrawingFile& file, quint64 dictionary, quint64 parent,
     std::unordered_set<quint64>& seen, std::vector<FilterPlace>& places)
 {
@@ -61,7 +61,7 @@ void gather(const DrawingFile& file, quint64 dictionary, quint64 parent,
     }
 }
 
-/// The names in an expression that asks for them.
+/// The name pattern in an expression that tests for names.
 QString patternOf(const QString& expression)
 {
     static const QRegularExpression term(
@@ -131,7 +131,7 @@ LayerFilter SavedFilters::read(const FilterPlace& place) const
     return filter;
 }
 
-/// Without an expression the pattern of names says what it lets through.
+/// A filter without an expression is described by its name pattern.
 LayerFilter SavedFilters::readOld(quint64 record) const
 {
     const TagList tags = m_file.objects().tags(record);
@@ -185,7 +185,8 @@ QByteArray SavedFilters::newData(const LayerFilter& filter)
     return data;
 }
 
-/// The dictionary for filters inside `parent`, or for those at the top.
+/// The dictionary for filters inside `parent`, or for those at the top level. It is created when it
+/// is missing.
 quint64 SavedFilters::madeDictionary(quint64 parent)
 {
     for (const FilterPlace& place : filterPlaces(m_file)) {
@@ -234,7 +235,7 @@ void SavedFilters::putText(TagList& tags, int code, const QString& text) const
         tags.setText(at, m_file.encoded(text));
 }
 
-/// What is listed that is no layer of ours is not ours to drop.
+/// Updates the list of layers. Handles in it that do not belong to a layer of the drawing are kept.
 void SavedFilters::putLayers(TagList& tags, const std::vector<LayerId>& layers)
 {
     const RecordData data(tags);

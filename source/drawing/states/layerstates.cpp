@@ -126,7 +126,7 @@ std::optional<LayerState> LayerStates::find(const QString& name) const
     return {};
 }
 
-/// Makes the dictionary of states and all that leads to it.
+/// Creates the dictionary of states and everything that leads to it.
 void LayerStates::makeDictionary(LayerStateTable& table)
 {
     Objects& objects = m_file.objects();
@@ -143,7 +143,7 @@ void LayerStates::store(LayerStateEntry& entry, const QByteArray& record)
         m_file.objects().store(entry.handle, record);
 }
 
-/// Entries of other objects than states stay where they are.
+/// Entries of the dictionary that are not states are left where they are.
 void LayerStates::writeDictionary(const LayerStateTable& table, const std::vector<quint64>& gone)
 {
     if (!liveInDrawing())
@@ -268,9 +268,9 @@ void LayerStates::follow(const LayerReplacements& replacements)
         keep(std::move(changed));
 }
 
-/// A layer's tags run from its handle or name to the next layer's. The current layer of a state may
-/// not be one that is gone: the one it was merged into takes its place, or layer 0. True when
-/// anything changed.
+/// Updates the layers in the tags of a state. The tags of a layer begin with its handle or name and
+/// end before the next layer's. When the state's current layer was deleted, the layer that it was
+/// merged into replaces it, or else layer 0. Returns whether anything changed.
 bool LayerStates::follow(TagList& tags, const LayerReplacements& replacements) const
 {
     const RecordData data(tags);

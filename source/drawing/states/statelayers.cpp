@@ -16,12 +16,12 @@ namespace drawing {
 
 namespace {
 
-/// What a viewport may show otherwise than the layer says.
+/// The properties that can be overridden in a viewport.
 constexpr int kOverridable =
     kStateColor | kStateLinetype | kStateLineweight | kStatePlotStyle | kStateTransparency;
 
-/// Whether a viewport's visibility is part of restoring the state: one saved in model space says
-/// nothing of it.
+/// Whether restoring the state includes what a viewport shows. A state that was saved in model
+/// space contains nothing about viewports.
 bool concernsViewport(const LayerState& state, int mask, const LayoutTable& layouts)
 {
     return (mask & kStateCurrentViewport) != 0 && state.fromLayout && !layouts.isModelSpace();
@@ -32,7 +32,7 @@ bool contains(const std::vector<LayerId>& sorted, LayerId layer)
     return std::binary_search(sorted.begin(), sorted.end(), layer);
 }
 
-/// The first name, and how many there are when there are more.
+/// The first name, with the number of names if there are more.
 QString firstOf(const QStringList& names)
 {
     return names.size() > 1 ? Texts::tr("“%1”等 %2 个图层").arg(names.first()).arg(names.size())
@@ -45,7 +45,7 @@ QString nameOf(const LayerTable& layers, LayerId id)
     return layer ? layer->properties.name : QString();
 }
 
-/// `saved` in the spelling of `now`, where that is all they differ in.
+/// Returns `saved` with the spelling of `now` where they differ in letter case only.
 LayerProperties respelled(LayerProperties saved, const LayerProperties& now)
 {
     if (isSameName(saved.linetype, now.linetype))
@@ -106,8 +106,9 @@ QStringList Restoring::run()
     return m_notices;
 }
 
-/// A frozen layer cannot be current, and none is thawed for it: whether the state's will be frozen
-/// is looked up before the layers change, as the present one is then free to be frozen.
+/// Makes the state's current layer current, unless the restored layer will be frozen: a frozen
+/// layer cannot be current, and no layer is thawed for this purpose. This happens before the layers
+/// change, so that the present current layer can then be frozen.
 void Restoring::makeCurrent()
 {
     const Layer* wanted = m_target.layers.find(m_state.currentLayer);
@@ -133,7 +134,7 @@ bool Restoring::willBeFrozen(const Layer& layer) const
     return isFrozen;
 }
 
-/// The layers themselves keep what is overridden, also where that cannot be done.
+/// Sets viewport overrides. The layers themselves keep these properties even when that fails.
 void Restoring::overrideLayers()
 {
     const int wanted = m_how.mask & kOverridable;
@@ -160,7 +161,7 @@ void Restoring::overrideLayers()
         m_notices += Texts::tr("图形中没有图层%1的线型，没有恢复。").arg(firstOf(names));
 }
 
-/// Plot styles have no place among the overrides.
+/// Adds notices for plot styles, which cannot be overridden in viewports.
 void Restoring::noteUnheldStyles(const std::vector<LayerInViewport>& layers)
 {
     QStringList names;
@@ -174,7 +175,7 @@ void Restoring::noteUnheldStyles(const std::vector<LayerInViewport>& layers)
             Texts::tr("图层%1的打印样式不能作为视口替代保存，没有恢复。").arg(firstOf(names));
 }
 
-/// Layers that the state does not hold stay as they are in the viewport.
+/// Restores what the viewport shows. Layers that the state does not contain stay as they are.
 void Restoring::restoreVisibility()
 {
     const std::vector<LayerId> now = m_target.viewports.frozen();
@@ -228,7 +229,7 @@ void Restoring::apply(LayerId id, const LayerProperties& after)
     const auto applied = m_target.edits.setProperties(id, after);
     if (applied)
         return;
-    // Most likely the linetype is gone: the rest need not go with it.
+    // Most likely the linetype does not exist any more; the other properties can still be restored.
     m_notices += applied.error().text;
     LayerProperties rest = after;
     rest.linetype = m_target.layers.layer(id)->properties.linetype;

@@ -40,7 +40,7 @@ private:
     {
         size_t mapping = 0;
         LayerId from = LayerId::None;
-        LayerId to = LayerId::None; ///< None as long as the drawing has no such layer.
+        LayerId to = LayerId::None; ///< None until the drawing has this layer.
     };
 
     void checkMappings();
@@ -63,14 +63,15 @@ private:
     TargetLayers m_layers;
     TranslationReport m_report;
     std::vector<Plan> m_plans;
-    QSet<int> m_sources;              // Ids.
-    QSet<int> m_targets;              // Ids of the layers that are targets, made ones included.
-    QHash<QString, size_t> m_decided; // By folded name of a target, the mapping that decided on it.
+    QSet<int> m_sources; // Layer ids.
+    QSet<int> m_targets; // Ids of the target layers, including created ones.
+    // By the folded name of a target, the mapping that defines it.
+    QHash<QString, size_t> m_decided;
     QHash<QString, LayerId> m_targetIds;
-    std::vector<char> m_hasBlockContents; // By layer id.
+    std::vector<char> m_hasBlockContents; // Indexed by layer id.
 };
 
-/// Why a mapping cannot be carried out, as far as can be told from its names; empty when it can.
+/// Why a mapping cannot be carried out, judging by its names; empty when it can.
 QString Translation::refusalOf(const LayerMapping& mapping, const Layer* source)
 {
     if (!source)
@@ -106,7 +107,8 @@ void Translation::checkMappings()
     }
 }
 
-/// Parts of entities count too: a layer that only a vertex is on may not go either.
+/// Finds the layers with block contents. Subentities count, because a layer with only a vertex on
+/// it must not be deleted either.
 void Translation::findBlockContents()
 {
     m_hasBlockContents.assign(static_cast<size_t>(m_parts.layers.entryCount()), false);
@@ -151,8 +153,8 @@ Expected<void> Translation::changeTarget(Plan& plan)
     return {};
 }
 
-/// A source that goes as a whole gets the target's name: what refers to it, be it a viewport that
-/// freezes it or a layer state, goes on doing so.
+/// Creates the target layer. When the whole source layer moves, it is renamed instead, so that
+/// references to it, such as in viewports and layer states, stay valid.
 Expected<void> Translation::makeTarget(Plan& plan)
 {
     const Layer source = *m_parts.layers.layer(plan.from);
@@ -294,7 +296,8 @@ std::vector<LayerMapping> sameNamedMappings(const LayerTable& layers,
         mapped.insert(nameKey(mapping.from));
     QHash<QString, const TargetLayer*> byName;
     for (auto target = targets.rbegin(); target != targets.rend(); ++target)
-        byName.insert(nameKey(target->name), &*target); // Of two of one name the first.
+        // The first of several targets with one name wins.
+        byName.insert(nameKey(target->name), &*target);
     std::vector<LayerMapping> mappings;
     for (const Layer& layer : layers.listed()) {
         const QString key = nameKey(layer.properties.name);
