@@ -15,7 +15,7 @@ namespace vnsi {
 
 namespace {
 
-/// As deep as texts of this kind are read; deeper containers are written as null.
+/// The nesting limit of the JSON parser. Deeper containers are written as null.
 constexpr int kDeepestJson = 1024;
 
 VnJsonPtr emptyLike(const ValueNode& source)
@@ -26,10 +26,10 @@ VnJsonPtr emptyLike(const ValueNode& source)
     return ElementValue::createObject(static_cast<int>(members.size()));
 }
 
-/// A container that is copied, and its copy.
+/// A container and its copy, which still has to be filled.
 using CopyStep = std::pair<const ValueNode*, ValueNode*>;
 
-/// The copy of one value; a container is made empty and noted to be filled.
+/// Copies one value. The copy of a container is empty at first and is added to `open`.
 Value copied(const Value& value, std::vector<CopyStep>& open)
 {
     const ValueNode* const node = readNode(value);
@@ -122,7 +122,8 @@ Value fromJsonValue(const QJsonValue& json)
     }
 }
 
-// The parser refuses what is nested deeper than kDeepestJson, so these two may call each other.
+// The recursion of the next two functions is bounded because the parser refuses texts that are
+// nested deeper than kDeepestJson.
 VnJsonPtr fromArray(const QJsonArray& array)
 {
     VnJsonPtr node(new ValueArray(array.size()));
@@ -220,7 +221,7 @@ void removeKey(IElementValueBase& object, const char* key)
 
 std::string jsonOf(const VnJsonPtr& node)
 {
-    // A scalar has no document of its own: it is written as the only element of a list.
+    // A JSON document cannot be a scalar, so a scalar is written as the only element of an array.
     const QJsonValue json = vnsi::jsonOf(toValue(node), 1);
     if (json.isObject() || json.isArray()) {
         const QJsonDocument document =
