@@ -31,7 +31,7 @@ QByteArray linesText(const QStringList& lines)
     return lines.isEmpty() ? QByteArray() : lines.join(QLatin1Char('\n')).toUtf8() + '\n';
 }
 
-/// A line a finding, as compilers have it.
+/// Prints one line per finding in the style of compilers.
 class LinePrinter : public Printer
 {
 public:
@@ -51,7 +51,7 @@ public:
     }
 };
 
-/// A fingerprint a line, sorted, for --baseline.
+/// Prints one sorted fingerprint per line, for --baseline.
 class BaselinePrinter : public Printer
 {
 public:
@@ -82,7 +82,8 @@ private:
     QStringList m_lines;
 };
 
-/// SARIF 2.1.0 with errata 01: one run; a result a finding; a region for the layer's record.
+/// Prints SARIF 2.1.0 with errata 01: one run with one result per finding and a region for the
+/// layer's record.
 class SarifPrinter : public Printer
 {
 public:
@@ -106,7 +107,8 @@ private:
     QJsonArray m_faults;
 };
 
-/// Relative to the root as all names are; a drawing elsewhere by its absolute address.
+/// The address of a drawing, relative to the root like all names, or absolute for a drawing
+/// elsewhere.
 QJsonObject SarifPrinter::artifactLocation(const Result& result) const
 {
     const QString root =
@@ -163,7 +165,7 @@ QJsonObject SarifPrinter::resultOf(const Result& result, const QJsonObject& find
                 {QStringLiteral("primaryLocationLineHash"), fingerprint}}}};
 }
 
-/// The log's members as they follow on each other, results coming first, one by one.
+/// Begins the log. Its members are written in their order, and the results are added one by one.
 QByteArray SarifPrinter::begin()
 {
     m_begun = QDateTime::currentDateTimeUtc();
@@ -222,7 +224,7 @@ QByteArray SarifPrinter::end()
     return "\n]," + members.mid(1) + "]}\n";
 }
 
-/// What XML 1.0 cannot hold, which layer names may, is shown as the replacement character.
+/// Replaces characters that XML 1.0 cannot contain, although layer names may, by U+FFFD.
 QString xmlText(QString text)
 {
     for (int i = 0; i < text.size(); ++i) {
@@ -238,7 +240,7 @@ QString xmlText(QString text)
     return text;
 }
 
-/// A suite for a drawing.
+/// Writes the test suite of one drawing.
 class SuiteWriter
 {
 public:
@@ -313,7 +315,8 @@ void SuiteWriter::write()
     m_xml.writeEndElement();
 }
 
-/// A suite a drawing, a case a finding; a drawing without findings has one case that passes.
+/// Prints one test suite per drawing and one case per finding. A drawing without findings gets one
+/// case that passes.
 class JUnitPrinter : public Printer
 {
 public:

@@ -23,7 +23,7 @@ using drawing::Expected;
 
 constexpr const char* kLevelWords[] = {"off", "note", "warning", "error"};
 
-/// Reads one key of a rule file into the rules.
+/// How one key of a rule file is read into the rules.
 struct KeyRow
 {
     const char* key;
@@ -85,7 +85,7 @@ Expected<void> readLayer(const QJsonObject& json, LayerRules& rules)
             [&key](const LayerField& known) { return key == QLatin1String(known.id); });
         if (field == fields.end())
             return refuse(Texts::tr("图层“%1”没有名为“%2”的特性。").arg(layer.name, key));
-        // Written as the field itself writes it, so that values can be held against each other.
+        // The value is normalised by the field itself so that values can be compared.
         drawing::LayerProperties properties;
         if (!field->set(properties, json.value(key).toVariant().toString()))
             return refuse(Texts::tr("图层“%1”的 %2 不是可用的值：“%3”。")
@@ -131,7 +131,8 @@ Expected<void> readLevels(const QJsonValue& value, LayerRules& rules)
 constexpr KeyRow kKeys[] = {
     {"$schema", QJsonValue::String, readNothing},
     {"source", QJsonValue::String, readNothing},
-    {"extends", QJsonValue::Undefined, readNothing}, // A text or a list, read before all else.
+    // A text or a list, handled before everything else.
+    {"extends", QJsonValue::Undefined, readNothing},
     {"name", QJsonValue::String, readName},
     {"exempt", QJsonValue::Array, readPatterns<&LayerRules::exempt>},
     {"required", QJsonValue::Array, readRequired},
@@ -143,7 +144,7 @@ constexpr KeyRow kKeys[] = {
     {"rules", QJsonValue::Object, readLevels},
 };
 
-/// Lists hold texts, but for those of objects.
+/// Whether a list contains only texts; lists of objects are checked elsewhere.
 bool holdsTexts(const QJsonValue& value)
 {
     const QJsonArray list = value.toArray();
@@ -183,7 +184,7 @@ Expected<QJsonObject> jsonOf(const QString& path)
     return document.object();
 }
 
-/// The files that a rule file builds on, one or a list of them, by paths from its folder.
+/// The one or several files that a rule file extends, given relative to its folder.
 QStringList basesOf(const QString& path, const QJsonValue& value)
 {
     QStringList bases;
@@ -193,7 +194,7 @@ QStringList basesOf(const QString& path, const QJsonValue& value)
     return bases;
 }
 
-/// Reads a file after those it builds on; `readers` are the files that led here.
+/// Reads a file after those that it extends. `readers` are the files that led to it.
 Expected<void> readChain(const QString& path, const QStringList& readers, LayerRules& rules)
 {
     const QString place = QFileInfo(path).absoluteFilePath();
@@ -281,8 +282,7 @@ Expected<LayerRules> readRules(const QStringList& paths)
     for (const char* name : {"0", "Defpoints"})
         rules.exempt.add(QLatin1String(name));
     for (const QString& path : paths) {
-        auto read =
-            isRuleFile(path) ? readRuleFile(path, rules) : readStandardDrawing(path, rules);
+        auto read = isRuleFile(path) ? readRuleFile(path, rules) : readStandardDrawing(path, rules);
         if (!read)
             return tl::make_unexpected(std::move(read.error()));
     }

@@ -241,8 +241,8 @@ void checkHiddenContent(CheckContext& context)
     }
 }
 
-/// Old versions know short names of few letters; what they hold besides is read by some programs
-/// and not by others.
+/// Old versions only allow short names of a few characters. Programs differ in whether they accept
+/// other names.
 void checkVersionLimits(CheckContext& context)
 {
     if (drawing::FormatLimits::of(context.drawing.version().constData()).longNames)

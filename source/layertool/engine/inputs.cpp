@@ -15,7 +15,7 @@ namespace layertool {
 
 namespace {
 
-/// What the file is known by, whatever way leads to it; also of one that is not there.
+/// Identifies a file, which need not exist, independently of the path that leads to it.
 QString identity(const QString& path)
 {
     const QFileInfo info(path);
@@ -26,7 +26,8 @@ QString identity(const QString& path)
     return QDir(folder.isEmpty() ? info.absolutePath() : folder).absoluteFilePath(info.fileName());
 }
 
-/// As given, unless ".." behind a link leads elsewhere than the words say.
+/// The path as given, unless it contains a ".." after a link, which leads elsewhere than the text
+/// suggests.
 QString absolutePath(const QString& path)
 {
     const QString cleaned = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
@@ -71,7 +72,7 @@ QStringList drawingsIn(const QString& folder, const QString& leftOut)
     return found;
 }
 
-/// Gathers drawings and gives each its name.
+/// Collects drawings and gives each a name.
 class Planner
 {
 public:
@@ -210,7 +211,7 @@ Expected<void> Planner::checkOutputs(const QStringList& precious) const
         if (!job.output.isEmpty() && kept.contains(identity(job.output)))
             return refuse(
                 Texts::tr("输出“%1”会覆盖一个原文件：请换一个输出文件夹。").arg(job.output));
-        // Logs, layer states and parts go by the name without its suffix.
+        // Logs, layer states and parts use the output's name without its suffix.
         const QFileInfo output(job.output);
         const QString base = output.dir().filePath(output.completeBaseName());
         if (!job.output.isEmpty() && taken.contains(base))

@@ -29,7 +29,7 @@ namespace layertool {
 
 namespace {
 
-constexpr int kSignalExit = 128; ///< By convention, plus the signal's number.
+constexpr int kSignalExit = 128; ///< By convention, the signal's number is added.
 
 int fail(int code, const QString& text)
 {
@@ -43,7 +43,8 @@ RunVerb runVerbOf(const VerbRow& row, const Arguments& arguments)
     return {name, editsDrawings(row, arguments)};
 }
 
-/// Where results are printed: standard output, or a file that replaces the one before when whole.
+/// The destination of the printed results: standard output, or a file that replaces an existing one
+/// when it is complete.
 class Sink
 {
 public:
@@ -67,7 +68,7 @@ public:
             Error{Texts::tr("无法写入“%1”：%2。").arg(name, causeOf(device()))});
     }
     bool isFile() const { return !m_path.isEmpty(); }
-    /// Whoever reads along sees what there is so far.
+    /// Flushes the output so that a reader sees the results so far.
     void showNow()
     {
         if (!isFile())
@@ -119,8 +120,8 @@ private:
     std::unique_ptr<Sink> m_sink;
     std::unique_ptr<Printer> m_printer;
     ProgressLine m_progress;
-    Results m_results;          ///< By the numbers of their jobs.
-    std::vector<bool> m_isHere; ///< Which of them have come.
+    Results m_results;          ///< Indexed by the numbers of their jobs.
+    std::vector<bool> m_isHere; ///< Whether each result has arrived.
     size_t m_printed = 0;
     Totals m_totals;
     QString m_journalFault;
@@ -150,7 +151,7 @@ Expected<void> Run::checkEncoding() const
     return tl::make_unexpected(Error{Texts::tr("没有名为“%1”的代码页。").arg(name)});
 }
 
-/// Files that outputs must not take the place of.
+/// The files that outputs must not overwrite.
 QStringList Run::precious() const
 {
     QStringList paths;
@@ -228,7 +229,7 @@ Expected<void> Run::openSink()
     return {};
 }
 
-/// Drawings that the journal proves to be done keep their results.
+/// Skips drawings that are done according to the journal, and keeps their results.
 void Run::skipProven()
 {
     if (!m_journal || m_arguments.isSet("force"))
@@ -257,8 +258,8 @@ void Run::record(const Result& result)
         m_journalFault = written.error().text;
 }
 
-/// What an earlier run wrote for a drawing, and this one does not, would pass for a part of its
-/// result; it goes unless somebody changed it since.
+/// Removes files that an earlier run wrote for a drawing and that this run did not, because they
+/// would seem to belong to its result. Files that were changed since are kept.
 void Run::removeOutdated(const Result& result) const
 {
     const JournalEntry* const earlier = m_journal->find(result.input);
@@ -284,7 +285,7 @@ void Run::take(const Result& result)
     m_progress.show(m_totals.drawings, static_cast<int>(m_results.size()), m_totals.failed);
 }
 
-/// Prints what follows on what is printed already: results come in any order.
+/// Prints the results that follow the ones already printed. Results arrive in any order.
 void Run::printReady()
 {
     for (; m_printed < m_results.size() && m_isHere[m_printed]; ++m_printed) {

@@ -35,7 +35,7 @@ constexpr char kDrawings[] = "drawings";
     std::_Exit(kOutOfMemoryExit);
 }
 
-/// Where an exception finds nobody to catch it, as in functions that throw none.
+/// Called when nobody catches an exception, for example in a function that must not throw.
 void endForException()
 {
     try {
@@ -48,7 +48,8 @@ void endForException()
     std::abort();
 }
 
-/// A process over the limit is refused memory and ends; what it was at is lost, nothing else.
+/// Limits the memory of this process. When an allocation fails the process ends, and only the
+/// drawing it was working on is affected.
 void limitMemory(int megabytes)
 {
     std::set_new_handler(endOutOfMemory);
@@ -60,7 +61,7 @@ void limitMemory(int megabytes)
     ::setrlimit(RLIMIT_AS, &limit);
 }
 
-/// Puts a file into the place of another, in one go.
+/// Replaces a file by another one atomically.
 Expected<void> moveInto(const StagedFile& file)
 {
     if (std::rename(
@@ -82,7 +83,7 @@ Expected<void> keepBackup(const QString& path)
         Error{Texts::tr("无法把原图形留为“%1”，图形没有改动。").arg(backup)});
 }
 
-/// Works through one job after the other.
+/// Processes one job after the other.
 class Worker
 {
 public:
@@ -130,13 +131,13 @@ Result Worker::run(const Job& job)
     answer(job, result);
     result.seconds = static_cast<double>(clock.elapsed()) / 1000;
     result.printed = m_printer->textOf(result);
-    // Nobody reads the rows again but a journal.
+    // Only the journal still needs the rows.
     result.data = job.isProven ? m_verb->data(result) : QJsonArray();
     return result;
 }
 
-/// A drawing that somebody saved while it was read is not what the stamp says, and must not be
-/// replaced in its place.
+/// Whether the drawing is unchanged since it was read. If somebody saved it meanwhile, the stamp is
+/// wrong and the drawing must not be replaced.
 bool Worker::isAsRead(const Job& job, const Result& result) const
 {
     return !job.isStamped() ||
@@ -151,7 +152,7 @@ void Worker::answer(const Job& job, Result& result)
         if (error.cancelled)
             result.status = Result::Status::Cancelled;
     };
-    // Files are mapped, which the limit counts, too.
+    // Files are mapped into memory, which counts towards the limit.
     const qint64 limit = m_arguments.number("memory-limit", 0);
     if (limit > 0 && QFileInfo(job.input).size() >= limit * 1024 * 1024)
         return result.fail(
@@ -167,7 +168,7 @@ void Worker::answer(const Job& job, Result& result)
     result.changed = drawing.canUndo();
     result.notes("opening", drawing.openingNotices());
     result.notes("drawing", drawing.takeNotices());
-    // In place, what did not change is left alone; elsewhere the tree of outputs is to be whole.
+    // An unchanged drawing is not written in place; in an output folder every drawing is written.
     const bool writes = !job.output.isEmpty() && (result.changed || job.output != job.input);
     const auto refuseChanged = [&result] {
         result.fail(errorid::kChanged, Texts::tr("图形在处理期间被改动，请重做。"));
@@ -182,8 +183,8 @@ void Worker::answer(const Job& job, Result& result)
     result.status = Result::Status::Done;
 }
 
-/// What is written becomes whole in the staging folder; the drawing itself comes last, so that one
-/// that is in its place is never without what belongs to it.
+/// Writes all files to the staging folder. The drawing comes last, so that a drawing that is in
+/// place always has its accompanying files.
 Expected<void> Worker::write(Drawing& drawing, const Job& job, Result& result)
 {
     if (job.keepsBackup) {
@@ -216,7 +217,7 @@ QByteArray workerOrder(const Arguments& arguments, int drawings)
 
 int runWorker()
 {
-    // What a killed run was at must not come into its place behind the back of the next one.
+    // A killed run must not replace files after the next run has started.
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     QFile in;
     QFile out;
