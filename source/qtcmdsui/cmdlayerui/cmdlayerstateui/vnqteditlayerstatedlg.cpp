@@ -174,7 +174,7 @@ void VnQtEditLayerStateDlg::applyColumnWidths()
         m_table->setColumnWidth(column, hostapi::intAt(widths, column));
 }
 
-/// Rows may have gone while a question was open.
+/// Whether the row still exists; rows may have been removed while a question was open.
 bool VnQtEditLayerStateDlg::isRow(int row) const
 {
     return row >= 0 && row < static_cast<int>(m_rows.size());
@@ -220,7 +220,8 @@ void VnQtEditLayerStateDlg::slot_TableCellClicked(int row, int column)
     }
 }
 
-/// The former current layer may have been removed from the state; its record is still there.
+/// Makes a layer the current one. The former current layer may have been removed from the state,
+/// but its record still exists.
 void VnQtEditLayerStateDlg::makeCurrent(int row)
 {
     if (row == m_currentRow)
@@ -253,7 +254,7 @@ void VnQtEditLayerStateDlg::toggle(int row, int column)
     showCell(row, column);
 }
 
-/// Copies of the drawing's layers that the table does not show.
+/// Copies of the records of the drawing's layers that the table does not show.
 VnJsonPtr VnQtEditLayerStateDlg::missingLayers() const
 {
     QSet<QString> shown;
@@ -294,7 +295,7 @@ void VnQtEditLayerStateDlg::add(const VnJsonPtr& chosen)
     }
     for (int i = 0, count = hostapi::count(chosen); i < count; ++i) {
         const VnJsonPtr layer = hostapi::item(chosen, i);
-        // The drawing's record reads the key the other way round.
+        // In the drawing's record this key has the opposite meaning.
         LayerRecord(layer).setCurrentOfState(false);
         hostapi::append(layers, layer);
     }
@@ -328,7 +329,7 @@ void VnQtEditLayerStateDlg::slot_DeleteLayerButtonClicked(bool)
     fill();
 }
 
-/// The element is looked up for each request: the command may replace it while it answers.
+/// The element is looked up for each request because the command may replace it while answering.
 void VnQtEditLayerStateDlg::slot_BtnOkClicked(bool)
 {
     if (!m_pendingDeletion.isEmpty())

@@ -29,7 +29,7 @@ QString referenceSpace()
 
 } // namespace
 
-/// A check box whose state is kept.
+/// A check box whose state is saved in the settings.
 struct VnQtUiDynLayerStateCmdImpl::SettingRow
 {
     const char* key;
@@ -103,7 +103,7 @@ VnJsonPtr VnQtUiDynLayerStateCmdImpl::states() const
 void VnQtUiDynLayerStateCmdImpl::fill()
 {
     {
-        // One change of the selection at the end instead of one a row.
+        // Signals are blocked so that the selection changes once at the end and not once per row.
         const QSignalBlocker quiet(m_table);
         m_table->setUpdatesEnabled(false);
         m_currentItem = nullptr;
@@ -117,7 +117,7 @@ void VnQtUiDynLayerStateCmdImpl::fill()
     slot_TableitemSelectionChanged();
 }
 
-/// Whatever the states say, the last one shown is selected.
+/// Shows the states and selects the last one, whatever the states say.
 void VnQtUiDynLayerStateCmdImpl::showStates(const VnJsonPtr& states)
 {
     const int count = hostapi::count(states);
@@ -148,7 +148,7 @@ void VnQtUiDynLayerStateCmdImpl::showState(int row, const VnJsonPtr& state)
     m_table->item(row, kSpaceColumn)->setData(Qt::UserRole, space);
 }
 
-/// In the order in which they were selected.
+/// The selected rows in the order in which they were selected.
 std::vector<int> VnQtUiDynLayerStateCmdImpl::selectedRows() const
 {
     std::vector<int> rows;

@@ -14,7 +14,7 @@
 #include <QCheckBox>
 #include <QTableWidget>
 
-/// What the buttons ask of the command.
+/// The requests that the buttons send to the command.
 namespace vnsi {
 
 using namespace layerstates;
@@ -56,7 +56,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_RestoreBtnBtnClicked(bool)
     const QString name = m_currentItem->text();
     const bool overrides = m_overrideBox->isEnabled() && m_overrideBox->isChecked();
     const auto arguments = [&](IElementValueBase& node) {
-        // The one is a number and the other a bool; commands rely on it.
+        // The first option is a number and the second a bool, because commands expect these types.
         Members(node)
             .set(statekey::kRestoredName, od(name))
             .set(statekey::kTurnsOthersOff, m_turnOffBox->isChecked() ? 1 : 0)
@@ -73,7 +73,7 @@ void VnQtUiDynLayerStateCmdImpl::slot_tableitDoubleClicked(QTableWidgetItem*)
     slot_RestoreBtnBtnClicked(false);
 }
 
-/// The request goes out on the very node that the dialog for a new state has written into.
+/// The request is sent on the very node that the dialog for a new state has written into.
 void VnQtUiDynLayerStateCmdImpl::slot_NewBtnClicked(bool)
 {
     const VnJsonPtr node = manager();

@@ -26,11 +26,11 @@ constexpr int kTransparencyStep = 10;
 constexpr int kFirstLineWidth = 6;
 constexpr int kFirstColor = 1;
 constexpr const char* kPlotStyles[] = {transkey::kNormalPlotStyle, "ByLayer", "ByBlock"};
-/// The lineweight picker's codes for the weight of a layer and of a block, and for the usual one.
+/// The lineweight picker's codes for ByLayer, ByBlock and default.
 constexpr int kWeightOfLayer = -1;
 constexpr int kWeightOfBlock = -2;
 constexpr int kUsualWeight = -3;
-/// Likewise, as colour indices.
+/// The colour indices of ByLayer and ByBlock.
 constexpr OdInt16 kColorsOfOthers[] = {256, 0};
 
 bool refuse(const QString& message)
@@ -47,7 +47,8 @@ void removeEntries(QComboBox& box, const QString& entry)
     }
 }
 
-/// Adds what the list lacks, so that what a record says is not lost by looking at it.
+/// Selects an entry and adds it when the list lacks it, so that showing a record does not change
+/// it.
 void showText(QComboBox& box, const QString& entry)
 {
     if (entry.isEmpty())
@@ -60,7 +61,7 @@ void showText(QComboBox& box, const QString& entry)
     box.setCurrentIndex(row);
 }
 
-/// The box shows the user's words and keeps the record's.
+/// Adds an entry that shows a translated text and stores the record's value.
 void addPlotStyle(QComboBox& box, const QString& style)
 {
     box.addItem(TargetRecord::plotStyleText(style), style);
@@ -75,7 +76,7 @@ void showPlotStyle(QComboBox& box, const QString& style)
     box.setCurrentIndex(box.findData(style, Qt::UserRole, Qt::MatchFixedString));
 }
 
-/// Shows the weight if it is offered. A picker tells the weight of the row that it shows alone.
+/// Selects the lineweight if the list has it. A picker only tells the weight of its selected row.
 bool showWeight(VnLineWidthComboBox& box, int weight)
 {
     const int before = box.currentIndex();
@@ -88,7 +89,7 @@ bool showWeight(VnLineWidthComboBox& box, int weight)
     return false;
 }
 
-/// By its weight, as pickers speak any language.
+/// Removes an entry by its weight, because the texts of pickers depend on the language.
 void removeWeight(VnLineWidthComboBox& box, int weight)
 {
     while (showWeight(box, weight))
@@ -103,7 +104,7 @@ void removeColor(VnColorComboBox& box, OdInt16 index)
         box.removeItem(row);
 }
 
-/// None for text that is no whole number from 0 to the most.
+/// Parses a whole number from 0 to the maximum; returns nothing for any other text.
 std::optional<int> transparencyOf(const QString& text)
 {
     const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
@@ -114,7 +115,7 @@ std::optional<int> transparencyOf(const QString& text)
     return value;
 }
 
-/// The colour as records hold it: red in the lowest byte.
+/// Converts the colour to the form in records, with red in the lowest byte.
 LayerColor packed(const OdCmColor& color)
 {
     if (color.colorMethod() == OdCmEntityColor::kByColor)
@@ -183,7 +184,7 @@ bool VnQtLaytransNewEditWgt::setData(VnJsonPtr data, OdRxObjectPtr invoker)
     return true;
 }
 
-/// A layer's own properties cannot be those of a layer or a block.
+/// Removes the entries ByLayer and ByBlock, which make no sense for the properties of a layer.
 void VnQtLaytransNewEditWgt::prepareCombos()
 {
     removeEntries(*m_linetype, QStringLiteral("ByLayer"));
@@ -198,7 +199,7 @@ void VnQtLaytransNewEditWgt::prepareCombos()
         m_color->setCurrentIndex(kFirstColor);
 
     m_transparency->setEditable(true);
-    m_transparency->setCompleter(nullptr); // A typed 5 is 5, not completed to 50.
+    m_transparency->setCompleter(nullptr); // Otherwise a typed 5 would be completed to 50.
     m_transparency->setInsertPolicy(QComboBox::NoInsert);
     m_transparency->clear();
     for (int value = 0; value <= kMostTransparent; value += kTransparencyStep)
@@ -215,7 +216,7 @@ void VnQtLaytransNewEditWgt::prepareCombos()
 void VnQtLaytransNewEditWgt::prefill(const TargetRecord& record)
 {
     m_name->setText(record.name());
-    m_name->selectAll(); // To be typed over.
+    m_name->selectAll(); // So that typing replaces it.
     showLinetype(record.linetype(), record.linetypeId());
     showLineWidth(record);
     m_transparency->setCurrentText(record.transparencyText());
@@ -223,7 +224,7 @@ void VnQtLaytransNewEditWgt::prefill(const TargetRecord& record)
     showColor(record.color());
 }
 
-/// Of several linetypes of one name the one that the record means.
+/// Selects the linetype with this id among those with the same name.
 void VnQtLaytransNewEditWgt::showLinetype(const QString& name, OdInt64 id)
 {
     showText(*m_linetype, name);
@@ -238,7 +239,8 @@ void VnQtLaytransNewEditWgt::showLinetype(const QString& name, OdInt64 id)
     m_linetype->setCurrentIndex(first);
 }
 
-/// By its text, else by its weight; a weight that cannot be chosen shows as the usual one.
+/// Selects the lineweight by its text, else by its value. A weight that is not offered is shown as
+/// default.
 void VnQtLaytransNewEditWgt::showLineWidth(const TargetRecord& record)
 {
     const int row = m_lineWidth->findText(record.lineWidthText());

@@ -47,7 +47,7 @@ QStringList textsIn(const VnJsonPtr& array)
     return texts;
 }
 
-/// Six options, none of them chosen.
+/// An array of the six options with none of them set.
 VnJsonPtr makeSettings()
 {
     VnJsonPtr settings = hostapi::makeArray(kTranslatorOptionCount);
@@ -236,7 +236,7 @@ void VnQtUiLaytransCmd::onListWidgeFromClickedItem(QListWidgetItem* item)
     onListWidgeFromClicked(m_fromList->row(item));
 }
 
-/// A row that became current by the keyboard's focus alone shows as the one that counts, too.
+/// A row that became current through keyboard focus alone is shown as the current one, too.
 void VnQtUiLaytransCmd::onListWidgeToClicked(int row)
 {
     if (row >= 0)
@@ -287,7 +287,7 @@ void VnQtUiLaytransCmd::slot_m_pbMapListSave()
     };
     const VnQtAnswer answer = ask(kTranslatorSave, arguments, {transkey::kSaveOutcome});
     setSaved(answer->GetDataI(transkey::kSaveOutcome) == 1);
-    // The dialog's own outcome goes by the same key.
+    // The dialog's own result uses the same key.
     answer.node()->SetDataB(transkey::kSaveOutcome, false);
 }
 
@@ -344,7 +344,7 @@ void VnQtUiLaytransCmd::slot_LtransBtnCancelClicked()
     close();
 }
 
-/// Despite its name the slot of the help button.
+/// Despite its name, this is the slot of the help button.
 void VnQtUiLaytransCmd::slot_LtransBtnApplyClicked()
 {
     vnqtShowHelp();
@@ -364,7 +364,7 @@ void VnQtUiLaytransCmd::slot_FromListMenuActionCleanlayer()
 {
     const VnJsonPtr layers =
         ask(kTranslatorPurge, {}, {transkey::kTheme})->GetDataJ(transkey::kTheme);
-    if (hostapi::count(layers) == 0) // A drawing has one layer at least.
+    if (hostapi::count(layers) == 0) // A drawing always has at least one layer.
         return;
     if (m_lists.setSources(layers))
         showChangedMappings();

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-// How the translator's window is built; what it does stands beside.
+// Builds the translator's window; its behaviour is implemented elsewhere.
 
 namespace vnsi {
 
@@ -35,11 +35,11 @@ struct VnQtUiLaytransCmd::ButtonRow
     QPushButton* VnQtUiLaytransCmd::*button;
     const char* objectName;
     const char* text;
-    const char* help; ///< Null for none.
+    const char* help; ///< Null for no tool tip.
     void (VnQtUiLaytransCmd::*slot)();
 };
 
-/// An entry of a context menu; a separator without a text.
+/// An entry of a context menu. An entry without a text is a separator.
 struct VnQtUiLaytransCmd::ActionRow
 {
     const char* text;
@@ -99,7 +99,7 @@ const VnQtUiLaytransCmd::ActionRow VnQtUiLaytransCmd::kToActions[] = {
     {QT_TR_NOOP("新建(&N)..."), &VnQtUiLaytransCmd::slot_ToListMenuActionNew},
 };
 
-// Two share the letter R, which is meant.
+// Two entries share the mnemonic R on purpose.
 const VnQtUiLaytransCmd::ActionRow VnQtUiLaytransCmd::kMapActions[] = {
     {QT_TR_NOOP("编辑(&E)..."), &VnQtUiLaytransCmd::slot_MenuMapListEdit},
     {QT_TR_NOOP("删除(&R)"), &VnQtUiLaytransCmd::slot_MenuMapListDelete},
@@ -160,7 +160,7 @@ void VnQtUiLaytransCmd::makeButtons()
         auto* button = new QPushButton(tr(row.text), this);
         button->setObjectName(QLatin1String(row.objectName));
         button->setToolTip(row.help ? tr(row.help) : QString());
-        button->setAutoDefault(false); // Enter in the filter must not translate.
+        button->setAutoDefault(false); // Enter in the filter must not start the translation.
         connect(button, &QPushButton::clicked, this, row.slot);
         this->*row.button = button;
     }
@@ -237,7 +237,7 @@ QBoxLayout* VnQtUiLaytransCmd::makeBottomRow()
     return row;
 }
 
-/// From group to group as the eye goes.
+/// Sets the tab order group by group as the window is read.
 void VnQtUiLaytransCmd::orderTabs()
 {
     QWidget* const order[] = {m_fromList, m_filterEdit, m_selectButton, m_mapButton,

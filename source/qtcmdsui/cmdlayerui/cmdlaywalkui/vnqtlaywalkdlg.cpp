@@ -54,7 +54,7 @@ constexpr char kCloseQuestion[] =
                                     "\n您可以通过选择\"退出时恢复\"选项保留以前的图层状态设置。");
 enum CloseAnswer { kNoAnswer = -1, kGoOn = 0 };
 
-constexpr int kLongestPattern = 1 << 24; // The names of all layers may become one.
+constexpr int kLongestPattern = 1 << 24; // Large enough for the names of all layers.
 
 bool asksToGoOn()
 {
@@ -102,8 +102,8 @@ QLayout* VnQtLayWalkDlg::makeFilterRow()
     m_filters->setObjectName(QStringLiteral("filterCombo"));
     m_filters->setToolTip(tr(kFilterHelp));
     m_filters->setEditable(true);
-    // Only the menu saves a pattern. Doubles are refused there; here ENTER would pick one in any
-    // letter case instead of what was typed.
+    // Only the menu saves a pattern, and it refuses duplicates. With duplicates disabled here,
+    // ENTER would select a saved pattern that differs in letter case from the typed one.
     m_filters->setInsertPolicy(QComboBox::NoInsert);
     m_filters->setDuplicatesEnabled(true);
     m_filters->setCompleter(nullptr);
@@ -124,7 +124,7 @@ QLayout* VnQtLayWalkDlg::makeButtonRow()
     const auto make = [this](const QString& text, const char* objectName) {
         auto* button = new QPushButton(text, this);
         button->setObjectName(QLatin1String(objectName));
-        button->setAutoDefault(false); // ENTER belongs to the filter.
+        button->setAutoDefault(false); // ENTER is meant for the filter.
         return button;
     };
     m_purge = make(tr("清除(&P)"), "purgeButton");
@@ -132,7 +132,7 @@ QLayout* VnQtLayWalkDlg::makeButtonRow()
     m_restore = new QCheckBox(tr("退出时恢复(&R)"), this);
     m_restore->setObjectName(QStringLiteral("restoreBox"));
     m_restore->setToolTip(tr(kRestoreHelp));
-    m_restore->setChecked(true); // A walk looks at a drawing; it is not meant to leave traces.
+    m_restore->setChecked(true); // A walk only looks at a drawing and should not change it.
     auto* close = make(tr("关闭(&C)"), "closeButton");
     auto* help = make(tr("帮助(&H)"), "helpButton");
 
@@ -163,8 +163,8 @@ void VnQtLayWalkDlg::connectWidgets()
     connect(m_filters, &QComboBox::editTextChanged, this, &Self::slot_FilterComboBoxTextChanged);
     QLineEdit* const edit = m_filters->lineEdit();
     connect(edit, &QLineEdit::returnPressed, this, &Self::slot_FilterComboBoxReturnPressed);
-    // By itself the combo box takes a saved pattern that is left standing in its edit line for a
-    // chosen entry as soon as the focus goes elsewhere, and once more when ENTER is pressed.
+    // Without this the combo box would treat a saved pattern in its edit line as a chosen entry
+    // whenever the focus leaves it, and a second time when ENTER is pressed.
     disconnect(edit, &QLineEdit::editingFinished, m_filters, nullptr);
     connect(edit, &QWidget::customContextMenuRequested, this, [this, edit](const QPoint& point) {
         updateActions();
@@ -191,7 +191,7 @@ QString VnQtLayWalkDlg::rowText(int index) const
            vnutOdStringToQString(m_layers.name(index));
 }
 
-/// One row for each layer that the filter lets through.
+/// Fills the list with one row for each layer that passes the filter.
 void VnQtLayWalkDlg::fill()
 {
     m_rows.clear();
@@ -253,8 +253,8 @@ void VnQtLayWalkDlg::slot_LayerListItemClicked(QListWidgetItem*)
     walk(oldCurrent);
 }
 
-/// It means the rows that its first click selected, though the command may have handed the layers
-/// back anew since, which selects all that are visible.
+/// A double click applies to the rows that its first click selected. The command may have returned
+/// new layers since then, which selects all visible ones.
 void VnQtLayWalkDlg::slot_LayerListItemDoubleClicked(QListWidgetItem* item)
 {
     if (m_list->clickedRows().size() == m_rows.size())
@@ -270,13 +270,13 @@ QString VnQtLayWalkDlg::pattern() const
     return m_filters->currentText();
 }
 
-/// A filter that is on stays so while another pattern is being typed.
+/// An active filter stays active while the user types another pattern.
 void VnQtLayWalkDlg::slot_FilterComboBoxTextChanged(const QString& text)
 {
     m_filterBox->setEnabled(!text.isEmpty());
 }
 
-/// Choosing or entering a pattern turns the filter on; without a pattern there is none.
+/// Choosing or entering a pattern turns the filter on; an empty pattern turns it off.
 void VnQtLayWalkDlg::slot_FilterComboBoxReturnPressed()
 {
     m_filterBox->setChecked(!pattern().isEmpty());
@@ -296,7 +296,7 @@ void VnQtLayWalkDlg::slot_FilterCheckBtnClicked()
 void VnQtLayWalkDlg::applyFilter()
 {
     m_filter.isOn = m_filterBox->isChecked();
-    m_list->setTexts({}); // Other rows come: no place in the list is worth keeping.
+    m_list->setTexts({}); // The rows are replaced, so no position in the list is worth keeping.
     if (!m_filter.isOn) {
         fillAndSelectVisible();
         apply();
@@ -350,7 +350,7 @@ void VnQtLayWalkDlg::saveSettings() const
     walksettings::save(settings);
 }
 
-/// No pattern, no filter.
+/// Clears the pattern and turns the filter off.
 void VnQtLayWalkDlg::resetFilter()
 {
     const QSignalBlocker quiet(m_filters);
