@@ -33,7 +33,8 @@
 namespace {
 
 constexpr int kNoticeMilliseconds = 15000;
-constexpr int kRestsToWait = 3; ///< After so many the user is told that something takes time.
+/// After this many breaks the user is told that the work takes longer.
+constexpr int kRestsToWait = 3;
 const char kDarkKey[] = "canvas/dark";
 
 QString fileFilter()
@@ -41,7 +42,7 @@ QString fileFilter()
     return MainWindow::tr("DXF 图形 (*.dxf *.DXF);;所有文件 (*)");
 }
 
-/// The first local file that is dragged; empty when there is none.
+/// The first local file among the dragged ones; empty when there is none.
 QString draggedFile(const QMimeData* data)
 {
     for (const QUrl& url : data->urls()) {
@@ -51,7 +52,7 @@ QString draggedFile(const QMimeData* data)
     return {};
 }
 
-/// A menu's title as running text: Chinese ones have the mnemonic in brackets behind them.
+/// A menu title as plain text. Chinese titles have their mnemonic in brackets at the end.
 QString withoutMnemonic(QString title)
 {
     static const QRegularExpression mark(QStringLiteral("\\(&.\\)|&|\\.\\.\\.$"));
@@ -60,14 +61,14 @@ QString withoutMnemonic(QString title)
 
 } // namespace
 
-/// What the window itself can do; the layer commands are a table of their own.
+/// The window's own actions; the layer commands have a separate table.
 struct MainWindow::ActionRow
 {
     enum Menu { File, Edit, View, Layers, Help };
 
     const char* name; ///< As typed into the command line; also the action's object name.
     const char* title;
-    const char* icon; ///< Null: not on the tool bar.
+    const char* icon; ///< Null for actions that are not on the tool bar.
     QKeySequence::StandardKey key;
     Menu menu;
     void (MainWindow::*slot)();
@@ -137,7 +138,7 @@ void MainWindow::createActions()
     const auto add = [&](QMenu* menu, const char* name, const QString& title, const char* icon) {
         auto* made = new QAction(title, this);
         made->setObjectName(QLatin1String(name));
-        // The name to type comes behind the title, whose mnemonic is the menu's alone.
+        // The name to type follows the title, whose mnemonic only makes sense in a menu.
         made->setToolTip(
             QStringLiteral("%1 (%2)").arg(withoutMnemonic(title), QLatin1String(name)));
         menu->addAction(made);
@@ -309,11 +310,11 @@ void MainWindow::showSpace(int layout)
     drawing::DrawingStep step(*drawing(), toModel ? tr("切换到模型空间") : tr("切换到布局"));
     if (toModel ? drawing()->setModelSpace(true) : drawing()->showLayout(layout))
         step.commit();
-    m_status->showLayers(drawing()); // Also where the space shown was chosen again.
+    m_status->showLayers(drawing()); // Needed even if the current space was chosen again.
     m_canvas->zoomToExtents();
 }
 
-/// From here on layers are changed in this viewport where a command asks for the current one.
+/// From now on, commands that need a current viewport change layers in this one.
 void MainWindow::enterViewport(int entity)
 {
     if (isBusy())
@@ -324,7 +325,7 @@ void MainWindow::enterViewport(int entity)
 
 void MainWindow::showLayers()
 {
-    // Undo and redo switch as well.
+    // Undo and redo may also switch the space.
     if (m_shownSpace != shownSpace()) {
         m_shownSpace = shownSpace();
         m_canvas->leaveViewport();
@@ -332,7 +333,7 @@ void MainWindow::showLayers()
         m_isNewScene = true;
         m_builder->restart();
     }
-    // A linetype may have been loaded since.
+    // A linetype may have been loaded meanwhile.
     m_canvas->setLinetypes(drawing::linetypePatterns(*drawing()));
     std::optional<drawing::Sheet> sheet = drawing()->sheet();
     m_canvas->setSheet(sheet ? std::make_shared<const drawing::Sheet>(std::move(*sheet)) : nullptr);
@@ -407,7 +408,7 @@ void MainWindow::runLayerCommand(const CommandRow& row, const std::vector<drawin
     endShowingOnly(context.selection);
 }
 
-/// From here on nothing else can be done to the drawing until `endEdit`.
+/// Nothing else can be done to the drawing until `endEdit`.
 void MainWindow::beginEdit()
 {
     m_commandRunning = true;
@@ -424,7 +425,7 @@ void MainWindow::endEdit()
     updateState();
 }
 
-/// Lets windows be painted while an edit takes long.
+/// Lets windows be painted during a long edit.
 void MainWindow::rest()
 {
     constexpr qint64 kRestMilliseconds = 20;
@@ -448,7 +449,7 @@ void MainWindow::showOnly(const std::vector<drawing::LayerId>& ids)
     m_canvas->setLayers(layers);
 }
 
-/// What was hidden meanwhile could not stay selected.
+/// Entities that were hidden meanwhile have lost their selection, which is restored here.
 void MainWindow::endShowingOnly(const std::vector<int>& selection)
 {
     if (!std::exchange(m_showsOnly, false))
@@ -566,7 +567,7 @@ void MainWindow::toggleLineweights()
     updateState();
 }
 
-/// F1 goes the same way, at the page of the part of the window that has the focus.
+/// F1 does the same, but opens the page about the focused part of the window.
 void MainWindow::help()
 {
     host::hostFrontEnd().help(0);
@@ -606,7 +607,7 @@ void MainWindow::updateState()
         action(row.name)->setEnabled(idle);
     m_panel->setBusy(!idle);
     if (m_session->isBusy())
-        return; // The saving thread has the drawing to itself; this runs again when it is done.
+        return; // The saving thread uses the drawing alone; this runs again when it is done.
     QString file = drawing() ? QFileInfo(drawing()->path()).fileName() : tr("无图形");
     if (drawing() && drawing()->isIncomplete())
         file = tr("%1（不完整）").arg(file);

@@ -19,11 +19,11 @@
 
 namespace {
 
-/// So many vertices are painted in less time than a frame takes.
+/// This many vertices can be painted within the time of one frame.
 constexpr std::size_t kCheapVertices = 20000;
-/// Beyond this many vertices smooth lines cost more than they show.
+/// With more vertices than this, antialiasing costs more than it is worth.
 constexpr std::size_t kSmoothVertices = 400000;
-constexpr double kReachPixels = 4; ///< How far from a line a click still hits it.
+constexpr double kReachPixels = 4; ///< The distance in pixels at which a click still hits a line.
 
 } // namespace
 
@@ -190,7 +190,7 @@ void Canvas::drawCurrentViewport(QPainter& painter) const
     }
 }
 
-/// The viewport on top there; -1 where the sheet is bare.
+/// The topmost viewport at this pixel; -1 when there is none.
 int Canvas::viewportAt(const QPoint& pixel) const
 {
     int found = -1;
@@ -244,7 +244,7 @@ void Canvas::pick(const QPoint& from, const QPoint& to, bool adds)
         return;
     }
     std::vector<int> all;
-    // What is clicked a second time goes.
+    // Clicking an entity again removes it from the selection.
     if (m_windowing)
         std::set_union(m_selection.begin(), m_selection.end(), found.begin(), found.end(),
             std::back_inserter(all));
@@ -343,7 +343,7 @@ void Canvas::keyPressEvent(QKeyEvent* event)
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (m_picking && isEnter)
         return endPick(true);
-    // While a window is drawn Esc only drops the window.
+    // While a window is being drawn, Esc only cancels the window.
     if (m_picking && event->key() == Qt::Key_Escape && !m_pressed)
         return endPick(false);
     if (event->key() != Qt::Key_Escape)

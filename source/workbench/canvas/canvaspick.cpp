@@ -25,8 +25,8 @@ double distance(const QPointF& at, const QPointF& from, const QPointF& to)
     return std::hypot(gap.x(), gap.y());
 }
 
-/// Calls `visit(from, to)` for each line of a primitive until that returns true; a vertex that
-/// stands alone is a line to itself. A fill's parts are closed.
+/// Calls `visit(from, to)` for each line of a primitive until it returns true. A single vertex
+/// counts as a line to itself. The parts of a fill are closed.
 template <class Visit>
 bool anyLine(const GeometryGroup& group, const Primitive& primitive, Visit visit)
 {
@@ -49,7 +49,7 @@ bool anyLine(const GeometryGroup& group, const Primitive& primitive, Visit visit
     return false;
 }
 
-/// By the even-odd rule.
+/// Whether a fill covers a point, by the even-odd rule.
 bool isFilledAt(const GeometryGroup& group, const Primitive& primitive, const QPointF& at)
 {
     bool inside = false;
@@ -63,7 +63,7 @@ bool isFilledAt(const GeometryGroup& group, const Primitive& primitive, const QP
     return inside;
 }
 
-/// Whether a line has a point in the box: what the box's sides leave of it is not empty.
+/// Whether a line crosses the box: clipping it at the box's sides leaves something.
 bool reachesInto(const Box& box, const QPointF& from, const QPointF& to)
 {
     double low = 0;
@@ -125,7 +125,7 @@ Box around(const QPointF& at, double reach)
 
 QPolygonF textOutline(const TextRun& run)
 {
-    // By the order of TextRun::Vertical.
+    // In the order of TextRun::Vertical.
     constexpr double kBottoms[] = {0, 0, -0.5, -1};
     const double width = run.fitWidth > 0 ? run.fitWidth : drawing::textWidth(run.text);
     const QPointF along = run.right * width;
@@ -134,7 +134,7 @@ QPolygonF textOutline(const TextRun& run)
     return QPolygonF({corner, corner + along, corner + along + run.up, corner + run.up, corner});
 }
 
-/// The best so far: lines before surfaces, then the nearer, then the later.
+/// The best hit so far. Lines are preferred to surfaces, then nearer ones, then later ones.
 struct CanvasPick::Hit
 {
     int entity = -1;
@@ -204,7 +204,7 @@ std::vector<int> CanvasPick::within(const Box& box, Mode mode) const
         });
     if (mode == Mode::Crossing)
         return found.entities();
-    EntitySet out; // Those that show something outside as well.
+    EntitySet out; // Entities that also show something outside of the box.
     m_scene.forEachGroup([&](const ShownScene::Group& group) {
         for (const Primitive& primitive : group.geometry.primitives) {
             if (found.contains(primitive.entity) && !isInside(primitive.bounds, box))

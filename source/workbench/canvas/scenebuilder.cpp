@@ -20,14 +20,14 @@ using drawing::GeometryRoom;
 
 namespace {
 
-/// Long enough that reading what blocks hold is done few times, short enough that an edit of one
-/// entity is shown within a frame or two.
+/// Large enough that block contents are read only a few times, and small enough that an edit of one
+/// entity is visible within a frame or two.
 constexpr std::size_t kPartLength = 32768;
-/// Drawings with no more than this are flattened at once.
+/// Drawings up to this size are flattened immediately.
 constexpr std::size_t kEntitiesAtOnce = 5000;
 constexpr GeometryAmount kRoomAtOnce{100000, 10000, 2000};
 constexpr int kPublishMilliseconds = 100;
-/// Posted by a thread that has finished a part.
+/// The event that a thread posts when it has finished a part.
 constexpr auto kPartBuilt = static_cast<QEvent::Type>(QEvent::User + 1);
 
 GeometryPart partOf(Geometry geometry)
@@ -51,7 +51,7 @@ GeometryAmount roomBeside(const std::vector<GeometryPart>& parts)
 
 } // namespace
 
-/// What the threads of one build share. They read the drawing until it is cancelled.
+/// Data shared by the threads of one build. They read the drawing until the build is cancelled.
 struct SceneBuilder::Build
 {
     Build(const drawing::GeometrySource& drawn, const GeometryAmount& amount)
@@ -63,10 +63,10 @@ struct SceneBuilder::Build
     const drawing::GeometrySource source;
     GeometryRoom room;
     drawing::Progress progress;
-    std::vector<std::pair<std::size_t, EntityRange>> parts; ///< To be built.
+    std::vector<std::pair<std::size_t, EntityRange>> parts; ///< The parts to build.
     std::atomic<std::size_t> next{0};
     std::mutex mutex;
-    std::vector<std::pair<std::size_t, GeometryPart>> done; ///< Guarded by the mutex.
+    std::vector<std::pair<std::size_t, GeometryPart>> done; ///< Protected by the mutex.
 };
 
 SceneBuilder::SceneBuilder(QObject* parent) : QObject(parent)
@@ -123,7 +123,7 @@ void SceneBuilder::rebuild(const std::vector<int>& entities)
         const int block = m_drawing->entities()[static_cast<std::size_t>(entity)].block;
         return block >= 0 && !m_drawing->blocks()[static_cast<std::size_t>(block)].layout;
     };
-    // What stands in a definition may show anywhere.
+    // A change inside a block definition may be visible in any part.
     std::vector<bool> isStale(
         m_ranges.size(), std::any_of(entities.begin(), entities.end(), isInDefinition));
     for (const std::size_t part : m_stale)
@@ -139,7 +139,7 @@ void SceneBuilder::rebuild(const std::vector<int>& entities)
     resume();
 }
 
-/// Returns when no thread reads the drawing any more.
+/// Cancels the build and waits until no thread reads the drawing any more.
 void SceneBuilder::stop()
 {
     if (!m_build)
@@ -171,7 +171,7 @@ void SceneBuilder::resume()
         m_crew.start([this, build = m_build] { work(*build); });
 }
 
-/// On a thread of the pool: takes part after part until there is none left.
+/// Runs on a thread of the pool and builds part after part until none is left.
 void SceneBuilder::work(Build& build)
 {
     GeometryBuilder builder(build.source, build.room, &build.progress);
@@ -197,7 +197,7 @@ bool SceneBuilder::event(QEvent* event)
     return true;
 }
 
-/// Flattens a small drawing; false when it turns out to be a large one.
+/// Flattens a small drawing. Returns false when the drawing turns out to be large.
 bool SceneBuilder::buildAtOnce()
 {
     if (m_drawing->entities().size() > kEntitiesAtOnce)
@@ -216,7 +216,7 @@ bool SceneBuilder::buildAtOnce()
     return true;
 }
 
-/// Takes over what the threads have finished.
+/// Takes over the parts that the threads have finished.
 void SceneBuilder::collect()
 {
     if (!m_build)
@@ -234,7 +234,7 @@ void SceneBuilder::collect()
         m_publish.start();
     if (!m_stale.empty() || m_build->progress.cancelled)
         return;
-    m_crew.waitForDone(); // One may only now be finding that nothing is left to do.
+    m_crew.waitForDone(); // A thread may still be finding out that no part is left.
     m_build.reset();
     finish();
 }

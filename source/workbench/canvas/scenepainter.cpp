@@ -16,15 +16,17 @@ using drawing::TextRun;
 
 namespace {
 
-constexpr int kOutlinePixels = 64;      ///< Size texts are outlined at; they are scaled from there.
-constexpr int kMaxOutlines = 50000;     ///< Kept at most; more different texts start afresh.
-constexpr double kReadablePixels = 2.5; ///< Lower texts are drawn as a bar.
+constexpr int kOutlinePixels = 64; ///< The size at which texts are outlined before they are scaled.
+constexpr int kMaxOutlines = 50000;     ///< The cache is cleared when it exceeds this number.
+constexpr double kReadablePixels = 2.5; ///< Texts of less height are drawn as bars.
 constexpr double kTinyPixels = 0.8;
 constexpr int kBatch = 8192;
-constexpr double kHairline = 1.3;     ///< Lines thinner than these pixels are as thin as can be.
-constexpr int kHundredths = 100;      ///< Of a millimetre, in which lineweights are stated.
-constexpr double kMarginPixels = 100; ///< Around the view, where dashes are still cut.
-constexpr int kPenMargin = 16;        ///< Pixels that lines reach beyond their vertices at most.
+constexpr double kHairline = 1.3; ///< Thinner lines, in pixels, are drawn as thin as possible.
+constexpr int kHundredths = 100;  ///< Lineweights are stored in hundredths of a millimetre.
+/// The margin around the view in which dashes are still calculated.
+constexpr double kMarginPixels = 100;
+/// The maximum number of pixels by which lines extend beyond their vertices.
+constexpr int kPenMargin = 16;
 
 QPen hairline(const QColor& color)
 {
@@ -51,7 +53,7 @@ void ScenePainter::paint(QPainter& painter, const ShownScene& scene, const Canva
     const PlaneMap map(view);
     const double lineweightScale = m_lineweightScale;
     if (const drawing::Sheet* sheet = scene.scene().sheet.get()) {
-        // Of a sheet the millimetres are known.
+        // On a sheet the size of a millimetre is known.
         if (m_lineweightScale > 0)
             m_lineweightScale = sheet->unitsPerMillimetre * view.scale();
         paintPaper(*sheet, map);
@@ -104,7 +106,7 @@ void ScenePainter::paintSpace(const ShownScene& scene, const Space& space, const
         m_map.boxAround(area.marginsAdded({kPenMargin, kPenMargin, kPenMargin, kPenMargin}));
     m_dasher.setSeen(
         QRectF(area).adjusted(-kMarginPixels, -kMarginPixels, kMarginPixels, kMarginPixels));
-    if (scene.partCount() > 0) { // All parts say the same.
+    if (scene.partCount() > 0) { // All parts have the same switches.
         const drawing::PictureSwitches& switches = scene.scene().parts.front()->switches;
         m_mark.emplace(switches, m_map.scale(), space.height);
         m_linetypeScale = switches.linetypeScale * space.dashScale;
@@ -123,10 +125,10 @@ void ScenePainter::paintSpace(const ShownScene& scene, const Space& space, const
     paintRange(scene);
 }
 
-/// What covers others here, in the order of drawing.
+/// The masks in view, in drawing order.
 std::vector<ScenePainter::Mask> ScenePainter::masksOf(const ShownScene& scene) const
 {
-    constexpr std::size_t kMost = 256; ///< More of them would take too long to be told apart.
+    constexpr std::size_t kMost = 256; ///< Distinguishing more of them would take too long.
     std::vector<Mask> masks;
     scene.forEachGroup([&](const ShownScene::Group& group) {
         if (!group.geometry.hasMasks || !isSeen(group.geometry.bounds))
@@ -228,7 +230,7 @@ QPen ScenePainter::penOf(const GroupLook& look) const
         return pen;
     pen.setWidthF(pixels);
     pen.setJoinStyle(Qt::RoundJoin);
-    // Round ends would fill the gaps of a linetype.
+    // Round caps would fill the gaps of a linetype.
     pen.setCapStyle(look.linetype ? Qt::FlatCap : Qt::RoundCap);
     return pen;
 }
@@ -264,10 +266,10 @@ void ScenePainter::paintLine(const GeometryGroup& group, const Primitive& primit
         flush();
 }
 
-/// Makes room to note where there are dots.
+/// Prepares the table of pixels that already have a dot.
 void ScenePainter::beginDots(const QRect& area, qreal pixelRatio)
 {
-    constexpr int kReach = 2; // Of a dot beyond its pixel.
+    constexpr int kReach = 2; // The pixels that a dot extends beyond its own.
     const QRect around = area.adjusted(-kReach, -kReach, kReach, kReach);
     m_pixelRatio = pixelRatio;
     m_dotsFrom = around.topLeft();
@@ -278,7 +280,7 @@ void ScenePainter::beginDots(const QRect& area, qreal pixelRatio)
     m_dotsOfGroup = 0;
 }
 
-/// What is smaller than a pixel is a dot, and one for each pixel and group is enough.
+/// Draws something smaller than a pixel as a dot. One dot per pixel and group is enough.
 void ScenePainter::addTiny(const QPointF& at)
 {
     const QPointF pixel = (at - m_dotsFrom) * m_pixelRatio;
@@ -326,7 +328,7 @@ void ScenePainter::addLines(const GeometryGroup& group, const Primitive& primiti
         }
         const QPointF pixel = m_map.toPixel(*vertex);
         const bool last = vertex + 1 == end || std::isnan(vertex[1].x());
-        // A vertex less than a pixel on adds nothing that could be seen.
+        // A vertex less than a pixel away from the last one makes no visible difference.
         const bool near = !m_part.isEmpty() && std::abs(pixel.x() - m_part.last().x()) < 1 &&
                           std::abs(pixel.y() - m_part.last().y()) < 1;
         if (!near || last)
@@ -364,7 +366,7 @@ void ScenePainter::flush()
     m_dasher.dots.resize(0);
 }
 
-/// What the linetypes write along the lines.
+/// Draws the texts of linetypes along the lines.
 void ScenePainter::paintLetters(const QColor& color)
 {
     if (m_dasher.letters.empty())
@@ -414,7 +416,7 @@ void ScenePainter::paintText(const TextRun& run, bool asBar)
         return;
     const double stretch = run.fitWidth > 0 ? run.fitWidth * m_capHeight / outline.width : 1;
     const double x = -outline.width * static_cast<double>(run.horizontal) / 2;
-    // By the order of TextRun::Vertical; outlines have y downwards.
+    // In the order of TextRun::Vertical; y of the outlines points downwards.
     const double y[] = {0, -m_descent, m_capHeight / 2, m_capHeight};
     const QPointF right = m_map.ofDirection(run.right) * (stretch / m_capHeight);
     const QPointF down = m_map.ofDirection(run.up) * (-1 / m_capHeight);

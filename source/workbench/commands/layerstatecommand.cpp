@@ -76,7 +76,7 @@ int maskIn(const VnJsonPtr& node)
 
 } // namespace
 
-/// What answers a request: by the element it is on and its code.
+/// The handler of a request, identified by the element that it is sent on and its code.
 struct LayerStateCommand::RequestRow
 {
     int element;
@@ -151,7 +151,7 @@ void LayerStateCommand::showStates(const std::vector<LayerState>& states)
     m_manager->SetDataSW(key::kCurrent, od(current.isEmpty() ? Texts::tr("*未保存*") : current));
 }
 
-/// The state that a request names. One that is gone is told.
+/// The state that a request names. When it no longer exists, the user is told.
 std::optional<LayerState> LayerStateCommand::named(const VnJsonPtr& node, const char* key)
 {
     const QString name = text(node, key);
@@ -163,7 +163,7 @@ std::optional<LayerState> LayerStateCommand::named(const VnJsonPtr& node, const 
     return state;
 }
 
-/// Closes the step of a request that was carried out; takes back what one that was refused did.
+/// Commits the step of a successful request, or rolls back the step of a refused one.
 bool LayerStateCommand::done(const drawing::Expected<void>& outcome)
 {
     if (outcome) {
@@ -285,7 +285,7 @@ void LayerStateCommand::restore(const VnJsonPtr& node)
     node->SetDataB(key::kRestoreCloses, true);
 }
 
-/// What the canvas does not show.
+/// Tells the user that overrides were applied to the viewport.
 void LayerStateCommand::tellOfOverrides(const LayerState& state)
 {
     if (!drawing().checkViewport())
@@ -315,7 +315,8 @@ void LayerStateCommand::importStates(const VnJsonPtr& node)
     node->SetDataB(key::kImportRestores, offersRestore(chosen));
 }
 
-/// The dialog restores the state listed last.
+/// Whether the user wants to restore the imported state that is last in the list, which is the one
+/// that the dialog restores.
 bool LayerStateCommand::offersRestore(const std::vector<LayerState>& imported)
 {
     const QString last = drawing().layerStateNames().constLast();

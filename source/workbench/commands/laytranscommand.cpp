@@ -30,7 +30,8 @@ using namespace vnsi::transkey;
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaytrans";
 constexpr wchar_t kSettingsDialog[] = L"Dialog/CmdLaytransSetting";
-/// Endings of a format that is not written here: programs would take the file for damaged.
+/// Extensions of another format, which this program cannot write. Other programs would regard such
+/// a file as damaged.
 constexpr const char* kOtherFormats[] = {"dwg", "dws", "dwt"};
 
 QString text(const VnJsonPtr& node, const char* key)
@@ -43,7 +44,7 @@ QString shown(const QString& path)
     return QDir::toNativeSeparators(path);
 }
 
-/// The drawing's path without its ending, as which a standards file is proposed.
+/// The drawing's path without extension, which is suggested for a standards file.
 OdString proposedName(const drawing::Drawing& drawing)
 {
     const QFileInfo file(drawing.path());
@@ -56,7 +57,7 @@ VnJsonPtr keptSettings()
     return config ? config->GetDataJ(kConfigSettings) : VnJsonPtr();
 }
 
-/// The layers that are selected in the translator: one under a key of its own, or several.
+/// The names selected in the translator. A single name and several names have different keys.
 QStringList selectedNames(const VnJsonPtr& tree)
 {
     const VnJsonPtr several = tree->GetDataJ(kSelectedNames);
@@ -68,7 +69,7 @@ QStringList selectedNames(const VnJsonPtr& tree)
 
 } // namespace
 
-/// What answers a request, by its code.
+/// The handler of a request, identified by the request code.
 struct LayerTranslateCommand::RequestRow
 {
     int code;
@@ -116,7 +117,8 @@ void LayerTranslateCommand::tellProblems(const QString& title)
     layermarks::report(*m_context, title, m_problems);
 }
 
-/// A name for mappings that were to be saved as `file`; the drawing's own is no such name.
+/// Suggests a name for mappings that were to be saved as `file`. It must differ from the drawing's
+/// own.
 QString LayerTranslateCommand::offeredName(const QFileInfo& file) const
 {
     const QString base = file.completeBaseName();
@@ -205,7 +207,7 @@ void LayerTranslateCommand::loadFile(const QString& path, const VnJsonPtr& mappi
     m_problems += standard->notices;
 }
 
-/// A layer that is in the list already stays as it is there.
+/// Adds targets to the list. A layer that is already in the list stays unchanged.
 void LayerTranslateCommand::addTargets(const std::vector<TargetLayer>& targets, const QString& path)
 {
     QSet<QString> known;
@@ -313,7 +315,7 @@ void LayerTranslateCommand::translate(const VnJsonPtr& tree)
     if (options.writeLog)
         writeLog(*translated, options);
     report(*translated);
-    // With nothing translated the user can put the mappings right and try again.
+    // If nothing was translated, the dialog stays open so that the user can correct the mappings.
     tree->SetDataB(kCloses, translated->appliedCount() > 0);
     if (!tree->GetDataB(kIsSaved))
         say(Texts::tr("这些图层映射没有保存到标准文件。"));

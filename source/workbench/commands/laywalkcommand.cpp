@@ -36,7 +36,7 @@ const layerrecords::Provider& records()
     return provider;
 }
 
-/// The records of the layer tree that a request carries.
+/// The layer records in the tree that a request carries.
 VnJsonPtr recordsOf(const VnJsonPtr& root)
 {
     const VnJsonPtr layers = root->GetDataJ(vnsi::requestkey::kParameter);
@@ -54,9 +54,9 @@ QStringList namesToPurge(const VnJsonPtr& root)
     return names;
 }
 
-/// How well a layer of the walk stands for what the user clicked, and may become current therefore:
-/// best if it was just turned on, then if it is current, least if it is pinned and so shown anyway.
-/// 0 where it cannot be drawn on.
+/// Ranks a layer as a candidate for the current layer after a click. A layer that was just turned
+/// on ranks highest, then the current one, then a pinned one, which is visible anyway. 0 means that
+/// the layer cannot be drawn on.
 int claimToBeCurrent(const LayerRecord& record, const Layer& layer, bool wasOff, bool isCurrent)
 {
     if (layer.properties.off || layer.properties.frozen || layer.dependsOnReference)
@@ -70,12 +70,12 @@ int claimToBeCurrent(const LayerRecord& record, const Layer& layer, bool wasOff,
 
 } // namespace
 
-/// What answers a request.
+/// The handler of a request.
 struct LayerWalkCommand::RequestRow
 {
     int code;
     void (LayerWalkCommand::*answer)(const VnJsonPtr& root);
-    const char* failure; ///< Above what could not be done.
+    const char* failure; ///< The heading above what could not be done.
 };
 
 const LayerWalkCommand::RequestRow LayerWalkCommand::kRequests[] = {
@@ -100,8 +100,8 @@ void LayerWalkCommand::run(CommandContext& context)
         walkdialog::kService, walkdialog::kWalk, tree, invoker, context.parent);
 }
 
-/// The walk is about what is seen now: it takes a layer for hidden that is frozen in the viewport
-/// shown, and new viewports do not matter to it.
+/// The records for the walk, which is about what is visible: a layer frozen in the current viewport
+/// counts as hidden, and freezing in new viewports is irrelevant.
 VnJsonPtr LayerWalkCommand::makeLayers()
 {
     VnJsonPtr layers = records().tree(drawing());
@@ -113,7 +113,7 @@ VnJsonPtr LayerWalkCommand::makeLayers()
     return layers;
 }
 
-/// Hands the layers back as they are in the drawing now; what the user pinned stays pinned.
+/// Returns the layers as they are in the drawing now. Layers that the user pinned stay pinned.
 void LayerWalkCommand::handBack(const VnJsonPtr& root)
 {
     QSet<int> pinned;
@@ -176,7 +176,7 @@ void LayerWalkCommand::apply(const VnJsonPtr& root)
         const LayerId id = layerrecords::idOf(record.node());
         const Layer* layer = drawing().layer(id);
         if (!layer)
-            continue; // Purged since.
+            continue; // It was purged meanwhile.
         const bool wasOff = layer->properties.off;
         setOff(*layer, record.isOff());
         if (record.number(key::kStatus, vnsi::kLayerOrdinary) == vnsi::kLayerCurrent)
@@ -191,7 +191,7 @@ void LayerWalkCommand::apply(const VnJsonPtr& root)
     makeCurrent(root, current, clicked);
     if (!m_problems.isEmpty())
         handBack(root);
-    // Layers that had no record of their own have one now; taking the step back leaves nothing.
+    // Layers without records may have got one; rolling back removes it again.
     if (isAsBefore())
         m_context->step->takeBack();
     m_context->refresh();
@@ -206,8 +206,9 @@ void LayerWalkCommand::setOff(const Layer& layer, bool off)
     note(drawing().setLayerProperties(layer.id, properties));
 }
 
-/// The current layer follows the clicks that hide it, so that nobody draws on what is hidden, and
-/// is the old one again as soon as that is shown.
+/// Keeps the current layer visible, so that nobody draws on a hidden layer. When a click hides the
+/// current layer, the clicked layer becomes current; when the old one is shown again, it becomes
+/// current again.
 void LayerWalkCommand::makeCurrent(const VnJsonPtr& root, LayerId current, LayerId clicked)
 {
     const bool isClick = host::hasKey(root, walkkey::kOldCurrent);

@@ -17,7 +17,7 @@ using vnsi::LayerColor;
 using vnsi::LayerRecord;
 using vnsi::VnJsonPtr;
 
-/// A member of a record: how it is written and, where dialogs change it, read back.
+/// A member of a record: how it is written and, if dialogs can change it, how it is read back.
 struct Field
 {
     const char* key;
@@ -27,7 +27,7 @@ struct Field
 
 namespace {
 
-/// The command's own key, which dialogs carry along.
+/// The workbench's own key, which dialogs keep in the record.
 constexpr char kId[] = "LayerId";
 
 void put(LayerRecord& record, const char* key, bool value)
@@ -125,7 +125,7 @@ constexpr Field kFields[] = {
     property<&LayerProperties::linetype>(key::kLinetype),
     property<&LayerProperties::lineweight>(key::kLineWidth),
     property<&LayerProperties::transparency>(key::kTransparency),
-    // Shown only: no dialog of layers changes it.
+    // Only shown; no layer dialog changes it.
     {key::kPlotStyle, &writeProperty<&LayerProperties::plotStyle>},
     property<&LayerProperties::plotted>(key::kPrint),
     property<&LayerProperties::frozenInNewViewports>(key::kVPortFrozen),

@@ -16,11 +16,12 @@ using drawing::LayerId;
 
 namespace {
 
-/// Filters that every drawing has. No record has handles as small as their places here.
+/// A filter that every drawing has. In place of a record's handle it is identified by
+/// `kPlainRecord` plus its index.
 struct PlainFilter
 {
     const char* name;
-    bool (*passes)(const LayerRow& row); ///< Null: all.
+    bool (*passes)(const LayerRow& row); ///< Null lets all layers pass.
 };
 
 bool isUsed(const LayerRow& row)
@@ -44,7 +45,7 @@ constexpr PlainFilter kPlain[] = {
     {QT_TRANSLATE_NOOP("FilterPane", "未使用的图层"), isUnused},
     {QT_TRANSLATE_NOOP("FilterPane", "外部参照的图层"), isOfReference},
 };
-/// Above all handles.
+/// The highest bit, which no handle of a record uses.
 constexpr quint64 kPlainRecord = quint64(1) << 63;
 
 bool isPlain(quint64 record)
@@ -52,7 +53,7 @@ bool isPlain(quint64 record)
     return (record & kPlainRecord) != 0;
 }
 
-/// What is typed to search, as a pattern for whole names.
+/// The pattern for whole names that corresponds to a typed search.
 QString patternOf(const QString& typed)
 {
     const QString text = typed.trimmed();
@@ -89,7 +90,7 @@ FilterPane::FilterPane(LayerEditor* editor, QWidget* parent)
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &FilterPane::choose);
     connect(m_tree, &QWidget::customContextMenuRequested, this, &FilterPane::showMenu);
     connect(m_tree, &FilterTree::layersDropped, this, &FilterPane::drop);
-    // Queued: the tree is filled anew while its editor is closing.
+    // Queued, because the tree is filled again and its editor must close first.
     connect(m_tree, &FilterTree::renamed, this, &FilterPane::rename, Qt::QueuedConnection);
     connect(m_expression, &QLineEdit::editingFinished, this, &FilterPane::setExpression);
 }
@@ -137,7 +138,7 @@ void FilterPane::fill()
     m_tree->show(entries);
 }
 
-/// A filter inside another one narrows it; a group has what it lists.
+/// A nested filter restricts its parent. A group consists of the layers that it lists.
 LayerTest FilterPane::testOf(const Filter& filter) const
 {
     if (filter.kind == Filter::Kind::Group) {
@@ -189,7 +190,7 @@ void FilterPane::showMenu(const QPoint& at)
     menu.exec(m_tree->viewport()->mapToGlobal(at));
 }
 
-/// Inside the filter chosen, if one of the drawing's is.
+/// Adds a filter inside the selected one, if that belongs to the drawing.
 void FilterPane::add(Filter::Kind kind, const std::vector<LayerId>& layers)
 {
     const Filter* const around = find(m_tree->chosen());
@@ -235,10 +236,10 @@ void FilterPane::rename(quint64 record, const QString& name)
     filter.name = name.trimmed();
     change(tr("重命名图层过滤器"), filter);
     if (const Filter* const after = find(record); after && after->name != filter.name)
-        fill(); // It was refused.
+        fill(); // The new name was refused.
 }
 
-/// Text that cannot be understood is not taken over from here.
+/// An expression that cannot be understood is not applied.
 void FilterPane::setExpression()
 {
     const Filter* const known = find(m_tree->chosen());

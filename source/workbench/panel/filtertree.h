@@ -4,8 +4,8 @@
 
 #include <QTreeWidget>
 
-/// Shows filters. They are identified by the handles of their records; the built-in ones have small
-/// numbers.
+/// Shows filters. They are identified by the handles of their records; built-in filters have
+/// numbers above all handles.
 class FilterTree : public QTreeWidget
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ using drawing::LayerProperties;
 namespace {
 
 constexpr int kMostTransparency = drawing::kMostTransparent;
-constexpr qint64 kTrueColors = 1 << 16; // Sorted behind the index colours.
+constexpr qint64 kTrueColors = 1 << 16; // True colours are sorted after index colours.
 
 QString translated(const char* text)
 {
@@ -105,7 +105,7 @@ bool setText(const QString& text, LayerProperties& properties)
     return true;
 }
 
-/// The flag's own words, or what tables hold for yes and no.
+/// Sets a flag from its own words or from the usual words for yes and no in tables.
 template <int Column, auto Member, bool IsReversed = false>
 bool setFlag(const QString& text, LayerProperties& properties)
 {
@@ -150,7 +150,7 @@ bool setLineweight(const QString& text, LayerProperties& properties)
         const QString millimetres = QString::number(weight / 100.0, 'f', 2);
         const bool isMeant = text.compare(host::lineweightText(weight), Qt::CaseInsensitive) == 0 ||
                              (weight >= 0 && text == millimetres);
-        if (!isMeant || weight == -1 || weight == -2) // A layer has nothing to take it from.
+        if (!isMeant || weight == -1 || weight == -2) // A layer cannot be ByLayer or ByBlock.
             continue;
         properties.lineweight = weight;
         return true;

@@ -11,9 +11,9 @@
 
 namespace {
 
-/// The window is held up no longer than this by a search.
+/// The longest time for which a search may block the window.
 constexpr qint64 kSliceMilliseconds = 12;
-/// So many layers are looked at before the clock is.
+/// The number of layers that are tested between two looks at the clock.
 constexpr size_t kGulp = 16;
 
 } // namespace
@@ -47,7 +47,7 @@ void LayerModel::setFilter(const LayerTest& test)
     startScan();
 }
 
-/// What is gone through in one slice is there at once.
+/// Starts a search. If it fits into one slice, the result is ready immediately.
 void LayerModel::startScan()
 {
     m_scanned = 0;
@@ -96,7 +96,7 @@ void LayerModel::publish()
         emit settled();
 }
 
-/// Rows stand for places in the snapshot, so that other layers are other rows.
+/// Takes a new snapshot. Rows are positions in the snapshot, so they may have to be replaced.
 void LayerModel::follow()
 {
     LayerSnapshot now(m_drawing);

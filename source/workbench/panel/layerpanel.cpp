@@ -33,7 +33,7 @@ constexpr int kTableWidth = 420;
 const char kSplitterKey[] = "panel/splitter";
 const char kIsolateByLockKey[] = "panel/isolateByLock";
 
-/// The commands in the menu of the table, by their names; null for a line between them.
+/// The names of the commands in the menu of the table; null for a separator.
 constexpr const char* kMenuCommands[] = {"LAYMCUR", nullptr, "LAYISO", "LAYUNISO", nullptr,
     "LAYOFF", "LAYON", "LAYFRZ", "LAYTHW", "LAYLCK", "LAYULK", nullptr, "LAYERP"};
 
@@ -147,7 +147,7 @@ void LayerPanel::showCounts()
     m_counts->setText(m_fault.isEmpty() ? text : m_fault);
 }
 
-/// What is done to a layer is done to all selected ones when it is one of them.
+/// An action on a layer applies to all selected layers if that layer is one of them.
 LayerPanel::Layers LayerPanel::targets(LayerId layer) const
 {
     Layers selected = m_view->selectedLayers();
@@ -163,7 +163,7 @@ void LayerPanel::setText(LayerId layer, int column, const QString& text)
         [&](Drawing& drawing) { return layeracts::setText(drawing, layers, edited, text); });
 }
 
-/// All get the value that the layer clicked does not have.
+/// Gives all of them the opposite of the clicked layer's value.
 void LayerPanel::toggle(LayerId layer, int column)
 {
     const LayerColumn& flag = LayerColumns::at(column);
@@ -254,7 +254,7 @@ void LayerPanel::showMenu(const QPoint& at)
     menu.exec(m_view->viewport()->mapToGlobal(at));
 }
 
-/// Its name is there to be changed at once.
+/// Adds a layer and lets the user edit its name at once.
 void LayerPanel::addLayer()
 {
     LayerId added = LayerId::None;
@@ -295,7 +295,7 @@ void LayerPanel::showUses()
                               : tr("%1 个图层的使用情况").arg(layers.size());
     UsesList* const list =
         UsesList::ofUses(layeruses::find(*m_model->drawing(), layers), title, window());
-    // Places of entities mean nothing in another drawing.
+    // Entity indices are meaningless in another drawing.
     connect(m_model->drawing(), &QObject::destroyed, list, &QWidget::close);
     connect(list, &UsesList::chosen, this, [this](const LayerUse& use) {
         if (m_model->drawing())
@@ -304,7 +304,7 @@ void LayerPanel::showUses()
     list->show();
 }
 
-/// Removes of the selected layers those that nothing needs, and tells why the others stay.
+/// Deletes those of the selected layers that nothing needs, and tells why the others stay.
 void LayerPanel::purge()
 {
     const Layers layers = m_view->selectedLayers();

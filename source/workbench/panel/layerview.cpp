@@ -17,7 +17,7 @@ const char kHeaderKey[] = "panel/header";
 const char kHiddenKey[] = "panel/hiddenColumns";
 constexpr int kRowSpace = 6;
 
-/// The rows as one selection of as few ranges as can be.
+/// A selection of these rows with as few ranges as possible.
 QItemSelection selectionOf(const std::vector<int>& rows, const QAbstractItemModel& model)
 {
     QItemSelection selection;
@@ -121,7 +121,7 @@ void LayerView::editName()
 void LayerView::keepSelection()
 {
     if (!m_kept.empty() || m_keptInHand != LayerId::None)
-        return; // Rows change again before the layers are back.
+        return; // The rows change again before the first change is complete.
     m_kept = selectedLayers();
     m_keptInHand = layerInHand();
     m_keptColumn = currentIndex().column();
@@ -176,14 +176,14 @@ void LayerView::keyPressEvent(QKeyEvent* event)
     event->accept();
 }
 
-/// Whether what is done in this cell is done to all selected layers, its own among them.
+/// Whether an action in this cell applies to all selected layers. Its own layer must be selected.
 bool LayerView::isForAll(const QModelIndex& index) const
 {
     return index.isValid() && LayerColumns::at(index.column()).set &&
            index.column() != LayerColumns::Name && selectionModel()->isSelected(index);
 }
 
-/// There, pressing leaves the others selected.
+/// Pressing the mouse in such a cell keeps the selection.
 void LayerView::mousePressEvent(QMouseEvent* event)
 {
     const QModelIndex index = indexAt(event->pos());
@@ -212,7 +212,7 @@ void LayerView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const QModelIndex index = indexAt(event->pos());
     if (isFlag(index))
-        return mousePressEvent(event); // Two clicks.
+        return mousePressEvent(event); // A double click on a flag counts as two clicks.
     if (index.isValid() && LayerColumns::at(index.column()).kind == LayerColumn::Mark)
         return emit currentWanted(m_model->idAt(index.row()));
     if (isForAll(index))
@@ -252,7 +252,7 @@ void LayerView::showColumnMenu(const QPoint& at)
     menu.exec(horizontalHeader()->mapToGlobal(at));
 }
 
-/// Columns of the viewport show where there is one.
+/// Hides the columns that the user does not want, and the columns of viewports when there is none.
 void LayerView::applyHidden()
 {
     for (int column = 0; column < LayerColumns::count(); ++column) {
