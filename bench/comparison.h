@@ -10,11 +10,10 @@
 
 namespace bench {
 
-/// Does the work once and returns what it took, in seconds or bytes; what it sets up is not
-/// counted.
+/// Does the work once and returns what it took, in seconds or bytes. Preparations are not counted.
 using Run = std::function<double()>;
 
-/// The two runs of a row with what they share; it lives as long as they do.
+/// The two runs of a row and the data that they share, which lives as long as this object.
 struct Sides
 {
     Run measured;
@@ -22,45 +21,47 @@ struct Sides
     QString comparedWith; ///< What the compared run does.
 };
 
-/// What a ratio is held against.
+/// The limit that a ratio must keep.
 struct Budget
 {
     enum class Kind {
         AtMostTimes,        ///< measured / compared.
         AtLeastTimesFaster, ///< compared / measured.
-        GrowthExponent,     ///< Decimal logarithm of measured / compared, for `decades` of size.
-        AtMostSeconds,      ///< measured.
-        None                ///< A figure without a budget.
+        /// The decimal logarithm of measured / compared, divided by `decades`, the growth of the
+        /// size.
+        GrowthExponent,
+        AtMostSeconds, ///< measured.
+        None           ///< A figure without a limit.
     };
     Kind kind = Kind::None;
     double limit = 0;
     double decades = 1;
 };
 
-/// What a row measures: time on either clock, or memory.
+/// The quantity that a row measures: time on one of two clocks, or memory.
 enum class Measure { Processor, Wall, Memory };
 
-/// One row of the table.
+/// One row of the resulting table.
 struct Row
 {
-    const char* name; ///< Of the benchmark.
+    const char* name; ///< The name of the benchmark.
     QString what;
     Measure measure;
     Budget budget;
-    int samples;      ///< Of each side.
-    int quickSamples; ///< The same in a short run.
-    /// Makes the sides, or says why they cannot be measured.
+    int samples;      ///< The number of samples of each side.
+    int quickSamples; ///< The number of samples in a short run.
+    /// Makes the two sides, or returns why they cannot be measured.
     std::function<tl::expected<Sides, QString>()> prepare;
 };
 
-/// Runs rows as benchmarks and keeps what they found.
+/// Runs rows as benchmarks and keeps their results.
 class Report
 {
 public:
-    /// Registers each row as one benchmark whose iterations run both sides in turn, so that
-    /// whatever slows the machine down slows both.
+    /// Registers each row as one benchmark. Its iterations run both sides in turn, so that whatever
+    /// slows down the machine affects both.
     void registerRows(const std::vector<Row>& rows, bool quick);
-    /// The table as Markdown, of the rows that ran.
+    /// The table of the rows that ran, as Markdown.
     QString table() const;
     /// Whether a row could not be measured.
     bool hasFailed() const { return m_failed; }
@@ -70,7 +71,7 @@ private:
     {
         Row row;
         QString comparedWith;
-        double measured; ///< Median.
+        double measured; ///< The median.
         double compared;
     };
 

@@ -4,8 +4,8 @@
 
 namespace bench {
 
-/// A tree as the layer command hands it over: "LayerList" with `count` whole records, the same ones
-/// each time. The first layer is the current one, and three are selected.
+/// Makes a tree as the layer command passes it: "LayerList" with `count` complete records, which
+/// are the same every time. The first layer is the current one, and three layers are selected.
 vnsi::VnJsonPtr makeLayerTree(int count);
 
 } // namespace bench

@@ -6,9 +6,9 @@ namespace bench {
 
 /// Filling and clicking the table of the Layer Properties Manager.
 std::vector<Row> layerTableRows();
-/// Opening and saving a drawing; it is generated in `folder`.
+/// Opening and saving a drawing, which is generated in `folder`.
 std::vector<Row> drawingRows(const QString& folder);
-/// What a layer takes in the value tree and in the table.
+/// The memory that a layer takes in the value tree and in the table.
 std::vector<Row> memoryRows();
 /// Making, filling and painting each of the thirteen dialogs.
 std::vector<Row> dialogRows();
@@ -18,14 +18,13 @@ std::vector<Row> deleteDialogRows();
 std::vector<Row> translatorRows();
 /// Translating many drawings, which are generated in `folder`, with the batch program.
 std::vector<Row> batchRows(const QString& folder);
-/// How long the window stands still for the layer panel; the drawing for it is generated in
-/// `folder`.
+/// How long the layer panel blocks the window. The drawing is generated in `folder`.
 std::vector<Row> panelRows(const QString& folder);
-/// Clicking and filtering in the layer walk, and the canvas that follows; the drawing for it is
-/// generated in `folder`.
+/// Clicking and filtering in the layer walk, including the canvas. The drawing is generated in
+/// `folder`.
 std::vector<Row> walkRows(const QString& folder);
-/// The picture of large drawings, and how long the window does not answer while a user works on
-/// them; they are generated in `folder`.
+/// Pictures of large drawings, and how long the window is blocked while a user works on them. The
+/// drawings are generated in `folder`.
 std::vector<Row> stallRows(const QString& folder);
 
 } // namespace bench

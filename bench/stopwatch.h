@@ -5,14 +5,14 @@
 namespace bench {
 
 enum class Clock {
-    Processor, ///< User and system time of this thread: other programs do not disturb it.
+    Processor, ///< User and system time of this thread, which other programs do not disturb.
     Wall       ///< For work that waits for the disk.
 };
 
-/// Seconds since some fixed moment.
+/// The time in seconds since a fixed moment.
 double now(Clock clock);
 
-/// Seconds that `work` takes.
+/// The seconds that `work` takes.
 template <class Work>
 double timed(Clock clock, Work&& work)
 {

@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// What a cell shows.
+/// The appearance of a cell.
 struct CellLook
 {
     QString text;
@@ -16,17 +16,17 @@ struct CellLook
     Qt::ItemFlags flags;
 };
 
-/// What the cells of a table show, row by row.
+/// The appearance of the cells of a table, row by row.
 std::vector<CellLook> looksOf(const QTableWidget& table);
 
-/// Gives an empty table the columns, headers and size of another and shows it.
+/// Gives an empty table the columns, headers and size of another one and shows it.
 void dressAs(QTableWidget& table, const QTableWidget& other);
 
-/// Fills the table as fast as a program with everything at hand can: room for all rows at once, no
-/// painting, no signal for each cell.
+/// Fills the table as fast as possible with everything prepared: all rows are added at once,
+/// without painting and without a signal for each cell.
 void fillInBulk(QTableWidget& table, const std::vector<CellLook>& looks);
 
-/// Fills the table the plain way: a row is inserted, its pictures are loaded, and so on.
+/// Fills the table in the simple way: a row is inserted, its pictures are loaded, and so on.
 void fillRowByRow(QTableWidget& table, const std::vector<CellLook>& looks);
 
 } // namespace bench

@@ -6,10 +6,10 @@
 
 namespace fuzz {
 
-/// What an edit may have changed besides the records of the layer table.
+/// What an edit may have changed, from nothing to things outside of the layer table.
 enum class EditReach { Nothing, LayerRecord, Anywhere };
 
-/// Makes one edit in the open step, chosen by the bytes; a refusal reaches nothing.
+/// Makes one edit, chosen by the bytes, in the open step. A refused edit changes nothing.
 EditReach editDrawing(drawing::Drawing& drawing, FuzzedDataProvider& bytes);
 
 } // namespace fuzz

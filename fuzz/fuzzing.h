@@ -4,20 +4,21 @@
 #include <QString>
 #include <fuzzer/FuzzedDataProvider.h>
 
-/// What the fuzz targets share. A target takes any bytes and ends the program where the product
-/// does something it must never do; the sanitizers see to the rest.
+/// Functions that the fuzz targets share. A target takes any bytes and ends the program when the
+/// product does something forbidden; the sanitizers find everything else.
 namespace fuzz {
 
-/// Ends the program, telling `what` must hold, when it does not.
+/// Ends the program when a condition does not hold; `what` describes the condition.
 void require(bool holds, const char* what);
 
-/// A folder of this process in memory where the system has such, removed when the program ends.
+/// A folder of this process, in memory if the system offers that. It is removed when the program
+/// ends.
 QString scratchFolder();
-/// Writes a file of the scratch folder anew and gives back its path.
+/// Writes a file in the scratch folder, replacing an earlier one, and returns its path.
 QString writeScratch(const char* name, const QByteArray& bytes);
 QByteArray readFile(const QString& path);
 
-/// The next of the fuzzed bytes as text.
+/// Takes a text of at most `longest` bytes from the fuzzed bytes.
 QString takeText(FuzzedDataProvider& bytes, std::size_t longest);
 
 } // namespace fuzz

@@ -6,8 +6,8 @@
 
 namespace fuzz {
 
-/// Makes changes to a tree, chosen by the bytes: other values, other types, gone, added, shared,
-/// hung elsewhere. What is added has keys that dialogs know.
+/// Changes a tree as chosen by the bytes: values and types are replaced, members are removed,
+/// added, shared or moved. Added members have keys that the dialogs know.
 void changeTree(const vnsi::VnJsonPtr& root, FuzzedDataProvider& bytes, int mostChanges);
 
 } // namespace fuzz

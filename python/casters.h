@@ -1,6 +1,6 @@
 #pragma once
 
-// Before Qt: its keyword `slots` is a member in Python's headers.
+// Included before Qt, because Qt's keyword `slots` is the name of a member in Python's headers.
 #include <pybind11/pybind11.h>
 #include <pybind11/stl.h>
 
@@ -11,7 +11,7 @@
 
 namespace pybind11::detail {
 
-/// Text crosses as it is, also with U+0000 in it and with surrogates that stand alone.
+/// Converts texts without loss, even with U+0000 and single surrogates in them.
 template <>
 struct type_caster<QString>
 {
@@ -33,7 +33,7 @@ struct type_caster<QString>
 
     static handle cast(const QString& text, return_value_policy, handle)
     {
-        int order = 0; // The machine's own.
+        int order = 0; // The byte order of the machine.
         return PyUnicode_DecodeUTF16(reinterpret_cast<const char*>(text.utf16()),
             Py_ssize_t(text.size()) * 2, "surrogatepass", &order);
     }
@@ -48,7 +48,7 @@ struct type_caster<QStringList> : list_caster<QStringList, QString>
 
 namespace dxflayers {
 
-/// A refusal of the drawing library on its way to Python, where it becomes `dxflayers.Error`.
+/// Carries a refusal of the drawing library to Python, where it becomes `dxflayers.Error`.
 class Refusal : public std::exception
 {
 public:
@@ -70,7 +70,7 @@ private:
     throw Refusal(drawing::Error{text});
 }
 
-/// The value, or the refusal thrown.
+/// Returns the value or throws the refusal.
 template <class T>
 T valueOf(drawing::Expected<T> result)
 {

@@ -10,7 +10,7 @@ namespace dxflayers {
 
 using DrawingPtr = std::shared_ptr<drawing::Drawing>;
 
-/// Runs an edit in the step that is open, or in one of its own, which is taken back when the edit
+/// Runs an edit in the open step, or else in a step of its own, which is rolled back when the edit
 /// is refused.
 template <class Edit>
 auto edit(drawing::Drawing& drawing, const QString& name, Edit&& act)
@@ -28,7 +28,7 @@ auto edit(drawing::Drawing& drawing, const QString& name, Edit&& act)
     }
 }
 
-/// A layer of a drawing, which it keeps open.
+/// A layer of a drawing. It keeps the drawing open.
 class LayerHandle
 {
 public:
@@ -38,9 +38,9 @@ public:
 
     drawing::LayerId id() const { return m_id; }
     const DrawingPtr& drawing() const { return m_drawing; }
-    /// The layer as it is now; throws where it was removed.
+    /// The present layer. Throws when it has been deleted.
     const drawing::Layer& get() const;
-    /// Changes some of the properties.
+    /// Changes properties of the layer.
     void change(const std::function<void(drawing::LayerProperties&)>& act) const;
 
     friend bool operator==(const LayerHandle& a, const LayerHandle& b)
@@ -53,13 +53,13 @@ private:
     drawing::LayerId m_id;
 };
 
-/// The layer of that name, without regard to letter case; throws where the drawing has none.
+/// The layer of this name, ignoring letter case. Throws when the drawing has none.
 LayerHandle layerNamed(const DrawingPtr& drawing, const QString& name);
 std::vector<drawing::LayerId> idsOf(const DrawingPtr& drawing, const QStringList& names);
 
 using DrawingClass = pybind11::class_<drawing::Drawing, DrawingPtr>;
 
-// Each part of the module adds what it knows.
+// Each function adds one part of the module.
 DrawingClass bindLayers(pybind11::module_& module);
 void bindStates(DrawingClass& drawing);
 void bindStandards(pybind11::module_& module, DrawingClass& drawing);

@@ -5,14 +5,14 @@
 /// The parts of a manual page, in roff.
 namespace commandline::manualpage {
 
-/// A text as roff takes it: nothing in it is a request, dashes are those one can copy, and lines
-/// may end between Chinese characters, where roff would not end them.
+/// Escapes a text for roff: nothing in it is a request, dashes can be copied, and lines may be
+/// broken between Chinese characters, which roff would not do by itself.
 QString escaped(const QString& text);
 
-QString title(const char* program, const char* version); ///< Of section 1.
-QString section(const QString& heading);                 ///< Heading of what comes behind it.
+QString title(const char* program, const char* version); ///< For section 1 of the manual.
+QString section(const QString& heading);                 ///< The heading of the text after it.
 QString subsection(const QString& heading);
-QString line(const QString& text); ///< Right behind a heading.
+QString line(const QString& text); ///< A line directly after a heading.
 QString paragraph(const QString& text);
 QString option(const OptionText& option);
 

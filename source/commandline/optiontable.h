@@ -48,11 +48,11 @@ struct OptionRows
     const OptionRow* end() const { return first + count; }
 };
 
-/// An option in the user's language.
+/// An option with its texts in the user's language.
 struct OptionText
 {
     OptionRow row;
-    QString value; ///< What stands for its value, "FILE" say; empty for flags.
+    QString value; ///< The placeholder for its value, such as "FILE"; empty for flags.
     QString text;  ///< A sentence.
 };
 

@@ -16,10 +16,10 @@ bool mayBreak(QChar before, QChar next);
 QStringList wrapped(const QString& text, int width);
 /// The number of columns for texts that people read: the terminal's width, but at most 100.
 int textColumns();
-/// A text cut to those columns.
+/// Wraps a text at `textColumns`.
 QString wrappedParagraph(const QString& text);
-/// A head with its text beside it, on as many lines as the text takes; the head has a line of its
-/// own where it reaches into the text's columns.
+/// A heading with its text beside it, on as many lines as the text needs. A heading that is too
+/// long for its column gets a line of its own.
 QString entry(const QString& head, int headWidth, const QString& text);
 
 } // namespace commandline

@@ -2,21 +2,21 @@
 
 #include <QStringList>
 
-/// The language that a program's texts are shown in. The sources are Chinese; other languages lie
-/// beside them as translations, ":/i18n/NAME_CODE.qm" for each library.
+/// The language of a program's texts. The sources are in Chinese; each library has translations to
+/// other languages in ":/i18n/NAME_CODE.qm".
 namespace language {
 
-/// The languages that there are, that of the sources first.
+/// The codes of the available languages; that of the sources comes first.
 inline constexpr char kCodes[] = "zh en";
 
-/// Whether there is a language of this code.
+/// Whether the language with this code is available.
 bool isKnown(const QString& code);
-/// Shows the texts of these libraries, and Qt's own, in a language; where it is empty, in that of
-/// the locale, which is English where the locale's own is not there. Takes the place of what an
-/// earlier call chose. Texts that are shown already stay as they are.
+/// Shows the texts of these libraries, and those of Qt, in a language. An empty code means the
+/// language of the locale, or English when that is not available. This replaces the choice of an
+/// earlier call, but texts that are already visible stay as they are.
 void use(const QString& code, const QStringList& libraries);
-/// What "--language" says among a command line's words, wherever it stands; empty where it is
-/// missing. It counts for help and refusals, too, and is looked for before all else.
+/// The value of "--language" anywhere on the command line; empty when it is missing. It is read
+/// before everything else because it also applies to help and error messages.
 QString asked(const QStringList& words);
 
 } // namespace language

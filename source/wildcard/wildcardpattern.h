@@ -8,18 +8,18 @@
 
 namespace wildcard {
 
-/// One alternative of a wildcard pattern (`#` a digit, `@` a letter, `.` neither, `*` any run, `?`
-/// one character, `[...]` and `[~...]` sets, a leading `~` for "not", the grave accent before a
-/// character that stands for itself), ready to be matched.
+/// One alternative of a wildcard pattern, prepared for matching. `#` matches a digit, `@` a letter,
+/// `.` neither, `*` any run, `?` one character, `[...]` and `[~...]` are sets, a leading `~` means
+/// "not", and a grave accent makes the next character stand for itself.
 class Wildcard
 {
 public:
-    /// Takes the alternative at the front of `pattern` off, with the comma that ends it; the last
-    /// one has none.
+    /// Removes the first alternative from `pattern`, together with the comma after it. The last
+    /// alternative has no comma.
     static Wildcard take(std::wstring_view& pattern, bool& isLast);
 
     bool matches(std::wstring_view text, bool ignoreCase) const;
-    /// Whether it matches one text alone, which is then in `word`.
+    /// Whether the alternative matches exactly one text, which is then stored in `word`.
     bool isWord(std::wstring& word) const;
 
 private:
@@ -39,8 +39,8 @@ private:
     bool m_isNegated = false;
 };
 
-/// A whole pattern, ready for many texts. Alternatives that are plain words are looked up and not
-/// tried one after the other: a pattern may name thousands.
+/// A whole pattern, prepared for many texts. Alternatives that are plain words are looked up
+/// instead of being tried one after the other, because a pattern may name thousands.
 class WildcardPattern
 {
 public:
@@ -50,7 +50,7 @@ public:
 
 private:
     bool m_ignoreCase;
-    std::unordered_set<std::wstring> m_words; ///< Folded where case does not count.
+    std::unordered_set<std::wstring> m_words; ///< Folded when letter case is ignored.
     std::vector<Wildcard> m_others;
 };
 

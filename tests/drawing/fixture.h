@@ -8,23 +8,23 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// What the small house below is filled in with: all kinds of places in it name the wall's layer.
+/// The variable parts of the small house below. All kinds of places in it name the wall's layer.
 struct House
 {
     QByteArray version = "AC1018";
-    QByteArray wall = "Wall";              ///< Name of the layer most of it is on.
-    QByteArray wallRecord = "70 64\n62 5"; ///< Its record's groups behind the name.
+    QByteArray wall = "Wall";              ///< The name of the layer that most entities are on.
+    QByteArray wallRecord = "70 64\n62 5"; ///< The groups of its record after the name.
     QByteArray current = "Wall";
     QByteArray seed = "100";
-    QByteArray layerCount; ///< As many as there are where it is empty.
-    QByteArray appIds;     ///< Records behind `ACAD`.
+    QByteArray layerCount; ///< Empty to write the true number.
+    QByteArray appIds;     ///< Records after `ACAD`.
     QByteArray moreLayers;
-    QByteArray variables; ///< More of the header.
+    QByteArray variables; ///< Additional header variables.
     QByteArray objects = kObjects;
-    QByteArray rootObjects; ///< What the root dictionary holds, and objects behind it.
+    QByteArray rootObjects; ///< Entries of the root dictionary and the objects after it.
     QByteArray lineEnd = "\n";
 
-    /// One whose plot styles have names: the wall's handle E1.
+    /// A house with named plot styles; the wall's one has the handle E1.
     static House withNamedStyles()
     {
         House house;
@@ -101,7 +101,7 @@ class Fixture : public QObject
 protected:
     QString write(const QByteArray& bytes, const QString& name = "house.dxf")
     {
-        // A file of its own each time: drawings still open go on reading theirs.
+        // Each drawing gets a file of its own, because open drawings still read theirs.
         return writtenFile(inFolder(QString::number(++m_files) + name), bytes);
     }
     QString inFolder(const QString& name) const { return m_folder.filePath(name); }
@@ -131,7 +131,8 @@ protected:
         return drawing.findLayer(layer)->id;
     }
 
-    /// Undoes the last step and does it again: the bytes must be those before it and these.
+    /// Undoes the last step and redoes it. The saved bytes must be those before the step and the
+    /// present ones.
     void checkUndo(drawing::Drawing& drawing, const QByteArray& before)
     {
         const QByteArray after = saved(drawing);

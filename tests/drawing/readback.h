@@ -8,7 +8,7 @@
 #include <QJsonObject>
 #include <QProcess>
 
-/// What an independent reader sees of drawings.
+/// The contents of drawings as an independent reader sees them.
 namespace readback {
 
 inline bool isInstalled()
@@ -17,7 +17,8 @@ inline bool isInstalled()
     return isThere;
 }
 
-/// The reader at work. It is started once, as that takes longer than reading most drawings.
+/// The process of the reader. It is started only once because that takes longer than reading most
+/// drawings.
 class Reader : public QObject
 {
 public:
@@ -52,8 +53,9 @@ private:
     QProcess m_process;
 };
 
-/// "layers" and their "entities", the "states" of layers and what viewports show, or the "entities"
-/// by layers; always audit errors. "failure" when the file cannot be read.
+/// Reads a file with the independent reader. `what` selects "layers" (with "entities"), "states"
+/// (with what viewports show) or "entities" by layers. The result always contains audit errors, or
+/// "failure" when the file cannot be read.
 inline QJsonObject seen(const QString& path, const QString& what = "layers")
 {
     const QByteArray answer = Reader::instance().answer(what + ' ' + path);
@@ -61,7 +63,7 @@ inline QJsonObject seen(const QString& path, const QString& what = "layers")
         .object();
 }
 
-/// The same of a file that no test changes; kept, as reading takes its time.
+/// Reads a file that no test changes. The result is cached because reading takes time.
 inline QJsonObject original(const QString& path)
 {
     static QHash<QString, QJsonObject> known;
@@ -70,7 +72,7 @@ inline QJsonObject original(const QString& path)
     return known.value(path);
 }
 
-/// A layer as `seen` gives it.
+/// The properties of a layer in the form that `seen` returns.
 inline QJsonObject facts(const drawing::LayerProperties& p)
 {
     return {{"name", p.name}, {"off", p.off}, {"frozen", p.frozen}, {"locked", p.locked},
@@ -80,7 +82,7 @@ inline QJsonObject facts(const drawing::LayerProperties& p)
         {"description", p.description}};
 }
 
-/// The layers seen, by name.
+/// The layers in a result of `seen` by their names.
 inline QHash<QString, QJsonObject> layers(const QJsonObject& seen)
 {
     QHash<QString, QJsonObject> layers;
@@ -89,7 +91,7 @@ inline QHash<QString, QJsonObject> layers(const QJsonObject& seen)
     return layers;
 }
 
-/// The audit errors that `after` has more of than `before`, or why it cannot be read.
+/// The audit errors of `after` that `before` does not have, or why `after` cannot be read.
 inline QStringList newErrors(const QJsonObject& before, const QJsonObject& after)
 {
     if (after.contains("failure"))

@@ -7,14 +7,14 @@
 #include <QDirIterator>
 #include <QTemporaryDir>
 
-/// What a run of the program gave.
+/// The outcome of a run of the program.
 struct Run
 {
     int code = -1;
     QByteArray output;
     QString error;
 
-    /// What the format "json" tells of a drawing; null when it tells nothing of it.
+    /// What the format "json" says about a drawing; null when it says nothing.
     QJsonObject drawing(const QString& name) const
     {
         const QJsonObject json = QJsonDocument::fromJson(output).object();
@@ -25,7 +25,7 @@ struct Run
         return {};
     }
     QJsonArray rows(const QString& name) const { return drawing(name).value("data").toArray(); }
-    /// The one row whose `key` is `value`; null when there is none.
+    /// The only row whose `key` has this value; null when there is none.
     QJsonObject row(const QString& name, const char* key, const QString& value) const
     {
         for (const QJsonValue row : rows(name)) {
@@ -34,7 +34,7 @@ struct Run
         }
         return {};
     }
-    /// The words under a key of all drawings, counted.
+    /// Counts the values of a key over all drawings.
     QMap<QString, int> counted(const char* key) const
     {
         QMap<QString, int> counts;
@@ -46,7 +46,7 @@ struct Run
     QByteArray told() const { return output + error.toUtf8(); }
 };
 
-/// A folder of its own, in which the program runs.
+/// A temporary folder in which the program runs.
 class ToolFolder
 {
 public:
@@ -76,7 +76,7 @@ public:
         for (int i = 0; i < count; ++i)
             copy(sample, QStringLiteral("in/%1.dxf").arg(i));
     }
-    /// Every file below a folder, without what the program keeps for itself, by its name.
+    /// The contents of all files below a folder, by name, except the program's own records.
     QMap<QString, QByteArray> tree(const QString& folder) const
     {
         QMap<QString, QByteArray> files;
@@ -107,7 +107,7 @@ public:
         process.start();
         return finished(process);
     }
-    /// Words with blanks between them; one within another's quotes cannot be said.
+    /// Splits a command line at blanks. Quotes within quoted words are not supported.
     Run run(const QByteArray& line) const { return run(words(line)); }
     static QStringList words(const QByteArray& line)
     {

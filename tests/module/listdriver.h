@@ -13,7 +13,7 @@
 
 #include <functional>
 
-/// A dialog with a list of layers: run once, with the user's acts in it.
+/// Runs a dialog with a list of layers once, with actions of a user in it.
 class ListDriver
 {
 public:
@@ -28,7 +28,8 @@ public:
     {
     }
 
-    /// The result of the dialog; what the acts leave open is closed by its close box.
+    /// Returns the dialog's result. A dialog that the actions leave open is closed by its close
+    /// box.
     int run(const Acts& acts)
     {
         ModalDriver user;

@@ -8,16 +8,16 @@
 
 #include <QTableWidget>
 
-/// The record of a layer; `more` are further members, with a comma before each.
+/// The record of a layer; `more` contains further members, each after a comma.
 QString layer(const QString& name, int status = 1, const QString& more = {});
-/// The tree of the layer manager with these records; `more` as above.
+/// The tree of the layer manager with these records; `more` as in `layer`.
 QString layerTree(const QStringList& records, const QString& more = {});
 
-/// The layer manager on the screen, in front of a recording host and command.
+/// The layer manager on the screen, with a recording host and a recording command.
 class ManagerDriver
 {
 public:
-    /// `keys` are the members noted with each request.
+    /// `keys` are the members that are recorded with each request.
     ManagerDriver(ModuleFixture& module, const QString& json, RecordingInvoker::Answer answer = {},
         const QStringList& keys = {"marker"});
 

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Qt is not built for the thread sanitizer, which does not see the locks of its queue of events:
-/// tests tell it where something is handed from one thread to another.
+/// Tells the thread sanitizer where data passes from one thread to another. Qt is not built for the
+/// sanitizer, which therefore does not see the locks of Qt's event queue.
 #ifdef __SANITIZE_THREAD__
 extern "C" {
 void __tsan_acquire(void* address);

@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <QtTest>
 
-/// Answers the message boxes that come up, in order, each with the button of a text (empty: Esc),
-/// and notes what they said.
+/// Answers message boxes in the order in which they appear and records their texts. Each answer is
+/// the text of a button; an empty one is Esc.
 class BoxAnswerer : public QObject
 {
 public:

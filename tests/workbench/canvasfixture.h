@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <memory>
 
-/// A canvas of 400 by 300 pixels and what is sketched for it.
+/// A canvas of 400 by 300 pixels and the drawing that it shows.
 class CanvasFixture : public QObject
 {
 protected:
@@ -19,8 +19,8 @@ protected:
         m_canvas->resize(400, 300);
     }
 
-    /// Shows the drawing in the canvas. What becomes of it is not followed: from here on only
-    /// layers change.
+    /// Shows a drawing in the canvas. Later changes of the drawing are not followed; only changes
+    /// of layers are.
     void show(const QByteArray& entities)
     {
         m_drawing = m_sketch->open(entities);

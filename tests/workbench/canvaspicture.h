@@ -7,7 +7,7 @@
 
 #include <cstdlib>
 
-/// What the canvas shows once all of it is painted.
+/// A picture of the canvas, taken when painting is complete.
 inline QImage pictureOf(Canvas& canvas)
 {
     for (;;) {
@@ -18,8 +18,8 @@ inline QImage pictureOf(Canvas& canvas)
     }
 }
 
-/// The share of the pixels in which red, green or blue differs by more than `by`. Threads make the
-/// outlines of texts for themselves, which come out brighter or darker by a shade.
+/// The share of the pixels in which red, green or blue differs by more than `by`. Small differences
+/// are normal because each thread makes its own outlines of texts.
 inline double differentPixels(const QImage& a, const QImage& b, int by = 8)
 {
     if (a.size() != b.size())

@@ -16,12 +16,11 @@
 
 #include <memory>
 
-/// The workbench with the module loaded and a sample open, its questions played by a recording
-/// host.
+/// The workbench with the loaded module and an open sample. A recording host answers its questions.
 class CommandFixture : public QObject
 {
 protected:
-    /// Begins a test: the dialogs of these names are made and run for real.
+    /// Begins a test. Dialogs of these names run for real.
     void start(std::initializer_list<const char*> dialogs)
     {
         m_module = std::make_unique<ModuleFixture>();
@@ -36,7 +35,7 @@ protected:
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
 
-    /// Ends a test; questions left unasked fail it.
+    /// Ends a test. It fails when expected questions were not asked.
     void stop()
     {
         m_window.reset();
@@ -52,13 +51,13 @@ protected:
         m_path = path;
         m_original = contentOf(path);
     }
-    /// Opens a file of the folder with these bytes, for what is written beside a drawing.
+    /// Opens a new file with these bytes in the test's folder, where files beside it are found.
     void open(const QString& name, const QByteArray& bytes)
     {
         open(writtenFile(inFolder(name), bytes));
     }
 
-    /// Runs a command; each dialog that comes up gets the next step.
+    /// Runs a command. Each dialog that appears gets the next step.
     void run(const QString& command, const std::vector<ModalDriver::Step>& steps)
     {
         ModalDriver user;
@@ -67,9 +66,9 @@ protected:
             then(step);
         m_window->runCommand(command);
     }
-    /// Queues a step for the dialog that comes up next while a command runs.
+    /// Queues a step for the next dialog that appears while a command runs.
     void then(const ModalDriver::Step& step) { m_user->then(step); }
-    /// A step that closes what a failure in it left open.
+    /// A step that closes its dialog even if the step fails.
     static ModalDriver::Step closing(const ModalDriver::Step& acts)
     {
         return [acts](QDialog& dialog) {
@@ -77,14 +76,14 @@ protected:
             dialog.close();
         };
     }
-    /// The file dialog that comes up next gives these paths.
+    /// Makes the next file dialog return these paths.
     void answerFiles(const QStringList& paths)
     {
         m_host->answer(1, QString(R"({"filePath":"%1","filePaths":["%2"]})")
                               .arg(paths.first(), paths.join("\",\"")));
     }
 
-    /// What the canvas shows once the drawing is flattened and painted.
+    /// A picture of the canvas after the drawing was flattened and painted.
     QImage picture() const
     {
         for (;;) {
@@ -100,13 +99,13 @@ protected:
     QStringList messages() const { return m_host->log().filter("message|"); }
     QString inFolder(const QString& name) const { return m_folder->filePath(name); }
 
-    /// Saves to a file of that name; its bytes.
+    /// Saves the drawing under this name and returns the file's bytes.
     QByteArray savedBytes(const QString& name = "saved.dxf")
     {
         return drawing().save(inFolder(name)) ? contentOf(inFolder(name)) : QByteArray();
     }
 
-    /// The command was one step, and undoing it brings every byte back.
+    /// Checks that the command was one step, and that undoing it restores every byte.
     void checkUndo()
     {
         QVERIFY(savedBytes() != m_original);
@@ -119,7 +118,7 @@ protected:
     std::unique_ptr<ModuleFixture> m_module;
     std::unique_ptr<RecordingHost> m_host;
     std::unique_ptr<MainWindow> m_window;
-    QString m_path; ///< Of the drawing that is open, and its bytes.
+    QString m_path; ///< The path of the open drawing; its bytes follow.
     QByteArray m_original;
 
 private:
