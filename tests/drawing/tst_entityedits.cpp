@@ -11,13 +11,13 @@ Yard withBlocks(const QByteArray& blocks)
     return {{}, {}, blocks};
 }
 
-/// Goes with the layer in most rows: its handle is what others point at.
+/// The entity that most rows delete with its layer; other objects point at its handle.
 const QByteArray kGone = "0 LINE\n5 AA\n8 Wall\n";
 const QByteArray kStays = "0 LINE\n5 BB\n8 Keep\n";
 
 } // namespace
 
-/// Edits of entities, told by the bytes they leave: all others must stay.
+/// Tests edits of entities by the bytes that they leave. All other bytes must stay the same.
 class TestEntityEdits : public Fixture
 {
     Q_OBJECT
@@ -197,7 +197,7 @@ private slots:
         const LayerId from = id(*drawing, layer);
         const LayerId to = target.isEmpty() ? LayerId::None : id(*drawing, target);
         drawing->beginStep(operation);
-        // What may go stands in front of what may not.
+        // The permitted layer comes before the forbidden one.
         const std::vector<LayerId> layers = {from == to ? from : id(*drawing, "Keep"), from};
         const auto result = operation == "move" ? drawing->moveEntities({0, 1}, to).map([](int) {})
                             : operation == "merge" ? drawing->mergeLayers({from}, to)
@@ -240,7 +240,7 @@ private slots:
         QCOMPARE(drawing->layer(wall)->entityCount, 1);
     }
 
-    /// Edits of one step at the same places as those of another.
+    /// Edits in one step at the places that an earlier step has already edited.
     void editedTwice()
     {
         const QByteArray before =

@@ -49,7 +49,7 @@ bool near(const Numbers& found, const Numbers& wanted)
     return true;
 }
 
-/// A rectangle as a polyline loop of a hatch.
+/// A rectangular loop of a hatch, as a polyline.
 QByteArray loop(int from, int to)
 {
     const QByteArray a = QByteArray::number(from);
@@ -69,8 +69,8 @@ class GeometryTest : public QObject
 private slots:
     void shapes_data()
     {
-        // Least and greatest x and y, empty where nothing is drawn; first and last vertex, empty
-        // where they are of no account.
+        // Smallest and largest x and y, empty when nothing is drawn; then the first and the last
+        // vertex, empty when they do not matter.
         const Rows<QByteArray, Numbers, Numbers> row("entity", "box", "ends");
 
         const QByteArray poly = "0 LWPOLYLINE 8 A ";
@@ -140,7 +140,7 @@ private slots:
             "0 MULTILEADER 8 A 300 CONTEXT_DATA{ 302 LEADER{ 10 5 20 5 11 1 21 0 40 2 304 "
             "LEADER_LINE{ 10 0 20 1 305 } 303 } 301 } 291 0",
             {0, 1, 5, 5}, {0, 1, 5, 5});
-        // Two lines at 1 and -1 of the miter, the second drawn from 2 to 3 and from 8 on.
+        // Two lines at 1 and -1 along the miter. The second one is drawn from 2 to 3 and from 8 on.
         const QByteArray miter = " 12 1 22 0 13 0 23 1 74 2 41 1 41 0 75 0 74 ";
         row("lines side by side",
             "0 MLINE 8 A 71 1 11 0 21 0" + miter + "4 41 -1 41 2 41 3 41 8 75 0 11 10 21 0" +
@@ -178,7 +178,7 @@ private slots:
         if (box.isEmpty())
             return;
         const Box found = boundsOf(geometry);
-        // Curves are flattened into chords: their extremes fall short by less than a thousandth.
+        // Curves are approximated by chords, whose extremes are short by less than a thousandth.
         const Numbers foundBox{found.minX, found.minY, found.maxX, found.maxY};
         for (int i = 0; i < 4; ++i)
             QVERIFY2(
@@ -239,7 +239,7 @@ private slots:
 
     void endlessReferencesEnd()
     {
-        // Each block twice in the next.
+        // Each block contains the previous one twice.
         QByteArray chain = block("U0", kUnitLine);
         for (int i = 1; i <= 40; ++i) {
             const QByteArray inner = "0 INSERT 8 A 2 U" + QByteArray::number(i - 1) + " 10 0 20 0 ";
@@ -257,7 +257,7 @@ private slots:
 
     void styles_data()
     {
-        // The look: layer, colour, and the layers that hide it by being frozen.
+        // The look consists of layer, colour, and the layers that hide it when they are frozen.
         const Rows<QByteArray, QByteArray, QString> row("inBlock", "insert", "look");
 
         const QByteArray line = " 10 0 20 0 11 1 21 0 ";
@@ -403,7 +403,7 @@ private slots:
 
     void textPlaces_data()
     {
-        // The place: origin, then one height along the line.
+        // The place consists of the origin and of one text height along the line.
         const Rows<QByteArray, Numbers, TextRun::Horizontal> row("entity", "place", "horizontal");
         using H = TextRun::Horizontal;
 

@@ -26,7 +26,7 @@ House withApp(House house, const QByteArray& name)
     return house;
 }
 
-/// A layer more than the house has: its record's groups from the name to the colours.
+/// The house with one more layer; `groups` are those of its record from the name to the colours.
 House withRecord(const QByteArray& groups, const QByteArray& current)
 {
     House house;
@@ -61,7 +61,7 @@ LayerProperties named(const QString& name)
 
 } // namespace
 
-/// Edits of layers, told by the bytes they leave: all others must stay.
+/// Tests edits of layers by the bytes that they leave. All other bytes must stay the same.
 class TestLayerEdits : public Fixture
 {
     Q_OBJECT
@@ -175,7 +175,7 @@ private slots:
 
     void refusals_data()
     {
-        // The row's name is in the refusal.
+        // The refusal contains the name of the row.
         const Rows<QString, Change> row("layer", "change");
 
         using P = LayerProperties;
@@ -245,7 +245,7 @@ private slots:
         QCOMPARE(id(*drawing, "wall"), wall);
     }
 
-    /// Layer filters that name a layer follow it; those that only look like it stay.
+    /// Layer filters that name a layer are updated; similar ones stay as they are.
     void filters()
     {
         const QByteArray filters =
@@ -265,7 +265,7 @@ private slots:
         QCOMPARE(saved(*drawing), house(renamed("W#1"), "W`#1"));
     }
 
-    /// Defpoints never plots; whatever it is renamed to must then say so itself.
+    /// Defpoints is never plotted. When it is renamed, its record must say so explicitly.
     void neverPlotted()
     {
         const auto drawing = opened(renamed("Defpoints").bytes());
@@ -296,7 +296,7 @@ private slots:
         drawing->beginStep("add");
         const auto added = drawing->addLayer(properties);
         QVERIFY(added);
-        QVERIFY(!drawing->addLayer(properties)); // Its name is taken now.
+        QVERIFY(!drawing->addLayer(properties)); // Its name is now in use.
         QVERIFY(drawing->setCurrentLayer(*added));
         drawing->commitStep();
 
@@ -401,7 +401,7 @@ private slots:
         QCOMPARE(saved(*drawing), house.bytes());
     }
 
-    /// A file of entities alone gets the header and the tables that edits need.
+    /// A file with nothing but entities gets the header and the tables that edits need.
     void madeTables()
     {
         const QByteArray body = "0 SECTION\n2 ENTITIES\n0 LINE\n8 A\n0 ENDSEC\n0 EOF";
@@ -421,7 +421,7 @@ private slots:
         checkUndo(*drawing, tagged(body));
     }
 
-    /// A seed that some record already has must not be given out again.
+    /// A handle seed that a record already uses must not be given out again.
     void usedSeed()
     {
         House house;
@@ -449,13 +449,13 @@ private slots:
         };
         QVERIFY(!drawing->setLayerProperties(wall, named("X"))); // No step is open.
         QVERIFY(turn("one", true));
-        QVERIFY(turn("none", true)); // Changes nothing: leaves no trace.
+        QVERIFY(turn("none", true)); // It changes nothing and is not recorded.
         QCOMPARE(drawing->undoName(), "one");
         QVERIFY(turn("two", false));
         QCOMPARE(changed.count(), 2);
         QCOMPARE(modified.count(), 1);
 
-        saved(*drawing); // With two steps done.
+        saved(*drawing); // Two steps have been done.
         QVERIFY(!drawing->isModified());
         drawing->undo();
         QVERIFY(drawing->isModified() && drawing->layer(wall)->properties.off);
@@ -465,7 +465,7 @@ private slots:
         drawing->undo();
         drawing->undo();
         QVERIFY(!drawing->canUndo());
-        QVERIFY(turn("other", true)); // The saved state cannot be reached any more.
+        QVERIFY(turn("other", true)); // The saved state is no longer reachable.
         QVERIFY(drawing->isModified() && !drawing->canRedo());
         drawing->undo();
         QVERIFY(drawing->isModified());
@@ -490,7 +490,7 @@ private slots:
         QCOMPARE(changed.count(), 1);
         drawing->rollbackStep();
         QCOMPARE(changed.count(), 2);
-        // There and back: listeners saw it, but no step is left.
+        // The change is reverted within the step: listeners are told, but no step is recorded.
         drawing->beginStep("idle");
         for (const bool off : {true, false}) {
             properties = wall->properties;
@@ -505,8 +505,8 @@ private slots:
         QCOMPARE(saved(*drawing), House().bytes());
     }
 
-    /// Every layer renamed in one step: 20,000 of them, which takes for ever where each costs a
-    /// pass.
+    /// Renames 20,000 layers in one step, which takes very long if each rename needs a pass of its
+    /// own.
     void manyRenames()
     {
         constexpr int kCount = 20000;

@@ -13,7 +13,7 @@ LayerState everything(const Drawing& drawing, const QString& name)
     return state;
 }
 
-/// Other values than before in every property a layer has.
+/// Changes every property of a layer to another value.
 LayerProperties turnedAround(LayerProperties p)
 {
     p.off = !p.off;
@@ -38,13 +38,13 @@ constexpr char kForeign[] = R"(0 LAYERSTATEDICTIONARY
 
 } // namespace
 
-/// Layer states in drawings and in files of their own.
+/// Tests layer states in drawings and in layer state files.
 class TestLayerStates : public Fixture
 {
     Q_OBJECT
 
 private slots:
-    /// The object as the published layout has it, code by code; taken back, nothing of it stays.
+    /// The object has the published form, code by code, and undo removes it completely.
     void storedForm()
     {
         House house;
@@ -112,7 +112,8 @@ private slots:
         QVERIFY(*opened(contentOf(result))->layerState("First") == first);
     }
 
-    /// Replacing keeps the object and its place; what is deleted leaves dictionary and objects.
+    /// A replaced state keeps its object and its place; a deleted one is removed from the
+    /// dictionary and the objects.
     void edits()
     {
         const auto drawing = opened(House().bytes());
@@ -140,7 +141,7 @@ private slots:
         QCOMPARE(opened(saved(*drawing))->layerStateNames(), QStringList({"First", "Other"}));
     }
 
-    /// Layers renamed and deleted later are so in states of the file and in new ones.
+    /// Later renaming and deleting of layers also affects states of the file and new states.
     void followsLayers()
     {
         for (const bool old : {false, true}) {
@@ -181,7 +182,7 @@ private slots:
         QVERIFY((*Drawing::open(path))->layerStates().empty());
     }
 
-    /// A file that cannot be read is not written over.
+    /// A file that cannot be read is not overwritten.
     void brokenBesideOldDrawing()
     {
         House house;
@@ -220,7 +221,7 @@ private slots:
 
     void foreignFile_data()
     {
-        // The code page is that of the drawing; empty: UTF-8.
+        // The code page is that of the drawing; an empty one stands for UTF-8.
         const Rows<QByteArray, QByteArray, QString, QString> row(
             "bytes", "codePage", "text", "told");
         const QByteArray plain = tagged(kForeign);
@@ -239,8 +240,8 @@ private slots:
         row("western", with("caf\xe9"), "ANSI_1252", "café", "ANSI_1252");
     }
 
-    /// What another program wrote: unknown bits and codes, a layer and a weight that do not exist.
-    /// It is used as far as it can be, and the rest is told.
+    /// A file of another program with unknown bits and codes, a missing layer and an invalid
+    /// lineweight. Everything usable is read, and the rest is reported.
     void foreignFile()
     {
         QFETCH(QByteArray, bytes);
@@ -276,7 +277,7 @@ private slots:
 
     void brokenFile_data()
     {
-        // -1 states: refused.
+        // -1 states means that the file is refused.
         const Rows<QByteArray, int, int, QString> row("bytes", "states", "layers", "told");
         const QByteArray plain = tagged(kForeign);
         const QByteArray state = plain.mid(plain.indexOf("LAYERSTATE\n") - 4);
@@ -316,8 +317,7 @@ private slots:
         row("all but colour", kStateEverything & ~kStateColor);
     }
 
-    /// What the mask names is back, all else is as it was changed to, as an independent reader sees
-    /// it.
+    /// Only the properties in the mask are restored, as an independent reader confirms.
     void restored()
     {
         if (!readback::isInstalled())
@@ -365,8 +365,8 @@ private slots:
         QCOMPARE(isSameAsDrawing(state, *drawing), mask == kStateEverything);
     }
 
-    /// The state's current layer comes back first, so that the present one may be frozen; layers it
-    /// does not hold are turned off when asked.
+    /// The state's current layer is restored first, so that the present one can be frozen. Layers
+    /// that the state does not contain are turned off on request.
     void restoredWithCurrent()
     {
         const auto drawing = opened(House().bytes());
@@ -404,7 +404,7 @@ private slots:
         row("would be frozen by the state", false, true, kStateColor, false);
     }
 
-    /// A layer that ends up frozen never becomes current, nor is it thawed to become so.
+    /// A layer that ends up frozen neither becomes current nor is thawed for that purpose.
     void keepsCurrent()
     {
         QFETCH(bool, frozenNow);
@@ -431,7 +431,7 @@ private slots:
         QVERIFY(!isKept || (notices.first().contains(wanted) && notices.first().contains(before)));
     }
 
-    /// Plot styles come back by name where the drawing has them, and leave nothing else changed.
+    /// Plot styles are restored by name when the drawing has them, and nothing else changes.
     void namedPlotStyles()
     {
         const QByteArray bytes = House::withNamedStyles().bytes();

@@ -2,7 +2,7 @@
 
 using namespace drawing;
 
-/// What is read from a file, and what is refused.
+/// Tests what is read from a file and what is refused.
 class TestOpening : public Fixture
 {
     Q_OBJECT
@@ -88,14 +88,14 @@ private slots:
     void layers()
     {
         House house;
-        house.wall = "\xc7\xbd"; // In GBK.
+        house.wall = "\xc7\xbd"; // Encoded in GBK.
         house.current = "\xc7\xbd";
         house.wallRecord = "62 -30\n420 16711680\n6 DASHED\n290 0\n370 50\n1001 AcCmTransparency\n"
                            "1071 33554559\n1001 AcAecLayerStandard\n1000 \n1000 \\U+5899 !";
-        house.layerCount = "999999999999"; // Lies.
+        house.layerCount = "999999999999"; // An absurd count.
         house.moreLayers =
             "0 LAYER\n2 plan|A\n70 39\n0 LAYER\n2 PlanB\n70 16\n0 LAYER\n2 DEFPOINTS\n"
-            "0 LAYER\n2  \n70 0\n"; // Without a name, it is none.
+            "0 LAYER\n2  \n70 0\n"; // A record without a name is not a layer.
         const auto drawing = opened(house.bytes());
 
         QCOMPARE(layerNames(*drawing),
@@ -165,7 +165,7 @@ private slots:
         QVERIFY(!drawing && drawing.error().text.contains("MARTIAN"));
     }
 
-    /// Names that cannot be read are names all the same: told apart, and written as they were.
+    /// Names that cannot be decoded are still different names and are written unchanged.
     void unreadableNames()
     {
         House house;
@@ -187,7 +187,7 @@ private slots:
         const auto drawing = opened(House().bytes());
         const auto count = [&drawing](
                                const char* name) { return drawing->findLayer(name)->entityCount; };
-        // Block heads and what follows an owner do not count.
+        // Block heads and subentities do not count.
         QCOMPARE(count("wall"), 2);
         QCOMPARE(count("0"), 2);
         QCOMPARE(count("Empty"), 0);
@@ -256,7 +256,7 @@ private slots:
         checkUndo(*drawing, bytes);
     }
 
-    /// Tables that are missing are made where something goes into them.
+    /// Missing tables are created when something is added to them.
     void missingTables_data()
     {
         const Rows<QByteArray> row("tables");
@@ -284,7 +284,7 @@ private slots:
         checkUndo(*drawing, bytes);
     }
 
-    /// Of a file that is cut off what is whole can be opened, and saved elsewhere.
+    /// The intact part of a truncated file can be opened and saved elsewhere.
     void wholePart_data()
     {
         const Rows<QByteArray, int, int> row("bytes", "entities", "layers");

@@ -2,16 +2,16 @@
 
 using namespace drawing;
 
-/// What names a layer follows it, and only it. Each row is the house with objects in it, a step,
-/// and the same objects afterwards.
+/// References to a changed layer are updated, and nothing else is. Each row consists of objects in
+/// the house, a step, and the same objects afterwards.
 class TestReferences : public Fixture
 {
     Q_OBJECT
 
     enum Act { Rename, Merge, Delete };
 
-    /// The table's dictionary leads to old filters (D0) and newer ones (D1), the root to mappings
-    /// (F0).
+    /// The layer table's dictionary leads to old filters (D0) and newer ones (D1), the root
+    /// dictionary to mappings (F0).
     static QByteArray house(const QByteArray& objects)
     {
         House made;
@@ -172,7 +172,7 @@ private slots:
         checkUndo(*drawing, original);
     }
 
-    /// New filters, one inside the other, are read back, follow layers and are gone with undo.
+    /// New nested filters are read back, follow layers and disappear with undo.
     void newFilters()
     {
         const auto drawing = opened(House().bytes());
@@ -234,7 +234,7 @@ private slots:
         checkUndo(*drawing, original);
     }
 
-    /// What nobody understands keeps its bytes, and the user is told.
+    /// Data that cannot be interpreted keeps its bytes, and the user is told.
     void opaque_data()
     {
         const Rows<int, QByteArray, bool> row("act", "object", "isNoted");
@@ -272,7 +272,7 @@ private slots:
         row("blank", "Wall 1", false);
     }
 
-    /// Formats up to R12 hold less; what such a file has is kept.
+    /// Formats up to R12 allow fewer names, but names that such a file already has are kept.
     void oldNames()
     {
         QFETCH(QString, name);
@@ -293,7 +293,8 @@ private:
         return file.mid(file.indexOf("ACLYDICTIONARY"));
     }
 
-    /// "name 0 N", "expression 0 X", "layers 0 A,B" or "remove 0", of the filter at that place.
+    /// Executes "name 0 N", "expression 0 X", "layers 0 A,B" or "remove 0" on the filter with that
+    /// index.
     static Expected<void> editFilter(Drawing& drawing, const QList<QByteArray>& act)
     {
         LayerFilter filter = drawing.layerFilters()[act[1].toULong()];

@@ -8,7 +8,7 @@ using namespace drawing;
 
 namespace {
 
-/// A record that was added: it has all its groups.
+/// An added record with all its groups.
 QByteArray newRecord(const QByteArray& handle, const QByteArray& name, const QByteArray& color)
 {
     return "0 LAYER\n5 " + handle +
@@ -46,7 +46,7 @@ Q_DECLARE_METATYPE(LayerMapping)
 Q_DECLARE_METATYPE(Mappings)
 Q_DECLARE_METATYPE(TranslationOptions)
 
-/// Layers brought to a standard, told by the bytes that are left and by what is said of them.
+/// Tests translations to a standard by the bytes that they leave and by their reports.
 class TestTranslation : public Fixture
 {
     Q_OBJECT
@@ -54,7 +54,8 @@ class TestTranslation : public Fixture
 private slots:
     void renames_data()
     {
-        // Pairs of an old and a new name; what the layers A, B, C and the long one are called then.
+        // Pairs of an old and a new name; then the resulting names of the layers A, B, C and the
+        // long one.
         const Rows<QStringList, NameClash, QStringList, int> row(
             "wanted", "clash", "after", "refused");
         const QString old = kLongName;
@@ -84,7 +85,7 @@ private slots:
         merging("behind a circle, merged", {"A>B", "B>C", "C>B"}, {"", "C", "B"});
     }
 
-    /// In a file whose version allows 31 characters and which has a name of more.
+    /// The file's version allows 31 characters, and the file has a longer name.
     void renames()
     {
         QFETCH(QStringList, wanted);
@@ -105,7 +106,8 @@ private slots:
         drawing->beginStep("rename");
         for (const LayerRenamed& renamed : renameLayers(*drawing, renames, clash)) {
             refused -= renamed.outcome == LayerRenamed::Outcome::Refused ? 1 : 0;
-            QVERIFY2(!renamed.cause.contains("X$"), qPrintable(renamed.cause)); // Nobody typed it.
+            // The temporary name must not appear.
+            QVERIFY2(!renamed.cause.contains("X$"), qPrintable(renamed.cause));
         }
         drawing->commitStep();
         QStringList after;
@@ -232,8 +234,8 @@ private slots:
         const auto transparency = only(&TranslationOptions::transparencyByLayer);
         const QByteArray own = "0 MTEXT\n100 AcDbEntity\n8 Wall\n62 5\n420 255\n430 RAL 5010\n"
                                "6 Dashed\n440 33554559\n";
-        // Other subclasses, embedded objects and applications use the codes for things of their
-        // own.
+        // Other subclasses, embedded objects and applications use the same codes for other
+        // purposes.
         const QByteArray foreign = "100 AcDbMText\n62 8\n6 x\n440 9\n101 Embedded Object\n62 3\n";
         row("colour", color, own + foreign,
             "0 MTEXT\n100 AcDbEntity\n8 Wall\n6 Dashed\n440 33554559\n" + foreign);
@@ -293,7 +295,7 @@ private slots:
         QVERIFY(!drawing->findLayer("New"));
 
         const QByteArray before = saved(*drawing);
-        QVERIFY(!translateLayers(*drawing, {mapping("Keep", "0")}, {})); // Without a step.
+        QVERIFY(!translateLayers(*drawing, {mapping("Keep", "0")}, {})); // No step is open.
         QCOMPARE(saved(*drawing), before);
     }
 
@@ -356,7 +358,7 @@ private slots:
         QCOMPARE(mappings[0].to.colorIndex, 5);
     }
 
-    /// The canvas reads the file, which still has the colour.
+    /// The canvas reads the original file, which still contains the colour.
     void colorFollowsOnTheCanvas()
     {
         Yard yard;

@@ -5,9 +5,9 @@ using namespace drawing;
 
 namespace {
 
-constexpr int kNewest = 1; // Of the layouts in `sheetsDrawing`: the file's own, A1.
+constexpr int kNewest = 1; // The active layout of `sheetsDrawing`, A1.
 
-/// The names of the layers that the viewport shown freezes.
+/// The names of the layers that are frozen in the current viewport.
 QStringList frozen(const Drawing& drawing)
 {
     QStringList names;
@@ -16,14 +16,14 @@ QStringList frozen(const Drawing& drawing)
     return names;
 }
 
-/// Shows a layout in a step of its own; -1 is model space, which is shown already.
+/// Shows a layout in a step of its own; -1 is model space, which is already shown.
 void show(Drawing& drawing, int layout)
 {
     if (layout >= 0)
         QVERIFY(inStep(drawing, [&] { return drawing.showLayout(layout); }));
 }
 
-/// Gives a layer another colour in the viewport of the newest layout.
+/// Overrides a layer's colour in the viewport of the active layout.
 void overrideColor(Drawing& drawing, const QString& layer)
 {
     show(drawing, kNewest);
@@ -35,13 +35,14 @@ void overrideColor(Drawing& drawing, const QString& layer)
 
 } // namespace
 
-/// Layouts, and what their viewports show otherwise than the layers say.
+/// Tests layouts and the layers that their viewports show differently.
 class TestViewportLayers : public Fixture
 {
     Q_OBJECT
 
 private slots:
-    /// The layout shown is that of the object chosen, whichever section its entities stand in.
+    /// The selected layout is shown, whether its entities are in the ENTITIES section or in a
+    /// block.
     void layouts()
     {
         const auto drawing = opened(sheetsDrawing());
@@ -74,7 +75,7 @@ private slots:
 
     void visibility_data()
     {
-        // Layout -1 is model space. The state hides Wall, and does not hold layer 0.
+        // Layout -1 is model space. The state hides Wall and does not contain layer 0.
         const Rows<int, bool, int, QStringList, QStringList, QByteArray> row(
             "layout", "fromLayout", "mask", "before", "after", "list");
         const int bit = kStateCurrentViewport;
@@ -118,7 +119,7 @@ private slots:
         }
     }
 
-    /// What is pointed at gets a handle where it has none.
+    /// Objects that are pointed at get a handle if they have none.
     void missingHandles()
     {
         const QByteArray bytes =
@@ -137,7 +138,7 @@ private slots:
         checkUndo(*drawing, bytes);
     }
 
-    /// A layer that goes is in no viewport's list, and what viewports overrode of it goes with it.
+    /// A deleted layer disappears from the lists of all viewports, together with its overrides.
     void forgetsLayers()
     {
         const auto drawing = opened(sheetsDrawing());
@@ -154,8 +155,8 @@ private slots:
         QVERIFY(saved(*drawing).contains("ADSK_XREC_LAYER_COLOR_OVR"));
     }
 
-    /// A viewport that is deleted leaves no half of an override behind, which would be taken for
-    /// another viewport's.
+    /// A deleted viewport leaves no incomplete override behind, which would be taken for that of
+    /// another viewport.
     void forgetsViewports()
     {
         QByteArray bytes = sheetsDrawing();
@@ -170,7 +171,8 @@ private slots:
         QVERIFY(!without.contains("420\n"));
     }
 
-    /// The layers keep their own; what is so anyway is not overridden, and an override ends so.
+    /// Layers keep their own properties. A value that equals the layer's own is not an override and
+    /// ends an existing one.
     void overridesSeenByOthers()
     {
         if (!readback::isInstalled())
@@ -224,7 +226,7 @@ private slots:
 
     void cannotOverride_data()
     {
-        // The colour is that of the layer itself; the state has 3.
+        // The colour is that of the layer itself; the state contains 3.
         const Rows<QByteArray, int, QString, int> row("bytes", "layout", "notice", "color");
         House old;
         old.version = "AC1009";
@@ -234,7 +236,8 @@ private slots:
         row("model space", sheetsDrawing(), -1, "线型", 3);
     }
 
-    /// What cannot be overridden is said and does not reach the layer itself; all else is restored.
+    /// Properties that cannot be overridden are reported and not applied to the layer itself;
+    /// everything else is restored.
     void cannotOverride()
     {
         QFETCH(QByteArray, bytes);

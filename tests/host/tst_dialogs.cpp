@@ -24,7 +24,7 @@ Q_DECLARE_METATYPE(OdString)
 
 namespace {
 
-/// A service whose dialogs cannot be made.
+/// A service that fails to make dialogs.
 class ThrowingService : public vnsi::VnUiService
 {
 public:
@@ -109,7 +109,7 @@ private slots:
             const QStringList seen{dialog.windowTitle(), tip, name->text()};
             QCOMPARE(seen.join('|'), labels);
             if (!typed.isEmpty())
-                name->insert(typed); // Replaces the text, which is selected.
+                name->insert(typed); // Replaces the selected text.
             QTest::keyClick(name, accepts ? Qt::Key_Return : Qt::Key_Escape);
         });
         QTEST(toText(showRename(tree(keys))), "answers");
@@ -139,7 +139,8 @@ private slots:
 
     void readsFileKeys_data()
     {
-        // Seen are title, for opening, several files, selected filter, suffix, number of filters.
+        // The seen values are title, opening, several files, selected filter, suffix, and number of
+        // filters.
         const Rows<QString, QString> row("keys", "seen");
         row("layer-state export",
             R"({"caption":"输出图层状态","Open":false,"MutiFile":false,)"

@@ -18,7 +18,7 @@ constexpr OdInt64 kWide = 1LL << 40;
 constexpr OdInt32 kFallbackI = -7;
 constexpr OdInt64 kFallbackL = -8;
 
-/// What the getters read under "k": the text of each, "-" where the fallback came back.
+/// The text of each getter's result for "k"; "-" when the getter returned its fallback.
 QString readings(const VnJsonPtr& node)
 {
     const bool isBool = node->GetDataB("k", true) == node->GetDataB("k", false);
@@ -161,7 +161,7 @@ private slots:
         QCOMPARE(root->GetDataJ("a/list").ArrayCount(), 1);
         QVERIFY(!host::hasKey(inner, "up"));
         QVERIFY(!host::hasKey(inner, "deep/up"));
-        // The same node in two places is no cycle.
+        // The same node in two places is not a cycle.
         root->SetDataJ("b", root->GetDataJ("a"));
         QVERIFY(root->GetDataJ("b") == root->GetDataJ("a"));
         inner->SetDataJ("x", ElementValue::createObject(0));
@@ -170,7 +170,8 @@ private slots:
 
     void keepsOrderAndSpeedWithManyKeys()
     {
-        constexpr int kKeys = 200000; // Minutes, were a look-up or a removal to walk all members.
+        // This takes minutes if a look-up or a removal visits all members.
+        constexpr int kKeys = 200000;
         const VnJsonPtr node = ElementValue::createObject(0);
         for (int i = 0; i < kKeys; ++i)
             node->SetDataI(QByteArray::number(i).constData(), i);

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// A drawing of entities, the layer of each and further groups, and of layers that are empty.
+/// A drawing with entities, each given by its layer and further groups, and with empty layers.
 QByteArray drawingOf(std::initializer_list<std::pair<const char*, const char*>> entities,
     const char* version = "AC1015", QByteArrayList layers = {})
 {
@@ -28,7 +28,7 @@ QByteArray drawingOf(std::initializer_list<std::pair<const char*, const char*>> 
            "0\nENDSEC\n0\nEOF\n";
 }
 
-/// A rule file in which only the rules named count.
+/// A rule file in which only the given rules are on.
 QByteArray rulesWith(const QByteArray& keys, const QByteArrayList& on)
 {
     QJsonObject levels;
@@ -117,7 +117,7 @@ void TestCheck::rules_data()
         "DOOR");
 }
 
-/// Each rule finds its layer and no other, and nothing when it is off.
+/// Each rule reports its layer and no other, and nothing when it is off.
 void TestCheck::rules()
 {
     QFETCH(QByteArray, rule);
@@ -197,7 +197,7 @@ void TestCheck::misuse_data()
         "x");
 }
 
-/// A rule file that says nothing sensible is refused; it must not pass for one without findings.
+/// An invalid rule file is refused. It must not look like one without findings.
 void TestCheck::misuse()
 {
     QFETCH(QByteArray, rules);
@@ -223,7 +223,8 @@ void TestCheck::baseline()
     QCOMPARE(run.row("plan.dxf", "layer", "DOOR").value("known").toBool(), false);
 }
 
-/// What `check` finds and can be mended is gone after `fix`, for another run and another reader.
+/// Findings of `check` that can be corrected are gone after `fix`, for another run and for another
+/// reader.
 void TestCheck::fixed()
 {
     m->copy("office-floor.dxf", "plan.dxf");
@@ -253,7 +254,7 @@ void TestCheck::fixed()
     QCOMPARE(errors("plan.dxf"), errors("was.dxf"));
 }
 
-/// The members that the published schema requires, and what it says of regions and addresses.
+/// The log has the members that the published schema requires, and valid regions and addresses.
 void TestCheck::sarif()
 {
     m->copy("office-floor.dxf", "plan A/层#1.dxf");
@@ -290,7 +291,7 @@ void TestCheck::sarif()
         const QJsonObject region = place.value("region").toObject();
         const int first = region.value("startLine").toInt(), last = region.value("endLine").toInt();
         QVERIFY(first >= 1 && last >= first);
-        // The layer's own record, from its first line to its last.
+        // The region is the layer's own record, from its first to its last line.
         const QString layer =
             location.value("logicalLocations").toArray().at(0).toObject().value("name").toString();
         QCOMPARE(lines.at(first - 1).trimmed(), QByteArray("0"));
@@ -307,7 +308,7 @@ void TestCheck::sarif()
     QCOMPARE(clean.value("results").toArray().size(), 0);
 }
 
-/// Well-formed whatever layers are called, each case with a key of its own.
+/// The XML is well-formed whatever the names of layers are, and each case has a different key.
 void TestCheck::junit()
 {
     m->write(

@@ -16,7 +16,7 @@ namespace {
 constexpr char kRename[] = "rename --table names.csv --out out --format json ";
 constexpr int kMany = 40;
 
-/// Sends a signal to a process that this one started; false when it has none (any more).
+/// Sends a signal to a child of a process; returns false when it has none (any more).
 bool signalChild(const QProcess& process, int number)
 {
     QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(process.processId()));
@@ -76,7 +76,7 @@ void TestEngine::init()
     m->copy("office-floor.dxf", "plan.dxf");
 }
 
-/// A run over many drawings that is under way, its first answer given.
+/// Starts a run over many drawings and waits for its first answer.
 void TestEngine::startMany(QProcess& process, const char* more) const
 {
     m->copies("office-floor.dxf", kMany);
@@ -85,7 +85,7 @@ void TestEngine::startMany(QProcess& process, const char* more) const
     process.waitForReadyRead(60000);
 }
 
-/// What one undisturbed run makes of the same drawings.
+/// The outputs of an undisturbed run over the same drawings.
 QMap<QString, QByteArray> TestEngine::whole() const
 {
     m->run("rename --table names.csv --out undisturbed in");
@@ -138,7 +138,7 @@ void TestEngine::misuse()
     QCOMPARE(m->read("plan.dxf"), before);
 }
 
-/// The drawing in front has the name of the one that was done before.
+/// The drawing listed first has the same name as one that an earlier run processed.
 void TestEngine::sameNames()
 {
     m->copy("office-floor.dxf", "b/plan.dxf");
@@ -196,7 +196,7 @@ void TestEngine::redone()
     QCOMPARE(m->read("out/plan.dxf"), m->read("fresh/plan.dxf"));
 }
 
-/// What an earlier run wrote, and this one does not, must not pass for a part of the result.
+/// Files of an earlier run that a new run does not write must not seem to belong to its result.
 void TestEngine::outdated()
 {
     QCOMPARE(m->run("split --out out plan.dxf").code, 0);
@@ -207,7 +207,7 @@ void TestEngine::outdated()
     QVERIFY(!m->tree("out").contains("plan/A-WALL.dxf"));
 }
 
-/// A line counts by the time it tells, wherever it stands; half a line counts for nothing.
+/// The time in a line decides which is newest, not its place. An incomplete line is ignored.
 void TestEngine::newerLine()
 {
     QCOMPARE(m->run(QByteArray(kRename) + "plan.dxf").code, 0);
@@ -228,7 +228,7 @@ void TestEngine::newerLine()
     QCOMPARE(m->run("report out").output.count("\r\n"), 3);
 }
 
-/// A verb that reads keeps its results beside those of another, and its exit code with them.
+/// Verbs that only read keep separate results and exit codes.
 void TestEngine::verbsApart()
 {
     m->write("rules.json", R"({"forbidden": ["A-WALL"], "extends": "base.json"})");
@@ -237,7 +237,7 @@ void TestEngine::verbsApart()
     const char* const list = "list --format csv plan.dxf";
     const Run first = m->run(check);
     QCOMPARE(first.code, 1);
-    // Fresh, with a journal and out of it.
+    // Once without a journal, once with a new one, and once from the journal.
     for (const char* out : {" --out out", " --out out"})
         QCOMPARE(m->run(QByteArray(list) + out).output, m->run(list).output);
     QCOMPARE(m->run(QByteArray(kRename) + "plan.dxf").code, 0);
@@ -245,7 +245,7 @@ void TestEngine::verbsApart()
     QCOMPARE(again.code, 1);
     QCOMPARE(again.drawing("plan.dxf").value("status"), "skipped");
     QCOMPARE(again.rows("plan.dxf"), first.rows("plan.dxf"));
-    // What a rule file builds on is a part of it.
+    // Files that a rule file extends are part of it.
     m->write("base.json", R"({"forbidden": ["A-DOOR"]})");
     QCOMPARE(m->run(check).drawing("plan.dxf").value("status"), "done");
     QCOMPARE(m->run(QByteArray(kRename) + "plan.dxf").counted("status").firstKey(), "skipped");
@@ -333,7 +333,7 @@ void TestEngine::locked()
     QCOMPARE(m->tree("out").contains("plan.dxf"), code == 0);
 }
 
-/// A drawing that takes too long, or too much, costs itself.
+/// A drawing that takes too much time or memory affects no other.
 void TestEngine::limits()
 {
     QProcess process;
@@ -362,7 +362,7 @@ void TestEngine::failFast()
     QCOMPARE(run.counted("status"), (QMap<QString, int>{{"cancelled", 3}, {"failed", 1}}));
 }
 
-/// What changes is replaced, its original kept beside it; what does not is left alone.
+/// A changed drawing is replaced and its original kept beside it; an unchanged one stays as it is.
 void TestEngine::inPlace()
 {
     m->copy("site-plan.dxf", "site.dxf");
@@ -374,7 +374,7 @@ void TestEngine::inPlace()
         QStringList({"names.csv", "other.csv", "plan.dxf", "plan.dxf.bak", "site.dxf"}));
 }
 
-/// Somebody saves the drawing while its first part is written already.
+/// The drawing is saved by somebody else after its first part was written.
 void TestEngine::changedMeanwhile()
 {
     QProcess process;
@@ -437,7 +437,7 @@ void TestEngine::shards()
     QCOMPARE(m->run("report out").output, one);
 }
 
-/// Shards on "several" hosts, killed in the middle and run again in another number.
+/// Shards on "several" hosts are killed half-way and run again with another division.
 void TestEngine::manyMachines()
 {
     if (QStandardPaths::findExecutable("parallel").isEmpty())

@@ -12,7 +12,8 @@ Q_DECLARE_METATYPE(std::function<QByteArray(QByteArray)>)
 
 namespace {
 
-/// Entities an independent reader sees on a layer, of a kind: "layouts", "blocks", "ownColor", ...
+/// The number of entities on a layer that an independent reader sees; `what` is a kind such as
+/// "layouts", "blocks" or "ownColor".
 int countOf(const QJsonObject& seen, const QString& layer, const char* what)
 {
     const QJsonObject layers = seen.value(QLatin1String("layers")).toObject();
@@ -32,7 +33,7 @@ QByteArray inCodec(const char* codec, const QByteArray& utf8)
     return QTextCodec::codecForName(codec)->fromUnicode(QString::fromUtf8(utf8));
 }
 
-/// Layers as the rows of a table, for drawings made in a test.
+/// A table with these layers, for drawings that a test makes.
 QByteArray table(std::initializer_list<const char*> names)
 {
     QByteArray text = "name\n";
@@ -119,7 +120,7 @@ void TestVerbs::roundTrip_data()
         [](const QByteArray& text) { return inCodec("UTF-16", text); });
 }
 
-/// What nobody edited gives the drawing back, byte for byte.
+/// A table that nobody edited gives back the same drawing, byte for byte.
 void TestVerbs::roundTrip()
 {
     QFETCH(QByteArray, sample);
@@ -173,7 +174,7 @@ void TestVerbs::cells_data()
     row("a new name for layer 0", "name,new name\n0,ZERO\n", "B2");
 }
 
-/// A row that cannot be done is named with its cell, and nothing of it is done.
+/// An invalid row is reported with its cell, and nothing of it is applied.
 void TestVerbs::cells()
 {
     QFETCH(QByteArray, table);
@@ -185,7 +186,7 @@ void TestVerbs::cells()
         run.output.constData());
 }
 
-/// Rows for other drawings are not for this one; columns nobody knows are told.
+/// Rows for other drawings are ignored, and unknown columns are reported.
 void TestVerbs::tableOfMany()
 {
     m->copy("office-floor.dxf", "other.dxf");
@@ -231,7 +232,7 @@ void TestVerbs::rename()
     QTEST(after.join(' ').toUtf8(), "after");
 }
 
-/// What is on a layer keeps its place under the new name, for other readers, too.
+/// The contents of a layer stay where they are under its new name, for other readers as well.
 void TestVerbs::renamedContent()
 {
     if (!readback::isInstalled())
@@ -288,7 +289,7 @@ void TestVerbs::removal()
     }
     QStringList expected = before;
     expected.removeAll(gone);
-    if (line == "purge") { // Others of the sample's are empty, too.
+    if (line == "purge") { // Other layers of the sample are empty, too.
         QVERIFY(!layers("out/plan.dxf").contains("EMPTY"));
         QVERIFY(layers("out/plan.dxf").contains("CURRENT"));
     } else {
@@ -353,7 +354,8 @@ void TestVerbs::split_data()
     row("by first fields", "--by field");
 }
 
-/// Each part is whole for other readers, and together they hold what was placed, each once.
+/// Each part is a complete drawing for other readers, and together they contain every inserted
+/// entity exactly once.
 void TestVerbs::split()
 {
     if (!readback::isInstalled())
@@ -378,7 +380,7 @@ void TestVerbs::split()
     QCOMPARE(m->tree("out").size(), run.rows("plan.dxf").size());
 }
 
-/// Names of old files that lead out of the folder, or that one file system takes for one.
+/// Names of old files that lead out of the folder, or that some file systems treat as equal.
 void TestVerbs::oddNames()
 {
     const QByteArrayList names{
@@ -450,7 +452,7 @@ void TestVerbs::translate_data()
     row("by layer", "--option color-bylayer --option linetype-bylayer --option blocks", true, true);
 }
 
-/// Two layers of three come to one target, the others stay what they are.
+/// Two of three layers are translated to one target; the others stay unchanged.
 void TestVerbs::translate()
 {
     if (!readback::isInstalled())
@@ -495,7 +497,7 @@ void TestVerbs::translate()
     QCOMPARE(after.value("errors"), before.value("errors"));
 }
 
-/// The log lies beside its drawing, also of a name as long as there are.
+/// The log is beside its drawing, even when the drawing has the longest possible name.
 void TestVerbs::translationLog()
 {
     TargetLayer wall;

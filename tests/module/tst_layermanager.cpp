@@ -38,13 +38,13 @@ QString request(int code)
     return QStringLiteral(R"(request|%1|0|{"marker":%1})").arg(code);
 }
 
-/// A command's answer to the request for a new layer.
+/// Answers the request for a new layer.
 void addLayer(const VnJsonPtr& root)
 {
     hostextras::append(root->GetDataJ("LayerList"), tree(layer("图层1", 1, R"(,"Selected":true)")));
 }
 
-/// A key as the keyboard sends it: with the text that an item view would search for.
+/// Sends a key with the text that an item view would search for.
 void typeKey(QWidget* widget, Qt::Key key, const QString& text)
 {
     QTest::sendKeyEvent(QTest::Click, widget, key, text, Qt::NoModifier);
@@ -66,7 +66,7 @@ private slots:
 
     void deletesSelected_data()
     {
-        // The names of the selected records and more of their members.
+        // The names of the selected records and further members of theirs.
         const Rows<QStringList, QStringList, int> row("more", "after", "refused");
         const QString marked = R"({"CurLayer":2,"LayerName":"%1","Modified":1,"Selected":true})";
         const QString kept = R"({"CurLayer":1,"LayerName":"%1","Selected":true})";
@@ -123,7 +123,7 @@ private slots:
             typeKey(&widget, Qt::Key_Delete, "\x7f");
             QCOMPARE(manager.host.log(), (QStringList{refusal(1, 2), request(1)}));
             QVERIFY(manager.shows(1, 0, "deleted"));
-            QCOMPARE(manager.table->currentRow(), 1); // The keyboard goes on from here.
+            QCOMPARE(manager.table->currentRow(), 1); // The keyboard continues from this row.
         }
     }
 
@@ -153,7 +153,7 @@ private slots:
         QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
         QCOMPARE(manager.table->columnWidth(1), 222);
         QVERIFY(manager.isApplyEnabled());
-        manager.press("newLayerButton"); // Widths are replaced, not added.
+        manager.press("newLayerButton"); // The widths are replaced, not appended.
         QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
     }
 
@@ -187,7 +187,7 @@ private slots:
         ManagerDriver manager(m_module,
             layerTree({layer("0", 0), layer("A"), layer("B"), layer("C"), layer("D")}), {},
             {"SelectCount", "LastIndex", "LastSelectedIndex"});
-        manager.select({3, 4, 1}); // The range selected last ends at row 1.
+        manager.select({3, 4, 1}); // The last selected range ends at row 1.
         manager.press("newLayerButton");
         QCOMPARE(manager.host.log(), QStringList{R"(request|0|0|{"LastIndex":4,)"
                                                  R"("LastSelectedIndex":1,"SelectCount":3})"});
@@ -195,7 +195,7 @@ private slots:
 
     void setsCurrentByButton_data()
     {
-        // The answer is 0 where nothing is asked.
+        // The answer is 0 when nothing is asked.
         const Rows<QString, int, QString, bool, bool> row(
             "more", "answer", "asked", "isCurrent", "isOff");
         row("plain", "{}", 0, "", true, false);
@@ -228,7 +228,7 @@ private slots:
         QVERIFY(manager.shows(0, 0, isCurrent ? "nocurrent" : "current"));
         QVERIFY(manager.isApplyEnabled());
         QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
-        if (isCurrent) { // The rules of the current layer go with it.
+        if (isCurrent) { // The restrictions of the current layer move with it.
             manager.click(1, 3);
             QVERIFY(!manager.record(1)->GetDataB("Frozen"));
         }
@@ -291,7 +291,7 @@ private slots:
 
     void renames_data()
     {
-        // Refused with this message; empty for none.
+        // The message of the refusal; empty for none.
         const Rows<QString, QString, QString> row("typed", "stored", "refused");
         const QString length = "message|名称 的长度必须至少为一个字符|图层 - 文字长度|64";
         const QString tooLong =
@@ -337,7 +337,7 @@ private slots:
         QTEST(toJsonObject(manager.record(1))["LayerName"].toString(), "stored");
         QCOMPARE(manager.cell(1, 1)->textAlignment(), 129);
         QVERIFY(!(manager.cell(1, 1)->flags() & Qt::ItemIsEditable));
-        QVERIFY(manager.record(1)->GetDataB("Modified")); // Refused or not.
+        QVERIFY(manager.record(1)->GetDataB("Modified")); // Whether the name was refused or not.
         QVERIFY(manager.isApplyEnabled());
         QVERIFY(!manager.table->signalsBlocked());
     }
@@ -391,7 +391,7 @@ private slots:
 
     void closes_data()
     {
-        // No button stands for the Esc key.
+        // An empty button name stands for the Esc key.
         const Rows<QByteArray, QString, int, QString, int> row(
             "button", "modified", "answer", "log", "code");
         const QString apply = request(4);
@@ -434,12 +434,13 @@ private slots:
             });
         manager.click(1, 2);
         QVERIFY(manager.isApplyEnabled());
-        manager.record(0)->SetDataB("Selected", true); // From an earlier request.
+        manager.record(0)->SetDataB("Selected", true); // A remainder of an earlier request.
         manager.press("applyButton");
         QCOMPARE(manager.host.log(), QStringList{request(4)});
-        QCOMPARE(manager.selectedRows(), QList<int>{1}); // Told with the request, and kept.
+        // The selection was sent with the request and is kept.
+        QCOMPARE(manager.selectedRows(), QList<int>{1});
         QVERIFY(!manager.record(0)->GetDataB("Selected", true));
-        QVERIFY(manager.shows(1, 2, "on")); // Refilled from what the command answered.
+        QVERIFY(manager.shows(1, 2, "on")); // The table was filled again from the command's answer.
         QVERIFY(!manager.isApplyEnabled());
         QVERIFY(manager.dialog.window()->isVisible());
     }
@@ -493,7 +494,8 @@ private slots:
         QCOMPARE(manager.table->rowCount(), 1);
         auto* const group = manager.dialog.window()->findChild<QButtonGroup*>();
         QVERIFY(QMetaObject::invokeMethod(group, "buttonClicked", Q_ARG(int, 0)));
-        QCOMPARE(manager.host.log(), QStringList{request(0)}); // Not once a connection.
+        // And not one request per connection.
+        QCOMPARE(manager.host.log(), QStringList{request(0)});
         QVERIFY(host::hasKey(second, "marker") && !host::hasKey(manager.root, "marker"));
     }
 

@@ -24,7 +24,8 @@ namespace {
 constexpr int kDescription = 3;
 constexpr int kNotAsked = 9;
 
-/// Two states of the drawing, one of a reference, and one with a bit in its mask that nobody knows.
+/// Two states of the drawing, one of an external reference, and one with an unknown bit in its
+/// mask.
 const QString kTree = QStringLiteral(R"({"LayerStateMgr":[{},{"currentLState":"B","LayerStateList":[
     {"LayerStateName":"A","space":"模型","isSame2DWG":true,"desc":"first","LayerStateMaskIs":1057},
     {"LayerStateName":"B","space":"布局","isSame2DWG":false,"desc":"","Selected":true},
@@ -50,7 +51,7 @@ QString text(const VnJsonPtr& node, const char* key)
     return vnutOdStringToQString(node->GetDataSW(key));
 }
 
-/// What the objects of a list have under `key`, with blanks between.
+/// The values of `key` in the objects of a list, separated by blanks.
 QString texts(const VnJsonPtr& list, const char* key)
 {
     QStringList texts;
@@ -59,13 +60,13 @@ QString texts(const VnJsonPtr& list, const char* key)
     return texts.join(' ');
 }
 
-/// A button of the manager: what it asks, how the host answers that, and what it sends then.
+/// A button of the manager: what it asks, how the host answers that, and which request follows.
 struct ButtonRow
 {
-    const char* name; ///< Of the button; a click on the description where there is none.
+    const char* name; ///< The button's name; null for a click on the description.
     int answer;
-    const char* members; ///< Of a dialog's answer.
-    const char* asked;   ///< How the log's line begins.
+    const char* members; ///< The members of the dialog's answer.
+    const char* asked;   ///< The beginning of the line in the log.
     const char* sent;
     bool fillsAgain;
 
@@ -109,7 +110,7 @@ const QStringList kArguments{"LayerStateNewName", "desc", "DeleteNameOne", "Laye
     "LStateTCheckBox", "LStateWCheckBox", "LStateRefLayer", "LStatefilePaths", "LStateName",
     "LStatefilePathsSW", "NewDescName", "selectItemName"};
 
-/// What a command may do to the elements while it answers.
+/// Something that a command may do to the elements while it answers.
 struct MischiefRow
 {
     const char* name;
@@ -133,7 +134,7 @@ const MischiefRow kMischiefs[] = {
 Q_DECLARE_METATYPE(const ButtonRow*)
 Q_DECLARE_METATYPE(const MischiefRow*)
 
-/// The four dialogs of layer states, by what they show, ask and send.
+/// Tests the four dialogs of layer states by what they show, ask and send.
 class TestLayerStates : public DialogFixture
 {
     Q_OBJECT
@@ -150,7 +151,7 @@ private slots:
 
     void cleanup() { stop(); }
 
-    /// Whatever the records say, the last row is the one selected.
+    /// The last row is selected, whatever the records say.
     void filled()
     {
         open(kManager, kTree);
@@ -169,8 +170,8 @@ private slots:
         QVERIFY(!isEnabled("restoreButton"));
     }
 
-    /// Eleven boxes in the order of the screen, each with its bit; they show the selected state's
-    /// mask.
+    /// The eleven boxes are in the order of the screen, each has its bit, and they show the mask of
+    /// the selected state.
     void maskBoxes()
     {
         auto& table = openManager({3});
@@ -188,7 +189,7 @@ private slots:
                 bits |= box->isChecked() ? box->objectName().mid(7).toInt() : 0;
             return bits;
         };
-        QCOMPARE(checkedBits(), 2); // 2050 without the bit nobody knows.
+        QCOMPARE(checkedBits(), 2); // 2050 without its unknown bit.
         selectRows(table, {0});
         QCOMPARE(checkedBits(), 1057);
         press("selectAllButton");
@@ -241,7 +242,7 @@ private slots:
             row(button.name ? button.name : "description", &button);
     }
 
-    /// Each button with what it shows and the request behind it; what was saved is selected again.
+    /// Each button shows its dialog and sends its request. A saved state is selected again.
     void requests()
     {
         QFETCH(const ButtonRow*, button);
@@ -317,7 +318,7 @@ private slots:
         row("restored", R"({"LayerStateListRefOK":true,"LayerStateYesNoRestore":true})", "6 5");
     }
 
-    /// An answer left over from an earlier import does not count.
+    /// An answer that an earlier import left behind does not count.
     void imported()
     {
         QFETCH(QString, answer);
@@ -333,7 +334,7 @@ private slots:
         QTEST(codes(), "codes");
     }
 
-    /// Export goes by the selected row, and needs a path; a description is that of the selected
+    /// Export applies to the selected row and needs a path; a description belongs to the selected
     /// row.
     void selectedOrCurrent()
     {
@@ -360,7 +361,8 @@ private slots:
         }
     }
 
-    /// The answers come from the node that was asked, the list is the one that is there behind it.
+    /// Answers are read from the node that was sent, and the list from the tree as it is
+    /// afterwards.
     void elementsChange()
     {
         QFETCH(const ButtonRow*, button);
@@ -386,7 +388,8 @@ private slots:
             row(mischief.name, &mischief);
     }
 
-    /// Elements that go in the middle of several deletions, and between the editor's two requests.
+    /// The elements disappear in the middle of several deletions, or between the editor's two
+    /// requests.
     void deletesOnWithoutElements()
     {
         QFETCH(const MischiefRow*, mischief);
@@ -418,7 +421,7 @@ private slots:
         }
     }
 
-    /// A dialog or question that is cancelled, or that breaks in the host, ends it there.
+    /// Cancelling a dialog or question, or a failure of the host, ends the action.
     void brokenOff()
     {
         QFETCH(const ButtonRow*, button);
@@ -430,7 +433,8 @@ private slots:
             return 2;
         });
         clickOn(*button);
-        QCOMPARE(codes(), QString(button->code() == 0 ? "0" : "")); // The editor opens behind it.
+        // The editor is opened after it.
+        QCOMPARE(codes(), QString(button->code() == 0 ? "0" : ""));
     }
 
     void nobodyToAsk()
@@ -489,7 +493,7 @@ private slots:
         QVERIFY(box.currentText().isEmpty() && !ok.isEnabled());
         box.setEditText("  ");
         QVERIFY(!ok.isEnabled());
-        box.setCurrentIndex(0); // Picked from the list; its description comes along.
+        box.setCurrentIndex(0); // Choosing an entry of the list also fills in its description.
         QCOMPARE(find<QTextEdit>("descriptionEdit").toPlainText(), "old");
         QVERIFY(ok.isEnabled());
         box.setEditText(name);
@@ -547,7 +551,7 @@ private slots:
             m_host->answer(answer);
         emit table.cellClicked(row, column);
         const VnJsonPtr list = element(2)->GetDataJ("LayerStateList");
-        const VnJsonPtr record = list(row == 0 ? 0 : row + 1); // One is not shown.
+        const VnJsonPtr record = list(row == 0 ? 0 : row + 1); // One record is not shown.
         const QJsonArray member{toJsonObject(record).value(key)};
         const QByteArray json = QJsonDocument(member).toJson(QJsonDocument::Compact);
         QTEST(QString::fromUtf8(json.mid(1, json.size() - 2)), "value");
@@ -555,9 +559,9 @@ private slots:
             QCOMPARE(list(0)->GetDataI("CurLayer"), row == 0 ? 1 : 0);
     }
 
-    /// What the table lacks is offered, also what was removed from it; the drawing's own records
-    /// stay as they are. Of all records one says that it is the current layer's, also when that
-    /// one's was removed.
+    /// Layers that the table lacks are offered, including removed ones, and the drawing's own
+    /// records stay as they are. Exactly one record claims to be the current layer, even when the
+    /// record that did was removed.
     void editAdds()
     {
         auto& table = openEditor();
@@ -595,7 +599,7 @@ private slots:
         const Rows<int, QString> row("deletions", "codes");
         row("nothing removed", 0, "1");
         row("one removed", 1, "2 1");
-        row("nothing selected the second time", 2, "1"); // So that nothing is pending.
+        row("nothing selected the second time", 2, "1"); // Makes sure that nothing is pending.
     }
 
     void editSends()
@@ -624,18 +628,19 @@ private slots:
             QStringLiteral(R"({"NeedAddlayerList":[{"LayerName":"Wall","Description":"d"},
                 {"LayerName":"wall","Selected":true},{"LayerName":"Door"}]})"));
         auto& table = find<QTableWidget>("candidateTable");
-        QVERIFY(table.itemDelegate()); // Else the rows are there, but nothing of them is painted.
+        QVERIFY(table.itemDelegate()); // Without a delegate the rows exist but are not painted.
         QCOMPARE(rowTexts(table).first(), "Wall|d");
         QVERIFY(table.selectedItems().isEmpty());
         const VnJsonPtr list = m_tree->GetDataJ("NeedAddlayerList");
         selectRows(table, rows);
         press("okButton");
-        QTEST(texts(list, "LayerName"), "kept"); // In place: the caller has the list in its hands.
+        // The list is changed in place because the caller holds it.
+        QTEST(texts(list, "LayerName"), "kept");
         QVERIFY(!isOpen());
     }
 
 private:
-    /// The manager with these rows selected.
+    /// Opens the manager and selects these rows.
     QTableWidget& openManager(const QList<int>& rows, const QStringList& keys = {"none"})
     {
         open(kManager, kTree, keys);

@@ -184,7 +184,7 @@ private slots:
 
     void clicksCell_data()
     {
-        // Row 0 is the current layer; nothing after where nothing changes.
+        // Row 0 is the current layer. `after` is empty when nothing changes.
         const Rows<int, int, QString, int, QString, QString, bool> row(
             "row", "column", "before", "answer", "asked", "after", "marks");
         const char* const off =
@@ -283,7 +283,7 @@ private slots:
         QCOMPARE(manager.host.log(), QStringList{"dialog|Dialog/Common|ColorDialog|" + asked});
         QTEST(toText(manager.record(1)->GetDataJ("Color")), "stored");
         QTEST(manager.cell(1, 5)->icon().pixmap(16, 16).toImage().pixelColor(8, 8), "swatch");
-        QVERIFY(manager.record(1)->GetDataB("Modified")); // Also when cancelled.
+        QVERIFY(manager.record(1)->GetDataB("Modified")); // Even when the dialog was cancelled.
         QVERIFY(manager.isApplyEnabled());
     }
 
@@ -313,7 +313,7 @@ private slots:
     }
 
 private:
-    /// What differs from the corner's colour.
+    /// The part of the picture that differs from the colour of its corner.
     static QRect inkedPart(const QImage& picture, const QRect& part)
     {
         QRegion inked;

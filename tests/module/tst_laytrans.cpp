@@ -33,7 +33,7 @@ constexpr char kEdited[] = R"({"ltransResultNewEditLayer":{"ltransResultNewLayNa
     "ltransResultNewLineWidthName":"0.50 mm","ltransResultNewLineWidth":50,
     "ltransResultNewTparency":90,"ltransResultNewPlotstyle":"ByBlock"}})";
 
-/// A layer "from" that files map onto "to".
+/// A mapping of layer `from` to layer `to` as files contain it.
 QString mapping(const QString& from, const QString& to)
 {
     return QStringLiteral(
@@ -72,13 +72,13 @@ private slots:
         QVERIFY(isEnabled("saveButton"));
     }
 
-    /// Selected layers go in their order, each with a target of its own.
+    /// Selected layers are mapped in their order, each to a target of its own.
     void mapped()
     {
         open();
         load();
         select({"Wall"});
-        press("mapButton"); // No target is current.
+        press("mapButton"); // No target is selected.
         QCOMPARE(rows(), QStringList());
         map({"窗", "Wall"}, 0);
         QCOMPARE(rows(), (QStringList{"Wall|WALL|7|Dashed|0.25 mm|30|普通",
@@ -88,11 +88,11 @@ private slots:
         map({"Straße"}, 2);
         QCOMPARE(rows().mid(2),
             (QStringList{"door|Doors|RGB:255,0,0|||0|", "Straße|STRASSE|RGB:129,129,129|||0|"}));
-        press("mapButton"); // Nothing is left to map.
+        press("mapButton"); // No layer is left to map.
         QCOMPARE(rows().size(), 4);
     }
 
-    /// Names pair without regard to case, a letter for a letter.
+    /// Names are matched without letter case, one letter for one letter.
     void mapsSame()
     {
         open();
@@ -104,7 +104,8 @@ private slots:
         QVERIFY(!isEnabled("mapSameButton"));
     }
 
-    /// Of layers that differ in case alone the selected ones are mapped, and none is lost.
+    /// Of several layers that differ in letter case only, the selected ones are mapped and none is
+    /// lost.
     void tellsTwinsApart()
     {
         open(
@@ -148,7 +149,7 @@ private slots:
         QVERIFY(!isEnabled("selectButton"));
     }
 
-    /// Mappings in files apply to layers that are there and free.
+    /// Mappings from files apply to existing layers that are not mapped yet.
     void loadsMappings_data()
     {
         const Rows<QString, QStringList> row("mappings", "mapped");
@@ -175,12 +176,12 @@ private slots:
         QCOMPARE(selected(), QStringList{"窗"});
         const QStringList before = rows();
         load(mapping("door", "D6") + ',' + mapping("wall", "D7"));
-        for (const QString& row : before) // The user's stays.
+        for (const QString& row : before) // The user's mapping is kept.
             QVERIFY(rows().contains(row));
         QCOMPARE(rows().size(), 2);
     }
 
-    /// Layers go back to where they were, and can be mapped again.
+    /// Unmapped layers return to their former place and can be mapped again.
     void givesBack()
     {
         open();
@@ -197,7 +198,7 @@ private slots:
         QVERIFY(rows().isEmpty() && isEnabled("mapSameButton"));
     }
 
-    /// Only the mapping that is edited changes, neither its neighbour nor the list of targets.
+    /// Only the edited mapping changes, neither its neighbour nor the list of targets.
     void edited()
     {
         open();
@@ -222,7 +223,7 @@ private slots:
             "Wall|WALL|7|Dashed|0.25 mm|30|普通", "窗|W2|RGB:3,2,1|CENTER|0.50 mm|90|ByBlock"};
         QCOMPARE(rows(), changed);
         QCOMPARE(to(), (QStringList{"WALL", "Doors", "STRASSE"}));
-        m_host->answer(2, kEdited); // Cancelled, whatever it wrote.
+        m_host->answer(2, kEdited); // Cancelled, whatever the dialog wrote.
         choose("mapTable", "编辑(&E)...");
         QCOMPARE(rows(), changed);
         clickCell(table, 1);
@@ -247,7 +248,7 @@ private slots:
             });
             m_host->answer(1, R"({"filePath":"/d/s.dws"})");
             press("saveButton");
-            QVERIFY(!m_tree->GetDataI("result")); // It is not the dialog's own.
+            QVERIFY(!m_tree->GetDataI("result")); // This is not the dialog's own result.
         };
         const auto sentFlag = [&] {
             m_invoker->setAnswer({});
@@ -261,12 +262,12 @@ private slots:
         map({"door"}, 1);
         QVERIFY(isEnabled("saveButton") && !sentFlag());
         m_host->answer(2);
-        press("saveButton"); // Cancelled: nothing is asked of the command.
+        press("saveButton"); // After cancelling, nothing is asked of the command.
         QVERIFY(log().last().startsWith("dialog|"));
     }
 
-    /// What is asked of whom, in order. Without an `entry` of its menu the widget is a button; an
-    /// empty `answer` stands for no dialog.
+    /// Questions and requests in their order. Without an `entry` of its menu the widget is a
+    /// button. An empty `answer` means that no dialog is expected.
     void requests_data()
     {
         const Rows<QString, QString, QString, QStringList, QStringList> row(
@@ -313,11 +314,11 @@ private slots:
         const std::string name = widget.toStdString();
         entry.isEmpty() ? press(name.c_str()) : choose(name.c_str(), entry);
         QTEST(log(), "log");
-        QCOMPARE(to().size(), 3); // No answer is no new list.
+        QCOMPARE(to().size(), 3); // A missing answer is not a new list.
         QCOMPARE(from().size(), 4);
     }
 
-    /// One request a click, with the layer's own name.
+    /// Each click sends one request with the layer's own name.
     void clicks()
     {
         open(kTree, {"laytransFMClickedName", "laytransisMaplist"});
@@ -336,7 +337,7 @@ private slots:
         QVERIFY(log().last().contains("CmdLaytransNewEdit"));
     }
 
-    /// Whatever a command that fails or answers something else does to the tree, the lists stay.
+    /// The lists stay, whatever a failing or misbehaving command does to the tree.
     void keepsItsLists_data()
     {
         const auto spoil = [](const VnJsonPtr& root) {
@@ -377,12 +378,12 @@ private slots:
         QVERIFY(isOpen());
         QCOMPARE(from() + to() + rows(), before);
         m_invoker->setAnswer({});
-        press("translateButton"); // Sends all that there was.
+        press("translateButton"); // Everything is still sent.
         QCOMPARE(m_tree->GetDataJ(transkey::kMappings).ArrayCount(), 2);
         QCOMPARE(m_tree->GetDataJ(transkey::kSettingsToUse).ArrayCount(), 6);
     }
 
-    /// The record the command answers is used at once and at the next start.
+    /// The record in the command's answer is used immediately and at the next start.
     void settingsKept()
     {
         open();
@@ -392,7 +393,7 @@ private slots:
             QVERIFY(!host::hasKey(root, "currentFromLNames"));
             root->GetDataJ("LtransSettingParamset")(0)->SetDataB("LtransSettingData", true);
         });
-        press("settingButton"); // What the command does to the question is no answer.
+        press("settingButton"); // Changes that the command makes to the question are no answer.
         m_invoker->setAnswer([](const VnJsonPtr& root) {
             QVERIFY(
                 !root->GetDataJ("LtransSettingParamset")(0)->GetDataB("LtransSettingData", true));
@@ -424,7 +425,7 @@ private slots:
         open();
         load();
         map(from().mid(0, 1), 0);
-        press("translateButton"); // Leaves its arguments in the tree.
+        press("translateButton"); // Its arguments remain in the tree.
         choose("mapTable", "全部删除(&R)");
         if (mapped > 0)
             map(from().mid(0, mapped), 0);
@@ -441,8 +442,8 @@ private slots:
         QCOMPARE(isOpen(), !closes);
     }
 
-    /// Layers that are mapped do not come back with the layers that are left; mappings of layers
-    /// that are gone go.
+    /// Mapped layers are not listed again among the remaining ones, and mappings of deleted layers
+    /// are removed.
     void purged()
     {
         open();
@@ -488,7 +489,7 @@ private:
     {
         DialogFixture::open("Dialog/CmdLaytrans", json, keys, transkey::kRequestCode);
     }
-    /// Loads the targets; with `mappings` as those that the files hold.
+    /// Loads the targets. `mappings` are those in the files.
     void load(const QString& mappings = {})
     {
         m_invoker->setAnswer([&](const VnJsonPtr& root) {

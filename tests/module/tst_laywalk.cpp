@@ -24,7 +24,8 @@ using namespace vnsi;
 
 namespace {
 
-// Layer 0 is current; one is off, one starred, one frozen, one frozen in viewports.
+// Layer 0 is current. One layer is off, one is starred, one is frozen, and one is frozen in
+// viewports.
 const char kLayers[] = R"([{"LayerName":"0","CurLayer":0,"Used":true},)"
                        R"({"LayerName":"WALL","CurLayer":1,"Used":true},)"
                        R"({"LayerName":"wall-2","CurLayer":1,"Off":true},)"
@@ -37,7 +38,7 @@ QString treeText(const QString& layers)
     return QStringLiteral(R"({"LayerStateMgr":{"LayerList":%1}})").arg(layers);
 }
 
-/// Each layer by a sign: + on, - off, * starred and on, x starred and off, C current and on, c
+/// One character per layer: + on, - off, * starred and on, x starred and off, C current and on, c
 /// current and off.
 QString summary(const VnJsonPtr& layerTree)
 {
@@ -54,7 +55,7 @@ QString summary(const VnJsonPtr& layerTree)
 
 } // namespace
 
-/// The walk with a command that notes what it is asked.
+/// The walk with a command that records its requests.
 class Walk
 {
 public:
@@ -76,7 +77,7 @@ public:
     {
     }
 
-    /// Code, arguments and layers.
+    /// Records the code, the arguments and the layers.
     void note(const VnJsonPtr& asked)
     {
         const int code = asked->GetDataI("marker");
@@ -90,8 +91,8 @@ public:
         requests.append(line + ": " + summary(parameter));
         QVERIFY(code != 4 || parameter->GetDataB("Modified"));
     }
-    /// The command from now on: one that refuses, fails, obeys, or hands the layers back anew in
-    /// that place.
+    /// Changes how the command behaves from now on: it refuses, fails, obeys, or returns new layers
+    /// at the named place.
     void changeCommand(const QString& how)
     {
         answer = [how](const VnJsonPtr& asked) {
@@ -139,13 +140,14 @@ public:
         for (const QString& act : acts)
             perform(act.section(' ', 0, 0), act.section(' ', 1));
     }
-    /// Takes the focus away from the edit line.
+    /// Moves the focus away from the edit line.
     void leaveFilters() const
     {
         QFocusEvent away(QEvent::FocusOut, Qt::MouseFocusReason);
         QCoreApplication::sendEvent(filters->lineEdit(), &away);
     }
-    /// # for a selected row, @ with a star; . for another, * with a star.
+    /// One character per row: # selected, @ selected with a star, . not selected, * not selected
+    /// with a star.
     QString rows() const
     {
         QString signs;
@@ -267,7 +269,7 @@ private slots:
     void acts()
     {
         QFETCH(QStringList, acts);
-        QFETCH(QString, rows); // As many as pass the filter.
+        QFETCH(QString, rows); // One character for each row that passes the filter.
         Walk walk(m_module);
         walk.perform(acts);
         QTEST(walk.requests, "requests");
@@ -280,7 +282,7 @@ private slots:
         if (!walk.requests.isEmpty())
             QCOMPARE(walk.mayPurge(), rows.contains('#') || rows.contains('@'));
         QCOMPARE(walk.filters->count(), 0);
-        // The caller's tree is not the one worked on.
+        // The dialog works on a copy of the caller's tree.
         if (!acts.first().contains("LayerStateMgr"))
             QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")), "C+-*++");
     }
@@ -305,8 +307,7 @@ private slots:
         QVERIFY(pinned->GetDataB("Modified") && !pinned->GetDataB("Off"));
     }
 
-    /// A request clears its own answers and no others; without a command every answer has its
-    /// default.
+    /// A request clears only its own answers. Without a command every answer has its default.
     void answersAreFresh_data()
     {
         const Rows<bool> row("hasCommand");
@@ -346,7 +347,7 @@ private slots:
     {
         QFETCH(QStringList, acts);
         QFETCH(QString, request);
-        QString layers = kLayers; // The current layer is "ice".
+        QString layers = kLayers; // Makes "ice" the current layer.
         layers.replace("\"CurLayer\":0", "\"CurLayer\":1")
             .replace("\"ice\",\"CurLayer\":1", "\"ice\",\"CurLayer\":0");
         Walk walk(m_module, treeText(layers));
@@ -363,7 +364,7 @@ private slots:
             QVERIFY(walk.requests.isEmpty());
             return;
         }
-        // The current layer, hidden by the walk, is current again before.
+        // The current layer, which the walk hid, is made current again first.
         QCOMPARE(walk.requests.size(), 2);
         QVERIFY(walk.requests[0].startsWith("4: ") && walk.requests[0].at(7) == 'c');
         QVERIFY2(walk.requests[1].startsWith(request), qPrintable(walk.requests[1]));
@@ -375,7 +376,8 @@ private slots:
     void menuEnables_data()
     {
         const Rows<QString, QList<int>, QString, QString> row(
-            "layers", "selected", "pattern", "enabled"); // The mnemonics.
+            // The column "enabled" lists the mnemonics of the enabled entries.
+            "layers", "selected", "pattern", "enabled");
         row("nothing at all", "[]", {}, "", "");
         row("rows, a star among them", kLayers, {}, "", "ASCIUVN");
         row("unstarred selected", kLayers, {1}, "", "HASCIUVNO");

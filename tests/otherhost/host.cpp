@@ -29,7 +29,7 @@ QString text(const OdString& wide)
     return vnsi::vnutOdStringToQString(wide);
 }
 
-/// What the core offers under "Core/...", each of which is used by name alone here.
+/// The services "Core/...", which this host uses by name alone.
 class CoreService : public OdRxObject
 {
     OTHER_DECLARE_CLASS(CoreService, OdRxObject)
@@ -144,7 +144,7 @@ VnJsonPtr vnuiShowModelDialog(
 
 void* vnuiCurTargetWindow()
 {
-    static auto* const window = new QWidget; // Lives as long as the program.
+    static auto* const window = new QWidget; // It exists until the program ends.
     return host().may(kWindow) ? window : nullptr;
 }
 
@@ -288,7 +288,7 @@ void OtherHost::note(const QString& question)
     seen.insert(question);
 }
 
-/// Which button the user presses: the one to go on with, or the one that refuses.
+/// The button that the user presses: the one that continues, or the one that refuses.
 int OtherHost::press(int style)
 {
     constexpr int kAnswers[][3] = {{0, 1, 1}, {1, 1, 2}, {4, 6, 7}, {6, 0, 3}};
@@ -388,7 +388,7 @@ void OtherHost::checkRequest(const vnsi::IElementValueBase& tree)
             memberOf(tree, wordsOf(request->inList)[0]), wordsOf(request->inList)[1], name);
 }
 
-/// Each record of a list must have the key.
+/// Checks that each record of a list has the key.
 void OtherHost::checkRecords(const vnsi::VnJsonPtr& list, const QString& key, const QString& name)
 {
     for (int i = 0; list && i < list.ArrayCount(); ++i) {

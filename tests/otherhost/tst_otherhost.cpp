@@ -20,19 +20,20 @@ OtherHost& host()
     return OtherHost::instance();
 }
 
-/// Something a user does in a dialog: the place of an act, the choice in what it brings up, and
-/// whom the dialog then asks.
+/// An action of a user in a dialog: its index, the choice in what it opens, and what the dialog
+/// then asks.
 struct Act
 {
     std::size_t place;
     int choice;
     QStringList asked = {};
-    bool isFirstOfKind = true; ///< No act before it asks for the same.
+    bool isFirstOfKind = true; ///< No earlier action asks the same.
 };
 
 constexpr int kMostChoices = 13;
 
-/// Notes what leaves an event handler, as the event loop of a host would not survive it.
+/// Records exceptions that leave an event handler, which the event loop of a host would not
+/// survive.
 class Application : public QApplication
 {
 public:
@@ -49,7 +50,8 @@ public:
     }
 };
 
-/// Chooses in turn, from a start on, and remembers how much there was to choose from at first.
+/// Makes a different choice each time, beginning with `next`, and remembers how many there were at
+/// first.
 struct Chooser
 {
     int next;
@@ -66,7 +68,7 @@ struct Chooser
 
 Q_DECLARE_METATYPE(const Mischief*)
 
-/// The module in a host that was written apart from it and does whatever the contract allows.
+/// Tests the module in an independently written host that does everything the contract allows.
 class TestOtherHost : public QObject
 {
     Q_OBJECT
@@ -95,8 +97,8 @@ private slots:
         }
     }
 
-    /// What a user can do, one thing at a time in a dialog of its own where somebody who is asked
-    /// does not answer as agreed.
+    /// Performs every action that a user can do in a dialog. When the command or the host does not
+    /// answer as agreed, each action gets a new dialog.
     void keepsContract()
     {
         QFETCH(DialogSample, sample);
@@ -106,7 +108,7 @@ private slots:
             if (matters(act, *mischief))
                 acts.push_back(act);
         }
-        QVERIFY(!acts.empty() || mischief->questions); // Not every dialog has some.
+        QVERIFY(!acts.empty() || mischief->questions); // Some dialogs have no actions.
         const bool isAlone = mischief->command || mischief->questions;
         for (std::size_t next = 0; next < acts.size();) {
             inDialog(sample, mischief, [&] {
@@ -138,7 +140,7 @@ private:
                (sample.asksItsCommand || !mischief.command || mischief.questions);
     }
 
-    /// Whether a mischief can show in what an act does.
+    /// Whether a mischief can affect an action.
     static bool matters(const Act& act, const Mischief& mischief)
     {
         const bool asksCommand = std::any_of(act.asked.begin(), act.asked.end(),
@@ -150,7 +152,7 @@ private:
         return act.isFirstOfKind || (mischief.freedoms & kEverything);
     }
 
-    /// Opens the dialog as a host does, has it used and closes it.
+    /// Opens the dialog as a host does, lets it be used and closes it.
     void inDialog(
         const DialogSample& sample, const Mischief* mischief, const std::function<void()>& use)
     {
@@ -170,7 +172,7 @@ private:
             if (!now.window || ++times > 9)
                 qFatal("%s cannot be closed", qPrintable(sample.name));
             turn.stop();
-            now.mischief = nullptr; // What comes before and after does not count.
+            now.mischief = nullptr; // Only what happens between counts.
             if (times == 1) {
                 prepare();
                 now.mischief = mischief;
@@ -178,7 +180,7 @@ private:
                 now.mischief = nullptr;
             }
             if (now.window)
-                now.window->close(); // It may ask whether to, and some are shown again.
+                now.window->close(); // The dialog may ask first, and some dialogs are shown again.
             turn.start();
         });
         turn.start();
@@ -210,7 +212,7 @@ private:
         delete thread;
     }
 
-    /// Brings the dialog into a state where there is much to do.
+    /// Brings the dialog into a state in which much can be done.
     static void prepare()
     {
         for (const char* name : {"loadButton", "mapButton"}) {
@@ -236,7 +238,7 @@ private:
         return chooser;
     }
 
-    /// What can be done in a dialog, tried with a host that behaves.
+    /// The actions that are possible in a dialog, found out with a well-behaved host.
     const std::vector<Act>& actsOf(const DialogSample& sample)
     {
         std::vector<Act>& acts = m_acts[sample.name + sample.tree];

@@ -116,7 +116,7 @@ private slots:
 
     void laterFillsCoverEarlierOnes()
     {
-        // Small ones first make both groups known in the same order.
+        // The small fills come first so that both groups always exist in the same order.
         const QByteArray small = fill("A", 0, 0, 1, 1) + fill("B", 2, 0, 1, 1);
         const QByteArray a = fill("A", 0, 5, 10, 10), b = fill("B", 0, 5, 10, 10);
         show(small + a + b);
@@ -127,7 +127,7 @@ private slots:
 
     void textStandsAtItsPoint_data()
     {
-        // The ink has to be in here, in drawing units around 50,50.
+        // The ink must be inside this rectangle, in drawing units around (50, 50).
         const Rows<QByteArray, QRectF> row("codes", "ink");
         row("to the right and above", "", {50, 50, 50, 10});
         row("right-aligned", "72 2 11 50 21 50", {0, 50, 50, 10});

@@ -15,7 +15,7 @@
 
 using namespace drawing;
 
-/// LAYERSTATE through the real windows, down to the saved file.
+/// Tests LAYERSTATE with the real windows, including the saved file.
 class LayerStateCommandTest : public CommandFixture
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ private slots:
     }
     void cleanup() { stop(); }
 
-    /// Create, rename, edit, export, delete, import, restore; each a step, and all of it in the
-    /// file.
+    /// Create, rename, edit, export, delete, import and restore. Each is a step, and the file
+    /// contains all of it.
     void everythingInOneRun()
     {
         const bool wasOff = properties("A-DOOR").off;
@@ -57,7 +57,7 @@ private slots:
             m_host->answer(vnsi::kVnAnswerYes);
             press(manager, "deleteButton");
             QCOMPARE(states(manager).rowCount(), 0);
-            import(manager, "out.las", {vnsi::kVnAnswerYes}); // Restored, which closes the window.
+            import(manager, "out.las", {vnsi::kVnAnswerYes}); // Restoring closes the window.
             QVERIFY(!manager.isVisible());
         });
         QCOMPARE(messages().size(), 1);
@@ -70,7 +70,7 @@ private slots:
         int steps = 0;
         for (; drawing().canUndo(); ++steps)
             drawing().undo();
-        QCOMPARE(steps, 7); // New, renamed, two for the edit, deleted, imported, restored.
+        QCOMPARE(steps, 7); // New, rename, two for the edit, delete, import, restore.
         QVERIFY(savedBytes() == m_original);
     }
 
@@ -109,7 +109,7 @@ private slots:
         row("no layer of ours", state + "Nowhere\n90\n1\n", "Nowhere");
     }
 
-    /// One message, and nothing of the drawing changed.
+    /// There is one message, and the drawing does not change.
     void importRefusals()
     {
         QFETCH(QByteArray, bytes);
@@ -125,7 +125,8 @@ private slots:
         QVERIFY(!drawing().canUndo());
     }
 
-    /// The file's ending says nothing: what it holds counts. Layers this drawing lacks are named.
+    /// The contents decide on the type of the file, not its extension. Layers that the drawing
+    /// lacks are named.
     void importsFromDrawing()
     {
         const auto other = Drawing::open(m_path);
@@ -166,7 +167,7 @@ private slots:
         QTEST(descriptions, "descriptions");
     }
 
-    /// What can be used is, and all the rest is in one message.
+    /// Everything usable is imported, and all the rest is in one message.
     void importedInPart()
     {
         writtenFile(inFolder("in.las"),
@@ -176,7 +177,7 @@ private slots:
             import(manager, "in.las", {vnsi::kVnAnswerNo});
             QCOMPARE(states(manager).item(0, 0)->text(), "说明");
         });
-        QCOMPARE(messages().size(), 2); // The other one asks whether to restore.
+        QCOMPARE(messages().size(), 2); // The second one asks whether to restore.
         for (const char* part : {"GBK", "组码 77", "位 2048", "1 个颜色", "中中断", "Nowhere"})
             QVERIFY2(messages().first().contains(part), qPrintable(messages().first()));
         QCOMPARE(drawing().layerStates().front().layers.size(), size_t(1));
@@ -196,7 +197,8 @@ private slots:
         QVERIFY(QFile::exists(inFolder("named.las")));
     }
 
-    /// A format without a place for states: they go beside the drawing, and the status bar says so.
+    /// In a format without layer states they are kept beside the drawing, and the status bar says
+    /// so.
     void oldDrawing()
     {
         open("work.dxf", contentOf(SAMPLES "/workshop-gbk.dxf"));
@@ -207,7 +209,7 @@ private slots:
         QCOMPARE((*Drawing::open(m_path))->layerStateNames(), QStringList("旧"));
     }
 
-    /// The switch and its menu: the canvas shows the sheet that was chosen, undo the one before.
+    /// The switch and its menu: the canvas shows the chosen sheet, and undo shows the former one.
     void showsChosenLayout()
     {
         open("sheets.dxf", sheetsDrawing());
@@ -239,7 +241,8 @@ private slots:
         QCOMPARE(button.text(), "A0");
     }
 
-    /// The box W in a layout: the layers keep their own, and what the canvas does not show is said.
+    /// The box W in a layout: layers keep their own properties, and the user is told about the
+    /// overrides.
     void overridesInLayout()
     {
         child<QToolButton>(*m_window, "spaceSwitch").click();
@@ -256,7 +259,7 @@ private slots:
     }
 
 private:
-    /// Runs the command, with these acts in the manager.
+    /// Runs the command with these actions in the manager.
     void manage(const ModalDriver::Step& acts) { run("layerstate", {closing(acts)}); }
     void create(QDialog& manager, const QString& name)
     {
@@ -266,7 +269,7 @@ private:
         });
         press(manager, "newButton");
     }
-    /// Imports a file of the folder; `answers` are those to what is asked then.
+    /// Imports a file of the folder. `answers` are the answers to the questions that follow.
     void import(QDialog& manager, const QString& name, const QList<int>& answers)
     {
         answerFiles({inFolder(name)});

@@ -11,7 +11,7 @@
 
 using drawing::Layer;
 
-/// LAYWALK through the real windows, down to the saved file.
+/// Tests LAYWALK with the real windows, including the saved file.
 class LayerWalkCommandTest : public CommandFixture
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ private slots:
         row("frozen in another one", 1, true);
     }
 
-    /// What new viewports do with a layer does not count.
+    /// Freezing in new viewports does not matter.
     void selectsWhatIsSeen()
     {
         QFETCH(int, layout);
@@ -93,7 +93,8 @@ private slots:
 
     void currentLayerFollows_data()
     {
-        const Rows<QStringList, QString> row("acts", "current"); // + selects besides, others act.
+        // + adds to the selection, other entries are clicks.
+        const Rows<QStringList, QString> row("acts", "current");
         const QString old = "墙体-隔墙";
         row("a click that hides it", {"A-WALL"}, "A-WALL");
         row("the layer clicked last", {"A-WALL", "+A-DOOR"}, "A-DOOR");
@@ -104,7 +105,7 @@ private slots:
         row("hidden, but not by a click", {"=clearAll"}, old);
     }
 
-    /// The current layer is one that is shown as long as a click hides the old one.
+    /// When a click hides the current layer, a visible layer becomes current.
     void currentLayerFollows()
     {
         QFETCH(QStringList, acts);
@@ -154,7 +155,7 @@ private slots:
         };
         run("laywalk", {acts, readCounts, nameState});
         QCOMPARE(counts, (QStringList{QString::number(count), "1", QString::number(entities)}));
-        // Layers without an entity stay where they are current or a reference's.
+        // Layers without entities stay if they are current or belong to an external reference.
         const auto left = drawing().layers().size();
         QVERIFY(left < count && left + static_cast<std::size_t>(unused) >= count);
         const auto state = drawing().layerState("只看墙");
@@ -182,7 +183,7 @@ private slots:
         const Rows<int, int> row("key", "selected");
         row("ENTER", Qt::Key_Return, 1);
         row("right button", 0, 1);
-        row("Esc", Qt::Key_Escape, -1); // As it was.
+        row("Esc", Qt::Key_Escape, -1); // The selection stays as it was.
     }
 
     void picksFromTheCanvas()
@@ -195,7 +196,7 @@ private slots:
             if (selected < 0)
                 selected = list(dialog).count();
             QTimer::singleShot(0, &canvas, [&] {
-                // Something of each kind lies along the middle.
+                // There are entities of every kind along the middle.
                 for (int x = 0; canvas.selection().empty() && x < canvas.width(); x += 3)
                     QTest::mouseClick(&canvas, Qt::LeftButton, {}, QPoint(x, canvas.height() / 2));
                 QVERIFY(!dialog.isVisible() && !canvas.selection().empty());
@@ -216,7 +217,7 @@ private slots:
     }
 
 private:
-    /// Runs the command; after the acts the dialog is closed by its button.
+    /// Runs the command with these actions and then closes the dialog by its button.
     void walk(bool restores, const std::function<void(QDialog& dialog)>& acts)
     {
         if (!restores)
@@ -245,7 +246,7 @@ private:
         QTest::mouseClick(
             rows.viewport(), Qt::LeftButton, modifiers, rows.visualItemRect(item).center());
     }
-    /// Names of the layers that are on, in the order of the file.
+    /// The names of the layers that are on, in file order.
     QStringList shown() const
     {
         QStringList names;
@@ -255,7 +256,7 @@ private:
         }
         return names;
     }
-    /// Something else than a reference's layer, with as much on it as on any.
+    /// The layer with the most entities that does not belong to an external reference.
     const Layer& fullest() const
     {
         const Layer* most = &drawing().layers().front();

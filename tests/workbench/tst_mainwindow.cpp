@@ -216,7 +216,7 @@ private slots:
         QCOMPARE(recent->paths().count(m_sketch->path("5.dxf")), 1);
         QCOMPARE(RecentFiles().paths(), recent->paths());
 
-        // The first is not there: it is reported and forgotten.
+        // The first file does not exist, so it is reported and removed from the menu.
         BoxAnswerer answerer({"确定"});
         recent->actions().first()->trigger();
         QVERIFY(answerer.waitForAll());
@@ -252,7 +252,7 @@ private slots:
 
     void closingAsks_data()
     {
-        // An empty answer is Esc.
+        // An empty answer stands for Esc.
         const Rows<QString, bool, bool> row("answer", "closes", "writes");
         row("save", "保存", true, true);
         row("discard", "不保存", true, false);
@@ -303,7 +303,7 @@ private slots:
         const QString path = m_window->drawing()->path();
         const QByteArray content = contentOf(path);
         QVERIFY(isFull || QFileInfo(path).dir().removeRecursively());
-        // Closing with "save" must not close over a failure.
+        // Closing with "save" must not close the window when saving fails.
         BoxAnswerer answerer({"保存", "确定"});
         {
             const FileLimit limit(isFull ? 10 : RLIM_INFINITY);
