@@ -22,7 +22,7 @@ using drawing::LayerId;
 
 namespace {
 
-// Six layers with layer 0, in this order in the file.
+// Together with layer 0 these are six layers, in the order of the file.
 constexpr char kLayers[] = "Wall-10 62 1;Wall-2 62 5;door 62 3;Furn 62 7;Site 62 2";
 constexpr char kEntities[] = "0 LINE 8 door 10 0 20 0 11 1 21 0 0 LINE 8 door 10 0 20 0 11 1 21 0 "
                              "0 INSERT 8 Wall-2 2 U 10 40 20 30 0 CIRCLE 8 Furn 10 0 20 0 40 1 ";
@@ -31,7 +31,7 @@ constexpr char kBlocks[] = "0 BLOCK 8 0 2 U 70 0 10 0 20 0 0 LINE 8 Furn 10 0 20
 
 } // namespace
 
-/// The panel on a drawing of its own, by mouse and keys.
+/// Tests the panel with a drawing of its own, by mouse and keyboard.
 class LayerPanelTest : public QObject
 {
     Q_OBJECT
@@ -106,7 +106,7 @@ private slots:
         QCOMPARE(names(), shown);
     }
 
-    /// Of so many that another thread sorts them, and some come while it does.
+    /// So many layers that another thread sorts them, while further layers are added.
     void sortingMany()
     {
         QByteArray layers = "L1";
@@ -189,7 +189,7 @@ private slots:
         QCOMPARE(m_drawing->undoName(), before);
     }
 
-    /// What others do to the drawing shows at once, and leaves the rows selected that are there.
+    /// Changes that others make are shown immediately, and existing rows stay selected.
     void follows()
     {
         select("door Site");
@@ -216,7 +216,7 @@ private slots:
         QCOMPARE(m_panel->model()->rowCount(), 0);
     }
 
-    /// While a command has the drawing, nothing is changed.
+    /// Nothing is changed while a command uses the drawing.
     void waitsForCommands()
     {
         QSignalSpy said(m_panel.get(), &LayerPanel::said);
@@ -259,7 +259,7 @@ private slots:
         QCOMPARE(text("door", color), QStringLiteral("绿"));
     }
 
-    /// What is copied can be pasted into another drawing, whatever is in it.
+    /// Copied layers can be pasted into another drawing, whatever it contains.
     void copiesWhatPastes()
     {
         edit([this](drawing::Drawing& drawing) { describe(drawing, "door", "\"c\" d"); });
@@ -298,7 +298,7 @@ private slots:
         QCOMPARE(names(), shown);
     }
 
-    /// Filters of the drawing: chosen, filled by dragging, renamed, followed, undone.
+    /// Filters of the drawing are selected, filled by dragging, renamed, updated and undone.
     void filters()
     {
         quint64 group = 0;
@@ -367,7 +367,7 @@ private slots:
         }
     }
 
-    /// Empty layers go in one step; the others stay, each for its reasons.
+    /// Empty layers are deleted in one step; the others stay, each for its own reasons.
     void purges()
     {
         select("0 door Furn Site Wall-10");
@@ -385,7 +385,7 @@ private slots:
         QCOMPARE(m_panel->model()->rowCount(), 6);
     }
 
-    /// Columns, their order and what sorts them come back with the next window.
+    /// The columns, their order and the sort column are restored in the next window.
     void keepsItsState()
     {
         LayerView* view = m_panel->view();
@@ -459,7 +459,7 @@ private:
         return names.join(' ');
     }
 
-    /// The first one is in hand, in this column.
+    /// Selects these layers. The first one becomes the current row, in this column.
     void select(const QString& names, int column = 0)
     {
         m_panel->view()->select(ids(names));
@@ -481,7 +481,7 @@ private:
         return m_panel->view()->visualRect(cell(name, column)).center();
     }
 
-    /// F2 where names are meant, a double click elsewhere.
+    /// Types into the current cell, with F2 for names and a double click otherwise.
     void typeInto(int column, const QString& typed)
     {
         LayerView* const view = m_panel->view();
@@ -498,7 +498,7 @@ private:
         QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(editor, typed);
         QTest::keyClick(editor, Qt::Key_Return);
-        QTRY_VERIFY(!editor); // It gives up its text when it is back in the event loop.
+        QTRY_VERIFY(!editor); // The editor only stores its text in the event loop.
     }
 
     QTreeWidgetItem* filterItem(const QString& name) const
@@ -513,7 +513,7 @@ private:
         return names();
     }
 
-    /// Drops what is selected on a filter.
+    /// Drops the selected layers on a filter.
     void drop(const QString& filter)
     {
         auto* const tree = find<QTreeWidget>("filterTree");
