@@ -43,7 +43,7 @@ else
 fi
 )zsh";
 
-/// What bash is to offer for an option's value: the arguments of `compgen`.
+/// The arguments for `compgen` that offer values of an option in bash.
 QString bashValues(const OptionRow& row)
 {
     switch (row.kind) {

@@ -7,7 +7,7 @@ namespace commandline {
 
 namespace {
 
-/// How many characters of a line fit into a width, cut at the last place where a line may end.
+/// The number of characters that fit into a width, up to the last place where a line may be broken.
 int fitting(const QString& line, int width)
 {
     int best = 0;
