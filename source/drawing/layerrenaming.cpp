@@ -15,7 +15,7 @@ namespace {
 
 using Outcome = LayerRenamed::Outcome;
 
-/// A name that nobody uses and every version can hold.
+/// A name that is not in use and is valid in every version.
 QString temporaryName()
 {
     constexpr int kDigits = 24;
@@ -23,8 +23,8 @@ QString temporaryName()
            QUuid::createUuid().toString(QUuid::Id128).left(kDigits).toUpper();
 }
 
-/// Layers that wait for a name are looked up by the layer that has it, so the work grows with the
-/// number of renames only.
+/// Carries out renames. A layer that waits for a name is found through the layer that has the name,
+/// so the work is proportional to the number of renames.
 class Renaming
 {
 public:
@@ -53,9 +53,10 @@ private:
 
     Drawing& m_drawing;
     NameClash m_clash;
-    QHash<int, Index> m_open;                 ///< By layer; neither done nor refused yet.
-    QHash<int, std::vector<Index>> m_waiting; ///< By the layer whose name is waited for.
-    std::vector<LayerRenamed> m_results;      ///< By rename.
+    QHash<int, Index> m_open; ///< Renames that are neither done nor refused, by layer.
+    /// Waiting renames, by the layer whose name they wait for.
+    QHash<int, std::vector<Index>> m_waiting;
+    std::vector<LayerRenamed> m_results; ///< The index is that of the rename.
 };
 
 Renaming::Renaming(Drawing& drawing, const std::vector<LayerRename>& renames, NameClash clash)
@@ -76,22 +77,23 @@ std::vector<LayerRenamed> Renaming::run()
 {
     for (Index i = 0; i < m_results.size(); ++i)
         advance(i);
-    for (Index i = 0; i < m_results.size(); ++i) { // What is left waits for one another.
+    for (Index i = 0; i < m_results.size(); ++i) { // The remaining renames wait for each other.
         if (isOpen(i))
             turn(circleFrom(i));
     }
     return std::move(m_results);
 }
 
-/// Another layer that has the name.
+/// Another layer that already has the name; null when there is none.
 const Layer* Renaming::holderOf(Index rename) const
 {
     const Layer* const holder = m_drawing.findLayer(nameFor(rename));
     return holder && holder->id != layerOf(rename) ? holder : nullptr;
 }
 
-/// The layer that has the name and is to give it up. A name that no layer may be given is tried at
-/// once, for the drawing to refuse: a circle that it breaks could not give it back, either.
+/// The layer that has the name and will give it up. A name that no layer may have is tried
+/// immediately so that the drawing refuses it, because a cycle that fails half-way could not be
+/// reverted with it.
 std::optional<LayerId> Renaming::holderToWaitFor(Index rename) const
 {
     const Layer* const holder = holderOf(rename);
@@ -116,11 +118,11 @@ void Renaming::advance(Index first)
         }
         carryOut(rename);
         const std::vector<Index> freed = m_waiting.take(keyOf(layerOf(rename)));
-        ready.insert(ready.end(), freed.rbegin(), freed.rend()); // The first is served first.
+        ready.insert(ready.end(), freed.rbegin(), freed.rend()); // The earliest rename comes first.
     }
 }
 
-/// Gives the layer its name or, where that is wanted, puts what is on it where the name is.
+/// Renames the layer or, if merging is wanted, moves its contents to the layer that has the name.
 void Renaming::carryOut(Index rename)
 {
     const Layer* const holder = holderOf(rename);
@@ -140,7 +142,7 @@ void Renaming::finish(Index rename, Outcome outcome, const Expected<void>& done)
     m_results[rename].cause = done ? QString() : done.error().text;
 }
 
-/// The renames that wait for one another in a circle, each for the next one's layer.
+/// The renames that wait for each other in a cycle, each for the layer of the next one.
 Renaming::Circle Renaming::circleFrom(Index start) const
 {
     Circle path;
@@ -174,9 +176,9 @@ void Renaming::turn(const Circle& circle)
     }
 }
 
-/// One layer steps aside while the others move up. Where one cannot, all go back to what they were,
-/// under names that others in the circle were to have and which therefore can be had; the one that
-/// could not is returned.
+/// Renames one layer temporarily while the others get their names. If one fails, all get their old
+/// names back, which the drawing allows because other layers of the cycle wanted these names and
+/// they were checked. Returns the rename that failed.
 std::optional<Renaming::Index> Renaming::tryToTurn(const Circle& circle, Expected<void>& done)
 {
     const QString temporary = temporaryName();

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <utility>
 
-/// Outside of the namespace, as the macro demands.
+/// Defined outside of the namespace because the macro requires it.
 static void makeStandardAvailable()
 {
     Q_INIT_RESOURCE(standard);
@@ -45,11 +45,11 @@ bool isEverywhere(const TargetLayer& target)
     return isZero(target) || isNeverPlotted(target.name);
 }
 
-/// The plot styles that targets have by name.
+/// The plot styles that targets refer to by name.
 QStringList namedPlotStyles(
     const std::vector<LayerMapping>& mappings, const std::vector<TargetLayer>& targets)
 {
-    QHash<QString, QString> names; // By folded name.
+    QHash<QString, QString> names; // The keys are folded names.
     const auto add = [&names](const TargetLayer& target) {
         if (isNamedPlotStyle(target.plotStyle))
             names.insert(nameKey(target.plotStyle), target.plotStyle);
@@ -62,7 +62,7 @@ QStringList namedPlotStyles(
     return sorted;
 }
 
-/// Puts targets and mappings into a drawing, in its open step.
+/// Writes targets and mappings to a drawing in its open step.
 class StandardWriter
 {
 public:
@@ -81,7 +81,7 @@ private:
     Drawing& m_drawing;
     SavedMappings& m_saved;
     TargetLayers m_layers;
-    QHash<QString, TargetLayer> m_put; // By folded name.
+    QHash<QString, TargetLayer> m_put; // The targets written so far; the keys are folded names.
     QStringList m_notices;
 };
 

@@ -7,7 +7,7 @@ namespace drawing {
 
 namespace {
 
-/// Whether what follows the last whole entity, vertices or attributes, has no end mark.
+/// Whether the last intact entity is in a sequence of vertices or attributes without an end mark.
 bool endsWithinSequence(const EntityIndex& index, qint64 wholeEnd)
 {
     auto last = index.entities.rbegin();
@@ -19,7 +19,7 @@ bool endsWithinSequence(const EntityIndex& index, qint64 wholeEnd)
            (last->subEntity && last->kind != EntityKind::Seqend);
 }
 
-/// The end of a sequence or block, on layer 0.
+/// The end mark of a sequence or block, on layer 0.
 QByteArray endMark(const TagStyle& style, const char* type, bool markers, const char* subclass)
 {
     QByteArray mark = style.tag(group::kType, type);

@@ -18,8 +18,8 @@ LayerMarks EntityEdits::marks(const std::vector<LayerId>& layers) const
     return marks;
 }
 
-/// A flag for each block: whether something in its definition, and not only in a layout, is on one
-/// of these layers.
+/// For each block, whether its definition contains anything on one of these layers. Blocks of
+/// layouts do not count.
 std::vector<char> EntityEdits::blocksOn(const std::vector<LayerId>& layers) const
 {
     const LayerMarks isOn = marks(layers);
@@ -76,7 +76,7 @@ int EntityEdits::move(const std::vector<int>& entities, LayerId target)
     }
     const QByteArray name = encodedName(target);
     int moved = 0;
-    LayerId from = LayerId::None; // Where the owner was.
+    LayerId from = LayerId::None; // The former layer of the owner.
     for (size_t i = 0; i < all.size(); ++i) {
         const auto owner = static_cast<size_t>(owners[i]);
         if (owner == i)
@@ -164,7 +164,8 @@ void EntityEdits::followNames(const LayerReplacements& replacements)
             continue;
         const bool isRemoved = !m_layers.entry(place.layer).present;
         const ByteRange listed = isRemoved ? viewportTag(place.value) : ByteRange();
-        // Refused within a range removed or rewritten as a whole, where there is nothing to rename.
+        // The journal refuses this inside a range that was removed or rewritten as a whole, where
+        // nothing needs renaming.
         if (listed.isNull())
             m_file.journal().replace(m_file.valueRange(place.value), name);
         else
@@ -172,8 +173,8 @@ void EntityEdits::followNames(const LayerReplacements& replacements)
     }
 }
 
-/// The tag of this value, where it stands in a viewport: its XDATA list the layers frozen in it, so
-/// no other layer may take a deleted one's place there.
+/// The tag with this value if it belongs to a viewport. The XDATA of a viewport list its frozen
+/// layers, so another layer must not take the place of a deleted one there.
 ByteRange EntityEdits::viewportTag(qint64 value) const
 {
     const std::vector<Entity>& all = m_entities.all();

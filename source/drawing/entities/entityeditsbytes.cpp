@@ -7,7 +7,8 @@ namespace drawing {
 
 namespace {
 
-/// Where the layer's group belongs: behind the marker of the common data, which old formats lack.
+/// Where the group of the layer belongs: after the marker of the common data, which old formats
+/// lack.
 qint64 layerGroupPlace(const DrawingFile& file, const Entity& entity)
 {
     TagReader tags = file.tags(entity.range());
@@ -44,7 +45,7 @@ void writeLayerName(
     file.pace().step();
     const Entity& place = entities[entity];
     const qint64 value = entities.layerName(entity);
-    // Refused within an entity that was taken out.
+    // The journal refuses this inside an entity that was removed.
     if (value >= 0)
         file.journal().overwrite(file.valueRange(value), kNewLayerName, name);
     else
@@ -56,7 +57,8 @@ void removeEntityBytes(DrawingFile& file, const EntityTable& entities, size_t en
 {
     file.pace().step();
     const Entity& place = entities[entity];
-    // Behind an entity of a single group its insertion stands outside of it.
+    // For an entity that consists of a single group, this insertion is outside of the removed
+    // range.
     if (entities.layerName(entity) < 0)
         file.journal().removeInsertion(layerGroupPlace(file, place), kNewLayerName);
     file.journal().replace(place.range(), {});

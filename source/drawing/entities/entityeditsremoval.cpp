@@ -58,7 +58,7 @@ void EntityRemoval::chooseParts(size_t owner, size_t end, const std::vector<char
     m_chosen.push_back(endMark);
 }
 
-/// Group 66 tells that attributes follow.
+/// Clears group 66, which says that attributes follow.
 void EntityRemoval::forgetAttributes(size_t reference)
 {
     OwnTags tags(m_file.tags(m_entities[reference].range()));

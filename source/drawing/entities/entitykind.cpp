@@ -26,7 +26,7 @@ constexpr NamedKind kKinds[] = {
 
 EntityKind entityKind(std::string_view name)
 {
-    constexpr std::string_view kFirstLetters = "AIPSV"; // Rules out most at once.
+    constexpr std::string_view kFirstLetters = "AIPSV"; // Excludes most names immediately.
     if (name.empty() || kFirstLetters.find(name.front()) == std::string_view::npos)
         return EntityKind::Other;
     const auto* const known = std::find_if(std::begin(kKinds), std::end(kKinds),

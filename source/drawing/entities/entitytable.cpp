@@ -94,7 +94,7 @@ void EntityTable::apply(const std::vector<EntityChange>& changes, bool forward)
         entity.removed = state.removed;
         entity.own = state.own;
     };
-    // An entity may have changed more than once.
+    // The order matters because an entity may have changed more than once.
     if (forward) {
         for (const EntityChange& change : changes)
             put(change.entity, change.after);

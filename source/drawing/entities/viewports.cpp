@@ -10,7 +10,8 @@ namespace drawing {
 bool isSheetsOwn(const TagReader& viewport)
 {
     constexpr int kNumber = 69;
-    constexpr int kCodes[] = {10, 20, 41, 12, 22, 45}; // Place and height, then those of the view.
+    // Position and height on the sheet, then those of the view.
+    constexpr int kCodes[] = {10, 20, 41, 12, 22, 45};
     std::map<int, double> values;
     OwnTags tags(viewport);
     Tag tag;

@@ -17,7 +17,7 @@ const char* unicode()
 
 } // namespace
 
-/// Opening one takes a thousand times as long as converting a name.
+/// Converters are cached because opening one takes a thousand times as long as converting a name.
 CharsetConverter* CharsetConverter::known(const QByteArray& from, const QByteArray& to)
 {
     thread_local std::map<std::pair<QByteArray, QByteArray>, std::unique_ptr<CharsetConverter>>
@@ -50,13 +50,13 @@ QString CharsetConverter::convert(std::string_view& bytes)
 {
     constexpr size_t kUnitsForAByte = 2;
     QString text(static_cast<int>(bytes.size() * kUnitsForAByte) + 2, Qt::Uninitialized);
-    char* input = const_cast<char*>(bytes.data()); // The interface is older than const.
+    char* input = const_cast<char*>(bytes.data()); // The interface lacks const.
     size_t left = bytes.size();
     char* output = reinterpret_cast<char*>(text.data());
     size_t room = static_cast<size_t>(text.size()) * sizeof(QChar);
     iconv(m_handle, nullptr, nullptr, nullptr, nullptr);
     iconv(m_handle, &input, &left, &output, &room);
-    // A letter that an accent might have followed is still held back.
+    // Flushes a letter that is held back because an accent might have followed it.
     iconv(m_handle, nullptr, nullptr, &output, &room);
     text.truncate(
         static_cast<int>(output - reinterpret_cast<char*>(text.data())) / int(sizeof(QChar)));

@@ -13,7 +13,7 @@ namespace drawing {
 
 namespace {
 
-/// Names that do not end in the number of a code page; letters and digits alone, in lower case.
+/// A name that does not end in the number of a code page, reduced to lower-case letters and digits.
 struct PlainName
 {
     std::string_view name;
@@ -44,7 +44,7 @@ constexpr PlainName kPlainNames[] = {
     {"utf8", "UTF-8"},
 };
 
-/// Families of names that end in a number, and what the converter has in front of it.
+/// Families of names that end in a number, and the prefix that the converter uses for them.
 constexpr std::pair<std::string_view, const char*> kFamilies[] = {
     {"ansi", "CP"},
     {"dos", "CP"},
@@ -85,7 +85,8 @@ QByteArray candidate(const std::string& plain)
     return {};
 }
 
-/// Group codes and names of records are ASCII: a code page of mainframes is none for drawings.
+/// Whether the code page contains ASCII. Group codes and names of records are ASCII, so mainframe
+/// code pages are not usable for drawings.
 bool holdsAscii(const QByteArray& charset)
 {
     constexpr std::string_view kLetters = "0AZaz_$";

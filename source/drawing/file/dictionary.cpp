@@ -34,7 +34,7 @@ quint64 Dictionary::find(std::string_view key) const
     return 0;
 }
 
-/// Behind the entries, a second subclass may tell of a default, and extended data may follow.
+/// The entries may be followed by a second subclass that defines a default, and by extended data.
 int Dictionary::endOfEntries() const
 {
     int end = 0;

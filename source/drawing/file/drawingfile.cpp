@@ -86,7 +86,7 @@ void DrawingFile::writeVariable(HeaderVariable which, qint64 number)
             numberInPlace(old, number));
 }
 
-/// Makes a missing section around it.
+/// Adds a variable and, if necessary, the section for it.
 void DrawingFile::addVariable(HeaderVariable which, const QByteArray& tag)
 {
     const TagStyle style = m_tables.sectionStyle();
@@ -117,7 +117,8 @@ qint64 DrawingFile::newHandleNumber(quint64 handle) const
                                                        : -1;
 }
 
-/// The lowest handle that is surely free in the file as read, by what it uses and by its seed.
+/// The lowest handle that is certainly free in the original file, according to the used handles and
+/// to the seed.
 quint64 DrawingFile::firstFreeHandle() const
 {
     constexpr quint64 kHighest = quint64(1) << 62;

@@ -19,7 +19,7 @@ std::string_view EditJournal::originalBytes(const ByteRange& range) const
         static_cast<size_t>(range.begin), static_cast<size_t>(range.end - range.begin));
 }
 
-/// True when no replacement reaches over an edge of the range.
+/// Whether no replacement crosses an edge of the range.
 bool EditJournal::isFree(const ByteRange& range) const
 {
     const auto first = m_edits.lower_bound({range.begin, 0});
@@ -131,7 +131,7 @@ std::vector<EditChange> EditJournal::takeChanges()
     changes.swap(m_changes);
     if (!std::is_sorted(changes.begin(), changes.end(), byPlace))
         std::stable_sort(changes.begin(), changes.end(), byPlace);
-    // Of several changes at one place the first "before" and the last "after" remain.
+    // Of several changes at one place, the first "before" and the last "after" are kept.
     std::vector<EditChange> net;
     net.reserve(changes.size());
     for (EditChange& change : changes) {

@@ -17,7 +17,7 @@ namespace {
 constexpr int kBufferSize = 1 << 18;
 constexpr qint64 kChunkSize = 1 << 22;
 
-/// Gathers small pieces, hands large ones through in chunks, and watches for a cancel.
+/// Collects small pieces, writes large ones in chunks, and checks for cancellation.
 class Output
 {
 public:
@@ -72,7 +72,7 @@ private:
     Progress* m_progress = nullptr;
 };
 
-/// Why a write failed, as far as can be told from outside; else the system's words.
+/// Why a write failed, as far as can be determined; otherwise the system's own message.
 QString causeOf(const QSaveFile& file, qint64 size)
 {
     const QString folder = QFileInfo(file.fileName()).absolutePath();
@@ -106,7 +106,8 @@ Expected<void> writeFile(
     if (target.exists() && !target.isFile())
         return refusal(path, Texts::tr("它不是普通文件"));
     QSaveFile file(path);
-    // Unbuffered: a failure to write the last of a buffer would not keep commit() from replacing.
+    // Unbuffered, because commit() would replace the file even if writing the rest of a buffer
+    // failed.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return refusal(path, causeOf(file, size));
     Output output(file, size, progress);

@@ -74,7 +74,7 @@ TagStyle Objects::style() const
     return m_file.tables().style(TableKind::Layer);
 }
 
-/// Where a new object with this handle stands.
+/// The place of a new object with this handle.
 EditPlace Objects::placeOfNew(quint64 handle) const
 {
     const FileIndex& index = m_file.index();

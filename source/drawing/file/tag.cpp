@@ -25,7 +25,7 @@ Number parsed(std::string_view text, bool mayHaveTail, Format... format)
     return whole ? number : Number{};
 }
 
-/// A number of a binary file: the low byte first, wherever it stands.
+/// Reads a number of a binary file, which is little-endian and may be unaligned.
 template <class Number>
 Number read(const char* bytes)
 {

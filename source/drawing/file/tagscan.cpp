@@ -4,7 +4,7 @@ namespace drawing {
 
 namespace {
 
-// Whose program wrote a binary file stands in front of this.
+// Binary files begin with this sentinel, which contains the name of the writing program.
 constexpr size_t kSentinelSize = 22;
 constexpr std::string_view kSentinelEnd(" Binary DXF\r\n\x1a\0", 15);
 constexpr std::string_view kUtf8Mark = "\xef\xbb\xbf";
@@ -15,8 +15,8 @@ bool isBinaryFile(std::string_view bytes)
            bytes.substr(kSentinelSize - kSentinelEnd.size(), kSentinelEnd.size()) == kSentinelEnd;
 }
 
-/// The first group says `SECTION`: a letter behind a code of one byte, the rest of the code behind
-/// one byte of two.
+/// Determines the spelling from the first group, whose value is `SECTION`. A one-byte group code is
+/// followed by a letter, a two-byte one by its second byte.
 Spelling binarySpelling(std::string_view bytes)
 {
     const bool isOld = bytes.size() > kSentinelSize + 1 && bytes[kSentinelSize + 1] != '\0';

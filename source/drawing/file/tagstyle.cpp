@@ -16,7 +16,7 @@ bool isFlagCode(int code)
     return (code >= 60 && code <= 79) || (code >= 170 && code <= 179);
 }
 
-/// Width of an integer in files that align them.
+/// The width of an integer in files that align integers.
 int numberWidth(int code)
 {
     const bool isLong = (code >= 90 && code <= 99) || (code >= 420 && code <= 449) || code == 1071;
@@ -36,7 +36,8 @@ QByteArray nearest(qint64 value)
     return bytesOf(static_cast<Number>(std::clamp<qint64>(value, Limits::lowest(), Limits::max())));
 }
 
-/// A number that has no room is as near as can be: a table may hold more records than can be told.
+/// Limits a number to the range of its type, because a table may have more records than its count
+/// can hold.
 QByteArray binaryInteger(int code, qint64 value)
 {
     switch (valueKind(code)) {

@@ -7,12 +7,12 @@ namespace drawing {
 
 namespace {
 
-constexpr int kTurnSteps = 96;        ///< Segments of a full circle.
-constexpr int kSpanSteps = 12;        ///< Segments between two knots of a spline.
+constexpr int kTurnSteps = 96;        ///< The segments of a full circle.
+constexpr int kSpanSteps = 12;        ///< The segments between two knots of a spline.
 constexpr int kMaxSplineSteps = 6000; ///< Splines with more spans get fewer segments each.
 constexpr int kMaxDegree = 25;
 
-/// Adds the arc's points behind `from`, `to` included.
+/// Appends the points of the arc after `from`, including `to`.
 void appendBulge(Path& path, const Vec3& from, const Vec3& to, double bulge)
 {
     const double chord = std::hypot(to.x - from.x, to.y - from.y);
@@ -20,7 +20,8 @@ void appendBulge(Path& path, const Vec3& from, const Vec3& to, double bulge)
         path.push_back(to);
         return;
     }
-    // The centre lies on the chord's perpendicular bisector, at this share of the chord.
+    // The centre is on the perpendicular bisector of the chord; the offset is relative to the
+    // chord's length.
     const double offset = (1 - bulge * bulge) / (4 * bulge);
     const Vec3 center{(from.x + to.x) / 2 - (to.y - from.y) * offset,
         (from.y + to.y) / 2 + (to.x - from.x) * offset, from.z};
@@ -28,13 +29,13 @@ void appendBulge(Path& path, const Vec3& from, const Vec3& to, double bulge)
     const double start = std::atan2(from.y - center.y, from.x - center.x);
     Path arc;
     appendArc(arc, center, radius, start, 4 * std::atan(bulge));
-    // Nothing but the ends is left of an arc too large for its own centre.
+    // An arc that is too large to have a finite centre is reduced to its ends.
     if (!arc.empty())
         path.insert(path.end(), arc.begin() + 1, arc.end() - 1);
     path.push_back(to);
 }
 
-/// Non-decreasing, finite, and as many as degree and control points ask for.
+/// Whether the knots are finite, do not decrease, and match the degree and the control points.
 bool knotsFit(const Spline& spline)
 {
     const std::size_t wanted = spline.controls.size() + static_cast<std::size_t>(spline.degree) + 1;
@@ -50,7 +51,8 @@ bool evaluable(const Spline& spline)
            spline.controls.size() > static_cast<std::size_t>(spline.degree) && knotsFit(spline);
 }
 
-/// De Boor's scheme in homogeneous coordinates; `span` is the index of the knot at or before `t`.
+/// Evaluates the spline with De Boor's algorithm in homogeneous coordinates. `span` is the index of
+/// the last knot that is not after `t`.
 Vec3 splinePoint(const Spline& spline, std::size_t span, double t)
 {
     const std::size_t degree = static_cast<std::size_t>(spline.degree);
@@ -74,7 +76,7 @@ Vec3 splinePoint(const Spline& spline, std::size_t span, double t)
     return weights[degree] != 0 ? points[degree] * (1 / weights[degree]) : points[degree];
 }
 
-/// A smooth curve through the points, for splines that carry nothing else.
+/// Appends a smooth curve through the points, for splines without other data.
 void appendThroughPoints(Path& path, const Path& points, bool closed)
 {
     const std::size_t count = points.size();
@@ -113,7 +115,7 @@ void appendEllipse(Path& path, const Vec3& center, const Vec3& major, const Vec3
         return;
     const double turns = std::min(std::abs(sweep) / (2 * kPi), 1.0);
     const int steps = std::max(2, static_cast<int>(std::ceil(turns * kTurnSteps)));
-    // Turning step by step spares two trigonometric functions a point.
+    // Rotating step by step saves two trigonometric functions per point.
     const double turnCos = std::cos(sweep / steps);
     const double turnSin = std::sin(sweep / steps);
     double c = std::cos(start);
@@ -172,7 +174,7 @@ void appendSpline(Path& path, const Spline& spline)
 double forwardSweep(double start, double end)
 {
     const double sweep = std::fmod(end - start, 2 * kPi);
-    // Ends that meet are a whole turn, not nothing; so are ends that meet but for rounding.
+    // Ends that coincide, except for rounding, mean a full turn.
     return sweep > 1e-9 ? sweep : sweep + 2 * kPi;
 }
 

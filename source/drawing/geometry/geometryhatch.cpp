@@ -7,16 +7,18 @@ namespace drawing {
 
 namespace {
 
-constexpr std::size_t kMaxSegments = 20000; ///< Of one hatch; a finer pattern shows as grey anyway.
+/// The limit for one hatch. A finer pattern looks grey anyway.
+constexpr std::size_t kMaxSegments = 20000;
 
-/// Where a boundary edge crosses the pattern line of a number.
+/// A crossing of a boundary edge with a numbered pattern line.
 struct Crossing
 {
     qint64 line;
     double along;
 };
 
-/// The frame of one family: `along` its lines, and across them counted in lines.
+/// The coordinate system of one family of lines: the position along a line, and the number of the
+/// line.
 class Family
 {
 public:
@@ -41,7 +43,8 @@ public:
         const double lineA = lineOf(from);
         const double lineB = lineOf(to);
         const double low = std::ceil(std::min(lineA, lineB));
-        const double high = std::ceil(std::max(lineA, lineB)); // Half open: shared ends count once.
+        // The range is half open, so shared ends count once.
+        const double high = std::ceil(std::max(lineA, lineB));
         if (!(high - low < double(kMaxSegments - std::min(crossings.size(), kMaxSegments))) ||
             std::abs(low) > 1e15)
             return false;
@@ -54,7 +57,7 @@ public:
         return true;
     }
 
-    /// Adds what of a line lies between two crossings, cut into its dashes.
+    /// Adds the part of a line between two crossings, divided into its dashes.
     bool addDashes(std::vector<HatchSegment>& segments, qint64 line, double from, double to) const
     {
         if (m_period <= 0) {
@@ -134,7 +137,7 @@ bool appendFamily(std::vector<HatchSegment>& segments, const std::vector<Path>& 
         const Crossing& in = crossings[i];
         const Crossing& out = crossings[i + 1];
         if (in.line != out.line)
-            continue; // The partner was lost to rounding.
+            continue; // The other crossing was lost to rounding.
         if (!family.addDashes(segments, in.line, in.along, out.along))
             return false;
         ++i;

@@ -6,7 +6,7 @@ namespace drawing {
 
 namespace {
 
-constexpr int kPolylineLoop = 2; ///< Bit of the loop's type.
+constexpr int kPolylineLoop = 2; ///< A bit in the type of a loop.
 
 } // namespace
 
@@ -89,7 +89,7 @@ void HatchReader::takeEdge(const Tag& tag)
     }
 }
 
-/// The codes whose meaning hangs on the kind of edge.
+/// Handles the group codes whose meaning depends on the kind of edge.
 void HatchReader::takeSpline(const Tag& tag)
 {
     const bool spline = m_edge.kind == EdgeKind::Spline;
@@ -107,7 +107,7 @@ void HatchReader::takeSpline(const Tag& tag)
 
 void HatchReader::takePattern(const Tag& tag)
 {
-    // Seed points and the gradient follow the pattern.
+    // The pattern is followed by seed points and the gradient.
     if (tag.code == 98)
         m_part = Part::Tail;
     if (tag.code == 450 && tag.integer() == 1)
@@ -143,7 +143,7 @@ void HatchReader::takePattern(const Tag& tag)
 void HatchReader::finishEdge()
 {
     Path path;
-    // Backward arcs state their angles as seen from behind.
+    // The angles of clockwise arcs are mirrored.
     const double turn = m_edge.forward ? 1 : -1;
     const double sweep = turn * forwardSweep(m_edge.start, m_edge.end);
     const Vec3 center = m_edge.points.empty() ? Vec3() : m_edge.points.front();
@@ -173,7 +173,7 @@ void HatchReader::finishEdge()
     joinLoop(std::move(path));
 }
 
-/// Edges come in order, but each may run either way.
+/// Joins an edge to the loop. Edges are in order, but each may have either direction.
 void HatchReader::joinLoop(Path path)
 {
     const auto reach = [&path](const Vec3& end) {

@@ -11,12 +11,12 @@ struct GeometryIndex::Entry
 {
     Place place;
     Box bounds;
-    quint32 key = 0; ///< Near for entries that lie near each other.
+    quint32 key = 0; ///< Similar for entries that are close to each other.
 };
 
 namespace {
 
-/// The lower 16 bits, each with a zero in front.
+/// Spreads the lower 16 bits by inserting a zero before each.
 quint32 spread(quint32 bits)
 {
     bits = (bits | bits << 8) & 0x00ff00ffU;
@@ -25,7 +25,7 @@ quint32 spread(quint32 bits)
     return (bits | bits << 1) & 0x55555555U;
 }
 
-/// Where the point comes on a curve that winds through the extents square by square.
+/// The position of a point on a space-filling curve through the extents.
 quint32 keyOf(const QPointF& point, const Box& extents)
 {
     constexpr double kSteps = 65535;
@@ -92,7 +92,8 @@ std::vector<GeometryIndex::Place> GeometryIndex::placesIn(const Bunches& bunches
 
 bool GeometryIndex::narrows(const Box& box) const
 {
-    constexpr double kShare = 0.25; // Beyond it what is found is nearly all, and must be sorted.
+    // A larger box contains nearly everything, and sorting the result costs too much.
+    constexpr double kShare = 0.25;
     const double width = std::min(box.maxX, m_extents.maxX) - std::max(box.minX, m_extents.minX);
     const double height = std::min(box.maxY, m_extents.maxY) - std::max(box.minY, m_extents.minY);
     return !isEmpty() && (width < 0 || height < 0 ||

@@ -7,12 +7,12 @@ namespace drawing {
 
 namespace {
 
-/// Beyond this, products of two coordinates are no longer finite.
+/// Above this limit, products of two coordinates may become infinite.
 constexpr double kLargest = 1e150;
 
 bool usable(double value)
 {
-    return std::abs(value) < kLargest; // False for NaN too.
+    return std::abs(value) < kLargest; // Also false for NaN.
 }
 
 } // namespace
@@ -48,7 +48,7 @@ Transform3::Transform3(const Vec3& x, const Vec3& y, const Vec3& z, const Vec3& 
 
 Transform3 Transform3::fromExtrusion(const Vec3& normal)
 {
-    // A direction this close to the world's z axis takes the world's y as the reference axis.
+    // For a direction this close to the world's z axis, the reference axis is the world's y axis.
     constexpr double kNearZ = 1.0 / 64;
     if (!normal.isFinite() || normal.length() == 0)
         return {};

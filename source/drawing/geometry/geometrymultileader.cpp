@@ -25,7 +25,7 @@ MultiLeader::MultiLeader(const EntityTags& tags)
     }
 }
 
-/// What the entity says of itself stands behind its context.
+/// Handles the properties of the entity itself, which follow its context.
 void MultiLeader::takeOutside(const Tag& tag)
 {
     enum LineKind { None = 0, Curved = 2 };
@@ -126,7 +126,7 @@ void MultiLeader::takeLine(const Tag& tag)
         takeCoordinate(tag, 10, line.back());
 }
 
-/// All lines of a leader meet at the landing and share the dogleg from there.
+/// Ends a leader. All of its lines meet at the landing and share the dogleg.
 void MultiLeader::finishLeader()
 {
     for (std::size_t i = m_firstLine; i < m_lines.size(); ++i) {

@@ -8,14 +8,14 @@ namespace {
 
 constexpr qint64 kClosed = 2;
 
-/// A vertex and what is said there of the lines that pass it.
+/// A vertex and the data about the lines that pass it.
 struct Vertex
 {
     Vec3 point;
-    Vec3 direction; ///< Of the segment that begins here.
-    Vec3 miter;     ///< Along which the lines lie side by side.
-    /// Per line: its place on the miter, then from where along the segment it is drawn, left out,
-    /// drawn again and so on.
+    Vec3 direction; ///< The direction of the segment that begins here.
+    Vec3 miter;     ///< The direction in which the lines are arranged side by side.
+    /// For each line, its offset along the miter, followed by the positions along the segment where
+    /// drawing alternately starts and stops.
     std::vector<std::vector<double>> lines;
 
     Vec3 base(std::size_t line) const
@@ -28,7 +28,7 @@ struct Vertex
 std::vector<Vertex> readVertices(const EntityTags& tags)
 {
     constexpr int kPoint = 11;
-    constexpr int kLine = 74; ///< How many numbers of a line follow.
+    constexpr int kLine = 74; ///< The count of numbers that follow for a line.
     constexpr int kNumber = 41;
     std::vector<Vertex> vertices;
     for (const Tag& tag : tags) {
@@ -48,10 +48,11 @@ std::vector<Vertex> readVertices(const EntityTags& tags)
     return vertices;
 }
 
-/// One line of a segment: what the numbers leave of it.
+/// Appends one line of a segment with its gaps.
 void appendSegment(Path& path, const Vertex& from, const Vertex& to, std::size_t line)
 {
-    constexpr std::size_t kCuts = 2; ///< Where the numbers behind the first stretch begin.
+    /// The index of the numbers after the start of the first stretch.
+    constexpr std::size_t kCuts = 2;
     const Vec3 start = from.base(line);
     const Vec3 end = to.base(line);
     const bool isCut = line < from.lines.size() && from.lines[line].size() > kCuts;

@@ -9,7 +9,7 @@ namespace drawing {
 
 namespace {
 
-/// The part of the line inside the box; false when there is none.
+/// Clips the line at the box. Returns false when nothing is left.
 bool clip(const EndlessLine& line, const Box& box, QPointF ends[2])
 {
     double low = line.bothWays ? -std::numeric_limits<double>::infinity() : 0;
@@ -127,7 +127,8 @@ Geometry endlessLines(const std::vector<GeometryPart>& parts)
 Expected<Geometry> buildGeometry(const GeometrySource& source, Progress* progress)
 {
     GeometryRoom room;
-    auto geometry = GeometryBuilder(source, room, progress).build({0, source.entities.all().size()});
+    auto geometry =
+        GeometryBuilder(source, room, progress).build({0, source.entities.all().size()});
     if (!geometry)
         return geometry;
     Box extents;

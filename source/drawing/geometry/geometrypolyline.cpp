@@ -110,7 +110,8 @@ Path Polyline::grid() const
     return path;
 }
 
-/// Vertices come first, then faces that number them; a negative number hides the edge behind it.
+/// The edges of the faces. Vertices come first and faces refer to them by number; a negative number
+/// makes the following edge invisible.
 Path Polyline::faces() const
 {
     Path points;
@@ -142,8 +143,7 @@ Path Polyline::faces() const
 Path meshEdges(const EntityTags& mesh)
 {
     Path points;
-    std::vector<std::size_t>
-        list; // Faces: a count and that many vertex numbers from 0, over again.
+    std::vector<std::size_t> list; // Faces: repeatedly a count and that many vertex indices from 0.
     bool inFaces = false;
     for (const Tag& tag : mesh) {
         if (tag.code == 93 || tag.code == 94)

@@ -6,7 +6,7 @@ namespace drawing {
 
 namespace {
 
-/// The signs that the letters of the symbol font show, from 'a' on.
+/// The symbols for the letters of the symbol font, beginning with 'a'.
 constexpr char16_t kSigns[] = u"∠⟂⏥⌓○∥⌭↗⌯⌖⌒ⓁⓂ⌀□Ⓟ⌲◎Ⓢ⌰—";
 
 QString signOf(QChar letter)

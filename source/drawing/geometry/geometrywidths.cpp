@@ -9,7 +9,7 @@ namespace drawing {
 
 namespace {
 
-/// The width that all segments have; nothing when they differ.
+/// The width that all segments share; nothing when their widths differ.
 std::optional<double> commonWidth(const std::vector<BulgeVertex>& vertices, std::size_t segments)
 {
     const double width = vertices.front().startWidth;
@@ -21,7 +21,7 @@ std::optional<double> commonWidth(const std::vector<BulgeVertex>& vertices, std:
     return isCommon ? std::optional(width) : std::nullopt;
 }
 
-/// The outline of a segment as wide as it says at its ends.
+/// The outline of a segment whose width changes from end to end.
 Path taperedSegment(const BulgeVertex& from, const Vec3& to)
 {
     Path middle;
@@ -55,7 +55,7 @@ PolylinePicture pictureOf(
         [](const BulgeVertex& vertex) { return vertex.bulge != 0; });
     const std::optional<double> width = commonWidth(vertices, segments);
     picture.width = std::isfinite(width.value_or(0)) ? width.value_or(0) : 0;
-    // The chords of an arc have to share one run of the linetype.
+    // The chords of an arc must share one run of the linetype.
     const bool splits = hasArcs && !isContinuous && picture.width <= 0;
     picture.patternRestarts = !isContinuous && !splits && !hasArcs;
     if (width && !splits) {

@@ -10,7 +10,7 @@ namespace drawing {
 
 namespace {
 
-// Groups of LTYPE records; all but the first stand behind the element they tell of.
+// Groups of LTYPE records. All but the first follow the element that they describe.
 enum Code { Dash = 49, Kind = 74, Height = 46, Rotation = 50, Along = 44, Across = 45, Text = 9 };
 constexpr int kUprightKind = 1;
 
@@ -57,7 +57,7 @@ LinetypePatternPointer patternOf(const LinetypeDefinition& definition)
         else if (!pattern->elements.empty())
             take(pattern->elements.back(), tag);
     }
-    // The total that the record states is wrong at times.
+    // The total length in the record is not reliable.
     for (const LinetypePattern::Element& element : pattern->elements)
         pattern->length += std::abs(element.length);
     const bool hasGap = std::any_of(pattern->elements.begin(), pattern->elements.end(),

@@ -14,7 +14,8 @@ constexpr QLatin1String kMark(" @ ", 3);
 
 } // namespace
 
-/// The layer that a copy's record points at, beside the scale; also one that this step took away.
+/// The layer that the record of a copy points at, next to the scale; it may have been deleted in
+/// this step.
 LayerId AnnotationCopies::baseOf(quint64 record, const QHash<quint64, LayerId>& gone) const
 {
     const TagList tags = m_file.objects().tags(record);
@@ -92,7 +93,7 @@ void AnnotationCopies::followBase(const Copy& copy, const LayerEntry& before)
     pointAt(copy.record, before.handle, base.handle);
 }
 
-/// Under the next number that is free, where the copy's own is not.
+/// Renames a copy. When its number is in use, it gets the next free one.
 void AnnotationCopies::rename(LayerId copy, const QString& oldBase, const QString& base)
 {
     LayerProperties properties = m_layers.layer(copy)->properties;
@@ -110,8 +111,8 @@ void AnnotationCopies::rename(LayerId copy, const QString& oldBase, const QStrin
     do
         properties.name = base + kMark + QString::number(number++);
     while (isTaken(properties.name));
-    // Where it would be too long a name the copy keeps its own; what it is a copy of is in its
-    // record.
+    // A copy whose name would be too long keeps its old name. Its record still tells which layer it
+    // copies.
     static_cast<void>(m_edits.setProperties(copy, properties));
 }
 

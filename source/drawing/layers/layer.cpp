@@ -7,7 +7,7 @@ namespace drawing {
 
 namespace {
 
-// Tells a transparency of its own from one "by layer" or "by block".
+// Marks a transparency value, as opposed to "by layer" and "by block".
 constexpr qint64 kTransparencyByValue = 0x02000000;
 
 auto members(const LayerProperties& p)
@@ -45,7 +45,7 @@ int transparencyPercent(qint64 stored)
     if ((stored & 0xff000000) != kTransparencyByValue)
         return 0;
     const int clear = 255 - static_cast<int>(stored & 0xff);
-    // Rounded, since writers differ in which way they round alpha.
+    // The percentage is rounded because programs round alpha differently.
     return std::min((clear * 200 + 255) / 510, kMostTransparent);
 }
 

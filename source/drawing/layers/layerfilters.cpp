@@ -9,7 +9,7 @@ namespace {
 
 constexpr QLatin1Char kEscape('`');
 
-/// The name as a pattern that only it fits.
+/// A pattern that matches exactly this name.
 QString escaped(const QString& name)
 {
     QString pattern;
@@ -25,7 +25,7 @@ QString escaped(const QString& name)
 
 QString followedPattern(const QString& pattern, const LayerReplacements& replacements)
 {
-    // No name holds a comma or an escape.
+    // Names contain neither commas nor escape characters.
     QStringList parts = pattern.split(QLatin1Char(','));
     for (QString& part : parts) {
         const QString name = replacements.currentName(QString(part).remove(kEscape));

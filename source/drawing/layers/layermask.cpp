@@ -4,7 +4,7 @@ namespace drawing {
 
 namespace {
 
-/// What one bit of the mask stands for.
+/// The property that a bit of the mask stands for.
 struct MaskRow
 {
     int bit;

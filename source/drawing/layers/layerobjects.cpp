@@ -14,16 +14,16 @@ namespace {
 
 // Groups of LAYER_INDEX and of filters.
 constexpr int kEntityCount = 90;
-constexpr int kText = 1; ///< Of filters: what they are, or their name and patterns.
+constexpr int kText = 1; ///< In filters: the kind, or the name and patterns.
 constexpr int kExpression = 301;
 
-/// A layer in a list or index, from its name to the next.
+/// A layer in a list or index; its tags reach from its name to the next.
 struct ListedLayer
 {
     int begin = 0;
     int end = 0;
     QString key;
-    int buffer = TagList::kNone; ///< The tag that owns the index of its entities.
+    int buffer = TagList::kNone; ///< The tag that owns the index of the layer's entities.
     int count = TagList::kNone;
 };
 
@@ -48,7 +48,7 @@ std::vector<ListedLayer> listedLayers(const TagList& tags, const TextCodec& code
     return listed;
 }
 
-/// Notes the layers that went or got another name and still stand in these tags.
+/// Records deleted and renamed layers that these tags still mention.
 void noteMentions(const DrawingFile& file, const TagList& tags,
     const LayerReplacements& replacements, LeftOut& leftOut)
 {
@@ -96,9 +96,8 @@ void LayerObjects::setText(TagList& tags, int at, const QString& text) const
         tags.setText(at, m_file.encoded(text));
 }
 
-/// The layer that one was merged into takes its place, unless it is listed itself: then its index
-/// takes in what was on
-/// the other.
+/// Updates a list or index. The layer that a deleted one was merged into takes its place. If that
+/// layer is already listed, its index takes over the entities of the other one.
 void LayerObjects::followList(TagList& tags, const LayerReplacements& replacements)
 {
     const std::vector<ListedLayer> listed = listedLayers(tags, m_file.codec());
@@ -136,7 +135,7 @@ void LayerObjects::followList(TagList& tags, const LayerReplacements& replacemen
     tags.keepOnly(kept);
 }
 
-/// Appends the handles that one index of entities lists to another.
+/// Appends the handles in one entity index to another.
 void LayerObjects::joinBuffers(quint64 from, quint64 to)
 {
     const TagList source = m_file.objects().tags(from);
@@ -168,8 +167,8 @@ QSet<quint64> LayerObjects::followFilters(const LayerReplacements& replacements)
     return seen;
 }
 
-/// A filter of the older kind: its own name, then the pattern of layer names; an expression stands
-/// in its extended data.
+/// Updates a filter of the older kind: its own name, then the pattern of layer names. An expression
+/// is in its extended data.
 void LayerObjects::followOldFilter(TagList& tags, const LayerReplacements& replacements) const
 {
     const RecordData data(tags);
@@ -183,7 +182,8 @@ void LayerObjects::followOldFilter(TagList& tags, const LayerReplacements& repla
     }
 }
 
-/// A filter of the newer kind: a group lists handles, a filter compares names in its expression.
+/// Updates a filter of the newer kind: a group lists handles, and a property filter compares names
+/// in its expression.
 void LayerObjects::followFilter(TagList& tags, const LayerReplacements& replacements) const
 {
     const RecordData data(tags);

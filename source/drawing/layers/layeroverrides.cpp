@@ -9,21 +9,21 @@ namespace {
 
 constexpr int kViewportCode = 335;
 
-/// Behind the group of a viewport that begins at `at`, or behind the one tag that stands there.
+/// The index after the viewport's group that begins at `at`, or after the single tag there.
 int endOfGroup(const TagList& tags, int at, int end)
 {
     const int brace = tags.code(at) == group::kBrace ? tags.find(group::kBrace, at + 1, end) : at;
     return brace == TagList::kNone ? end : brace + 1;
 }
 
-/// The viewport that the group tells of; 0 when it tells of none.
+/// The viewport that the group belongs to; 0 when it names none.
 quint64 viewportOf(const TagList& tags, int at, int end)
 {
     const int owner = tags.find(kViewportCode, at, end);
     return owner == TagList::kNone ? 0 : tags.handle(owner);
 }
 
-/// The record's data without the group of this viewport.
+/// The data of the record without the group of this viewport.
 QByteArray dataWithout(TagList tags, quint64 viewport)
 {
     const RecordData data(tags);
@@ -63,7 +63,7 @@ const LayerOverrides::Row LayerOverrides::kRows[] = {
         group::kTransparency},
 };
 
-/// What the record holds for one viewport; null for a linetype that the drawing lacks.
+/// The group for one viewport; null for a linetype that the drawing does not have.
 QByteArray LayerOverrides::group(
     const Row& row, quint64 viewport, const LayerProperties& shown) const
 {
@@ -152,7 +152,7 @@ void LayerOverrides::apply(const Row& row, const Tag& value, LayerProperties& sh
     }
 }
 
-/// A null group takes the override away.
+/// Writes the group of an override. A null group removes the override.
 void LayerOverrides::write(LayerId layer, const Row& row, quint64 viewport, const QByteArray& group)
 {
     Objects& objects = m_file.objects();
@@ -165,7 +165,8 @@ void LayerOverrides::write(LayerId layer, const Row& row, quint64 viewport, cons
     const bool isThere = before.size() > 0;
     const QByteArray data = (isThere ? dataWithout(before, viewport) : QByteArray()) + group;
     if (!isThere && !data.isEmpty()) {
-        objects.removeEntry(dictionary, row.key); // Of a record that the file lacks.
+        // The entry may refer to a record that does not exist.
+        objects.removeEntry(dictionary, row.key);
         objects.addEntry(dictionary, row.key, objects.addRecord(dictionary, data));
     } else if (data.isEmpty() && record != 0) {
         objects.removeEntry(dictionary, row.key);

@@ -24,7 +24,8 @@ void LayerRecords::add(LayerEntry& entry)
 {
     SymbolTables& tables = m_file.tables();
     const TagStyle style = tables.style(TableKind::Layer);
-    LayerRecord zero; // What layer 0 has of these is what the drawing's other layers have.
+    // A new layer gets these values from layer 0, because the drawing's other layers share them.
+    LayerRecord zero;
     if (const LayerEntry& model = m_layers.entry(m_layers.zero()); model.isOfFile())
         zero = LayerRecordReader(m_file.codec()).read(m_file.tags(model.range()));
     LayerProperties plain;

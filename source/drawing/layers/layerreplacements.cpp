@@ -38,8 +38,7 @@ LayerReplacements::LayerReplacements(const LayerTable& layers, const TextCodec& 
     }
 }
 
-/// Follows every layer over those it was merged into, in this step and before, to one that is
-/// there.
+/// Follows the merges of every layer, in this step and before, to a layer that still exists.
 void LayerReplacements::follow(
     const LayerTable& layers, const TextCodec& codec, const std::vector<char>& changed)
 {

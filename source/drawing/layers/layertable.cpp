@@ -88,7 +88,7 @@ void LayerTable::put(LayerId id, const LayerEntry& after)
         return;
     if (wasPresent && m_byName.value(oldKey, LayerId::None) == id)
         m_byName.remove(oldKey);
-    // A file may hold two records of one name: the first is the one entities are on.
+    // A file may have two records with one name; entities belong to the first one.
     if (after.present && !m_byName.contains(newKey))
         m_byName.insert(newKey, id);
 }
@@ -142,7 +142,7 @@ std::vector<LayerChange> LayerTable::takeChanges()
 
 void LayerTable::apply(const std::vector<LayerChange>& changes, bool forward)
 {
-    // Names may have been swapped: all old ones go before the new ones come.
+    // Names may have been exchanged, so all old names are removed before the new ones are added.
     for (const LayerChange& change : changes) {
         LayerEntry gone = entry(change.id);
         gone.present = false;

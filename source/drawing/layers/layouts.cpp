@@ -13,16 +13,16 @@ namespace drawing {
 
 namespace {
 
-/// What a LAYOUT object says.
+/// The contents of a LAYOUT object.
 struct LayoutRecord
 {
     Layout layout;
     qint64 tab = 0;
-    quint64 block = 0;    // Of its block record.
-    quint64 viewport = 0; // The one last active.
+    quint64 block = 0;    // The handle of its block record.
+    quint64 viewport = 0; // The viewport that was last active.
 };
 
-/// What stands before the layout's own subclass belongs to the plot settings.
+/// Reads a LAYOUT object. The tags before the layout's own subclass belong to the plot settings.
 LayoutRecord readRecord(const DrawingFile& file, const ObjectPlace& object)
 {
     constexpr int kLayoutName = 1;
@@ -47,7 +47,7 @@ LayoutRecord readRecord(const DrawingFile& file, const ObjectPlace& object)
     return record;
 }
 
-/// Names of the block definitions by the handles of their records.
+/// The names of block definitions by the handles of their block records.
 std::map<quint64, QString> blockNames(const DrawingFile& file)
 {
     std::map<quint64, QString> names;
@@ -113,7 +113,7 @@ std::vector<Layout> readLayouts(const DrawingFile& file, const EntityTable& enti
     return layouts;
 }
 
-/// A layout is shown, if one is, by its active flag.
+/// Reads the layouts. The active flag tells which one is shown, if any.
 void LayoutTable::load(DrawingFile& file, const EntityTable& entities)
 {
     m_layouts = readLayouts(file, entities);

@@ -12,13 +12,13 @@ namespace {
 
 // Groups of LTYPE records.
 constexpr int kDash = 49;
-constexpr int kDashKind = 74; ///< 0 for a plain dash.
+constexpr int kDashKind = 74; ///< 0 for a simple dash.
 constexpr int kStyle = group::kHardPointer;
-/// Tell of letters or a shape at a dash, behind its kind.
+/// The groups after a dash's kind that describe letters or a shape.
 constexpr int kEmbedded[] = {75, kStyle, 46, 50, 44, 45, 9};
 constexpr int kPlain[] = {3, 72, 73, 40, kDash, kDashKind};
 
-// Groups of STYLE records, and the bits of their flags that say what the style is like.
+// Groups of STYLE records, and the bits of their flags that describe the style itself.
 constexpr int kFlags = group::kFlags;
 constexpr int kFont = 3;
 constexpr int kStyleGroups[] = {kFlags, 40, 41, 50, 71, 42, kFont, 4};
@@ -38,7 +38,7 @@ TextTag* findTag(std::vector<TextTag>& tags, int code)
     return found == tags.end() ? nullptr : &*found;
 }
 
-/// Styles are told apart by their names, shape files, which have none, by their fonts.
+/// Styles are identified by their names, and shape files, which have no names, by their fonts.
 QString styleKey(LinetypeStyle style)
 {
     if (!style.name.isEmpty())
@@ -47,7 +47,7 @@ QString styleKey(LinetypeStyle style)
     return QLatin1Char('\n') + (font ? foldedName(font->value) : QString());
 }
 
-/// The same dashes without letters and shapes.
+/// The dashes without letters and shapes.
 std::vector<TextTag> plainDashes(const std::vector<TextTag>& tags)
 {
     std::vector<TextTag> plain;
@@ -58,7 +58,7 @@ std::vector<TextTag> plainDashes(const std::vector<TextTag>& tags)
     return plain;
 }
 
-/// Formats with handles want the kind of every dash.
+/// Adds missing kinds of dashes, which formats with handles require.
 std::vector<TextTag> withDashKinds(const std::vector<TextTag>& tags)
 {
     std::vector<TextTag> all;
@@ -207,7 +207,7 @@ void LinetypeTable::add(const LinetypeDefinition& definition)
     m_file.tables().add(TableKind::Linetype, tags);
 }
 
-/// The handle of the drawing's style of that name, which is made where it is missing.
+/// The handle of the drawing's style with this name. A missing style is created.
 quint64 LinetypeTable::styleHandle(const LinetypeStyle& style)
 {
     const QString key = styleKey(style);

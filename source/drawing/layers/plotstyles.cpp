@@ -27,7 +27,7 @@ QString PlotStyles::name(int colorIndex, quint64 handle) const
 {
     if (!m_areByColor)
         return m_names.value(handle);
-    // Shared by all layers of a colour.
+    // All layers of a colour share the same text.
     static const std::vector<QString> names = [] {
         std::vector<QString> made;
         made.reserve(kColorByLayer);

@@ -12,7 +12,7 @@ namespace drawing {
 
 namespace {
 
-// Lists of frozen layers.
+// Group codes of the lists of frozen layers.
 constexpr int kFrozenSince2004 = 331;
 constexpr int kFrozenBefore2004 = 341;
 
@@ -23,12 +23,12 @@ bool isFrozenCode(int code)
 
 } // namespace
 
-/// The tags of a viewport that list its frozen layers: those of the file, and what was added.
+/// The tags of a viewport that list its frozen layers: those of the file and the added ones.
 struct ViewportLayers::FrozenList
 {
     std::vector<Tag> tags;
     std::vector<quint64> added;
-    qint64 at = -1; ///< Where new ones go.
+    qint64 at = -1; ///< The place for new entries.
     int code = kFrozenSince2004;
     TagStyle style;
 };
@@ -45,7 +45,7 @@ ViewportLayers::FrozenList ViewportLayers::list(const Entity& viewport) const
     while (tags.next(tag)) {
         const std::string_view subclass = tags.place().subclass();
         if (!subclass.empty() && subclass != "AcDbViewport")
-            continue; // Old files have no markers.
+            continue; // Old files have no subclass markers.
         if (isFrozenCode(tag.code)) {
             list.code = tag.code;
             list.tags.push_back(tag);
@@ -125,7 +125,7 @@ Expected<void> ViewportLayers::setFrozen(const std::vector<LayerId>& layers)
     }
     const FrozenList list = this->list(current());
     for (const Tag& tag : list.tags) {
-        // What is no layer of ours is not ours to drop.
+        // Handles that do not belong to a layer of the drawing are kept.
         if (missing.remove(tag.handle()) || !m_layers.byHandle(tag.handle()))
             m_file.journal().restore(tag.range());
         else
@@ -154,7 +154,7 @@ quint64 ViewportLayers::handleOf(const Entity& viewport) const
     return made.size() > 0 ? made.handle(0) : 0;
 }
 
-/// The handle of a viewport; one without gets one.
+/// The handle of a viewport; a viewport without a handle gets one.
 quint64 ViewportLayers::madeHandle(const Entity& viewport)
 {
     if (const quint64 known = handleOf(viewport))

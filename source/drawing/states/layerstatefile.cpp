@@ -25,8 +25,8 @@ QString shown(const QString& path)
     return QDir::toNativeSeparators(path);
 }
 
-/// What the bytes are most likely in. A double-byte code page that has all of them is hardly so by
-/// chance; the single-byte ones have nearly any.
+/// The most likely encoding of the bytes. Text that is valid in a double-byte code page is hardly
+/// so by chance; single-byte code pages accept nearly everything.
 TextCodec codecOf(std::string_view bytes, const TextCodec& own)
 {
     const TextCodec utf8 = TextCodec::utf8();
@@ -56,7 +56,8 @@ class FileReader
 {
 public:
     FileReader(std::string_view bytes, const TextCodec& codec) : m_bytes(bytes), m_codec(codec) {}
-    /// The offset of a line where a group code should stand and none does; -1 when all is well.
+    /// Returns the offset of a line that should be a group code and is not; -1 when everything is
+    /// fine.
     qint64 run();
     LayerStateFile& file() { return m_file; }
 

@@ -128,7 +128,7 @@ void LayerStateReader::takeLayer(const Tag& tag)
         readFlags(tag.integer(), m_layer);
         break;
     case kTrueColor: {
-        // Some programs put the colour's method above its three parts.
+        // Some programs store the colour's method above its three parts.
         const PackedColor color(tag.integer());
         if (color.method == PackedColor::None || color.method == PackedColor::TrueColor)
             p.trueColor = color.value;
@@ -167,7 +167,7 @@ void LayerStateReader::openLayer(const QString& name)
 
 void LayerStateReader::closeLayer()
 {
-    // A handle that leads nowhere leaves a layer without a name.
+    // A layer with an unknown handle has no name and is dropped.
     if (m_isLayerOpen && !m_layer.properties.name.isEmpty())
         m_state.layers.push_back(m_layer);
     m_isLayerOpen = false;

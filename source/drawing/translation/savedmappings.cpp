@@ -9,13 +9,13 @@ namespace drawing {
 namespace {
 
 constexpr char kDictionaryKey[] = "LAYER_TRANSLATION";
-/// No layer can be called so.
+/// A key that cannot be the name of a layer.
 constexpr char kIdleZeroKey[] = "*0";
 
-// Groups of a mapping's record.
+// Groups in the record of a mapping.
 constexpr int kFrom = 1;
 constexpr int kTo = 2;
-/// A hard pointer: the layer is not purged as long as it is a target.
+/// A hard pointer keeps the layer from being purged as long as it is a target.
 constexpr int kToHandle = group::kHardPointer;
 
 } // namespace

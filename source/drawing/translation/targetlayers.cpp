@@ -45,7 +45,7 @@ QString TargetLayers::linetypeFor(const TargetLayer& target, const LayerProperti
     return base.linetype;
 }
 
-/// What a layer is to be like: what a standard does not speak of stays.
+/// The wanted properties of a layer. Properties that the standard leaves open stay as they are.
 LayerProperties TargetLayers::wanted(const TargetLayer& target, const LayerProperties& base)
 {
     LayerProperties properties = base;
@@ -91,7 +91,7 @@ Expected<LayerId> TargetLayers::add(const TargetLayer& target, const LayerProper
     auto added = m_parts.layerEdits.add(properties);
     if (!added)
         return added;
-    // Only a layer that is there can be given a plot style.
+    // A plot style can only be given to an existing layer.
     return set(*added, target, properties).map([&added] { return *added; });
 }
 
