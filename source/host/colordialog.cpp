@@ -36,7 +36,7 @@ OdInt64 packedOf(const QColor& color)
     return color.red() | color.green() << 8 | color.blue() << 16;
 }
 
-/// The colour that the keys describe; white where they say nothing that can be read.
+/// The colour in the keys; white when they are not valid.
 OdCmColor colorOf(const vnsi::VnJsonPtr& tree)
 {
     const OdInt64 value = tree->GetDataL("selectClr", kWhiteIndex);
@@ -98,7 +98,7 @@ ColorDialog::ColorDialog(QWidget* parent)
     connect(m_indexPage, &IndexColorPage::indexChanged, this, &ColorDialog::refresh);
     connect(m_indexPage, &IndexColorPage::confirmed, this, &ColorDialog::accept);
     connect(m_truePage, &QColorDialog::currentColorChanged, this, &ColorDialog::refresh);
-    // The embedded page takes Enter and Esc as its own dialog would.
+    // Enter and Esc on the embedded page act as on a dialog of its own.
     connect(m_truePage, &QDialog::accepted, this, &ColorDialog::accept);
     connect(m_truePage, &QDialog::rejected, this, &ColorDialog::reject);
 }

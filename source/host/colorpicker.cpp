@@ -1,8 +1,8 @@
 #include "vnpickers.h"
 
 #include "swatches.h"
-#include "vndialogs.h"
 #include "vncolortext.h"
+#include "vndialogs.h"
 #include "vnstrings.h"
 
 namespace vnsi {
@@ -12,7 +12,7 @@ namespace {
 constexpr int kNamedColors = 7;
 constexpr int kByLayer = 256;
 constexpr int kByBlock = 0;
-/// Rows carry the method and the value of their colour in one number.
+/// The data of a row combines the method and the value of its colour in one number.
 constexpr int kMethodShift = 32;
 constexpr qlonglong kMoreColors = -1;
 

@@ -30,7 +30,7 @@ void reportFailure(const OdString& dialogName, const char* cause)
         vnutQStringToOdString(text), vnutQStringToOdString(kProductName), kVnIconWarning);
 }
 
-/// The dialog's result; 0 when it could not be shown.
+/// Runs a dialog and returns its result; 0 when it could not be shown.
 int runDialog(const OdString& serviceName, const OdString& dialogName, const VnJsonPtr& tree,
     const OdRxObjectPtr& invoker, QWidget* parent)
 {

@@ -49,7 +49,7 @@ vnsi::VnDocumentPtr& current()
 
 void setCurrentDocument(const vnsi::VnDocumentPtr& document)
 {
-    vnsi::VnDocumentPtr previous = document; // Released outside the lock.
+    vnsi::VnDocumentPtr previous = document; // It is released outside of the lock.
     const std::lock_guard lock(currentMutex);
     std::swap(current(), previous);
 }

@@ -57,12 +57,12 @@ void FileDialog::readKeys(const vnsi::VnJsonPtr& tree)
     setLabelText(Reject, tr("取消"));
 
     QStringList filters = splitFilters(text(tree, "filter"));
-    // Drawings come under many endings; one that the caller did not think of must be found, too.
+    // Drawings have various extensions, so files with unexpected ones must be selectable, too.
     if (filters.isEmpty() || (isOpening && !filters.join(QString()).contains(QLatin1String("(*)"))))
         filters.append(tr("所有文件 (*)"));
     setNameFilters(filters);
     const QString folder = text(tree, "dir");
-    // Who saves may give the name to start from in the folder's place.
+    // When saving, "dir" may contain a suggested file name instead of a folder.
     const bool isName = !isOpening && !folder.isEmpty() && !QFileInfo(folder).isDir();
     if (!folder.isEmpty() && !isName)
         setDirectory(folder);
@@ -89,7 +89,7 @@ void FileDialog::writeAnswers(const vnsi::VnJsonPtr& tree, bool isAccepted) cons
     if (paths.isEmpty())
         return;
     tree->SetDataSW("filePath", vnsi::vnutQStringToOdString(paths.first()));
-    // Whoever opens a file may read the list, also where only one file can be chosen.
+    // Callers that open files may read the list even when only one file can be chosen.
     if (!tree->GetDataB("MutiFile") && !tree->GetDataB("Open"))
         return;
     const vnsi::VnJsonPtr all = hostextras::createArray(paths.size());

@@ -23,7 +23,7 @@ QStringList splitFilters(const QString& filter)
     static const QRegularExpression separator(QStringLiteral(";;|\\||[\\r\\n]+|(?<=\\))"));
     QStringList entries;
     for (const QString& part : filter.split(separator)) {
-        // A single ";" between patterns means what a blank means.
+        // A single ";" between patterns has the same meaning as a blank.
         const QString entry = QString(part).replace(QLatin1Char(';'), QLatin1Char(' ')).trimmed();
         if (!entry.isEmpty())
             entries.append(withPatterns(entry));

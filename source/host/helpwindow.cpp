@@ -19,7 +19,7 @@ constexpr int kWidth = 640;
 constexpr int kHeight = 560;
 constexpr int kWidestPicture = 580;
 
-/// Shows pictures no wider than the window is at first.
+/// Limits pictures to the initial width of the window.
 class Pages : public QTextBrowser
 {
 protected:
@@ -59,7 +59,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_text(new Pages)
 
 void HelpWindow::showFor(QWidget* window, int)
 {
-    // As a child of the dialog it belongs to, the window is not blocked by that dialog.
+    // As a child of the dialog, the help window is not blocked by it.
     HelpWindow* help = qobject_cast<HelpWindow*>(window);
     QWidget* const owner = window ? window->window() : nullptr;
     if (!help && owner)
@@ -73,7 +73,7 @@ void HelpWindow::showFor(QWidget* window, int)
     help->activateWindow();
 }
 
-/// A page begins with its title.
+/// Shows the title, which is the first block of every page.
 void HelpWindow::showTitle()
 {
     setWindowTitle(tr("帮助 - %1").arg(m_text->document()->firstBlock().text()));

@@ -25,7 +25,7 @@ constexpr DialogRow kDialogs[] = {
 };
 constexpr const DialogRow* kFirstCommandDialog = kDialogs + 3;
 
-/// Makes the dialogs of a part of the table.
+/// Makes the dialogs in a section of the table.
 class DialogTable : public vnsi::VnUiService
 {
 public:

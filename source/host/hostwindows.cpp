@@ -49,7 +49,7 @@ namespace vnsi {
 void* vnuiCurTargetWindow()
 {
     const QWidget* const window = host::currentWindow();
-    // A window is a number to Qt and a pointer in the interface.
+    // Qt identifies a window by a number, the interface by a pointer.
     return window ? reinterpret_cast<void*>(window->winId()) // NOLINT(performance-no-int-to-ptr)
                   : nullptr;
 }

@@ -21,8 +21,8 @@ constexpr int kHues = 24;
 constexpr int kSmallSide = 20;
 constexpr int kLargeSide = 24;
 
-/// One column a hue: the full colours from dark to light in the upper half, the half saturated ones
-/// from light to dark in the lower.
+/// One column per hue. The upper half has the saturated colours from dark to light, the lower half
+/// the half-saturated ones from light to dark.
 QVector<int> hueIndices()
 {
     constexpr int kShades[] = {8, 6, 4, 2, 0, 1, 3, 5, 7, 9};
@@ -41,7 +41,7 @@ QString colorText(int index)
     return vnsi::vnutOdStringToQString(vnsi::formatColor(color, {}, {}));
 }
 
-/// The index that a text names; -1 for none.
+/// The index that a text describes; -1 when it describes none.
 int indexOfText(const QString& text)
 {
     for (const int index : {kByLayer, kByBlock, 1, 2, 3, 4, 5, 6, 7}) {

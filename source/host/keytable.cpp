@@ -15,7 +15,7 @@ struct KeyTable
     std::unordered_map<std::string_view, const Key*> byText;
 };
 
-/// Never destroyed: nodes may outlive every static object.
+/// The table is never destroyed because nodes may outlive every static object.
 KeyTable& keyTable()
 {
     static auto* const table = new KeyTable;

@@ -13,7 +13,8 @@ constexpr int kWeights[] = {-1, -2, kDefaultWeight, 0, 5, 9, 13, 15, 18, 20, 25,
 constexpr QSize kIconSize(40, 16);
 constexpr int kHundredthsToAPixel = 18;
 
-/// A stroke as thick as the weight, in the text colour so that it reads on every background.
+/// A line with the width of the weight, in the text colour so that it is visible on every
+/// background.
 QIcon weightIcon(int weight, const QColor& color)
 {
     QPixmap pixmap(kIconSize);

@@ -44,7 +44,7 @@ std::vector<Button> customButtons(const vnsi::VnJsonPtr& options)
     return buttons;
 }
 
-/// The buttons of a style in the order they stand; the last one is the cancelling one.
+/// The buttons of a style in their order. The last one cancels.
 std::vector<Button> buttonsOf(const Message& message)
 {
     const Button ok{Texts::tr("确定"), QMessageBox::AcceptRole, vnsi::kVnAnswerOk};
@@ -75,7 +75,7 @@ QMessageBox::Icon iconOf(int code)
     case vnsi::kVnIconInformation:
         return QMessageBox::Information;
     default:
-        return QMessageBox::Warning; // 80 has no picture of its own: it warns.
+        return QMessageBox::Warning; // Style 80 has no icon of its own and is a warning.
     }
 }
 

@@ -32,7 +32,7 @@ namespace {
 constexpr std::chrono::milliseconds kReplySlice(50);
 const OdString kProxyRequest(L"proxyRequest");
 
-/// Whether one posted request is over.
+/// Tells whether one posted request is finished.
 class Reply
 {
 public:
@@ -54,8 +54,8 @@ private:
     bool m_isDone = false;
 };
 
-/// One request on its way. Where the interface ends before it was run, its going away still ends
-/// the waiting.
+/// One request on its way to the interface. Its destructor also ends the waiting, in case the
+/// interface ends before the request was run.
 class Delivery
 {
 public:
@@ -85,7 +85,7 @@ private:
     std::shared_ptr<Reply> m_reply;
 };
 
-/// What this thread posted and has no reply to yet.
+/// The requests that this thread posted and that have not been answered yet.
 thread_local std::deque<std::shared_ptr<Reply>> awaited;
 
 class UiProxy : public vnsi::VnUiProxy
@@ -136,7 +136,8 @@ int UiProxy::serviceReply()
 class RequestSvr : public vnsi::VnRequestSvr
 {
 public:
-    /// Requests reach the interface without an open drawing too.
+    /// A document even when no drawing is open, because requests must reach the interface then as
+    /// well.
     vnsi::VnDocumentPtr currentDocument() const override
     {
         const vnsi::VnDocumentPtr document = host::currentDocument();

@@ -13,14 +13,15 @@ struct ServiceDictionary
     std::map<OdString, OdRxObjectPtr> services;
 };
 
-/// Never destroyed: a service that is left at the end of the process has lost its library.
+/// The dictionary is never destroyed, because a service that remains at the end of the process has
+/// already lost its library.
 ServiceDictionary& dictionary()
 {
     static auto* const services = new ServiceDictionary;
     return *services;
 }
 
-/// Puts `service` under `name` and gives back what was there, to be released outside the lock.
+/// Registers `service` and returns the former one, which must be released outside of the lock.
 OdRxObjectPtr exchange(const OdString& name, OdRxObjectPtr service)
 {
     ServiceDictionary& all = dictionary();

@@ -42,7 +42,7 @@ Settings& settings()
     return *all;
 }
 
-/// A file name of its own for any section name: no name leads out of the folder.
+/// A unique file name for any section name. No name leads out of the folder.
 QString fileNameOf(const OdString& section)
 {
     const QByteArray utf8 = vnsi::vnutOdStringToQString(section).toUtf8();
@@ -60,7 +60,7 @@ QString folderOf(const Settings& all)
     return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
 }
 
-/// Renames a file that cannot be read, so that it is there to be looked at and not overwritten.
+/// Renames an unreadable file, so that it can be inspected and is not overwritten.
 bool setAside(const QString& path)
 {
     const QString bad = path + QStringLiteral(".bad");

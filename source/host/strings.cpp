@@ -7,8 +7,8 @@ namespace {
 constexpr uint kLastCharacter = 0x10FFFF;
 }
 
-// Qt's own conversions replace a surrogate that stands alone; names that hold one must come back as
-// they were, so the two loops copy it.
+// Qt's own conversions replace single surrogates. Names that contain them must survive a round
+// trip, so the two loops copy them.
 QString vnutOdStringToQString(const OdString& text)
 {
     QString out;

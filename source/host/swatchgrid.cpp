@@ -128,7 +128,7 @@ QRect SwatchGrid::cell(int position) const
 
 void SwatchGrid::choose(int position)
 {
-    // The first arrow key in a grid without a mark goes to its first colour.
+    // Without a chosen colour, the first arrow key selects the first one.
     const int target = m_current < 0 && position < 0 ? 0 : position;
     if (target < 0 || target >= m_indices.size())
         return;

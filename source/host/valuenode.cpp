@@ -8,7 +8,8 @@ void ValueNode::release()
 {
     if (m_references.fetch_sub(1, std::memory_order_acq_rel) != 1)
         return;
-    // Children are queued instead of deleted in place, so that no depth of tree exhausts the stack.
+    // Children are queued instead of being deleted recursively, so that deep trees do not exhaust
+    // the stack.
     static thread_local ValueNode* doomed = nullptr;
     static thread_local bool isDeleting = false;
     m_nextDoomed = doomed;
@@ -30,7 +31,8 @@ bool ValueNode::mayHangIn(const ValueNode& parent) const
 {
     if (this == &parent)
         return false;
-    // A node that hangs nowhere is nobody's descendant: trees grown from the leaves cost nothing.
+    // A node without a parent is nobody's descendant, so building a tree from its leaves costs
+    // nothing.
     if (parent.m_hanging.load(std::memory_order_relaxed) == 0)
         return true;
     std::vector<ValueNode*> open;

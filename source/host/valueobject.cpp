@@ -7,10 +7,10 @@ namespace vnsi {
 namespace {
 
 constexpr int kMostReserved = 4096;
-/// From so many members on, searching one by one costs more than an index.
+/// With more members than this, an index is faster than a linear search.
 constexpr std::size_t kFewMembers = 32;
 
-/// A path without empty parts, or nothing.
+/// The path, or an empty text when one of its parts is empty.
 std::string_view checkedPath(const char* path)
 {
     const std::string_view text(path ? path : "");
@@ -24,7 +24,7 @@ std::string_view lastPart(std::string_view path)
     return path.substr(path.rfind('/') + 1);
 }
 
-/// Takes the first of several parts off; nothing when only one is left.
+/// Removes the first part from a path with several parts; returns nothing when only one is left.
 std::string_view takePart(std::string_view& path)
 {
     const std::size_t slash = path.find('/');
@@ -137,7 +137,8 @@ void ValueObject::removeMember(const Member& gone)
     }
     m_index->erase(gone.key->text);
     *position = {nullptr, {}};
-    // Closing the gaps only when they are half of all keeps removing many members linear.
+    // Gaps are closed only when they are half of all entries, so removing many members takes linear
+    // time.
     if (++m_removed * 2 > m_members.size())
         rebuildIndex();
 }

@@ -4,7 +4,7 @@
 
 bool vnsi::vnsiutWcMatchEx(const OdString& text, const OdString& pattern, bool ignoreCase)
 {
-    // Callers try one pattern on name after name.
+    // The latest pattern is cached because callers test one pattern on many names.
     struct Latest
     {
         OdString pattern;
