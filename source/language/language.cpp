@@ -12,7 +12,7 @@ namespace language {
 
 namespace {
 
-/// A locale that says nothing has the sources' own language.
+/// The code of the locale's language. A locale without a language gets the language of the sources.
 QString ofLocale()
 {
     const QLocale system = QLocale::system();
@@ -32,7 +32,7 @@ bool isKnown(const QString& code)
 void use(const QString& code, const QStringList& libraries)
 {
     static std::vector<std::unique_ptr<QTranslator>> translators;
-    translators.clear(); // A translator that goes is no longer asked.
+    translators.clear(); // A deleted translator is no longer used.
     const auto install = [](const QString& name, const QString& folder) {
         auto translator = std::make_unique<QTranslator>();
         if (translator->load(name, folder) && QCoreApplication::installTranslator(translator.get()))
