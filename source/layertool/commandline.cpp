@@ -3,8 +3,8 @@
 #include "engine/run.h"
 #include "texts.h"
 
-// The only file that sees this library: it is large, and all it is asked for is to take the words
-// of the command line apart.
+// Only this file includes this large library. It is used for nothing but splitting the command line
+// into its parts.
 #include <CLI/CLI.hpp>
 
 #include <QRegularExpression>
@@ -25,7 +25,7 @@ EarlyExit badValue(const QString& option)
     return misuse(Texts::tr("选项缺少它的值，或给了不该有的值：%1。").arg(option));
 }
 
-/// The name most like a word that was not understood; empty when none is near.
+/// The name that is most similar to an unknown word; empty when none is similar.
 QString nearest(const QString& word)
 {
     const auto distance = [&word](const QString& name) {
@@ -55,7 +55,7 @@ QString nearest(const QString& word)
     return best;
 }
 
-/// A verb as the library knows it, with the places its values come to.
+/// A verb in terms of the library, with the places where its values are stored.
 class VerbLine
 {
 public:
@@ -83,7 +83,7 @@ VerbLine::VerbLine(const VerbRow& row) : m_row(row), m_options(optionsOf(row))
         const std::string name = std::string("--") + option.name;
         if (option.kind == OptionKind::Flag)
             m_known.push_back(m_app.add_flag(name));
-        else // One value each, or the option would swallow the drawings behind it.
+        else // One value each; otherwise the option would take the drawings after it.
             m_known.push_back(m_app.add_option(name)
                                   ->expected(1)
                                   ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
@@ -159,7 +159,7 @@ tl::expected<Arguments, EarlyExit> VerbLine::arguments() const
     return arguments;
 }
 
-/// The library does not name the word it does not know.
+/// Finds the unknown word, which the library does not tell.
 QString VerbLine::firstUnknown(const QStringList& words) const
 {
     for (const QString& word : words) {
@@ -174,7 +174,7 @@ QString VerbLine::firstUnknown(const QStringList& words) const
 
 tl::expected<void, EarlyExit> VerbLine::parse(const QStringList& words)
 {
-    std::vector<std::string> reversed; // The library takes them from the back.
+    std::vector<std::string> reversed; // The library expects the words in reverse order.
     for (auto word = words.rbegin(); word != words.rend(); ++word)
         reversed.push_back(word->toLocal8Bit().toStdString());
     try {
@@ -185,7 +185,7 @@ tl::expected<void, EarlyExit> VerbLine::parse(const QStringList& words)
             misuse(Texts::tr("%1 没有名为“%2”的选项。")
                        .arg(QLatin1String(m_row.name), firstUnknown(words))));
     } catch (const CLI::ParseError& error) {
-        // It tells in English, but it names the option.
+        // The message is in English, but it names the option.
         static const QRegularExpression option(QStringLiteral("--[a-z-]+"));
         return tl::make_unexpected(
             badValue(option.match(QString::fromLocal8Bit(error.what())).captured()));

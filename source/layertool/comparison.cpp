@@ -12,8 +12,8 @@ namespace {
 using drawing::Drawing;
 using drawing::Layer;
 
-/// What is on a layer, told without its name and without what any save may give anew. Sums, so that
-/// the order of entities does not count.
+/// The contents of a layer, independent of its name and of everything that saving may change. Only
+/// sums are used, so the order of entities does not matter.
 struct Content
 {
     int entities = 0;
@@ -46,7 +46,7 @@ QHash<int, Content> contents(const Drawing& drawing)
     return all;
 }
 
-/// Holds the layers of two drawings against each other.
+/// Compares the layers of two drawings.
 class Comparison
 {
 public:
@@ -96,8 +96,8 @@ void Comparison::compare(const Layer& first, const Layer& second)
             QString::number(second.entityCount));
 }
 
-/// A layer that is gone and one that came with the very same content are one that was renamed.
-/// Where several have the same content nothing is guessed.
+/// Finds renamed layers: one that is missing and one that is new with exactly the same contents.
+/// When several have the same contents, nothing is guessed.
 void Comparison::findRenamed(std::vector<const Layer*>& gone, std::vector<const Layer*>& added)
 {
     const auto before = contents(m_first);

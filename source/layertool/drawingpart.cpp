@@ -9,7 +9,8 @@ namespace {
 using drawing::Drawing;
 using drawing::LayerId;
 
-constexpr int kMostFileNameBytes = 200; ///< Leaves room for a suffix and what temporary files add.
+/// Leaves room for a suffix and for the additions of temporary files.
+constexpr int kMostFileNameBytes = 200;
 
 } // namespace
 
@@ -39,7 +40,8 @@ bool isPlaced(const Drawing& drawing, const drawing::Entity& entity)
 drawing::Expected<void> keepOnly(
     Drawing& drawing, const std::function<bool(const QString& layer)>& isKept)
 {
-    // What goes is gathered on a layer of its own, as layers are what can be deleted whole.
+    // Entities to delete are collected on a layer of their own, because only layers can be deleted
+    // with their contents.
     std::vector<int> going;
     LayerId kept = LayerId::None;
     for (size_t i = 0; i < drawing.entities().size(); ++i) {

@@ -12,7 +12,8 @@ namespace layertool {
 
 namespace {
 
-/// What users meet; the system tells of the rest, in its own language.
+/// The causes that users meet. For all others the system's message is used, in the system's
+/// language.
 constexpr struct
 {
     int number;
@@ -44,7 +45,7 @@ QString causeOf(const QFileDevice& file)
 {
     if (QFileInfo(file.fileName()).isDir())
         return systemCause(EISDIR);
-    // Files tell of errors in the system's words alone.
+    // Files report errors only as messages of the system.
     const QString told = file.errorString();
     const auto* const known =
         std::find_if(std::begin(kCauses), std::end(kCauses), [&told](const auto& row) {

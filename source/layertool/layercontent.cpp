@@ -10,7 +10,7 @@ void count(const drawing::Entity& entity, bool inBlock, LayerContent& content)
 {
     if (inBlock) {
         ++content.blocks;
-        // Entities of a block come one after the other.
+        // The entities of a block are consecutive.
         if (content.inBlocks.empty() || content.inBlocks.back() != entity.block)
             content.inBlocks.push_back(entity.block);
     } else if (entity.paperSpace || entity.block >= 0) {
@@ -32,7 +32,7 @@ LayerContents::LayerContents(const drawing::Drawing& drawing)
         if (entity.removed || entity.subEntity || entity.layer == drawing::LayerId::None)
             continue;
         const auto at = static_cast<size_t>(entity.layer);
-        if (at >= m_all.size()) // Ids have gaps where layers went.
+        if (at >= m_all.size()) // There are gaps in the ids where layers were deleted.
             m_all.resize(at + 1);
         const bool inBlock = entity.block >= 0 && !blocks[static_cast<size_t>(entity.block)].layout;
         count(entity, inBlock, m_all[at]);

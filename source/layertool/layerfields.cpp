@@ -16,7 +16,7 @@ QVariant getFlag(const LayerProperties& properties)
     return properties.*flag;
 }
 
-/// Spreadsheets write truth values in their own way and language.
+/// Accepts the truth values of spreadsheets, which depend on program and language.
 template <bool LayerProperties::*flag>
 bool setFlag(LayerProperties& properties, const QString& text)
 {
@@ -44,7 +44,7 @@ bool setText(LayerProperties& properties, const QString& text)
     return true;
 }
 
-/// An index, or a true colour as #RRGGBB.
+/// The colour as an index, or a true colour as #RRGGBB.
 QVariant getColor(const LayerProperties& properties)
 {
     if (properties.trueColor)
@@ -69,7 +69,7 @@ bool setColor(LayerProperties& properties, const QString& text)
     return true;
 }
 
-/// Millimetres, as drawings show them; "default" for -3.
+/// The lineweight in millimetres, or "default" for -3.
 QVariant getLineweight(const LayerProperties& properties)
 {
     if (properties.lineweight == -3)

@@ -22,7 +22,7 @@ const LayerField* fieldCalled(const QString& head)
     return found == fields.end() ? nullptr : &*found;
 }
 
-/// What `list` tells besides, and nobody can set.
+/// Whether `list` only shows this column and nobody can set it.
 bool isOnlyListed(const QString& word)
 {
     const std::vector<Column> columns = contentColumns();

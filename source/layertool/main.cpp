@@ -25,14 +25,14 @@ int help(const QString& verb)
     return kFine;
 }
 
-/// A command line without a verb shows the help, but to a script it must not pass for work done.
+/// Shows the help for a command line without a verb. Scripts must not mistake this for success.
 int refuseNothing()
 {
     complain(helpText().trimmed());
     return kMisuse;
 }
 
-/// The verb that help is asked for; empty for all of them.
+/// The verb for which help is requested; empty for general help.
 QString helpTopic(const QStringList& words)
 {
     for (int i = 2; i < words.size(); ++i) {
@@ -44,7 +44,7 @@ QString helpTopic(const QStringList& words)
     return {};
 }
 
-/// The words with a "--language" from in front of the verb put behind it, where options are read.
+/// Moves a "--language" before the verb behind it, where options are parsed.
 QStringList verbFirst(QStringList words)
 {
     int options = 0;
@@ -86,7 +86,7 @@ int run(const QStringList& words)
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    // Where no locale is set, as in batch systems, file names are UTF-8 all the same.
+    // File names are UTF-8 even when no locale is set, as in batch systems.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication::setApplicationName(QStringLiteral("layertool"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LAYERTOOL_VERSION));

@@ -8,8 +8,8 @@
 
 namespace layertool {
 
-/// Names in the staging folder are short: one that just fits into the output folder would not
-/// leave room for what temporary files add to it.
+/// Names in the staging folder are short, because the additions of temporary files may not fit when
+/// the name just fits into the output folder.
 Expected<void> Verb::write(
     drawing::Drawing& drawing, const Job& job, drawing::Progress& progress, Result& result)
 {

@@ -13,7 +13,7 @@ namespace layertool {
 
 namespace {
 
-/// Turns offsets of a file into lines, counting each stretch once.
+/// Converts file offsets to lines and counts every section of the file only once.
 class LineCounter
 {
 public:
@@ -22,13 +22,13 @@ public:
         if (m_file.open(QIODevice::ReadOnly) && m_file.size() > 0)
             m_bytes = reinterpret_cast<const char*>(m_file.map(0, m_file.size()));
     }
-    /// The line an offset is in, from 1. Offsets must not go back.
+    /// The line of an offset, counted from 1. Offsets must not decrease.
     int lineOf(qint64 offset)
     {
         if (!m_bytes)
             return 0;
         const qint64 end = std::min(offset, m_file.size());
-        // Some files end their lines with CR alone.
+        // Some files end their lines with a CR only.
         if (m_lineEnd == 0)
             m_lineEnd = std::find(m_bytes, m_bytes + end, '\n') == m_bytes + end ? '\r' : '\n';
         m_line += static_cast<int>(std::count(m_bytes + m_at, m_bytes + end, m_lineEnd));
@@ -51,7 +51,7 @@ QString fingerprintOf(const Result& result, const Finding& finding)
     return QString::fromLatin1(hashOf(parts.join(QLatin1Char('\n')).toUtf8()));
 }
 
-/// Where each layer's record stands, by the layers' ids.
+/// The position of each layer's record, by layer id.
 QHash<int, QJsonObject> placesOf(
     const std::vector<Finding>& findings, const drawing::Drawing& drawing, const QString& path)
 {

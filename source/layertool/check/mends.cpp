@@ -26,7 +26,8 @@ Expected<int> mendNames(
     renamings.reserve(findings.size());
     for (const Finding& finding : findings)
         renamings.push_back({finding.id, finding.expected});
-    // The standard says the two are one layer, so what has the name already takes the other in.
+    // According to the standard both layers are one, so an existing layer with that name takes over
+    // the other's contents.
     int count = 0;
     for (const drawing::LayerRenamed& one :
         drawing::renameLayers(drawing, renamings, drawing::NameClash::Merge)) {
@@ -36,7 +37,7 @@ Expected<int> mendNames(
     return count;
 }
 
-/// Makes the layers that are required and that the standard describes; their properties follow.
+/// Creates required layers that the standard describes; their properties are set later.
 Expected<int> mendMissing(
     Drawing& drawing, const LayerRules& rules, const Findings& findings, Result& result)
 {
@@ -91,7 +92,8 @@ constexpr struct
     {"transparency", &drawing::TranslationOptions::transparencyByLayer},
 };
 
-/// Maps layers onto themselves, which leaves them as they are and their entities by layer.
+/// Maps layers to themselves. This leaves the layers unchanged and sets the properties of their
+/// entities to ByLayer.
 Expected<int> mendOwn(Drawing& drawing, const LayerRules&, const Findings& findings, Result& result)
 {
     const std::vector<drawing::TargetLayer> targets = drawing::targetLayers(drawing);
@@ -137,11 +139,11 @@ Expected<int> mendUnused(Drawing& drawing, const LayerRules&, const Findings& fi
     return static_cast<int>(unused.size());
 }
 
-// In this order: a layer that has its standard's name has its standard's properties then.
+// The order matters: a layer must have its standard name before its properties are compared.
 constexpr struct
 {
-    const char* rules; ///< Their ids, with blanks between them.
-    const char* count; ///< The word its number has in the report.
+    const char* rules; ///< The ids of the rules, separated by blanks.
+    const char* count; ///< The key of its count in the report.
     Expected<int> (*mend)(
         Drawing& drawing, const LayerRules& rules, const Findings& findings, Result& result);
 } kMends[] = {

@@ -18,7 +18,7 @@ tl::unexpected<Error> refuse(const QString& text)
     return tl::make_unexpected(Error{text});
 }
 
-/// The first key that is none of those known; empty when all are.
+/// The first unknown key; empty when all keys are known.
 QString unknownKey(const QJsonObject& json, const QStringList& known)
 {
     for (const QString& key : json.keys()) {
@@ -38,7 +38,7 @@ bool readWidth(const QJsonValue& value, NameField& field)
     return field.least >= 1 && field.most >= field.least && (!value.isArray() || range.size() == 2);
 }
 
-/// Values are a list, or an object whose keys they are and that says what they mean.
+/// The values are either a list or the keys of an object, which then explains them.
 QStringList valuesOf(const QJsonValue& value)
 {
     if (value.isObject())
@@ -130,8 +130,8 @@ QString NamingScheme::faultOfField(const NameField& field, const QString& text) 
     return {};
 }
 
-/// Fields are taken one after the other; one that may be missing is passed over when the text does
-/// not fit it.
+/// Matches the fields one after the other. An optional field is skipped when the text does not
+/// match it.
 QString NamingScheme::faultOfSeparated(const QString& name) const
 {
     QString rest = name;
@@ -144,7 +144,7 @@ QString NamingScheme::faultOfSeparated(const QString& name) const
                 return Texts::tr("缺少字段“%1”。").arg(field.name);
             continue;
         }
-        // The text of a field ends where the next separator of any later field begins.
+        // The text of a field ends at the next separator of any later field.
         int end = rest.size();
         for (size_t j = i + 1; j < m_fields.size(); ++j) {
             const QString& separator =

@@ -18,10 +18,10 @@ struct Batch::Worker
 {
     QProcess process;
     QTimer clock;
-    std::optional<Job> job;       ///< Under way.
-    std::optional<Result> answer; ///< As far as it has come.
-    int printedSize = 0;          ///< Of what is printed of it, which follows.
-    bool isLate = false;          ///< Took longer than it may, and was ended for it.
+    std::optional<Job> job;       ///< The job under way.
+    std::optional<Result> answer; ///< As far as it has arrived.
+    int printedSize = 0;          ///< The size of the printed form, which follows the answer.
+    bool isLate = false;          ///< Whether it exceeded its time and was stopped.
     bool hasEnded = false;
 };
 
@@ -120,7 +120,7 @@ void Batch::readAnswers(Worker& worker)
     }
 }
 
-/// A signal reaches the workers as soon as this process, and the event loop hears of it later.
+/// Signals reach the workers at the same time as this process, whose event loop notices them later.
 bool Batch::isStopping() const
 {
     return m_isInterrupted || Interruption::signalNumber() != 0;
@@ -163,7 +163,7 @@ void Batch::onFinished(Worker& worker)
         startWorker();
         return;
     }
-    // One that could not be started leaves the work to the others, as long as there are any.
+    // If a worker cannot be started, the others do its work as long as there are any.
     if (std::all_of(m_workers.begin(), m_workers.end(),
             [](const std::unique_ptr<Worker>& other) { return other->hasEnded; }))
         failWaiting(worker.process.errorString());

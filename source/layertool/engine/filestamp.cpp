@@ -47,14 +47,14 @@ FileStamp stampOf(const QString& path)
         stamp.hash = textOf(XXH3_128bits(bytes, static_cast<size_t>(stamp.size)));
         return stamp;
     }
-    // What cannot be mapped, such as a pipe, is read.
+    // Files that cannot be mapped, such as pipes, are read instead.
     const QByteArray bytes = file.readAll();
     stamp.size = bytes.size();
     stamp.hash = hashOf(bytes);
     return stamp;
 }
 
-// Sizes and times are texts: JSON numbers are exact up to 2^53 only.
+// Sizes and times are stored as texts because JSON numbers are only exact up to 2^53.
 QJsonObject stampJson(const FileStamp& stamp)
 {
     return {{QStringLiteral("size"), QString::number(stamp.size)},

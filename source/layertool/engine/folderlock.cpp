@@ -25,11 +25,11 @@ tl::unexpected<Error> inUse(const QString& folder)
         Texts::tr("输出文件夹“%1”正被另一次运行使用：请等它结束，或用 --wait 等待。").arg(folder)});
 }
 
-/// A killed run keeps its lock until its worker processes have ended, too.
+/// A killed run holds its lock until its worker processes have ended as well.
 constexpr int kGraceMilliseconds = 1000;
 constexpr useconds_t kPollMicroseconds = 50000;
 
-/// Worker processes inherit the lock: while one lives, it may still put files into their places.
+/// Worker processes inherit the lock, because they may still move files into place.
 int openLock(const QString& folder, const QString& name)
 {
     const QString path = QDir(Journal::folderOf(folder)).filePath(name);
@@ -45,7 +45,7 @@ bool lock(int file, int kind, bool waits)
     return done == 0;
 }
 
-/// What killed runs had not put into its place; nobody else is at work.
+/// Removes files that killed runs did not move into place. No other run is active at this point.
 void removeLeftBehind(const QString& folder)
 {
     for (const QString& name : QDir(folder).entryList({QStringLiteral("staging-*")}, QDir::Dirs))
@@ -79,8 +79,8 @@ Expected<std::unique_ptr<FolderLock>> FolderLock::take(
     return lock;
 }
 
-/// Whoever finds the folder free writes into how many shards it is divided; shards of the same
-/// division then share the lock.
+/// Whoever gets the folder exclusively records the number of shards. Shards of the same division
+/// then share the lock.
 Expected<void> FolderLock::lockFolder(const QString& folder, const Shard& shard, bool waits)
 {
     m_folder = openLock(folder, QStringLiteral("lock"));
@@ -96,7 +96,8 @@ Expected<void> FolderLock::lockFolder(const QString& folder, const Shard& shard,
                     Error{Texts::tr("无法在输出文件夹“%1”中写日志。").arg(folder)});
             if (shard.count == 1)
                 return {};
-            // On the way to the shared lock another division may come in between.
+            // While the lock is being converted to a shared one, a run with another division may
+            // get it.
             lock(m_folder, LOCK_UN, true);
         }
         if (shard.count > 1 && lock(m_folder, LOCK_SH, false)) {
@@ -127,7 +128,7 @@ Expected<void> FolderLock::lockShard(const QString& folder, const Shard& shard, 
 
 FolderLock::~FolderLock()
 {
-    // Closing a file gives its lock back, also when the process is killed.
+    // Closing a file releases its lock, and so does killing the process.
     for (const int file : {m_shard, m_folder}) {
         if (file >= 0)
             ::close(file);

@@ -20,7 +20,7 @@ void onSignal(int number)
     if (g_flag)
         g_flag->store(true);
     const char byte = 0;
-    // A full pipe has woken the loop already.
+    // If the pipe is full, the loop has already been woken.
     if (::write(g_pipe[1], &byte, 1) < 0)
         return;
 }

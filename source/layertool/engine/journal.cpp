@@ -46,8 +46,8 @@ QString keyOf(const QString& input, const RunVerb& verb)
     return (verb.edits ? QString() : verb.name) + QLatin1Char('\n') + input;
 }
 
-/// Appends in one piece, on a line of its own: another process may do the same, and one killed
-/// while it wrote may have left a line without its end.
+/// Appends one line in a single write. Other processes may append at the same time, and a killed
+/// process may have left an incomplete line before it.
 int appendLine(int file, const QByteArray& line)
 {
     if (::flock(file, LOCK_EX) != 0)
@@ -103,8 +103,8 @@ void Journal::load(const QByteArray& bytes)
     }
 }
 
-/// The clock decides which of two entries is newer, not their order: shards on several machines
-/// append as they come.
+/// Keeps the entry with the later time. The order of the lines does not matter, because shards on
+/// several machines append independently.
 void Journal::take(const JournalEntry& entry)
 {
     const QString key = keyOf(entry.result.input, entry.verb);

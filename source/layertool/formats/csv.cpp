@@ -29,8 +29,7 @@ QString decoded(const QByteArray& bytes)
     return QTextCodec::codecForName("GB18030")->toUnicode(bytes);
 }
 
-/// Of the characters that may separate fields the one that the first row has most of, quoted
-/// fields left out.
+/// The possible separator that occurs most often in the first row, not counting quoted fields.
 QChar separatorOf(const QString& text)
 {
     int counts[3] = {};
@@ -47,7 +46,7 @@ QChar separatorOf(const QString& text)
     return QLatin1Char(kSeparators[std::max_element(counts, counts + 3) - counts]);
 }
 
-/// Reads fields one after the other.
+/// Reads one field after the other.
 class Parser
 {
 public:
@@ -68,7 +67,7 @@ private:
     std::vector<QStringList> m_rows;
 };
 
-/// False when the quote is never closed.
+/// Reads a quoted field. Returns false when the quote is never closed.
 bool Parser::readQuoted()
 {
     for (++m_at; m_at < m_text.size(); ++m_at) {

@@ -27,7 +27,7 @@ QString textOf(const QJsonValue& value)
     }
 }
 
-/// Rows with blanks between their cells, as wide as these.
+/// Formats rows as a table whose columns are as wide as their contents.
 QString tableText(const std::vector<QStringList>& rows)
 {
     std::vector<int> widths;
@@ -38,7 +38,8 @@ QString tableText(const std::vector<QStringList>& rows)
                 std::max(widths[static_cast<size_t>(i)], widthOf(row.at(i)));
     }
     QString text;
-    int blanks = 0; // In front of the next cell that is not empty: none end a line.
+    // Blanks are only written before the next cell with text, so that no line ends with them.
+    int blanks = 0;
     for (const QStringList& row : rows) {
         for (int i = 0; i < row.size(); ++i) {
             const QString& cell = row.at(i);
@@ -55,7 +56,7 @@ QString tableText(const std::vector<QStringList>& rows)
     return text;
 }
 
-/// For people: a table a drawing, as wide as its cells.
+/// Prints one table per drawing for people.
 class TextPrinter : public Printer
 {
 public:
@@ -104,7 +105,7 @@ public:
         QStringList head{QStringLiteral("drawing")};
         for (const Column& column : m_printing.verb.columns())
             head += QLatin1String(column.id);
-        // A pipe's reader may not know the mark; a spreadsheet that opens a file needs it.
+        // A spreadsheet needs the byte order mark in a file; the reader of a pipe may not know it.
         return (m_printing.isFile ? csv::kByteOrderMark : "") + csv::row(head);
     }
     QByteArray textOf(const Result& result) const override

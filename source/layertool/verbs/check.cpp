@@ -24,7 +24,7 @@ constexpr OptionRow kOptions[] = {
         QT_TRANSLATE_NOOP("layertool", "已知的发现，由 --format baseline 写成；它们不再报告。")},
 };
 
-/// What `check` and `fix` have in common: the standard.
+/// The common base of `check` and `fix`, which reads the standard.
 class StandardVerb : public Verb
 {
 public:
@@ -87,7 +87,7 @@ void StandardVerb::addAll(
     result.found = result.data.size() > known;
 }
 
-/// Holds drawings against a standard.
+/// Checks drawings against a standard.
 class CheckVerb : public StandardVerb
 {
 public:
@@ -98,7 +98,7 @@ public:
     }
 };
 
-/// Mends what can be mended without a question, and reports what is left.
+/// Corrects what needs no decision and reports the rest.
 class FixVerb : public StandardVerb
 {
 public:

@@ -9,7 +9,7 @@ namespace {
 
 using drawing::Drawing;
 
-/// What changed in the layers from one drawing to another.
+/// Reports the differences between the layers of two drawings.
 class DiffVerb : public Verb
 {
 public:

@@ -18,7 +18,7 @@ QString blockNames(const drawing::Drawing& drawing, const LayerContent& content)
     return names.join(QLatin1Char(' '));
 }
 
-/// Layer tables: every property, where the entities are, and who uses the layer.
+/// Lists layers with all properties, the places of their entities, and what uses them.
 class ListVerb : public Verb
 {
 public:

@@ -19,7 +19,7 @@ constexpr OptionRow kMergeOptions[] = {
         QT_TRANSLATE_NOOP("layertool", "合并到哪个图层；图形中没有时报为失败。")},
 };
 
-/// What `merge`, `delete` and `purge` have in common: layers chosen by name that go.
+/// The common base of `merge`, `delete` and `purge`, which remove layers chosen by name.
 class RemovalVerb : public Verb
 {
 public:
@@ -28,10 +28,10 @@ public:
     std::vector<Column> columns() const override;
 
 protected:
-    /// Why a layer stays, a sentence; empty when it goes.
+    /// A sentence that says why a layer stays; empty when it can be removed.
     virtual QString refusal(const Drawing& drawing, const Layer& layer) const;
     virtual Expected<void> remove(Drawing& drawing, const std::vector<LayerId>& layers) = 0;
-    /// Whether a choice of no layers means all.
+    /// Whether all layers are meant when none is chosen.
     virtual bool takesAll() const { return false; }
 
     LayerChoice m_choice;
@@ -88,7 +88,7 @@ Expected<void> RemovalVerb::run(Drawing& drawing, const Job&, Result& result)
     for (const LayerId id : chosen(drawing)) {
         const Layer& layer = *drawing.layer(id);
         const QString cause = refusal(drawing, layer);
-        // Where all layers are meant, those that stay for good reason are no news.
+        // When all layers are meant, those that must stay are not worth mentioning.
         if (!cause.isEmpty() && m_choice.isEmpty())
             continue;
         result.data.append(QJsonObject{{QStringLiteral("layer"), layer.properties.name},
@@ -97,7 +97,8 @@ Expected<void> RemovalVerb::run(Drawing& drawing, const Job&, Result& result)
                 cause.isEmpty() ? QStringLiteral("removed") : QStringLiteral("kept")},
             {QStringLiteral("cause"), cause}});
         if (!cause.isEmpty()) {
-            // A pattern may well mean layers that stay; one that was named was to go.
+            // A pattern may include layers that must stay, but a layer chosen by name was meant to
+            // be removed.
             result.found = result.found || m_choice.names(layer.properties.name);
             result.note(
                 "layer-kept", Texts::tr("图层“%1”保留：%2").arg(layer.properties.name, cause));
@@ -113,7 +114,7 @@ Expected<void> RemovalVerb::run(Drawing& drawing, const Job&, Result& result)
     return remove(drawing, going);
 }
 
-/// Puts what is on layers onto another one and removes them.
+/// Moves the contents of layers to another one and deletes the layers.
 class MergeVerb : public RemovalVerb
 {
 public:
@@ -148,7 +149,7 @@ private:
     QString m_target;
 };
 
-/// Removes layers with all that is on them.
+/// Deletes layers with their contents.
 class DeleteVerb : public RemovalVerb
 {
 protected:
@@ -158,7 +159,7 @@ protected:
     }
 };
 
-/// Removes layers that nothing is on.
+/// Deletes empty layers.
 class PurgeVerb : public RemovalVerb
 {
 protected:

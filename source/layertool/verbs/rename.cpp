@@ -39,7 +39,7 @@ bool isHead(const QStringList& row)
            word == QStringLiteral("旧图层名");
 }
 
-/// Renames layers by one pair of names, a table, or a regular expression.
+/// Renames layers by a pair of names, a table, or a regular expression.
 class RenameVerb : public Verb
 {
 public:
@@ -52,8 +52,8 @@ private:
     Expected<void> readPattern(const Arguments& arguments);
     std::vector<LayerRename> renamingsIn(const Drawing& drawing) const;
 
-    QHash<QString, QString> m_names; ///< New ones by the old ones in lower case.
-    QString m_from;                  ///< The one name given, where it is but one.
+    QHash<QString, QString> m_names; ///< New names; the keys are old names in lower case.
+    QString m_from;                  ///< The old name when there is only one pair.
     QRegularExpression m_regex;
     QString m_replacement;
     NameClash m_clash = NameClash::Refuse;

@@ -24,7 +24,7 @@ const OptionRow kOptions[] = {
     mergeOption(),
 };
 
-/// Makes layers, properties and names as a table says.
+/// Creates, changes and renames layers according to a table.
 class SetVerb : public Verb
 {
 public:
@@ -34,7 +34,7 @@ public:
 
 private:
     void setRow(Drawing& drawing, const SheetRow& row, Result& result);
-    /// The properties with what the row says of them; nothing when a cell makes no sense.
+    /// The layer's properties after applying the row; nothing when a cell is invalid.
     std::optional<LayerProperties> wanted(
         const LayerProperties& now, const SheetRow& row, Result& result) const;
     void refuse(Result& result, int column, const SheetRow& row, const QString& cause) const;
@@ -43,11 +43,12 @@ private:
 
     LayerSheet m_table;
     drawing::NameClash m_clash = drawing::NameClash::Refuse;
-    std::vector<drawing::LayerRename> m_renamings; ///< Of the drawing at hand.
-    QHash<int, SheetRow> m_renamingRows;           ///< By the layers' ids.
+    std::vector<drawing::LayerRename> m_renamings; ///< For the current drawing.
+    QHash<int, SheetRow> m_renamingRows;           ///< The keys are layer ids.
 };
 
-/// The layer of just that name, or else one that differs in letter case: broken drawings have both.
+/// The layer with exactly this name, or else one that differs in letter case; damaged drawings may
+/// have both.
 const Layer* layerCalled(const Drawing& drawing, const QString& name)
 {
     const Layer* const found = drawing.findLayer(name);
@@ -102,7 +103,7 @@ std::optional<LayerProperties> SetVerb::wanted(
     for (int i = 0; i < m_table.columnCount(); ++i) {
         const LayerField* const field = m_table.field(i);
         const QString cell = row.cells.value(i);
-        // A cell that says what the layer has changes nothing, not even how it is written.
+        // A cell that equals the present value changes nothing, not even how it is stored.
         if (!field || i == m_table.nameColumn() || cell.isEmpty() ||
             cell == field->get(now).toString())
             continue;

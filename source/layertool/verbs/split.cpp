@@ -25,7 +25,7 @@ constexpr OptionRow kOptions[] = {
         QT_TRANSLATE_NOOP("layertool", "图层名各段之间的分隔符；不给时为“-”。")},
 };
 
-/// Makes of each drawing one for each layer, or for each first field of the layers' names.
+/// Splits each drawing by layer or by the first field of the layers' names.
 class SplitVerb : public Verb
 {
 public:
@@ -38,8 +38,8 @@ public:
 private:
     struct Part
     {
-        QString name;     ///< Of the layer or field.
-        QString fileName; ///< Without its suffix.
+        QString name;     ///< The layer or field.
+        QString fileName; ///< Without suffix.
         int entities = 0;
     };
 
@@ -48,7 +48,7 @@ private:
     Arguments m_arguments;
     bool m_byField = false;
     QString m_separator;
-    std::vector<Part> m_parts; ///< Of the drawing at hand.
+    std::vector<Part> m_parts; ///< For the current drawing.
 };
 
 Expected<void> SplitVerb::prepare(const Arguments& arguments)
@@ -77,7 +77,7 @@ QString SplitVerb::groupOf(const QString& layer) const
 
 Expected<void> SplitVerb::run(Drawing& drawing, const Job& job, Result& result)
 {
-    std::map<QString, int> counts; // By the group's name as first seen.
+    std::map<QString, int> counts; // The key is the group's name as it first occurred.
     QHash<QString, QString> spelled;
     for (const drawing::Entity& entity : drawing.entities()) {
         const drawing::Layer* const layer = drawing.layer(entity.layer);
@@ -105,7 +105,7 @@ Expected<void> SplitVerb::run(Drawing& drawing, const Job& job, Result& result)
     return {};
 }
 
-/// Each part is made from the original anew, so that none carries traces of another.
+/// Each part is made from the original again, so that none contains traces of another.
 Expected<void> SplitVerb::write(
     Drawing&, const Job& job, drawing::Progress& progress, Result& result)
 {

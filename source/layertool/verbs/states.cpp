@@ -60,7 +60,7 @@ private:
     QStringList m_names;
     QString m_file;
     bool m_turnsOthersOff = false;
-    std::vector<LayerState> m_exported; ///< Of the drawing at hand.
+    std::vector<LayerState> m_exported; ///< For the current drawing.
 };
 
 const StatesVerb::ActionRow StatesVerb::kActions[6] = {
@@ -113,7 +113,7 @@ void StatesVerb::addRow(Result& result, const LayerState& state, const Drawing& 
     result.counts.insert(QStringLiteral("states"), result.data.size());
 }
 
-/// Those named, or all; refuses a name that none has.
+/// The chosen states, or all of them. Refuses a name that no state has.
 Expected<std::vector<LayerState>> StatesVerb::chosen(const std::vector<LayerState>& all) const
 {
     if (m_names.isEmpty())

@@ -39,7 +39,7 @@ constexpr OptionRow kOptions[] = {
 
 constexpr const char* kOutcomes[] = {"left-out", "made", "changed", "unchanged"};
 
-/// Brings drawings to the layers of a standard, as the LAYTRANS command does.
+/// Translates drawings to the layers of a standard, as the LAYTRANS command does.
 class TranslateVerb : public Verb
 {
 public:
@@ -53,7 +53,7 @@ private:
     drawing::Standard m_standard;
     drawing::TranslationOptions m_options;
     bool m_mapsSame = false;
-    drawing::TranslationReport m_report; ///< Of the drawing at hand.
+    drawing::TranslationReport m_report; ///< For the current drawing.
 };
 
 Expected<void> TranslateVerb::prepare(const Arguments& arguments)
