@@ -16,8 +16,8 @@ constexpr ODCOLORREF kNamed[] = {rgb(255, 255, 255), rgb(255, 0, 0), rgb(255, 25
 constexpr int kFirstGrey = 250;
 constexpr int kGreys[] = {51, 91, 132, 173, 214, 255};
 
-/// Indices 10 to 249 go round the colour circle in 24 hues of ten: five brightnesses, each full and
-/// half saturated, as the published table has them.
+/// The colour of an index from 10 to 249. They form 24 hues of ten colours each: five brightnesses,
+/// each fully and half saturated, as in the published table.
 ODCOLORREF hueColor(int index)
 {
     constexpr double kBrightness[] = {1.0, 0.65, 0.5, 0.3, 0.15};

@@ -27,7 +27,7 @@ Function* entryPoint(void* library, const char* name, const OdString& path)
 
 OdString baseName(const OdString& path)
 {
-    const std::size_t start = viewOf(path).rfind(L'/') + 1; // 0 where there is no slash.
+    const std::size_t start = viewOf(path).rfind(L'/') + 1; // It is 0 when there is no slash.
     return path.c_str() + start;
 }
 

@@ -30,7 +30,7 @@ void appendUtf8(std::string& out, char32_t c)
     }
 }
 
-/// Decodes the character at the front of `bytes` and takes it off; a wrong byte gives U+FFFD.
+/// Decodes and removes the first character of `bytes`. An invalid byte gives U+FFFD.
 char32_t takeUtf8(std::string_view& bytes)
 {
     const auto lead = static_cast<unsigned char>(bytes.front());
