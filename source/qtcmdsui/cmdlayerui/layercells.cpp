@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kSwatchSize = 16;
 constexpr int kSwatchGap = 4;
-// The alignment values of the host's tables: left or centred, in the middle of the row's height.
+// The alignment values of the host's tables: left or centred, and vertically centred.
 constexpr int kAlignLeft = 129;
 constexpr int kAlignCentre = 132;
 
@@ -29,8 +29,8 @@ constexpr const char* kIconNames[] = {"current", "nocurrent", "deleted", "off", 
     "currentlayer"};
 static_assert(std::size(kIconNames) == static_cast<std::size_t>(LayerIcon::Count));
 
-/// A cell that cannot be edited in place. It holds what it shows itself: a general item's list of
-/// roles costs several allocations a cell, and a table has thirteen cells a layer.
+/// A cell that cannot be edited in place. It stores its data in members, because the role list of a
+/// general item needs several allocations per cell, and a table has thirteen cells per layer.
 class LayerCellItem : public QTableWidgetItem
 {
 public:
@@ -64,7 +64,8 @@ private:
     int m_alignment;
 };
 
-/// Rows to select, neighbours joined, so that selecting thousands is one operation.
+/// The rows to select. Neighbouring rows are joined, so that selecting thousands of them is one
+/// operation.
 QItemSelection selectedRows(const QTableWidget& table, const std::vector<LayerRecord>& records)
 {
     QItemSelection selection;
@@ -80,7 +81,8 @@ QItemSelection selectedRows(const QTableWidget& table, const std::vector<LayerRe
     return selection;
 }
 
-/// The table owns its delegate, so it outlives whoever fills it.
+/// Installs the delegate, which the table owns because it must outlive the object that fills the
+/// table.
 void prepareDelegate(QTableWidget& table)
 {
     auto* delegate = qobject_cast<LayerCellDelegate*>(table.itemDelegate());
@@ -105,7 +107,8 @@ void LayerCellDelegate::paint(
     const QIcon icon = std::exchange(cell.icon, {});
     const QString text = std::exchange(cell.text, {});
     QStyle* const style = cell.widget ? cell.widget->style() : QApplication::style();
-    style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget); // All but these two.
+    // Draws everything but icon and text.
+    style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
 
     const bool isSelected = cell.state & QStyle::State_Selected;
     cell.palette.setCurrentColorGroup(
@@ -213,7 +216,7 @@ QTableWidgetItem* LayerCells::makeItem(const LayerRecord& record, const LayerCol
 void LayerCells::refresh(QTableWidget& table, int row, int column, const LayerRecord& record,
     const LayerColumn& description)
 {
-    if (row < table.rowCount()) // Else the table would not take it.
+    if (row < table.rowCount()) // Otherwise the table would not take ownership.
         table.setItem(row, column, makeItem(record, description));
 }
 
@@ -226,7 +229,7 @@ void LayerCells::fill(QTableWidget& table, const std::vector<LayerRecord>& recor
     table.setRowCount(0);
     table.setRowCount(static_cast<int>(records.size()));
     {
-        // One change of the whole table instead of one a cell.
+        // Signals are blocked so that the table is updated once instead of once per cell.
         const QSignalBlocker quiet(table.model());
         int row = 0;
         for (const LayerRecord& record : records) {

@@ -12,7 +12,8 @@ bool toggle(LayerRecord& record, const char* key)
     return true;
 }
 
-/// The current layer is neither turned off unasked nor frozen.
+/// Whether a flag may be toggled. The current layer is turned off only after a question and is
+/// never frozen.
 bool mayToggle(LayerClick click, const LayerRecord& record, bool isCurrent)
 {
     if (!isCurrent)

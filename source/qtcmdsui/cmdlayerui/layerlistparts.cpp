@@ -49,7 +49,8 @@ void copyText(const QListWidgetItem* item, QLineEdit* edit)
 QSet<QString> selectedNames(const QListWidget& list)
 {
     QSet<QString> names;
-    // One column: its indexes are its rows, and finding rows would look at every range for each.
+    // With one column the indexes correspond to the rows, while asking for the rows would compare
+    // every range with every row.
     const QModelIndexList rows = list.selectionModel()->selectedIndexes();
     for (const QModelIndex& row : rows)
         names.insert(row.data().toString());

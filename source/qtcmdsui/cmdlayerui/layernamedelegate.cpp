@@ -6,7 +6,7 @@ namespace vnsi {
 
 namespace {
 
-/// Letters that are drawn nearer to each other or further apart than their advances say.
+/// Room for letters that kerning draws wider apart than their advances.
 constexpr int kSlack = 2;
 
 } // namespace

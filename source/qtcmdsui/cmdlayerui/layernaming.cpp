@@ -14,18 +14,18 @@ namespace {
 struct Refusal
 {
     NameFaults when;
-    const char* text; ///< To be translated, as the title is.
+    const char* text; ///< Gets translated, like the title.
     const char* title;
 };
 
-/// What a name is refused for, in the order of the checks.
+/// The reasons for refusing a name, in the order of the checks.
 constexpr Refusal kRefusals[] = {
     {NameFault::Empty, QT_TRANSLATE_NOOP("cmdlayerui", "名称 的长度必须至少为一个字符"),
         QT_TRANSLATE_NOOP("cmdlayerui", "图层 - 文字长度")},
     {NameFault::TooLong,
         QT_TRANSLATE_NOOP("cmdlayerui", "图层名无效。\n\n所允许的最大长度为 255 个字符\n"),
         QT_TRANSLATE_NOOP("cmdlayerui", "图层 - 文字长度")},
-    // A drawing takes control characters no more than the thirteen that the text lists.
+    // A drawing cannot store control characters either, although the text does not list them.
     {kUnsupportedCharacter,
         QT_TRANSLATE_NOOP("cmdlayerui",
             "图层名中包含无效的字符。\n\n图层名称中不得含有以下字符：\n\\<>/\":;?*|,=`"),
@@ -83,14 +83,15 @@ std::optional<OdString> askDescription(const LayerRecord& record)
 void storeName(const LayerRecordList& layers, int row, const OdString& typed)
 {
     LayerRecord renamed = layers[row];
-    const bool isOnly = layers.count() < 2; // The only layer may be called anything.
+    const bool isOnly = layers.count() < 2; // The only layer may have any name.
     const QString name = vnutOdStringToQString(typed).trimmed();
     if (isOnly)
         renamed.setName(typed);
     else if (accept(layers, row, name))
         renamed.setName(vnutQStringToOdString(name));
     else
-        renamed.setName(renamed.name()); // Written all the same, as commands may watch for it.
+        // The name is written even if it does not change, because commands may rely on that.
+        renamed.setName(renamed.name());
 }
 
 } // namespace vnsi::layernaming

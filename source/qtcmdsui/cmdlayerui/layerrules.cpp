@@ -62,8 +62,8 @@ int toggleDeletion(const LayerRecordList& layers)
 
 void tellNotDeleted(int refused, int selected)
 {
-    // The line about external references has no bullet; the text stands as agreed, its line ends
-    // too.
+    // The line about external references has no bullet. The text, including its line ends, is
+    // agreed.
     const QString text =
         Texts::tr("有 %1 个选定图层无法删除（共 %2 个选定图层)\n 无法删除以下图层：\n"
                   "    ·图层0和图层Defpoints\n    ·当前图层\n    依赖外部参照的图层\n"

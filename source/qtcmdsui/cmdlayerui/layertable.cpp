@@ -15,8 +15,8 @@ namespace vnsi::layertable {
 
 namespace {
 
-/// Compares a header before and after the mouse was down on it: the header's own signals do not
-/// tell whether a width comes from the user.
+/// Detects widths that the user has dragged by comparing a header before and after the mouse button
+/// was down. The header's own signals do not tell who changed a width.
 class DrawnWidths : public QObject
 {
 public:
@@ -79,14 +79,14 @@ void writeWidths(const QTableWidget& table, const VnJsonPtr& node)
 
 void whenUserSizes(QTableWidget& table, std::function<void()> react)
 {
-    new DrawnWidths(table, std::move(react)); // The table owns it.
+    new DrawnWidths(table, std::move(react)); // The table owns the object.
 }
 
 void settle(QTableWidget& table)
 {
     table.doItemsLayout();
-    // A scroll bar is shown by a queued call. Until then the view is higher than it will be, and a
-    // last row that is scrolled to would end half hidden.
+    // Scroll bars are shown by a queued call. Until then the view is too high, and a last row that
+    // is scrolled into view would end up half hidden.
     QCoreApplication::sendPostedEvents(&table, QEvent::MetaCall);
 }
 

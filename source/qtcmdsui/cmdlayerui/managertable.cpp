@@ -17,8 +17,8 @@ namespace vnsi {
 
 namespace {
 
-/// The first two columns and the last one take no single click, and only they a double click. A
-/// cell that the table does not have takes neither.
+/// The first two columns and the last one react only to double clicks, the others only to single
+/// clicks. Cells outside of the table react to neither.
 constexpr LayerColumn kColumns[] = {
     {QT_TRANSLATE_NOOP("cmdlayerui", "状态"), LayerCell::Status, layerkey::kStatus,
         LayerAlign::Left, LayerClick::None, {}, LayerDoubleClick::MakeCurrent},
@@ -39,7 +39,7 @@ constexpr LayerColumn kColumns[] = {
 };
 constexpr int kColumnCount = static_cast<int>(std::size(kColumns));
 
-/// The column that shows a member of the record.
+/// The index of the column that shows a member of the record.
 constexpr int columnOf(std::string_view key)
 {
     int column = 0;
@@ -133,7 +133,7 @@ void ManagerTable::setText(int row, LayerDoubleClick edit, const OdString& text)
         layernaming::storeName(list, row, text);
     else
         changed.setText(layerkey::kDescription, text);
-    changed.markModified(); // Also after a name that was refused; this is intended.
+    changed.markModified(); // This happens even when a name was refused, which is intended.
     showCell(row, isName ? kNameColumn : columnOf(layerkey::kDescription));
 }
 

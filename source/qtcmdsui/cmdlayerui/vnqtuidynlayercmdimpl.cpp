@@ -30,7 +30,7 @@ bool VnQtUiDynLayerCmdImpl::setData(VnJsonPtr data, OdRxObjectPtr invoker)
 void VnQtUiDynLayerCmdImpl::connectWidgets()
 {
     using Self = VnQtUiDynLayerCmdImpl;
-    const auto once = Qt::UniqueConnection; // The host may hand over data again.
+    const auto once = Qt::UniqueConnection; // The host may call `setData` again.
     connect(m_controllerGroup, buttonClickedWithId(), this,
         &Self::slot_BtnLayerControllerGroupClicked, once);
     connect(

@@ -19,7 +19,7 @@ struct ControllerButton
     const char* help;
 };
 
-/// In the order of their ids.
+/// In the order of the button ids.
 constexpr ControllerButton kControllers[] = {
     {LayerIcon::NewLayer, "newLayerButton",
         QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerCmdImpl", "新建图层")},
@@ -51,10 +51,11 @@ bool VnQtUiDynLayerCmdImpl::initDialog()
     QBoxLayout* buttonRow = makeButtonRow();
     m_table = new VnQtLayerQTableWgt(this);
     m_table->setObjectName(QStringLiteral("layerTable"));
-    m_table->setTabKeyNavigation(false); // Tab goes on to the buttons.
-    // What the user draws is kept also where no request follows; closing itself writes nothing.
+    m_table->setTabKeyNavigation(false); // The Tab key moves on to the buttons.
+    // Widths set by the user are kept even if no request follows; closing the dialog writes
+    // nothing.
     layertable::whenUserSizes(*m_table, [this] { layertable::writeWidths(*m_table, data()); });
-    // The table would take the key for a search by typing, so it never came up to the dialog.
+    // Otherwise the table would use the key for its search and the dialog would never receive it.
     m_deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), this);
     m_deleteKey->setAutoRepeat(false);
 

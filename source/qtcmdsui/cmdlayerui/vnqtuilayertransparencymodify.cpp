@@ -37,7 +37,7 @@ void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
     m_value = new QComboBox(this);
     m_value->setObjectName(QStringLiteral("transparencyValue"));
     m_value->setEditable(true);
-    m_value->setCompleter(nullptr); // A typed 5 is 5, not completed to 50.
+    m_value->setCompleter(nullptr); // Otherwise a typed 5 would be completed to 50.
     m_value->setInsertPolicy(QComboBox::NoInsert);
     for (unsigned value = 0; value <= kMost; value += kStep)
         m_value->addItem(QString::number(value));
@@ -55,7 +55,7 @@ void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
     layout->addWidget(m_value);
     layout->addLayout(buttons);
 
-    // The label is rich text, which has no mnemonic of its own.
+    // The label is rich text, which does not support mnemonics.
     auto* mnemonic = new QShortcut(QKeySequence(QStringLiteral("Alt+T")), this);
     connect(mnemonic, &QShortcut::activated, this, &VnQtUiLayerTransparencyModify::offerValue);
     connect(ok, &QPushButton::clicked, this, &VnQtUiLayerTransparencyModify::slot_onBtnOkClicked);
@@ -64,7 +64,7 @@ void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
     offerValue();
 }
 
-/// What is typed next replaces the value.
+/// Selects the value so that typing replaces it.
 void VnQtUiLayerTransparencyModify::offerValue()
 {
     m_value->setFocus();
@@ -73,7 +73,8 @@ void VnQtUiLayerTransparencyModify::offerValue()
 
 void VnQtUiLayerTransparencyModify::slot_onBtnOkClicked(bool)
 {
-    // Text that is no number counts as 0; a negative number is far above the limit when unsigned.
+    // Text that is not a number counts as 0. A negative number becomes far too large when it is
+    // converted to unsigned.
     const int value = m_value->currentText().toInt();
     if (static_cast<unsigned>(value) > kMost) {
         hostapi::messageBox(tr("请输入一个0至90之间的整数"), {}, kVnIconWarning);

@@ -11,7 +11,8 @@ namespace vnsi {
 
 namespace {
 
-/// One JSON line a request: dialog, code, tree before, tree after. Off until an integrator asks.
+/// Logs one line of JSON per request: dialog, code, tree before, tree after. It is off unless an
+/// integrator turns it on.
 Q_LOGGING_CATEGORY(lcRequests, "quenlith.layers.requests", QtWarningMsg)
 
 constexpr int kUndecided = -1;
@@ -106,7 +107,7 @@ void VnQtUIModeDialogBase::endDialog(int code)
 
 int VnQtUIModeDialogBase::doModal()
 {
-    const OdRxObjectPtr self(this); // The command may let go of the dialog while it answers.
+    const OdRxObjectPtr self(this); // The command may release the dialog while it answers.
     if (auto* dialog = qobject_cast<QDialog*>(m_dialog.data())) {
         m_result->SetDataI("result", kUndecided);
         int exitCode = dialog->exec();

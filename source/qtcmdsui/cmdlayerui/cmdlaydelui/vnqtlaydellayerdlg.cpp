@@ -17,7 +17,7 @@ namespace vnsi {
 
 namespace {
 
-/// By whether a layer is referenced in blocks, then by whether there are several.
+/// Indexed by whether a layer is referenced in blocks, and by whether there are several layers.
 constexpr const char* kQuestions[2][2] = {
     {QT_TRANSLATE_NOOP("vnsi::VnQtLaydelLayerDlg",
          "图层 %1 将被删除。\n\n此图层上的所有对象或参照此图层的所有对象都将被删除。"),

@@ -11,7 +11,7 @@ namespace vnsi::layerstates {
 
 QString badCharactersText()
 {
-    // Not in the order in which other messages list them; both orders are meant.
+    // The characters are in another order than in other messages; both orders are intended.
     return Texts::tr("名称包含不支持的字符。\n 不支持以下字符：\n  \\<>/?\":;*|,=`");
 }
 

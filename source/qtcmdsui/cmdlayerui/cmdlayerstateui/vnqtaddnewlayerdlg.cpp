@@ -88,8 +88,8 @@ void VnQtAddNewLayerDlg::slot_SureBtnClicked(bool)
         for (int row = range.topRow(); row <= range.bottomRow(); ++row)
             chosen.insert(m_table->item(row, 0)->text());
     }
-    // Emptied from its end and filled again: taking single entries out of the middle costs the
-    // square of their number.
+    // The array is emptied from its end and filled again, because removing single entries from the
+    // middle would take quadratic time.
     const VnJsonPtr list = candidates();
     std::vector<VnJsonPtr> kept;
     for (int i = hostapi::count(list) - 1; i >= 0; --i) {

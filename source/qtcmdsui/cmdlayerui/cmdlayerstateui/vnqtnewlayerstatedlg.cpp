@@ -39,7 +39,7 @@ bool VnQtNewLayerStateDlg::initDialog()
     m_name->setObjectName(QStringLiteral("nameBox"));
     m_name->setEditable(true);
     m_name->setInsertPolicy(QComboBox::NoInsert);
-    m_name->setCompleter(nullptr); // It would finish new names as old ones.
+    m_name->setCompleter(nullptr); // It would complete new names to existing ones.
     auto* descriptionLabel = new QLabel(tr("说明(D):"), this);
     m_description = new QTextEdit(this);
     m_description->setObjectName(QStringLiteral("descriptionEdit"));
@@ -87,7 +87,7 @@ void VnQtNewLayerStateDlg::fill()
         m_name->addItem(layerstates::text(state, statekey::kName),
             layerstates::text(state, statekey::kDescription));
     }
-    // None is picked, so that picking the first one is a change too.
+    // No entry is selected, so that selecting the first one is also a change.
     m_name->setCurrentIndex(-1);
     m_name->clearEditText();
     m_name->setFocus();

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 
-/// How the window looks, and what its widgets are connected to.
+/// The window's layout and the connections of its widgets.
 namespace vnsi {
 
 namespace {
@@ -25,7 +25,8 @@ struct MaskRow
     StateMask bit;
 };
 
-// The order on screen is not the bits' order, and two share the letter P; both are meant.
+// The order on screen differs from that of the bits, and two entries share the mnemonic P; both are
+// intended.
 constexpr MaskRow kMaskRows[] = {
     {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "开/关(&O)"), kMaskOnOff},
     {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "冻结/解冻(&F)"), kMaskFreeze},
@@ -51,7 +52,7 @@ bool VnQtUiDynLayerStateCmdImpl::initDialog()
     layout->addWidget(makeListPanel(), 0, 0);
     layout->addWidget(makeMaskPanel(), 0, 1);
     layout->addLayout(makeBottomRow(), 1, 0, 1, 2);
-    // The size constraint takes the place of the window's own minimum.
+    // The layout's size constraint overrides the minimum size of the window, so the spacer sets it.
     const QMargins margins = layout->contentsMargins();
     layout->addItem(new QSpacerItem(kLeastWidth - margins.left() - margins.right(), 0), 2, 0, 1, 2);
     m_maskPanel->hide();

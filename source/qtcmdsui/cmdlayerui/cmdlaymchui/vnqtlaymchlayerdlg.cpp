@@ -35,13 +35,13 @@ bool acceptName(const QString& name)
     if (std::all_of(name.begin(), name.end(), isSpace))
         return layerlist::refuse(
             Texts::tr("\n图层名至少必须包含一个字符。"), Texts::tr("图层名无效"));
-    // A blank is refused like the thirteen characters, though the message does not list it.
+    // A blank is refused like the thirteen characters, although the message does not list it.
     if (std::any_of(name.begin(), name.end(), isSpace) || holdsForbiddenCharacter(name))
         return refuseCharacters();
     return true;
 }
 
-/// A layer that is there may be called what no new one may.
+/// Checks a new name. Existing layers may have names that a new one must not have.
 bool acceptNewName(const QString& name)
 {
     const NameFaults faults = nameFaults(name);
@@ -112,7 +112,7 @@ void VnQtLaymchLayerDlg::slot_SureBtnClicked(bool)
     if (!acceptName(name))
         return;
     if (isKnown(name)) {
-        // The look-up ignores letter case and the marking does not; this is intended.
+        // The look-up ignores letter case but the marking does not; this is intended.
         layerlist::mark(LayerRecordList::of(data()), {name}, kLayerTarget);
     } else {
         if (!acceptNewName(name) || !confirmNewLayer(name))
@@ -136,7 +136,7 @@ bool VnQtLaymchLayerDlg::confirmNewLayer(const QString& name) const
     return layerlist::confirm(tr("是否创建图层？"), text, kVnYesNo, kVnAnswerYes);
 }
 
-/// The request for a new layer rides on the last record of the list, as commands expect it.
+/// Writes the request for a new layer into the last record of the list, where commands expect it.
 void VnQtLaymchLayerDlg::markNewLayer(const QString& name)
 {
     const LayerRecordList layers = LayerRecordList::of(data());

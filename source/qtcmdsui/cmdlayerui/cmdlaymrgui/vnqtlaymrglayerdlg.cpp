@@ -38,7 +38,7 @@ void VnQtLaymrgLayerDlg::readTree()
 {
     const LayerRecordList layers = LayerRecordList::of(data());
     const LayerRecord first = layers[0];
-    if (!m_list) // The layout stands for one of the modes, so the first tree decides.
+    if (!m_list) // The layout is built for one of the modes, so the first tree decides.
         m_sourceMode = first.flag(layertoolkey::kIsFrom);
     m_blockReferences = first.number(layertoolkey::kBlockReferences);
     m_names.clear();
@@ -107,7 +107,8 @@ void VnQtLaymrgLayerDlg::slot_SureBtnClicked(bool)
         const QString target = m_targetEdit->text();
         if (!acceptTarget(target))
             return;
-        // Written before the question and left when it is declined; this is intended.
+        // The mark is written before the question and stays when the user declines; this is
+        // intended.
         markTarget(target);
         if (!confirm(target))
             return;

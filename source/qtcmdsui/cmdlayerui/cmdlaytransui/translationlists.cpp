@@ -32,7 +32,7 @@ TargetRecord copied(const TargetRecord& target)
     return TargetRecord(hostapi::copyOf(target.node()));
 }
 
-/// Gives the rows of layers out, each once.
+/// Hands out the rows of layers, each once.
 class FreeRows
 {
 public:
@@ -42,8 +42,7 @@ public:
             m_rows[foldedName(sources[row].name)].push_back(row);
     }
 
-    /// The row of a layer of that name, which is then no longer free; none where there is none
-    /// left.
+    /// Takes the row of a layer with this name; nothing when no such row is left.
     std::optional<std::size_t> take(const QString& name)
     {
         const auto found = m_rows.find(foldedName(name));
@@ -60,7 +59,8 @@ public:
 
 private:
     const std::vector<TranslationLists::Source>& m_sources;
-    QHash<QString, std::vector<std::size_t>> m_rows; ///< By folded name, the first at the end.
+    /// The keys are folded names; the first row is at the end.
+    QHash<QString, std::vector<std::size_t>> m_rows;
 };
 
 bool standsBefore(const TranslationLists::Source& a, const TranslationLists::Source& b)
@@ -136,7 +136,7 @@ void TranslationLists::setTargets(const VnJsonPtr& records)
     }
 }
 
-/// Moves the layers of the rows that have a target into mappings.
+/// Moves the layers that have a target in their row to the mappings.
 bool TranslationLists::moveMapped(const std::vector<TargetRecord>& targetsByRow)
 {
     std::vector<Source> kept;
@@ -190,7 +190,8 @@ bool TranslationLists::applyLoaded(const VnJsonPtr& mappings)
         const TargetRecord target(entry ? entry->GetDataJ(transkey::kTo) : VnJsonPtr());
         if (target.isNull())
             continue;
-        // Files count in the order of their choice: a later one finds the layer taken.
+        // Files count in the order in which they were chosen; a later one finds the layer already
+        // mapped.
         if (const auto row = free.take(sourceName(entry->GetDataJ(transkey::kFrom))))
             targets[*row] = target;
     }

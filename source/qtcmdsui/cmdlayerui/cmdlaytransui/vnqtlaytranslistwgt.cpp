@@ -20,8 +20,8 @@ constexpr int kCellMargin = 16;
 struct MappingColumn
 {
     const char* header;
-    const char* widest; ///< A text that fits into the column in whatever font.
-    /// What the column shows of a target; null for the layer that is mapped.
+    const char* widest; ///< A text that determines the width of the column in every font.
+    /// The text that the column shows of a target; null for the mapped layer.
     QString (TargetRecord::*text)() const;
 };
 
@@ -87,7 +87,7 @@ void VnQtLaytransListWgt::fill(
     clear();
     addItems(names);
     {
-        // One change of the whole list instead of two an item.
+        // Signals are blocked so that the list is updated once instead of twice per item.
         const QSignalBlocker quiet(model());
         for (int row = 0; row < names.size(); ++row) {
             item(row)->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
@@ -158,7 +158,7 @@ VnQtLaytransQTableWgt::VnQtLaytransQTableWgt(QWidget* parent) : QTableWidget(par
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setTabKeyNavigation(false); // Tab goes on to the buttons.
+    setTabKeyNavigation(false); // The Tab key moves on to the buttons.
     setWordWrap(false);
     setContextMenuPolicy(Qt::CustomContextMenu);
     horizontalHeader()->setHighlightSections(false);
@@ -173,7 +173,7 @@ void VnQtLaytransQTableWgt::fill(const std::vector<TranslationLists::Mapping>& m
     setRowCount(0);
     setRowCount(static_cast<int>(mappings.size()));
     {
-        // One change of the whole table instead of one a cell.
+        // Signals are blocked so that the table is updated once instead of once per cell.
         const QSignalBlocker quiet(model());
         int row = 0;
         for (const auto& [source, target] : mappings) {

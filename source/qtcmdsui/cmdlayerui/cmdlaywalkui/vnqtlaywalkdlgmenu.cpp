@@ -14,8 +14,8 @@ namespace {
 
 using Rows = VnQtLayWalkListWgt::Rows;
 
-/// A pattern that only this name matches: what means something there is escaped. The rest of what a
-/// bracket holds means nothing once the bracket does not open.
+/// A pattern that matches only this name. Special characters are escaped. Once its opening bracket
+/// is escaped, the rest of a bracket expression has no special meaning.
 QString literally(const QString& name)
 {
     const QString signs = QStringLiteral("#@.*?[,`");
@@ -31,7 +31,7 @@ QString literally(const QString& name)
 
 } // namespace
 
-/// An entry of the list's menu: what it does, and what must be there for it to do anything.
+/// An entry of the list's menu: what it does, and what it needs in order to be enabled.
 struct VnQtLayWalkDlg::ActionRow
 {
     const char* text;
@@ -139,7 +139,7 @@ void VnQtLayWalkDlg::slot_ReleaseSelAllActionTriggered()
     walk();
 }
 
-/// Turns every layer on, also those that a filter keeps out of the list.
+/// Turns on every layer, including those that a filter hides from the list.
 void VnQtLayWalkDlg::slot_SelAllActionTriggered()
 {
     m_list->selectRows(Rows(m_rows.size(), true));
@@ -166,7 +166,8 @@ void VnQtLayWalkDlg::slot_ReverseSelALLActionTriggered()
     walk();
 }
 
-/// Selects only: what is shown stays, so that looking for such layers does not empty the drawing.
+/// Only selects layers. The drawing does not change, because showing just the unused layers would
+/// empty it.
 void VnQtLayWalkDlg::slot_SelNotReferencedActionTriggered()
 {
     m_list->selectRows(rowsOf(m_layers.choiceOf(&WalkLayers::isUnused)));
@@ -185,7 +186,7 @@ void VnQtLayWalkDlg::slot_CopyasfilterActionTriggered()
     m_filters->setEditText(patterns.join(QLatin1Char(',')));
 }
 
-/// The entry that is exactly the pattern; -1 where there is none.
+/// The entry that equals the pattern exactly; -1 when there is none.
 int VnQtLayWalkDlg::savedPattern() const
 {
     return m_filters->findText(pattern(), Qt::MatchExactly | Qt::MatchCaseSensitive);
@@ -201,7 +202,8 @@ void VnQtLayWalkDlg::slot_DelfilterActionTriggered()
 {
     if (savedPattern() < 0)
         return;
-    // What it shows goes; one that was never on, or not since the last walk, shows nothing.
+    // The layers that the filter shows are turned off. A filter that was never on, or that was
+    // turned off before the last walk, shows none.
     const bool isUsed = pattern() == m_filter.pattern;
     for (int i = 0; isUsed && i < m_layers.count(); ++i) {
         if (m_filter.letThrough[static_cast<std::size_t>(i)])

@@ -1,4 +1,4 @@
-// What the walk asks the running command.
+// The requests that the walk sends to the running command.
 
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
@@ -17,7 +17,7 @@ namespace vnsi {
 
 namespace {
 
-/// What the command answers a request in.
+/// The keys in which the command answers a request.
 std::vector<const char*> answersOf(WalkRequest code)
 {
     std::vector<const char*> answers = {walkkey::kResult};
@@ -33,7 +33,7 @@ VnQtArgumentWriter showingLayers(const OdString& oldCurrent = {})
 {
     return [oldCurrent](IElementValueBase& root) {
         root.SetDataB(layerkey::kModified, true);
-        hostapi::removeKey(root, walkkey::kOldCurrent); // Of the click before.
+        hostapi::removeKey(root, walkkey::kOldCurrent); // It may remain from the previous click.
         if (!oldCurrent.isEmpty())
             root.SetDataSW(walkkey::kOldCurrent, oldCurrent);
     };
@@ -49,7 +49,8 @@ VnJsonPtr arrayOf(const std::vector<OdString>& names)
 
 } // namespace
 
-/// Asks on `layers`. There is no answer when the command could not be asked, failed or refused.
+/// Sends a request on `layers`. The answer is empty when the command could not be asked, failed or
+/// refused.
 VnQtAnswer VnQtLayWalkDlg::ask(
     WalkRequest code, const VnJsonPtr& layers, const VnQtArgumentWriter& write)
 {
@@ -57,12 +58,12 @@ VnQtAnswer VnQtLayWalkDlg::ask(
     VnQtAnswer answer = askCommand({code, answersOf(code), 0, layers}, write);
     if (answer && answer->GetDataI(walkkey::kResult, kDone) != 0)
         return answer;
-    if (data()) // What a failed request left there is no new tree for the next one.
+    if (data()) // Changes of a failed request must not look like a new tree later.
         m_given = LayerTreeMark(data()->GetDataJ(walkkey::kLayers));
     return {};
 }
 
-/// The user chose anew what is shown: a filter that was turned off before has no part in it.
+/// Shows the user's new choice. A filter that was turned off before no longer matters.
 void VnQtLayWalkDlg::walk(const OdString& oldCurrent)
 {
     if (!m_filter.isOn)
@@ -70,8 +71,8 @@ void VnQtLayWalkDlg::walk(const OdString& oldCurrent)
     apply(oldCurrent);
 }
 
-/// Has the drawing show the layers as they are now in the tree. What fails is taken back, and false
-/// is returned.
+/// Makes the drawing show the layers as the tree has them now. When that fails, the changes are
+/// undone and false is returned.
 bool VnQtLayWalkDlg::apply(const OdString& oldCurrent)
 {
     m_purge->setEnabled(m_list->hasSelection());
@@ -90,7 +91,7 @@ bool VnQtLayWalkDlg::apply(const OdString& oldCurrent)
     return true;
 }
 
-/// What the dialog shows now is what a request that fails leaves.
+/// Makes the present view the one to return to when a request fails.
 void VnQtLayWalkDlg::settle()
 {
     m_layers.settle();
@@ -107,8 +108,7 @@ void VnQtLayWalkDlg::goBack()
     m_purge->setEnabled(m_list->hasSelection());
 }
 
-/// Whether the command handed another layer tree back, wherever it put it; that is then the one to
-/// go on with.
+/// Whether the command returned another layer tree anywhere. If so, the dialog continues with it.
 bool VnQtLayWalkDlg::takeNewTree(const VnQtAnswer& answer, const LayerTreeMark& sent)
 {
     const VnJsonPtr result = answer->GetDataJ(walkkey::kResult);
@@ -132,7 +132,7 @@ void VnQtLayWalkDlg::takeLayers(const VnJsonPtr& tree)
     m_filter.letThrough = m_layers.matching(vnutQStringToOdString(m_filter.pattern));
 }
 
-/// The selected layers without those that stay in any case.
+/// The selected layers without those that must stay.
 std::vector<OdString> VnQtLayWalkDlg::namesToPurge() const
 {
     std::vector<OdString> names;
@@ -147,12 +147,12 @@ std::vector<OdString> VnQtLayWalkDlg::namesToPurge() const
 void VnQtLayWalkDlg::slot_ClearBtnClicked()
 {
     std::vector<OdString> names = namesToPurge();
-    // The command must know which layer is the current one, though the walk hid it.
+    // The command must know the current layer even if the walk has hidden it.
     if (names.empty() || (m_layers.restoreCurrent() && !apply()))
         return;
     const auto stays = [this](const OdString& name) { return !m_layers.mayBePurged(name); };
     names.erase(std::remove_if(names.begin(), names.end(), stays), names.end());
-    if (names.empty()) // Another layer has become current with that.
+    if (names.empty()) // Another layer may have become current.
         return;
     const auto write = [&names](IElementValueBase& root) {
         hostapi::removeKey(root, names.size() == 1 ? walkkey::kPurgeSeveral : walkkey::kPurgeOne);
@@ -166,14 +166,14 @@ void VnQtLayWalkDlg::slot_ClearBtnClicked()
     if (!answer)
         return;
     if (!takeNewTree(answer, sent))
-        takeLayers(m_layers.tree()); // The command may have changed it in its place.
+        takeLayers(m_layers.tree()); // The command may have changed the tree in place.
     fillAndSelectVisible();
     settle();
     m_purge->setEnabled(m_list->hasSelection());
 }
 
-/// The dialog is away while the user picks on the drawing. It is closed for that and shown again at
-/// once, so that nothing of it is lost.
+/// Lets the user pick in the drawing. The dialog is closed for that time and shown again
+/// immediately afterwards, so that its state is kept.
 void VnQtLayWalkDlg::slot_PickBtnClicked()
 {
     if (!canRequest())
@@ -222,7 +222,7 @@ void VnQtLayWalkDlg::slot_CheckActionTriggered()
     const VnQtAnswer answer = ask(kWalkCount, m_layers.tree());
     if (!answer && canRequest())
         return;
-    // What the command does not count is counted here.
+    // Counts that the command did not provide are made here.
     const auto rows = static_cast<int>(m_rows.size());
     const auto selectedRows = static_cast<int>(std::count(selected.begin(), selected.end(), true));
     const VnJsonPtr counts = hostapi::makeObject();

@@ -56,7 +56,8 @@ void VnQtLayWalkListWgt::selectRows(const Rows& rows)
         if (row > first)
             selection.append(QItemSelectionRange(index(first), index(row - 1)));
     }
-    // In two steps: changing one selection into another compares every range with every other.
+    // This is done in two steps, because replacing one selection by another compares every range
+    // with every other.
     selectionModel()->clearSelection();
     selectionModel()->select(selection, QItemSelectionModel::Select);
 }
@@ -70,7 +71,7 @@ void VnQtLayWalkListWgt::keyPressEvent(QKeyEvent* event)
 
 void VnQtLayWalkListWgt::mousePressEvent(QMouseEvent* event)
 {
-    // The right button asks for the menu on what is selected; it must not select something else.
+    // The right button opens the menu for the selection and must not change it.
     if (event->button() == Qt::RightButton)
         return;
     m_isEdited = false;

@@ -14,7 +14,7 @@ namespace {
 struct FieldRow
 {
     const char* label;
-    const char* key; ///< Also the field's object name.
+    const char* key; ///< It is also the field's object name.
 };
 
 constexpr FieldRow kFields[] = {

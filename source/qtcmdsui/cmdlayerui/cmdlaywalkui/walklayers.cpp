@@ -26,7 +26,7 @@ bool WalkLayers::holdsAny(const Choice& choice)
 
 void WalkLayers::take(const VnJsonPtr& layers)
 {
-    const bool isTree = hostapi::count(layers) == 0; // And no array.
+    const bool isTree = hostapi::count(layers) == 0; // An array is not a tree.
     m_tree = isTree ? hostapi::copyOf(layers) : VnJsonPtr();
     m_list = m_tree ? m_tree->GetDataJ(layerkey::kList) : VnJsonPtr();
     m_current = -1;
@@ -172,7 +172,7 @@ void WalkLayers::takeBack()
     if (m_statusBefore)
         record(m_current).setStatus(*m_statusBefore);
     if (m_tree)
-        m_tree->SetDataJ(layerkey::kList, m_list); // The command may have put another one there.
+        m_tree->SetDataJ(layerkey::kList, m_list); // The command may have put another list there.
     settle();
 }
 

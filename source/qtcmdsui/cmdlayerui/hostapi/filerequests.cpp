@@ -16,7 +16,7 @@ constexpr wchar_t kCommonService[] = L"Dialog/Common";
 constexpr wchar_t kFileDialog[] = L"FileDialogBox";
 constexpr wchar_t kNavigationDialog[] = L"FileNavDialogBox";
 
-// Two of the keys have an agreed spelling of their own.
+// Two of the keys have an agreed, unusual spelling.
 constexpr char kTitle[] = "title";
 constexpr char kDefaultName[] = "defawlt";
 constexpr char kCaption[] = "caption";
@@ -32,7 +32,7 @@ constexpr int kSaveFlag = 0x1;
 constexpr int kSeveralFlag = 0x1000;
 constexpr int kStringType = 5005;
 
-/// Callers separate the patterns of an entry with ";", the host expects blanks.
+/// Converts the ";" between patterns, which callers use, to the blanks that the host expects.
 OdString hostFilter(const OdString& filter)
 {
     std::wstring text(filter.c_str());
@@ -56,7 +56,7 @@ VnJsonPtr show(const wchar_t* dialogName, const VnJsonPtr& question, QWidget* pa
         kCommonService, dialogName, question, {}, parent ? parent : hostapi::currentWindow());
 }
 
-/// The list of chosen paths while it grows at its end.
+/// Builds the list of chosen paths by appending to its end.
 class PathList
 {
 public:

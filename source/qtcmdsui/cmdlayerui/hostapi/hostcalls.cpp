@@ -20,7 +20,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcHost, "quenlith.layers.host")
 
-/// What `call` gives back; `fallback` when it throws. `name` tells the log which call it was.
+/// Returns the result of `call`, or `fallback` when it throws. `name` identifies the call in the
+/// log.
 template <class Result, class Call>
 Result guarded(const char* name, Result fallback, Call call)
 {
@@ -39,14 +40,14 @@ OdString od(const QString& text)
     return vnutQStringToOdString(text);
 }
 
-/// An answer that can be read: the host's, or an object without keys.
+/// The host's answer, or an object without keys when it is empty.
 VnJsonPtr readable(const VnJsonPtr& answer)
 {
     return answer ? answer : makeObject();
 }
 
-/// The tree that a dialog is shown with, without what it says of how an earlier one ended: a host
-/// may write nothing for a dialog that is cancelled.
+/// Removes the "result" of an earlier dialog from the tree, because a host may write nothing for a
+/// dialog that is cancelled.
 const VnJsonPtr& undecided(const VnJsonPtr& tree)
 {
     removeKey(tree, "result");

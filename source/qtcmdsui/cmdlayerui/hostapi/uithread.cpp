@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kDone = -5019;
 
-/// Marks what the interface does for this thread while it lives.
+/// Marks the state of the interface for this thread while it exists.
 class ScrapMark
 {
 public:
@@ -22,7 +22,8 @@ private:
     int m_id;
 };
 
-/// False where there is nobody to post to.
+/// Posts work to the interface and waits for it. Returns false when there is no request server or
+/// proxy.
 bool postAndWait(const std::function<void()>& work)
 {
     const OdRxObjectPtr server = vn_arbitDict_getservice(L"Core/RequestSvr");
@@ -47,7 +48,7 @@ bool vnqtRunOnUiThread(const std::function<void()>& work)
     try {
         return vnedIsRunningInCommand() && postAndWait(work);
     } catch (...) {
-        return false; // The caller may be a destructor, which nothing may leave.
+        return false; // The caller may be a destructor, which must not throw.
     }
 }
 
