@@ -25,7 +25,7 @@ std::wstring foldedText(std::wstring_view text, bool ignoreCase)
 
 using Ranges = std::vector<std::pair<wchar_t, wchar_t>>;
 
-/// The same characters in ranges that are ascending and apart.
+/// The same characters as sorted ranges that do not overlap.
 Ranges tidied(Ranges ranges)
 {
     std::sort(ranges.begin(), ranges.end());
@@ -50,10 +50,10 @@ bool holds(const Ranges& tidy, wchar_t c)
 
 } // namespace
 
-/// The position of the bracket that closes the one at the front; npos where none does.
+/// The position of the bracket that closes the first one; npos when there is none.
 std::size_t Wildcard::bracketEnd(std::wstring_view pattern)
 {
-    // A closing bracket straight after the opening one stands for itself.
+    // A closing bracket directly after the opening one stands for itself.
     const std::size_t content = pattern.substr(1, 1) == L"~" ? 2 : 1;
     return pattern.find(L']', content + 1);
 }
@@ -84,7 +84,7 @@ Wildcard Wildcard::take(std::wstring_view& pattern, bool& isLast)
         wildcard.m_isNegated = true;
         pattern.remove_prefix(1);
     }
-    bool mayClose = true; // Once no bracket closes any more, the rest need not be searched again.
+    bool mayClose = true; // When no closing bracket is left, the rest need not be searched again.
     while (!pattern.empty() && pattern.front() != L',') {
         const wchar_t c = pattern.front();
         const std::size_t end =
@@ -140,8 +140,8 @@ bool Wildcard::fits(const Element& element, wchar_t c, bool ignoreCase)
     return true;
 }
 
-// After a mismatch only the last run is lengthened: whatever an earlier one could take, the last
-// one can take as well. So the work is at most text times pattern.
+// After a mismatch only the last run is extended, because it can match everything that an earlier
+// run could. The work is therefore at most text length times pattern length.
 bool Wildcard::matches(std::wstring_view text, bool ignoreCase) const
 {
     constexpr std::size_t kNone = std::wstring_view::npos;
