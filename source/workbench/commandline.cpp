@@ -94,7 +94,7 @@ void CommandLine::showHistory(int step)
 bool CommandLine::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_input && event->type() == QEvent::ShortcutOverride) {
-        // With nothing typed, undo and redo are the drawing's.
+        // With an empty line, undo and redo apply to the drawing.
         const auto* typed = static_cast<QKeyEvent*>(event);
         if (m_input->text().isEmpty() &&
             (typed->matches(QKeySequence::Undo) || typed->matches(QKeySequence::Redo))) {
@@ -105,7 +105,7 @@ bool CommandLine::eventFilter(QObject* watched, QEvent* event)
     if (watched != m_input || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
-    // While the completer's list is open the arrows move in it.
+    // While the completion list is open, the arrow keys move in it.
     const bool completing = m_input->completer() && m_input->completer()->popup()->isVisible();
     if (completing || (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_Escape))
         return QWidget::eventFilter(watched, event);

@@ -81,7 +81,7 @@ bool DrawingSession::confirmClose()
     return confirmDiscard();
 }
 
-/// Returns when the job under way has ended; the window goes on living meanwhile.
+/// Waits until the running job has ended. The window stays responsive meanwhile.
 void DrawingSession::waitForWorker()
 {
     if (!m_worker->isBusy())

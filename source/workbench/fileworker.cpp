@@ -42,7 +42,7 @@ void FileWorker::cancel()
     m_progress.cancelled = true;
 }
 
-/// Runs `job` on a thread; what it returns then runs here.
+/// Runs `job` on a thread and then the function that it returns on this thread.
 void FileWorker::start(const QString& what, std::function<std::function<void()>()> job)
 {
     Q_ASSERT(!isBusy());

@@ -12,7 +12,7 @@ constexpr char kKey[] = "language";
 struct LanguageRow
 {
     const char* code;
-    const char* name; ///< In the language itself, for whoever reads no other.
+    const char* name; ///< In the language itself, so that its speakers recognise it.
 };
 
 constexpr LanguageRow kLanguages[] = {{"zh", "中文(&Z)"}, {"en", "&English"}};

@@ -47,8 +47,8 @@ int printList(const Options& options)
     return Fine;
 }
 
-/// Makes the host's services and loads the module. Without it there are no layer dialogs, but
-/// drawings can be seen.
+/// Starts the host's services and loads the module. Without the module there are no layer dialogs,
+/// but drawings can be viewed.
 void startHost(host::Host& host, const QString& module)
 {
     host::setCurrentDocument(host::makeDocument());
@@ -57,7 +57,7 @@ void startHost(host::Host& host, const QString& module)
         print(stderr, QStringLiteral("layerbench: %1\n").arg(failure));
 }
 
-/// Opens the drawing in the foreground and draws the pictures that were asked for.
+/// Opens the drawing synchronously and saves the requested pictures.
 int makePictures(const Options& options)
 {
     MainWindow window;
@@ -94,7 +94,7 @@ int runWindow(const Options& options)
     window.show();
     if (!options.command.isEmpty()) {
         const QString command = options.command;
-        // Queued, so the command's dialogs open over a window that is ready.
+        // Queued, so that the command's dialogs open over a complete window.
         QObject::connect(
             &window, &MainWindow::fileOpened, &window,
             [&window, command, done = false]() mutable {

@@ -3,7 +3,8 @@
 QCollator nameCollator()
 {
     QLocale locale = QLocale().collation();
-    if (locale.language() == QLocale::C) // It compares codes and knows no numbers.
+    // This locale compares codes and does not recognise numbers.
+    if (locale.language() == QLocale::C)
         locale = QLocale(QLocale::Chinese, QLocale::China);
     QCollator collator(locale);
     collator.setNumericMode(true);

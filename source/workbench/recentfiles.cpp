@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kMostFiles = 9; ///< One digit each as the menu's mnemonic.
+constexpr int kMostFiles = 9; ///< Each has one digit as its mnemonic in the menu.
 const char kKey[] = "recentFiles";
 
 } // namespace

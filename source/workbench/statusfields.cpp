@@ -28,7 +28,7 @@ StatusFields::StatusFields(QWidget* parent) : QStatusBar(parent)
     connect(m_cancel, &QToolButton::clicked, this, &StatusFields::cancelClicked);
 }
 
-/// A click goes from model space to the layout and back; the menu has all layouts.
+/// The button switches between model space and the layout; its menu lists all layouts.
 QToolButton* StatusFields::makeSpaceSwitch()
 {
     auto* button = new QToolButton(this);
@@ -40,7 +40,7 @@ QToolButton* StatusFields::makeSpaceSwitch()
     m_spaces->setObjectName(QStringLiteral("spaceMenu"));
     button->setMenu(m_spaces);
     connect(button, &QToolButton::clicked, this, [this] { emit spaceChosen(m_otherSpace); });
-    // Queued: what is shown then makes the menu anew.
+    // Queued, because showing another space rebuilds the menu.
     connect(
         m_spaces, &QMenu::triggered, this,
         [this](QAction* action) { emit spaceChosen(action->data().toInt()); },
@@ -55,7 +55,7 @@ void StatusFields::addSwitch(QAction* action, const QString& title)
     button->setDefaultAction(action);
     button->setText(title);
     button->setAutoRaise(true);
-    insertPermanentWidget(2, button); // Behind what tells of long work.
+    insertPermanentWidget(2, button); // After the fields for long work.
     connect(action, &QAction::changed, button, [button, title] { button->setText(title); });
 }
 

@@ -32,7 +32,7 @@ QFont canvasFont(int pixelSize)
 
 double canvasCharacterWidth(QChar character)
 {
-    // By their codes; 0 for one that nobody asked for yet, one more than the width for the others.
+    // Indexed by character code. 0 means not measured yet; other values are the width plus one.
     static std::array<std::atomic<float>, 0x10000> known{};
     std::atomic<float>& width = known[character.unicode()];
     if (width.load(std::memory_order_relaxed) == 0)

@@ -10,9 +10,9 @@
 
 namespace {
 
-/// Dashes cost time; more than these are drawn solid.
+/// Dashes take time, so more vertices than this are drawn as solid lines.
 constexpr std::size_t kMostDashed = 50000;
-constexpr QRgb kBright = 0xff3d9bff; // Stands out on black and on white.
+constexpr QRgb kBright = 0xff3d9bff; // Visible on black and on white.
 
 void paintPart(QPainter& painter, const QPolygonF& part)
 {

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Within these a double still tells pixels apart, and an int counts them.
+// Within these limits a double can distinguish pixels, and an int can count them.
 constexpr double kSmallestScale = 1e-12;
 constexpr double kLargestScale = 1e9;
 
@@ -18,7 +18,7 @@ QPointF CanvasView::toDrawing(const QPointF& pixel) const
 
 drawing::Box CanvasView::boxOf(const QRect& pixels) const
 {
-    const QRectF exact(pixels); // Its far edges are where they are meant to be.
+    const QRectF exact(pixels); // Its right and bottom edges are exact, unlike those of QRect.
     drawing::Box box;
     box.add(toDrawing(exact.topLeft()));
     box.add(toDrawing(exact.bottomRight()));

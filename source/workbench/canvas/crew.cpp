@@ -47,7 +47,7 @@ void Crew::work()
         ++m_busy;
         lock.unlock();
         task();
-        task = nullptr; // What it holds goes before it counts as done.
+        task = nullptr; // Destroys what the task holds before it counts as done.
         lock.lock();
         --m_busy;
         if (m_tasks.empty() && m_busy == 0)

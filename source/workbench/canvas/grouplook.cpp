@@ -20,7 +20,7 @@ using drawing::LayerProperties;
 using drawing::LinetypePatternPointer;
 using drawing::LinetypePatterns;
 
-/// What lines get whose lineweight is left to the program.
+/// The lineweight of lines with the default lineweight.
 constexpr int kUsualLineweight = 25;
 
 class Looks
@@ -62,7 +62,7 @@ public:
     }
 
 private:
-    /// What the viewport shows otherwise.
+    /// Applies the overrides of a viewport.
     void overrideIn(const drawing::SheetViewport& viewport)
     {
         const auto own = [this](LayerId id) -> LayerProperties* {
@@ -127,7 +127,7 @@ private:
     }
 
     QHash<int, const Layer*> m_layers;
-    std::deque<Layer> m_overridden; ///< A deque, so that pointers stay good.
+    std::deque<Layer> m_overridden; ///< A deque keeps pointers to its elements valid.
     const LinetypePatterns& m_ownLinetypes;
     const LinetypePatterns& m_layerLinetypes;
     QColor m_foreground;

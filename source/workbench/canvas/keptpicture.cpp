@@ -11,12 +11,13 @@
 
 namespace {
 
-/// Bands begin at multiples of so many pixels, so that they do at those of any usual screen, too.
+/// Bands begin at multiples of this many pixels, so that they begin at whole device pixels on usual
+/// screens.
 constexpr int kBandStep = 4;
-/// Posted by the thread that paints the last area of a picture.
+/// The event that a thread posts when it has painted the last area of a picture.
 constexpr auto kPainted = static_cast<QEvent::Type>(QEvent::User + 1);
 
-/// The picture's rows in as many bands as there are threads.
+/// Divides the rows of a picture into one band per thread.
 std::vector<QRect> bandsOf(const QSize& size, int count)
 {
     const int steps = (size.height() + kBandStep - 1) / kBandStep;
@@ -29,7 +30,7 @@ std::vector<QRect> bandsOf(const QSize& size, int count)
 
 } // namespace
 
-/// A picture in the making.
+/// A picture that is being painted.
 struct KeptPicture::Job
 {
     void paint(const QRect& area);
@@ -38,8 +39,9 @@ struct KeptPicture::Job
     CanvasView view;
     qreal pixelRatio = 1;
     QImage image;
-    uchar* bits = nullptr; ///< Of the image. Each area's painter has an image of its own over them.
-    std::vector<QRect> areas; ///< Still to be painted; they do not overlap.
+    /// The pixels of the image. The painter of each area uses its own image on them.
+    uchar* bits = nullptr;
+    std::vector<QRect> areas; ///< The areas still to be painted. They do not overlap.
     std::atomic<int> areasLeft{0};
     std::atomic<bool> isDropped{false};
 };
@@ -49,8 +51,8 @@ void KeptPicture::Job::paint(const QRect& area)
     QImage target(bits, image.width(), image.height(), image.bytesPerLine(), image.format());
     target.setDevicePixelRatio(pixelRatio);
     QPainter painter(&target);
-    // Only within a rectangular clip are thin lines written pixel by pixel instead of by spans,
-    // which takes a third of the time and paints the same.
+    // Only with a rectangular clip are thin lines written pixel by pixel instead of by spans, which
+    // gives the same result in a third of the time.
     painter.setClipRect(area);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(area, content.ground);
@@ -97,7 +99,7 @@ void KeptPicture::provide(const CanvasView& view, qreal pixelRatio)
         const auto job = newJob(view, pixelRatio);
         job->paint(QRect({0, 0}, view.size()));
         take(*job);
-    } else if (!m_job) { // Else the next one follows when it is done.
+    } else if (!m_job) { // Otherwise the next picture follows when the present one is done.
         start(newJob(view, pixelRatio));
     }
 }
@@ -115,8 +117,8 @@ std::shared_ptr<KeptPicture::Job> KeptPicture::newJob(
     return job;
 }
 
-/// Takes over what the last picture shows of the view, and leaves the margin to be painted. False
-/// where nothing can be taken over.
+/// Copies the part of the last picture that is still in view and leaves the margin to be painted.
+/// Returns false when nothing can be copied.
 bool KeptPicture::keepMoved(Job& job) const
 {
     constexpr double kExact = 1e-3;
@@ -180,7 +182,7 @@ void KeptPicture::take(Job& job)
     m_version = job.content.version;
 }
 
-/// A picture of another view is moved to where it belongs until there is a new one.
+/// A picture of another view is drawn at its place in this view until there is a new one.
 void KeptPicture::draw(QPainter& painter, const CanvasView& view) const
 {
     if (m_view == view) {

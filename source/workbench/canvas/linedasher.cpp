@@ -7,7 +7,7 @@ using drawing::LinetypePattern;
 
 namespace {
 
-/// Elements shorter than this on the average cannot be told apart.
+/// Elements with a smaller average length cannot be distinguished.
 constexpr double kFinestElement = 1;
 constexpr double kDegree = M_PI / 180;
 
@@ -16,7 +16,8 @@ double lengthOf(const QPointF& way)
     return std::hypot(way.x(), way.y());
 }
 
-/// The part of a segment, as shares of it, that may lie in the rectangle; none when empty.
+/// Clips a segment at the rectangle; the result is given as fractions of the segment and may be
+/// empty.
 bool clip(const QPointF& from, const QPointF& way, const QRectF& seen, double& low, double& high)
 {
     const auto narrow = [&](double start, double step, double least, double greatest) {
@@ -70,7 +71,7 @@ void LineDasher::fit(double length, bool isClosed)
     m_phase = 0;
     const auto elements = static_cast<double>(m_pattern->elements.size());
     if (!(period >= kFinestElement * elements) || length < period) {
-        m_lead = length; // One dash.
+        m_lead = length; // The whole run is one dash.
         return;
     }
     if (isClosed) {
@@ -97,7 +98,7 @@ void LineDasher::dashSegment(const QPointF& from, const QPointF& to, double star
     addPiece(std::max(begin, std::max(m_lead, m_length - m_lead)), end);
 }
 
-/// The pattern's own elements between two places of a segment.
+/// Adds the pattern's elements between two positions of a segment.
 void LineDasher::repeat(double from, double to)
 {
     const double period = m_pattern->length * m_unit;
@@ -109,11 +110,12 @@ void LineDasher::repeat(double from, double to)
             at += std::abs(element.length) * m_unit;
         }
         if (!(at > before))
-            return; // So far out that a repeat is nothing to a number of this size.
+            // At this distance from the origin, a repetition is too small to change the number.
+            return;
     }
 }
 
-/// An element that begins at `at`, as far as it lies between two places.
+/// Adds the part of an element beginning at `at` that lies between two positions.
 void LineDasher::take(const LinetypePattern::Element& element, double at, double from, double to)
 {
     const double end = at + std::abs(element.length) * m_unit;
@@ -131,7 +133,7 @@ void LineDasher::take(const LinetypePattern::Element& element, double at, double
             turned - element.rotation * kDegree, element.height * m_unit});
 }
 
-/// Goes on with the dash that ended where this one begins.
+/// Adds a piece of a dash, and joins it to the previous piece if that ended here.
 void LineDasher::addPiece(double from, double to)
 {
     if (!(from < to))

@@ -12,7 +12,7 @@ enum Mode {
     Circle = 32,
     Square = 64
 };
-constexpr double kUsualShare = 5; ///< Percent of the view's height.
+constexpr double kUsualShare = 5; ///< In percent of the view's height.
 
 void addLine(QPainterPath& path, const QPointF& from, const QPointF& to)
 {

@@ -55,7 +55,7 @@ void LayerChanges::rename(const Records& records)
     }
 }
 
-/// All but the name.
+/// Applies everything but the name.
 void LayerChanges::setValues(const LayerRecord& record)
 {
     const LayerId id = layerrecords::idOf(record.node());
@@ -82,7 +82,7 @@ void LayerChanges::setValuesOneByOne(const LayerRecord& record)
     }
 }
 
-/// A layer whose values are not all accepted is made all the same, with those that are.
+/// Adds a layer. It is added even if some of its values are refused.
 void LayerChanges::add(const LayerRecord& record)
 {
     auto added = m_drawing.addLayer(Provider::full().read(record.node(), {}));

@@ -26,7 +26,7 @@ constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLayer";
 constexpr char kWidthsSetting[] = "layerColumnWidths";
 
-/// The widths that the columns had when the dialog told them last, for the next opening.
+/// Stores the column widths from the dialog's last request for the next opening.
 void storeWidths(const VnJsonPtr& tree)
 {
     QVariantList widths;
@@ -50,7 +50,7 @@ VnJsonPtr makeTree(const drawing::Drawing& drawing)
     return tree;
 }
 
-/// The first of 图层1, 图层2, ... that no record has.
+/// The first of 图层1, 图层2, ... that is not in use.
 QString freeName(const LayerRecordList& layers)
 {
     QSet<QString> taken;
@@ -81,7 +81,7 @@ void LayerPropertiesCommand::answer(CommandContext& context, const VnJsonPtr& tr
     case vnsi::kManagerNewLayer:
         appendLayer(context.drawing, tree);
         break;
-    case vnsi::kManagerDelete: // The marks are carried out with "apply".
+    case vnsi::kManagerDelete: // The marks take effect with "apply".
         break;
     case vnsi::kManagerApply:
         apply(context, tree);
@@ -91,7 +91,7 @@ void LayerPropertiesCommand::answer(CommandContext& context, const VnJsonPtr& tr
     }
 }
 
-/// The new layer is like the one selected last.
+/// Adds a layer that looks like the last selected one.
 void LayerPropertiesCommand::appendLayer(const drawing::Drawing& drawing, const VnJsonPtr& tree)
 {
     const LayerRecordList layers = LayerRecordList::of(tree);

@@ -32,7 +32,7 @@ constexpr ButtonRow kButtons[] = {
     {"btnText/3", QT_TRANSLATE_NOOP("workbench", "取消")},
 };
 
-/// The first few of the names and how many there are.
+/// The first few names and their total number.
 QString shortList(const QStringList& names)
 {
     constexpr int kMost = 5;

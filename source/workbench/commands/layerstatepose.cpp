@@ -30,7 +30,7 @@ constexpr Sample kSamples[] = {
     {QT_TRANSLATE_NOOP("workbench", "结构"), ""},
 };
 
-/// Locks every third layer, or unlocks it.
+/// Toggles the lock of every third layer.
 void changeSome(LayerState& state)
 {
     for (std::size_t i = 0; i < state.layers.size(); i += 3) {
@@ -39,7 +39,7 @@ void changeSome(LayerState& state)
     }
 }
 
-/// The drawing's own states and a few more; the first of these is what the drawing is in.
+/// The drawing's own states and a few more. The first of the added ones equals the drawing.
 std::vector<LayerState> statesToShow(const drawing::Drawing& drawing)
 {
     std::vector<LayerState> states = drawing.layerStates();

@@ -17,7 +17,7 @@ namespace key = vnsi::layerkey;
 constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaymch";
 
-/// The name of the layer to be made; it rides on whatever record comes last.
+/// The name of the layer to create, which is in the last record.
 QString newLayerName(const VnJsonPtr& tree)
 {
     const VnJsonPtr list = tree->GetDataJ(key::kList);
@@ -71,7 +71,7 @@ std::optional<drawing::LayerId> LayerChangeCommand::target(
     return std::nullopt;
 }
 
-/// What is on locked layers stays there.
+/// Moves the entities. Those on locked layers stay.
 void LayerChangeCommand::move(CommandContext& context, drawing::LayerId target)
 {
     drawing::Drawing& drawing = context.drawing;

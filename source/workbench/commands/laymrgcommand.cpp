@@ -48,7 +48,8 @@ VnJsonPtr LayerMergeCommand::makeSourceTree(const drawing::Drawing& drawing)
     return tree;
 }
 
-/// The sources are listed too, for their names, but last: the first one is offered as target.
+/// The tree for choosing the target. It contains the sources as well, for their names, but at the
+/// end, because the first layer is suggested as target.
 VnJsonPtr LayerMergeCommand::makeTargetTree(const drawing::Drawing& drawing, const Layers& sources)
 {
     VnJsonPtr tree = layermarks::makeTree(
@@ -106,7 +107,8 @@ LayerMergeCommand::Layers LayerMergeCommand::askTarget(
     }
 }
 
-/// Targets that were declined keep their mark. Which of several was meant last cannot be told.
+/// Asks which of several marked targets is meant. Declined targets keep their mark, so the last
+/// choice cannot be told from the records.
 LayerMergeCommand::Layers LayerMergeCommand::settle(const Layers& targets)
 {
     if (targets.size() < 2)

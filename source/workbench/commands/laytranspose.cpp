@@ -62,7 +62,7 @@ std::vector<TargetLayer> sampleTargets()
 
 } // namespace
 
-/// Targets for the to-list, and mappings of the first layers that can have one.
+/// Provides sample targets, and mappings of the first layers that can have one.
 void LayerTranslateCommand::answerWithSamples(const VnJsonPtr& tree)
 {
     const std::vector<TargetLayer> targets = sampleTargets();

@@ -34,7 +34,7 @@ void showDialog(const OdString& service, const OdString& dialog, const vnsi::VnJ
 void showNested(QWidget& window, const char* method, int row, int column,
     const LayerCommand::Camera& camera, const QString& name)
 {
-    // By value: where no dialog opens, the timer outlives this call.
+    // Captured by value because the timer outlives this call when no dialog is opened.
     QTimer::singleShot(0, &window, [camera, name] {
         auto* nested = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!nested)

@@ -19,7 +19,7 @@ using drawing::LayerId;
 using drawing::LayerProperties;
 using layeracts::Layers;
 
-/// What a command does; `done` says how many layers it was for.
+/// The action of a command. `done` is the message with the number of layers.
 struct Act
 {
     enum Needs { Objects, Nothing };
@@ -28,7 +28,8 @@ struct Act
     Needs needs;
     QStringList (*run)(CommandContext& context, const Layers& layers);
     const char* done;
-    bool (*isPossible)(const CommandContext& context) = nullptr; ///< Null: always.
+    /// Null when it is always possible.
+    bool (*isPossible)(const CommandContext& context) = nullptr;
     const char* otherwise = nullptr;
 };
 
@@ -74,7 +75,7 @@ QStringList makeCurrent(CommandContext& context, const Layers& layers)
     return done ? QStringList() : QStringList(done.error().text);
 }
 
-/// What is on locked layers stays there.
+/// Moves the entities. Those on locked layers stay.
 QStringList moveToCurrent(CommandContext& context, const Layers&)
 {
     const Drawing& drawing = context.drawing;
@@ -116,7 +117,7 @@ constexpr Act kActs[] = {
         hasHistory, QT_TRANSLATE_NOOP("workbench", "没有上一个图层状态。")},
 };
 
-/// Of the objects, in the order they come; each once.
+/// The layers of these entities in the order of occurrence, each once.
 Layers layersOf(const Drawing& drawing, const std::vector<int>& entities)
 {
     Layers layers;

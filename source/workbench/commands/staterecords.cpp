@@ -65,7 +65,7 @@ void takeEdited(LayerState& state, const VnJsonPtr& records, const drawing::Draw
         else if (known)
             layer.properties = known->properties;
         layer.properties = layerrecords::Provider::full().read(records(i), layer.properties);
-        layer.properties.description.clear(); // No part of a state.
+        layer.properties.description.clear(); // The description is not part of a state.
         if (record.isCurrentOfState())
             state.currentLayer = name;
         state.layers.push_back(std::move(layer));

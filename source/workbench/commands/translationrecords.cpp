@@ -20,12 +20,12 @@ namespace {
 
 using namespace vnsi::transkey;
 
-// The command's own keys, which the dialogs carry along: what targets have and dialogs do not show.
+// The workbench's own keys for properties of targets that the dialogs keep but do not show.
 constexpr char kColorIndex[] = "transToColorIndex";
 constexpr char kPlotted[] = "transToPlotted";
 
-/// A plot style as records and as files name it. A layer's own cannot be that of a layer or
-/// of a block: it stays as it is then.
+/// A plot style by its names in records and in files. ByLayer and ByBlock are impossible for a
+/// layer, so its style then stays as it is.
 struct PlotStyleRow
 {
     const char* recorded;
@@ -107,8 +107,8 @@ OdInt64 TranslationRecords::numberOf(const drawing::LinetypePointer& definition)
     return number;
 }
 
-/// The definition of that number if it is of this name: a name that was picked anew counts more
-/// than a number that stayed behind.
+/// The definition with this number, provided that it has this name. A newly chosen name takes
+/// precedence over an outdated number.
 drawing::LinetypePointer TranslationRecords::definition(OdInt64 number, const QString& name) const
 {
     const QList<OdInt64> numbers = m_numbers.values(vnsi::foldedName(name));

@@ -40,7 +40,8 @@ struct Variable
     bool isPattern;
 };
 
-// Drawings were seen to use name, colour and lock; the others follow from their names.
+// NAME, COLOR and LOCKED occur in existing drawings; the other names are derived from those of the
+// properties.
 constexpr Variable kVariables[] = {
     {"NAME", text<&LayerProperties::name>, true},
     {"COLOR", color, false},
@@ -77,7 +78,7 @@ std::optional<LayerTest> parsed(const QString& expression)
         QStringLiteral("\\G\\s*(\\()?\\s*(\\w+)\\s*==\\s*\"([^\"]*)\"\\s*(?(1)\\))\\s*(and\\b|$)"),
         QRegularExpression::CaseInsensitiveOption);
     std::vector<Test> terms;
-    bool isOpen = true; // Another term has to come.
+    bool isOpen = true; // Another term is expected.
     for (int at = 0; isOpen;) {
         const QRegularExpressionMatch match = next.match(expression, at);
         if (!match.hasMatch())

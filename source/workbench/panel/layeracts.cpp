@@ -108,7 +108,7 @@ LayerId add(Drawing& drawing, LayerId model, QStringList& refusals)
 
 QString flagStepName(const LayerColumn& column, bool value)
 {
-    // Turning on and off takes other words than setting and clearing what has a name.
+    // Turning layers on and off has its own words, unlike other flags.
     if (column.key == QLatin1String("on"))
         return value ? Texts::tr("打开图层") : Texts::tr("关闭图层");
     const bool isOfViewport = column.scope == LayerColumn::FrozenInViewport;

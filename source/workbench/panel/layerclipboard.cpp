@@ -24,7 +24,7 @@ QString quoted(const QString& cell)
     return kQuote + QString(cell).replace(QLatin1String("\""), QLatin1String("\"\"")) + kQuote;
 }
 
-/// Takes the cell at `at` off; stops at the tab or the end of the line behind it.
+/// Reads the cell at `at` and stops at the tab or line end after it.
 QString takeCell(const QString& text, int& at)
 {
     QString cell;
@@ -46,7 +46,8 @@ QString takeCell(const QString& text, int& at)
     return cell.trimmed();
 }
 
-/// The columns that a line names; none when one of its cells is no title, or names are missing.
+/// The columns that a line names. Empty when one of its cells is not a title or when there is no
+/// column of names.
 std::vector<int> headOf(const QStringList& cells)
 {
     std::vector<int> columns;
@@ -63,7 +64,7 @@ std::vector<int> headOf(const QStringList& cells)
     return hasNames ? columns : std::vector<int>();
 }
 
-/// Cells of a row, for one layer.
+/// Pastes the cells of a row into one layer.
 QStringList pasteRow(
     Drawing& drawing, LayerId layer, const QStringList& cells, const std::vector<int>& columns)
 {

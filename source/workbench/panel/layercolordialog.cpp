@@ -25,7 +25,7 @@ std::optional<QString> choose(const drawing::LayerProperties& shown, QWidget* pa
     const OdInt64 value = answer->GetDataL("selectClr");
     drawing::LayerProperties chosen;
     if (answer->GetDataI("clrMethod") == OdCmEntityColor::kByColor)
-        // The dialog packs red into the lowest byte.
+        // In the dialog's value, red is in the lowest byte.
         chosen.trueColor =
             static_cast<quint32>((value & 0xff) << 16 | (value & 0xff00) | (value >> 16 & 0xff));
     else

@@ -13,8 +13,8 @@ namespace layericons {
 namespace {
 
 constexpr int kSide = 16;
-constexpr int kMostSwatches = 2000; // A drawing may have a true colour a layer.
-/// True colours have no alpha; foreground is none of them.
+constexpr int kMostSwatches = 2000; // A drawing may have a different true colour for every layer.
+/// True colours have no alpha, so no true colour equals this key.
 constexpr quint32 kForegroundKey = 0xff000000;
 
 QIcon framed(const QColor& color, bool isForeground)

@@ -13,7 +13,7 @@ using drawing::LayerProperties;
 namespace {
 
 constexpr size_t kMostSteps = 100;
-constexpr int kFaded = 75; ///< Percent of transparency, at least.
+constexpr int kFaded = 75; ///< The minimum transparency in percent.
 
 bool isLess(const Layer& a, const Layer& b)
 {
@@ -28,11 +28,11 @@ std::vector<Layer> layersById(const Drawing& drawing)
     return layers;
 }
 
-/// Names stay what they are.
+/// Whether two layers differ at most in their names.
 bool isSameButName(LayerProperties a, const LayerProperties& b)
 {
     a.name = b.name;
-    a.plotStyle = b.plotStyle; // Follows from the colour.
+    a.plotStyle = b.plotStyle; // It follows from the colour.
     return a == b;
 }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// So many texts are compared at once.
+/// Up to this many texts are sorted immediately.
 constexpr int kFewLayers = 2000;
 
 template <class Key, class Less>
@@ -86,7 +86,7 @@ void LayerOrder::take(Places places)
     emit sorted();
 }
 
-/// An order of so many layers out of the one that is there.
+/// Derives an order of `count` layers from the present order.
 void LayerOrder::keepPresent(int count)
 {
     std::vector<char> isThere(static_cast<size_t>(count));

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Those of the wildcards that no layer's name holds, and sets.
+/// The wildcards that cannot occur in a layer name, and the beginning of sets.
 constexpr char kWildcards[] = "*?[";
 
 LayerTest inNameOrDescription(std::function<bool(const QString& text)> isFound)
@@ -24,7 +24,7 @@ LayerTest inNameOrDescription(std::function<bool(const QString& text)> isFound)
 
 constexpr QLatin1Char kSlash('/');
 
-/// What stands between the slashes; the second one may be yet to come.
+/// The text between the slashes. The second slash may be missing while the user types.
 QString expressionIn(const QString& typed)
 {
     return typed.mid(1, typed.size() - (typed.endsWith(kSlash) ? 2 : 1));
@@ -54,7 +54,7 @@ LayerSearch::LayerSearch(const QString& typed)
     const QString text = typed.trimmed();
     if (text.isEmpty() || text == kSlash)
         return;
-    if (text.startsWith(kSlash)) { // No name begins so.
+    if (text.startsWith(kSlash)) { // No layer name begins with a slash.
         const QRegularExpression expression(
             expressionIn(text), QRegularExpression::CaseInsensitiveOption |
                                     QRegularExpression::UseUnicodePropertiesOption);

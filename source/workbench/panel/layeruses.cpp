@@ -68,7 +68,7 @@ QByteArray typeOf(const Drawing& drawing, const Entity& entity)
     return tags.next(type) ? drawing::bytesOf(type.trimmed()) : QByteArray();
 }
 
-/// The definition of a layout, or where entities of the section stand.
+/// The layout of a block, or the space of an entity in the ENTITIES section.
 QString spaceName(const Drawing& drawing, const Entity& entity)
 {
     for (const drawing::Layout& layout : drawing.layouts()) {
@@ -84,14 +84,14 @@ bool isInBlock(const Drawing& drawing, const Entity& entity)
     return entity.block >= 0 && !drawing.blocks()[static_cast<size_t>(entity.block)].layout;
 }
 
-/// Entities of one kind in one place: the kind is looked up once where it is known.
+/// Entities of one kind in one place.
 struct Heap
 {
-    LayerId layer; ///< None where layers do not matter.
+    LayerId layer; ///< None when layers do not matter.
     EntityKind kind;
     int block;
     bool paperSpace;
-    QByteArray type; ///< Of those that are of no known kind.
+    QByteArray type; ///< The type name of entities without a known kind.
 
     bool operator<(const Heap& other) const
     {
@@ -100,7 +100,7 @@ struct Heap
     }
 };
 
-/// The block references, by the definition that they place.
+/// The block references by the definition that they refer to.
 std::map<int, std::vector<int>> references(const Drawing& drawing)
 {
     std::map<QString, int> numbers;
@@ -121,7 +121,7 @@ std::map<int, std::vector<int>> references(const Drawing& drawing)
 
 using Heaps = std::map<Heap, std::vector<int>>;
 
-/// What is on the layers, those of each for themselves where `apart` is set.
+/// The entities on the layers, grouped. `apart` also separates the layers.
 Heaps heapsOf(const Drawing& drawing, const std::vector<LayerId>& layers, bool apart)
 {
     const std::set<LayerId> wanted(layers.begin(), layers.end());
@@ -154,7 +154,7 @@ LayerUse useOf(const Drawing& drawing, const std::vector<int>& entities)
 
 bool isMoreFrequent(const LayerUse& a, const LayerUse& b)
 {
-    // Those of one frequency stand in the order of the drawing.
+    // Uses of equal frequency are in the order of the drawing.
     return a.entities.size() != b.entities.size() ? a.entities.size() > b.entities.size()
                                                   : a.entities.front() < b.entities.front();
 }
