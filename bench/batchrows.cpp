@@ -15,10 +15,11 @@ namespace {
 
 constexpr int kDrawings = 200;
 constexpr int kKilobytes = 100;
-constexpr int kReadKilobytes = 1000; ///< Of the drawings that are read only.
+constexpr int kReadKilobytes = 1000; ///< The size of drawings that are only read.
 constexpr int kMappings = 50;
 
-/// The same layer move: layouts and blocks, the emptied layers removed.
+/// A script of another program that moves the same layers in layouts and blocks and removes the
+/// emptied ones.
 constexpr char kScript[] = R"(
 import pathlib, sys, ezdxf
 out = pathlib.Path(sys.argv[1])
@@ -35,7 +36,7 @@ for path in map(pathlib.Path, sys.argv[3:]):
     doc.saveas(out / path.name)
 )";
 
-/// What a clean-up in an office looks for, and nothing of it is there.
+/// Rules as an office checks them; the drawings break none of them.
 constexpr char kRules[] = R"({"naming": {"separator": "-", "fields": [
     {"name": "word", "values": ["LAYER", "0"]},
     {"name": "number", "pattern": "[0-9]+", "optional": true}]},
@@ -49,7 +50,7 @@ struct Batch
     QString folder;
 };
 
-/// Writes the same drawing many times.
+/// Writes several copies of the same drawing.
 tl::expected<QStringList, QString> drawingsIn(const QString& folder, int kilobytes)
 {
     QDir().mkpath(folder);
@@ -84,7 +85,7 @@ tl::expected<Batch, QString> batchIn(const QString& folder)
     return batch;
 }
 
-/// Seconds of a whole process; 0 when it failed.
+/// The seconds that a whole process takes; 0 when it failed.
 double processSeconds(const QString& program, const QStringList& arguments)
 {
     bool isDone = false;
@@ -140,7 +141,7 @@ tl::expected<Sides, QString> batchAgainstScript(const QString& folder)
         QStringLiteral("one python3-ezdxf script doing the same")};
 }
 
-/// A verb that only reads, against counting the drawings' lines by as many processes.
+/// Compares a verb that only reads with counting the drawings' lines in as many processes.
 tl::expected<Sides, QString> readingAgainstCounting(const QString& folder, const QStringList& verb)
 {
     const auto drawings = drawingsIn(folder + QStringLiteral("/read"), kReadKilobytes);

@@ -45,7 +45,7 @@ struct Judgement
 Judgement judge(const Budget& budget, double measured, double compared)
 {
     const double times = measured / compared;
-    const bool isSmall = times < 0.01; // A peer far behind: two decimals would say nothing.
+    const bool isSmall = times < 0.01; // Two decimals are not enough when one side is much slower.
     const QString ratio = QStringLiteral("%1 times").arg(times, 0, 'f', isSmall ? 4 : 2);
     const auto verdict = [](bool isMet) {
         return isMet ? QStringLiteral("met") : QStringLiteral("not met");
@@ -85,7 +85,7 @@ void Report::registerRows(const std::vector<Row>& rows, bool quick)
                 state.SkipWithError(sides.error().toUtf8().constData());
                 return;
             }
-            // The first round warms caches and allocator up.
+            // The first round warms up caches and the allocator.
             sides->measured();
             sides->compared();
             std::vector<double> measured;

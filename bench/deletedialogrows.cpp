@@ -18,8 +18,8 @@ using namespace vnsi;
 constexpr int kFewLayers = 1000;
 constexpr int kManyLayers = 100000;
 
-/// The delete dialog with every other layer selected, which is half of them in as many pieces as
-/// there can be.
+/// The delete dialog with every other layer selected, so that the selection consists of as many
+/// ranges as possible.
 struct DeleteDialog
 {
     explicit DeleteDialog(int layers) : dialog(L"Dialog/CmdLaydel", makeLayerTree(layers))
@@ -52,7 +52,7 @@ struct DeleteDialog
     QPushButton* ok = nullptr; ///< Null when there is no such dialog.
 };
 
-/// One pass over the records that looks at their names as the dialog does.
+/// One pass over the records that reads their names as the dialog does.
 double passOver(const VnJsonPtr& list)
 {
     int length = 0;

@@ -17,10 +17,10 @@ using namespace vnsi;
 
 constexpr int kFew = 40;
 constexpr int kMany = 10000;
-/// Orders of magnitude between the two.
+/// The orders of magnitude between the two sizes.
 const double kDecades = std::log10(double(kMany) / kFew);
 
-/// A list with so many objects, each written by `write(object, number)`.
+/// A list of `count` objects, each of which `write(object, number)` fills.
 template <class Write>
 VnJsonPtr makeList(int count, Write write)
 {
@@ -33,7 +33,7 @@ VnJsonPtr makeList(int count, Write write)
     return list;
 }
 
-/// An object with one sub-tree.
+/// An object that contains one sub-tree.
 VnJsonPtr makeHolder(const char* key, const VnJsonPtr& held)
 {
     VnJsonPtr holder = ElementValue::createObject(8);
@@ -143,7 +143,7 @@ constexpr DialogSample kDialogs[] = {
     {"show/laytrans_setting", L"Dialog/CmdLaytransSetting", "设置", settingsTree},
 };
 
-/// Seconds from asking the service for the dialog to its first painted picture.
+/// The seconds from requesting the dialog to its first painted picture.
 double showSeconds(const OdString& dialog, const VnJsonPtr& tree)
 {
     std::unique_ptr<ServedDialog> shown;

@@ -13,8 +13,8 @@ constexpr int kLayers = 200;
 constexpr int kBlocks = 20;
 constexpr int kEntitiesOfBlock = 12;
 
-/// Writes tags as programs of the field do: codes right-aligned, lines ended by CR LF, coordinates
-/// with all their digits.
+/// Writes tags as usual programs do: codes right-aligned, lines ended by CR LF, coordinates with
+/// all their digits.
 class DrawingWriter
 {
 public:
@@ -49,7 +49,7 @@ private:
 
     QByteArray m_text;
     int m_nextHandle = 0x100;
-    std::mt19937 m_random; // Its numbers are the same with every library.
+    std::mt19937 m_random; // Its numbers are the same with every standard library.
 };
 
 QByteArray layerName(int number)

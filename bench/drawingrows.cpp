@@ -22,14 +22,14 @@ namespace {
 
 constexpr int kMegabytes = 20;
 
-/// The generated drawing; empty when it could not be written.
+/// The path of the generated drawing; empty when it could not be written.
 QString drawingIn(const QString& folder)
 {
     const QString path = folder + QStringLiteral("/drawing.dxf");
     return QFile::exists(path) || writeDrawing(path, kMegabytes) ? path : QString();
 }
 
-/// The same drawing in binary groups.
+/// The path of the same drawing as a binary file.
 QString binaryDrawingIn(const QString& folder)
 {
     using namespace drawing;
@@ -82,7 +82,8 @@ qint64 countByMemchr(const char* bytes, qint64 size)
     return count;
 }
 
-/// Maps the file and counts its line ends; the file is mapped afresh, as opening it does.
+/// Maps the file and counts its line ends. The file is mapped again each time, as it is when
+/// opening.
 double countSeconds(const QString& path, Counter counter)
 {
     qint64 count = 0;
@@ -102,7 +103,7 @@ struct LineEndCounter
     const char* name;
 };
 
-/// The faster of the two ways to count, on this machine and this file.
+/// The faster of the two ways of counting on this machine and with this file.
 LineEndCounter fasterCounter(const QString& path)
 {
     constexpr LineEndCounter kCounters[] = {
@@ -117,7 +118,7 @@ LineEndCounter fasterCounter(const QString& path)
     return kCounters[best[0] <= best[1] ? 0 : 1];
 }
 
-/// Opening `path` against counting the line ends of the text drawing.
+/// Compares opening `path` with counting the line ends of the text drawing.
 tl::expected<Sides, QString> openAgainstCount(const QString& folder, const QString& path)
 {
     const QString text = drawingIn(folder);
@@ -148,8 +149,8 @@ tl::expected<Sides, QString> openAgainstReader(const QString& folder)
         QStringLiteral("dxflib, keeping nothing")};
 }
 
-/// Seconds of processor time that ezdxf takes to read the drawing, without the start of Python; 0
-/// when it is not there or cannot read it.
+/// The seconds of processor time that ezdxf takes to read the drawing, without the start of Python.
+/// 0 when ezdxf is not installed or cannot read the drawing.
 double ezdxfSeconds(const QString& path)
 {
     const QString script = QStringLiteral("import sys, time, ezdxf\n"
@@ -157,7 +158,7 @@ double ezdxfSeconds(const QString& path)
                                           "ezdxf.readfile(sys.argv[1])\n"
                                           "print(time.process_time() - begin)\n");
     QProcess python;
-    // Debian's own Python has the package, whichever other comes first in the path.
+    // Debian's own Python has the package, whichever Python is first in the path.
     python.start(QStringLiteral("/usr/bin/python3"), {QStringLiteral("-c"), script, path});
     return python.waitForFinished(-1) ? python.readAllStandardOutput().trimmed().toDouble() : 0;
 }
@@ -187,7 +188,7 @@ double copySeconds(const QString& from, const QString& to)
     });
 }
 
-/// An open drawing that is saved again and again, with one layer changed each time.
+/// Saves an open drawing repeatedly and changes one layer each time.
 class Saver
 {
 public:
@@ -200,7 +201,7 @@ public:
     }
     explicit Saver(std::unique_ptr<drawing::Drawing> opened) : m_drawing(std::move(opened)) {}
 
-    /// Seconds of saving; 0 when the change or the saving was refused.
+    /// The seconds of one save; 0 when the change or the save was refused.
     double save()
     {
         const drawing::Layer layer = m_drawing->layers().back();

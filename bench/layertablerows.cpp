@@ -23,7 +23,7 @@ tl::unexpected<QString> noDialog()
     return tl::make_unexpected(QStringLiteral("the module made no layer dialog"));
 }
 
-/// The Layer Properties Manager with so many layers.
+/// The Layer Properties Manager with a given number of layers.
 struct Manager
 {
     explicit Manager(int layers) : dialog(L"Dialog/CmdLayer", makeLayerTree(layers))
@@ -40,7 +40,7 @@ struct Manager
     }
 
     ServedDialog dialog;
-    QTableWidget* table = nullptr; ///< Null when there is no such dialog, or it does not fill.
+    QTableWidget* table = nullptr; ///< Null when there is no such dialog or when it is not filled.
 };
 
 using Filler = void (*)(QTableWidget&, const std::vector<CellLook>&);
@@ -68,7 +68,7 @@ tl::expected<Sides, QString> fillGrowth()
         QStringLiteral("1,000 layers")};
 }
 
-/// Seconds of one click, from the press of the button to the painted table.
+/// The seconds of one click, from pressing the button to the painted table.
 double clickSeconds(const QTableWidget& table)
 {
     QWidget* const area = table.viewport();

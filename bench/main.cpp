@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Says OK and yes to everything, so that no window waits for a user.
+/// Answers OK and yes to everything, so that no window waits for a user.
 class ConsentingFrontEnd : public host::HostFrontEnd
 {
 public:
@@ -28,7 +28,7 @@ public:
     }
 };
 
-/// Takes `--quick` out of the arguments, which the benchmark library does not know.
+/// Removes `--quick` from the arguments because the benchmark library does not know it.
 bool takeQuick(int& argc, char** argv)
 {
     char** const end = argv + argc;

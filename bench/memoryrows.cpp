@@ -17,7 +17,7 @@ using namespace vnsi;
 
 constexpr int kLayers = 10000;
 
-/// Bytes that `make` leaves allocated, for each layer, while what it returns is kept.
+/// The bytes per layer that `make` leaves allocated while its result is kept.
 template <class Make>
 double bytesPerLayer(Make make)
 {

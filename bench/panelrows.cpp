@@ -16,9 +16,9 @@ namespace bench {
 namespace {
 
 constexpr int kLayers = 100000;
-constexpr double kMostSeconds = 0.05; ///< For which the window may stand still.
+constexpr double kMostSeconds = 0.05; ///< The time for which the window may be blocked.
 
-/// Layers of all colours, a tenth of them with a description.
+/// Writes layers of all colours; a tenth of them has a description.
 bool writeLayers(const QString& path)
 {
     QByteArray text = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1021\n0\nENDSEC\n"
@@ -35,8 +35,8 @@ bool writeLayers(const QString& path)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }
 
-/// The panel in a window. Whatever is done to it, what counts is the longest time it stands still
-/// until its rows are there.
+/// The panel in a window. Every measurement is the longest time for which the window is blocked
+/// until its rows are complete.
 struct ShownPanel
 {
     explicit ShownPanel(std::unique_ptr<drawing::Drawing> opened) : drawing(std::move(opened))
@@ -62,7 +62,7 @@ struct ShownPanel
         panel.setDrawing(nullptr);
         return longestStall([this] { panel.setDrawing(drawing.get()); });
     }
-    /// The next letter of a search, which starts anew when it is whole.
+    /// Types the next letter of a search, which starts again when it is complete.
     double type()
     {
         typed = (typed + 1) % 9;

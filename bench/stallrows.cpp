@@ -29,10 +29,10 @@ namespace bench {
 namespace {
 
 constexpr int kLayers = 1000;
-constexpr int kChanged = 141000; ///< Objects that go to another layer at once.
+constexpr int kChanged = 141000; ///< The number of objects that are moved to another layer at once.
 constexpr int kFrames = 20;
 
-/// The longest time that the event loop of this thread did not come round to a timer of 5 ms.
+/// Measures the longest time for which the event loop of this thread did not serve a timer of 5 ms.
 class Heartbeat : public QObject
 {
 public:
@@ -43,13 +43,13 @@ public:
         connect(&m_timer, &QTimer::timeout, this, [this] { beat(); });
         m_since.start();
     }
-    /// Begins anew.
+    /// Starts a new measurement.
     void reset()
     {
         m_longest = 0;
         m_since.restart();
     }
-    /// In seconds.
+    /// The longest time in seconds.
     double longest()
     {
         beat();
@@ -81,7 +81,7 @@ void processFor(int milliseconds)
     processUntil([&isOver] { return isOver; });
 }
 
-/// The window of the program with a drawing of lines, and what a user does in it.
+/// The main window with a drawing of lines, and the actions of a user in it.
 class Session
 {
 public:
@@ -121,7 +121,7 @@ public:
         }
         finishPicture();
     }
-    /// Opens the walk, clicks on some layers, and restores what was.
+    /// Opens the layer walk, clicks some layers, and restores the former state.
     void walk()
     {
         run(QStringLiteral("LAYWALK"), [](QDialog& dialog) {
@@ -153,7 +153,7 @@ public:
         finishPicture();
     }
 
-    /// Until the next picture after the view moved, in seconds.
+    /// The seconds from moving the view to the next picture.
     double panned()
     {
         const QPoint center = canvas().rect().center();
@@ -211,13 +211,13 @@ private:
     QString m_path;
 };
 
-/// Sessions and their drawings are made once for all rows.
+/// Makes sessions and their drawings once for all rows.
 class Sessions
 {
 public:
     explicit Sessions(const QString& folder) : m_folder(folder) {}
 
-    /// Null when the drawing could not be written or opened.
+    /// The session with this number of lines; null when its drawing could not be written or opened.
     std::shared_ptr<Session> with(int lines)
     {
         std::shared_ptr<Session>& session = m_sessions[lines];
@@ -231,7 +231,7 @@ public:
         }
         return session;
     }
-    /// Of the drawing of so many lines; empty when it could not be written.
+    /// The path of the drawing with this number of lines; empty when it could not be written.
     QString pathOf(int lines) const
     {
         const QString path = QStringLiteral("%1/lines-%2.dxf").arg(m_folder).arg(lines);
@@ -301,7 +301,7 @@ double bytesInUse()
     return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-/// What a line takes in an open drawing, and what the file has of it.
+/// Compares the memory that a line takes in an open drawing with its size in the file.
 tl::expected<Sides, QString> memory(const SessionsPointer& sessions, int lines)
 {
     const QString path = sessions->pathOf(lines);
@@ -367,7 +367,7 @@ std::vector<Row> stallRows(const QString& folder)
         double seconds;
     };
     static constexpr Size kSizes[] = {{200'000, "200,000", 0.05}, {kMillion, "1,000,000", 0.1}};
-    static std::list<std::string> names; // Rows hold their names as pointers.
+    static std::list<std::string> names; // Rows only keep pointers to their names.
     for (const Size& size : kSizes) {
         for (const Act& act : kActs) {
             names.push_back(std::string("stall/") + act.name + '/' + size.shown);

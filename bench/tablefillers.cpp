@@ -10,7 +10,8 @@ namespace {
 
 constexpr int kSwatchSize = 16;
 
-/// The picture of each column as a program loads it that keeps none; null for columns without.
+/// The picture of each column, which a simple program loads again for every cell; null for columns
+/// without pictures.
 constexpr const char* kPictures[] = {":/res/Resources/layer_nocurrent.bmp", nullptr,
     ":/res/Resources/layer_on.bmp", ":/res/Resources/layer_thaw.bmp",
     ":/res/Resources/layer_unlock.bmp", nullptr, nullptr, nullptr, nullptr, nullptr,

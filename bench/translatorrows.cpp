@@ -18,7 +18,7 @@ using namespace vnsi;
 constexpr int kFew = 1000;
 constexpr int kMany = 10000;
 
-/// Layers or targets of the same names in another order and letter case.
+/// Layers or targets with the same names, in another order and with other letter case.
 VnJsonPtr makeRecords(int count, const char* nameKey, const wchar_t* prefix, int step)
 {
     VnJsonPtr records = hostextras::createArray(count);
@@ -30,7 +30,7 @@ VnJsonPtr makeRecords(int count, const char* nameKey, const wchar_t* prefix, int
     return records;
 }
 
-/// Answers the request to load with so many targets.
+/// Answers the request to load with a given number of targets.
 class TargetLoader : public VnUiDialogInvoker
 {
 public:
@@ -53,7 +53,7 @@ VnJsonPtr makeTree(int count)
     return tree;
 }
 
-/// The translator with so many layers, each with a target of its own name.
+/// The translator with a given number of layers, each of which has a target of the same name.
 struct Translator
 {
     explicit Translator(int count)
@@ -67,7 +67,7 @@ struct Translator
         mapSame = dialog.find<QPushButton>("mapSameButton");
     }
 
-    /// Maps all that can be mapped; what it mapped is taken apart again, uncounted.
+    /// Maps everything possible. Afterwards the mappings are removed, which is not measured.
     double map()
     {
         const double seconds = timed(Clock::Processor, [this] { mapSame->click(); });

@@ -31,8 +31,8 @@ VnJsonPtr makeWalkTree(int layers)
     return tree;
 }
 
-/// The layer walk with so many layers and a command that does nothing, so that what is measured is
-/// the dialog's own work.
+/// The layer walk with a given number of layers and a command that does nothing, so that only the
+/// dialog's own work is measured.
 struct Walk
 {
     explicit Walk(int layers) : dialog(L"Dialog/CmdLaywalk", makeWalkTree(layers))
@@ -44,7 +44,8 @@ struct Walk
         records = dialog.tree()->GetDataJ(walkkey::kLayers)->GetDataJ(layerkey::kList);
     }
 
-    /// Clicks another row each time: one layer goes, one comes. Selecting the row is Qt's.
+    /// Clicks another row each time, so that one layer disappears and another one appears.
+    /// Selecting the row itself is done by Qt.
     double click()
     {
         row = (row + list->count() / 3) % list->count();
@@ -52,7 +53,7 @@ struct Walk
         QListWidgetItem* const item = list->item(row);
         return timed(Clock::Processor, [&] { emit list->itemClicked(item); });
     }
-    /// Filters, by another pattern each time; a tenth of the layers passes.
+    /// Filters with another pattern each time, which a tenth of the layers matches.
     double narrow()
     {
         row = (row + 1) % 10;
@@ -62,7 +63,7 @@ struct Walk
         QApplication::processEvents();
         return seconds;
     }
-    /// One pass over the records that looks at their names and whether they are off.
+    /// One pass over the records that reads their names and whether they are off.
     double pass() const
     {
         int sum = 0;

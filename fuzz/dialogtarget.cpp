@@ -23,11 +23,11 @@ namespace {
 
 constexpr int kMostActs = 12;
 constexpr int kMostChanges = 6;
-constexpr int kDeepest = 3; ///< Of dialogs that open dialogs.
+constexpr int kDeepest = 3; ///< The limit for dialogs that open dialogs.
 constexpr const wchar_t* kSections[] = {
     L"LayerState_dialog", L"table_dialog", L"layertransset_dialog"};
 
-/// One run: everybody the dialog deals with answers from the same bytes.
+/// One run. All partners of the dialog take their answers from the same bytes.
 struct Run
 {
     explicit Run(FuzzedDataProvider& data) : bytes(data) {}
@@ -38,7 +38,7 @@ struct Run
 
     FuzzedDataProvider& bytes;
     ModuleFixture* module = nullptr;
-    QPointer<QWidget> window; ///< Of the dialog that was opened first.
+    QPointer<QWidget> window; ///< The window of the dialog that was opened first.
     int depth = 0;
 };
 
@@ -52,7 +52,7 @@ void Run::act(QWidget* shown, int most)
     }
 }
 
-/// Answers for a dialog that another one opens: written straight away, or by really running it.
+/// Answers for a dialog that another one opens, either directly or by running that dialog.
 int Run::show(const QString& name, const VnJsonPtr& tree, const OdRxObjectPtr& invoker)
 {
     ++depth;
@@ -119,7 +119,7 @@ private:
     Run& m_run;
 };
 
-/// The application and the module, for the life of the program.
+/// The application and the module, which exist until the program ends.
 ModuleFixture& loadedModule()
 {
     static int count = 1;
@@ -143,7 +143,7 @@ void fuzzSettings(FuzzedDataProvider& bytes)
 
 } // namespace
 
-/// Each dialog with a tree of any shape, worked in any order, under a host and a command that
+/// Runs each dialog with an arbitrary tree and arbitrary actions, with a host and a command that
 /// answer anything.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -164,7 +164,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     auto dialog =
         module.createDialog(sample.name, root, OdRxObjectImpl<FuzzedCommand>::createObject(run));
     if (!dialog)
-        return 0; // Not built.
+        return 0; // It could not be built.
     run.window = dialog.window();
     run.act(run.window, kMostActs);
     dialog = {};

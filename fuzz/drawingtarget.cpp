@@ -15,11 +15,12 @@ namespace {
 
 constexpr int kMostEdits = 4;
 
-/// An entity as its file holds it.
+/// An entity as its file contains it.
 struct Snapshot
 {
     EntityKind kind;
-    LayerId id; ///< Of the layer: a broken file may name several alike.
+    /// The id of the layer, because a damaged file may have several layers of one name.
+    LayerId id;
     QString layer;
     QByteArray bytes;
 };
@@ -35,7 +36,7 @@ std::vector<Snapshot> snapshots(const Drawing& drawing, const QByteArray& file)
     return all;
 }
 
-/// Where the layer tables stand, how many records they hold and what is a name in them.
+/// The range of the layer tables, the number of their records, and the names in them.
 struct LayerTables
 {
     qint64 begin = -1;
@@ -44,7 +45,8 @@ struct LayerTables
     std::vector<std::string_view> names;
 };
 
-/// A table that is not closed ends where the next one, its section or the file does.
+/// Whether a table ends here. A table that is not closed ends at the next table or at the end of
+/// its section or file.
 bool endsTable(std::string_view kind)
 {
     constexpr std::string_view kEnds[] = {"ENDTAB", "TABLE", "ENDSEC", "SECTION", "EOF"};
@@ -79,7 +81,7 @@ LayerTables findLayerTables(const QByteArray& file)
             found.names.emplace_back();
         }
         if (tag.code == 2 && isLayer)
-            found.names.back() = tag.text(); // Of several the last one counts.
+            found.names.back() = tag.text(); // The last of several names counts.
         isInside = tag.code != 0 || !endsTable(tag.trimmed());
     }
     return found;
@@ -90,13 +92,13 @@ void requireOnlyLayersDiffer(const QByteArray& before, const QByteArray& after)
     const LayerTables old = findLayerTables(before);
     const LayerTables now = findLayerTables(after);
     if (old.begin < 0 || old.records != now.records)
-        return; // The edited layer had no record: it got one, with a handle from the header.
+        return; // The edited layer had no record and got one, with a handle from the header.
     require(before.left(static_cast<int>(old.begin)) == after.left(static_cast<int>(now.begin)) &&
                 before.mid(static_cast<int>(old.end)) == after.mid(static_cast<int>(now.end)),
         "a layer's flag changes nothing outside the layer table");
 }
 
-/// Whether handles may point to nothing now, and are cleared wherever they stand.
+/// Whether something was removed, so that handles anywhere may have been cleared.
 bool hasRemovals(const Drawing& drawing, const std::vector<Layer>& layersBefore)
 {
     const auto& entities = drawing.entities();
@@ -106,7 +108,7 @@ bool hasRemovals(const Drawing& drawing, const std::vector<Layer>& layersBefore)
                [&](const Layer& layer) { return !drawing.layer(layer.id); });
 }
 
-/// What did not come to another layer and refers to none is what it was, byte for byte.
+/// Checks that entities which stayed on their layer and refer to none are unchanged, byte for byte.
 void requireEntitiesKept(const Drawing& drawing, const std::vector<Snapshot>& before,
     const std::vector<Snapshot>& after, bool areHandlesCleared)
 {
@@ -123,7 +125,7 @@ void requireEntitiesKept(const Drawing& drawing, const std::vector<Snapshot>& be
             "entities are saved on the layer they are on");
         const bool mayFollow = areHandlesCleared || now.kind == EntityKind::Viewport ||
                                before[i].bytes.contains("1003") ||
-                               before[i].bytes.contains("\xeb\x03"); // The same in binary.
+                               before[i].bytes.contains("\xeb\x03"); // Code 1003 in a binary file.
         const bool isMoved = entity.layer != before[i].id || now.layer != before[i].layer;
         require(mayFollow || isMoved || now.bytes == before[i].bytes,
             "an entity that was not edited keeps its bytes");
@@ -133,7 +135,7 @@ void requireEntitiesKept(const Drawing& drawing, const std::vector<Snapshot>& be
 
 using Names = std::set<QString>;
 
-/// The layers that have no record: they come and go with what names them.
+/// The layers without records. They appear and disappear together with the references to them.
 Names impliedLayers(const Drawing& drawing, const LayerTables& tables)
 {
     Names names;
@@ -144,7 +146,7 @@ Names impliedLayers(const Drawing& drawing, const LayerTables& tables)
     return names;
 }
 
-/// The names and flags of all other layers; a file may name one twice.
+/// The names and flags of all other layers. A file may contain a name twice.
 std::multiset<std::pair<QString, int>> layersOf(const Drawing& drawing, const Names& leftOut)
 {
     std::multiset<std::pair<QString, int>> all;
@@ -164,7 +166,7 @@ QByteArray saved(Drawing& drawing)
     return fuzz::readFile(path);
 }
 
-/// The farthest that one of the edits of a step reached.
+/// The largest reach of the edits in a step.
 fuzz::EditReach editInStep(Drawing& drawing, FuzzedDataProvider& bytes)
 {
     fuzz::EditReach reach = fuzz::EditReach::Nothing;
@@ -179,7 +181,8 @@ fuzz::EditReach editInStep(Drawing& drawing, FuzzedDataProvider& bytes)
     return fuzz::EditReach::Nothing;
 }
 
-/// Of a file that is cut off: what is whole can be shown and saved, but not over the file.
+/// Opens the intact part of a truncated file. It can be shown and saved, but not over the file
+/// itself.
 void openWholePart(const QString& path, const QByteArray& file)
 {
     const auto part = Drawing::open(path, nullptr, nullptr, {{}, true});
@@ -193,7 +196,7 @@ void openWholePart(const QString& path, const QByteArray& file)
 
 } // namespace
 
-/// A drawing of any bytes: opened, shown, edited, saved and opened again.
+/// Opens, shows, edits, saves and opens again a drawing of arbitrary bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray file(reinterpret_cast<const char*>(data), static_cast<int>(size));
@@ -209,7 +212,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Drawing& drawing = **opened;
     require(buildGeometry(drawing).has_value(), "every drawing can be shown");
 
-    // The integers come from the end of the bytes: past the drawing's own end, as a rule.
+    // Integers are taken from the end of the bytes, which is usually behind the end of the drawing.
     FuzzedDataProvider bytes(data, size);
     const std::vector<Snapshot> before = snapshots(drawing, file);
     const Names implied = impliedLayers(drawing, findLayerTables(file));

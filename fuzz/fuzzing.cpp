@@ -29,7 +29,7 @@ QString scratchFolder()
 QString writeScratch(const char* name, const QByteArray& bytes)
 {
     QString path = scratchFolder() + QLatin1Char('/') + QString::fromLatin1(name);
-    // Removed and not emptied: what still has the last one open keeps it.
+    // The file is removed instead of emptied, because a previous one may still be open.
     QFile::remove(path);
     QFile file(path);
     require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(),

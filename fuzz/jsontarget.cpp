@@ -32,7 +32,8 @@ void change(const VnJsonPtr& tree, FuzzedDataProvider& bytes)
         break;
     }
     case 2:
-        target->SetDataJ(key.c_str(), tree); // Where it would hang in itself it must be refused.
+        // This must be refused when the tree would contain itself.
+        target->SetDataJ(key.c_str(), tree);
         break;
     case 3:
         target->SetDataJ(key.c_str(), ElementValue::createObject(1));
@@ -56,7 +57,7 @@ void change(const VnJsonPtr& tree, FuzzedDataProvider& bytes)
 
 } // namespace
 
-/// JSON texts to value trees, changes of any kind to them, and back to text.
+/// Converts JSON texts to value trees, changes them arbitrarily, and converts them back.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FuzzedDataProvider bytes(data, size);

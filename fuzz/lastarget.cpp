@@ -4,7 +4,7 @@
 
 using namespace drawing;
 
-/// Files of layer states: what is read can be written, and then reads the same.
+/// Reads a layer state file. What was read can be written and is then read back unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QString path = fuzz::writeScratch(

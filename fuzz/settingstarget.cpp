@@ -14,7 +14,7 @@ constexpr wchar_t kSection[] = L"table_dialog";
 
 } // namespace
 
-/// The settings file of a section: read, changed, written and read again.
+/// Reads, changes and writes the settings file of a section and reads it again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray content(reinterpret_cast<const char*>(data), static_cast<int>(size));

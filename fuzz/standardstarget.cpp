@@ -17,7 +17,8 @@ bool isSame(const LayerMapping& a, const LayerMapping& b)
 
 } // namespace
 
-/// Standards files: what was read of one is saved in a new one and in itself, and reads the same.
+/// Reads a standards file. Its contents are saved in a new file and in itself, and are read back
+/// unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray file(reinterpret_cast<const char*>(data), static_cast<int>(size));

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t kLongestText = 16;
 
-/// All keys of all dialogs' trees.
+/// All keys in the trees of all dialogs.
 const std::vector<std::string>& knownKeys()
 {
     static const std::vector<std::string> keys = [] {
@@ -94,7 +94,7 @@ void changeTree(const VnJsonPtr& root, FuzzedDataProvider& bytes, int mostChange
     for (int i = bytes.ConsumeIntegralInRange(0, mostChanges); i > 0; --i) {
         const std::vector<VnJsonPtr> nodes = containersIn(root);
         if (nodes.empty())
-            return; // A dialog may be handed an empty tree, which has nothing to change.
+            return; // A dialog may get an empty tree, in which nothing can be changed.
         const VnJsonPtr& node = pick(nodes, bytes);
         if (host::isArray(node)) {
             changeArray(node, pick(nodes, bytes), bytes);

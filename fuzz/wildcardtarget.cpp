@@ -16,7 +16,7 @@ std::wstring repeated(const std::wstring& text, std::size_t times)
     return all;
 }
 
-/// A pattern that stands for the text and nothing else.
+/// A pattern that matches only this text.
 std::wstring escaped(const std::wstring& text)
 {
     std::wstring pattern;
@@ -33,8 +33,8 @@ bool doesMatch(const OdString& name, const std::wstring& pattern, bool ignoreCas
 
 } // namespace
 
-/// Patterns and texts, also very long ones: what is worse than text times pattern runs into the
-/// time limit.
+/// Matches patterns and texts, including very long ones. Anything worse than text length times
+/// pattern length exceeds the time limit.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FuzzedDataProvider bytes(data, size);

@@ -48,7 +48,8 @@ std::vector<drawing::LayerId> idsOf(const DrawingPtr& drawing, const QStringList
 
 namespace {
 
-/// A step as a `with` block: committed at its end, taken back when it is left by an exception.
+/// A step as a `with` block. It is committed at the end and rolled back when an exception leaves
+/// it.
 class StepBlock
 {
 public:
@@ -105,7 +106,7 @@ LayerHandle addLayer(const DrawingPtr& drawing, const QString& name)
                          [&] { return valueOf(drawing->addLayer(properties)); })};
 }
 
-/// Renames by a table, in its order; all or nothing.
+/// Renames layers according to a table, in its order. Either all renames succeed or none.
 int rename(const DrawingPtr& drawing, const py::dict& names, bool merge)
 {
     std::vector<drawing::LayerRename> renames;
@@ -137,7 +138,7 @@ void deleteLayers(const DrawingPtr& drawing, const QStringList& names)
         [&] { valueOf(drawing->deleteLayers(idsOf(drawing, names))); });
 }
 
-/// Removes the layers that nothing is on; the names of those that went.
+/// Deletes all empty layers and returns their names.
 QStringList purge(const DrawingPtr& drawing)
 {
     std::vector<drawing::LayerId> unused;
@@ -158,7 +159,8 @@ QStringList purge(const DrawingPtr& drawing)
     return names;
 }
 
-/// Puts all that is on the layers, blocks included, on another; the layers stay.
+/// Moves everything on the layers, including the contents of blocks, to another layer. The layers
+/// stay.
 int moveContents(const DrawingPtr& drawing, const QStringList& sources, const QString& target)
 {
     const std::vector<drawing::LayerId> from = idsOf(drawing, sources);
@@ -172,7 +174,7 @@ int moveContents(const DrawingPtr& drawing, const QStringList& sources, const QS
         [&] { return valueOf(drawing->moveEntities(entities, layerNamed(drawing, target).id())); });
 }
 
-/// A property of the layer that is changed by assigning to it.
+/// Binds a property of a layer, which can be changed by assigning to it.
 template <class T>
 void bindProperty(
     py::class_<LayerHandle>& layer, const char* name, T LayerProperties::*member, const char* text)

@@ -7,8 +7,8 @@ namespace py = pybind11;
 
 namespace {
 
-/// Qt translates for an application only. It is never taken down: what the interpreter takes down
-/// after it may still have something to say.
+/// Sets the language. Qt only translates for an application object. That object is never destroyed,
+/// because objects that the interpreter destroys later may still need texts.
 void useLanguage(const QString& code)
 {
     if (!language::isKnown(code))
@@ -26,7 +26,7 @@ void useLanguage(const QString& code)
 PYBIND11_MODULE(_dxflayers, module)
 {
     module.doc() = "The layers of DXF drawings, edited without losing a byte.";
-    // Made once; it lives as long as the interpreter.
+    // Created once; it exists as long as the interpreter.
     static PyObject* const error = PyErr_NewExceptionWithDoc("dxflayers.Error",
         "A refusal: a sentence that names the thing and the cause; `line` of the file, or None.",
         PyExc_ValueError, nullptr);

@@ -53,7 +53,7 @@ void exportStates(
     valueOf(drawing::writeLayerStateFile(path, states));
 }
 
-/// What of the file could not be used, a sentence each.
+/// Imports layer states. Returns one sentence for each thing in the file that could not be used.
 QStringList importStates(Drawing& drawing, const QString& path)
 {
     auto file = valueOf(drawing::readLayerStateFile(path, drawing.codec()));

@@ -1,5 +1,5 @@
-// A host in one file: it loads the layer module, asks which layers to delete, and answers what the
-// dialog asks meanwhile. With --press-ok it answers the dialogs itself.
+// A host in one file. It loads the layer module, asks which layers to delete, and answers the
+// dialog's requests. With --press-ok it presses OK in the dialogs by itself.
 #include <RxObjectImpl.h>
 #include <documents.h>
 #include <hostextras.h>
@@ -40,7 +40,7 @@ VnJsonPtr layers(std::initializer_list<const wchar_t*> names)
     return list;
 }
 
-/// Presses the default button of the dialog in front.
+/// Presses the default button of the active dialog.
 void pressDefault()
 {
     const QWidget* const window = QApplication::activeModalWidget();
@@ -56,7 +56,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QTextStream out(stdout);
-    host::Host host; // Our own host with its windows; yours stands in its place.
+    host::Host host; // This project's host with its windows; replace it by your own.
     host::setCurrentDocument(host::makeDocument());
     if (const QString failure = host.loadModule(LAYER_MODULE); !failure.isEmpty()) {
         out << failure << '\n';

@@ -1,4 +1,4 @@
-// renamelayers DRAWING OLD NEW: gives a layer another name, and with it everything that names it.
+// renamelayers DRAWING OLD NEW: renames a layer and updates everything that refers to it.
 #include <drawing.h>
 
 #include <QCoreApplication>
@@ -24,7 +24,8 @@ int main(int argc, char* argv[])
     }
     drawing::LayerProperties properties = layer->properties;
     properties.name = words[3];
-    drawing::DrawingStep step(drawing, "rename"); // One undo; taken back when left early.
+    // One undo step. It is rolled back when the scope is left early.
+    drawing::DrawingStep step(drawing, "rename");
     const auto saved = drawing.setLayerProperties(layer->id, properties).and_then([&] {
         step.commit();
         return drawing.save(words[1]);

@@ -8,7 +8,7 @@ using namespace drawing;
 struct JournalOp
 {
     qint64 begin = 0;
-    qint64 end = 0; ///< The same as `begin` for an insertion.
+    qint64 end = 0; ///< Equal to `begin` for an insertion.
     const char* text = "";
     quint32 order = 0;
     bool accepted = true;
@@ -17,7 +17,7 @@ struct JournalOp
 using JournalOps = QVector<JournalOp>;
 Q_DECLARE_METATYPE(JournalOps)
 
-/// Rows of edits on "0123456789" and what the file reads like afterwards.
+/// Each row applies edits to "0123456789" and compares the resulting text.
 class TestEditJournal : public QObject
 {
     Q_OBJECT
@@ -88,7 +88,7 @@ private slots:
         journal.replace({6, 7}, "x");
         journal.replace({2, 3}, "a");
         journal.replace({2, 3}, "b");
-        journal.replace({6, 7}, "6"); // Back to what it was: no change at all.
+        journal.replace({6, 7}, "6"); // The original text is restored, so this is no change.
         const auto changes = journal.takeChanges();
         QCOMPARE(changes.size(), size_t(1));
         QVERIFY(changes.front().before.isNull());

@@ -4,7 +4,7 @@
 
 using namespace drawing;
 
-/// Whole drawings that are changed, saved, and seen by an independent reader.
+/// Changes and saves whole drawings and compares them with the results of an independent reader.
 class TestReadback : public Fixture
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ private slots:
         QCOMPARE(QProcess::execute("/usr/bin/python3", arguments), 0);
     }
 
-    /// A drawing looks and is the same, however its file spells it.
+    /// A drawing has the same contents and picture in every spelling of its file.
     void twins_data() { everyDrawing(); }
     void twins()
     {
@@ -82,14 +82,15 @@ private slots:
     }
 
 private:
-    /// The twins, and whatever folders of drawings DRAWING_FOLDERS names, with colons between them.
+    /// The folders with the twins, and all folders in the variable DRAWING_FOLDERS, separated by
+    /// colons.
     QStringList folders() const
     {
         const QString more = QString::fromLocal8Bit(qgetenv("DRAWING_FOLDERS"));
         return QStringList{m_twins.path()} + more.split(':', Qt::SkipEmptyParts);
     }
 
-    /// Breaks between lines are no numbers, which equal nothing.
+    /// The numbers of breaks between lines are NaN, which equals nothing.
     static bool isSame(const std::vector<QPointF>& a, const std::vector<QPointF>& b)
     {
         return std::equal(
@@ -98,8 +99,8 @@ private:
             });
     }
 
-    /// Does `act` as one step: the reader sees what the drawing has and no new error, and undo
-    /// brings every byte back.
+    /// Runs `act` as one step. The reader must see the contents of the drawing and no new error,
+    /// and undo must restore every byte.
     template <class Act>
     void checkStep(Drawing& drawing, const QString& path, Act act)
     {
@@ -123,14 +124,15 @@ private:
             QCOMPARE(layers.take(p.name), readback::facts(p));
             QCOMPARE(counts.take(p.name.toLower()).toInt(), layer.entityCount);
         }
-        // The reader adds this one where it is missing.
+        // The reader adds this layer when it is missing.
         layers.remove("Defpoints");
         QCOMPARE(layers.keys(), QStringList());
         QCOMPARE(counts.keys(), QStringList());
         QCOMPARE(seen.value("current").toString(), currentName(drawing));
     }
 
-    /// Renames, deletes and changes what may be, and adds a layer with everything set.
+    /// Renames, deletes and changes everything that is allowed, and adds a layer with all
+    /// properties set.
     static void changeAll(Drawing& drawing)
     {
         int number = 0;
@@ -165,7 +167,7 @@ private:
         QVERIFY(made && drawing.setCurrentLayer(*made));
     }
 
-    /// Of the layers that may go each one so many.
+    /// Every `one`th of the layers that may be deleted.
     static std::vector<LayerId> leaving(const Drawing& drawing, int one)
     {
         std::vector<LayerId> layers;

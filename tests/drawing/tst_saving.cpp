@@ -3,7 +3,7 @@
 
 using namespace drawing;
 
-/// Files come out whole, or stay what they were.
+/// A file is saved completely or stays as it was.
 class TestSaving : public Fixture
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ private slots:
         QVERIFY(saved(*opened(bytes)) == bytes);
     }
 
-    /// Saving over the file that is open: later edits and undo still find its bytes.
+    /// After saving over the open file, later edits and undo still find its bytes.
     void overItself()
     {
         const auto drawing = changed();

@@ -48,7 +48,7 @@ QStringList names(const Standard& standard)
 
 } // namespace
 
-/// Files that keep target layers and mappings.
+/// Tests files that store target layers and mappings.
 class TestStandards : public Fixture
 {
     Q_OBJECT
@@ -101,7 +101,8 @@ private slots:
         auto standard = readStandard(path);
         QCOMPARE(names(*standard).join(' '), "A B2 a>A b>B2");
 
-        // An edited mapping replaces; what is not saved any more goes, its layer stays.
+        // An edited mapping replaces the old one. A mapping that is not saved any more disappears,
+        // but its layer stays.
         TargetLayer zero = plain("0", 6);
         zero.plotStyle = "Half";
         const auto notices = saveStandard(path, {{"A", zero}});

@@ -7,7 +7,7 @@
 
 using namespace drawing;
 
-/// Values of tags: numbers, and texts in the code pages a file may be in.
+/// Tests values of tags: numbers, and texts in the possible code pages.
 class TestTexts : public QObject
 {
     Q_OBJECT
@@ -154,9 +154,9 @@ private slots:
         for (int percent = 0; percent <= kMostTransparent; ++percent)
             QCOMPARE(transparencyPercent(storedTransparency(percent)), percent);
         QCOMPARE(storedTransparency(50), qint64(0x0200007f));
-        QCOMPARE(transparencyPercent(0x020000e6), 10); // Alpha rounded up.
-        QCOMPARE(transparencyPercent(0x02000000), 90); // More than a layer may have.
-        QCOMPARE(transparencyPercent(0x01000000), 0);  // By block.
+        QCOMPARE(transparencyPercent(0x020000e6), 10); // Alpha was rounded up.
+        QCOMPARE(transparencyPercent(0x02000000), 90); // Limited to the maximum of a layer.
+        QCOMPARE(transparencyPercent(0x01000000), 0);  // ByBlock.
     }
 };
 

@@ -36,7 +36,7 @@ QString showColors(const QString& keys)
         .arg(answer->GetDataL("selectClr", -1));
 }
 
-/// Clicks the middle of the cell at `column` and `row` of a grid with that many columns.
+/// Clicks in the middle of the cell at `column` and `row` of a grid with `columns` columns.
 ModalDriver::Step cell(const char* grid, int column, int row, int columns)
 {
     return [=](QDialog& dialog) {
@@ -101,7 +101,7 @@ private slots:
         };
         row("cancelled", index, cancel, "2: 195 3");
         const auto walk = [](QDialog& dialog) {
-            cell("hueGrid", 0, 0, 24)(dialog); // 18
+            cell("hueGrid", 0, 0, 24)(dialog); // Index 18.
             for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Left, Qt::Key_Right, Qt::Key_Down})
                 QTest::keyClick(dialog.findChild<QWidget*>("hueGrid"), key);
         };
@@ -173,7 +173,7 @@ private slots:
         openDialog();
         QVERIFY(user.takeLog().last().contains(R"("isByLayerEnable":1)"));
         QCOMPARE(box.currentText(), QString("3,2,1"));
-        // What is taken out of the list cannot be chosen in the dialog either.
+        // Entries that were removed from the list cannot be chosen in the dialog either.
         for (const int index : {0, 256})
             box.removeItem(box.FindColor(indexColor(index)));
         user.answer(2);

@@ -15,7 +15,7 @@ namespace {
 
 const QString kEscape = QStringLiteral("Esc");
 
-/// The button texts from left to right.
+/// The texts of the buttons from left to right.
 QStringList buttonTexts(const QMessageBox& box)
 {
     QList<QAbstractButton*> buttons = box.buttons();
@@ -52,7 +52,7 @@ class TestMessages : public QObject
 private slots:
     void answersByStyle_data()
     {
-        // An answer a button, and Esc's.
+        // One answer per button, followed by the answer of Esc.
         const Rows<int, QString, int, QStringList, QList<int>> row(
             "style", "options", "icon", "buttons", "answers");
         const QString none = "{}";

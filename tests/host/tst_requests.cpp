@@ -22,7 +22,7 @@ vnsi::VnUiProxy* proxy()
     return vnsi::grUIProxy(service->currentDocument());
 }
 
-/// Posts the work from another thread, waits for it there and gives back the last status.
+/// Posts work from another thread, waits for it there and returns the last status.
 int postElsewhere(std::function<void()> work)
 {
     int status = 0;

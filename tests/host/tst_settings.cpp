@@ -50,7 +50,7 @@ private slots:
 
         host::setSettingsFolder(m_folder->path());
         QVERIFY(vnsi::vn_user_config(L"table_dialog")->GetDataB("RecoverBoxChecked"));
-        // A section that did not change leaves its file alone.
+        // An unchanged section does not touch its file.
         write(path("table_dialog.json"), "{}");
         QVERIFY(host::saveSettings());
         QCOMPARE(contents(path("table_dialog.json")), QByteArray("{}"));

@@ -15,7 +15,7 @@ using namespace vnsi;
 
 namespace {
 
-/// A function of the module's library, found as command code of any host finds it.
+/// A function of the module's library, looked up in the same way as by command code of any host.
 template <class Function>
 Function* exported(const char* symbol)
 {

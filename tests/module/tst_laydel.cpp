@@ -42,7 +42,7 @@ private slots:
         QFETCH(bool, inBlocks);
         QFETCH(QString, question);
         ListDriver driver(m_module, kName, kLayers, [&](const VnJsonPtr& root) {
-            QVERIFY(!root->GetDataB("IsExistBlock", true)); // What stood there is cleared.
+            QVERIFY(!root->GetDataB("IsExistBlock", true)); // The old answer was cleared.
             if (inBlocks)
                 root->SetDataB("IsExistBlock", true);
         });
@@ -50,7 +50,7 @@ private slots:
         driver.host.answer(1);
         const int result = driver.run([&](ListDriver& user) {
             user.select(rows);
-            user.press("okButton"); // Declined first.
+            user.press("okButton"); // Declined at first.
             for (int i = 0; i < 3; ++i) {
                 const VnJsonPtr record = user.record(i);
                 QCOMPARE(record->GetDataB("IsSelected", !rows.contains(i)), rows.contains(i));

@@ -16,7 +16,7 @@ class TestLaymch : public QObject
 private slots:
     void choosesTarget_data()
     {
-        // The answer is 0 where nothing is asked.
+        // The answer is 0 when nothing is asked.
         const Rows<QString, int, QString, int, QString> row(
             "typed", "answer", "log", "result", "after");
         const QString unsupported = "message|\n名称 包含不支持的字符。\n\n\n不支持以下字符:\n  "
@@ -68,7 +68,7 @@ private slots:
             QTest::keyClick(user.list, Qt::Key_Down);
             QCOMPARE(user.edit().text(), "Layer1");
             user.edit().setText("other");
-            user.select({1}); // A click on the current item copies it again.
+            user.select({1}); // Clicking the current item copies it again.
             QCOMPARE(user.edit().text(), "Layer1");
             user.press("helpButton");
             user.doubleClick(0);

@@ -5,7 +5,7 @@ namespace {
 
 const char kName[] = "Dialog/CmdLaymrg";
 
-/// Layers A, B, B, b and one without a name; the first `sources` are merged.
+/// Layers A, B, B, b and one without a name. The first `sources` of them are merged.
 QString layers(bool isFrom, int sources = 0, int blocks = 0)
 {
     QStringList records;
@@ -101,13 +101,13 @@ private slots:
         QCOMPARE(driver.dialog.window()->windowTitle(), "合并到图层");
         driver.host.answer(7);
         driver.host.answer(6);
-        const QList<int> marked{0, 11, 0, 0, 0}; // Only the first of that name.
+        const QList<int> marked{0, 11, 0, 0, 0}; // Only the first of several layers with that name.
         const int result = driver.run([&](ListDriver& user) {
             QCOMPARE(user.edit().text(), "A");
             user.select({1});
             user.press("okButton");
             QVERIFY(user.dialog.window()->isVisible());
-            QCOMPARE(marks(user), marked); // Declined, and still marked.
+            QCOMPARE(marks(user), marked); // Still marked after the question was declined.
             user.doubleClick(1);
         });
         QCOMPARE(result, 1);

@@ -16,7 +16,7 @@ const char kNewEdit[] = "Dialog/CmdLaytransNewEdit";
 
 } // namespace
 
-/// The two small dialogs of the layer translator.
+/// Tests the two small dialogs of the layer translator.
 class TestLaytransForms : public DialogFixture
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ private slots:
     }
     void cleanup() { stop(); }
 
-    /// What six elements say is shown and given back; any other number is no record.
+    /// Six elements are shown and returned; any other number is not a valid record.
     void settings_data()
     {
         const Rows<QString, QByteArray> row("given", "checked");
@@ -44,7 +44,7 @@ private slots:
     {
         QFETCH(QString, given);
         QFETCH(QByteArray, checked);
-        // 1 and 0 stand for the two values, 2 for an element without one.
+        // 1 and 0 stand for the two values, 2 for an element without a value.
         given.replace('1', R"({"LtransSettingData":true})");
         given.replace('0', R"({"LtransSettingData":false})").replace('2', "{}");
         open(kSettings, given.isEmpty() ? "{}" : R"({"qLtransSettingParamset":)" + given + "}");
@@ -54,7 +54,7 @@ private slots:
                 checked[option] == '1');
         auto& partial = find<QCheckBox>("optionBox4");
         partial.setTristate(true);
-        partial.setCheckState(Qt::PartiallyChecked); // Which is not checked.
+        partial.setCheckState(Qt::PartiallyChecked); // This does not count as checked.
         press("okButton");
         checked[4] = '0';
         const VnJsonPtr out = m_tree->GetDataJ("LtransSettingParamOut");
@@ -98,7 +98,7 @@ private slots:
         QVERIFY(!plotStyle.isEnabled());
     }
 
-    /// What a record says comes back unchanged, also what the boxes do not list.
+    /// A record is returned unchanged, including values that the boxes do not list.
     void givesBack_data()
     {
         const Rows<QString, QString> row("record", "result");
@@ -123,7 +123,7 @@ private slots:
         QFETCH(QString, record);
         open(kNewEdit,
             R"({"ltransInitIsEditLayer":true,"ltransInitNewEditLayer":{"transToName":"墙",)" +
-                // The names in use are not looked at: the layer may keep its own.
+                // The names in use do not matter here, because the layer may keep its own.
                 record + R"(},"newToLayerNameArray":{"ToLayerNameArray":["墙"]}})");
         QCOMPARE(title(), "编辑图层");
         press("okButton");
@@ -139,7 +139,8 @@ private slots:
 
     void refuses_data()
     {
-        // Each of the refusals comes before those behind it. Without a message the layer is taken.
+        // Each refusal is checked before the ones after it. Without a message the layer is
+        // accepted.
         const Rows<QString, QString, QString> row("name", "transparency", "message");
         const QString invalid = "名称不是有效符号名。";
         const QString number = "请输入一个 0-90 之间的整数";

@@ -110,7 +110,7 @@ private slots:
     {
         QFETCH(ModalDriver::Step, step);
         const auto dialog = make();
-        for (int run = 0; run < 2; ++run) { // What the first run left must not count.
+        for (int run = 0; run < 2; ++run) { // Remainders of the first run must not count.
             ModalDriver user;
             user.then(step);
             QTEST(dialog->doModal(), "result");
@@ -124,7 +124,7 @@ private slots:
         user.then(end);
         user.then(end);
         QCOMPARE(make<EndingWrapper<Probe>>()->doModal(), 21);
-        // The dialog's own way wins: exit code 11 decides nothing.
+        // The dialog's own ending takes precedence over the exit code 11.
         QCOMPARE(make<EndingWrapper<OwnEnding>>()->doModal(), -1);
     }
 
@@ -145,7 +145,7 @@ private slots:
     void buildsOnce()
     {
         const WrapperPtr dialog = makeUnbuilt();
-        QCOMPARE(dialog->doModal(), -1); // Nothing to run yet.
+        QCOMPARE(dialog->doModal(), -1); // There is no window yet.
         QCOMPARE(dialog->setData(ElementValue::createObject(2), {}), 0);
         QVERIFY(dialog->createDialog(nullptr, 0, "first"));
         const QPointer<QDialog> window = lastBuilt;
@@ -194,7 +194,7 @@ private slots:
         bool isGoneAfterwards = false;
         const std::unique_ptr<QThread> thread(QThread::create([&] {
             dialog->release();
-            isGoneAfterwards = deletedOn; // Waited for.
+            isGoneAfterwards = deletedOn; // The release waits for the deletion.
         }));
         thread->start();
         QTRY_VERIFY(thread->isFinished());

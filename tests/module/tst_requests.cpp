@@ -46,7 +46,7 @@ VnQtAnswer ask(const VnJsonPtr& node, const OdRxObjectPtr& invoker, const VnQtRe
         request, write);
 }
 
-/// A host that fails at whatever it is asked.
+/// A host that fails whatever it is asked.
 class BrokenHost : public host::HostFrontEnd
 {
 public:
@@ -135,10 +135,10 @@ private slots:
         });
         const VnQtAnswer answer = ask(root->GetDataJ("LayerStateMgr")(1), invoker, {5, {"ok"}});
         QVERIFY(answer && answer->GetDataB("ok"));
-        QVERIFY(answer->GetDataB("other")); // An answer of another code.
+        QVERIFY(answer->GetDataB("other")); // The answer of another request.
     }
 
-    /// Nothing is written, and what an earlier answer left counts no more.
+    /// Nothing is written, and the remainder of an earlier answer does not count.
     void skipsWithoutPartner_data()
     {
         const Rows<bool, OdRxObjectPtr> row("hasTree", "invoker");
@@ -183,7 +183,7 @@ private slots:
         RecordingHost host;
         const VnJsonPtr root = tree("{}");
         const auto invoker = RecordingInvoker::create(host, {"marker"}, [&](const VnJsonPtr& node) {
-            node->SetDataB("answer", true); // Half an answer is none.
+            node->SetDataB("answer", true); // An incomplete answer does not count.
             fail(node);
         });
         const VnQtAnswer answer = ask(root, invoker, {6, {"answer"}});
@@ -231,7 +231,7 @@ private slots:
         send();
         qInstallMessageHandler(previous);
 
-        QCOMPARE(loggedLines.size(), 1); // Silent unless asked for.
+        QCOMPARE(loggedLines.size(), 1); // Silent by default.
         QVERIFY(!loggedLines.first().contains('\n'));
         const QJsonObject line = QJsonDocument::fromJson(loggedLines.first().toUtf8()).object();
         QCOMPARE(line["dialog"].toString(), "Dialog_CmdLaydel");

@@ -22,7 +22,7 @@ private slots:
         row("Dialog/CmdLaydel", "VnQtLaydelLayerDlg");
         row("Dialog/CmdLaymch", "VnQtLaymchLayerDlg");
         row("DIALOG/CMDLAYMRG", "VnQtLaymrgLayerDlg");
-        // Dialogs that start like another's name.
+        // Names that begin like the name of another dialog.
         row("Dialog/CmdLayerState", "VnQtUiDynLayerStateCmdImpl");
         row("Dialog/CmdLayerStateNew", "VnQtNewLayerStateDlg");
         row("Dialog/CmdLayerStateEdit", "VnQtEditLayerStateDlg");
@@ -62,15 +62,15 @@ private slots:
             reinterpret_cast<void (*)(int&, int&, int&, int&)>(dlsym(library, "odrxGetAPIVersion"));
         OdRxModule* const module = create(nullptr, L"again");
         QCOMPARE(create(library, L"once more"), module);
-        QVERIFY(module->moduleName() != OdString(L"again")); // The loader's call came first.
+        QVERIFY(module->moduleName() != OdString(L"again")); // The first call was the loader's.
         int numbers[] = {-1, -1, -1, -1};
         version(numbers[0], numbers[1], numbers[2], numbers[3]);
         QCOMPARE(QList<int>(std::begin(numbers), std::end(numbers)), (QList<int>{21, 12, 0, 0}));
 
-        module->initApp(); // A second time it only registers again.
+        module->initApp(); // A second call only registers the service again.
         QVERIFY(!vn_arbitDict_getservice(L"Dialog/CmdLayer").isNull());
         const OdRxObjectPtr service = vn_arbitDict_getservice(L"Dialog/CmdLayer");
-        QCOMPARE(service->numRefs(), 2L); // The dictionary's and this one.
+        QCOMPARE(service->numRefs(), 2L); // One reference of the dictionary and this one.
         module->uninitApp();
         QVERIFY(vn_arbitDict_getservice(L"Dialog/CmdLayer").isNull());
         QCOMPARE(service->numRefs(), 1L);

@@ -17,7 +17,7 @@ QString read(const QString& path)
     return QString::fromUtf8(contentOf(path));
 }
 
-/// The first groups of all matches of `pattern` in the lines of a text.
+/// The first capture of every match of `pattern` in the lines of a text.
 QStringList found(const QString& text, const char* pattern)
 {
     QStringList all;
@@ -36,7 +36,7 @@ QStringList sourcesIn(const QDir& folder)
     return paths;
 }
 
-/// The first match of `pattern` in each line that a program writes about the module's library.
+/// The first match of `pattern` in each line that a program prints about the module's library.
 QStringList linesOf(const QString& program, const QStringList& options, const char* pattern)
 {
     QProcess process;
@@ -54,8 +54,8 @@ class TestStructure : public QObject
     Q_OBJECT
 
 private slots:
-    /// Another set of headers changes one folder: no other file calls into the host while a dialog
-    /// is open, or names what a host brings of its own.
+    /// Only one folder depends on the host's headers: no other file calls the host while a dialog
+    /// is open or uses names of a single host.
     void knowsTheHostInOneFolder()
     {
         const QRegularExpression hostName(
@@ -77,14 +77,15 @@ private slots:
         QVERIFY(known > 2);
     }
 
-    /// The drawing library's floors: a folder includes what it stands on, the facade all of them.
+    /// The layers of the drawing library: a folder includes only the folders below it; the facade
+    /// includes all of them.
     void keepsTheFloorsOfDrawings()
     {
         const QHash<QString, QStringList> standsOn{{"file", {}}, {"layers", {"file", "entities"}},
             {"entities", {"file", "layers"}}, {"geometry", {"file", "layers", "entities"}},
             {"states", {"file", "layers"}}, {"translation", {"file", "layers", "entities"}}};
         const QDir library(kRoot.filePath("source/drawing"));
-        const QDir shared(kRoot.filePath("include/qt")); // The rule for names.
+        const QDir shared(kRoot.filePath("include/qt")); // It contains the rule for names.
         QStringList strangers;
         int count = 0;
         for (const QString& path : sourcesIn(library)) {
@@ -95,7 +96,7 @@ private slots:
             for (const QString& name : found(read(path), "^#include \"([^\"]+)\"")) {
                 const QString other = name.section('/', 0, -2);
                 const bool isOwn = other.isEmpty() && (folder.exists(name) || shared.exists(name));
-                // Those that stand on each other know each other's types only.
+                // Folders that depend on each other only share types, not edits.
                 const bool areEdits = standsOn[other].contains(own) && name.contains("edits");
                 ++count;
                 if (!isOwn && (areEdits || !standsOn[own].contains(other)))
@@ -123,7 +124,7 @@ private slots:
                 const QString inModule = QDir::cleanPath(module.filePath(name));
                 const QString beside = QDir::cleanPath(QFileInfo(path).dir().filePath(name));
                 ++count;
-                if (isSystem) // Qt and the standard library only.
+                if (isSystem) // Only Qt and the standard library.
                     strangers += name.contains('/') || name.endsWith(".h") ? QStringList{name}
                                                                            : QStringList{};
                 else if (!allowed.contains(name) && !isOwn(module, inModule) &&
@@ -171,14 +172,14 @@ private slots:
             QCOMPARE(small.size(), QSize(16, 16));
             QCOMPARE(large.size(), QSize(32, 32));
             QVERIFY2(small.hasAlphaChannel() && large.hasAlphaChannel(), name);
-            bool isClearSomewhere = false; // No box around the sign.
+            bool isClearSomewhere = false; // The icon must not have an opaque background.
             for (int i = 0; i < 16 * 16; ++i)
                 isClearSomewhere |= qAlpha(small.pixel(i % 16, i / 16)) == 0;
             QVERIFY2(isClearSomewhere, name);
             seen.insert(QByteArray(
                 reinterpret_cast<const char*>(small.constBits()), int(small.sizeInBytes())));
         }
-        QCOMPARE(seen.size(), 16); // None looks like another.
+        QCOMPARE(seen.size(), 16); // No two icons are equal.
     }
 
 private:

@@ -13,7 +13,7 @@ class TestTransparency : public QObject
 private slots:
     void accepts_data()
     {
-        // -1 is stored where the dialog stays open.
+        // -1 means that the dialog stays open.
         const Rows<QString, int> row("typed", "stored");
         row("nothing typed", "", 35);
         row("least", "0", 0);
@@ -36,15 +36,15 @@ private slots:
         user.then([&](QDialog& dialog) {
             auto& value = child<QComboBox>(dialog, "transparencyValue");
             QCOMPARE(value.currentText(), "35");
-            if (!typed.isEmpty()) // Takes the place of the value, which is selected.
+            if (!typed.isEmpty()) // Typing replaces the selected value.
                 QTest::keyClicks(dialog.focusWidget(), typed);
             QTest::keyClick(value.lineEdit(), Qt::Key_Return);
             QCOMPARE(dialog.isVisible(), stored < 0);
-            // What is typed is not offered.
+            // The typed value is not added to the list.
             QCOMPARE(textsOf(value).join(' '), "0 10 20 30 40 50 60 70 80 90");
             if (stored >= 0)
                 return;
-            QTest::keyClicks(dialog.focusWidget(), "20"); // And that of what was refused.
+            QTest::keyClicks(dialog.focusWidget(), "20"); // Typing also replaces a refused value.
             QCOMPARE(value.currentText(), "20");
             press(dialog, "cancelButton");
         });
@@ -56,7 +56,7 @@ private slots:
         QCOMPARE(manager.host.log(), log);
         QCOMPARE(manager.record(0)->GetDataI("Transparency"), stored < 0 ? 35 : stored);
         QCOMPARE(manager.text(0, 8), QString::number(stored < 0 ? 35 : stored));
-        QVERIFY(manager.record(0)->GetDataB("Modified")); // Also when cancelled.
+        QVERIFY(manager.record(0)->GetDataB("Modified")); // Even when the dialog was cancelled.
         QVERIFY(manager.isApplyEnabled());
     }
 

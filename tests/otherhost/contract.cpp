@@ -14,8 +14,8 @@ struct TypeRow
     const char* keys;
 };
 
-/// A key in several rows may have any of their types: a changed record is marked with a bool, by an
-/// action with a number; an answer that is no bool is cleared with one all the same.
+/// A key in several rows may have any of their types. For example, a changed record is marked with
+/// a bool, or with a number by an action, and every answer is cleared with a bool.
 constexpr TypeRow kTypes[] = {
     {kBool,
         "Off Frozen Lock Print VPortFrozen Selected bDepend Used Modified IsSelected IsExistBlock "
@@ -94,7 +94,7 @@ const std::vector<Request> kRequests = {
         R"({"LayerCount":4,"SelectLayerCount":2,"SelectLayerEntitys":9})",
         "parameter/LayerList IsSelected"},
     {kWalk, 12, "tree", "laywalkselLName|laywalkselLNameS", "", "{}", ""},
-    // Picking on the drawing, which is this project's own.
+    // Picking in the drawing is an addition of this project.
     {kWalk, 13, "tree", "", "laywalkpickLNameS", R"({"laywalkpickLNameS":["墙"]})", ""},
     {kTranslator, 0, "0", "ltransSaveMapListdlg ltransMapListArray", "result", R"({"result":1})",
         ""},

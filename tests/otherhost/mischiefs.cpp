@@ -31,7 +31,7 @@ struct Broken : std::runtime_error
     Broken() : std::runtime_error("broken") {}
 };
 
-/// Nodes that the dialog may look at: those of its own tree, and those of what it asked on.
+/// The nodes that the dialog may read: those of its own tree and those of the request.
 std::vector<VnJsonPtr> reachable(const VnJsonPtr& asked)
 {
     std::vector<VnJsonPtr> all = nodesIn(host().root);
@@ -40,7 +40,7 @@ std::vector<VnJsonPtr> reachable(const VnJsonPtr& asked)
     return all;
 }
 
-/// Answers as agreed, then changes every member of the given name.
+/// Answers as agreed and then changes every member of the given name.
 Change changing(const char* key, std::function<VnJsonPtr(const VnJsonPtr& member)> changed)
 {
     return [key, changed = std::move(changed)](const VnJsonPtr& asked) {
@@ -88,7 +88,7 @@ VnJsonPtr sharedList(const VnJsonPtr&)
     return list;
 }
 
-/// The value with another type: what was a bool is a number, what was wide is narrow.
+/// The same value with another type: bools become numbers, wide texts become narrow.
 VnJsonPtr ofOtherType(const VnJsonPtr& value)
 {
     constexpr int kBool = 0, kInt = 1;
@@ -125,7 +125,7 @@ void emptyAll(const VnJsonPtr& asked)
         node->clear();
 }
 
-/// Lets the user go on clicking in the dialog while the command works.
+/// Lets the user continue to click in the dialog while the command works.
 void letUserClick(const VnJsonPtr& asked)
 {
     static int deep = 0;
@@ -210,7 +210,7 @@ std::vector<Mischief> makeMischiefs()
     } kChanges[] = {{"replaces", replaced}, {"empties", emptied}, {"removes", removed},
         {"makes a number of", madeNumber}, {"fills with others", filledWithOthers},
         {"shares one list as", sharedList}};
-    static std::vector<std::string> names; // What the rows point to.
+    static std::vector<std::string> names; // The rows point to these texts.
     names.reserve(32);
     for (const auto& [name, change] : kChanges) {
         for (const char* key : {"LayerStateMgr", "LayerList", "LayerStateList", "parameter"}) {

@@ -1,4 +1,4 @@
-// A library like any other, without a module's entry points.
+// An ordinary library without the entry points of a module.
 extern "C" __attribute__((visibility("default"))) int answer()
 {
     return 42;

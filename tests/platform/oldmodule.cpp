@@ -3,7 +3,7 @@
 class OdRxModule;
 class OdString;
 
-// A module of a release before: its object must never be asked for.
+// A module of an earlier release. Its module object must never be requested.
 extern "C" ODRX_EXPORT void odrxGetAPIVersion(
     int& major, int& minor, int& majorBuild, int& minorBuild)
 {

@@ -29,7 +29,7 @@ class Thing : public OdRxObject
 
 } // namespace
 
-// These stand before the platform's own, as a host's may.
+// These replace the platform's own functions, which a host may do as well.
 void* odrxAlloc(std::size_t size)
 {
     return failuresLeft > 0 && failuresLeft-- ? nullptr : std::malloc(size);

@@ -46,7 +46,7 @@ private slots:
             QCOMPARE(shape->numRefs(), 1L);
             OdRxObjectPtr other = shape;
             QCOMPARE(shape->numRefs(), 2L);
-            other = std::as_const(other); // Must not let go of the object on the way.
+            other = std::as_const(other); // The object must not be released in between.
             shape = {};
             QCOMPARE(other->numRefs(), 1L);
             QCOMPARE(alive, 1);

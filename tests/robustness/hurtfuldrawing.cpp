@@ -23,8 +23,8 @@ const HurtfulDrawing* find(const char* name)
     return row->name ? row : nullptr;
 }
 
-/// What the program took at most, without the pages of the drawing's file, which the system can
-/// take back at any time.
+/// The peak memory of the program without the pages of the drawing's file, which the system can
+/// reclaim at any time.
 long peakMegabytes(qint64 fileSize)
 {
     rusage usage{};
@@ -46,8 +46,8 @@ QString shown(const QString& path)
 
 } // namespace
 
-/// hurtfuldrawing NAME [MEASURE]: makes that drawing, at its full measure where none is said, opens
-/// it and tells what became of it, the time and the memory it took.
+/// hurtfuldrawing NAME [SIZE]: writes the drawing of that name, by default at its full size, opens
+/// it, and prints the outcome, the time and the memory.
 int main(int count, char** arguments)
 {
     const HurtfulDrawing* const row = count > 1 ? find(arguments[1]) : nullptr;

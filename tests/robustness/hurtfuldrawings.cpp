@@ -35,7 +35,7 @@ void writeNested(QIODevice& file, qint64 depth)
     file.write(block('B' + QByteArray::number(depth), kLine) + kEntities + insert("B0") + kEnd);
 }
 
-/// Each block holds the one before it twice: two to the power of the depth instances.
+/// Each block contains the previous one twice, which gives two to the power of `depth` instances.
 void writeDoubling(QIODevice& file, qint64 depth)
 {
     file.write(QByteArray(kHead) + kTablesEnd + kBlocks + block("B0", kLine));
@@ -55,7 +55,8 @@ void writeSelfContained(QIODevice& file, qint64 copies)
     file.write(kEnd);
 }
 
-/// A block of empty blocks, placed as often as it holds them: the square of it to look at.
+/// A block with `count` empty blocks that is inserted `count` times, so that `count` squared
+/// instances are visited.
 void writeEmptyBlocks(QIODevice& file, qint64 count)
 {
     QByteArray inner, outer;

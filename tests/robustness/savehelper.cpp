@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kSaves = 4;
 
-/// This process gets killed so many microseconds from now, wherever it is then.
+/// Makes the system kill this process after this time.
 bool killAfter(long microseconds)
 {
     sigevent event{};
@@ -26,7 +26,7 @@ bool killAfter(long microseconds)
            timer_settime(timer, 0, &when, nullptr) == 0;
 }
 
-/// Switches layer 0 on or off and saves the drawing over itself.
+/// Switches layer 0 on or off and saves the drawing over its file.
 bool toggleAndSave(Drawing& drawing)
 {
     drawing.beginStep(QStringLiteral("toggle"));
@@ -44,8 +44,8 @@ bool toggleAndSave(Drawing& drawing)
 
 } // namespace
 
-/// savehelper DRAWING MICROSECONDS USER: saves a few times, as that user (0: as it was started),
-/// until it is killed (0: not at all). Tells why when a drawing could not be saved.
+/// savehelper DRAWING MICROSECONDS USER: saves a few times as this user (0 for the present one)
+/// until it is killed (0 for never). Prints the reason when the drawing could not be saved.
 int main(int count, char** arguments)
 {
     if (count != 4)

@@ -4,7 +4,7 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-/// Drawings made to hurt are shown or refused, in memory that is bounded.
+/// Harmful drawings are shown or refused, within a limited amount of memory.
 class TestHurtful : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ void TestHurtful::isShownOrRefused()
     QProcess process;
     process.start(QStringLiteral(HURTFUL_DRAWING),
         {QString::fromLatin1(drawing.name), QString::number(drawing.usual)});
-    QVERIFY(process.waitForFinished(-1)); // The time is limited for the whole test.
+    QVERIFY(process.waitForFinished(-1)); // There is a time limit for the whole test.
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     const QString output = QString::fromUtf8(process.readAllStandardOutput());
     const QString refusal = QString::fromUtf8(drawing.refusal);
@@ -37,7 +37,7 @@ void TestHurtful::isShownOrRefused()
         qPrintable(output));
     const auto figure = QRegularExpression(QStringLiteral(", (-?\\d+) MB\n$")).match(output);
     QVERIFY2(figure.hasMatch(), qPrintable(output));
-#ifndef __SANITIZE_ADDRESS__ // Which keeps what is freed.
+#ifndef __SANITIZE_ADDRESS__ // The sanitizer keeps freed memory.
     QVERIFY2(figure.captured(1).toInt() <= drawing.mostMegabytes, qPrintable(output));
 #endif
 }

@@ -17,7 +17,7 @@ namespace {
 constexpr int kKills = 200;
 constexpr char kNobody[] = "65534";
 
-/// Runs the helper that saves, and waits for its end.
+/// Runs the helper that saves and waits for its end.
 struct Save
 {
     Save(const QString& path, qint64 microseconds, const QString& user = "0")
@@ -33,7 +33,7 @@ struct Save
     QString output;
 };
 
-/// A folder with a file system of its own while it lives.
+/// A folder with a file system of its own, which exists as long as this object.
 class SmallDisk
 {
 public:
@@ -56,7 +56,8 @@ private:
 
 } // namespace
 
-/// Whatever happens while a drawing is saved, its file is the old or the new one, whole.
+/// Whatever happens while a drawing is being saved, its file is completely the old or completely
+/// the new one.
 class TestSaving : public QObject
 {
     Q_OBJECT
@@ -76,7 +77,7 @@ private slots:
         clock.start();
         QCOMPARE(Save(path, 0).process.exitCode(), 0);
         const qint64 longest = clock.nsecsElapsed() / 1000 + 1;
-        QCOMPARE(contentOf(path), on); // Switched off and on, twice.
+        QCOMPARE(contentOf(path), on); // It was switched off and on twice.
 
         QRandomGenerator chance(1);
         QByteArray off;
@@ -87,14 +88,14 @@ private slots:
             kills += save.wasKilled();
             const QByteArray now = contentOf(path);
             if (off.isEmpty() && now.size() == on.size() + 1 && now != on)
-                off = now; // One sign more: a colour's minus.
+                off = now; // One character more, the minus sign of the colour.
             QVERIFY(now == on || now == off);
             afterSaves += now == off;
         }
         QCOMPARE(kills, kKills);
         QVERIFY(afterSaves > 0);
         QVERIFY(QByteArray(off).replace("-7", "7") == QByteArray(on).replace("-7", "7"));
-        // A kill leaves at most one file behind, which nobody takes for a drawing.
+        // A kill leaves at most one additional file, which does not look like a drawing.
         QDir folder(m_folder->path());
         QVERIFY(static_cast<int>(folder.entryList(QDir::Files).size()) <= kKills + 1);
         QCOMPARE(folder.entryList({"*.dxf"}, QDir::Files).size(), 1);
@@ -130,7 +131,7 @@ private slots:
     }
 
 private:
-    /// A save that cannot be is told with the drawing and the cause, and changes no file.
+    /// A save that is not possible is reported with the drawing and the cause, and changes no file.
     void checkRefused(const QString& path, const QString& user, const QString& cause) const
     {
         const QByteArray before = contentOf(path);

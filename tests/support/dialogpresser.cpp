@@ -57,7 +57,7 @@ void type(QLineEdit& edit, const char* text)
 {
     const QPointer<QLineEdit> guarded(&edit);
     edit.selectAll();
-    edit.insert(QString::fromUtf8(text)); // As typed: also tells that it was edited.
+    edit.insert(QString::fromUtf8(text)); // Inserting emits the same signals as typing.
     if (guarded)
         pressKey(edit, Qt::Key_Return);
 }

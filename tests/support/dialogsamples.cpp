@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Parts that stand in several trees, each under its mark.
+/// A part of several trees, which is inserted at its mark.
 struct Part
 {
     const char* mark;
@@ -49,7 +49,7 @@ struct SampleRow
 
 constexpr SampleRow kSamples[] = {
     {"Dialog/CmdLayer", R"({@layers})", true},
-    // With what an earlier dialog left on the element.
+    // The element contains the remainder of an earlier dialog.
     {"Dialog/CmdLayerState", R"({"LayerStateMgr":[{},{"result":1,@states},{@layers}]})", true},
     {"Dialog/CmdLayerStateNew", R"({@states})", false},
     {"Dialog/CmdLayerStateEdit", R"({"LayerStateMgr":[{},{},{"selectItemName":"A",

@@ -25,7 +25,8 @@ void mergeMember(const vnsi::VnJsonPtr& target, const QString& name, const QJson
         target->SetDataB(key, value.toBool());
         return;
     case QJsonValue::Double:
-        target->SetDataJ(key, fromJson(QJsonArray{value})(0)); // Reads as either integer type.
+        // It can be read as either integer type.
+        target->SetDataJ(key, fromJson(QJsonArray{value})(0));
         return;
     case QJsonValue::String:
         target->SetDataSW(key, vnsi::vnutQStringToOdString(value.toString()));
@@ -80,7 +81,7 @@ void merge(const vnsi::VnJsonPtr& target, const QString& json)
 std::vector<vnsi::VnJsonPtr> containersIn(const vnsi::VnJsonPtr& node)
 {
     std::vector<vnsi::VnJsonPtr> all;
-    QSet<vnsi::IElementValueBase*> known; // Nodes may hang in several places.
+    QSet<vnsi::IElementValueBase*> known; // A node may be in several places.
     const auto add = [&](const vnsi::VnJsonPtr& each) {
         if (each && !known.contains(each.get())) {
             known.insert(each.get());

@@ -21,10 +21,10 @@
 
 namespace {
 
-int posted = 0; // Stands for the queue of events, whose locks the sanitizer does not see in Qt.
+int posted = 0; // Stands for Qt's event queue, whose locks the sanitizer does not see.
 
-/// What was posted, kept until all threads are done: Qt lets whoever is last delete it, which it
-/// finds out by a count that the sanitizer does not see.
+/// Posted objects, kept until all threads are done. Otherwise Qt lets the last thread delete them,
+/// which it finds out with a count that the sanitizer does not see.
 struct Kept
 {
     std::mutex mutex;
@@ -45,8 +45,8 @@ struct Kept
 
 } // namespace
 
-/// In place of Qt's, through which functions are posted to another thread: tells the sanitizer that
-/// what was written before is seen where the function is run.
+/// Replaces the function of Qt that posts functions to another thread. It tells the sanitizer that
+/// earlier writes are visible where the function runs.
 bool QMetaObject::invokeMethodImpl(
     QObject* object, QtPrivate::QSlotObjectBase* slot, Qt::ConnectionType type, void* result)
 {
@@ -63,7 +63,7 @@ using namespace vnsi;
 
 namespace {
 
-/// A way to the interface that breaks down when something is posted.
+/// A proxy that fails when something is posted.
 class BrokenProxy : public VnUiProxy
 {
 public:
@@ -76,7 +76,7 @@ VnUiProxy* brokenProxy = nullptr;
 
 } // namespace
 
-/// In place of the host's, so that it can be broken.
+/// Replaces the host's function, so that a test can make it fail.
 VnUiProxy* vnsi::grUIProxy(const VnDocumentPtr& document)
 {
     using Function = VnUiProxy* (*)(const VnDocumentPtr&);
@@ -88,7 +88,7 @@ VnUiProxy* vnsi::grUIProxy(const VnDocumentPtr& document)
 namespace {
 
 constexpr int kThreads = 4;
-constexpr int kDialogs = 50; ///< Of each thread.
+constexpr int kDialogs = 50; ///< Per thread.
 
 class Application : public QApplication
 {
@@ -129,7 +129,7 @@ VnUiModeDialogBasePtr makeDialog()
     return dialog;
 }
 
-/// Runs `work` on threads of their own while the interface goes on, until all are done.
+/// Runs `work` on several threads and processes events until all are done.
 void runOnThreads(const std::function<void(int thread)>& work)
 {
     std::atomic<int> running{kThreads};
@@ -147,8 +147,8 @@ void runOnThreads(const std::function<void(int thread)>& work)
     kept.drop();
 }
 
-/// No test of Qt's kind: what watches over these runs on a thread of its own, which the sanitizer
-/// objects to.
+/// Ends the program when a condition does not hold. The test framework is not used because it
+/// watches tests from a thread that the sanitizer objects to.
 void require(bool holds, const char* what)
 {
     if (holds)
@@ -171,7 +171,7 @@ void deletesOnInterfaceThread()
     require(host::markedScraps() == 0, "no mark is left");
 }
 
-/// All threads drop the same dialogs: whoever is last has it deleted, once.
+/// All threads release the same dialogs; the last one causes the deletion, exactly once.
 void sharesReferences()
 {
     const host::CommandScope command;

@@ -12,8 +12,8 @@
 #include <map>
 #include <tuple>
 
-/// In place of Qt's: tells the sanitizer that what was written before is seen by who gets the
-/// event.
+/// Replaces Qt's function. It tells the sanitizer that earlier writes are visible to the receiver
+/// of the event.
 void QCoreApplication::postEvent(QObject* receiver, QEvent* event, int priority)
 {
     using Function = void (*)(QObject*, QEvent*, int);
@@ -39,9 +39,10 @@ public:
     }
 };
 
-constexpr int kLines = 70'000; // Three parts.
+constexpr int kLines = 70'000; // They make three parts.
 
-/// Many lines, all over a field, with a block reference in the middle and a ray at the end.
+/// Many lines that are spread over an area, with a block reference in the middle and a ray at the
+/// end.
 QByteArray field()
 {
     QByteArray entities;
@@ -55,7 +56,7 @@ QByteArray field()
     return entities + "0 XLINE 8 A 10 3 20 3 11 1 21 0 ";
 }
 
-/// What is drawn of each entity: the layer and the place.
+/// The layer and the place of what is drawn of each entity.
 using Content = std::map<int, std::tuple<drawing::LayerId, double, double>>;
 
 Content contentOf(const Scene& scene)
@@ -102,11 +103,11 @@ private slots:
         m_drawing.reset();
     }
 
-    /// An edit builds what it touched and nothing else, and comes to what a new build comes to.
+    /// An edit builds only what it affects, with the same result as a complete build.
     void edits_data()
     {
         const Rows<QVector<int>, int> row("moved", "builtAnew");
-        const int first = 1; // The block's line is the entity 0.
+        const int first = 1; // Entity 0 is the line in the block.
         row("nothing", {}, 0);
         row("one of the first part", {first}, 1);
         row("the last one, endless", {first + kLines}, 1);
@@ -135,7 +136,7 @@ private slots:
         QCOMPARE(contentOf(m_scene), contentOf(before));
     }
 
-    /// The drawing may be edited at any time, and a refused edit loses nothing.
+    /// The drawing may be edited at any time, and nothing is lost when an edit is refused.
     void editsWhileBuilding()
     {
         move({1, 2, 3});
@@ -159,8 +160,8 @@ private slots:
         QVERIFY(m_scene.parts.empty());
     }
 
-    /// What is painted on several threads, and only where the view moved to, is what one thread
-    /// paints.
+    /// Painting on several threads, and only the newly visible part, gives the same picture as
+    /// painting everything on one thread.
     void pictures_data()
     {
         const Rows<QPoint, int> row("pan", "notches");
@@ -202,7 +203,7 @@ private slots:
         ScenePainter().paint(painter, ShownScene(m_scene, {m_drawing->layers(), nullptr, true}),
             canvas.view(), anew.rect(), isDropped);
         painter.end();
-        // Lines that the edge of the view cuts off come out a little brighter or darker.
+        // Lines that are cut off by the edge of the view differ slightly in brightness.
         QVERIFY(differentPixels(shown, anew, 64) < 0.001);
     }
 

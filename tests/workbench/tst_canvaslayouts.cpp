@@ -3,8 +3,8 @@
 
 #include <QSignalSpy>
 
-/// What a sheet shows of model space: a red square from 0,0 to 10,10, seen through a viewport of 40
-/// by 40 around 50,50.
+/// What a sheet shows of model space: a red square from (0, 0) to (10, 10), seen through a viewport
+/// of 40 by 40 around (50, 50).
 class CanvasLayoutsTest : public CanvasFixture
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ private slots:
     {
         start();
         m_sketch->header = "9 $TILEMODE 70 0";
-        // Layer A is blue in the viewport with handle 41.
+        // Layer A is blue in the viewport with the handle 41.
         m_sketch->layers = "A 5 2A 102 {ACAD_XDICTIONARY 360 30 102 } 62 1;FRAME 62 3";
         m_sketch->objects =
             "0 DICTIONARY 5 30 100 AcDbDictionary 3 ADSK_XREC_LAYER_COLOR_OVR 360 31 "
@@ -59,7 +59,7 @@ private slots:
             QCOMPARE(colorAt(place), QColor(Qt::black));
     }
 
-    /// Of two viewports the one entered is the one that layers are frozen in.
+    /// Of two viewports, layers are frozen in the one that was entered.
     void doubleClickEnters()
     {
         show(kModel + viewport(20, "5 40 45 20") + viewport(80, "5 41 45 20") + kFrame);
@@ -84,7 +84,7 @@ private slots:
         doubleClick({50, 95});
         QCOMPARE(left.size(), 1);
         QVERIFY(!m_canvas->isInViewport());
-        QVERIFY(!drawing->setCurrentViewport(0)); // Not a viewport.
+        QVERIFY(!drawing->setCurrentViewport(0)); // The entity is not a viewport.
     }
 
 private:

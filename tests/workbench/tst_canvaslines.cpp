@@ -3,7 +3,7 @@
 
 namespace {
 
-/// A line from 0,0 to 100,0 and what frames it, so that the view is 100 units wide.
+/// A line from (0, 0) to (100, 0) with entities that make the view 100 units wide.
 QByteArray line(const QByteArray& codes)
 {
     return "0 LINE 8 A 10 0 20 0 11 100 21 0 " + codes + " ";
@@ -12,13 +12,13 @@ QByteArray line(const QByteArray& codes)
 const QByteArray kPolyline = "0 LWPOLYLINE 8 A 10 0 20 0 ";
 const QByteArray kWide = kPolyline + "70 0 43 10 10 100 20 0 ";
 
-/// Covers from 40,-10 to 60,10.
+/// It covers the area from (40, -10) to (60, 10).
 const QByteArray kWipeout = "0 WIPEOUT 8 A 10 40 20 -10 11 20 21 0 12 0 22 20 13 1 23 1 70 7 71 1 "
                             "91 2 14 -0.5 24 -0.5 14 0.5 24 0.5 ";
 
 } // namespace
 
-/// What is painted along lines: a dash is ink, a gap is none.
+/// Tests what is painted along lines: dashes are ink, gaps are not.
 class CanvasLinesTest : public CanvasFixture
 {
     Q_OBJECT
@@ -33,11 +33,11 @@ private slots:
 
     void dashes_data()
     {
-        // Along y = 0: what is drawn and what is left out, in drawing units.
+        // Positions along y = 0 with and without ink, in drawing units.
         using Places = QVector<double>;
         const Rows<QByteArray, QByteArray, Places, Places> row("header", "entities", "ink", "gaps");
 
-        // Ten repeats of 6 and 4 fill a hundred units: both ends have a dash of 3.
+        // Ten repetitions of 6 and 4 fill a hundred units, so each end has a dash of 3.
         const Places ink{1, 12, 52, 98}, gaps{5, 45, 95};
         row("as the linetype says", "", line("6 DASHED"), ink, gaps);
         row("of the layer", "", line("").replace("8 A", "8 D"), ink, gaps);
@@ -94,7 +94,7 @@ private slots:
     void transparencies_data()
     {
         const Rows<QByteArray, int> row("entity", "red");
-        // As files store it: 0x02000000 + alpha; 0x01000000 is ByBlock.
+        // In the form of files: 0x02000000 + alpha; 0x01000000 is ByBlock.
         const QByteArray half = "440 33554560 ", ofBlock = "440 16777216 ";
         row("its own", kWide + half, 128);
         row("of the layer", kWide, 204);
@@ -116,7 +116,7 @@ private slots:
 
     void widths_data()
     {
-        // How thick the line is at 20 and at 80, in drawing units.
+        // The thickness of the line at 20 and at 80, in drawing units.
         const Rows<QByteArray, double, double> row("entity", "at20", "at80");
         row("constant", kWide, 10.0, 10.0);
         row("tapering", kPolyline + "40 20 41 0 10 100 20 0 ", 16.0, 4.0);
@@ -154,7 +154,7 @@ private:
         return isInk(image.pixelColor(at)) || isInk(image.pixelColor(at - QPoint(0, 1)));
     }
 
-    /// Pixels of ink above and below 0 at `x`.
+    /// The number of ink pixels above and below 0 at `x`.
     int thickness(double x)
     {
         const QImage image = picture();

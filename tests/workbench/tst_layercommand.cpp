@@ -17,7 +17,7 @@ void click(QTableWidget& table, const QString& layer, int column, bool twice = f
 
 } // namespace
 
-/// LAYER from the command line to the saved file, through the real windows.
+/// Tests LAYER from the command line to the saved file, with the real windows.
 class LayerCommandTest : public CommandFixture
 {
     Q_OBJECT
@@ -44,11 +44,11 @@ private slots:
         QVERIFY(layer("走廊吊顶"));
         QCOMPARE(layer("走廊吊顶")->id, drawing().currentLayer());
         QVERIFY(layer("A-DOOR")->properties.off);
-        // Red stands lowest in the tree and highest in the file.
+        // Red is in the lowest byte of the tree's value and in the highest of the file's.
         QCOMPARE(layer("A-WALL")->properties.trueColor, std::optional<quint32>(0x010203));
         QVERIFY(savedBytes() != m_original);
 
-        // The command line has the focus and nothing in it to undo.
+        // The command line has the focus and contains nothing to undo.
         auto& input = child<QLineEdit>(*m_window, "commandInput");
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
@@ -101,7 +101,7 @@ private slots:
             click(layers, "A-DOOR", kName, true);
             click(layers, "A-WALL", kName, true);
             layers.selectRow(rowOf(layers, "X"));
-            press(dialog, "newLayerButton"); // Like the layer whose colour cannot be had.
+            press(dialog, "newLayerButton"); // The model is the layer whose colour was refused.
             press(dialog, "okButton");
         }});
         QCOMPARE(drawing().layer(door)->properties.name, "X");
@@ -118,7 +118,7 @@ private slots:
     {
         run("layer", {[](QDialog& dialog) {
             drawColumn(table(dialog), kName, 234);
-            press(dialog, "cancelButton"); // No request goes out.
+            press(dialog, "cancelButton"); // No request is sent.
         }});
         run("layer", {[](QDialog& dialog) {
             QCOMPARE(table(dialog).columnWidth(kName), 234);

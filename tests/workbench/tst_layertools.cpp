@@ -14,7 +14,7 @@
 using drawing::Layer;
 using drawing::LayerId;
 
-/// LAYDEL, LAYMCH and LAYMRG from the command line to the saved file, through the real windows.
+/// Tests LAYDEL, LAYMCH and LAYMRG from the command line to the saved file, with the real windows.
 class LayerToolsTest : public CommandFixture
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ private slots:
         const std::vector<int> selection = m_window->canvas()->selection();
         QCOMPARE(child<QLabel>(*m_window, "selectionField").text(),
             QString("已选择 %1 个对象").arg(selection.size()));
-        // The dialog takes no name with a blank in it.
+        // The dialog refuses names that contain blanks.
         const QString target = used().filter(QRegularExpression("^\\S+$")).first();
         run("laymch", {choose({target})});
         const LayerId id = layer(target)->id;
@@ -124,8 +124,8 @@ private slots:
         QVERIFY(!drawing().canUndo());
     }
 
-    /// A target keeps its mark when the question is declined; the command must not take it for the
-    /// one that was agreed to.
+    /// A target keeps its mark when the question is declined. The command must not mistake it for
+    /// the accepted one.
     void declinedTargetIsAskedAbout()
     {
         const QStringList names = used();
@@ -165,7 +165,7 @@ private:
             row(path, path);
     }
 
-    /// Layers with something on them that may go.
+    /// The layers that hold entities and may be deleted.
     QStringList used() const
     {
         QStringList names;
@@ -182,7 +182,7 @@ private:
     }
     QString statusText() const { return m_window->statusBar()->currentMessage(); }
 
-    /// Chooses the items of these names and presses OK.
+    /// Selects the items with these names and presses OK.
     static ModalDriver::Step choose(const QStringList& names, const char* button = "okButton")
     {
         return closing([names, button](QDialog& dialog) {
@@ -202,8 +202,8 @@ private:
         m_window->canvas()->setSelection(all);
     }
 
-    /// What an independent reader finds has no entity on these layers and no new error; then undo
-    /// brings every byte back.
+    /// An independent reader must find no entity on these layers and no new error; then undo must
+    /// restore every byte.
     void checkAndUndo(const QStringList& gone)
     {
         if (readback::isInstalled()) {

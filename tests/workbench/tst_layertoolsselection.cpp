@@ -12,9 +12,9 @@ namespace {
 const Qt::KeyboardModifier kNone = Qt::NoModifier;
 const Qt::KeyboardModifier kAdds = Qt::ControlModifier;
 
-// The entities by their indices, on a field of 100 by 60: two lines one above the other, a block
-// reference, a fill with a line on it, a text, a polyline with a gap to the lines. Two are in the
-// block.
+// The entities by their indices, in an area of 100 by 60: two lines, one above the other, a block
+// reference, a fill with a line on it, a text, and a polyline with some distance to the lines. Two
+// of the entities are in the block.
 constexpr char kEntities[] = "0 LINE 8 A 10 0 20 0 11 100 21 0 "
                              "0 LINE 8 B 10 0 20 10 11 100 21 10 "
                              "0 INSERT 8 A 2 U 10 40 20 30 "
@@ -26,7 +26,7 @@ enum Index { kLow = 2, kHigh, kReference, kFill, kOnFill, kText };
 
 } // namespace
 
-/// What clicks and windows on the canvas select.
+/// Tests what clicks and windows on the canvas select.
 class SelectionTest : public CanvasFixture
 {
     Q_OBJECT
@@ -106,7 +106,7 @@ private slots:
         QCOMPARE(changed.last().value(0).toInt(), 2);
         click(at(20, 10), kAdds);
         QCOMPARE(m_canvas->selection(), Selection{kLow});
-        // A window takes nothing out.
+        // A window does not remove entities.
         drag(at(-2, -2), at(102, 20), kAdds);
         QCOMPARE(m_canvas->selection(), (Selection{kLow, kHigh}));
         click(at(30, 20), kAdds);
@@ -173,7 +173,7 @@ private:
         move(to);
         QTest::mouseRelease(m_canvas.get(), Qt::LeftButton, modifier, to);
     }
-    /// "A off", "B frozen", "A locked"; empty for nothing.
+    /// The changes "A off", "B frozen" or "A locked"; empty for none.
     void changeLayer(const QString& change)
     {
         const QString what = change.section(' ', 1);

@@ -33,7 +33,7 @@ void selectTarget(QDialog& dialog, const QString& name)
 
 } // namespace
 
-/// LAYTRANS through the real windows, down to the saved file.
+/// Tests LAYTRANS with the real windows, including the saved file.
 class LayerTranslateCommandTest : public CommandFixture
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private slots:
     {
         start({"Dialog/CmdLaytrans", "Dialog/CmdLaytransNewEdit", "Dialog/CmdLaytransSetting"});
         hostextras::removeKey(*vnsi::vn_user_config(L"layertransset_dialog"), "LtransSettingDates");
-        open("floor.dxf", m_original); // The log goes beside it.
+        open("floor.dxf", m_original); // The log is written beside it.
     }
 
     void cleanup() { stop(); }
@@ -51,7 +51,7 @@ private slots:
     void everythingInOneRun()
     {
         const QImage whole = picture();
-        QHash<QString, QString> targets; // By source, in small letters.
+        QHash<QString, QString> targets; // By source, in lower case.
         const auto setOptions = [](QDialog& settings) {
             for (const char* option : {"optionBox0", "optionBox3", "optionBox4", "optionBox5"})
                 child<QCheckBox>(settings, option).setChecked(true);
@@ -65,10 +65,10 @@ private slots:
         const auto translate = [&](QDialog& dialog) {
             selectTexts(list(dialog, "fromList"), {"A-EQPM", "墙体-隔墙"});
             press(dialog, "settingButton");
-            const QImage two = picture(); // The option shows them at once.
+            const QImage two = picture(); // The option shows them immediately.
             load(dialog, {kStandard, kStandard});
             QCOMPARE(list(dialog, "toList").count(), 22);
-            QCOMPARE(table(dialog).rowCount(), 18); // Those saved in the file.
+            QCOMPARE(table(dialog).rowCount(), 18); // The mappings saved in the file.
             press(dialog, "mapSameButton");
             QCOMPARE(table(dialog).rowCount(), 26);
             selectTexts(list(dialog, "fromList"), {"家具-办公桌", "家具-座椅"});
@@ -120,7 +120,7 @@ private slots:
         QCOMPARE(differentPixels(picture(), whole), 0.0);
     }
 
-    /// Each says what cannot be done and why, and the dialog stays.
+    /// Each refusal says what is not possible and why, and the dialog stays open.
     void refusals()
     {
         writtenFile(inFolder("text.dxf"), "text");
@@ -131,7 +131,7 @@ private slots:
             load(dialog, {inFolder("text.dxf"), kStandard, inFolder("missing.dwg")});
             const QString unread = message();
             QVERIFY(unread.contains("text.dxf") && unread.contains("missing.dwg"));
-            QCOMPARE(list(dialog, "toList").count(), 22); // The rest is loaded.
+            QCOMPARE(list(dialog, "toList").count(), 22); // The other files are loaded.
             QCOMPARE(table(dialog).rowCount(), 18);
             press(dialog, "settingButton");
             QVERIFY(message().contains("不是六项"));
@@ -148,14 +148,15 @@ private slots:
             for (const char* name : {"new.dws", "new.DWG", "new.dwt", "floor.dws"}) {
                 save(name, vnsi::kVnAnswerNo);
                 const QString refusal = message();
-                // The drawing's own name is not offered.
+                // The drawing's own name is not suggested.
                 QVERIFY(refusal.contains(name) && refusal.contains(".dxf"));
                 QVERIFY(refusal.contains("new.dxf") || refusal.contains("floor-图层标准.dxf"));
                 QVERIFY(!QFile::exists(inFolder(name)) && !QFile::exists(inFolder("new.dxf")));
             }
             save("new.dws", vnsi::kVnAnswerYes);
             QVERIFY(QFile::exists(inFolder("new.dxf")) && !message().contains("将被替换"));
-            QMetaObject::invokeMethod(&dialog, "slot_m_pbMapSameClicked"); // There is news to save.
+            // There is something new to save.
+            QMetaObject::invokeMethod(&dialog, "slot_m_pbMapSameClicked");
             save("new.dws", vnsi::kVnAnswerNo);
             QVERIFY(message().contains("将被替换"));
             QMetaObject::invokeMethod(&dialog, "slot_MenuMapListAllDelete");
@@ -165,15 +166,15 @@ private slots:
             QVERIFY(message().contains("还没有图层映射"));
             QVERIFY(dialog.isVisible());
 
-            // Its name is no hindrance here.
+            // The name is no problem for loading.
             QVERIFY(QFile::copy(kStandard, inFolder("standard.dws")));
             load(dialog, {inFolder("standard.dws"), m_path});
-            QCOMPARE(table(dialog).rowCount(), 18); // What was deleted comes back.
+            QCOMPARE(table(dialog).rowCount(), 18); // The deleted mappings are loaded again.
             const auto mark = [&](const char* name) {
                 const auto* item = itemOf(list(dialog, "toList"), name);
                 return item->icon().pixmap(16).toImage();
             };
-            // Used in the file they came from, or not.
+            // Depending on whether they are used in the file that they came from.
             QVERIFY(mark("墙体-隔墙") != mark("备用-1"));
         };
         run("laytrans",

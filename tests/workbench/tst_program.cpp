@@ -17,7 +17,7 @@ struct Run
     QString error;
 };
 
-/// Runs the program where there is no display.
+/// Runs the program without a display.
 Run run(const QStringList& arguments)
 {
     QProcess process;
@@ -41,7 +41,7 @@ class ProgramTest : public QObject
 private slots:
     void exitCodes_data()
     {
-        // Said on standard output with code 0, else on standard error.
+        // The text is on standard output with code 0, otherwise on standard error.
         const Rows<QStringList, int, QString> row("arguments", "code", "said");
         const QString missing = m_sketch.path("missing.dxf");
         const QString drawing = m_sketch.write("0 LINE 8 A 10 0 20 0 11 1 21 0");

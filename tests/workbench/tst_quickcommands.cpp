@@ -12,13 +12,13 @@ using drawing::LayerId;
 namespace {
 
 constexpr char kLayers[] = "A 62 1;B 62 5;C 62 3";
-// The entities of A, B and C.
+// The entities on A, B and C.
 constexpr char kEntities[] = "0 LINE 8 A 10 0 20 0 11 1 21 0 0 LINE 8 B 10 0 20 0 11 1 21 0 "
                              "0 LINE 8 C 10 0 20 0 11 1 21 0 ";
 
 } // namespace
 
-/// The layer commands without a dialog, one after the other on one drawing.
+/// Runs the layer commands without a dialog one after the other on one drawing.
 class QuickCommandsTest : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private slots:
     void commands_data()
     {
         const Rows<QString, QString> row("commands", "layers");
-        // A layer: its name, then - off, * frozen, ! locked, > current.
+        // A layer is its name followed by - off, * frozen, ! locked, > current.
         row("nothing yet", "", "0> A B C");
         row("freeze", "LAYFRZ:AC", "0> A* B C*");
         row("what is picked", "LAYFRZ:?B", "0> A B* C");
@@ -83,7 +83,7 @@ private slots:
         QVERIFY(m_picks == (commands.contains('?') ? 1 : 0));
     }
 
-    /// What cannot be done is said, what can is done.
+    /// What cannot be done is reported, and the rest is done.
     void refusals()
     {
         run("LAYMCUR:A");
@@ -109,7 +109,7 @@ private slots:
         QCOMPARE(m_drawing->undoName(), QStringLiteral("更改到当前图层"));
     }
 
-    /// The others are shown faded as long as they are locked for it.
+    /// The other layers are faded while isolation keeps them locked.
     void fades()
     {
         run("lock");
@@ -126,8 +126,8 @@ private slots:
     }
 
 private:
-    /// "COMMAND:layers of the objects selected", "?" in front: picked; "undo"; "rename", of A;
-    /// "lock", to isolate so.
+    /// Runs "COMMAND:layers of the selected objects" (a "?" before the layers means that they are
+    /// picked), "undo", "rename" (of A), or "lock" (isolates by locking).
     void run(const QString& word)
     {
         if (word == "undo")
