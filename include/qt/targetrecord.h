@@ -77,7 +77,7 @@ public:
     }
 
     QString plotStyle() const { return text(transkey::kToPlotStyle); }
-    /// The plot style in the user's language; styles of the drawing's own go by their names.
+    /// The plot style in the user's language. Styles that a drawing defines keep their names.
     QString plotStyleText() const { return plotStyleText(plotStyle()); }
     static QString plotStyleText(const QString& style)
     {

@@ -22,7 +22,7 @@ inline constexpr char kToTransparency[] = "transToTransparency";
 inline constexpr char kToPlotStyle[] = "transToprintt";
 inline constexpr char kToUsed[] = "transTobUsed";
 
-/// The plot style of a layer without one of its own, as records name it in every language.
+/// The name in records, whatever the language, of the plot style of layers without another one.
 inline constexpr char kNormalPlotStyle[] = "普通";
 
 // The keys of a mapping.

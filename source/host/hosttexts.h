@@ -4,8 +4,8 @@
 
 namespace host {
 
-/// Where the host's texts are translated outside of its windows, which have a `tr` of their own:
-/// `Texts::tr("...")`, and `Texts::tr(row.text)` for the texts of tables, which are marked with
+/// The translation context of host texts outside of windows, which have a `tr` of their own. Use
+/// `Texts::tr("...")`, or `Texts::tr(row.text)` for texts in tables, which are marked with
 /// QT_TRANSLATE_NOOP("host", "...").
 class Texts
 {

@@ -14,7 +14,7 @@ using commandline::wordsOf;
 /// The placeholder for the option's value in help, such as "FILE"; for a choice its words,
 /// separated by bars. Empty for flags.
 QString valueText(const OptionRow& row);
-/// Options in the language that texts are shown in.
+/// Translates the texts of options to the user's language.
 OptionText optionText(const OptionRow& row);
 std::vector<OptionText> optionTexts(const std::vector<OptionRow>& rows);
 

@@ -2,16 +2,16 @@
 
 #include <QString>
 
-/// Where the program finds what it does not carry in itself: by its own place, so that the folder
-/// it was built or installed in can be moved.
+/// Finds the files that belong to the program relative to the program itself, so that its build or
+/// installation folder can be moved.
 namespace installation {
 
-/// The layer module's library. `named` by the user counts first, then the environment's
-/// LAYERBENCH_MODULE; otherwise the one in the plug-in folder, or the one beside the program. The
-/// last is returned also where there is none.
+/// The path of the layer module's library. The user's choice `named` takes precedence, then the
+/// environment variable LAYERBENCH_MODULE, then the library in the plug-in folder, then the one
+/// beside the program, which need not exist.
 QString modulePath(const QString& named);
 
-/// The first of the sample drawings; empty where none are installed.
+/// The path of the first sample drawing; empty when none is installed.
 QString sampleDrawing();
 
 } // namespace installation

@@ -69,8 +69,8 @@ bool isRuleFile(const QString& path);
 /// Reads a rule file (JSON, see docs/layer-rules.schema.json). Refuses invalid keys and values and
 /// names them.
 drawing::Expected<void> readRuleFile(const QString& path, LayerRules& rules);
-/// Reads standards, drawings and rule files, into one set of rules. Layer 0 and Defpoints, which no
-/// drawing can do without, are passed over by rules on names.
+/// Reads several standards, drawings or rule files, into one set of rules. Rules about names ignore
+/// layer 0 and Defpoints, because no drawing can do without them.
 drawing::Expected<LayerRules> readRules(const QStringList& paths);
 /// The files that a rule file includes, directly or indirectly; empty for other files.
 QStringList rulesBehind(const QString& path);

@@ -4,10 +4,10 @@
 
 namespace vnsi {
 
-/// Where the module's texts are translated outside of its dialogs, which have a `tr` of their own:
-/// `Texts::tr("...")`, and `Texts::tr(row.text)` for the texts of tables, which are marked with
-/// QT_TRANSLATE_NOOP("cmdlayerui", "..."). The Chinese of the sources is what a host without a
-/// translator shows.
+/// The translation context of module texts outside of dialogs, which have a `tr` of their own. Use
+/// `Texts::tr("...")`, or `Texts::tr(row.text)` for texts in tables, which are marked with
+/// QT_TRANSLATE_NOOP("cmdlayerui", "..."). A host without a translator shows the Chinese texts of
+/// the sources.
 class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(cmdlayerui)
