@@ -67,7 +67,7 @@ public:
     /// equals the original bytes, the edit is removed. Returns false and changes nothing when the
     /// range crosses the edge of an earlier replacement or lies inside a larger one.
     bool replace(const ByteRange& range, const QByteArray& text);
-    /// Removes the replacement of the range.
+    /// Puts the original bytes of the range back.
     bool restore(const ByteRange& range);
     /// Replaces the range by `text`, or inserts `text` when the range is empty.
     bool overwrite(const ByteRange& range, quint32 order, const QByteArray& text);
