@@ -588,8 +588,8 @@
         <translation>The layer state “%1” was restored, except for:</translation>
     </message>
     <message>
-        <source>图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于“%2”的当前视口；画布不显示视口替代。</source>
-        <translation>Color, linetype, lineweight and transparency of the layer state “%1” were applied as overrides to the current viewport of “%2”; the canvas does not show viewport overrides.</translation>
+        <source>图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于“%2”的当前视口。</source>
+        <translation>Color, linetype, lineweight and transparency of the layer state “%1” were applied as overrides to the current viewport of “%2”.</translation>
     </message>
     <message>
         <source>布局</source>

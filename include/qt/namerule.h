@@ -67,11 +67,6 @@ inline bool holdsForbiddenCharacter(const QString& name)
     return nameFaults(name).testFlag(NameFault::ForbiddenCharacter);
 }
 
-inline bool isTooLongForName(const QString& name)
-{
-    return nameFaults(name).testFlag(NameFault::TooLong);
-}
-
 /// Whether two names are the same name. Letter case is ignored.
 inline bool isSameName(const QString& a, const QString& b)
 {

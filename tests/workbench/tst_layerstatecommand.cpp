@@ -254,7 +254,7 @@ private slots:
             press(manager, "restoreButton");
         });
         QCOMPARE(properties("A-DOOR").colorIndex, color);
-        QVERIFY(m_window->findChild<CommandLine*>()->echo().contains("画布不显示"));
+        QVERIFY(m_window->findChild<CommandLine*>()->echo().contains("已作为视口替代"));
         QCOMPARE(savedBytes().count("{ADSK_LYR_COLOR_OVERRIDE"), 1);
     }
 

@@ -42,9 +42,6 @@ public:
     Spelling spelling() const { return m_spelling; }
     bool isCutOff() const { return m_last == ScanResult::CutOff; }
     bool broken() const { return m_last != ScanResult::Tag && m_last != ScanResult::End; }
-
-    /// Moves back to `tag`, which must have been read from the same bytes; it is read next.
-    void backTo(const Tag& tag) { m_next = tag.first; }
     /// The file offset of the tag that `next` reads next.
     qint64 offset() const { return m_next - m_origin; }
     /// The file offset after the last byte.

@@ -292,7 +292,7 @@ void LayerStateCommand::tellOfOverrides(const LayerState& state)
         return;
     const QString& layout = drawing().layouts()[static_cast<size_t>(drawing().shownLayout())].name;
     m_context->say(Texts::tr("图层状态“%1”的颜色、线型、线宽和透明度已作为视口替代应用于“%2”的当前"
-                             "视口；画布不显示视口替代。")
+                             "视口。")
                        .arg(state.name, layout.isEmpty() ? Texts::tr("布局") : layout));
 }
 

@@ -73,12 +73,6 @@ inline VnJsonPtr copyOf(const VnJsonPtr& node)
     return node ? hostextras::copyOf(node) : VnJsonPtr();
 }
 
-/// Whether the key holds an integer, including 0.
-inline bool holdsInt(const VnJsonPtr& node, const char* key)
-{
-    return node && node->GetDataI(key, 0) == node->GetDataI(key, 1);
-}
-
 inline void removeKey(IElementValueBase& node, const char* key)
 {
     hostextras::removeKey(node, key);
