@@ -81,6 +81,18 @@ QItemSelection selectedRows(const QTableWidget& table, const std::vector<LayerRe
     return selection;
 }
 
+/// So that white is seen on white, and black on a dark ground.
+void frameSwatch(QPainter& painter, const QRect& place)
+{
+    QRect square(0, 0, kSwatchSize, kSwatchSize);
+    square.moveCenter(place.center());
+    painter.save();
+    painter.setPen(Qt::gray);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(square.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
 /// Installs the delegate, which the table owns because it must outlive the object that fills the
 /// table.
 void prepareDelegate(QTableWidget& table)
@@ -122,7 +134,11 @@ void LayerCellDelegate::paint(
     const QRect place = QStyle::alignedRect(cell.direction, Qt::AlignCenter, content, cell.rect);
     const QRect iconPlace = QStyle::alignedRect(
         cell.direction, Qt::AlignLeft | Qt::AlignVCenter, QSize(iconWidth, place.height()), place);
-    icon.paint(painter, iconPlace, Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
+    const bool isSwatch = !text.isEmpty(); // No other cell has both in its middle.
+    icon.paint(painter, iconPlace, Qt::AlignCenter,
+        isSelected && !isSwatch ? QIcon::Selected : QIcon::Normal);
+    if (isSwatch)
+        frameSwatch(*painter, iconPlace);
     style->drawItemText(painter, place,
         QStyle::visualAlignment(cell.direction, Qt::AlignRight | Qt::AlignVCenter), cell.palette,
         true, fitting, isSelected ? QPalette::HighlightedText : QPalette::Text);
