@@ -276,6 +276,10 @@ private slots:
         row("both references hide", "0 INSERT 2 V 10 0 20 0 8 A ", insert + "B", "A by A [B A]");
         row("ByBlock in model space is the foreground", "", "0 LINE 8 A 62 0" + line,
             "A index 7 []");
+        row("a line beside others takes its style's", "",
+            "0 MLINE 8 A 340 ABCD 71 1 11 0 21 0 12 1 22 0 13 0 23 1 74 1 41 0 75 0 "
+            "11 9 21 0 12 1 22 0 13 0 23 1 74 1 41 0 75 0",
+            "A index 4 []");
         row("an attribute on layer 0 goes with its reference", "",
             insert + "B 66 1 0 ATTRIB 8 0 10 0 20 0 40 1 1 text 2 TAG 70 0 0 SEQEND 8 0",
             "B by B [B]");
@@ -290,6 +294,7 @@ private slots:
         sketch.blocks = block("U", inBlock) + block("V", "0 LINE 8 0 62 0 10 0 20 0 11 1 21 0 ");
         if (look == "A by A [B A]")
             sketch.blocks = block("U", inBlock) + block("V", "0 LINE 8 0 10 0 20 0 11 1 21 0 ");
+        sketch.objects = "0 MLINESTYLE 5 ABCD 2 S 70 0 62 5 71 1 49 0 62 4 6 BYLAYER ";
         const auto drawing = sketch.open(insert);
         QVERIFY(drawing);
         const Geometry geometry = buildGeometry(*drawing).value();
@@ -419,6 +424,8 @@ private slots:
         row("stands on its foot", mtext + "71 9", {1, 7, 3, 0}, H::Right);
         row("direction after angle", mtext + "71 7 50 30 11 0 21 1", {-4, 2, 0, 3}, H::Left);
         row("as wide and slanted as its style", mtext + "71 7 7 wide", {1, 7, 6, 0}, H::Left);
+        row("the first of two columns, from the right",
+            mtext + "71 1 101 Embedded~Object 71 2 72 2 44 10 45 2 74 1", {13, -1, 3, 0}, H::Left);
         row("cells of a tolerance", "0 TOLERANCE 8 A 10 1 20 1 1 {\\Fgdt;j}%%v0.1",
             {1 + 1.75 / 2, 0.5, 1, 0}, H::Center);
         row("angle after direction", mtext + "71 7 11 0 21 1 50 180", {1, -3, -3, 0}, H::Left);

@@ -11,6 +11,7 @@
 #include "geometrytext.h"
 #include "geometrytolerance.h"
 #include "layers/colorindex.h"
+#include "textcolumns.h"
 
 #include <QRegularExpression>
 
@@ -634,8 +635,44 @@ void EntityReader::shape()
 
 void EntityReader::multiLine()
 {
-    for (const Path& element : multiLineElements(m_tags))
-        addShape(Primitive::Shape::Lines, element);
+    const std::vector<Path> elements = multiLineElements(m_tags);
+    const std::vector<EntityStyle> styles = multiLineStyles();
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        Definition::Shape* const shape = addShape(Primitive::Shape::Lines, elements[i]);
+        if (shape && i < styles.size())
+            shape->style = styles[i];
+    }
+}
+
+/// What the lines look like by their style, which leaves to the entity what it does not say.
+std::vector<EntityStyle> EntityReader::multiLineStyles()
+{
+    constexpr int kStyle = 340;
+    constexpr int kOffset = 49; ///< Begins what is said of a line.
+    const Tag* pointer = m_tags.find(kStyle);
+    const ObjectPlace* object = pointer ? m_source.file.objects().find(pointer->handle()) : nullptr;
+    std::vector<EntityStyle> styles;
+    if (!object)
+        return styles;
+    OwnTags tags(m_source.file.tags(object->range));
+    Tag tag;
+    while (tags.next(tag)) {
+        if (tag.code == kOffset)
+            styles.push_back(style());
+        if (styles.empty())
+            continue;
+        EntityStyle stated;
+        takeStyle(stated, tag);
+        const bool isColored =
+            stated.color == EntityStyle::Color::Index || stated.color == EntityStyle::Color::True;
+        if (isColored) {
+            styles.back().color = stated.color;
+            styles.back().value = stated.value;
+        }
+        if (stated.linetype.source == EntitySetting::Source::Own)
+            styles.back().linetype = stated.linetype;
+    }
+    return styles;
 }
 
 /// Draws a table by its block, which contains the whole picture.
@@ -799,8 +836,35 @@ void EntityReader::mtext()
     place = Transform3::translation(m_tags.point(10)) * place;
     const auto attachment = static_cast<int>(std::clamp<qint64>(m_tags.integer(71, 1), 1, 9)) - 1;
     const TextStyle letters = textStyle();
-    addLines(plainLines(value, m_tags.number(41) / (height * letters.widthFactor)), place,
-        {height, m_tags.number(44, 1), attachment % 3, attachment / 3, letters});
+    const TextColumns columns =
+        readTextColumns(m_source.file.tags(m_source.entities[m_index].range()));
+    const double width = columns.count > 1 ? columns.width : m_tags.number(41);
+    const QStringList lines = plainLines(value, width / (height * letters.widthFactor));
+    const Paragraph paragraph{
+        height, m_tags.number(44, 1), attachment % 3, attachment / 3, letters};
+    if (columns.count > 1)
+        addColumns(lines, columns, place, paragraph);
+    else
+        addLines(lines, place, paragraph);
+}
+
+/// All hang from where the longest one begins.
+void EntityReader::addColumns(const QStringList& lines, const TextColumns& columns,
+    const Transform3& place, Paragraph paragraph)
+{
+    const double spacing = paragraph.height * kLineDistance * paragraph.spacing;
+    const std::vector<QStringList> parts = columns.split(lines, spacing);
+    int longest = 0;
+    for (const QStringList& part : parts)
+        longest = std::max(longest, part.size());
+    const double top = (spacing * (longest - 1) + paragraph.height) * paragraph.row / 2;
+    paragraph.row = 0;
+    const double shift =
+        (columns.width - columns.totalWidth()) * paragraph.column / 2; // Of the first one's place.
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const double left = columns.leftOf(static_cast<int>(i)) + shift;
+        addLines(parts[i], place * Transform3::translation({left, top, 0}), paragraph);
+    }
 }
 
 void EntityReader::addLines(

@@ -11,6 +11,7 @@
 namespace drawing {
 
 class MultiLeader;
+struct TextColumns;
 struct TextPiece;
 
 /// Converts entities to the shapes, texts and block references that draw them.
@@ -82,12 +83,15 @@ private:
     Transform3 plane() const;
     bool addText(const QString& value, TextRun::Vertical vertical);
     void addLines(const QStringList& lines, const Transform3& place, const Paragraph& paragraph);
+    void addColumns(const QStringList& lines, const TextColumns& columns, const Transform3& place,
+        Paragraph paragraph);
     void addLine(const QString& line, const Transform3& place, const Paragraph& paragraph);
     void addStack(const TextPiece& piece, const Transform3& place, Paragraph paragraph);
     void addPiece(const QString& piece, const Transform3& place, const Paragraph& paragraph);
     void addTextFrame(const QStringList& lines, const Transform3& place, double unit, double height,
         const MultiLeader& leader);
     bool readsWipeoutFrames() const;
+    std::vector<EntityStyle> multiLineStyles();
     void addArrow(const Path& path, double size);
     void addEndless(bool bothWays);
     void addFrame(const Vec3& corner, const Vec3& right, const Vec3& up);
