@@ -367,6 +367,17 @@ Expected<void> Drawing::showLayout(int layout)
     return readyToEdit().map([&] { d->data.layouts.showLayout(d->data.file, layout); });
 }
 
+Expected<void> Drawing::setViewportView(int viewport, const ViewportView& view)
+{
+    return readyToEdit().and_then([&]() -> Expected<void> {
+        const Entity& entity = entities()[static_cast<size_t>(viewport)];
+        const bool isOne = entity.kind == EntityKind::Viewport && !entity.removed;
+        if (!isOne || !writeView(d->data.file, entity, view))
+            return refusal(Texts::tr("不能更改此视口中的视图。"));
+        return {};
+    });
+}
+
 Expected<void> Drawing::setFrozenInViewport(const std::vector<LayerId>& layers)
 {
     return readyToEdit().and_then([&] { return d->data.viewports.setFrozen(layers); });

@@ -12,6 +12,7 @@
 #include "layers/layouts.h"
 #include "layers/linetypedefinition.h"
 #include "layers/viewportlayers.h"
+#include "layers/viewportview.h"
 #include "states/layerstate.h"
 
 #include <QObject>
@@ -195,6 +196,9 @@ public:
     Expected<void> setModelSpace(bool modelSpace);
     /// Shows the layout with this index. The file keeps that a layout is shown, but not which one.
     Expected<void> showLayout(int layout);
+    /// Has a viewport look elsewhere. Refuses what is no viewport, and those of old files, whose
+    /// view is kept in another way.
+    Expected<void> setViewportView(int viewport, const ViewportView& view);
     /// Freezes exactly these layers in the current viewport. Refuses when `checkViewport` does.
     Expected<void> setFrozenInViewport(const std::vector<LayerId>& layers);
     /// Overrides properties (`LayerOverrides::kProperties`) of layers in the current viewport only.

@@ -236,6 +236,7 @@ void MainWindow::connectParts()
     connect(m_canvas, &Canvas::cursorMoved, m_status, &StatusFields::showCursor);
     connect(m_canvas, &Canvas::selectionChanged, m_status, &StatusFields::showSelection);
     connect(m_canvas, &Canvas::viewportEntered, this, &MainWindow::enterViewport);
+    connect(m_canvas, &Canvas::viewportMoved, this, &MainWindow::keepViewportView);
     connect(m_canvas, &Canvas::viewportLeft, m_status, [this] { m_status->showViewport(false); });
     connect(m_status, &StatusFields::spaceChosen, this, &MainWindow::showSpace);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::runCommand);
@@ -269,6 +270,7 @@ bool MainWindow::isBusy() const
 
 void MainWindow::openFile(const QString& path, const drawing::OpenOptions& options)
 {
+    m_canvas->settleViewport();
     if (!isBusy())
         m_session->open(path, options);
 }
@@ -321,6 +323,15 @@ void MainWindow::enterViewport(int entity)
         return m_canvas->leaveViewport();
     drawing()->setCurrentViewport(entity);
     m_status->showViewport(true);
+}
+
+void MainWindow::keepViewportView(const drawing::SheetViewport& viewport)
+{
+    if (isBusy())
+        return;
+    drawing::DrawingStep step(*drawing(), tr("移动视口中的视图"));
+    if (drawing()->setViewportView(viewport.entity, viewport.view))
+        step.commit();
 }
 
 void MainWindow::showLayers()
@@ -411,6 +422,7 @@ void MainWindow::runLayerCommand(const CommandRow& row, const std::vector<drawin
 /// Nothing else can be done to the drawing until `endEdit`.
 void MainWindow::beginEdit()
 {
+    m_canvas->settleViewport();
     m_commandRunning = true;
     updateState();
     m_sinceRest.start();
@@ -519,6 +531,7 @@ void MainWindow::reopenInCodePage()
 
 void MainWindow::save()
 {
+    m_canvas->settleViewport();
     m_session->save(drawing()->path());
 }
 
@@ -526,6 +539,7 @@ void MainWindow::saveAs()
 {
     const QString path =
         QFileDialog::getSaveFileName(this, tr("图形另存为"), drawing()->path(), fileFilter());
+    m_canvas->settleViewport();
     if (!path.isEmpty())
         m_session->save(path);
 }
@@ -617,6 +631,7 @@ void MainWindow::updateState()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    m_canvas->settleViewport();
     event->setAccepted(!m_commandRunning && m_session->confirmClose());
 }
 

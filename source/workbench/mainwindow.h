@@ -87,6 +87,7 @@ private:
     void endBuilding(bool isTruncated);
     int shownSpace() const;
     void enterViewport(int entity);
+    void keepViewportView(const drawing::SheetViewport& viewport);
     void showLayers();
     void showEntities(const std::vector<int>& entities, bool intoView);
     void reportRefusals(QStringList sentences);

@@ -3,6 +3,8 @@
 
 #include <QSignalSpy>
 
+Q_DECLARE_METATYPE(drawing::SheetViewport)
+
 /// What a sheet shows of model space: a red square from (0, 0) to (10, 10), seen through a viewport
 /// of 40 by 40 around (50, 50).
 class CanvasLayoutsTest : public CanvasFixture
@@ -10,6 +12,8 @@ class CanvasLayoutsTest : public CanvasFixture
     Q_OBJECT
 
 private slots:
+    void initTestCase() { qRegisterMetaType<drawing::SheetViewport>(); }
+
     void init()
     {
         start();
@@ -85,6 +89,61 @@ private slots:
         QCOMPARE(left.size(), 1);
         QVERIFY(!m_canvas->isInViewport());
         QVERIFY(!drawing->setCurrentViewport(0)); // The entity is not a viewport.
+    }
+
+    void worksInAViewport_data()
+    {
+        const Rows<QByteArray, QPoint, int, bool> row("codes", "drag", "notches", "moves");
+        row("zooms", "5 40 45 20", QPoint(), 2, true);
+        row("pans", "5 40 45 20", QPoint(30, 20), 0, true);
+        row("pans and zooms, twisted", "5 40 45 20 51 30", QPoint(30, 20), -1, true);
+        row("locked", "5 40 45 20 90 16384", QPoint(30, 20), 2, false);
+    }
+
+    /// What zooms and pans does so in the viewport, and what is clicked is what shows there.
+    void worksInAViewport()
+    {
+        QFETCH(QByteArray, codes);
+        QFETCH(QPoint, drag);
+        QFETCH(int, notches);
+        QFETCH(bool, moves);
+        show(kModel + viewport(50, codes + " 12 0 22 0 ") + kFrame);
+        const CanvasView before = m_canvas->view();
+        const QPoint center = before.toScreen({50, 50}).toPoint();
+        QTest::mouseClick(m_canvas.get(), Qt::LeftButton, {}, center);
+        QVERIFY(m_canvas->selection().empty());
+        doubleClick({50, 50});
+        QTest::mouseClick(m_canvas.get(), Qt::LeftButton, {}, center);
+        QCOMPARE(m_canvas->selection(), std::vector<int>{0});
+        QTest::mouseClick(m_canvas.get(), Qt::LeftButton, {}, {3, 3});
+        QVERIFY(m_canvas->selection().empty());
+
+        QSignalSpy moved(m_canvas.get(), &Canvas::viewportMoved);
+        QTest::mousePress(m_canvas.get(), Qt::MiddleButton, {}, center);
+        QMouseEvent move(
+            QEvent::MouseMove, center + drag, Qt::NoButton, Qt::MiddleButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_canvas.get(), &move);
+        QWheelEvent wheel(center, m_canvas->mapToGlobal(center), {}, {0, notches * 120},
+            Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(m_canvas.get(), &wheel);
+        const QImage shown = picture();
+        if (moves && drag.isNull())
+            QVERIFY(moved.wait()); // The wheel has no end of its own.
+        QTest::mouseRelease(m_canvas.get(), Qt::MiddleButton, {}, center + drag);
+        QCOMPARE(moved.size(), moves ? 1 : 0);
+        QCOMPARE(m_canvas->view() == before, moves);
+        if (!moves)
+            return;
+        // The drawing comes to the same picture, and back.
+        const auto viewport = moved.first().first().value<drawing::SheetViewport>();
+        drawing::DrawingStep step(*m_drawing, "view");
+        QVERIFY(m_drawing->setViewportView(viewport.entity, viewport.view).has_value());
+        step.commit();
+        m_canvas->setSheet(std::make_shared<const drawing::Sheet>(*m_drawing->sheet()));
+        m_canvas->setLayers(m_layers);
+        QVERIFY(differentPixels(picture(), shown, 64) < 0.001);
+        m_drawing->undo();
+        QCOMPARE(m_drawing->sheet()->viewports.front().view.height, 20.0);
     }
 
 private:

@@ -115,6 +115,7 @@ struct Geometry
     GeometryAmount amount;  ///< The amount in this object.
     GeometryIndex index;    ///< Empty until it is built.
     bool truncated = false; ///< Some geometry was left out because there was too much.
+    bool isEndless = false;           ///< All of it goes on beyond what else there is.
 };
 
 /// The parts of a drawing that its picture is made from.

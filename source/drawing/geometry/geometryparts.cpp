@@ -100,6 +100,7 @@ Geometry endlessLines(const std::vector<GeometryPart>& parts)
     for (const GeometryPart& part : parts)
         addExtents(extents, *part);
     Geometry drawn;
+    drawn.isEndless = true;
     if (!parts.empty()) {
         drawn.switches = parts.front()->switches;
         drawn.linetypes = parts.front()->linetypes;

@@ -153,11 +153,13 @@ void ViewportTags::takeOldView(const std::vector<Tag>& xdata)
     viewY = numbers[9];
 }
 
-ViewportTags readTags(const TagReader& reader)
+/// As edited so far.
+ViewportTags readTags(const DrawingFile& file, const Entity& place)
 {
     ViewportTags viewport;
     std::vector<Tag> xdata;
-    OwnTags tags(reader);
+    const QByteArray bytes = file.journal().current(place.range());
+    OwnTags tags(TagReader(bytes, file.spelling()));
     Tag tag;
     while (tags.nextOfAll(tag)) {
         if (tags.part() == TagPart::Own)
@@ -255,19 +257,21 @@ SheetViewport SheetReader::readViewport(int entity)
 {
     enum Flag { Locked = 0x4000, ClippedByOutline = 0x10000, Off = 0x20000 };
     const Entity& place = m_source.entities[static_cast<std::size_t>(entity)];
-    const ViewportTags tags = readTags(m_source.file.tags(place.range()));
+    const ViewportTags tags = readTags(m_source.file, place);
     SheetViewport viewport;
     viewport.entity = entity;
+    viewport.center = {tags.center.x, tags.center.y};
+    viewport.view = {{tags.viewX, tags.viewY}, tags.viewHeight};
     viewport.scale = tags.viewHeight > 0 ? tags.height / tags.viewHeight : 0;
     viewport.toSheet = toSheet(tags, viewport.scale);
-    viewport.isLocked = tags.flags & Locked;
+    viewport.isLocked = (tags.flags & Locked) != 0 || !hasOwnView(m_source.file, place);
     // In old files the stacking order of the viewports tells whether they are on.
     const bool isOff = tags.hasFlags ? (tags.flags & Off) != 0 : tags.status == 0;
     viewport.isOn = !isOff && viewport.scale > 0 && viewport.toSheet.isFinite();
     if (tags.flags & ClippedByOutline)
         viewport.outline = outlineOf(tags.outline, place);
     if (viewport.outline.size() < 3) {
-        const QPointF center(tags.center.x, tags.center.y);
+        const QPointF& center = viewport.center;
         const QPointF half(tags.width / 2, tags.height / 2);
         const QPointF other(half.x(), -half.y());
         viewport.outline = {center - half, center + other, center + half, center - other};

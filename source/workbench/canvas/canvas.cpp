@@ -23,6 +23,8 @@ namespace {
 constexpr std::size_t kCheapVertices = 20000;
 /// With more vertices than this, antialiasing costs more than it is worth.
 constexpr std::size_t kSmoothVertices = 400000;
+/// Turns of the wheel within this time count as one change of a viewport's view.
+constexpr int kSettleMilliseconds = 400;
 constexpr double kReachPixels = 4; ///< The distance in pixels at which a click still hits a line.
 
 } // namespace
@@ -42,6 +44,9 @@ Canvas::Canvas(QWidget* parent)
     setMinimumSize(200, 150);
     for (const KeptPicture* picture : {m_frame, m_overlay})
         connect(picture, &KeptPicture::painted, this, [this] { update(); });
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(kSettleMilliseconds);
+    connect(&m_settle, &QTimer::timeout, this, &Canvas::settleViewport);
     updateLooks();
 }
 
@@ -82,10 +87,16 @@ void Canvas::updateLooks()
 
 void Canvas::setScene(Scene scene)
 {
-    constexpr double kMillimetresPerInch = 25.4;
     scene.sheet = m_sheet;
     m_scene = std::make_shared<const ShownScene>(
         std::move(scene), LookSource{m_layers, m_linetypes.get(), m_dark});
+    showScene();
+    setSelection(m_selection);
+}
+
+void Canvas::showScene()
+{
+    constexpr double kMillimetresPerInch = 25.4;
     const bool isSmooth = m_scene->vertexCount() < kSmoothVertices;
     const double lineweightScale = m_showsLineweights ? logicalDpiY() / kMillimetresPerInch : 0;
     m_frame->setContent(
@@ -97,7 +108,6 @@ void Canvas::setScene(Scene scene)
             scenePainter->paint(painter, *scene, view, area, isDropped);
         },
         background(), m_scene->vertexCount() <= kCheapVertices);
-    setSelection(m_selection);
     update();
 }
 
@@ -181,12 +191,9 @@ void Canvas::drawCurrentViewport(QPainter& painter) const
     for (const drawing::SheetViewport& viewport : m_sheet->viewports) {
         if (!viewport.isCurrent)
             continue;
-        QPolygonF outline;
-        for (const QPointF& corner : viewport.outline)
-            outline.append(m_view.toScreen(corner));
         painter.setPen(QPen(QColor(0x2ea043), m_isInViewport ? kInside : kOutside));
         painter.setBrush(Qt::NoBrush);
-        painter.drawPolygon(outline);
+        painter.drawPolygon(outlineOf(viewport, PlaneMap(m_view)));
     }
 }
 
@@ -195,17 +202,51 @@ int Canvas::viewportAt(const QPoint& pixel) const
 {
     int found = -1;
     for (const ShownScene::Window& window : m_scene->windows()) {
-        QPolygonF outline;
-        for (const QPointF& corner : window.viewport.outline)
-            outline.append(m_view.toScreen(corner));
+        const QPolygonF outline = outlineOf(window.viewport, PlaneMap(m_view));
         if (outline.containsPoint(pixel, Qt::OddEvenFill))
             found = window.viewport.entity;
     }
     return found;
 }
 
+Canvas::Workplace Canvas::workplace() const
+{
+    const PlaneMap map(m_view);
+    for (const ShownScene::Window& window : m_scene->windows()) {
+        if (m_isInViewport && window.viewport.isCurrent)
+            return {*window.scene, map.through(window.viewport), &window.viewport};
+    }
+    return {*m_scene, map};
+}
+
+/// False where there is none to be moved.
+bool Canvas::moveInViewport(const std::function<void(drawing::SheetViewport&)>& move)
+{
+    const drawing::SheetViewport* const viewport = workplace().viewport;
+    if (!viewport || viewport->isLocked)
+        return false;
+    drawing::SheetViewport moved = *viewport;
+    move(moved);
+    m_scene = std::make_shared<const ShownScene>(m_scene->with(moved));
+    showScene();
+    paintSelection();
+    m_viewportMoved = true;
+    m_settle.start();
+    return true;
+}
+
+void Canvas::settleViewport()
+{
+    m_settle.stop();
+    if (!std::exchange(m_viewportMoved, false))
+        return;
+    if (const drawing::SheetViewport* viewport = workplace().viewport)
+        emit viewportMoved(drawing::SheetViewport(*viewport));
+}
+
 void Canvas::leaveViewport()
 {
+    settleViewport();
     if (!std::exchange(m_isInViewport, false))
         return;
     update();
@@ -224,16 +265,21 @@ void Canvas::drawWindow(QPainter& painter) const
 
 std::vector<int> Canvas::picked(const QPoint& from, const QPoint& to) const
 {
-    const CanvasPick pick(*m_scene);
+    const Workplace place = workplace();
+    const CanvasPick pick(place.scene);
+    QRectF window = QRectF(from, to).normalized();
+    if (place.viewport) {
+        const QPolygonF outline = outlineOf(*place.viewport, PlaneMap(m_view));
+        window &= outline.boundingRect();
+        if (m_windowing ? window.isEmpty() : !outline.containsPoint(to, Qt::OddEvenFill))
+            return {};
+    }
     if (!m_windowing) {
-        const int entity = pick.nearest(m_view.toDrawing(to), kReachPixels / m_view.scale());
+        const int entity = pick.nearest(place.map.toPlane(to), kReachPixels / place.map.scale());
         return entity < 0 ? std::vector<int>() : std::vector<int>{entity};
     }
-    drawing::Box box;
-    box.add(m_view.toDrawing(from));
-    box.add(m_view.toDrawing(to));
-    return pick.within(
-        box, to.x() < from.x() ? CanvasPick::Mode::Crossing : CanvasPick::Mode::Inside);
+    return pick.within(place.map.boxAround(window),
+        to.x() < from.x() ? CanvasPick::Mode::Crossing : CanvasPick::Mode::Inside);
 }
 
 void Canvas::pick(const QPoint& from, const QPoint& to, bool adds)
@@ -288,9 +334,13 @@ void Canvas::wheelEvent(QWheelEvent* event)
 {
     constexpr double kStep = 1.25;
     constexpr double kNotch = 120;
-    m_view.zoomAt(event->position(), std::pow(kStep, event->angleDelta().y() / kNotch));
-    viewMoved();
+    const double factor = std::pow(kStep, event->angleDelta().y() / kNotch);
+    const QPointF at = m_view.toDrawing(event->position());
     event->accept();
+    if (moveInViewport([&](drawing::SheetViewport& viewport) { viewport.zoomAt(at, factor); }))
+        return;
+    m_view.zoomAt(event->position(), factor);
+    viewMoved();
 }
 
 void Canvas::mousePressEvent(QMouseEvent* event)
@@ -312,9 +362,8 @@ void Canvas::mousePressEvent(QMouseEvent* event)
 void Canvas::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_panning) {
-        m_view.pan(event->pos() - m_panFrom);
+        pan(event->pos() - m_panFrom);
         m_panFrom = event->pos();
-        viewMoved();
     }
     if (m_pressed) {
         m_windowTo = event->pos();
@@ -322,7 +371,16 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
                                          QApplication::startDragDistance();
         update();
     }
-    emit cursorMoved(m_view.toDrawing(event->localPos()));
+    emit cursorMoved(workplace().map.toPlane(event->localPos()));
+}
+
+void Canvas::pan(const QPoint& pixels)
+{
+    const QPointF way = QPointF(pixels.x(), -pixels.y()) / m_view.scale();
+    if (moveInViewport([&](drawing::SheetViewport& viewport) { viewport.pan(way); }))
+        return;
+    m_view.pan(pixels);
+    viewMoved();
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent* event)
@@ -335,6 +393,7 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
     if (event->button() != Qt::MiddleButton)
         return QWidget::mouseReleaseEvent(event);
     m_panning = false;
+    settleViewport();
     setCursor(m_picking ? Qt::PointingHandCursor : Qt::CrossCursor);
 }
 
@@ -362,6 +421,7 @@ void Canvas::mouseDoubleClickEvent(QMouseEvent* event)
     const int viewport = viewportAt(event->pos());
     if (viewport < 0)
         return leaveViewport();
+    settleViewport();
     m_isInViewport = true;
     update();
     emit viewportEntered(viewport);

@@ -3,8 +3,10 @@
 #include "canvashighlight.h"
 #include "canvasview.h"
 #include "keptpicture.h"
+#include "planemap.h"
 #include "scene.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class ScenePainters;
@@ -14,7 +16,8 @@ class ScenePainters;
 /// cursor, a window drawn to the right selects what lies inside it, and one drawn to the left also
 /// what crosses it. Ctrl adds to the selection, or removes what is clicked again; Esc clears the
 /// selection. Entities on hidden layers cannot be selected, those on locked layers can. A double
-/// click on a sheet enters the viewport there, or leaves it.
+/// click on a sheet enters the viewport there, or leaves it. Inside a viewport, zooming, panning and
+/// selecting apply to what it shows, unless its view is locked.
 ///
 /// The geometry is passed in once. When layers are switched or change their colour, the canvas only
 /// decides anew which groups of the geometry to draw and how. Large drawings are painted on other
@@ -42,6 +45,8 @@ public:
     /// Whether the user works inside the current viewport of the sheet.
     bool isInViewport() const { return m_isInViewport; }
     void leaveViewport();
+    /// Says at once where the viewport looks now, if somebody zoomed or panned in it.
+    void settleViewport();
     bool showsLineweights() const { return m_showsLineweights; }
     void setShowsLineweights(bool shows);
 
@@ -77,6 +82,8 @@ signals:
     void pickEnded(bool accepted);    ///< The picked entities are selected.
     void viewportEntered(int entity); ///< The user double-clicked inside it.
     void viewportLeft();
+    /// Somebody zoomed or panned in a viewport, and has not gone on for a moment.
+    void viewportMoved(const drawing::SheetViewport& viewport);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -91,11 +98,22 @@ protected:
 private:
     void updateLooks();
     void viewMoved();
+    void pan(const QPoint& pixels);
     void paintSelection();
     QColor background() const { return m_dark ? Qt::black : Qt::white; }
     void drawWindow(QPainter& painter) const;
     void drawCurrentViewport(QPainter& painter) const;
     int viewportAt(const QPoint& pixel) const;
+    /// Where somebody is at work: the plane of the scene, or model space through a viewport.
+    struct Workplace
+    {
+        const ShownScene& scene;
+        PlaneMap map;
+        const drawing::SheetViewport* viewport = nullptr;
+    };
+    Workplace workplace() const;
+    bool moveInViewport(const std::function<void(drawing::SheetViewport&)>& move);
+    void showScene();
     void pick(const QPoint& from, const QPoint& to, bool adds);
     std::vector<int> picked(const QPoint& from, const QPoint& to) const;
     void endWindow();
@@ -106,6 +124,8 @@ private:
     std::shared_ptr<const drawing::LinetypePatterns> m_linetypes;
     std::shared_ptr<const drawing::Sheet> m_sheet;
     bool m_isInViewport = false;
+    bool m_viewportMoved = false; ///< And nobody was told.
+    QTimer m_settle;              ///< Until somebody is.
     bool m_showsLineweights = false;
     std::shared_ptr<ScenePainters> m_painters;
     CanvasView m_view;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvasview.h"
+#include "planemap.h"
 #include "scene.h"
 
 #include <atomic>
@@ -25,11 +26,21 @@ private:
         const drawing::GeometryGroup* group;
         std::size_t index;
     };
+    /// What is to be marked of a sheet or of model space, or as it is seen through a viewport.
+    struct Space
+    {
+        const ShownScene::Window* window = nullptr; ///< Null: it is seen as it is.
+        std::vector<Piece> primitives;
+        std::vector<Piece> texts;
+    };
 
-    void paintPrimitive(QPainter& painter, const Piece& piece, const CanvasView& view) const;
+    void collect(const ShownScene& scene, const ShownScene::Window* window,
+        const std::vector<int>& entities);
+    void paintSpace(QPainter& painter, const Space& space, const PlaneMap& map, const QRect& area,
+        const std::atomic<bool>& isDropped) const;
+    static void paintPrimitive(QPainter& painter, const Piece& piece, const PlaneMap& map);
 
-    ScenePointer m_scene; ///< Keeps the groups alive.
-    std::vector<Piece> m_primitives;
-    std::vector<Piece> m_texts;
+    ScenePointer m_scene; ///< Keeps the groups and the windows alive.
+    std::vector<Space> m_spaces;
     std::size_t m_vertices = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "entityset.h"
 #include "geometry/geometrytext.h"
+#include "planemap.h"
 
 #include <algorithm>
 #include <cmath>
@@ -230,13 +231,36 @@ std::vector<int> CanvasPick::shown(const std::vector<int>& entities) const
         if (wanted.contains(entity))
             found.insert(entity);
     };
-    m_scene.forEachGroup([&](const ShownScene::Group& group) {
-        for (const Primitive& primitive : group.geometry.primitives)
-            note(primitive.entity);
-        for (const TextRun& run : group.geometry.texts)
-            note(run.entity);
-    });
+    const auto noteAll = [&note](const ShownScene& scene) {
+        scene.forEachGroup([&note](const ShownScene::Group& group) {
+            for (const Primitive& primitive : group.geometry.primitives)
+                note(primitive.entity);
+            for (const TextRun& run : group.geometry.texts)
+                note(run.entity);
+        });
+    };
+    noteAll(m_scene);
+    for (const ShownScene::Window& window : m_scene.windows())
+        noteAll(*window.scene);
     return found.entities();
+}
+
+void CanvasPick::addThrough(
+    const ShownScene::Window& window, const std::vector<int>& entities, Box& box) const
+{
+    const Box inside = CanvasPick(*window.scene).bounds(entities);
+    const Box cut = boundsOf(window.viewport);
+    if (inside.isEmpty())
+        return;
+    Box seen;
+    for (const double x : {inside.minX, inside.maxX}) {
+        for (const double y : {inside.minY, inside.maxY}) {
+            const drawing::Vec3 corner = window.viewport.toSheet.map({x, y, 0});
+            seen.add(QPointF(std::clamp(corner.x, cut.minX, cut.maxX),
+                std::clamp(corner.y, cut.minY, cut.maxY)));
+        }
+    }
+    box.add(seen);
 }
 
 drawing::Box CanvasPick::bounds(const std::vector<int>& entities) const
@@ -251,5 +275,7 @@ drawing::Box CanvasPick::bounds(const std::vector<int>& entities) const
         std::for_each(group.geometry.primitives.begin(), group.geometry.primitives.end(), add);
         std::for_each(group.geometry.texts.begin(), group.geometry.texts.end(), add);
     });
+    for (const ShownScene::Window& window : m_scene.windows())
+        addThrough(window, entities, box);
     return box;
 }

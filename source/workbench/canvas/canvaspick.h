@@ -20,13 +20,17 @@ public:
     /// The entities that are completely inside the box or that cross it, depending on `mode`, in
     /// ascending order.
     std::vector<int> within(const drawing::Box& box, Mode mode) const;
-    /// Those of the entities that show anything, in ascending order.
+    /// Those of the entities that show anything, also through viewports, in ascending order.
     std::vector<int> shown(const std::vector<int>& entities) const;
     /// The bounds of the visible geometry of the entities, which must be given in ascending order.
+    /// Geometry seen through a viewport counts where the viewport shows it.
     drawing::Box bounds(const std::vector<int>& entities) const;
 
 private:
     struct Hit;
+
+    void addThrough(const ShownScene::Window& window, const std::vector<int>& entities,
+        drawing::Box& box) const;
 
     const ShownScene& m_scene;
 };

@@ -55,3 +55,11 @@ drawing::Box boundsOf(const drawing::SheetViewport& viewport)
         box.add(corner);
     return box;
 }
+
+QPolygonF outlineOf(const drawing::SheetViewport& viewport, const PlaneMap& sheet)
+{
+    QPolygonF outline;
+    for (const QPointF& corner : viewport.outline)
+        outline.append(sheet.toPixel(corner));
+    return outline;
+}

@@ -3,6 +3,7 @@
 #include "canvasview.h"
 #include "geometry/sheet.h"
 
+#include <QPolygonF>
 #include <QRectF>
 
 /// An affine map from a plane of a drawing to pixels, either directly by a view or by a view
@@ -35,3 +36,5 @@ private:
 
 /// The bounds of a viewport's outline.
 drawing::Box boundsOf(const drawing::SheetViewport& viewport);
+/// The cut in pixels, by the map of the sheet.
+QPolygonF outlineOf(const drawing::SheetViewport& viewport, const PlaneMap& sheet);

@@ -21,7 +21,8 @@ ShownScene::ShownScene(Scene scene, const LookSource& source)
             all.add(group.bounds);
     }
     forEachGroup([this](const Group& group) {
-        m_extents.add(group.geometry.bounds);
+        if (!m_scene.parts[group.part]->isEndless)
+            m_extents.add(group.geometry.bounds);
         m_vertexCount +=
             group.geometry.vertices.size() + group.geometry.texts.size() * kVerticesOfText;
     });
@@ -29,6 +30,16 @@ ShownScene::ShownScene(Scene scene, const LookSource& source)
         openWindows(source);
     if (m_extents.isEmpty())
         m_extents = all;
+}
+
+ShownScene ShownScene::with(const drawing::SheetViewport& viewport) const
+{
+    ShownScene moved = *this;
+    for (Window& window : moved.m_windows) {
+        if (window.viewport.entity == viewport.entity)
+            window.viewport = viewport;
+    }
+    return moved;
 }
 
 void ShownScene::openWindows(const LookSource& source)

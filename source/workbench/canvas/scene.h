@@ -86,6 +86,9 @@ public:
         std::shared_ptr<const ShownScene> scene;
     };
 
+    /// The same scene seen through a viewport that was moved.
+    ShownScene with(const drawing::SheetViewport& viewport) const;
+
     const Scene& scene() const { return m_scene; }
     const std::vector<Window>& windows() const { return m_windows; }
     std::size_t partCount() const { return m_looks.size(); }

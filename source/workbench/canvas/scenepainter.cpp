@@ -82,9 +82,7 @@ void ScenePainter::paintPaper(const drawing::Sheet& sheet, const PlaneMap& map)
 void ScenePainter::paintWindow(const ShownScene::Window& window, const drawing::Sheet& sheet,
     const PlaneMap& map, const QRect& area)
 {
-    QPolygonF outline;
-    for (const QPointF& corner : window.viewport.outline)
-        outline.append(map.toPixel(corner));
+    const QPolygonF outline = ::outlineOf(window.viewport, map);
     const QRectF bounds = outline.boundingRect();
     const QRectF seen = bounds.intersected(area);
     if (seen.isEmpty())
