@@ -1,6 +1,7 @@
 #pragma once
 
 #include "entities/entityedits.h"
+#include "geometry/draworder.h"
 #include "geometry/geometry.h"
 #include "layers/annotationcopies.h"
 #include "layers/layerobjects.h"
@@ -59,7 +60,7 @@ public:
 
     GeometrySource geometrySource() const
     {
-        return {file, entities, layouts, linetypes, overrides, viewports, layers.zero()};
+        return {file, entities, layouts, linetypes, overrides, viewports, drawOrder, layers.zero()};
     }
     TranslationParts translationParts()
     {
@@ -76,6 +77,7 @@ public:
     LinetypeTable linetypes{file, leftOut};
     PlotStyles plotStyles{file};
     LayoutTable layouts;
+    DrawOrder drawOrder;
     LayerRecords records{file, layers};
     LayerEdits layerEdits{file, layers, records, linetypes, plotStyles, leftOut};
     EntityEdits entityEdits{file, entities, layers};

@@ -54,6 +54,8 @@ private slots:
             ink, gaps);
         row("covered by what comes later", "", line("") + kWipeout, {10, 90}, {50});
         row("not by what came before", "", kWipeout + line(""), {10, 50, 90}, {});
+        row("nor by what was put behind it", "", line("5 E1") + kWipeout + "5 E2 ", {10, 50, 90},
+            {});
         row("ByBlock takes the reference's", "", "0 INSERT 8 A 2 U 10 0 20 0 6 DASHED ", ink, gaps);
         row("layer 0 takes the reference's layer's", "", "0 INSERT 8 D 2 Z 10 0 20 0 ", ink, gaps);
         row("scaled with the reference", "", "0 INSERT 8 A 2 H 10 0 20 0 41 2 42 2 ", {2, 24, 98},
@@ -67,6 +69,8 @@ private slots:
         QFETCH(QVector<double>, ink);
         QFETCH(QVector<double>, gaps);
         m_sketch->header = header;
+        m_sketch->objects = "0 SORTENTSTABLE 5 E0 330 1F 100 AcDbSortentsTable 330 1F "
+                            "331 E1 5 E2 331 E2 5 E1 ";
         m_sketch->blocks = block("U", line("6 BYBLOCK")) +
                            block("Z", line("").replace("8 A", "8 0")) +
                            block("H", "0 LINE 8 A 10 0 20 0 11 50 21 0 6 DASHED ");

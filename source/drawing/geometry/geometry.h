@@ -15,6 +15,7 @@
 
 namespace drawing {
 
+class DrawOrder;
 class DrawingFile;
 class EntityTable;
 struct Entity;
@@ -33,7 +34,7 @@ struct Primitive
     quint32 count = 0;
     /// Index into `Drawing::entities()` of the entity that was drawn in model space.
     int entity = -1;
-    quint32 sequence = 0; ///< The drawing order, across all groups.
+    quint64 order = 0; ///< The drawing order, across all groups of all parts.
     /// Fills use the even-odd rule; a mask covers what was drawn before it.
     Shape shape = Shape::Lines;
     bool patternRestarts = false; ///< The linetype pattern restarts at each vertex.
@@ -57,8 +58,8 @@ struct TextRun
     Horizontal horizontal = Horizontal::Left;
     Vertical vertical = Vertical::Baseline;
     int entity = -1;
-    quint32 sequence = 0; ///< The drawing order, shared with primitives.
-    Box bounds;           ///< Estimated.
+    quint64 order = 0; ///< The drawing order, shared with primitives.
+    Box bounds;        ///< Estimated.
 };
 
 /// Geometry that is shown, hidden and styled together.
@@ -88,7 +89,7 @@ struct EndlessLine
     QPointF direction;
     bool bothWays = false;
     int entity = -1;
-    quint32 sequence = 0;
+    quint64 order = 0;
 };
 
 /// An amount of geometry that is kept and drawn, or the amount that may still be added.
@@ -127,6 +128,7 @@ struct GeometrySource
     const LinetypeTable& linetypes;
     const LayerOverrides& overrides;
     const ViewportLayers& viewports;
+    const DrawOrder& order;
     LayerId layerZero;
 };
 

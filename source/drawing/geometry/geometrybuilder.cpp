@@ -1,5 +1,6 @@
 #include "geometrybuilder.h"
 
+#include "draworder.h"
 #include "file/drawingtexts.h"
 #include "geometrytext.h"
 #include "layers/layouts.h"
@@ -89,6 +90,7 @@ Expected<Geometry> GeometryBuilder::build(const EntityRange& range)
         definition.clear();
         m_reader.read(i, false, definition);
         m_entity = static_cast<int>(i);
+        m_rank = m_source.order.rank(i, m_source);
         emitDefinition(definition, {}, {}, 0);
     }
     if (isCancelled())
@@ -114,14 +116,18 @@ const Definition& GeometryBuilder::definitionOf(int block)
         return *known;
     known.emplace();
     const Block& source = m_source.entities.blocks()[static_cast<std::size_t>(block)];
+    std::vector<std::pair<std::size_t, std::size_t>> inOrder; // Of drawing: where, and which.
     for (int i = source.first; i < source.first + source.count; ++i) {
         const auto index = static_cast<std::size_t>(i);
         if (index >= m_source.entities.all().size())
             break;
         const Entity& entity = m_source.entities.all()[index];
         if (!entity.subEntity && !entity.removed)
-            m_reader.read(index, true, *known);
+            inOrder.emplace_back(m_source.order.rank(index, m_source), index);
     }
+    std::sort(inOrder.begin(), inOrder.end());
+    for (const auto& [rank, index] : inOrder)
+        m_reader.read(index, true, *known);
     return *known;
 }
 
@@ -252,7 +258,7 @@ void GeometryBuilder::emitShape(const Definition& definition, const Definition::
     primitive.width = static_cast<float>(shape.width * scale);
     if (primitive.shape == Primitive::Shape::Lines && primitive.width > 0)
         primitive.bounds.grow(primitive.width * 0.5);
-    primitive.sequence = nextSequence();
+    primitive.order = nextPlace();
     m_used.vertices += primitive.count;
     group.bounds.add(primitive.bounds);
     group.hasFills = group.hasFills || primitive.shape == Primitive::Shape::Fill;
@@ -269,7 +275,7 @@ void GeometryBuilder::noteEndless(
     const auto index = static_cast<std::size_t>(&group - m_geometry.groups.data());
     if (from.isFinite() && direction.isFinite())
         m_geometry.endless.push_back(
-            {index, flat(from), flat(direction), line.bothWays, m_entity, nextSequence()});
+            {index, flat(from), flat(direction), line.bothWays, m_entity, nextPlace()});
 }
 
 void GeometryBuilder::emitText(
@@ -287,7 +293,7 @@ void GeometryBuilder::emitText(
     run.up = flat(up);
     run.entity = m_entity;
     run.bounds = estimatedBounds(run);
-    run.sequence = nextSequence();
+    run.order = nextPlace();
     group.bounds.add(run.bounds);
     group.texts.push_back(std::move(run));
 }

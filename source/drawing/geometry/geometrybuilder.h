@@ -59,9 +59,10 @@ private:
     bool isCancelled() const { return m_progress && m_progress->cancelled; }
     void startAnew();
     /// The position of the next piece in the drawing order.
-    quint32 nextSequence()
+    quint64 nextPlace()
     {
-        return static_cast<quint32>(m_geometry.amount.pieces + m_used.pieces++);
+        const auto piece = static_cast<quint32>(m_geometry.amount.pieces + m_used.pieces++);
+        return static_cast<quint64>(m_rank) << 32 | piece;
     }
     void takeRoom();
     bool goOn(std::size_t done, std::size_t total);
@@ -100,6 +101,7 @@ private:
     std::map<std::pair<int, LayerId>, int> m_ownerIndex;
     GeometryAmount m_used; ///< The amount used since room was last taken.
     int m_entity = -1;
+    std::size_t m_rank = 0; ///< Of the entity.
     int m_percent = -1;
 };
 

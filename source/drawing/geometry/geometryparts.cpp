@@ -41,7 +41,7 @@ void addLine(GeometryGroup& group, const EndlessLine& line, const Box& extents)
     primitive.first = static_cast<quint32>(group.vertices.size());
     primitive.count = 2;
     primitive.entity = line.entity;
-    primitive.sequence = line.sequence;
+    primitive.order = line.order;
     for (const QPointF& end : ends) {
         group.vertices.push_back(end);
         primitive.bounds.add(end);

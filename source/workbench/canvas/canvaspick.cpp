@@ -141,14 +141,12 @@ struct CanvasPick::Hit
     int entity = -1;
     bool onLine = false;
     double distance = 0;
-    std::size_t part = 0;
-    quint32 sequence = 0;
+    quint64 order = 0;
 
     void offer(const Hit& other)
     {
         const auto rank = [](const Hit& hit) {
-            return std::make_tuple(
-                hit.entity >= 0, hit.onLine, -hit.distance, hit.part, hit.sequence);
+            return std::make_tuple(hit.entity >= 0, hit.onLine, -hit.distance, hit.order);
         };
         if (rank(*this) <= rank(other))
             *this = other;
@@ -157,7 +155,7 @@ struct CanvasPick::Hit
 
 int CanvasPick::nearest(const QPointF& at, double reach) const
 {
-    constexpr std::size_t kOverFills = std::numeric_limits<std::size_t>::max();
+    constexpr quint64 kOverFills = std::numeric_limits<quint64>::max();
     const Box near = around(at, reach);
     Hit best;
     const auto tryPrimitive = [&](const ShownScene::Group& group, const Primitive& primitive) {
@@ -171,13 +169,13 @@ int CanvasPick::nearest(const QPointF& at, double reach) const
         });
         const bool isFill = primitive.shape == Primitive::Shape::Fill;
         if (onLine && !isFill)
-            best.offer({primitive.entity, true, least, group.part, primitive.sequence});
+            best.offer({primitive.entity, true, least, primitive.order});
         else if (isFill && (onLine || isFilledAt(group.geometry, primitive, at)))
-            best.offer({primitive.entity, false, 0, group.part, primitive.sequence});
+            best.offer({primitive.entity, false, 0, primitive.order});
     };
     m_scene.forEachNear(near, tryPrimitive, [&](const ShownScene::Group&, const TextRun& run) {
         if (reachesInto(near, textOutline(run)))
-            best.offer({run.entity, false, 0, kOverFills, 0});
+            best.offer({run.entity, false, 0, kOverFills});
     });
     return best.entity;
 }

@@ -135,8 +135,7 @@ std::vector<ScenePainter::Mask> ScenePainter::masksOf(const ShownScene& scene) c
             const bool covers = primitive.shape == Primitive::Shape::Mask &&
                                 isSeen(primitive.bounds) && !isTiny(primitive.bounds);
             if (covers && masks.size() < kMost)
-                masks.push_back(
-                    {orderOf(group.part, primitive.sequence), &group.geometry, &primitive});
+                masks.push_back({primitive.order, &group.geometry, &primitive});
         }
     });
     std::sort(
@@ -146,8 +145,7 @@ std::vector<ScenePainter::Mask> ScenePainter::masksOf(const ShownScene& scene) c
 
 void ScenePainter::paintRange(const ShownScene& scene)
 {
-    for (std::size_t part = 0; part < scene.partCount(); ++part)
-        paintFills(scene, part);
+    paintFills(scene);
     Box near = m_visible;
     near.grow(m_mark ? m_mark->reach / m_map.scale() : 0);
     scene.forEachGroupNear(near,
@@ -155,7 +153,6 @@ void ScenePainter::paintRange(const ShownScene& scene)
             if (*m_isDropped || !isSeen(group.geometry.bounds))
                 return;
             ++m_dotsOfGroup;
-            m_partNumber = group.part;
             m_painter->setPen(penOf(group.look));
             paintLines(group, primitives);
             m_painter->setPen(hairline(group.look.color));
@@ -169,7 +166,7 @@ bool ScenePainter::isTiny(const Box& bounds) const
     return std::max(bounds.width(), bounds.height()) * m_map.scale() < kTinyPixels;
 }
 
-void ScenePainter::paintFills(const ShownScene& scene, std::size_t part)
+void ScenePainter::paintFills(const ShownScene& scene)
 {
     struct Fill
     {
@@ -178,17 +175,17 @@ void ScenePainter::paintFills(const ShownScene& scene, std::size_t part)
         QColor color;
     };
     std::vector<Fill> fills;
-    scene.forEachGroupOf(part, [&](const ShownScene::Group& group) {
+    scene.forEachGroup([&](const ShownScene::Group& group) {
         if (!group.geometry.hasFills || !isSeen(group.geometry.bounds))
             return;
         for (const Primitive& primitive : group.geometry.primitives) {
             if (primitive.shape == Primitive::Shape::Fill && isSeen(primitive.bounds) &&
-                isInRange(part, primitive.sequence))
+                isInRange(primitive.order))
                 fills.push_back({&group.geometry, &primitive, group.look.color});
         }
     });
     std::sort(fills.begin(), fills.end(),
-        [](const Fill& a, const Fill& b) { return a.primitive->sequence < b.primitive->sequence; });
+        [](const Fill& a, const Fill& b) { return a.primitive->order < b.primitive->order; });
     for (const Fill& fill : fills) {
         if (*m_isDropped)
             break;
@@ -246,7 +243,7 @@ void ScenePainter::paintLine(const GeometryGroup& group, const Primitive& primit
 {
     const bool isLine =
         primitive.shape != Primitive::Shape::Fill && primitive.shape != Primitive::Shape::Mask;
-    if (!isLine || *m_isDropped || !isInRange(m_partNumber, primitive.sequence))
+    if (!isLine || *m_isDropped || !isInRange(primitive.order))
         return;
     if (primitive.shape == Primitive::Shape::Dot && !m_mark->isDot) {
         paintPoint(group.vertices[primitive.first]);
@@ -396,7 +393,7 @@ void ScenePainter::paintTexts(const ShownScene::Group& group, const Pieces& piec
         return;
     beginTexts(group.look.color);
     pieces.forEach(group.geometry.texts, [this](const TextRun& run) {
-        if (!isSeen(run.bounds) || *m_isDropped || !isInRange(m_partNumber, run.sequence))
+        if (!isSeen(run.bounds) || *m_isDropped || !isInRange(run.order))
             return;
         const double pixels = std::hypot(run.up.x(), run.up.y()) * m_map.scale();
         if (isTiny(run.bounds))

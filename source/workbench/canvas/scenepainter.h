@@ -54,17 +54,8 @@ private:
         const drawing::GeometryGroup* group;
         const drawing::Primitive* primitive;
     };
-    /// Positions in the drawing order across all parts.
     static constexpr quint64 kLast = std::numeric_limits<quint64>::max();
-    static quint64 orderOf(std::size_t part, quint32 sequence)
-    {
-        return quint64(part) << 32 | sequence;
-    }
-    bool isInRange(std::size_t part, quint32 sequence) const
-    {
-        const quint64 order = orderOf(part, sequence);
-        return order >= m_from && order < m_to;
-    }
+    bool isInRange(quint64 order) const { return order >= m_from && order < m_to; }
 
     void paintPaper(const drawing::Sheet& sheet, const PlaneMap& map);
     void paintWindow(const ShownScene::Window& window, const drawing::Sheet& sheet,
@@ -73,7 +64,7 @@ private:
     std::vector<Mask> masksOf(const ShownScene& scene) const;
     /// Paints everything between two masks.
     void paintRange(const ShownScene& scene);
-    void paintFills(const ShownScene& scene, std::size_t part);
+    void paintFills(const ShownScene& scene);
     void paintFill(const drawing::GeometryGroup& group, const drawing::Primitive& primitive);
     using Pieces = ShownScene::Pieces;
 
@@ -107,7 +98,6 @@ private:
     PlaneMap m_map;
     quint64 m_from = 0; ///< The range of the drawing order that is being painted.
     quint64 m_to = kLast;
-    std::size_t m_partNumber = 0;
     drawing::Box m_visible;
     std::optional<PointMark> m_mark;
     double m_linetypeScale = 1;                          ///< Pixels per unit of the patterns.
