@@ -62,6 +62,7 @@ int run(int argc, char** argv, bool quick)
         return 1;
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
+    benchmark::ClearRegisteredBenchmarks(); // They hold windows, which go before the application.
     std::printf("\n%s", report.table().toUtf8().constData());
     return report.hasFailed() ? 1 : 0;
 }

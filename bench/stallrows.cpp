@@ -356,7 +356,7 @@ std::vector<Row> stallRows(const QString& folder)
                 s.zoom();
             }},
         {"walk", "walking through layers", kNothing, [](Session& s) { s.walk(); }},
-        {"change", "changing 141,000 objects to a layer", kNothing,
+        {"change", "changing 141,000 objects to a layer", [](Session& s) { s.undo(); },
             [](Session& s) { s.changeTo(); }},
         {"undo", "undoing that", [](Session& s) { s.changeTo(); }, [](Session& s) { s.undo(); }},
     };

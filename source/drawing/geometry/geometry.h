@@ -100,6 +100,13 @@ struct GeometryAmount
     qint64 instances = 0; ///< Placed instances of block references.
 };
 
+/// A range of entity indices, [first, last).
+struct EntityRange
+{
+    std::size_t first = 0;
+    std::size_t last = 0;
+};
+
 /// The flattened geometry of a space of a drawing or of a part of it, grouped by what decides on
 /// visibility and style.
 struct Geometry
@@ -115,8 +122,9 @@ struct Geometry
     std::vector<EndlessLine> endless;
     GeometryAmount amount;  ///< The amount in this object.
     GeometryIndex index;    ///< Empty until it is built.
+    EntityRange entities;   ///< The entities that it was built from.
     bool truncated = false; ///< Some geometry was left out because there was too much.
-    bool isEndless = false;           ///< All of it goes on beyond what else there is.
+    bool isEndless = false; ///< All of it goes on beyond the other geometry.
 };
 
 /// The parts of a drawing that its picture is made from.
@@ -152,13 +160,6 @@ private:
     std::atomic<qint64> m_vertices;
     std::atomic<qint64> m_pieces;
     std::atomic<qint64> m_instances;
-};
-
-/// A range of entity indices, [first, last).
-struct EntityRange
-{
-    std::size_t first = 0;
-    std::size_t last = 0;
 };
 
 /// Divides the entities into ranges of about `length`. No range begins with a subentity.

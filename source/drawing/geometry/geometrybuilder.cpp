@@ -76,6 +76,7 @@ void GeometryBuilder::takeRoom()
 Expected<Geometry> GeometryBuilder::build(const EntityRange& range)
 {
     startAnew();
+    m_geometry.entities = range;
     const auto& entities = m_source.entities.all();
     Definition definition;
     for (std::size_t i = range.first; i < range.last; ++i) {

@@ -106,6 +106,7 @@ Geometry endlessLines(const std::vector<GeometryPart>& parts)
         drawn.linetypes = parts.front()->linetypes;
     }
     for (const GeometryPart& part : parts) {
+        drawn.entities.last = std::max(drawn.entities.last, part->entities.last);
         std::map<std::size_t, std::size_t> groups;
         for (const EndlessLine& line : part->endless) {
             const auto [known, isNew] = groups.try_emplace(line.group, drawn.groups.size());

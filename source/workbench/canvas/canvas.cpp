@@ -125,11 +125,11 @@ void Canvas::setSelection(std::vector<int> entities)
 
 void Canvas::paintSelection()
 {
-    const auto marks = std::make_shared<const CanvasHighlight>(m_scene, m_selection);
+    const auto marks = std::make_shared<CanvasHighlight>(m_scene, m_selection);
     m_overlay->setContent(
         [marks](QPainter& painter, const CanvasView& view, const QRect& area,
             const std::atomic<bool>& isDropped) { marks->paint(painter, view, area, isDropped); },
-        Qt::transparent, marks->vertexCount() <= kCheapVertices);
+        Qt::transparent, marks->isCheap());
 }
 
 drawing::Box Canvas::extents() const

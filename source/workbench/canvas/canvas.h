@@ -16,8 +16,8 @@ class ScenePainters;
 /// cursor, a window drawn to the right selects what lies inside it, and one drawn to the left also
 /// what crosses it. Ctrl adds to the selection, or removes what is clicked again; Esc clears the
 /// selection. Entities on hidden layers cannot be selected, those on locked layers can. A double
-/// click on a sheet enters the viewport there, or leaves it. Inside a viewport, zooming, panning and
-/// selecting apply to what it shows, unless its view is locked.
+/// click on a sheet enters the viewport there, or leaves it. Inside a viewport, zooming, panning
+/// and selecting apply to what it shows, unless its view is locked.
 ///
 /// The geometry is passed in once. When layers are switched or change their colour, the canvas only
 /// decides anew which groups of the geometry to draw and how. Large drawings are painted on other

@@ -1,7 +1,6 @@
 #include "canvashighlight.h"
 
 #include "canvaspick.h"
-#include "entityset.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -13,6 +12,8 @@ namespace {
 
 /// Dashes take time, so more vertices than this are drawn as solid lines.
 constexpr std::size_t kMostDashed = 50000;
+/// The geometry of this many entities can be found without a noticeable delay.
+constexpr std::size_t kFewEntities = 2000;
 constexpr QRgb kBright = 0xff3d9bff; // Visible on black and on white.
 
 void paintPart(QPainter& painter, const QPolygonF& part)
@@ -25,42 +26,55 @@ void paintPart(QPainter& painter, const QPolygonF& part)
 
 } // namespace
 
-CanvasHighlight::CanvasHighlight(ScenePointer scene, const std::vector<int>& entities)
-    : m_scene(std::move(scene))
+CanvasHighlight::CanvasHighlight(ScenePointer scene, std::vector<int> entities)
+    : m_scene(std::move(scene)),
+      m_entities(std::move(entities))
 {
-    if (entities.empty())
-        return;
-    collect(*m_scene, nullptr, entities);
-    for (const ShownScene::Window& window : m_scene->windows())
-        collect(*window.scene, &window, entities);
+    if (m_entities.size() <= kFewEntities)
+        std::call_once(m_isCollected, [this] { collect(); });
 }
 
-void CanvasHighlight::collect(
-    const ShownScene& scene, const ShownScene::Window* window, const std::vector<int>& entities)
+bool CanvasHighlight::isCheap() const
 {
-    const EntitySet selected(entities);
-    Space space;
-    space.window = window;
-    scene.forEachGroup([&](const ShownScene::Group& shown) {
-        const drawing::GeometryGroup& group = shown.geometry;
-        for (std::size_t at = 0; at < group.primitives.size(); ++at) {
-            if (!selected.contains(group.primitives[at].entity))
-                continue;
-            space.primitives.push_back({&group, at});
-            m_vertices += group.primitives[at].count;
+    constexpr std::size_t kCheapVertices = 20'000;
+    return m_entities.size() <= kFewEntities && m_vertices <= kCheapVertices;
+}
+
+void CanvasHighlight::collect()
+{
+    collectOf(*m_scene, nullptr);
+    for (const ShownScene::Window& window : m_scene->windows())
+        collectOf(*window.scene, &window);
+}
+
+void CanvasHighlight::collectOf(const ShownScene& scene, const ShownScene::Window* window)
+{
+    struct Collector
+    {
+        CanvasHighlight& marks;
+        Space space;
+
+        void operator()(const ShownScene::Group& group, const drawing::Primitive& primitive)
+        {
+            space.primitives.push_back({&group.geometry, &primitive});
+            marks.m_vertices += primitive.count;
         }
-        for (std::size_t at = 0; at < group.texts.size(); ++at) {
-            if (selected.contains(group.texts[at].entity))
-                space.texts.push_back({&group, at});
+        void operator()(const ShownScene::Group&, const drawing::TextRun& run)
+        {
+            space.texts.push_back(&run);
         }
-    });
-    if (!space.primitives.empty() || !space.texts.empty())
-        m_spaces.push_back(std::move(space));
+    };
+    Collector collector{*this, {window, {}, {}}};
+    scene.forEachPieceOf(m_entities, [&collector](const ShownScene::Group& group,
+                                         const auto& piece) { collector(group, piece); });
+    if (!collector.space.primitives.empty() || !collector.space.texts.empty())
+        m_spaces.push_back(std::move(collector.space));
 }
 
 void CanvasHighlight::paint(QPainter& painter, const CanvasView& view, const QRect& area,
-    const std::atomic<bool>& isDropped) const
+    const std::atomic<bool>& isDropped)
 {
+    std::call_once(m_isCollected, [this] { collect(); });
     QPen pen(QColor(kBright), m_vertices < kMostDashed ? 2 : 1);
     if (m_vertices < kMostDashed)
         pen.setDashPattern({4, 3});
@@ -84,31 +98,31 @@ void CanvasHighlight::paint(QPainter& painter, const CanvasView& view, const QRe
 }
 
 void CanvasHighlight::paintSpace(QPainter& painter, const Space& space, const PlaneMap& map,
-    const QRect& area, const std::atomic<bool>& isDropped) const
+    const QRect& area, const std::atomic<bool>& isDropped)
 {
     const drawing::Box visible = map.boxAround(area.adjusted(-3, -3, 3, 3));
-    for (const Piece& piece : space.primitives) {
+    for (const Place<drawing::Primitive>& place : space.primitives) {
         if (isDropped)
             return;
-        if (piece.group->primitives[piece.index].bounds.intersects(visible))
-            paintPrimitive(painter, piece, map);
+        if (place.piece->bounds.intersects(visible))
+            paintPrimitive(painter, place, map);
     }
-    for (const Piece& piece : space.texts) {
-        const drawing::TextRun& run = piece.group->texts[piece.index];
+    for (const drawing::TextRun* run : space.texts) {
         QPolygonF outline;
-        for (const QPointF& corner : textOutline(run))
+        for (const QPointF& corner : textOutline(*run))
             outline.append(map.toPixel(corner));
-        if (run.bounds.intersects(visible))
+        if (run->bounds.intersects(visible))
             painter.drawPolyline(outline);
     }
 }
 
-void CanvasHighlight::paintPrimitive(QPainter& painter, const Piece& piece, const PlaneMap& map)
+void CanvasHighlight::paintPrimitive(
+    QPainter& painter, const Place<drawing::Primitive>& place, const PlaneMap& map)
 {
-    const drawing::Primitive& primitive = piece.group->primitives[piece.index];
+    const drawing::Primitive& primitive = *place.piece;
     QPolygonF part;
     for (quint32 i = primitive.first; i < primitive.first + primitive.count; ++i) {
-        const QPointF& vertex = piece.group->vertices[i];
+        const QPointF& vertex = place.group->vertices[i];
         if (!std::isnan(vertex.x())) {
             part.append(map.toPixel(vertex));
             continue;

@@ -223,23 +223,13 @@ std::vector<int> CanvasPick::within(const Box& box, Mode mode) const
 
 std::vector<int> CanvasPick::shown(const std::vector<int>& entities) const
 {
-    const EntitySet wanted(entities);
     EntitySet found;
-    const auto note = [&](int entity) {
-        if (wanted.contains(entity))
-            found.insert(entity);
+    const auto note = [&found](const ShownScene::Group&, const auto& piece) {
+        found.insert(piece.entity);
     };
-    const auto noteAll = [&note](const ShownScene& scene) {
-        scene.forEachGroup([&note](const ShownScene::Group& group) {
-            for (const Primitive& primitive : group.geometry.primitives)
-                note(primitive.entity);
-            for (const TextRun& run : group.geometry.texts)
-                note(run.entity);
-        });
-    };
-    noteAll(m_scene);
+    m_scene.forEachPieceOf(entities, note);
     for (const ShownScene::Window& window : m_scene.windows())
-        noteAll(*window.scene);
+        window.scene->forEachPieceOf(entities, note);
     return found.entities();
 }
 
@@ -264,15 +254,8 @@ void CanvasPick::addThrough(
 drawing::Box CanvasPick::bounds(const std::vector<int>& entities) const
 {
     drawing::Box box;
-    const EntitySet wanted(entities);
-    const auto add = [&](const auto& piece) {
-        if (wanted.contains(piece.entity))
-            box.add(piece.bounds);
-    };
-    m_scene.forEachGroup([&add](const ShownScene::Group& group) {
-        std::for_each(group.geometry.primitives.begin(), group.geometry.primitives.end(), add);
-        std::for_each(group.geometry.texts.begin(), group.geometry.texts.end(), add);
-    });
+    m_scene.forEachPieceOf(
+        entities, [&box](const ShownScene::Group&, const auto& piece) { box.add(piece.bounds); });
     for (const ShownScene::Window& window : m_scene.windows())
         addThrough(window, entities, box);
     return box;

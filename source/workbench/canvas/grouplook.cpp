@@ -51,6 +51,7 @@ public:
                            const Layer* around = find(owner);
                            return around && around->properties.frozen;
                        });
+        look.counts = !whole || !layer || !drawing::isNeverPlotted(layer->properties.name);
         look.color = colorOf(group.style.color);
         look.color.setAlphaF(
             1 - settingOf(group.style.transparency, &LayerProperties::transparency) / 100.0);

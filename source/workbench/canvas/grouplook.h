@@ -12,6 +12,7 @@
 struct GroupLook
 {
     bool visible = true;
+    bool counts = true; ///< For the extents; marks of dimensions do not.
     QColor color;
     drawing::LinetypePatternPointer linetype; ///< Null for unbroken lines.
     int lineweight = 0;                       ///< In hundredths of a millimetre.

@@ -21,7 +21,7 @@ ShownScene::ShownScene(Scene scene, const LookSource& source)
             all.add(group.bounds);
     }
     forEachGroup([this](const Group& group) {
-        if (!m_scene.parts[group.part]->isEndless)
+        if (group.look.counts && !m_scene.parts[group.part]->isEndless)
             m_extents.add(group.geometry.bounds);
         m_vertexCount +=
             group.geometry.vertices.size() + group.geometry.texts.size() * kVerticesOfText;

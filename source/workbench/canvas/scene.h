@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entityset.h"
 #include "geometry/geometry.h"
 #include "grouplook.h"
 
@@ -52,6 +53,11 @@ public:
                 visit(Group{groups[i], m_looks[part][i], part});
         }
     }
+
+    /// Calls `visit(group, primitive)` and `visit(group, text)` for what is seen of these entities,
+    /// given in ascending order.
+    template <class Visit>
+    void forEachPieceOf(const std::vector<int>& entities, Visit visit) const;
 
     /// The pieces of a group to look at: all of them, or those at the given places.
     struct Pieces
@@ -108,6 +114,28 @@ private:
     drawing::Box m_extents;
     std::size_t m_vertexCount = 0;
 };
+
+template <class Visit>
+void ShownScene::forEachPieceOf(const std::vector<int>& entities, Visit visit) const
+{
+    const EntitySet wanted(entities);
+    for (std::size_t part = 0; part < m_looks.size(); ++part) {
+        const drawing::EntityRange& range = m_scene.parts[part]->entities;
+        const auto next =
+            std::lower_bound(entities.begin(), entities.end(), static_cast<int>(range.first));
+        if (next == entities.end() || static_cast<std::size_t>(*next) >= range.last)
+            continue;
+        forEachGroupOf(part, [&](const Group& group) {
+            const auto offer = [&](const auto& piece) {
+                if (wanted.contains(piece.entity))
+                    visit(group, piece);
+            };
+            std::for_each(
+                group.geometry.primitives.begin(), group.geometry.primitives.end(), offer);
+            std::for_each(group.geometry.texts.begin(), group.geometry.texts.end(), offer);
+        });
+    }
+}
 
 template <class Visit>
 void ShownScene::forEachGroupNear(const drawing::Box& box, Visit visit) const

@@ -26,7 +26,9 @@ constexpr std::size_t kPartLength = 32768;
 /// Drawings up to this size are flattened immediately.
 constexpr std::size_t kEntitiesAtOnce = 5000;
 constexpr GeometryAmount kRoomAtOnce{100000, 10000, 2000};
-constexpr int kPublishMilliseconds = 100;
+/// Until what has come first is handed out. Each time it takes twice as long, for painting what is
+/// not all of it takes time from the rest.
+constexpr int kPublishMilliseconds = 60;
 /// The event that a thread posts when it has finished a part.
 constexpr auto kPartBuilt = static_cast<QEvent::Type>(QEvent::User + 1);
 
@@ -74,7 +76,6 @@ SceneBuilder::SceneBuilder(QObject* parent) : QObject(parent)
     m_resume.setSingleShot(true);
     connect(&m_resume, &QTimer::timeout, this, &SceneBuilder::resume);
     m_publish.setSingleShot(true);
-    m_publish.setInterval(kPublishMilliseconds);
     connect(&m_publish, &QTimer::timeout, this, &SceneBuilder::publish);
 }
 
@@ -163,6 +164,7 @@ void SceneBuilder::resume()
     std::vector<GeometryPart> others = m_parts;
     for (const std::size_t part : m_stale)
         others[part] = nullptr;
+    m_publish.setInterval(kPublishMilliseconds);
     m_build = std::make_shared<Build>(m_drawing->geometrySource(), roomBeside(others));
     for (const std::size_t part : m_stale)
         m_build->parts.emplace_back(part, m_ranges[part]);
@@ -250,6 +252,7 @@ void SceneBuilder::finish()
 void SceneBuilder::publish()
 {
     m_publish.stop();
+    m_publish.setInterval(m_publish.interval() * 2);
     Scene scene;
     for (const GeometryPart& part : m_parts) {
         if (part && !part->groups.empty())
