@@ -691,5 +691,9 @@
         <source>图层状态“%1”：图形中没有图层“%2”。</source>
         <translation>Layer state “%1”: the drawing has no layer “%2”.</translation>
     </message>
+    <message>
+        <source>不能更改此视口中的视图。</source>
+        <translation>The view in this viewport cannot be changed.</translation>
+    </message>
 </context>
 </TS>

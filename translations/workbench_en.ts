@@ -445,6 +445,10 @@
         <source>正在更改图形...</source>
         <translation>Changing the drawing...</translation>
     </message>
+    <message>
+        <source>移动视口中的视图</source>
+        <translation>Move View in Viewport</translation>
+    </message>
 </context>
 <context>
     <name>RecentFiles</name>

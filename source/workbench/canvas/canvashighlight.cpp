@@ -36,7 +36,7 @@ CanvasHighlight::CanvasHighlight(ScenePointer scene, std::vector<int> entities)
 
 bool CanvasHighlight::isCheap() const
 {
-    constexpr std::size_t kCheapVertices = 20'000;
+    constexpr std::size_t kCheapVertices = 20000;
     return m_entities.size() <= kFewEntities && m_vertices <= kCheapVertices;
 }
 
