@@ -1056,10 +1056,6 @@ See --help for the usage.
         <translation>Start a layer command when the drawing is open: %1.</translation>
     </message>
     <message>
-        <source>命令</source>
-        <translation>command</translation>
-    </message>
-    <message>
         <source>把窗口画成 PNG 文件并退出。</source>
         <translation>Paint the window into a PNG file and exit.</translation>
     </message>
@@ -1080,14 +1076,6 @@ See --help for the usage.
         <translation>List the layer table on standard output as JSON and exit, without a window.</translation>
     </message>
     <message>
-        <source>显示的语言，zh 或 en；不给时依菜单中的选择，再依区域设置。</source>
-        <translation>The language to show, zh or en; without it that of the menu counts, then that of the locale.</translation>
-    </message>
-    <message>
-        <source>语言</source>
-        <translation>language</translation>
-    </message>
-    <message>
         <source>图层工作台: 打开 DXF 图形，管理其中的图层。</source>
         <translation>Layer Workbench: opens DXF drawings and manages their layers.</translation>
     </message>
@@ -1106,14 +1094,6 @@ See --help for the usage.
     <message>
         <source>一次只能打开一个图形。</source>
         <translation>Only one drawing can be opened at a time.</translation>
-    </message>
-    <message>
-        <source>没有图层命令“%1”。</source>
-        <translation>There is no layer command “%1”.</translation>
-    </message>
-    <message>
-        <source>没有语言“%1”；可用 zh 或 en。</source>
-        <translation>There is no language “%1”; use zh or en.</translation>
     </message>
     <message>
         <source>--list 需要一个图形。</source>
@@ -1370,6 +1350,50 @@ See --help for the usage.
     <message>
         <source>图层模块的库文件；不给时用安装的模块，或环境变量 LAYERBENCH_MODULE 所指的。</source>
         <translation>The layer module&apos;s library; without it the installed one, or the one the environment variable LAYERBENCH_MODULE names.</translation>
+    </message>
+    <message>
+        <source>--%1 没有“%2”；可用 %3。</source>
+        <translation>--%1 knows no “%2”; there are %3.</translation>
+    </message>
+    <message>
+        <source>显示的语言: %1；不给时依菜单中的选择，再依区域设置。</source>
+        <translation>The language to show: %1; without it that of the menu counts, then that of the locale.</translation>
+    </message>
+    <message>
+        <source>输出命令补全脚本并退出: %1。</source>
+        <translation>Print the script that completes command lines in a shell, and end: %1.</translation>
+    </message>
+    <message>
+        <source>输出手册页 layerbench(1)（roff）并退出。</source>
+        <translation>Print the manual page layerbench(1), in roff, and end.</translation>
+    </message>
+    <message>
+        <source>用法</source>
+        <translation>Synopsis</translation>
+    </message>
+    <message>
+        <source>layerbench [选项...] [图形]</source>
+        <translation>layerbench [OPTION...] [DRAWING]</translation>
+    </message>
+    <message>
+        <source>选项</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>返回值</source>
+        <translation>Exit status</translation>
+    </message>
+    <message>
+        <source>正常时返回 0；文件读不出或写不成时返回 1；用法有误时返回 2。</source>
+        <translation>0 when all went well, 1 when a file could not be read or written, 2 when the usage was wrong.</translation>
+    </message>
+    <message>
+        <source>另见</source>
+        <translation>See also</translation>
+    </message>
+    <message>
+        <source>词</source>
+        <translation>word</translation>
     </message>
 </context>
 </TS>

@@ -25,11 +25,10 @@ QString escaped(const QString& text)
     return all;
 }
 
-QString title(const char* program, const char* version)
+QString title(const char* program, const QString& version)
 {
     const QString name = QLatin1String(program);
-    return QStringLiteral(".TH %1 1 \"\" \"%2 %3\"\n")
-        .arg(name.toUpper(), name, QLatin1String(version));
+    return QStringLiteral(".TH %1 1 \"\" \"%2 %3\"\n").arg(name.toUpper(), name, version);
 }
 
 QString section(const QString& heading)

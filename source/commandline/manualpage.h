@@ -9,8 +9,8 @@ namespace commandline::manualpage {
 /// broken between Chinese characters, which roff would not do by itself.
 QString escaped(const QString& text);
 
-QString title(const char* program, const char* version); ///< For section 1 of the manual.
-QString section(const QString& heading);                 ///< The heading of the text after it.
+QString title(const char* program, const QString& version); ///< For section 1 of the manual.
+QString section(const QString& heading);                    ///< The heading of the text after it.
 QString subsection(const QString& heading);
 QString line(const QString& text); ///< A line directly after a heading.
 QString paragraph(const QString& text);

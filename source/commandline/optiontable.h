@@ -27,6 +27,7 @@ struct OptionRow
     const char* choices = ""; ///< For a `Choice`, the words, separated by blanks.
     bool several = false;     ///< Whether it may be given more than once.
     bool shapesResult = true; ///< Whether its value can affect the result for a drawing.
+    char letter = 0;          ///< The short form, where there is one.
 };
 
 /// A section of a table of options.

@@ -37,8 +37,14 @@ done
 quietly "$prefix/bin/layertool" list "$samples/office-floor.dxf"
 quietly "$prefix/bin/layerbench" --gallery "$work/gallery"
 [ -s "$work/gallery/layer-properties.png" ] || fail "the installed workbench shows no layer manager"
-for page in "$prefix"/share/man/man1/*.1; do
-    grep -q '^\.SH' "$page" || fail "$page is no manual page"
+for program in layertool layerbench; do
+    grep -q '^\.TP' "$prefix/share/man/man1/$program.1" || fail "the manual page of $program tells no option"
+    offered=$(
+        . "$prefix/share/bash-completion/completions/$program"
+        COMP_WORDS=("$program" list --lang) COMP_CWORD=2
+        "_$program" && echo "${COMPREPLY[@]}"
+    )
+    [ "$offered" = --language ] || fail "bash is offered '$offered' for $program"
 done
 
 for example in renamelayers host; do

@@ -33,7 +33,7 @@ QString verbEntry(const VerbRow& verb)
 
 int runMan(const Arguments&)
 {
-    QString text = page::title("layertool", LAYERTOOL_VERSION);
+    QString text = page::title("layertool", QStringLiteral(LAYERTOOL_VERSION));
     text += page::section(Texts::tr("名称")) + QStringLiteral("layertool \\- ") +
             page::line(Texts::tr("处理一个或许多 DXF 图形的图层，不需要窗口。"));
     text += page::section(Texts::tr("用法")) +
