@@ -30,12 +30,31 @@ def documented():
 def tags(path):
     """How often each tag is in a text file."""
     lines = path.read_bytes().split(b"\n")
-    return collections.Counter(
-        (code.strip(), value.rstrip(b"\r")) for code, value in zip(lines[::2], lines[1::2]))
+    return collections.Counter((int(code), value.rstrip(b"\r")) for code, value in zip(lines[::2], lines[1::2]))
+
+
+def is_handle(code):
+    return code in (5, 105, 1005) or 320 <= code <= 369 or 390 <= code <= 399 or 480 <= code <= 481
+
+
+def meanings(counted):
+    """The same without handles, which may be given anew, and without regard to how numbers are spelled."""
+    plain = collections.Counter()
+    for (code, value), count in counted.items():
+        if not is_handle(code):
+            try:
+                plain[code, round(float(value), 9)] += count
+            except ValueError:
+                plain[code, value.strip()] += count
+    return plain
+
+
+def difference(before, after):
+    return (before - after).total(), (after - before).total()
 
 
 def run(script, drawing):
-    """Seconds of the fastest run, and the tags that went and came; None where it failed."""
+    """Seconds of the fastest run, the tags that went and came, and those of another meaning; None where it failed."""
     seconds = []
     for _ in range(RUNS):
         with tempfile.TemporaryDirectory() as folder:
@@ -52,11 +71,11 @@ def run(script, drawing):
                 return None
             results = sorted(pathlib.Path(folder).glob("plan*.dxf"), key=lambda path: path.stat().st_mtime_ns)
             before, after = tags(drawing), tags(results[-1])
-    return min(seconds), (before - after).total(), (after - before).total()
+    return min(seconds), *difference(before, after), *difference(meanings(before), meanings(after))
 
 
 def show(measured):
-    return "failed" if measured is None else "{:.2f} s, -{} +{} tags".format(*measured)
+    return "failed" if measured is None else "{:.2f} s, -{} +{} (-{} +{})".format(*measured)
 
 
 def main():
