@@ -31,15 +31,16 @@ mkdir -m 700 "$root/tmp/home" "$root/tmp/run"
 cp "$packages"/*.deb "$root/packages"
 inside apt-get update -qq
 names=$(for package in "$packages"/*.deb; do dpkg-deb -f "$package" Package; done)
+files=$(cd "$packages" && printf '/packages/%s ' *.deb)
 echo "packages: $(inside dpkg-query -W | wc -l)"
 
 step "installed and removed once, so that what they depend on is there"
-install /packages/*.deb g++ cmake make pkg-config fonts-wqy-zenhei
+install $files g++ cmake make pkg-config fonts-wqy-zenhei
 inside apt-get purge -y -qq $names >/dev/null
 everything >"$work/before"
 
 step "installed"
-install /packages/*.deb
+install $files
 inside dpkg-query -W -f '${Package} ${Version} ${Architecture} ${Installed-Size} kB\n' $names
 samples=/usr/share/quenlith-layers/samples
 

@@ -54,7 +54,7 @@ for example in renamelayers host; do
 done
 export PKG_CONFIG_PATH=$lib/pkgconfig
 mkdir "$work/by-pkgconfig"
-quietly g++ -std=c++17 "$source/examples/renamelayers/main.cpp" -o "$work/by-pkgconfig/renamelayers" \
+quietly g++ -std=c++17 -fPIC "$source/examples/renamelayers/main.cpp" -o "$work/by-pkgconfig/renamelayers" \
     $(pkg-config --cflags --libs quenlith-layers-drawing)
 pkg-config --validate quenlith-layers-host
 
