@@ -174,6 +174,12 @@ public:
         });
     }
 
+    void showAll()
+    {
+        window.runCommand(QStringLiteral("ZOOM"));
+        finishPicture();
+    }
+
     Canvas& canvas() const { return *window.canvas(); }
 
     MainWindow window;
@@ -289,7 +295,7 @@ tl::expected<Sides, QString> frame(
     return Sides{[=] { return act(*session); },
         [=] {
             const double out = session->zoomed(-1);
-            session->window.runCommand(QStringLiteral("ZOOM"));
+            session->showAll();
             return out;
         },
         QStringLiteral("painting all of it anew")};
