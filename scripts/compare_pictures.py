@@ -18,6 +18,7 @@ import matplotlib
 
 matplotlib.use("Agg")
 
+import ezdxf
 from ezdxf import recover
 from ezdxf.addons.drawing import Frontend, RenderContext
 from ezdxf.addons.drawing.matplotlib import MatplotlibBackend
@@ -36,6 +37,13 @@ def ours(layerbench, drawing, folder):
         stderr=subprocess.DEVNULL,
     )
     return sorted(pathlib.Path(folder).glob("*.png"))
+
+
+def read(path):
+    """Broken text files are mended as far as possible; binary ones are read as they are."""
+    with open(path, "rb") as file:
+        is_binary = file.read(22).endswith(b"DXF\r\n\x1a\0")
+    return ezdxf.readfile(path) if is_binary else recover.readfile(path)[0]
 
 
 def theirs(document, layout, path):
@@ -62,7 +70,7 @@ def main():
     target = pathlib.Path(folder)
     target.mkdir(parents=True, exist_ok=True)
     for drawing in map(pathlib.Path, drawings):
-        document, _ = recover.readfile(drawing)
+        document = read(drawing)
         with tempfile.TemporaryDirectory() as scratch:
             painted = ours(layerbench, drawing, scratch)
             for number, name in enumerate(document.layout_names_in_taborder()):
