@@ -1,6 +1,6 @@
 #include "RxObjectImpl.h"
-#include "commands/posing.h"
 #include "hostextras.h"
+#include "hostfrontend.h"
 #include "rows.h"
 #include "serveddialog.h"
 #include "stopwatch.h"
@@ -46,6 +46,29 @@ private:
     int m_count;
 };
 
+/// While it lives, answers every dialog that the host is asked for in the user's place: with OK and
+/// a file to open, whichever.
+class FileChooser : public host::HostFrontEnd
+{
+public:
+    FileChooser() : m_previous(host::setHostFrontEnd(this)) {}
+    ~FileChooser() override { host::setHostFrontEnd(m_previous); }
+    FileChooser(const FileChooser&) = delete;
+    FileChooser& operator=(const FileChooser&) = delete;
+
+    int showDialog(const OdString&, const OdString&, const VnJsonPtr& tree, const OdRxObjectPtr&,
+        QWidget*) override
+    {
+        const VnJsonPtr paths = hostextras::createArray(1);
+        hostextras::appendText(paths, L"standard.dxf");
+        tree->SetDataJ("filePaths", paths);
+        return 1;
+    }
+
+private:
+    host::HostFrontEnd* m_previous;
+};
+
 VnJsonPtr makeTree(int count)
 {
     VnJsonPtr tree = ElementValue::createObject(4);
@@ -62,7 +85,7 @@ struct Translator
     {
         if (!dialog.isMade())
             return;
-        const posing::FileChooser chooser;
+        const FileChooser chooser;
         dialog.find<QPushButton>("loadButton")->click();
         mapSame = dialog.find<QPushButton>("mapSameButton");
     }

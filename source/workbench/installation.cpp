@@ -15,6 +15,11 @@ QString besideProgram(const QString& path)
     return QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).filePath(path));
 }
 
+QDir samples()
+{
+    return QDir(besideProgram(QLatin1String(LAYERBENCH_DATA_FOLDER "/samples")));
+}
+
 } // namespace
 
 QString modulePath(const QString& named)
@@ -31,9 +36,14 @@ QString modulePath(const QString& named)
 
 QString sampleDrawing()
 {
-    const QDir samples(besideProgram(QLatin1String(LAYERBENCH_DATA_FOLDER "/samples")));
-    const QStringList found = samples.entryList({QStringLiteral("*.dxf")}, QDir::Files, QDir::Name);
-    return found.isEmpty() ? QString() : samples.filePath(found.first());
+    const QStringList found =
+        samples().entryList({QStringLiteral("*.dxf")}, QDir::Files, QDir::Name);
+    return found.isEmpty() ? QString() : samples().filePath(found.first());
+}
+
+QString sampleStandard()
+{
+    return samples().filePath(QStringLiteral("office-standard.dxf"));
 }
 
 } // namespace installation

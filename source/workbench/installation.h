@@ -13,5 +13,7 @@ QString modulePath(const QString& named);
 
 /// The path of the first sample drawing; empty when none is installed.
 QString sampleDrawing();
+/// The layer standard among the samples, whether it is installed or not.
+QString sampleStandard();
 
 } // namespace installation

@@ -1,6 +1,6 @@
 #include "benchtexts.h"
 #include "documents.h"
-#include "gallery.h"
+#include "gallery/gallery.h"
 #include "hoststart.h"
 #include "hostwindows.h"
 #include "installation.h"
@@ -81,7 +81,9 @@ int makePictures(const Options& options)
             return fail(options.screenshot, saved.error());
     }
     if (!options.gallery.isEmpty()) {
-        if (const auto saved = writeGallery(window, options.gallery); !saved)
+        if (const auto saved =
+                writeGallery(window, options.gallery, installation::sampleStandard());
+            !saved)
             return fail(options.gallery, saved.error());
     }
     return Fine;

@@ -491,16 +491,6 @@ CommandContext MainWindow::commandContext()
         m_panel->memory()};
 }
 
-void MainWindow::pose(const LayerCommand::Camera& camera)
-{
-    camera(QStringLiteral("workbench"), *this);
-    if (!drawing())
-        return;
-    CommandContext context = commandContext();
-    for (const CommandRow& row : CommandTable())
-        row.create()->pose(context, camera);
-}
-
 QString MainWindow::askForFile()
 {
     const QString folder = drawing() ? QFileInfo(drawing()->path()).path() : QString();

@@ -34,9 +34,6 @@ public:
     /// Runs a typed command. If that is not possible, the command line says why.
     void runCommand(const QString& word);
 
-    /// Passes the window and each dialog of the layer commands to the camera.
-    void pose(const LayerCommand::Camera& camera);
-
     drawing::Drawing* drawing() const;
     Canvas* canvas() const { return m_canvas; }
     /// Whether the canvas shows all of the drawing in its present state.

@@ -40,13 +40,8 @@ struct CommandContext
 class LayerCommand
 {
 public:
-    /// Saves a picture of a window under a file name without extension.
-    using Camera = std::function<void(const QString& name, QWidget& window)>;
-
     virtual ~LayerCommand() = default;
     /// Runs the command with all its dialogs. A step of the drawing is open meanwhile and is
     /// committed afterwards, so everything that the command changes is undone at once.
     virtual void run(CommandContext& context) = 0;
-    /// Passes each of the command's dialogs, filled from the drawing, to the camera.
-    virtual void pose(CommandContext& context, const Camera& camera) = 0;
 };

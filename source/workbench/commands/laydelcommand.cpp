@@ -4,7 +4,6 @@
 #include "drawing.h"
 #include "layermarks.h"
 #include "layertoolkeys.h"
-#include "posing.h"
 #include "recordprovider.h"
 
 using vnsi::VnJsonPtr;
@@ -55,10 +54,4 @@ void LayerDeleteCommand::answer(const drawing::Drawing& drawing, const VnJsonPtr
             selected.push_back(layerrecords::idOf(record));
     }
     tree->SetDataB(vnsi::layertoolkey::kIsExistBlock, drawing.isReferencedInBlocks(selected));
-}
-
-void LayerDeleteCommand::pose(CommandContext& context, const Camera& camera)
-{
-    posing::showDialog(
-        kService, kDialog, makeTree(context.drawing), camera, QStringLiteral("layer-delete"));
 }

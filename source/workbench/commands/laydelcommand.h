@@ -8,7 +8,6 @@ class LayerDeleteCommand : public LayerCommand
 {
 public:
     void run(CommandContext& context) override;
-    void pose(CommandContext& context, const Camera& camera) override;
 
 private:
     static vnsi::VnJsonPtr makeTree(const drawing::Drawing& drawing);

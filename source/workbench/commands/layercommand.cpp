@@ -7,7 +7,6 @@
 #include "layerchanges.h"
 #include "layermarks.h"
 #include "namerule.h"
-#include "posing.h"
 #include "recordprovider.h"
 
 #include <QSet>
@@ -128,17 +127,4 @@ void LayerPropertiesCommand::apply(CommandContext& context, const VnJsonPtr& tre
     for (const QString& notice : drawing.takeNotices())
         context.say(notice);
     layermarks::report(context, Texts::tr("有 %1 项修改未能应用：").arg(refusals.size()), refusals);
-}
-
-void LayerPropertiesCommand::pose(CommandContext& context, const Camera& camera)
-{
-    posing::showDialog(kService, kDialog, makeTree(context.drawing), camera,
-        QStringLiteral("layer-properties"), [&camera](QWidget& dialog) {
-            posing::showNested(
-                dialog, "slot_TableCellClicked", 0, 5, camera, QStringLiteral("host-color"));
-            posing::showNested(dialog, "slot_TableCellClicked", 0, 8, camera,
-                QStringLiteral("layer-transparency"));
-            posing::showNested(
-                dialog, "slot_TableCellDoubleClicked", 1, 1, camera, QStringLiteral("host-rename"));
-        });
 }

@@ -8,7 +8,6 @@ class LayerPropertiesCommand : public LayerCommand
 {
 public:
     void run(CommandContext& context) override;
-    void pose(CommandContext& context, const Camera& camera) override;
 
 private:
     static void answer(CommandContext& context, const vnsi::VnJsonPtr& tree);

@@ -15,7 +15,6 @@ class LayerStateCommand : public LayerCommand
 {
 public:
     void run(CommandContext& context) override;
-    void pose(CommandContext& context, const Camera& camera) override;
 
 private:
     struct RequestRow;

@@ -4,7 +4,6 @@
 #include "drawing.h"
 #include "layermarks.h"
 #include "layertoolkeys.h"
-#include "posing.h"
 #include "recordprovider.h"
 #include "vnstrings.h"
 
@@ -94,10 +93,4 @@ void LayerChangeCommand::move(CommandContext& context, drawing::LayerId target)
     if (locked > 0)
         text += Texts::tr("%1 个对象在锁定的图层上，未作更改。").arg(locked);
     layermarks::tell(context, text);
-}
-
-void LayerChangeCommand::pose(CommandContext& context, const Camera& camera)
-{
-    posing::showDialog(
-        kService, kDialog, makeTree(context.drawing), camera, QStringLiteral("layer-change"));
 }

@@ -11,7 +11,6 @@ class LayerChangeCommand : public LayerCommand
 {
 public:
     void run(CommandContext& context) override;
-    void pose(CommandContext& context, const Camera& camera) override;
 
 private:
     static vnsi::VnJsonPtr makeTree(const drawing::Drawing& drawing);

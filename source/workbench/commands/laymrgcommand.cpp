@@ -4,7 +4,6 @@
 
 #include "drawing.h"
 #include "layertoolkeys.h"
-#include "posing.h"
 #include "recordprovider.h"
 #include "vnstrings.h"
 #include "vntaskdialog.h"
@@ -140,17 +139,4 @@ void LayerMergeCommand::merge(CommandContext& context, const Layers& sources, co
         context.say(Texts::tr("已将 %1 个图层合并到图层“%2”。")
                         .arg(layers.size())
                         .arg(target.front().name));
-}
-
-void LayerMergeCommand::pose(CommandContext& context, const Camera& camera)
-{
-    const VnJsonPtr sourceTree = makeSourceTree(context.drawing);
-    const VnJsonPtr list = sourceTree->GetDataJ(key::kList);
-    posing::showDialog(
-        kService, kDialog, sourceTree, camera, QStringLiteral("layer-merge-sources"));
-    if (list.ArrayCount() == 0)
-        return;
-    const Layers sources = {{layerrecords::idOf(list(0)), layerrecords::nameOf(list(0))}};
-    posing::showDialog(kService, kDialog, makeTargetTree(context.drawing, sources), camera,
-        QStringLiteral("layer-merge-target"));
 }

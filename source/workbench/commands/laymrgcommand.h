@@ -10,7 +10,6 @@ class LayerMergeCommand : public LayerCommand
 {
 public:
     void run(CommandContext& context) override;
-    void pose(CommandContext& context, const Camera& camera) override;
 
 private:
     using Layers = std::vector<layermarks::Marked>;

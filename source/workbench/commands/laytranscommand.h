@@ -13,7 +13,6 @@ class LayerTranslateCommand : public LayerCommand
 {
 public:
     void run(CommandContext& context) override;
-    void pose(CommandContext& context, const Camera& camera) override;
 
 private:
     struct RequestRow;
@@ -43,8 +42,7 @@ private:
     void report(const drawing::TranslationReport& report);
     void writeLog(
         const drawing::TranslationReport& report, const drawing::TranslationOptions& options);
-    void answerWithSamples(const vnsi::VnJsonPtr& tree);
-    /// Shows what the last request could not do, under this heading.
+    /// Shows what the last request could not do, under a line of its own.
     void tellProblems(const QString& title);
 
     CommandContext* m_context = nullptr;

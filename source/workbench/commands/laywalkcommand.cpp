@@ -7,7 +7,6 @@
 #include "drawing.h"
 #include "layerkeys.h"
 #include "layermarks.h"
-#include "posing.h"
 #include "recordprovider.h"
 #include "statekeys.h"
 #include "statelist.h"
@@ -297,22 +296,4 @@ void LayerWalkCommand::pick(const VnJsonPtr& root)
         hostextras::appendText(names, vnsi::vnutQStringToOdString(layer->properties.name));
     }
     root->SetDataJ(walkkey::kPickedNames, names);
-}
-
-void LayerWalkCommand::pose(CommandContext& context, const Camera& camera)
-{
-    m_context = &context;
-    const VnJsonPtr tree = vnsi::ElementValue::createObject(8);
-    const VnJsonPtr layers = makeLayers();
-    tree->SetDataJ(walkkey::kLayers, layers);
-    const VnJsonPtr list = layers->GetDataJ(key::kList);
-    LayerRecord(list(2)).setFlag(walkkey::kAlwaysShow, true);
-    posing::showDialog(
-        walkdialog::kService, walkdialog::kWalk, tree, camera, QStringLiteral("layer-walk"));
-    for (int i = 0, count = list.ArrayCount(); i < count; i += 2)
-        LayerRecord(list(i)).setFlag(key::kIsSelected, true);
-    tree->SetDataJ(vnsi::requestkey::kParameter, layers);
-    count(tree);
-    posing::showDialog(walkdialog::kService, walkdialog::kVerify, tree, camera,
-        QStringLiteral("layer-walk-verify"));
 }

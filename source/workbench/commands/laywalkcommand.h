@@ -13,7 +13,6 @@ class LayerWalkCommand : public LayerCommand
 {
 public:
     void run(CommandContext& context) override;
-    void pose(CommandContext& context, const Camera& camera) override;
 
 private:
     struct RequestRow;

@@ -157,8 +157,6 @@ public:
         layermarks::report(context, Texts::tr("有些更改没有完成："), refusals);
     }
 
-    void pose(CommandContext&, const Camera&) override {}
-
 private:
     Layers layers(CommandContext& context) const
     {

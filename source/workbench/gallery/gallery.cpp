@@ -2,12 +2,17 @@
 
 #include "benchtexts.h"
 #include "canvas.h"
+#include "commandtable.h"
 #include "mainwindow.h"
+#include "poser.h"
+#include "samples.h"
 #include "statusfields.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QPixmap>
+
+#include <numeric>
 
 drawing::Expected<void> savePicture(QWidget& widget, const QString& path)
 {
@@ -32,13 +37,27 @@ drawing::Expected<void> writeSheets(MainWindow& window, const QString& folder)
     return {};
 }
 
-drawing::Expected<void> writeGallery(MainWindow& window, const QString& folder)
+drawing::Expected<void> writeGallery(
+    MainWindow& window, const QString& folder, const QString& standard)
 {
     drawing::Expected<void> outcome;
-    window.pose([&](const QString& name, QWidget& shown) {
+    const auto camera = [&](const QString& name, QWidget& shown) {
         const QString path = QDir(folder).filePath(name + QStringLiteral(".png"));
         if (auto saved = savePicture(shown, path); !saved)
             outcome = std::move(saved);
-    });
+    };
+    camera(QStringLiteral("workbench"), window);
+    if (!window.drawing())
+        return outcome;
+    gallerysamples::addStates(*window.drawing());
+    std::vector<int> all(window.drawing()->entities().size());
+    std::iota(all.begin(), all.end(), 0); // Commands that need a selection take what is shown.
+    const Poser poser(camera, standard);
+    for (const CommandRow& row : CommandTable()) {
+        if (!row.icon)
+            continue; // Without a dialog.
+        window.canvas()->setSelection(all);
+        window.runCommand(QLatin1String(row.name));
+    }
     return outcome;
 }
