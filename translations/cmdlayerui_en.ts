@@ -938,7 +938,7 @@ are shown there. Otherwise all layers of the drawing are shown.</translation>
     </message>
     <message>
         <source>与 DWG 相同</source>
-        <translation>Same as Drawing</translation>
+        <translation>Same as DWG</translation>
     </message>
     <message>
         <source>说明</source>

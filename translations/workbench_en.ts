@@ -62,19 +62,19 @@
     <name>FilterPane</name>
     <message>
         <source>全部图层</source>
-        <translation>All Layers</translation>
+        <translation>All</translation>
     </message>
     <message>
         <source>使用中的图层</source>
-        <translation>All Used Layers</translation>
+        <translation>Used</translation>
     </message>
     <message>
         <source>未使用的图层</source>
-        <translation>Unused Layers</translation>
+        <translation>Unused</translation>
     </message>
     <message>
         <source>外部参照的图层</source>
-        <translation>Xref Layers</translation>
+        <translation>Xrefs</translation>
     </message>
     <message>
         <source>过滤器表达式</source>

@@ -249,8 +249,8 @@ bool LayerColumn::readFlag(const QString& typed, bool& value) const
     static const QStringList no = {
         QStringLiteral("0"), QStringLiteral("false"), QStringLiteral("no"), QStringLiteral("否")};
     const QString lower = typed.toLower();
-    value = lower == word(true) || yes.contains(lower);
-    return value || lower == word(false) || no.contains(lower);
+    value = lower == word(true).toLower() || yes.contains(lower);
+    return value || lower == word(false).toLower() || no.contains(lower);
 }
 
 int LayerColumns::count()

@@ -16,6 +16,7 @@ namespace {
 const char kHeaderKey[] = "panel/header";
 const char kHiddenKey[] = "panel/hiddenColumns";
 constexpr int kRowSpace = 6;
+constexpr int kHeaderSpace = 8;
 
 /// A selection of these rows with as few ranges as possible.
 QItemSelection selectionOf(const std::vector<int>& rows, const QAbstractItemModel& model)
@@ -60,7 +61,10 @@ LayerView::LayerView(LayerModel* model, QWidget* parent) : QTableView(parent), m
     head->setMinimumSectionSize(24);
     head->setContextMenuPolicy(Qt::CustomContextMenu);
     for (int column = 0; column < LayerColumns::count(); ++column)
-        setColumnWidth(column, LayerColumns::at(column).width);
+        setColumnWidth(
+            column, std::max(LayerColumns::at(column).width,
+                        fontMetrics().horizontalAdvance(LayerColumns::at(column).displayTitle()) +
+                            kHeaderSpace));
     head->setSortIndicator(model->sortColumn(), model->sortDirection());
     setSortingEnabled(true);
     applyHidden();

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QTableWidget>
 
+#include <algorithm>
+
 /// The window's layout and the connections of its widgets.
 namespace vnsi {
 
@@ -18,6 +20,9 @@ constexpr const char* kHeaders[] = {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerState
     QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "空间"),
     QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "与 DWG 相同"),
     QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerStateCmdImpl", "说明")};
+
+constexpr int kTableWidth = 360;
+constexpr int kHeaderMargin = 10;
 
 struct MaskRow
 {
@@ -79,7 +84,7 @@ QWidget* VnQtUiDynLayerStateCmdImpl::makeListPanel()
     auto* panel = new QWidget(this);
     m_table = new QTableWidget(panel);
     m_table->setObjectName(QStringLiteral("stateTable"));
-    m_table->setFixedWidth(360);
+    m_table->setFixedWidth(kTableWidth);
     m_referenceBox = makeCheckBox(QT_TR_NOOP("不列出外部参照中的图层状态(&F)"), "referenceBox");
     m_statusLabel = new QLabel(tr("当前图层状态: *未保存*"), panel);
     m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
@@ -186,9 +191,17 @@ void VnQtUiDynLayerStateCmdImpl::setUpTable()
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setSectionResizeMode(kDescriptionColumn, QHeaderView::Stretch);
-    constexpr int kWidths[] = {90, 66, 110};
+    int widths[] = {90, 66, 110, 0};
+    int room = kTableWidth - 2 * m_table->frameWidth();
+    for (int column = kColumnCount - 1; column > kNameColumn; --column) {
+        const int title = m_table->fontMetrics().horizontalAdvance(headers.at(column));
+        widths[column] = std::max(widths[column], title + kHeaderMargin);
+        room -= widths[column];
+    }
+    // What other languages need for their headers, the names give.
+    widths[kNameColumn] = std::min(widths[kNameColumn], room);
     for (int column = 0; column < kDescriptionColumn; ++column)
-        m_table->setColumnWidth(column, kWidths[column]);
+        m_table->setColumnWidth(column, widths[column]);
 }
 
 void VnQtUiDynLayerStateCmdImpl::connectWidgets()

@@ -16,11 +16,12 @@ namespace vnsi {
 namespace {
 
 constexpr int kCellMargin = 16;
+constexpr int kHeaderMargin = 8;
 
 struct MappingColumn
 {
     const char* header;
-    const char* widest; ///< A text that determines the width of the column in every font.
+    const char* widest; ///< A text that determines the width of the column in every font, with the header.
     /// The text that the column shows of a target; null for the mapped layer.
     QString (TargetRecord::*text)() const;
 };
@@ -150,9 +151,11 @@ VnQtLaytransQTableWgt::VnQtLaytransQTableWgt(QWidget* parent) : QTableWidget(par
     setColumnCount(static_cast<int>(std::size(kColumns)));
     QStringList headers;
     for (const MappingColumn& column : kColumns) {
+        const QString header = tr(column.header);
         const int text = fontMetrics().horizontalAdvance(QString::fromUtf8(column.widest));
-        setColumnWidth(headers.size(), text + kCellMargin);
-        headers.append(tr(column.header));
+        const int title = fontMetrics().horizontalAdvance(header);
+        setColumnWidth(headers.size(), std::max(text + kCellMargin, title + kHeaderMargin));
+        headers.append(header);
     }
     setHorizontalHeaderLabels(headers);
     setSelectionBehavior(QAbstractItemView::SelectRows);
