@@ -7,6 +7,7 @@ set -euo pipefail
 standard=${LAYER_STANDARD:-layers.json}
 [ -e "$standard" ] || {
     echo "没有图层标准 $standard；用 LAYER_STANDARD 指明。" >&2
+    echo "There is no layer standard $standard; name it in LAYER_STANDARD." >&2
     exit 2
 }
 # What is staged counts, not what lies in the work tree.

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs, from Debian, what building and running needs and is missing; --tests adds what tests need,
-# --pictures what scripts/compare_pictures.py needs, --fuzz what fuzzing needs, --tidy what scripts/tidy.sh needs.
+# --pictures what scripts/compare_pictures.py needs, --fuzz what fuzzing needs, --tidy what scripts/tidy.sh
+# needs, --docs what scripts/docs.sh needs.
 set -euo pipefail
 
 packages=(
@@ -15,6 +16,8 @@ elif [ "${1:-}" = "--pictures" ]; then # For compare_pictures.py.
     packages+=(python3-ezdxf python3-matplotlib)
 elif [ "${1:-}" = "--fuzz" ]; then
     packages+=(clang libclang-rt-dev python3)
+elif [ "${1:-}" = "--docs" ]; then
+    packages=(doxygen)
 elif [ "${1:-}" = "--tidy" ]; then
     packages+=(clang clang-tidy python3)
 fi
@@ -28,12 +31,12 @@ done
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || {
-        echo "需要以 root 身份安装：${missing[*]}" >&2
+        echo "需要以 root 身份安装 / to be installed as root: ${missing[*]}" >&2
         exit 1
     }
     as_root=(sudo)
 fi
-echo "安装：${missing[*]}"
+echo "安装 / installing: ${missing[*]}"
 "${as_root[@]}" apt-get update -qq
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

@@ -5,6 +5,7 @@ set -euo pipefail
 
 if [ $# -lt 3 ]; then
     echo "用法：$0 图形列表 输出文件夹 命令 [layertool 的选项...]" >&2
+    echo "Usage: $0 LIST-OF-DRAWINGS OUTPUT-FOLDER VERB [options of layertool...]" >&2
     exit 2
 fi
 here=$(cd "$(dirname "$0")" && pwd)

@@ -17,6 +17,7 @@ fi
 
 if [ $# -lt 3 ]; then
     echo "用法：$0 图形列表 输出文件夹 命令 [layertool 的选项...]" >&2
+    echo "Usage: $0 LIST-OF-DRAWINGS OUTPUT-FOLDER VERB [options of layertool...]" >&2
     exit 2
 fi
 here=$(cd "$(dirname "$0")" && pwd)
@@ -34,3 +35,4 @@ array=$(LAYERTOOL_PART=shard sbatch --parsable --requeue --array="1-${SHARDS:-8}
 report=$(LAYERTOOL_PART=report sbatch --parsable --dependency="afterany:$array" \
     --output="$out/.layertool/report.log" "$0" "$out")
 echo "已提交：数组作业 $array，做报告的作业 $report。结果在 $out/report.csv。"
+echo "Submitted: array job $array, report job $report. The results are in $out/report.csv."

@@ -49,8 +49,21 @@ def faults(lupdate, root):
             yield from (f"{name}: no longer in the sources: {text}" for text in sorted(known - now))
 
 
+def faults_of_manual(manual):
+    pages = {path.relative_to(manual).parts[1]: path for path in manual.glob("*/*.md")}
+    for folder in manual.iterdir():
+        for name in pages:
+            if not (folder / name).exists():
+                yield f"{folder.name}: no page {name}"
+                continue
+            text = (folder / name).read_text(encoding="utf-8")
+            yield from (f"{folder.name}/{name}: leads nowhere: {target}"
+                        for target in re.findall(r"\]\(([^)]+)\)", text) if not (folder / target).exists())
+
+
 def main():
-    found = list(faults(sys.argv[1], pathlib.Path(sys.argv[2])))
+    root = pathlib.Path(sys.argv[2])
+    found = [*faults(sys.argv[1], root), *faults_of_manual(root / "docs" / "manual")]
     print("\n".join(found))
     return 1 if found else 0
 
