@@ -100,7 +100,8 @@ void Poser::pose(QDialog& dialog)
             picture(dialog, row.picture);
     }
     // A dialog may ask whether it is meant; what was done for the pictures is not.
-    dialog.reject();
+    if (dialog.isVisible())
+        dialog.reject();
     if (dialog.isVisible())
         dialog.done(QDialog::Rejected);
 }
