@@ -16,7 +16,7 @@ inside() {
     chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/tmp/home LC_ALL=C.UTF-8 \
         DEBIAN_FRONTEND=noninteractive QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/tmp/run "$@"
 }
-install() { inside apt-get install -y -qq --no-install-recommends "$@" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }; }
+install() { inside apt-get install -y -qq -o Dpkg::Use-Pty=0 --no-install-recommends "$@" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }; }
 # All that packages and programs may leave behind; apt's and dpkg's own books and logs apart.
 everything() {
     (cd "$root" && find . -xdev \( -path ./proc -o -path ./tmp -o -path ./packages -o -path ./var/log -o -path ./var/cache \
@@ -36,7 +36,7 @@ echo "packages: $(inside dpkg-query -W | wc -l)"
 
 step "installed and removed once, so that what they depend on is there"
 install $files g++ cmake make pkg-config fonts-wqy-zenhei
-inside apt-get purge -y -qq $names >/dev/null
+inside apt-get purge -y -qq -o Dpkg::Use-Pty=0 $names >/dev/null
 everything >"$work/before"
 
 step "installed"
@@ -71,7 +71,7 @@ drawing = dxflayers.open("/tmp/plan.dxf")
 print(len(drawing.layers), "layers, renamed", drawing.rename({"DOORS": "A-DOOR"}))'
 
 step "removed"
-inside apt-get purge -y -qq $names >/dev/null
+inside apt-get purge -y -qq -o Dpkg::Use-Pty=0 $names >/dev/null
 everything >"$work/after"
 diff "$work/before" "$work/after"
 echo "Nothing is left."
