@@ -370,9 +370,11 @@ Expected<void> Drawing::showLayout(int layout)
 Expected<void> Drawing::setViewportView(int viewport, const ViewportView& view)
 {
     return readyToEdit().and_then([&]() -> Expected<void> {
-        const Entity& entity = entities()[static_cast<size_t>(viewport)];
-        const bool isOne = entity.kind == EntityKind::Viewport && !entity.removed;
-        if (!isOne || !writeView(d->data.file, entity, view))
+        const auto at = static_cast<size_t>(viewport);
+        const bool isThere = viewport >= 0 && at < entities().size();
+        const bool isOne =
+            isThere && entities()[at].kind == EntityKind::Viewport && !entities()[at].removed;
+        if (!isOne || !writeView(d->data.file, entities()[at], view))
             return refusal(Texts::tr("不能更改此视口中的视图。"));
         return {};
     });

@@ -25,6 +25,7 @@
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QToolBar>
 
 #include <set>
@@ -286,6 +287,11 @@ void MainWindow::showDrawing()
     connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
     m_panel->setDrawing(drawing());
     drawing()->setBreak([this] { rest(); });
+    {
+        const QSignalBlocker quiet(m_canvas); // A viewport of the last drawing is gone with it.
+        m_canvas->leaveViewport();
+    }
+    m_status->showViewport(false);
     m_canvas->clearSelection();
     m_canvas->setShowsLineweights(
         drawing::readPictureSwitches(drawing()->geometrySource().file.headerTags())
