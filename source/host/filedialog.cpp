@@ -56,7 +56,7 @@ void FileDialog::readKeys(const vnsi::VnJsonPtr& tree)
     setLabelText(Accept, isOpening ? tr("打开(&O)") : tr("保存(&S)"));
     setLabelText(Reject, tr("取消"));
 
-    QStringList filters = splitFilters(text(tree, "filter"));
+    QStringList filters = withReadableForm(splitFilters(text(tree, "filter")));
     // Drawings have various extensions, so files with unexpected ones must be selectable, too.
     if (filters.isEmpty() || (isOpening && !filters.join(QString()).contains(QLatin1String("(*)"))))
         filters.append(tr("所有文件 (*)"));
@@ -67,7 +67,8 @@ void FileDialog::readKeys(const vnsi::VnJsonPtr& tree)
     if (!folder.isEmpty() && !isName)
         setDirectory(folder);
     const QStringList chosen = splitFilters(text(tree, "defFilter"));
-    if (!chosen.isEmpty() && filters.contains(chosen.first()))
+    // Whoever asks for drawings finds those that can be read without looking for their ending.
+    if (!chosen.isEmpty() && filters.contains(chosen.first()) && !asksForDrawings(chosen.first()))
         selectNameFilter(chosen.first());
     followFilter(selectedNameFilter());
     const QString offered = isName ? folder : text(tree, "defawlt");

@@ -12,6 +12,9 @@ namespace host {
 /// file name), "Open" (true to open files, false to save one; without this key bit 0 of "flags"
 /// asks for saving), "MutiFile", "filter", "defFilter", "dir". Answer keys: "filePath"; with
 /// "MutiFile" also "filePaths".
+///
+/// When the filter asks for drawings, the form that drawings are read in is offered first and is
+/// selected. A file name to save without a suffix gets the suffix of the selected filter.
 class FileDialog : public QFileDialog
 {
     Q_OBJECT

@@ -1,6 +1,10 @@
 #include "filefilters.h"
 
+#include "hosttexts.h"
+
 #include <QRegularExpression>
+
+#include <algorithm>
 
 namespace host {
 
@@ -28,6 +32,20 @@ QStringList splitFilters(const QString& filter)
         if (!entry.isEmpty())
             entries.append(withPatterns(entry));
     }
+    return entries;
+}
+
+bool asksForDrawings(const QString& entry)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("\\*\\.dw[gst]\\b"), QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(entry).hasMatch();
+}
+
+QStringList withReadableForm(QStringList entries)
+{
+    if (std::any_of(entries.cbegin(), entries.cend(), asksForDrawings))
+        entries.prepend(Texts::tr("DXF 图形 (*.dxf)"));
     return entries;
 }
 
