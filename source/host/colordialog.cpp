@@ -87,12 +87,15 @@ ColorDialog::ColorDialog(QWidget* parent)
     QDialogButtonBox* const buttons = makeOkCancelBox(*this);
     m_ok = buttons->findChild<QPushButton*>(QStringLiteral("ok"));
 
-    auto* const bottom = new QHBoxLayout;
-    bottom->addWidget(m_preview);
-    bottom->addWidget(buttons, 1, Qt::AlignBottom);
-    auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(m_tabs);
-    layout->addLayout(bottom);
+    // At the side: low screens have no room for them below the pages.
+    buttons->setOrientation(Qt::Vertical);
+    auto* const side = new QVBoxLayout;
+    side->addWidget(m_preview);
+    side->addStretch();
+    side->addWidget(buttons);
+    auto* const layout = new QHBoxLayout(this);
+    layout->addWidget(m_tabs, 1);
+    layout->addLayout(side);
 
     connect(m_tabs, &QTabWidget::currentChanged, this, &ColorDialog::refresh);
     connect(m_indexPage, &IndexColorPage::indexChanged, this, &ColorDialog::refresh);

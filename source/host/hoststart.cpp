@@ -9,6 +9,7 @@
 #include "settings.h"
 #include "vnservicedict.h"
 #include "vnstrings.h"
+#include "windowplaces.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -33,7 +34,9 @@ constexpr ServiceRow kServices[] = {
 
 } // namespace
 
-Host::Host() : m_helpKey(std::make_unique<HelpKey>())
+Host::Host()
+    : m_helpKey(std::make_unique<HelpKey>()),
+      m_windowPlaces(std::make_unique<WindowPlaces>())
 {
     for (const ServiceRow& row : kServices)
         vnsi::vn_arbitDict_regservice(row.name, row.create());

@@ -30,6 +30,7 @@ public:
 private:
     OdRxModulePtr m_module;
     std::unique_ptr<QObject> m_helpKey;
+    std::unique_ptr<QObject> m_windowPlaces;
 };
 
 } // namespace host

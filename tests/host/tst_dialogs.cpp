@@ -6,6 +6,7 @@
 #include "modaldriver.h"
 #include "recordinghost.h"
 #include "rows.h"
+#include "settings.h"
 #include "trees.h"
 #include "valuetree.h"
 #include "vnservicedict.h"
@@ -14,6 +15,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QtTest>
@@ -146,6 +148,14 @@ private slots:
             R"({"caption":"输出图层状态","Open":false,"MutiFile":false,)"
             "\"filter\":\"图层状态(*.las)\",\"defFilter\":\"图层状态(*.las)\"}",
             "输出图层状态|0|0|图层状态(*.las)|las|1");
+        const QString drawings = QStringLiteral("\"filter\":\"图形(*.DWG);;标准(*.dws)\"");
+        row("drawings to open", "{" + drawings + ",\"defFilter\":\"标准(*.dws)\"}",
+            "选择文件|1|0|DXF 图形 (*.dxf)||4");
+        row("standards to save", "{" + drawings + ",\"Open\":false}",
+            "另存为|0|0|DXF 图形 (*.dxf)|dxf|3");
+        row("states, or drawings that hold some",
+            "{\"filter\":\"图形(*.dwt);;S(*.las)\",\"defFilter\":\"S(*.las)\"}",
+            "选择文件|1|0|S(*.las)||4");
         row("title before caption", R"({"title":"t","caption":"c"})", "t|1|0|所有文件 (*)||1");
         row("several to open",
             "{\"title\":\"t\",\"Open\":true,\"MutiFile\":true,\"filter\":\"A(*.a);;B(*.b)\","
@@ -243,6 +253,31 @@ private slots:
             dialog.reject();
         });
         showRename({});
+    }
+
+    void keepsPlacesOnTheScreen()
+    {
+        const QTemporaryDir folder;
+        host::setSettingsFolder(folder.path());
+        const QRect placed(40, 50, 400, 200);
+        QRect seen;
+        ModalDriver driver;
+        const auto show = [&](const QRect& next) {
+            driver.then([&, next](QDialog& dialog) {
+                seen = dialog.geometry();
+                dialog.setGeometry(next);
+                dialog.reject();
+            });
+            showRename({});
+        };
+        show(placed);
+        show({5000, -300, 9000, 9000}); // Of a larger screen, say.
+        QCOMPARE(seen, placed);
+        show(placed);
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        QVERIFY(screen.contains(seen));
+        QVERIFY(seen.top() > screen.top()); // There is a title bar above.
+        host::setSettingsFolder({});
     }
 
     void saysWhyAModuleCannotBeLoaded()
