@@ -311,6 +311,58 @@ Cause: %1</translation>
         <source>普通</source>
         <translation>Normal</translation>
     </message>
+    <message>
+        <source>可添加的图层</source>
+        <translation>Layers that can be added</translation>
+    </message>
+    <message>
+        <source>当前图层</source>
+        <translation>Current layer</translation>
+    </message>
+    <message>
+        <source>图层</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>要删除的图层</source>
+        <translation>Layer to be deleted</translation>
+    </message>
+    <message>
+        <source>关</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>解冻</source>
+        <translation>Thawed</translation>
+    </message>
+    <message>
+        <source>解锁</source>
+        <translation>Unlocked</translation>
+    </message>
+    <message>
+        <source>不打印</source>
+        <translation>Not plotted</translation>
+    </message>
+    <message>
+        <source>在新视口中冻结</source>
+        <translation>Frozen in new viewports</translation>
+    </message>
+    <message>
+        <source>在新视口中解冻</source>
+        <translation>Thawed in new viewports</translation>
+    </message>
+    <message>
+        <source>新建图层</source>
+        <translation>New layer</translation>
+    </message>
+    <message>
+        <source>删除图层</source>
+        <translation>Delete layer</translation>
+    </message>
+    <message>
+        <source>置为当前</source>
+        <translation>Set current</translation>
+    </message>
 </context>
 <context>
     <name>vnsi::VnQtAddNewLayerDlg</name>
@@ -344,6 +396,10 @@ Cause: %1</translation>
     <message>
         <source>关闭(&amp;C)</source>
         <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>图层状态中的图层</source>
+        <translation>Layers in the layer state</translation>
     </message>
 </context>
 <context>
@@ -450,6 +506,18 @@ Selects objects and their layers.</translation>
         <source>删除当前过滤器(&amp;D)</source>
         <translation>&amp;Delete Current Filter</translation>
     </message>
+    <message>
+        <source>图层</source>
+        <translation>Layers</translation>
+    </message>
+    <message>
+        <source>选择对象</source>
+        <translation>Select objects</translation>
+    </message>
+    <message>
+        <source>过滤器的通配符</source>
+        <translation>Filter pattern</translation>
+    </message>
 </context>
 <context>
     <name>vnsi::VnQtLayWalkVerifyDlg</name>
@@ -551,6 +619,10 @@ Do you want to create it?</translation>
         <source>是否创建图层？</source>
         <translation>Create Layer?</translation>
     </message>
+    <message>
+        <source>现有图层</source>
+        <translation>Existing layers</translation>
+    </message>
 </context>
 <context>
     <name>vnsi::VnQtLaymrgLayerDlg</name>
@@ -631,6 +703,10 @@ Do you want to continue?</translation>
 All blocks that refer to the merged layers will be redefined.
 
 Do you want to continue?</translation>
+    </message>
+    <message>
+        <source>现有图层</source>
+        <translation>Existing layers</translation>
     </message>
 </context>
 <context>
@@ -904,6 +980,10 @@ are shown there. Otherwise all layers of the drawing are shown.</translation>
     <message>
         <source>应用</source>
         <translation>Apply</translation>
+    </message>
+    <message>
+        <source>图层</source>
+        <translation>Layers</translation>
     </message>
 </context>
 <context>

@@ -64,6 +64,10 @@
         <extracomment>The folder of the manual&apos;s pages in this language.</extracomment>
         <translation>en</translation>
     </message>
+    <message>
+        <source>DXF 图形 (*.dxf)</source>
+        <translation>DXF drawings (*.dxf)</translation>
+    </message>
 </context>
 <context>
     <name>host::ColorDialog</name>
@@ -164,16 +168,24 @@
         <translation>Index colors:</translation>
     </message>
     <message>
-        <source>索引颜色</source>
-        <translation>Index colors</translation>
-    </message>
-    <message>
         <source>索引: -    红,绿,蓝: -</source>
         <translation>Index: -    Red, green, blue: -</translation>
     </message>
     <message>
         <source>索引: %1    红,绿,蓝: %2,%3,%4</source>
         <translation>Index: %1    Red, green, blue: %2,%3,%4</translation>
+    </message>
+    <message>
+        <source>索引颜色 10 至 249</source>
+        <translation>Index colors 10 to 249</translation>
+    </message>
+    <message>
+        <source>标准颜色</source>
+        <translation>Standard colors</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Grays</translation>
     </message>
 </context>
 <context>

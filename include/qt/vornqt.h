@@ -80,6 +80,12 @@ private:
 VnQtAnswer vnqtAsk(VnJsonPtr node, OdSmartPtr<VnQtCommandInvoker> invoker, OdAnsiString dialogName,
     const VnQtRequest& request, const VnQtArgumentWriter& writeArguments = {});
 
+/// Gives a dialog whose widgets are made what they do not have of themselves: Alt with the letter
+/// that a label shows in plain brackets goes to the label's field, F1 shows the help, and fields
+/// and lists are called as their labels, for those who hear them. Once is enough; again adds what
+/// has come since.
+void vnqtFinishDialog(QDialog& dialog);
+
 /// The part of a dialog's wrapper, as the host sees it, that does not depend on the dialog class.
 class VnQtUIModeDialogBase : public VnUiModeDialogBase
 {
@@ -119,7 +125,10 @@ public:
     {
         m_data = data;
         m_invoker = invoker;
-        return m_pDialog && m_pDialog->setData(data, invoker) ? 1 : 0;
+        const bool isSet = m_pDialog && m_pDialog->setData(data, invoker);
+        if (isSet)
+            vnqtFinishDialog(*m_pDialog);
+        return isSet ? 1 : 0;
     }
 
     bool createDialog(QWidget* parent, unsigned flags, const char* objectName) override

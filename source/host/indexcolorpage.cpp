@@ -73,13 +73,16 @@ IndexColorPage::IndexColorPage(QWidget* parent)
 
     auto* const layout = new QGridLayout(this);
     layout->addWidget(new QLabel(tr("索引颜色:")), 0, 0, 1, 4);
-    layout->addWidget(addGrid("hueGrid", hueIndices(), kHues, kSmallSide), 1, 0, 1, 4);
+    layout->addWidget(
+        addGrid("hueGrid", tr("索引颜色 10 至 249"), hueIndices(), kHues, kSmallSide), 1, 0, 1, 4);
     layout->addWidget(m_description, 2, 0, 1, 4);
-    layout->addWidget(addGrid("namedGrid", {1, 2, 3, 4, 5, 6, 7, 8, 9}, 9, kLargeSide), 3, 0, 1, 2);
+    layout->addWidget(
+        addGrid("namedGrid", tr("标准颜色"), {1, 2, 3, 4, 5, 6, 7, 8, 9}, 9, kLargeSide), 3, 0, 1,
+        2);
     layout->addWidget(m_byLayer, 3, 2);
     layout->addWidget(m_byBlock, 3, 3);
     layout->addWidget(
-        addGrid("greyGrid", {250, 251, 252, 253, 254, 255}, 6, kLargeSide), 4, 0, 1, 2);
+        addGrid("greyGrid", tr("灰度"), {250, 251, 252, 253, 254, 255}, 6, kLargeSide), 4, 0, 1, 2);
     layout->addWidget(colorLabel, 5, 0);
     layout->addWidget(m_text, 5, 1, 1, 3);
     layout->setColumnStretch(1, 1);
@@ -111,11 +114,11 @@ void IndexColorPage::setIndex(int index)
 }
 
 SwatchGrid* IndexColorPage::addGrid(
-    const char* name, const QVector<int>& indices, int columns, int side)
+    const char* name, const QString& title, const QVector<int>& indices, int columns, int side)
 {
     auto* const grid = new SwatchGrid(indices, columns, side);
     grid->setObjectName(QLatin1String(name));
-    grid->setAccessibleName(tr("索引颜色"));
+    grid->setAccessibleName(title);
     connect(grid, &SwatchGrid::chosen, this, &IndexColorPage::choose);
     connect(grid, &SwatchGrid::hovered, this, &IndexColorPage::describe);
     connect(grid, &SwatchGrid::confirmed, this, &IndexColorPage::confirmed);

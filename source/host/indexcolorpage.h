@@ -29,7 +29,8 @@ signals:
     void confirmed();
 
 private:
-    SwatchGrid* addGrid(const char* name, const QVector<int>& indices, int columns, int side);
+    SwatchGrid* addGrid(
+        const char* name, const QString& title, const QVector<int>& indices, int columns, int side);
     void choose(int index);
     void readText(const QString& text);
     void describe(int index);

@@ -465,6 +465,29 @@ private slots:
         QVERIFY(!find<QWidget>("maskPanel").isHidden());
     }
 
+    void plainLetters_data()
+    {
+        const Rows<QString, Qt::Key, QString> row("dialog", "letter", "widget");
+        row("states", kManager, Qt::Key_E, "stateTable");
+        row("name", "Dialog/CmdLayerStateNew", Qt::Key_L, "nameBox");
+        row("description", "Dialog/CmdLayerStateNew", Qt::Key_D, "descriptionEdit");
+    }
+
+    /// A letter in brackets is Alt's letter, with an ampersand or without.
+    void plainLetters()
+    {
+        QFETCH(QString, dialog);
+        QFETCH(Qt::Key, letter);
+        QFETCH(QString, widget);
+        open(qPrintable(dialog), kTree);
+        QVERIFY(QTest::qWaitForWindowActive(m_dialog.window()));
+        find<QPushButton>("helpButton").setFocus();
+        QTest::keyClick(m_dialog.window(), letter, Qt::AltModifier);
+        QCOMPARE(m_dialog.window()->focusWidget(), &find<QWidget>(qPrintable(widget)));
+        QTest::keyClick(m_dialog.window(), Qt::Key_F1);
+        QCOMPARE(log().last(), "help|0");
+    }
+
     void newDialog_data()
     {
         const Rows<QString, int, QString, QString> row("name", "answer", "asked", "taken");

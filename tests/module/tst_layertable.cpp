@@ -252,22 +252,23 @@ private slots:
 
     void choosesColor_data()
     {
-        const Rows<QString, QString, int, QString, QString, QColor> row(
-            "color", "asked", "result", "answer", "stored", "swatch");
+        // Where plot styles go by colour, theirs follows at once.
+        const Rows<QString, QString, int, QString, QString, QColor, QString> row(
+            "color", "asked", "result", "answer", "stored", "swatch", "style");
         const QString index = R"({"clrMethod":195,"selectClr":3})";
         const QString askedIndex =
             R"({"clrMethod":195,"isByBLockEnable":0,"isByLayerEnable":0,"selectClr":3})";
         row("index to true colour", index, askedIndex, 1, R"({"clrMethod":194,"selectClr":255})",
-            R"({"clrMethod":194,"selectClr":255})", {255, 0, 0});
-        row("cancelled", index, askedIndex, 2, R"({"selectClr":5})", index, {0, 255, 0});
+            R"({"clrMethod":194,"selectClr":255})", {255, 0, 0}, "Color_3");
+        row("cancelled", index, askedIndex, 2, R"({"selectClr":5})", index, {0, 255, 0}, "Color_3");
         row("answers nothing", index, askedIndex, 1, R"({"selectClr":null,"clrMethod":null})",
-            R"({"clrMethod":0,"selectClr":-1})", {255, 255, 255});
+            R"({"clrMethod":0,"selectClr":-1})", {255, 255, 255}, "Color_3");
         row("only the index of an index is handed on", R"({"clrMethod":195,"selectClr":65539})",
-            askedIndex, 2, "{}", R"({"clrMethod":195,"selectClr":65539})", {0, 255, 0});
+            askedIndex, 2, "{}", R"({"clrMethod":195,"selectClr":65539})", {0, 255, 0}, "Color_3");
         row("true colour to index", R"({"clrMethod":194,"selectClr":255})",
             R"({"clrMethod":194,"isByBLockEnable":0,"isByLayerEnable":0,"selectClr":255})", 1,
-            R"({"clrMethod":195,"selectClr":5})", R"({"clrMethod":195,"selectClr":5})",
-            {0, 0, 255});
+            R"({"clrMethod":195,"selectClr":5})", R"({"clrMethod":195,"selectClr":5})", {0, 0, 255},
+            "Color_5");
     }
 
     void choosesColor()
@@ -276,13 +277,15 @@ private slots:
         QFETCH(QString, asked);
         QFETCH(int, result);
         QFETCH(QString, answer);
-        ManagerDriver manager(
-            m_module, layerTree({layer("A", 0), layer("B", 1, R"(,"Color":)" + color)}));
+        ManagerDriver manager(m_module,
+            layerTree(
+                {layer("A", 0), layer("B", 1, R"(,"PlotStyle":"Color_3","Color":)" + color)}));
         manager.host.answer(result, answer);
         manager.click(1, 5);
         QCOMPARE(manager.host.log(), QStringList{"dialog|Dialog/Common|ColorDialog|" + asked});
         QTEST(toText(manager.record(1)->GetDataJ("Color")), "stored");
         QTEST(manager.cell(1, 5)->icon().pixmap(16, 16).toImage().pixelColor(8, 8), "swatch");
+        QTEST(manager.text(1, 9), "style");
         QVERIFY(manager.record(1)->GetDataB("Modified")); // Even when the dialog was cancelled.
         QVERIFY(manager.isApplyEnabled());
     }

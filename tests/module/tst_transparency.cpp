@@ -36,6 +36,9 @@ private slots:
         user.then([&](QDialog& dialog) {
             auto& value = child<QComboBox>(dialog, "transparencyValue");
             QCOMPARE(value.currentText(), "35");
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+            child<QPushButton>(dialog, "cancelButton").setFocus();
+            QTest::keyClick(&dialog, Qt::Key_T, Qt::AltModifier);
             if (!typed.isEmpty()) // Typing replaces the selected value.
                 QTest::keyClicks(dialog.focusWidget(), typed);
             QTest::keyClick(value.lineEdit(), Qt::Key_Return);

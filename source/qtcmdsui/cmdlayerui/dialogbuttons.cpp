@@ -39,4 +39,10 @@ QBoxLayout* makeButtonRow(QDialog& dialog, OkCancelHelp& buttons)
     return row;
 }
 
+QSize atLeastItsText(const QSize& agreed, const QPushButton& button)
+{
+    const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
+    return agreed.expandedTo(text.grownBy({8, 1, 8, 1}));
+}
+
 } // namespace vnsi

@@ -3,6 +3,7 @@
 class QBoxLayout;
 class QDialog;
 class QPushButton;
+class QSize;
 
 namespace vnsi {
 
@@ -16,5 +17,8 @@ struct OkCancelHelp
 
 /// Makes the row with OK, Cancel and Help at the right edge of a dialog. OK is the default button.
 QBoxLayout* makeButtonRow(QDialog& dialog, OkCancelHelp& buttons);
+
+/// A button's agreed size, or more where the user's font would be cut.
+QSize atLeastItsText(const QSize& agreed, const QPushButton& button);
 
 } // namespace vnsi

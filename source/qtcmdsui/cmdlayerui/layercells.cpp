@@ -2,6 +2,7 @@
 
 #include "hostapi/hostcalls.h"
 #include "lineweighttext.h"
+#include "moduletexts.h"
 #include "vnstrings.h"
 
 #include <QApplication>
@@ -24,19 +25,42 @@ constexpr int kSwatchGap = 4;
 constexpr int kAlignLeft = 129;
 constexpr int kAlignCentre = 132;
 
-constexpr const char* kIconNames[] = {"current", "nocurrent", "deleted", "off", "on", "frozed",
-    "thaw", "lock", "unlock", "print", "noprint", "allfrozed", "allthaw", "newlayer", "deletelayer",
-    "currentlayer"};
-static_assert(std::size(kIconNames) == static_cast<std::size_t>(LayerIcon::Count));
+struct IconRow
+{
+    const char* name;
+    const char* meaning; ///< Source text.
+};
+
+constexpr IconRow kIcons[] = {
+    {"current", QT_TRANSLATE_NOOP("cmdlayerui", "当前图层")},
+    {"nocurrent", QT_TRANSLATE_NOOP("cmdlayerui", "图层")},
+    {"deleted", QT_TRANSLATE_NOOP("cmdlayerui", "要删除的图层")},
+    {"off", QT_TRANSLATE_NOOP("cmdlayerui", "关")},
+    {"on", QT_TRANSLATE_NOOP("cmdlayerui", "开")},
+    {"frozed", QT_TRANSLATE_NOOP("cmdlayerui", "冻结")},
+    {"thaw", QT_TRANSLATE_NOOP("cmdlayerui", "解冻")},
+    {"lock", QT_TRANSLATE_NOOP("cmdlayerui", "锁定")},
+    {"unlock", QT_TRANSLATE_NOOP("cmdlayerui", "解锁")},
+    {"print", QT_TRANSLATE_NOOP("cmdlayerui", "打印")},
+    {"noprint", QT_TRANSLATE_NOOP("cmdlayerui", "不打印")},
+    {"allfrozed", QT_TRANSLATE_NOOP("cmdlayerui", "在新视口中冻结")},
+    {"allthaw", QT_TRANSLATE_NOOP("cmdlayerui", "在新视口中解冻")},
+    {"newlayer", QT_TRANSLATE_NOOP("cmdlayerui", "新建图层")},
+    {"deletelayer", QT_TRANSLATE_NOOP("cmdlayerui", "删除图层")},
+    {"currentlayer", QT_TRANSLATE_NOOP("cmdlayerui", "置为当前")},
+};
+static_assert(std::size(kIcons) == static_cast<std::size_t>(LayerIcon::Count));
 
 /// A cell that cannot be edited in place. It stores its data in members, because the role list of a
 /// general item needs several allocations per cell, and a table has thirteen cells per layer.
 class LayerCellItem : public QTableWidgetItem
 {
 public:
-    LayerCellItem(bool centred, const QIcon& icon, const QString& text)
+    /// `spoken` says what the cell shows where its text alone does not.
+    LayerCellItem(bool centred, const QIcon& icon, const QString& text, const QString& spoken)
         : m_icon(icon),
           m_text(text),
+          m_spoken(spoken),
           m_alignment(centred ? kAlignCentre : kAlignLeft)
     {
         setFlags(flags() & ~Qt::ItemIsEditable);
@@ -51,6 +75,8 @@ public:
             return m_text.isNull() ? QVariant() : m_text;
         case Qt::DecorationRole:
             return m_icon.isNull() ? QVariant() : m_icon;
+        case Qt::AccessibleTextRole:
+            return m_spoken.isNull() ? QVariant() : m_spoken;
         case Qt::TextAlignmentRole:
             return m_alignment;
         default:
@@ -61,6 +87,7 @@ public:
 private:
     QIcon m_icon;
     QString m_text;
+    QString m_spoken;
     int m_alignment;
 };
 
@@ -160,25 +187,34 @@ const QIcon& LayerCells::icon(LayerIcon icon)
     QIcon& made = m_icons[index];
     if (made.isNull())
         made = QIcon(
-            QStringLiteral(":/res/Resources/layer_%1.bmp").arg(QLatin1String(kIconNames[index])));
+            QStringLiteral(":/res/Resources/layer_%1.bmp").arg(QLatin1String(kIcons[index].name)));
     return made;
 }
 
-const QIcon& LayerCells::statusIcon(int status)
+const QString& LayerCells::meaning(LayerIcon icon)
+{
+    const auto index = static_cast<std::size_t>(icon);
+    QString& made = m_meanings[index];
+    if (made.isNull())
+        made = Texts::tr(kIcons[index].meaning);
+    return made;
+}
+
+LayerIcon LayerCells::statusIcon(int status)
 {
     switch (status) {
     case kLayerCurrent:
-        return icon(LayerIcon::Current);
+        return LayerIcon::Current;
     case kLayerDelete:
-        return icon(LayerIcon::Deleted);
+        return LayerIcon::Deleted;
     default:
-        return icon(LayerIcon::NoCurrent);
+        return LayerIcon::NoCurrent;
     }
 }
 
-const QIcon& LayerCells::stateIcon(bool current)
+LayerIcon LayerCells::stateIcon(bool current)
 {
-    return icon(current ? LayerIcon::Current : LayerIcon::NoCurrent);
+    return current ? LayerIcon::Current : LayerIcon::NoCurrent;
 }
 
 const LayerCells::Swatch& LayerCells::swatch(const LayerColor& color)
@@ -186,10 +222,12 @@ const LayerCells::Swatch& LayerCells::swatch(const LayerColor& color)
     Swatch& made = m_swatches[{color.method, color.value}];
     if (made.icon.isNull()) {
         const OdCmColor resolved = color.resolved();
+        const QColor shown(resolved.red(), resolved.green(), resolved.blue());
         QPixmap pixmap(kSwatchSize, kSwatchSize);
-        pixmap.fill(QColor(resolved.red(), resolved.green(), resolved.blue()));
+        pixmap.fill(shown);
         made.icon = QIcon(pixmap);
         made.text = vnutOdStringToQString(hostapi::colorText(resolved));
+        made.spoken = made.text.isEmpty() ? shown.name() : QString();
     }
     return made;
 }
@@ -204,29 +242,33 @@ const QString& LayerCells::numberText(LayerCell cell, int number)
 
 QTableWidgetItem* LayerCells::makeItem(const LayerRecord& record, const LayerColumn& column)
 {
-    const auto make = [&column](const QIcon& icon, const QString& text) {
-        return new LayerCellItem(column.align == LayerAlign::Centre, icon, text);
+    const auto make = [&column](const QIcon& icon, const QString& text, const QString& spoken) {
+        return new LayerCellItem(column.align == LayerAlign::Centre, icon, text, spoken);
     };
+    const auto makeIcon = [&](LayerIcon shown) { return make(icon(shown), {}, meaning(shown)); };
     switch (column.cell) {
     case LayerCell::Status:
-        return make(statusIcon(record.status()), {});
-    case LayerCell::MarkedName:
-        return make(
-            stateIcon(record.isCurrentOfState()), vnutOdStringToQString(record.text(column.key)));
+        return makeIcon(statusIcon(record.status()));
+    case LayerCell::MarkedName: {
+        const bool isCurrent = record.isCurrentOfState();
+        const QString name = vnutOdStringToQString(record.text(column.key));
+        const QString spoken =
+            isCurrent ? name + QStringLiteral(", ") + meaning(LayerIcon::Current) : QString();
+        return make(icon(stateIcon(isCurrent)), name, spoken);
+    }
     case LayerCell::Toggle:
-        return make(
-            icon(record.flag(column.key) ? column.icons.whenTrue : column.icons.whenFalse), {});
+        return makeIcon(record.flag(column.key) ? column.icons.whenTrue : column.icons.whenFalse);
     case LayerCell::Color: {
         const Swatch& shown = swatch(record.color());
-        return make(shown.icon, shown.text);
+        return make(shown.icon, shown.text, shown.spoken);
     }
     case LayerCell::LineWidth:
     case LayerCell::Number:
-        return make({}, numberText(column.cell, record.number(column.key)));
+        return make({}, numberText(column.cell, record.number(column.key)), {});
     case LayerCell::Text:
         break;
     }
-    return make({}, vnutOdStringToQString(record.text(column.key)));
+    return make({}, vnutOdStringToQString(record.text(column.key)), {});
 }
 
 void LayerCells::refresh(QTableWidget& table, int row, int column, const LayerRecord& record,

@@ -132,11 +132,13 @@ class LayerCells
 public:
     /// The icon, which is read from the resources when it is first used.
     const QIcon& icon(LayerIcon icon);
+    /// The meaning of the icon, for screen readers.
+    const QString& meaning(LayerIcon icon);
     /// The icon of a record's status. A status without an icon of its own uses that of an ordinary
     /// layer.
-    const QIcon& statusIcon(int status);
+    static LayerIcon statusIcon(int status);
     /// The icon of a layer in a layer state.
-    const QIcon& stateIcon(bool current);
+    static LayerIcon stateIcon(bool current);
     /// Makes a cell that cannot be edited in place.
     QTableWidgetItem* makeItem(const LayerRecord& record, const LayerColumn& column);
     /// Updates one cell from its record.
@@ -151,12 +153,14 @@ private:
     {
         QIcon icon;
         QString text;
+        QString spoken; ///< Where the host has no text for the colour.
     };
 
     const Swatch& swatch(const LayerColor& color);
     const QString& numberText(LayerCell cell, int number);
 
     std::array<QIcon, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
+    std::array<QString, static_cast<std::size_t>(LayerIcon::Count)> m_meanings;
     QHash<QPair<qint64, qint64>, Swatch> m_swatches;
     /// The key consists of the kind of cell and the number.
     QHash<QPair<int, int>, QString> m_numberTexts;

@@ -50,6 +50,8 @@ constexpr int columnOf(std::string_view key)
 constexpr int kStatusColumn = columnOf(layerkey::kStatus);
 constexpr int kNameColumn = columnOf(layerkey::kName);
 constexpr int kOffColumn = columnOf(layerkey::kOff);
+constexpr int kColorColumn = columnOf(layerkey::kColor);
+constexpr int kPlotStyleColumn = columnOf(layerkey::kPlotStyle);
 
 bool isColumn(int column)
 {
@@ -108,6 +110,8 @@ bool ManagerTable::click(int row, int column)
             kColumns[column], clicked, row == m_currentRow, colorQuestion, m_table->window()))
         return false;
     showCell(row, column);
+    if (column == kColorColumn)
+        showCell(row, kPlotStyleColumn);
     clicked.markModified();
     return true;
 }

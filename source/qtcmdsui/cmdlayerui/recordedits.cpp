@@ -13,6 +13,17 @@ namespace {
 
 constexpr int kQuestionStyle = kVnYesNo | kVnIconInformation;
 
+/// Where plot styles go by colour, a layer's is called after the colour's number and nothing else.
+void followColor(LayerRecord& record)
+{
+    const auto stem = QStringLiteral("Color_");
+    const LayerColor color = record.color();
+    const QString style = vnutOdStringToQString(record.text(layerkey::kPlotStyle));
+    if (color.isIndex() && style.startsWith(stem, Qt::CaseInsensitive))
+        record.setText(
+            layerkey::kPlotStyle, vnutQStringToOdString(stem + QString::number(color.index())));
+}
+
 } // namespace
 
 std::optional<OdString> askForText(const OdString& present, const QString& label)
@@ -50,6 +61,7 @@ bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent)
     if (answer->GetDataI("result") != kVnAnswerOk)
         return false;
     record.setColor({wholeNumber(*answer, "clrMethod"), wholeNumber(*answer, "selectClr", -1)});
+    followColor(record);
     return true;
 }
 

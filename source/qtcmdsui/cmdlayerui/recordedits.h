@@ -19,7 +19,8 @@ bool asksToKeepCurrentOn();
 /// Tells the user that the current layer cannot be frozen.
 void refuseToFreezeCurrent();
 /// Lets the user choose another colour in the host's dialog, whose input tree is `question`.
-/// Returns true when the record has a new colour.
+/// Returns true when the record has a new colour. A plot style that is named after the colour
+/// follows it.
 bool editColor(LayerRecord record, const VnJsonPtr& question, QWidget* parent);
 /// Lets the user choose another transparency. Returns true when the record has a new one.
 bool editTransparency(LayerRecord record);

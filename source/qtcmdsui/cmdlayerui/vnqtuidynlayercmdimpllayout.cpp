@@ -1,3 +1,4 @@
+#include "dialogbuttons.h"
 #include "layertable.h"
 #include "vnqtlayerqtablewgt.h"
 #include "vnqtuidynlayercmdimpl.h"
@@ -51,6 +52,7 @@ bool VnQtUiDynLayerCmdImpl::initDialog()
     QBoxLayout* buttonRow = makeButtonRow();
     m_table = new VnQtLayerQTableWgt(this);
     m_table->setObjectName(QStringLiteral("layerTable"));
+    m_table->setAccessibleName(tr("图层"));
     m_table->setTabKeyNavigation(false); // The Tab key moves on to the buttons.
     // Widths set by the user are kept even if no request follows; closing the dialog writes
     // nothing.
@@ -91,7 +93,7 @@ QBoxLayout* VnQtUiDynLayerCmdImpl::makeBottomRow()
     const auto makeButton = [this](const QString& text, const char* objectName) {
         auto* button = new QPushButton(text, this);
         button->setObjectName(QLatin1String(objectName));
-        button->setFixedSize(75, 21);
+        button->setFixedSize(atLeastItsText(QSize(75, 21), *button));
         return button;
     };
     m_countLabel = new QLabel(tr("共  个图层"), this);

@@ -2,13 +2,13 @@
 
 #include "hostapi/hostcalls.h"
 #include "hostcodes.h"
+#include "vornqt.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace vnsi {
@@ -35,6 +35,7 @@ void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
 
     auto* label = new QLabel(tr("透明度值(<u>T</u>)(0~90):"), this);
     m_value = new QComboBox(this);
+    label->setBuddy(m_value);
     m_value->setObjectName(QStringLiteral("transparencyValue"));
     m_value->setEditable(true);
     m_value->setCompleter(nullptr); // Otherwise a typed 5 would be completed to 50.
@@ -55,12 +56,10 @@ void VnQtUiLayerTransparencyModify::setData(const VnJsonPtr& tree)
     layout->addWidget(m_value);
     layout->addLayout(buttons);
 
-    // The label is rich text, which does not support mnemonics.
-    auto* mnemonic = new QShortcut(QKeySequence(QStringLiteral("Alt+T")), this);
-    connect(mnemonic, &QShortcut::activated, this, &VnQtUiLayerTransparencyModify::offerValue);
     connect(ok, &QPushButton::clicked, this, &VnQtUiLayerTransparencyModify::slot_onBtnOkClicked);
     connect(cancel, &QPushButton::clicked, this,
         &VnQtUiLayerTransparencyModify::slot_onBtnCancelClicked);
+    vnqtFinishDialog(*this);
     offerValue();
 }
 

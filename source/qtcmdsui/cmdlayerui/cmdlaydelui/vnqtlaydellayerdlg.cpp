@@ -45,6 +45,7 @@ bool VnQtLaydelLayerDlg::initDialog()
 {
     auto* label = new QLabel(tr("要删除的图层: "), this);
     m_list = layerlist::makeList(*this);
+    label->setBuddy(m_list);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto* listBox = new QHBoxLayout;
     listBox->setMargin(15);

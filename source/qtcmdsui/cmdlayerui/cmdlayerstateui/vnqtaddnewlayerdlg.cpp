@@ -41,6 +41,7 @@ bool VnQtAddNewLayerDlg::initDialog()
 {
     m_table = new QTableWidget(0, kColumnCount, this);
     m_table->setObjectName(QStringLiteral("candidateTable"));
+    m_table->setAccessibleName(Texts::tr("可添加的图层"));
     m_table->setHorizontalHeaderLabels(
         {Texts::tr(kColumns[0].header), Texts::tr(kColumns[1].header)});
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -69,6 +69,7 @@ bool VnQtEditLayerStateDlg::initDialog()
         makeIconButton(LayerIcon::DeleteLayer, "deleteLayerButton", tr("从图层状态中删除图层"));
     m_table = new QTableWidget(this);
     m_table->setObjectName(QStringLiteral("stateLayerTable"));
+    m_table->setAccessibleName(tr("图层状态中的图层"));
     setUpTable();
 
     auto* top = new QHBoxLayout;
@@ -104,7 +105,7 @@ QBoxLayout* VnQtEditLayerStateDlg::makeBottomRow()
     OkCancelHelp buttons;
     QBoxLayout* row = makeButtonRow(*this, buttons);
     for (QPushButton* button : {buttons.ok, buttons.cancel, buttons.help})
-        button->setFixedSize(kButtonWidth, button->sizeHint().height());
+        button->setFixedSize(atLeastItsText({kButtonWidth, button->sizeHint().height()}, *button));
     using Self = VnQtEditLayerStateDlg;
     connect(buttons.ok, &QPushButton::clicked, this, &Self::slot_BtnOkClicked);
     connect(buttons.cancel, &QPushButton::clicked, this, &Self::close);
@@ -207,8 +208,10 @@ void VnQtEditLayerStateDlg::slot_TableCellClicked(int row, int column)
     case kColor: {
         const VnJsonPtr question = hostapi::makeObject();
         question->SetDataI("backgroundColor", 0);
-        if (recordedits::editColor(clicked, question, this))
+        if (recordedits::editColor(clicked, question, this)) {
             showCell(row, kColor);
+            showCell(row, kPlotStyle);
+        }
         break;
     }
     case kTransparency:

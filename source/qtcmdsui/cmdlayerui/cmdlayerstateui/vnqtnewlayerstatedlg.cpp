@@ -38,12 +38,14 @@ bool VnQtNewLayerStateDlg::initDialog()
     m_name = new QComboBox(this);
     m_name->setObjectName(QStringLiteral("nameBox"));
     m_name->setEditable(true);
+    nameLabel->setBuddy(m_name);
     m_name->setInsertPolicy(QComboBox::NoInsert);
     m_name->setCompleter(nullptr); // It would complete new names to existing ones.
     auto* descriptionLabel = new QLabel(tr("说明(D):"), this);
     m_description = new QTextEdit(this);
     m_description->setObjectName(QStringLiteral("descriptionEdit"));
     m_description->setAcceptRichText(false);
+    descriptionLabel->setBuddy(m_description);
     OkCancelHelp buttons;
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(nameLabel);

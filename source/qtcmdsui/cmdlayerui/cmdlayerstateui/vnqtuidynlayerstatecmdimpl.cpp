@@ -60,6 +60,7 @@ bool VnQtUiDynLayerStateCmdImpl::setData(VnJsonPtr data, OdRxObjectPtr invoker)
     connectWidgets();
     slot_ExtendBtnClicked(m_isExpanded);
     m_extendButton->setChecked(m_isExpanded);
+    m_table->setFocus(); // The keys are for the states to begin with.
     return true;
 }
 

@@ -10,6 +10,7 @@ class QButtonGroup;
 class QCheckBox;
 class QLabel;
 class QPushButton;
+class QShortcut;
 class QTableWidget;
 class QTableWidgetItem;
 
@@ -98,6 +99,7 @@ private:
     QPushButton* m_editButton = nullptr;
     QPushButton* m_renameButton = nullptr;
     QPushButton* m_deleteButton = nullptr;
+    QShortcut* m_deleteKey = nullptr;
     QPushButton* m_importButton = nullptr;
     QPushButton* m_exportButton = nullptr;
     QCheckBox* m_referenceBox = nullptr;

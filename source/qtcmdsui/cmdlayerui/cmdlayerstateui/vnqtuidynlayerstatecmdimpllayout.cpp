@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -85,6 +86,10 @@ QWidget* VnQtUiDynLayerStateCmdImpl::makeListPanel()
     m_table = new QTableWidget(panel);
     m_table->setObjectName(QStringLiteral("stateTable"));
     m_table->setFixedWidth(kTableWidth);
+    // By a key of its own: the table would take it for a search by typing.
+    m_deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), m_table);
+    m_deleteKey->setContext(Qt::WidgetShortcut);
+    m_deleteKey->setAutoRepeat(false);
     m_referenceBox = makeCheckBox(QT_TR_NOOP("不列出外部参照中的图层状态(&F)"), "referenceBox");
     m_statusLabel = new QLabel(tr("当前图层状态: *未保存*"), panel);
     m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
@@ -93,7 +98,9 @@ QWidget* VnQtUiDynLayerStateCmdImpl::makeListPanel()
     auto* grid = new QGridLayout(panel);
     grid->setMargin(0);
     grid->setColumnStretch(2, 1);
-    grid->addWidget(new QLabel(tr("图层状态(E)"), panel), 0, 0);
+    auto* label = new QLabel(tr("图层状态(E)"), panel);
+    label->setBuddy(m_table);
+    grid->addWidget(label, 0, 0);
     grid->addWidget(m_table, 1, 0);
     grid->addLayout(makeButtonColumn(), 1, 1);
     grid->addWidget(m_referenceBox, 2, 0);
@@ -227,6 +234,7 @@ void VnQtUiDynLayerStateCmdImpl::connectWidgets()
     for (const auto& row : clicks)
         connect(row.button, &QPushButton::clicked, this, row.slot, once);
     connect(m_closeButton, &QPushButton::clicked, this, &Self::close, once);
+    connect(m_deleteKey, &QShortcut::activated, m_deleteButton, &QPushButton::click, once);
     connect(m_table, &QTableWidget::cellClicked, this, &Self::slot_TableCellClicked, once);
     connect(m_table, &QTableWidget::itemSelectionChanged, this,
         &Self::slot_TableitemSelectionChanged, once);

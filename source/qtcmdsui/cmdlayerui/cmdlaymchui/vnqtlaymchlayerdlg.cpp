@@ -66,7 +66,9 @@ bool VnQtLaymchLayerDlg::initDialog()
 {
     auto* label = new QLabel(tr("目标图层: "), this);
     m_nameEdit = layerlist::makeNameEdit(*this);
+    label->setBuddy(m_nameEdit);
     m_list = layerlist::makeList(*this);
+    m_list->setAccessibleName(tr("现有图层"));
     auto* choice = new QVBoxLayout;
     choice->addWidget(m_nameEdit);
     choice->addWidget(m_list);

@@ -57,6 +57,8 @@ void VnQtLaymrgLayerDlg::buildLayout()
     if (!m_sourceMode)
         m_targetEdit = layerlist::makeNameEdit(*this);
     m_list = layerlist::makeList(*this);
+    label->setBuddy(m_targetEdit ? static_cast<QWidget*>(m_targetEdit) : m_list);
+    m_list->setAccessibleName(m_targetEdit ? tr("现有图层") : QString());
     m_list->setSelectionMode(
         m_sourceMode ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
     OkCancelHelp buttons;

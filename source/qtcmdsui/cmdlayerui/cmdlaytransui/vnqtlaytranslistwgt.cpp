@@ -92,7 +92,8 @@ void VnQtLaytransListWgt::fill(
         const QSignalBlocker quiet(model());
         for (int row = 0; row < names.size(); ++row) {
             item(row)->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-            item(row)->setIcon(cells.stateIcon(marks[static_cast<std::size_t>(row)]));
+            item(row)->setIcon(
+                cells.icon(LayerCells::stateIcon(marks[static_cast<std::size_t>(row)])));
         }
     }
     selectNames(selected, current);

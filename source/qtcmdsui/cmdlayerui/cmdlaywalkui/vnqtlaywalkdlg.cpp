@@ -80,6 +80,7 @@ bool VnQtLayWalkDlg::initDialog()
     m_list = new VnQtLayWalkListWgt(this);
     m_list->setObjectName(QStringLiteral("layerList"));
     m_list->setToolTip(tr(kListHelp));
+    m_list->setAccessibleName(tr("图层"));
     layout->addWidget(m_list);
     layout->addLayout(makeButtonRow());
     m_list->setFocus();
@@ -95,12 +96,14 @@ QLayout* VnQtLayWalkDlg::makeFilterRow()
     pick->setObjectName(QStringLiteral("pickButton"));
     pick->setIcon(QIcon(QStringLiteral(":/res/Resources/layer_pick.bmp")));
     pick->setToolTip(tr("选择对象\n选择对象及其图层。"));
+    pick->setAccessibleName(tr("选择对象"));
     m_filterBox = new QCheckBox(tr("过滤器(&F)"), this);
     m_filterBox->setObjectName(QStringLiteral("filterBox"));
     m_filterBox->setToolTip(tr(kFilterBoxHelp));
     m_filters = new QComboBox(this);
     m_filters->setObjectName(QStringLiteral("filterCombo"));
     m_filters->setToolTip(tr(kFilterHelp));
+    m_filters->setAccessibleName(tr("过滤器的通配符"));
     m_filters->setEditable(true);
     // Only the menu saves a pattern, and it refuses duplicates. With duplicates disabled here,
     // ENTER would select a saved pattern that differs in letter case from the typed one.

@@ -42,7 +42,9 @@ bool VnQtLayWalkVerifyDlg::initDialog()
         auto* edit = new QLineEdit(this);
         edit->setObjectName(QLatin1String(field.key));
         edit->setReadOnly(true);
-        layout->addWidget(new QLabel(tr(field.label), this), row, 0, Qt::AlignRight);
+        auto* label = new QLabel(tr(field.label), this);
+        label->setBuddy(edit);
+        layout->addWidget(label, row, 0, Qt::AlignRight);
         layout->addWidget(edit, row, 1);
         ++row;
     }
