@@ -5,6 +5,7 @@
 #include "file/drawingtexts.h"
 #include "file/filewriter.h"
 #include "geometry/geometry.h"
+#include "layers/colorindex.h"
 #include "states/statelayers.h"
 #include "translation/translationparts.h"
 
@@ -264,6 +265,13 @@ QString Drawing::layerStatesPath() const
 bool Drawing::hasNamedPlotStyles() const
 {
     return !d->data.plotStyles.areByColor();
+}
+
+QString Drawing::newPlotStyle(int colorIndex) const
+{
+    const LayerTable& layers = d->data.layers;
+    const int color = isColorIndex(colorIndex) ? colorIndex : LayerProperties().colorIndex;
+    return d->data.plotStyles.name(color, layers.entry(layers.zero()).plotStyle);
 }
 
 bool Drawing::isModelSpace() const

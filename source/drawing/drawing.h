@@ -100,6 +100,9 @@ public:
     /// Whether layers have named plot styles. Otherwise the plot style follows from the layer's
     /// colour.
     bool hasNamedPlotStyles() const;
+    /// The plot style that a layer added with this colour index will have; with an index that no
+    /// layer can have, one with the usual colour.
+    QString newPlotStyle(int colorIndex) const;
     /// Whether model space is shown; false while a layout is shown.
     bool isModelSpace() const;
     /// The layouts in the order of their tabs. There is at least one.

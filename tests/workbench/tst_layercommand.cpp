@@ -9,6 +9,7 @@ namespace {
 constexpr int kName = 1;
 constexpr int kOff = 2;
 constexpr int kColor = 5;
+constexpr int kPlotStyle = 9;
 
 void click(QTableWidget& table, const QString& layer, int column, bool twice = false)
 {
@@ -33,7 +34,10 @@ private slots:
         m_host->answer(1, R"({"clrMethod":194,"selectClr":197121})");
         run("layer", {[](QDialog& dialog) {
             QTableWidget& layers = table(dialog);
+            layers.selectRow(rowOf(layers, "A-COLS"));
             press(dialog, "newLayerButton");
+            QCOMPARE(layers.item(rowOf(layers, "图层1"), kPlotStyle)->text(),
+                layers.item(rowOf(layers, "A-COLS"), kPlotStyle)->text()); // As is their colour.
             click(layers, "图层1", kName, true);
             click(layers, "A-DOOR", kOff);
             click(layers, "A-WALL", kColor);

@@ -74,6 +74,28 @@ private slots:
         QVERIFY(savedBytes() == m_original);
     }
 
+    /// By name, as layers; the state that was imported comes last while it is to be restored.
+    void sortsStates()
+    {
+        std::vector<LayerState> all;
+        for (const char* name : {"S10", "r", "s9"})
+            all.push_back(captureLayerState(drawing(), name));
+        QVERIFY(inStep(drawing(), [&] { return drawing().putLayerStates(all); }));
+        all.resize(2);
+        QVERIFY(writeLayerStateFile(inFolder("in.las"), {all[1]}));
+        manage([&](QDialog& manager) {
+            QTableWidget& table = states(manager);
+            QVERIFY(QTest::qWaitForWindowActive(&manager));
+            m_host->answer(vnsi::kVnAnswerYes);
+            table.setFocus();
+            QTest::keyClick(&table, Qt::Key_Delete); // The last one is selected.
+            QCOMPARE(rowTexts(table).join(' '), "r|模型|是| s9|模型|是|");
+            import(manager, "in.las", {0, vnsi::kVnAnswerYes});
+            QVERIFY(!manager.isVisible());
+        });
+        QCOMPARE(messages().size(), 1);
+    }
+
     void overwritesWithMask()
     {
         manage([&](QDialog& manager) {
@@ -145,7 +167,7 @@ private slots:
     void asksBeforeReplacing_data()
     {
         const Rows<QList<int>, QStringList> row("answers", "descriptions");
-        row("replaced, then kept", {0, 2}, {"new", ""});
+        row("replaced, then kept", {0, 2, vnsi::kVnAnswerNo}, {"new", ""});
         row("all, not restored", {1, vnsi::kVnAnswerNo}, {"new", "new"});
         row("kept", {2, 2}, {"", ""});
         row("cancelled", {3}, {"", ""});

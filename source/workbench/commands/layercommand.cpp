@@ -105,8 +105,7 @@ void LayerPropertiesCommand::appendLayer(const drawing::Drawing& drawing, const 
         layer.properties = Provider::full().read(pattern.node(), layer.properties);
     layer.properties.name = freeName(layers);
     layer.properties.description.clear();
-    if (const drawing::Layer* current = drawing.layer(drawing.currentLayer()))
-        layer.properties.plotStyle = current->properties.plotStyle;
+    layer.properties.plotStyle = drawing.newPlotStyle(layer.properties.colorIndex);
 
     for (LayerRecord record : layers)
         record.setSelected(false);

@@ -127,6 +127,7 @@ void LayerStateCommand::answer(const VnJsonPtr& node)
     for (const RequestRow& row : kRequests) {
         if (row.element != element || row.code != code)
             continue;
+        m_toRestore.clear();
         (this->*row.answer)(node);
         showStates(drawing().layerStates());
         for (const QString& notice : drawing().takeNotices())
@@ -135,11 +136,11 @@ void LayerStateCommand::answer(const VnJsonPtr& node)
     }
 }
 
-void LayerStateCommand::showStates(const std::vector<LayerState>& states)
+void LayerStateCommand::showStates(std::vector<LayerState> states)
 {
     const VnJsonPtr list = hostextras::createArray(static_cast<int>(states.size()));
     QString current;
-    for (const LayerState& state : states) {
+    for (const LayerState& state : statelist::sorted(std::move(states), m_toRestore)) {
         const bool isSame = drawing::isSameAsDrawing(state, drawing());
         if (isSame && (vnsi::isSameName(state.name, m_current) || current.isEmpty()))
             current = state.name;
@@ -309,19 +310,19 @@ void LayerStateCommand::importStates(const VnJsonPtr& node)
                           : Texts::tr("图层状态已输入，但以下内容除外："));
     if (chosen.empty() || !put(chosen))
         return;
+    // The dialog restores the state listed last.
+    if (wantsToRestore(chosen))
+        m_toRestore = chosen.back().name;
     showStates(drawing().layerStates());
     node->SetDataJ(key::kImportedList, m_manager->GetDataJ(key::kList));
     node->SetDataB(key::kImportSucceeded, true);
-    node->SetDataB(key::kImportRestores, offersRestore(chosen));
+    node->SetDataB(key::kImportRestores, !m_toRestore.isEmpty());
 }
 
-/// Whether the user wants to restore the imported state that is last in the list, which is the one
-/// that the dialog restores.
-bool LayerStateCommand::offersRestore(const std::vector<LayerState>& imported)
+/// Whether the user wants to restore the last one of the imported states.
+bool LayerStateCommand::wantsToRestore(const std::vector<LayerState>& imported)
 {
-    const QString last = drawing().layerStateNames().constLast();
-    if (!vnsi::isSameName(imported.back().name, last))
-        return false;
+    const QString last = imported.back().name;
     const QString question =
         imported.size() == 1
             ? Texts::tr("已输入图层状态“%1”。是否立即恢复?").arg(last)

@@ -36,9 +36,9 @@ private:
     drawing::Drawing& drawing() { return m_context->drawing; }
     vnsi::VnJsonPtr makeTree();
     void fillEditor(const vnsi::VnJsonPtr& node, const drawing::LayerState& state);
-    void showStates(const std::vector<drawing::LayerState>& states);
+    void showStates(std::vector<drawing::LayerState> states);
     std::optional<drawing::LayerState> named(const vnsi::VnJsonPtr& node, const char* key);
-    bool offersRestore(const std::vector<drawing::LayerState>& imported);
+    static bool wantsToRestore(const std::vector<drawing::LayerState>& imported);
     bool put(const std::vector<drawing::LayerState>& states);
     bool done(const drawing::Expected<void>& outcome);
     void tellOfOverrides(const drawing::LayerState& state);
@@ -48,5 +48,6 @@ private:
     vnsi::VnJsonPtr m_manager; ///< The elements that requests are sent on.
     vnsi::VnJsonPtr m_editor;
     QString m_current;      ///< The state that was last restored, created or overwritten.
+    QString m_toRestore;    ///< The imported state that the dialog is about to restore.
     QStringList m_problems; ///< What the current request could not do.
 };

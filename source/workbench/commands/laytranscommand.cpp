@@ -4,6 +4,7 @@
 
 #include "drawing.h"
 #include "layermarks.h"
+#include "nameorder.h"
 #include "namerule.h"
 #include "standardsfile.h"
 #include "targetrecord.h"
@@ -222,6 +223,7 @@ void LayerTranslateCommand::addTargets(const std::vector<TargetLayer>& targets, 
         known.insert(vnsi::foldedName(target.name));
         hostextras::append(m_targets, m_records.target(target));
     }
+    sortTargets();
     if (skipped > 0)
         say(Texts::tr("文件“%1”：%2 个图层与列表中的图层同名，保留列表中的。")
                 .arg(shown(path))
@@ -272,7 +274,19 @@ void LayerTranslateCommand::addTarget(const VnJsonPtr& tree)
     target.takeResult(*result);
     target.setUsed(false);
     hostextras::append(m_targets, target.node());
+    sortTargets();
     tree->SetDataJ(kLoadedTargets, m_targets);
+}
+
+void LayerTranslateCommand::sortTargets()
+{
+    std::vector<VnJsonPtr> targets;
+    for (int i = 0, count = m_targets.ArrayCount(); i < count; ++i)
+        targets.push_back(m_targets(i));
+    sortByName(targets, [](const VnJsonPtr& target) { return TargetRecord(target).name(); });
+    m_targets = hostextras::createArray(static_cast<int>(targets.size()));
+    for (const VnJsonPtr& target : targets)
+        hostextras::append(m_targets, target);
 }
 
 void LayerTranslateCommand::showSettings(const VnJsonPtr& tree)

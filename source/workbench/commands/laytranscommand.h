@@ -32,6 +32,7 @@ private:
     void say(const QString& text) const { m_context->say(text); }
     void loadFile(const QString& path, const vnsi::VnJsonPtr& mappings);
     void addTargets(const std::vector<drawing::TargetLayer>& targets, const QString& path);
+    void sortTargets();
     void sayLoaded(const vnsi::VnJsonPtr& mappings) const;
     QString offeredName(const QFileInfo& file) const;
     /// The path under which mappings are saved. When `path` is not possible, the user is told and

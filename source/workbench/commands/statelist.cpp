@@ -4,6 +4,8 @@
 
 #include "drawing.h"
 #include "layerkeys.h"
+#include "nameorder.h"
+#include "namerule.h"
 #include "statekeys.h"
 #include "vnstrings.h"
 
@@ -37,10 +39,19 @@ VnJsonPtr makeEntry(const drawing::LayerState& state)
     return entry;
 }
 
+std::vector<drawing::LayerState> sorted(
+    std::vector<drawing::LayerState> states, const QString& last)
+{
+    sortByName(states, [](const drawing::LayerState& state) { return state.name; });
+    std::stable_partition(states.begin(), states.end(),
+        [&last](const drawing::LayerState& state) { return !vnsi::isSameName(state.name, last); });
+    return states;
+}
+
 VnJsonPtr make(const drawing::Drawing& drawing)
 {
     VnJsonPtr list = hostextras::createArray(0);
-    for (const drawing::LayerState& state : drawing.layerStates())
+    for (const drawing::LayerState& state : sorted(drawing.layerStates()))
         hostextras::append(list, makeEntry(state));
     return list;
 }
