@@ -449,6 +449,14 @@
         <source>移动视口中的视图</source>
         <translation>Move View in Viewport</translation>
     </message>
+    <message>
+        <source>图形</source>
+        <translation>Drawing</translation>
+    </message>
+    <message>
+        <source>图层面板</source>
+        <translation>Layer panel</translation>
+    </message>
 </context>
 <context>
     <name>RecentFiles</name>
@@ -686,10 +694,6 @@
     <message>
         <source>结构</source>
         <translation>Structure</translation>
-    </message>
-    <message>
-        <source>请先在画布上选择要更改图层的对象，然后再执行此命令。</source>
-        <translation>First select on the canvas the objects whose layer is to change, then run this command.</translation>
     </message>
     <message>
         <source>没有名称与输入完全一致的图层，未作更改。</source>

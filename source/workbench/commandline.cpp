@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -72,7 +73,13 @@ void CommandLine::enter()
     m_input->clear();
     m_shown = m_history.size();
     if (word.isEmpty())
-        return;
+        emit enteredNothing();
+    else
+        submit(word);
+}
+
+void CommandLine::submit(const QString& word)
+{
     if (m_history.isEmpty() || m_history.last() != word)
         m_history.append(word);
     if (m_history.size() > kHistory)
@@ -80,6 +87,30 @@ void CommandLine::enter()
     m_shown = m_history.size();
     say(tr("命令: %1").arg(word));
     emit entered(word);
+}
+
+void CommandLine::repeat()
+{
+    if (!m_lastCommand.isEmpty())
+        submit(m_lastCommand);
+}
+
+void CommandLine::takeFocus()
+{
+    m_input->setFocus();
+}
+
+bool CommandLine::takeKey(const QKeyEvent& key)
+{
+    const bool isPlain = !(key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    const QString text = key.text();
+    const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (!isPlain || (!isEnter && (text.isEmpty() || !text.front().isPrint())))
+        return false;
+    takeFocus();
+    QKeyEvent typed(key);
+    QCoreApplication::sendEvent(m_input, &typed);
+    return true;
 }
 
 void CommandLine::showHistory(int step)
@@ -104,14 +135,33 @@ bool CommandLine::eventFilter(QObject* watched, QEvent* event)
     }
     if (watched != m_input || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    // While the completion list is open, the arrow keys move in it.
+    // While the completion list is open, it receives the keys.
     const bool completing = m_input->completer() && m_input->completer()->popup()->isVisible();
-    if (completing || (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_Escape))
-        return QWidget::eventFilter(watched, event);
-    if (key == Qt::Key_Escape)
+    return (!completing && pressed(*static_cast<QKeyEvent*>(event))) ||
+           QWidget::eventFilter(watched, event);
+}
+
+/// True where the key has done its work.
+bool CommandLine::pressed(const QKeyEvent& key)
+{
+    const bool isEmpty = m_input->text().isEmpty();
+    switch (key.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        showHistory(key.key() == Qt::Key_Up ? -1 : 1);
+        return true;
+    case Qt::Key_Escape:
         m_input->clear();
-    else
-        showHistory(key == Qt::Key_Up ? -1 : 1);
-    return true;
+        if (isEmpty)
+            emit gaveUp();
+        return true;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (isEmpty && !key.isAutoRepeat()) // A key held down is no command after command.
+            enter();
+        return isEmpty;
+    default:
+        return false;
+    }
 }

@@ -16,6 +16,10 @@
 #include "requests.h"
 #include "scenebuilder.h"
 #include "statusfields.h"
+#include "typedkeys.h"
+#include "vndialogs.h"
+#include "vnstrings.h"
+#include "windowplace.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -73,6 +77,7 @@ struct MainWindow::ActionRow
     QKeySequence::StandardKey key;
     Menu menu;
     void (MainWindow::*slot)();
+    const char* otherKey = nullptr; ///< A key that drafters expect besides the system's own.
 };
 
 const MainWindow::ActionRow MainWindow::kActions[] = {
@@ -85,13 +90,13 @@ const MainWindow::ActionRow MainWindow::kActions[] = {
     {"SAVE", QT_TR_NOOP("保存(&S)"), "save", QKeySequence::Save, ActionRow::File,
         &MainWindow::save},
     {"SAVEAS", QT_TR_NOOP("另存为(&A)..."), nullptr, QKeySequence::SaveAs, ActionRow::File,
-        &MainWindow::saveAs},
+        &MainWindow::saveAs, "Ctrl+Shift+S"},
     {"QUIT", QT_TR_NOOP("退出(&Q)"), nullptr, QKeySequence::Quit, ActionRow::File,
         &MainWindow::quit},
     {"UNDO", QT_TR_NOOP("撤销(&U)"), "undo", QKeySequence::Undo, ActionRow::Edit,
         &MainWindow::undo},
-    {"REDO", QT_TR_NOOP("重做(&R)"), "redo", QKeySequence::Redo, ActionRow::Edit,
-        &MainWindow::redo},
+    {"REDO", QT_TR_NOOP("重做(&R)"), "redo", QKeySequence::Redo, ActionRow::Edit, &MainWindow::redo,
+        "Ctrl+Y"},
     {"ZOOM", QT_TR_NOOP("缩放到范围(&E)"), "zoom-extents", QKeySequence::UnknownKey,
         ActionRow::View, &MainWindow::zoomToExtents},
     {"BACKGROUND", QT_TR_NOOP("白底(&B)"), "background", QKeySequence::UnknownKey, ActionRow::View,
@@ -112,6 +117,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
     setAcceptDrops(true);
     m_canvas = new Canvas(this);
     m_canvas->setObjectName(QStringLiteral("canvas"));
+    m_canvas->setAccessibleName(tr("图形"));
     setCentralWidget(m_canvas);
     m_status = new StatusFields(this);
     setStatusBar(m_status);
@@ -123,8 +129,10 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
     createLayerPanel();
     connectParts();
     m_canvas->setDark(QSettings().value(QLatin1String(kDarkKey), true).toBool());
+    new TypedKeys(*this, *m_commandLine, [this] { return isBusy(); });
     updateState();
-    resize(1280, 820);
+    windowplace::restore(*this);
+    m_commandLine->takeFocus();
 }
 
 void MainWindow::createActions()
@@ -151,8 +159,13 @@ void MainWindow::createActions()
     };
     for (const ActionRow& row : kActions) {
         QAction* const made = add(menus[row.menu], row.name, tr(row.title), row.icon);
-        made->setShortcuts(row.key);
+        QList<QKeySequence> keys = QKeySequence::keyBindings(row.key);
+        if (row.otherKey && !keys.contains(QKeySequence(QLatin1String(row.otherKey))))
+            keys.append(QKeySequence(QLatin1String(row.otherKey)));
+        made->setShortcuts(keys);
         connect(made, &QAction::triggered, this, row.slot);
+        if (row.menu != ActionRow::Help) // Help is about what has the focus.
+            connect(made, &QAction::triggered, this, [this] { m_commandLine->takeFocus(); });
     }
     bar->addSeparator();
     auto* const quick = new QMenu(tr("快捷操作(&Q)"), this);
@@ -178,6 +191,7 @@ void MainWindow::createActions()
 void MainWindow::createCommandLine()
 {
     m_commandLine = new CommandLine(this);
+    m_commandLine->setAccessibleName(tr("命令行"));
     QStringList words;
     for (const CommandRow& row : CommandTable())
         words.append(QLatin1String(row.name));
@@ -199,6 +213,7 @@ void MainWindow::createLayerPanel()
 {
     m_panel = new LayerPanel(this);
     m_panel->setProperty("helpPage", QStringLiteral("layer-panel"));
+    m_panel->setAccessibleName(tr("图层面板"));
     auto* dock = new QDockWidget(tr("图层"), this);
     dock->setObjectName(QStringLiteral("layerDock"));
     dock->setWidget(m_panel);
@@ -241,6 +256,8 @@ void MainWindow::connectParts()
     connect(m_canvas, &Canvas::viewportLeft, m_status, [this] { m_status->showViewport(false); });
     connect(m_status, &StatusFields::spaceChosen, this, &MainWindow::showSpace);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::runCommand);
+    connect(m_commandLine, &CommandLine::enteredNothing, this, &MainWindow::enterNothing);
+    connect(m_commandLine, &CommandLine::gaveUp, this, [this] { sendToCanvas(Qt::Key_Escape); });
 
     connect(m_builder, &SceneBuilder::sceneChanged, this, &MainWindow::showScene);
     connect(m_builder, &SceneBuilder::finished, this, &MainWindow::endBuilding);
@@ -352,11 +369,15 @@ void MainWindow::showLayers()
     }
     // A linetype may have been loaded meanwhile.
     m_canvas->setLinetypes(drawing::linetypePatterns(*drawing()));
-    std::optional<drawing::Sheet> sheet = drawing()->sheet();
-    m_canvas->setSheet(sheet ? std::make_shared<const drawing::Sheet>(std::move(*sheet)) : nullptr);
+    showSheet(drawing()->sheet());
     m_canvas->setLayers(m_panel->memory()->isolation.shown(drawing()->layers()));
     m_status->showLayers(drawing());
     updateState();
+}
+
+void MainWindow::showSheet(std::optional<drawing::Sheet> sheet)
+{
+    m_canvas->setSheet(sheet ? std::make_shared<const drawing::Sheet>(std::move(*sheet)) : nullptr);
 }
 
 void MainWindow::showScene(const Scene& scene)
@@ -394,6 +415,7 @@ void MainWindow::runCommand(const QString& word)
     for (const ActionRow& row : kActions) {
         if (wanted.compare(QLatin1String(row.name), Qt::CaseInsensitive) != 0)
             continue;
+        m_commandLine->setLastCommand(QLatin1String(row.name));
         if (action(row.name)->isEnabled())
             action(row.name)->trigger();
         else
@@ -409,6 +431,7 @@ void MainWindow::runLayerCommand(const CommandRow& row, const std::vector<drawin
         m_commandLine->say(drawing() ? tr("请等待当前操作结束。") : tr("请先打开一个图形。"));
         return;
     }
+    m_commandLine->setLastCommand(QLatin1String(row.name));
     CommandContext context = commandContext();
     context.layers = layers;
     beginEdit();
@@ -423,6 +446,22 @@ void MainWindow::runLayerCommand(const CommandRow& row, const std::vector<drawin
     }
     endEdit();
     endShowingOnly(context.selection);
+    m_commandLine->takeFocus();
+}
+
+/// ENTER ends a pick, and repeats the last command otherwise.
+void MainWindow::enterNothing()
+{
+    if (m_commandRunning)
+        sendToCanvas(Qt::Key_Return);
+    else
+        m_commandLine->repeat();
+}
+
+void MainWindow::sendToCanvas(Qt::Key key)
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_canvas, &press);
 }
 
 /// Nothing else can be done to the drawing until `endEdit`.
@@ -476,25 +515,40 @@ void MainWindow::endShowingOnly(const std::vector<int>& selection)
     m_canvas->setSelection(selection);
 }
 
+std::vector<int> MainWindow::pick()
+{
+    const QString prompt = tr("选择对象，按 ENTER 键或单击鼠标右键结束，按 ESC 键取消。");
+    m_commandLine->say(prompt);
+    m_status->showMessage(prompt);
+    std::vector<int> picked = pickEntities(*m_canvas);
+    m_status->clearMessage();
+    return picked;
+}
+
+/// Nothing is hidden meanwhile; what was is faded.
+std::vector<int> MainWindow::pickAnything()
+{
+    std::optional<drawing::Sheet> sheet = drawing()->sheet();
+    const auto layers = withHiddenFaded(drawing()->layers(), sheet ? &*sheet : nullptr);
+    showSheet(std::move(sheet));
+    m_canvas->setLayers(layers);
+    std::vector<int> picked = pick();
+    showLayers();
+    return picked;
+}
+
 CommandContext MainWindow::commandContext()
 {
     const auto refresh = [this] {
         showLayers();
         m_canvas->repaint();
     };
-    const auto pick = [this] {
-        const QString prompt = tr("选择对象，按 ENTER 键或单击鼠标右键结束，按 ESC 键取消。");
-        m_commandLine->say(prompt);
-        m_status->showMessage(prompt);
-        std::vector<int> picked = pickEntities(*m_canvas);
-        m_status->clearMessage();
-        return picked;
-    };
     return {*drawing(), this, [this](const QString& text) { m_commandLine->say(text); }, refresh,
         m_canvas->selection(),
-        [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); }, pick,
+        [this](const QString& text) { m_status->showMessage(text, kNoticeMilliseconds); },
+        [this] { return pick(); },
         [this](const std::vector<drawing::LayerId>& layers) { showOnly(layers); }, nullptr,
-        m_panel->memory()};
+        m_panel->memory(), {}, [this] { return pickAnything(); }};
 }
 
 QString MainWindow::askForFile()
@@ -533,11 +587,17 @@ void MainWindow::save()
 
 void MainWindow::saveAs()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("图形另存为"), drawing()->path(), fileFilter());
+    // The host's dialog gives names without a suffix theirs.
+    const vnsi::VnJsonPtr keys = vnsi::ElementValue::createObject(4);
+    keys->SetDataSW("title", vnsi::vnutQStringToOdString(tr("图形另存为")));
+    keys->SetDataSW("filter", vnsi::vnutQStringToOdString(fileFilter()));
+    keys->SetDataSW("dir", vnsi::vnutQStringToOdString(drawing()->path()));
+    keys->SetDataB("Open", false);
+    const vnsi::VnJsonPtr answer =
+        vnsi::vnuiShowModelDialogEx(L"Dialog/Common", L"FileDialogBox", keys, {}, this);
     m_canvas->settleViewport();
-    if (!path.isEmpty())
-        m_session->save(path);
+    if (answer->GetDataI("result") == 1)
+        m_session->save(vnsi::vnutOdStringToQString(answer->GetDataSW("filePath")));
 }
 
 void MainWindow::quit()
@@ -629,6 +689,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     m_canvas->settleViewport();
     event->setAccepted(!m_commandRunning && m_session->confirmClose());
+    if (event->isAccepted())
+        windowplace::keep(*this);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class Canvas;
@@ -78,8 +79,13 @@ private:
 
     QString askForFile();
     CommandContext commandContext();
+    void enterNothing();
+    void sendToCanvas(Qt::Key key);
+    std::vector<int> pick();
+    std::vector<int> pickAnything();
     void runLayerCommand(const CommandRow& row, const std::vector<drawing::LayerId>& layers = {});
     void showDrawing();
+    void showSheet(std::optional<drawing::Sheet> sheet);
     void showScene(const Scene& scene);
     void endBuilding(bool isTruncated);
     int shownSpace() const;

@@ -90,11 +90,49 @@ private slots:
         checkAndUndo(names);
     }
 
-    void changesNeedASelection()
+    void asksForObjects_data()
     {
-        run("laymch", {});
-        QVERIFY2(statusText().contains("请先"), qPrintable(statusText()));
-        QVERIFY(!drawing().canUndo());
+        const Rows<Qt::Key, QString> row("end", "told");
+        row("given up", Qt::Key_Escape, "没有选择对象");
+        row("ended", Qt::Key_Return, "已更改到图层");
+    }
+
+    void asksForObjects()
+    {
+        QFETCH(Qt::Key, end);
+        QFETCH(QString, told);
+        Canvas& canvas = *m_window->canvas();
+        QTimer::singleShot(0, &canvas, [&] {
+            QTest::mouseClick(&canvas, Qt::LeftButton, {}, canvas.rect().center());
+            for (int x = 0; canvas.selection().empty() && x < canvas.width(); x += 3)
+                QTest::mouseClick(&canvas, Qt::LeftButton, {}, QPoint(x, canvas.height() / 2));
+            QTest::keyClick(&canvas, end);
+        });
+        const QString target = used().filter(QRegularExpression("^\\S+$")).first();
+        using Steps = std::vector<ModalDriver::Step>;
+        run("laymch", end == Qt::Key_Return ? Steps{choose({target})} : Steps{});
+        QVERIFY2(statusText().contains(told), qPrintable(statusText()));
+    }
+
+    /// The layers of what is selected are selected rows.
+    void beginsWithTheSelection()
+    {
+        selectAll();
+        QStringList names;
+        for (const int index : m_window->canvas()->selection()) {
+            const LayerId id = drawing().entities()[static_cast<std::size_t>(index)].layer;
+            names += drawing().layer(id)->properties.name;
+        }
+        for (const char* command : {"laydel", "laymrg"}) {
+            run(command, {closing([&](QDialog& dialog) {
+                for (const QString& name : textsOf(list(dialog)))
+                    QCOMPARE(selectedTexts(list(dialog)).contains(name), names.contains(name));
+            })});
+        }
+        // And once more, by the empty line.
+        ModalDriver user;
+        user.then([](QDialog& dialog) { dialog.close(); });
+        QTest::keyClick(&child<QLineEdit>(*m_window, "commandInput"), Qt::Key_Return);
     }
 
     void newLayerIsMadeAndLockedStays()

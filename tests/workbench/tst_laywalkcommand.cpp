@@ -180,19 +180,21 @@ private slots:
 
     void picksFromTheCanvas_data()
     {
-        const Rows<int, int> row("key", "selected");
-        row("ENTER", Qt::Key_Return, 1);
-        row("right button", 0, 1);
-        row("Esc", Qt::Key_Escape, -1); // The selection stays as it was.
+        const Rows<QString, int, int> row("before", "key", "selected");
+        row("ENTER", "selectAll", Qt::Key_Return, 1);
+        row("right button", "selectAll", 0, 1);
+        row("what is hidden, too", "clearAll", Qt::Key_Return, 1);
+        row("Esc", "selectAll", Qt::Key_Escape, -1); // The selection stays as it was.
     }
 
     void picksFromTheCanvas()
     {
+        QFETCH(QString, before);
         QFETCH(int, key);
         QFETCH(int, selected);
         Canvas& canvas = *m_window->canvas();
         const auto picking = [&](QDialog& dialog) {
-            trigger(dialog, "selectAll");
+            trigger(dialog, before);
             if (selected < 0)
                 selected = list(dialog).count();
             QTimer::singleShot(0, &canvas, [&] {

@@ -66,6 +66,78 @@ private slots:
         QVERIFY(input()->text().isEmpty());
     }
 
+    /// Whatever has the focus, what is typed is a command; but fields keep it, and lists the keys
+    /// they have a use for.
+    void typingGoesToTheLine_data()
+    {
+        const Rows<QString, QString, QString> row("focus", "typed", "line");
+        row("canvas", "canvas", "zo", "zo");
+        row("list", "layerPanelTable", "zo", "zo");
+        row("space in a list", "layerPanelTable", " ", "");
+        row("field", "layerSearch", "zo", "");
+    }
+
+    void typingGoesToTheLine()
+    {
+        QFETCH(QString, focus);
+        QFETCH(QString, typed);
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        auto* const widget = find<QWidget>(qPrintable(focus));
+        widget->setFocus();
+        for (const QChar key : typed)
+            QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
+        QTEST(input()->text(), "line");
+    }
+
+    void emptyLineRepeats_data()
+    {
+        const Rows<QString, Qt::Key, QString> row("before", "key", "said");
+        row("nothing to repeat", "", Qt::Key_Return, "");
+        row("ENTER after a command", "LAYER", Qt::Key_Return, "命令: LAYER");
+        row("space", "layer", Qt::Key_Space, "命令: LAYER");
+    }
+
+    void emptyLineRepeats()
+    {
+        QFETCH(QString, before);
+        QFETCH(Qt::Key, key);
+        QFETCH(QString, said);
+        QVERIFY(open(kLine));
+        m_window->runCommand(before);
+        const int lines = echo().count('\n');
+        QTest::keyClick(input(), key);
+        QCOMPARE(echo().section('\n', lines + 1, lines + 1), said);
+    }
+
+    void drafterKeys_data()
+    {
+        const Rows<QString, QString> row("action", "key");
+        row("redo", "REDO", "Ctrl+Y");
+        row("save as", "SAVEAS", "Ctrl+Shift+S");
+    }
+
+    void drafterKeys()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, key);
+        QVERIFY(find<QAction>(qPrintable(action))->shortcuts().contains(QKeySequence(key)));
+    }
+
+    /// Esc on the empty line gives up what is selected; the place of the window is kept.
+    void givesUpAndComesBack()
+    {
+        QVERIFY(open(kLine));
+        m_window->waitForPicture();
+        m_window->canvas()->setSelection({2, 3});
+        QTest::keyClick(input(), Qt::Key_Escape);
+        QVERIFY(m_window->canvas()->selection().empty());
+        const QRect place(30, 40, 720, 480);
+        m_window->setGeometry(place);
+        m_window->close();
+        MainWindow again;
+        QCOMPARE(again.geometry(), place);
+    }
+
     void completionOffersButDoesNotChoose()
     {
         QSignalSpy entered(m_window->findChild<CommandLine*>(), &CommandLine::entered);

@@ -34,6 +34,8 @@ struct CommandContext
     LayerMemory* memory = nullptr;        ///< What the window remembers about the layers.
     /// The layers selected in the panel for this command.
     std::vector<drawing::LayerId> layers = {};
+    /// Like `pick`, but hidden layers are shown faded meanwhile and can be picked as well.
+    std::function<std::vector<int>()> pickAnything = {};
 };
 
 /// Base of the layer commands. Each run uses a new object.

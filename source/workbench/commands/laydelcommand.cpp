@@ -28,7 +28,8 @@ void LayerDeleteCommand::run(CommandContext& context)
     drawing::Drawing& drawing = context.drawing;
     const VnJsonPtr tree = makeTree(drawing);
     const bool confirmed = layermarks::show(
-        context, kDialog, tree, [&drawing](const VnJsonPtr& asked) { answer(drawing, asked); });
+        context, kDialog, tree, [&drawing](const VnJsonPtr& asked) { answer(drawing, asked); },
+        layermarks::chosenNames(context));
     if (!confirmed)
         return;
     const std::vector<drawing::LayerId> layers =

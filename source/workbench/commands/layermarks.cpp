@@ -3,10 +3,13 @@
 #include "benchtexts.h"
 #include "commandinvoker.h"
 #include "hostcodes.h"
+#include "rowselection.h"
 #include "vnmessages.h"
 #include "vnstrings.h"
 
 #include <QStringList>
+
+#include <set>
 
 namespace layermarks {
 
@@ -27,6 +30,29 @@ VnJsonPtr makeTree(const drawing::Drawing& drawing, const layerrecords::Filter& 
     return names.tree(drawing, passes);
 }
 
+std::vector<drawing::LayerId> layersOf(
+    const drawing::Drawing& drawing, const std::vector<int>& entities)
+{
+    std::vector<drawing::LayerId> layers;
+    std::set<drawing::LayerId> known;
+    for (const int entity : entities) {
+        const drawing::LayerId layer = drawing.entities()[static_cast<std::size_t>(entity)].layer;
+        if (drawing.layer(layer) && known.insert(layer).second)
+            layers.push_back(layer);
+    }
+    return layers;
+}
+
+QStringList chosenNames(const CommandContext& context)
+{
+    const std::vector<drawing::LayerId> layers =
+        context.layers.empty() ? layersOf(context.drawing, context.selection) : context.layers;
+    QStringList names;
+    for (const drawing::LayerId id : layers)
+        names += context.drawing.layer(id)->properties.name;
+    return names;
+}
+
 bool mayGo(const drawing::Drawing& drawing, const drawing::Layer& layer)
 {
     return layer.properties.name != QLatin1String("0") && layer.id != drawing.currentLayer() &&
@@ -34,8 +60,9 @@ bool mayGo(const drawing::Drawing& drawing, const drawing::Layer& layer)
 }
 
 bool show(CommandContext& context, const OdString& dialog, const VnJsonPtr& tree,
-    std::function<void(const VnJsonPtr& tree)> answer)
+    std::function<void(const VnJsonPtr& tree)> answer, const QStringList& rows)
 {
+    const RowSelection selection(rows);
     const auto invoker = CommandInvoker::make([answer = std::move(answer)](const VnJsonPtr& asked) {
         if (answer)
             answer(asked);

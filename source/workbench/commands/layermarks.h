@@ -17,12 +17,19 @@ struct Marked
 
 /// A tree with the records of the layers that pass the filter.
 vnsi::VnJsonPtr makeTree(const drawing::Drawing& drawing, const layerrecords::Filter& passes);
+/// The layers of entities in the order they come, each once.
+std::vector<drawing::LayerId> layersOf(
+    const drawing::Drawing& drawing, const std::vector<int>& entities);
+/// The names of the layers that the user chose in the panel or, where he did not, of those that the
+/// objects he selected are on.
+QStringList chosenNames(const CommandContext& context);
 /// Whether a layer may be deleted: it is not 0, not current and not from an external reference.
 bool mayGo(const drawing::Drawing& drawing, const drawing::Layer& layer);
 
-/// Shows a dialog of the module on `tree`. Returns true when the user chose OK.
+/// Shows a dialog of the module on `tree`. Returns true when the user chose OK. Rows of its list
+/// with the names in `rows` are selected at first; without any of them the dialog's own choice is.
 bool show(CommandContext& context, const OdString& dialog, const vnsi::VnJsonPtr& tree,
-    std::function<void(const vnsi::VnJsonPtr& tree)> answer = {});
+    std::function<void(const vnsi::VnJsonPtr& tree)> answer = {}, const QStringList& rows = {});
 
 /// The layers whose records have the status `status`, in their order.
 std::vector<Marked> marked(const vnsi::VnJsonPtr& tree, vnsi::LayerStatus status);

@@ -36,11 +36,10 @@ VnJsonPtr LayerChangeCommand::makeTree(const drawing::Drawing& drawing)
 
 void LayerChangeCommand::run(CommandContext& context)
 {
-    if (context.selection.empty()) {
-        layermarks::tell(
-            context, Texts::tr("请先在画布上选择要更改图层的对象，然后再执行此命令。"));
-        return;
-    }
+    if (context.selection.empty() && context.pick)
+        context.selection = context.pick();
+    if (context.selection.empty())
+        return layermarks::tell(context, Texts::tr("没有选择对象，未作更改。"));
     const VnJsonPtr tree = makeTree(context.drawing);
     if (!layermarks::show(context, kDialog, tree))
         return;

@@ -81,7 +81,7 @@ void LayerMergeCommand::run(CommandContext& context)
         layermarks::tell(context, Texts::tr("没有可以合并的图层。"));
         return;
     }
-    if (!layermarks::show(context, kDialog, tree))
+    if (!layermarks::show(context, kDialog, tree, {}, layermarks::chosenNames(context)))
         return;
     const Layers sources = layermarks::marked(tree, vnsi::kLayerMergeSource);
     if (sources.empty())

@@ -283,17 +283,11 @@ void LayerWalkCommand::saveState(const VnJsonPtr& root)
 
 void LayerWalkCommand::pick(const VnJsonPtr& root)
 {
-    if (!m_context->pick)
+    if (!m_context->pickAnything)
         return;
-    QSet<int> seen;
     const VnJsonPtr names = hostextras::createArray(0);
-    for (const int entity : m_context->pick()) {
-        const LayerId id = drawing().entities()[static_cast<std::size_t>(entity)].layer;
-        const Layer* layer = drawing().layer(id);
-        if (!layer || seen.contains(static_cast<int>(id)))
-            continue;
-        seen.insert(static_cast<int>(id));
-        hostextras::appendText(names, vnsi::vnutQStringToOdString(layer->properties.name));
-    }
+    for (const LayerId id : layermarks::layersOf(drawing(), m_context->pickAnything()))
+        hostextras::appendText(
+            names, vnsi::vnutQStringToOdString(drawing().layer(id)->properties.name));
     root->SetDataJ(walkkey::kPickedNames, names);
 }

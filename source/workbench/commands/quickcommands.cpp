@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
-#include <set>
 
 namespace quickcommands {
 
@@ -117,19 +116,6 @@ constexpr Act kActs[] = {
         hasHistory, QT_TRANSLATE_NOOP("workbench", "没有上一个图层状态。")},
 };
 
-/// The layers of these entities in the order of occurrence, each once.
-Layers layersOf(const Drawing& drawing, const std::vector<int>& entities)
-{
-    Layers layers;
-    std::set<LayerId> known;
-    for (const int entity : entities) {
-        const LayerId layer = drawing.entities()[static_cast<std::size_t>(entity)].layer;
-        if (drawing.layer(layer) && known.insert(layer).second)
-            layers.push_back(layer);
-    }
-    return layers;
-}
-
 Layers allLayers(const Drawing& drawing)
 {
     Layers layers;
@@ -166,7 +152,7 @@ private:
             return allLayers(context.drawing);
         if (context.selection.empty() && context.pick)
             context.selection = context.pick();
-        return layersOf(context.drawing, context.selection);
+        return layermarks::layersOf(context.drawing, context.selection);
     }
 
     const Act& m_act;

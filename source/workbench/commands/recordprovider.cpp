@@ -138,20 +138,13 @@ constexpr Field kFields[] = {
 
 std::vector<const Layer*> sortedByName(const std::vector<Layer>& layers, const Filter& passes)
 {
-    const QCollator collator = nameCollator();
-    std::vector<std::pair<QCollatorSortKey, const Layer*>> keyed;
-    keyed.reserve(layers.size());
+    std::vector<const Layer*> sorted;
+    sorted.reserve(layers.size());
     for (const Layer& layer : layers) {
         if (!passes || passes(layer))
-            keyed.emplace_back(collator.sortKey(layer.properties.name), &layer);
+            sorted.push_back(&layer);
     }
-    std::stable_sort(keyed.begin(), keyed.end(),
-        [](const auto& a, const auto& b) { return a.first.compare(b.first) < 0; });
-
-    std::vector<const Layer*> sorted;
-    sorted.reserve(keyed.size());
-    for (const auto& entry : keyed)
-        sorted.push_back(entry.second);
+    sortByName(sorted, [](const Layer* layer) { return layer->properties.name; });
     return sorted;
 }
 

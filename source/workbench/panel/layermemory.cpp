@@ -36,6 +36,11 @@ bool isSameButName(LayerProperties a, const LayerProperties& b)
     return a == b;
 }
 
+void fade(LayerProperties& properties)
+{
+    properties.transparency = std::max(properties.transparency, kFaded);
+}
+
 } // namespace
 
 void LayerHistory::setDrawing(Drawing* drawing)
@@ -157,7 +162,26 @@ std::vector<Layer> LayerIsolation::shown(std::vector<Layer> layers) const
     for (Layer& layer : layers) {
         if (layer.properties.locked &&
             std::binary_search(m_changed.begin(), m_changed.end(), layer.id))
-            layer.properties.transparency = std::max(layer.properties.transparency, kFaded);
+            fade(layer.properties);
+    }
+    return layers;
+}
+
+std::vector<Layer> withHiddenFaded(std::vector<Layer> layers, drawing::Sheet* sheet)
+{
+    std::set<drawing::LayerId> frozen;
+    if (sheet) {
+        for (drawing::SheetViewport& viewport : sheet->viewports) {
+            frozen.insert(viewport.frozen.begin(), viewport.frozen.end());
+            viewport.frozen.clear();
+        }
+    }
+    for (Layer& layer : layers) {
+        LayerProperties& properties = layer.properties;
+        if (!properties.off && !properties.frozen && frozen.count(layer.id) == 0)
+            continue;
+        properties.off = properties.frozen = false;
+        fade(properties);
     }
     return layers;
 }

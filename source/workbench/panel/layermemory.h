@@ -72,6 +72,11 @@ private:
     drawing::LayerId m_current = drawing::LayerId::None;
 };
 
+/// The layers as the canvas shows them where nothing is to be hidden: those that are hidden come
+/// faded. In the viewports of `sheet`, which may be null, nothing is frozen any more.
+std::vector<drawing::Layer> withHiddenFaded(
+    std::vector<drawing::Layer> layers, drawing::Sheet* sheet);
+
 /// What the window remembers about the layers of its drawing.
 struct LayerMemory
 {
