@@ -85,10 +85,8 @@ private slots:
         QVERIFY(writeLayerStateFile(inFolder("in.las"), {all[1]}));
         manage([&](QDialog& manager) {
             QTableWidget& table = states(manager);
-            QVERIFY(QTest::qWaitForWindowActive(&manager));
             m_host->answer(vnsi::kVnAnswerYes);
-            table.setFocus();
-            QTest::keyClick(&table, Qt::Key_Delete); // The last one is selected.
+            press(manager, "deleteButton"); // The last one is selected.
             QCOMPARE(rowTexts(table).join(' '), "r|模型|是| s9|模型|是|");
             import(manager, "in.las", {0, vnsi::kVnAnswerYes});
             QVERIFY(!manager.isVisible());

@@ -87,8 +87,7 @@ QWidget* VnQtUiDynLayerStateCmdImpl::makeListPanel()
     m_table->setObjectName(QStringLiteral("stateTable"));
     m_table->setFixedWidth(kTableWidth);
     // By a key of its own: the table would take it for a search by typing.
-    m_deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), m_table);
-    m_deleteKey->setContext(Qt::WidgetShortcut);
+    m_deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), this);
     m_deleteKey->setAutoRepeat(false);
     m_referenceBox = makeCheckBox(QT_TR_NOOP("不列出外部参照中的图层状态(&F)"), "referenceBox");
     m_statusLabel = new QLabel(tr("当前图层状态: *未保存*"), panel);
