@@ -1,4 +1,5 @@
 #include "drawing.h"
+#include "gallery/gallery.h"
 #include "mainwindow.h"
 #include "modaldriver.h"
 #include "modulefixture.h"
@@ -138,7 +139,8 @@ private slots:
         window.setFile(std::move(*file));
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        window.pose([this](const QString& name, QWidget& shown) { look(name, shown); });
+        showEveryDialog(window, SAMPLES "/office-standard.dxf",
+            [this](const QString& name, QWidget& shown) { look(name, shown); });
         lookAtHostDialogs();
         QCOMPARE(m_faults.join('\n'), QString());
         QVERIFY2(m_seen.size() > 20, qPrintable(m_seen.join(' ')));

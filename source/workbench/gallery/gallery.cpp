@@ -37,18 +37,12 @@ drawing::Expected<void> writeSheets(MainWindow& window, const QString& folder)
     return {};
 }
 
-drawing::Expected<void> writeGallery(
-    MainWindow& window, const QString& folder, const QString& standard)
+void showEveryDialog(MainWindow& window, const QString& standard,
+    const std::function<void(const QString& name, QWidget& shown)>& camera)
 {
-    drawing::Expected<void> outcome;
-    const auto camera = [&](const QString& name, QWidget& shown) {
-        const QString path = QDir(folder).filePath(name + QStringLiteral(".png"));
-        if (auto saved = savePicture(shown, path); !saved)
-            outcome = std::move(saved);
-    };
     camera(QStringLiteral("workbench"), window);
     if (!window.drawing())
-        return outcome;
+        return;
     gallerysamples::addStates(*window.drawing());
     std::vector<int> all(window.drawing()->entities().size());
     std::iota(all.begin(), all.end(), 0); // Commands that need a selection take what is shown.
@@ -59,5 +53,16 @@ drawing::Expected<void> writeGallery(
         window.canvas()->setSelection(all);
         window.runCommand(QLatin1String(row.name));
     }
+}
+
+drawing::Expected<void> writeGallery(
+    MainWindow& window, const QString& folder, const QString& standard)
+{
+    drawing::Expected<void> outcome;
+    showEveryDialog(window, standard, [&](const QString& name, QWidget& shown) {
+        const QString path = QDir(folder).filePath(name + QStringLiteral(".png"));
+        if (auto saved = savePicture(shown, path); !saved)
+            outcome = std::move(saved);
+    });
     return outcome;
 }
