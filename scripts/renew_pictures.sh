@@ -10,5 +10,6 @@ export XDG_CONFIG_HOME
 trap 'rm -rf "$XDG_CONFIG_HOME"' EXIT
 for folder in docs/manual/*/; do
     rm -f "$folder"images/*.png
-    "$program" --language "$(basename "$folder")" --gallery "$folder"images
+    # By a relative path, since the window says which drawing it opened.
+    "$program" --language "$(basename "$folder")" --gallery "$folder"images samples/office-floor.dxf
 done

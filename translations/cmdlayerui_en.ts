@@ -1018,7 +1018,7 @@ are shown there. Otherwise all layers of the drawing are shown.</translation>
     </message>
     <message>
         <source>与 DWG 相同</source>
-        <translation>Same as DWG</translation>
+        <translation>As DWG</translation>
     </message>
     <message>
         <source>说明</source>

@@ -58,6 +58,9 @@ void showEveryDialog(MainWindow& window, const QString& standard,
 drawing::Expected<void> writeGallery(
     MainWindow& window, const QString& folder, const QString& standard)
 {
+    constexpr QSize kWindow(1280, 820); // Whatever the screen, and whatever size was kept.
+    window.resize(kWindow);
+    window.waitForPicture();
     drawing::Expected<void> outcome;
     showEveryDialog(window, standard, [&](const QString& name, QWidget& shown) {
         const QString path = QDir(folder).filePath(name + QStringLiteral(".png"));

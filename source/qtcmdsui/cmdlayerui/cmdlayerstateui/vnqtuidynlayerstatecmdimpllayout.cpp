@@ -197,7 +197,7 @@ void VnQtUiDynLayerStateCmdImpl::setUpTable()
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setSectionResizeMode(kDescriptionColumn, QHeaderView::Stretch);
-    int widths[] = {90, 66, 110, 0};
+    int widths[] = {90, 66, 66, 0};
     int room = kTableWidth - 2 * m_table->frameWidth();
     for (int column = kColumnCount - 1; column > kNameColumn; --column) {
         const int title = m_table->fontMetrics().horizontalAdvance(headers.at(column));
