@@ -94,6 +94,7 @@ OptionText optionText(const OptionRow& row)
 std::vector<OptionText> optionTexts(const std::vector<OptionRow>& rows)
 {
     std::vector<OptionText> texts;
+    texts.reserve(rows.size());
     for (const OptionRow& row : rows)
         texts.push_back(optionText(row));
     return texts;

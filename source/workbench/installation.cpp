@@ -26,7 +26,7 @@ QString modulePath(const QString& named)
 {
     if (!named.isEmpty())
         return named;
-    if (const QString asked = qEnvironmentVariable("LAYERBENCH_MODULE"); !asked.isEmpty())
+    if (QString asked = qEnvironmentVariable("LAYERBENCH_MODULE"); !asked.isEmpty())
         return asked;
     const QString file = QLatin1String(kModuleFile);
     const QString installed =

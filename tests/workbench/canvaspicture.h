@@ -11,7 +11,7 @@
 inline QImage pictureOf(Canvas& canvas)
 {
     for (;;) {
-        const QImage picture = canvas.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QImage picture = canvas.grab().toImage().convertToFormat(QImage::Format_RGB32);
         if (canvas.isPainted())
             return picture;
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

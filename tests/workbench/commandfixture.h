@@ -87,7 +87,7 @@ protected:
     QImage picture() const
     {
         for (;;) {
-            const QImage picture = pictureOf(*m_window->canvas());
+            QImage picture = pictureOf(*m_window->canvas());
             if (m_window->isPictureWhole())
                 return picture;
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

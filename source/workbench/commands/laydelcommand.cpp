@@ -12,7 +12,6 @@ namespace {
 
 namespace key = vnsi::layerkey;
 
-constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaydel";
 
 } // namespace

@@ -13,7 +13,6 @@ namespace {
 
 namespace key = vnsi::layerkey;
 
-constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaymch";
 
 /// The name of the layer to create, which is in the last record.

@@ -17,7 +17,6 @@ namespace {
 namespace key = vnsi::layerkey;
 namespace toolkey = vnsi::layertoolkey;
 
-constexpr wchar_t kService[] = L"Dialog/CmdLayer";
 constexpr wchar_t kDialog[] = L"Dialog/CmdLaymrg";
 constexpr int kFirstChoice = 100;
 
