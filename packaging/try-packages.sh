@@ -24,7 +24,7 @@ everything() {
 }
 
 step "a bare Debian 12"
-debootstrap --variant=minbase bookworm "$root" "${mirror:-http://deb.debian.org/debian}" >"$work/log" 2>&1 || { tail "$work/log"; exit 1; }
+debootstrap --variant=minbase bookworm "$root" "${mirror:?no package source is set up}" >"$work/log" 2>&1 || { tail "$work/log"; exit 1; }
 mount -t proc proc "$root/proc"
 mkdir "$root/packages"
 mkdir -m 700 "$root/tmp/home" "$root/tmp/run"
