@@ -63,6 +63,8 @@ LayerTables findLayerTables(const QByteArray& file)
     std::string_view section;
     bool isInside = false, isLayer = false;
     for (; reader.next(tag); last = tag) {
+        if (last.code == 0 && last.trimmed() == "EOF")
+            break; // What follows does not belong to the drawing.
         const std::string_view opened =
             tag.code == 2 && last.code == 0 ? last.trimmed() : std::string_view();
         if (opened == "SECTION")
