@@ -43,43 +43,38 @@ else
 fi
 )zsh";
 
-/// The arguments for `compgen` that offer values of an option in bash.
+/// What shells offer for the values of a kind of option; %1 stands for the words of a choice.
+struct ValueRow
+{
+    OptionKind kind;
+    const char* bash; ///< Arguments of `compgen`.
+    const char* zsh;  ///< The end of an option's entry for `_arguments`.
+};
+
+constexpr ValueRow kValues[] = {
+    {OptionKind::Choice, "-W '%1'", ":(%1)"},
+    {OptionKind::Folder, "-d", ":_files -/"},
+    {OptionKind::File, "-f", ":_files"},
+    {OptionKind::Path, "-f", ":_files"},
+};
+
+QString values(const OptionRow& row, const char* ValueRow::*shell, const char* otherwise)
+{
+    for (const ValueRow& value : kValues) {
+        if (value.kind == row.kind)
+            return QString::fromLatin1(value.*shell).replace("%1", QLatin1String(row.choices));
+    }
+    return QLatin1String(otherwise);
+}
+
 QString bashValues(const OptionRow& row)
 {
-    switch (row.kind) {
-    case OptionKind::Choice:
-        return QStringLiteral("-W '%1'").arg(QLatin1String(row.choices));
-    case OptionKind::Folder:
-        return QStringLiteral("-d");
-    case OptionKind::File:
-    case OptionKind::Path:
-        return QStringLiteral("-f");
-    case OptionKind::Text:
-    case OptionKind::Flag:
-    case OptionKind::Number:
-    case OptionKind::Count:
-        break;
-    }
-    return {};
+    return values(row, &ValueRow::bash, "");
 }
 
 QString zshValues(const OptionRow& row)
 {
-    switch (row.kind) {
-    case OptionKind::Choice:
-        return QStringLiteral(":(%1)").arg(QLatin1String(row.choices));
-    case OptionKind::Folder:
-        return QStringLiteral(":_files -/");
-    case OptionKind::File:
-    case OptionKind::Path:
-        return QStringLiteral(":_files");
-    case OptionKind::Text:
-    case OptionKind::Flag:
-    case OptionKind::Number:
-    case OptionKind::Count:
-        break;
-    }
-    return QStringLiteral(":");
+    return values(row, &ValueRow::zsh, ":");
 }
 
 QString zshOption(const OptionText& option)
