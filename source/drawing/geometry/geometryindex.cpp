@@ -7,13 +7,6 @@
 
 namespace drawing {
 
-struct GeometryIndex::Entry
-{
-    Place place;
-    Box bounds;
-    quint32 key = 0; ///< Similar for entries that are close to each other.
-};
-
 namespace {
 
 /// Spreads the lower 16 bits by inserting a zero before each.
@@ -40,35 +33,40 @@ quint32 keyOf(const QPointF& point, const Box& extents)
 
 GeometryIndex::GeometryIndex(const Geometry& geometry)
 {
-    std::vector<Entry> primitives;
-    std::vector<Entry> texts;
-    for (std::size_t group = 0; group < geometry.groups.size(); ++group) {
-        const GeometryGroup& source = geometry.groups[group];
-        m_extents.add(source.bounds);
-        const auto add = [group](std::vector<Entry>& entries, const auto& pieces) {
-            for (std::size_t i = 0; i < pieces.size(); ++i)
-                entries.push_back(
-                    {{static_cast<quint32>(group), static_cast<quint32>(i)}, pieces[i].bounds, 0});
-        };
-        add(primitives, source.primitives);
-        add(texts, source.texts);
-    }
-    m_primitives = bunchesOf(std::move(primitives), m_extents);
-    m_texts = bunchesOf(std::move(texts), m_extents);
+    for (const GeometryGroup& group : geometry.groups)
+        m_extents.add(group.bounds);
+    m_primitives = bunchesOf(geometry.groups, &GeometryGroup::primitives, m_extents);
+    m_texts = bunchesOf(geometry.groups, &GeometryGroup::texts, m_extents);
 }
 
-GeometryIndex::Bunches GeometryIndex::bunchesOf(std::vector<Entry> entries, const Box& extents)
+template <class Pieces>
+GeometryIndex::Bunches GeometryIndex::bunchesOf(
+    const std::vector<GeometryGroup>& groups, Pieces GeometryGroup::*pieces, const Box& extents)
 {
-    for (Entry& entry : entries)
-        entry.key = keyOf(entry.bounds.center(), extents);
+    struct Entry
+    {
+        quint32 key; ///< Similar for pieces that are close to each other.
+        Place place;
+    };
+    std::vector<Entry> entries;
+    std::size_t count = 0;
+    for (const GeometryGroup& group : groups)
+        count += (group.*pieces).size();
+    entries.reserve(count);
+    for (quint32 group = 0; group < groups.size(); ++group) {
+        quint32 index = 0;
+        for (const auto& piece : groups[group].*pieces)
+            entries.push_back({keyOf(piece.bounds.center(), extents), {group, index++}});
+    }
     std::sort(entries.begin(), entries.end(),
         [](const Entry& a, const Entry& b) { return a.key < b.key; });
     Bunches bunches;
-    bunches.places.reserve(entries.size());
-    bunches.bounds.resize((entries.size() + Bunches::kSize - 1) / Bunches::kSize);
-    for (const Entry& entry : entries) {
-        bunches.bounds[bunches.places.size() / Bunches::kSize].add(entry.bounds);
-        bunches.places.push_back(entry.place);
+    bunches.places.reserve(count);
+    bunches.bounds.resize((count + Bunches::kSize - 1) / Bunches::kSize);
+    for (const auto& [key, place] : entries) {
+        const Box& bounds = (groups[place.group].*pieces)[place.index].bounds;
+        bunches.bounds[bunches.places.size() / Bunches::kSize].add(bounds);
+        bunches.places.push_back(place);
     }
     return bunches;
 }

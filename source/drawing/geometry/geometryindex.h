@@ -7,6 +7,7 @@
 namespace drawing {
 
 struct Geometry;
+struct GeometryGroup;
 
 /// Finds what lies near a place without visiting a whole geometry.
 class GeometryIndex
@@ -45,9 +46,11 @@ private:
         std::vector<Place> places;
         std::vector<Box> bounds;
     };
-    struct Entry;
 
-    static Bunches bunchesOf(std::vector<Entry> entries, const Box& extents);
+    /// Sorts the pieces of all groups that a member of the group holds.
+    template <class Pieces>
+    static Bunches bunchesOf(const std::vector<GeometryGroup>& groups,
+        Pieces GeometryGroup::*pieces, const Box& extents);
     static std::vector<Place> placesIn(const Bunches& bunches, const Box& box);
 
     Box m_extents;

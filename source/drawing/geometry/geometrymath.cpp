@@ -5,23 +5,6 @@
 
 namespace drawing {
 
-namespace {
-
-/// Above this limit, products of two coordinates may become infinite.
-constexpr double kLargest = 1e150;
-
-bool usable(double value)
-{
-    return std::abs(value) < kLargest; // Also false for NaN.
-}
-
-} // namespace
-
-bool Vec3::isFinite() const
-{
-    return usable(x) && usable(y) && usable(z);
-}
-
 double Vec3::length() const
 {
     return std::sqrt(x * x + y * y + z * z);
@@ -92,33 +75,27 @@ Transform3 operator*(const Transform3& outer, const Transform3& inner)
         outer.mapDirection(inner.m_z), outer.map(inner.m_origin)};
 }
 
-void Box::add(const QPointF& point)
-{
-    if (isEmpty()) {
-        minX = maxX = point.x();
-        minY = maxY = point.y();
-        return;
-    }
-    minX = std::min(minX, point.x());
-    maxX = std::max(maxX, point.x());
-    minY = std::min(minY, point.y());
-    maxY = std::max(maxY, point.y());
-}
-
-void Box::add(const Box& other)
-{
-    if (other.isEmpty())
-        return;
-    add(QPointF(other.minX, other.minY));
-    add(QPointF(other.maxX, other.maxY));
-}
-
 void Box::grow(double by)
 {
     minX -= by;
     minY -= by;
     maxX += by;
     maxY += by;
+}
+
+bool LineRange::clip(const QPointF& from, const QPointF& way, const Box& box)
+{
+    const auto narrow = [this](double start, double step, double least, double greatest) {
+        if (step == 0)
+            return start >= least && start <= greatest;
+        const double a = (least - start) / step;
+        const double b = (greatest - start) / step;
+        low = std::max(low, std::min(a, b));
+        high = std::min(high, std::max(a, b));
+        return low <= high;
+    };
+    return narrow(from.x(), way.x(), box.minX, box.maxX) &&
+           narrow(from.y(), way.y(), box.minY, box.maxY);
 }
 
 } // namespace drawing

@@ -2,6 +2,8 @@
 
 #include <QPointF>
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace drawing {
@@ -15,7 +17,12 @@ struct Vec3
     double y = 0;
     double z = 0;
 
-    bool isFinite() const; ///< Not NaN, not infinite, and small enough to be squared.
+    /// Not NaN, not infinite, and small enough that the product of two coordinates is finite, too.
+    bool isFinite() const
+    {
+        constexpr double kLargest = 1e150;
+        return std::abs(x) < kLargest && std::abs(y) < kLargest && std::abs(z) < kLargest;
+    }
     double length() const;
     Vec3 normalized() const; ///< The null vector stays unchanged.
     static Vec3 cross(const Vec3& a, const Vec3& b);
@@ -81,13 +88,34 @@ struct Box
     double width() const { return maxX - minX; }
     double height() const { return maxY - minY; }
     QPointF center() const { return {(minX + maxX) / 2, (minY + maxY) / 2}; }
-    void add(const QPointF& point);
-    void add(const Box& other);
+    void add(const QPointF& point) { add(Box{point.x(), point.y(), point.x(), point.y()}); }
+    void add(const Box& other)
+    {
+        if (isEmpty()) {
+            *this = other;
+        } else if (!other.isEmpty()) {
+            minX = std::min(minX, other.minX);
+            maxX = std::max(maxX, other.maxX);
+            minY = std::min(minY, other.minY);
+            maxY = std::max(maxY, other.maxY);
+        }
+    }
     void grow(double by); ///< By the same distance on all sides.
     bool intersects(const Box& other) const
     {
         return minX <= other.maxX && maxX >= other.minX && minY <= other.maxY && maxY >= other.minY;
     }
+};
+
+/// The part of a straight line that is left after clipping: its points `from + t * way` for `t`
+/// from `low` to `high`.
+struct LineRange
+{
+    double low = 0;
+    double high = 1;
+
+    /// Keeps what is inside the box. A single point may be left; returns false when nothing is.
+    bool clip(const QPointF& from, const QPointF& way, const Box& box);
 };
 
 } // namespace drawing

@@ -12,23 +12,13 @@ namespace {
 /// Clips the line at the box. Returns false when nothing is left.
 bool clip(const EndlessLine& line, const Box& box, QPointF ends[2])
 {
-    double low = line.bothWays ? -std::numeric_limits<double>::infinity() : 0;
-    double high = std::numeric_limits<double>::infinity();
-    const auto narrow = [&](double from, double direction, double least, double greatest) {
-        if (direction == 0)
-            return from >= least && from <= greatest;
-        const double a = (least - from) / direction;
-        const double b = (greatest - from) / direction;
-        low = std::max(low, std::min(a, b));
-        high = std::min(high, std::max(a, b));
-        return low < high;
-    };
-    const bool inside = narrow(line.from.x(), line.direction.x(), box.minX, box.maxX) &&
-                        narrow(line.from.y(), line.direction.y(), box.minY, box.maxY);
-    if (!inside || !std::isfinite(low) || !std::isfinite(high))
+    constexpr double kEndless = std::numeric_limits<double>::infinity();
+    LineRange range{line.bothWays ? -kEndless : 0, kEndless};
+    const bool isLeft = range.clip(line.from, line.direction, box) && range.low < range.high;
+    if (!isLeft || !std::isfinite(range.low) || !std::isfinite(range.high))
         return false;
-    ends[0] = line.from + line.direction * low;
-    ends[1] = line.from + line.direction * high;
+    ends[0] = line.from + line.direction * range.low;
+    ends[1] = line.from + line.direction * range.high;
     return true;
 }
 

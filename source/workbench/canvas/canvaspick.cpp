@@ -67,19 +67,7 @@ bool isFilledAt(const GeometryGroup& group, const Primitive& primitive, const QP
 /// Whether a line crosses the box: clipping it at the box's sides leaves something.
 bool reachesInto(const Box& box, const QPointF& from, const QPointF& to)
 {
-    double low = 0;
-    double high = 1;
-    const auto narrow = [&](double start, double step, double least, double greatest) {
-        if (step == 0)
-            return start >= least && start <= greatest;
-        const double a = (least - start) / step;
-        const double b = (greatest - start) / step;
-        low = std::max(low, std::min(a, b));
-        high = std::min(high, std::max(a, b));
-        return low <= high;
-    };
-    return narrow(from.x(), to.x() - from.x(), box.minX, box.maxX) &&
-           narrow(from.y(), to.y() - from.y(), box.minY, box.maxY);
+    return drawing::LineRange().clip(from, to - from, box);
 }
 
 bool isInside(const Box& inner, const Box& box)

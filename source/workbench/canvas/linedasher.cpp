@@ -1,5 +1,7 @@
 #include "linedasher.h"
 
+#include "geometry/geometrymath.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -14,23 +16,6 @@ constexpr double kDegree = M_PI / 180;
 double lengthOf(const QPointF& way)
 {
     return std::hypot(way.x(), way.y());
-}
-
-/// Clips a segment at the rectangle; the result is given as fractions of the segment and may be
-/// empty.
-bool clip(const QPointF& from, const QPointF& way, const QRectF& seen, double& low, double& high)
-{
-    const auto narrow = [&](double start, double step, double least, double greatest) {
-        if (step == 0)
-            return start >= least && start <= greatest;
-        const double a = (least - start) / step;
-        const double b = (greatest - start) / step;
-        low = std::max(low, std::min(a, b));
-        high = std::min(high, std::max(a, b));
-        return low < high;
-    };
-    return narrow(from.x(), way.x(), seen.left(), seen.right()) &&
-           narrow(from.y(), way.y(), seen.top(), seen.bottom());
 }
 
 } // namespace
@@ -84,15 +69,15 @@ void LineDasher::fit(double length, bool isClosed)
 
 void LineDasher::dashSegment(const QPointF& from, const QPointF& to, double start, double length)
 {
-    double low = 0;
-    double high = 1;
-    if (!clip(from, to - from, m_seen, low, high))
+    drawing::LineRange range;
+    const drawing::Box seen{m_seen.left(), m_seen.top(), m_seen.right(), m_seen.bottom()};
+    if (!range.clip(from, to - from, seen) || range.low == range.high)
         return;
     m_from = from;
     m_way = (to - from) / length;
     m_start = start;
-    const double begin = start + low * length;
-    const double end = start + high * length;
+    const double begin = start + range.low * length;
+    const double end = start + range.high * length;
     addPiece(begin, std::min(end, m_lead));
     repeat(std::max(begin, m_lead), std::min(end, m_length - m_lead));
     addPiece(std::max(begin, std::max(m_lead, m_length - m_lead)), end);

@@ -26,8 +26,8 @@ constexpr std::size_t kPartLength = 32768;
 /// Drawings up to this size are flattened immediately.
 constexpr std::size_t kEntitiesAtOnce = 5000;
 constexpr GeometryAmount kRoomAtOnce{100000, 10000, 2000};
-/// Until what has come first is handed out. Each time it takes twice as long, for painting what is
-/// not all of it takes time from the rest.
+/// The time until the first parts are published. It doubles each time, because painting an
+/// incomplete scene takes time from building the rest.
 constexpr int kPublishMilliseconds = 60;
 /// The event that a thread posts when it has finished a part.
 constexpr auto kPartBuilt = static_cast<QEvent::Type>(QEvent::User + 1);
@@ -76,7 +76,7 @@ SceneBuilder::SceneBuilder(QObject* parent) : QObject(parent)
     m_resume.setSingleShot(true);
     connect(&m_resume, &QTimer::timeout, this, &SceneBuilder::resume);
     m_publish.setSingleShot(true);
-    connect(&m_publish, &QTimer::timeout, this, &SceneBuilder::publish);
+    connect(&m_publish, &QTimer::timeout, this, &SceneBuilder::publishBeginning);
 }
 
 SceneBuilder::~SceneBuilder()
@@ -247,6 +247,13 @@ void SceneBuilder::finish()
     publish();
     emit finished(std::any_of(m_parts.begin(), m_parts.end(),
         [](const GeometryPart& part) { return part && part->truncated; }));
+}
+
+/// Publishes what there is, unless the whole will follow in less time than has passed.
+void SceneBuilder::publishBeginning()
+{
+    if (m_build && m_stale.size() * 2 > m_build->parts.size())
+        publish();
 }
 
 void SceneBuilder::publish()

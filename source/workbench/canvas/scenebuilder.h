@@ -49,6 +49,7 @@ private:
     void work(Build& build);
     void collect();
     void finish();
+    void publishBeginning();
     void publish();
 
     const drawing::Drawing* m_drawing = nullptr;
