@@ -51,20 +51,30 @@ constexpr IconRow kIcons[] = {
 };
 static_assert(std::size(kIcons) == static_cast<std::size_t>(LayerIcon::Count));
 
-/// A cell that cannot be edited in place. It stores its data in members, because the role list of a
+using Look = QExplicitlySharedDataPointer<const LayerCellLook>;
+
+Look makeLook(const QIcon& icon, const QString& text, const QString& spoken)
+{
+    return Look(new LayerCellLook(icon, text, spoken));
+}
+
+/// A cell that cannot be edited in place. It stores no data of its own, because the role list of a
 /// general item needs several allocations per cell, and a table has thirteen cells per layer.
 class LayerCellItem : public QTableWidgetItem
 {
 public:
-    /// `spoken` says what the cell shows where its text alone does not.
-    LayerCellItem(bool centred, const QIcon& icon, const QString& text, const QString& spoken)
-        : m_icon(icon),
-          m_text(text),
-          m_spoken(spoken),
-          m_alignment(centred ? kAlignCentre : kAlignLeft)
+    static constexpr int kType = QTableWidgetItem::UserType + 1;
+
+    LayerCellItem(Look look, LayerAlign align)
+        : QTableWidgetItem(kType),
+          m_look(std::move(look)),
+          m_alignment(align == LayerAlign::Centre ? kAlignCentre : kAlignLeft)
     {
         setFlags(flags() & ~Qt::ItemIsEditable);
     }
+
+    /// Shows something else in the same column. The table is not told of it.
+    void setLook(Look look) { m_look = std::move(look); }
 
     QTableWidgetItem* clone() const override { return new LayerCellItem(*this); }
 
@@ -72,11 +82,11 @@ public:
     {
         switch (role) {
         case Qt::DisplayRole:
-            return m_text.isNull() ? QVariant() : m_text;
+            return m_look->text.isNull() ? QVariant() : m_look->text;
         case Qt::DecorationRole:
-            return m_icon.isNull() ? QVariant() : m_icon;
+            return m_look->icon.isNull() ? QVariant() : m_look->icon;
         case Qt::AccessibleTextRole:
-            return m_spoken.isNull() ? QVariant() : m_spoken;
+            return m_look->spoken.isNull() ? QVariant() : m_look->spoken;
         case Qt::TextAlignmentRole:
             return m_alignment;
         default:
@@ -85,9 +95,7 @@ public:
     }
 
 private:
-    QIcon m_icon;
-    QString m_text;
-    QString m_spoken;
+    Look m_look;
     int m_alignment;
 };
 
@@ -181,22 +189,15 @@ QSize LayerCellDelegate::sizeHint(
     return size;
 }
 
-const QIcon& LayerCells::icon(LayerIcon icon)
+const LayerCells::Look& LayerCells::iconLook(LayerIcon icon)
 {
     const auto index = static_cast<std::size_t>(icon);
-    QIcon& made = m_icons[index];
-    if (made.isNull())
-        made = QIcon(
-            QStringLiteral(":/res/Resources/layer_%1.bmp").arg(QLatin1String(kIcons[index].name)));
-    return made;
-}
-
-const QString& LayerCells::meaning(LayerIcon icon)
-{
-    const auto index = static_cast<std::size_t>(icon);
-    QString& made = m_meanings[index];
-    if (made.isNull())
-        made = Texts::tr(kIcons[index].meaning);
+    const IconRow& row = kIcons[index];
+    Look& made = m_icons[index];
+    if (!made)
+        made = makeLook(
+            QIcon(QStringLiteral(":/res/Resources/layer_%1.bmp").arg(QLatin1String(row.name))), {},
+            Texts::tr(row.meaning));
     return made;
 }
 
@@ -217,58 +218,56 @@ LayerIcon LayerCells::stateIcon(bool current)
     return current ? LayerIcon::Current : LayerIcon::NoCurrent;
 }
 
-const LayerCells::Swatch& LayerCells::swatch(const LayerColor& color)
+const LayerCells::Look& LayerCells::colorLook(const LayerColor& color)
 {
-    Swatch& made = m_swatches[{color.method, color.value}];
-    if (made.icon.isNull()) {
+    Look& made = m_colors[{color.method, color.value}];
+    if (!made) {
         const OdCmColor resolved = color.resolved();
         const QColor shown(resolved.red(), resolved.green(), resolved.blue());
-        QPixmap pixmap(kSwatchSize, kSwatchSize);
-        pixmap.fill(shown);
-        made.icon = QIcon(pixmap);
-        made.text = vnutOdStringToQString(hostapi::colorText(resolved));
-        made.spoken = made.text.isEmpty() ? shown.name() : QString();
+        QPixmap swatch(kSwatchSize, kSwatchSize);
+        swatch.fill(shown);
+        const QString text = vnutOdStringToQString(hostapi::colorText(resolved));
+        made = makeLook(QIcon(swatch), text, text.isEmpty() ? shown.name() : QString());
     }
     return made;
 }
 
-const QString& LayerCells::numberText(LayerCell cell, int number)
+const LayerCells::Look& LayerCells::numberLook(LayerCell cell, int number)
 {
-    QString& made = m_numberTexts[{static_cast<int>(cell), number}];
-    if (made.isNull())
-        made = cell == LayerCell::LineWidth ? lineWidthText(number) : QString::number(number);
+    Look& made = m_numbers[{static_cast<int>(cell), number}];
+    if (!made)
+        made = makeLook(
+            {}, cell == LayerCell::LineWidth ? lineWidthText(number) : QString::number(number), {});
     return made;
+}
+
+LayerCells::Look LayerCells::lookOf(const LayerRecord& record, const LayerColumn& column)
+{
+    switch (column.cell) {
+    case LayerCell::Status:
+        return iconLook(statusIcon(record.status()));
+    case LayerCell::MarkedName: {
+        const LayerCellLook& mark = *iconLook(stateIcon(record.isCurrentOfState()));
+        const QString name = vnutOdStringToQString(record.text(column.key));
+        return makeLook(mark.icon, name,
+            record.isCurrentOfState() ? name + QStringLiteral(", ") + mark.spoken : QString());
+    }
+    case LayerCell::Toggle:
+        return iconLook(record.flag(column.key) ? column.icons.whenTrue : column.icons.whenFalse);
+    case LayerCell::Color:
+        return colorLook(record.color());
+    case LayerCell::LineWidth:
+    case LayerCell::Number:
+        return numberLook(column.cell, record.number(column.key));
+    case LayerCell::Text:
+        break;
+    }
+    return makeLook({}, vnutOdStringToQString(record.text(column.key)), {});
 }
 
 QTableWidgetItem* LayerCells::makeItem(const LayerRecord& record, const LayerColumn& column)
 {
-    const auto make = [&column](const QIcon& icon, const QString& text, const QString& spoken) {
-        return new LayerCellItem(column.align == LayerAlign::Centre, icon, text, spoken);
-    };
-    const auto makeIcon = [&](LayerIcon shown) { return make(icon(shown), {}, meaning(shown)); };
-    switch (column.cell) {
-    case LayerCell::Status:
-        return makeIcon(statusIcon(record.status()));
-    case LayerCell::MarkedName: {
-        const bool isCurrent = record.isCurrentOfState();
-        const QString name = vnutOdStringToQString(record.text(column.key));
-        const QString spoken =
-            isCurrent ? name + QStringLiteral(", ") + meaning(LayerIcon::Current) : QString();
-        return make(icon(stateIcon(isCurrent)), name, spoken);
-    }
-    case LayerCell::Toggle:
-        return makeIcon(record.flag(column.key) ? column.icons.whenTrue : column.icons.whenFalse);
-    case LayerCell::Color: {
-        const Swatch& shown = swatch(record.color());
-        return make(shown.icon, shown.text, shown.spoken);
-    }
-    case LayerCell::LineWidth:
-    case LayerCell::Number:
-        return make({}, numberText(column.cell, record.number(column.key)), {});
-    case LayerCell::Text:
-        break;
-    }
-    return make({}, vnutOdStringToQString(record.text(column.key)), {});
+    return new LayerCellItem(lookOf(record, column), column.align);
 }
 
 void LayerCells::refresh(QTableWidget& table, int row, int column, const LayerRecord& record,
@@ -283,8 +282,7 @@ void LayerCells::fill(QTableWidget& table, const std::vector<LayerRecord>& recor
 {
     prepareDelegate(table);
     table.setUpdatesEnabled(false);
-    table.clearContents();
-    table.setRowCount(0);
+    table.selectionModel()->clear();
     table.setRowCount(static_cast<int>(records.size()));
     {
         // Signals are blocked so that the table is updated once instead of once per cell.
@@ -292,12 +290,24 @@ void LayerCells::fill(QTableWidget& table, const std::vector<LayerRecord>& recor
         int row = 0;
         for (const LayerRecord& record : records) {
             for (int column = 0; column < columnCount; ++column)
-                table.setItem(row, column, makeItem(record, columns[column]));
+                showIn(table, row, column, record, columns[column]);
             ++row;
         }
     }
     table.selectionModel()->select(selectedRows(table, records), QItemSelectionModel::Select);
     table.setUpdatesEnabled(true);
+}
+
+/// Reuses the cell that is there, because removing and making all cells of a long table takes
+/// longer than everything else.
+void LayerCells::showIn(QTableWidget& table, int row, int column, const LayerRecord& record,
+    const LayerColumn& description)
+{
+    QTableWidgetItem* const item = table.item(row, column);
+    if (item && item->type() == LayerCellItem::kType)
+        static_cast<LayerCellItem*>(item)->setLook(lookOf(record, description));
+    else
+        table.setItem(row, column, makeItem(record, description));
 }
 
 } // namespace vnsi

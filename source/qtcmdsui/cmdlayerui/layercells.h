@@ -2,8 +2,10 @@
 
 #include "layerrecord.h"
 
+#include <QExplicitlySharedDataPointer>
 #include <QHash>
 #include <QIcon>
+#include <QSharedData>
 #include <QStyledItemDelegate>
 
 #include <array>
@@ -125,15 +127,28 @@ private:
     mutable QHash<QPair<QString, bool>, QSize> m_sizes;
 };
 
-/// Makes the cells of layer tables. Icons, swatches and colour texts are created once and shared by
-/// all cells of a dialog.
+/// What a cell shows.
+struct LayerCellLook : QSharedData
+{
+    LayerCellLook(const QIcon& shownIcon, const QString& shownText, const QString& spokenText)
+        : icon(shownIcon),
+          text(shownText),
+          spoken(spokenText)
+    {
+    }
+
+    QIcon icon;
+    QString text;
+    QString spoken; ///< What screen readers say where the text alone does not tell it.
+};
+
+/// Makes the cells of layer tables. All cells of a dialog that show the same icon, colour or number
+/// share one look.
 class LayerCells
 {
 public:
     /// The icon, which is read from the resources when it is first used.
-    const QIcon& icon(LayerIcon icon);
-    /// The meaning of the icon, for screen readers.
-    const QString& meaning(LayerIcon icon);
+    const QIcon& icon(LayerIcon icon) { return iconLook(icon)->icon; }
     /// The icon of a record's status. A status without an icon of its own uses that of an ordinary
     /// layer.
     static LayerIcon statusIcon(int status);
@@ -144,26 +159,26 @@ public:
     /// Updates one cell from its record.
     void refresh(QTableWidget& table, int row, int column, const LayerRecord& record,
         const LayerColumn& description);
-    /// Rebuilds all rows and selects those whose records have "Selected" set.
+    /// Shows these records in the rows, and no others, and selects those whose records have
+    /// "Selected" set.
     void fill(QTableWidget& table, const std::vector<LayerRecord>& records,
         const LayerColumn* columns, int columnCount);
 
 private:
-    struct Swatch
-    {
-        QIcon icon;
-        QString text;
-        QString spoken; ///< Where the host has no text for the colour.
-    };
+    using Look = QExplicitlySharedDataPointer<const LayerCellLook>;
 
-    const Swatch& swatch(const LayerColor& color);
-    const QString& numberText(LayerCell cell, int number);
+    /// The icon with its meaning as the spoken text.
+    const Look& iconLook(LayerIcon icon);
+    const Look& colorLook(const LayerColor& color);
+    const Look& numberLook(LayerCell cell, int number);
+    Look lookOf(const LayerRecord& record, const LayerColumn& column);
+    void showIn(QTableWidget& table, int row, int column, const LayerRecord& record,
+        const LayerColumn& description);
 
-    std::array<QIcon, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
-    std::array<QString, static_cast<std::size_t>(LayerIcon::Count)> m_meanings;
-    QHash<QPair<qint64, qint64>, Swatch> m_swatches;
+    std::array<Look, static_cast<std::size_t>(LayerIcon::Count)> m_icons;
+    QHash<QPair<qint64, qint64>, Look> m_colors;
     /// The key consists of the kind of cell and the number.
-    QHash<QPair<int, int>, QString> m_numberTexts;
+    QHash<QPair<int, int>, Look> m_numbers;
 };
 
 } // namespace vnsi
