@@ -9,6 +9,7 @@
 #include <QStyledItemDelegate>
 
 #include <array>
+#include <string_view>
 #include <vector>
 
 class QTableWidget;
@@ -74,6 +75,16 @@ struct LayerColumn
     LayerIcons icons = {};
     LayerDoubleClick doubleClick = LayerDoubleClick::None;
 };
+
+/// The index of the column that shows a member of the record; the key must be one of them.
+template <std::size_t count>
+constexpr int columnOf(const LayerColumn (&columns)[count], std::string_view key)
+{
+    int column = 0;
+    while (columns[column].key != key)
+        ++column;
+    return column;
+}
 
 /// The columns that tables of layers share.
 namespace layercolumn {

@@ -11,8 +11,6 @@
 #include <QSignalBlocker>
 #include <QTableWidget>
 
-#include <string_view>
-
 namespace vnsi {
 
 namespace {
@@ -39,19 +37,12 @@ constexpr LayerColumn kColumns[] = {
 };
 constexpr int kColumnCount = static_cast<int>(std::size(kColumns));
 
-/// The index of the column that shows a member of the record.
-constexpr int columnOf(std::string_view key)
-{
-    int column = 0;
-    while (kColumns[column].key != key)
-        ++column;
-    return column;
-}
-constexpr int kStatusColumn = columnOf(layerkey::kStatus);
-constexpr int kNameColumn = columnOf(layerkey::kName);
-constexpr int kOffColumn = columnOf(layerkey::kOff);
-constexpr int kColorColumn = columnOf(layerkey::kColor);
-constexpr int kPlotStyleColumn = columnOf(layerkey::kPlotStyle);
+constexpr int kStatusColumn = columnOf(kColumns, layerkey::kStatus);
+constexpr int kNameColumn = columnOf(kColumns, layerkey::kName);
+constexpr int kOffColumn = columnOf(kColumns, layerkey::kOff);
+constexpr int kColorColumn = columnOf(kColumns, layerkey::kColor);
+constexpr int kPlotStyleColumn = columnOf(kColumns, layerkey::kPlotStyle);
+constexpr int kDescriptionColumn = columnOf(kColumns, layerkey::kDescription);
 
 bool isColumn(int column)
 {
@@ -138,7 +129,7 @@ void ManagerTable::setText(int row, LayerDoubleClick edit, const OdString& text)
     else
         changed.setText(layerkey::kDescription, text);
     changed.markModified(); // This happens even when a name was refused, which is intended.
-    showCell(row, isName ? kNameColumn : columnOf(layerkey::kDescription));
+    showCell(row, isName ? kNameColumn : kDescriptionColumn);
 }
 
 void ManagerTable::makeCurrent(int row)

@@ -5,9 +5,9 @@
 #include "hostapi/hostcalls.h"
 #include "hostapi/hosttree.h"
 #include "hostcodes.h"
+#include "layerclicks.h"
 #include "moduletexts.h"
 #include "namerule.h"
-#include "recordedits.h"
 #include "statetexts.h"
 #include "vnstrings.h"
 
@@ -20,21 +20,6 @@
 namespace vnsi {
 
 namespace {
-
-enum Column {
-    kName,
-    kOff,
-    kFrozen,
-    kLock,
-    kColor,
-    kLinetype,
-    kLineWidth,
-    kTransparency,
-    kPlotStyle,
-    kPrint,
-    kVPortFrozen,
-    kColumnCount
-};
 
 constexpr LayerColumn kColumns[] = {
     {QT_TRANSLATE_NOOP("cmdlayerui", "名称"), LayerCell::MarkedName, layerkey::kName},
@@ -49,7 +34,10 @@ constexpr LayerColumn kColumns[] = {
     layercolumn::kPrint,
     layercolumn::kVPortFrozen,
 };
-static_assert(std::size(kColumns) == kColumnCount);
+constexpr int kColumnCount = static_cast<int>(std::size(kColumns));
+constexpr int kNameColumn = columnOf(kColumns, layerkey::kName);
+constexpr int kColorColumn = columnOf(kColumns, layerkey::kColor);
+constexpr int kPlotStyleColumn = columnOf(kColumns, layerkey::kPlotStyle);
 
 constexpr int kButtonWidth = 90;
 
@@ -170,7 +158,7 @@ void VnQtEditLayerStateDlg::applyColumnWidths()
 {
     const VnJsonPtr node = state();
     const VnJsonPtr widths = node ? node->GetDataJ(managerkey::kColumnWidths) : VnJsonPtr();
-    const int count = std::min(hostapi::count(widths), static_cast<int>(kColumnCount));
+    const int count = std::min(hostapi::count(widths), kColumnCount);
     for (int column = 0; column < count; ++column)
         m_table->setColumnWidth(column, hostapi::intAt(widths, column));
 }
@@ -190,37 +178,20 @@ void VnQtEditLayerStateDlg::showCell(int row, int column)
 
 void VnQtEditLayerStateDlg::slot_TableCellClicked(int row, int column)
 {
-    if (!isRow(row))
+    if (!isRow(row) || column < 0 || column >= kColumnCount)
         return;
-    const LayerRecord clicked = m_rows[static_cast<std::size_t>(row)];
-    switch (column) {
-    case kName:
+    if (column == kNameColumn) {
         makeCurrent(row);
-        break;
-    case kOff:
-    case kFrozen:
-    case kLock:
-    case kPrint:
-    case kVPortFrozen:
-        if (mayToggle(row, column) && isRow(row))
-            toggle(row, column);
-        break;
-    case kColor: {
-        const VnJsonPtr question = hostapi::makeObject();
-        question->SetDataI("backgroundColor", 0);
-        if (recordedits::editColor(clicked, question, this)) {
-            showCell(row, kColor);
-            showCell(row, kPlotStyle);
-        }
-        break;
+        return;
     }
-    case kTransparency:
-        if (recordedits::editTransparency(clicked))
-            showCell(row, kTransparency);
-        break;
-    default:
-        break;
-    }
+    const VnJsonPtr colorQuestion = hostapi::makeObject();
+    colorQuestion->SetDataI("backgroundColor", 0);
+    if (!recordedits::click(kColumns[column], m_rows[static_cast<std::size_t>(row)],
+            row == m_currentRow, colorQuestion, this))
+        return;
+    showCell(row, column);
+    if (column == kColorColumn)
+        showCell(row, kPlotStyleColumn);
 }
 
 /// Makes a layer the current one. The former current layer may have been removed from the state,
@@ -234,27 +205,8 @@ void VnQtEditLayerStateDlg::makeCurrent(int row)
     LayerRecord& current = m_rows[static_cast<std::size_t>(row)];
     current.setCurrentOfState(true);
     m_currentLayers = {current};
-    showCell(std::exchange(m_currentRow, row), kName);
-    showCell(row, kName);
-}
-
-bool VnQtEditLayerStateDlg::mayToggle(int row, int column) const
-{
-    if (row != m_currentRow)
-        return true;
-    if (column == kOff && !m_rows[static_cast<std::size_t>(row)].isOff())
-        return !recordedits::asksToKeepCurrentOn();
-    if (column == kFrozen)
-        recordedits::refuseToFreezeCurrent();
-    return column != kFrozen;
-}
-
-void VnQtEditLayerStateDlg::toggle(int row, int column)
-{
-    LayerRecord& record = m_rows[static_cast<std::size_t>(row)];
-    const char* key = kColumns[column].key;
-    record.setFlag(key, !record.flag(key));
-    showCell(row, column);
+    showCell(std::exchange(m_currentRow, row), kNameColumn);
+    showCell(row, kNameColumn);
 }
 
 /// Copies of the records of the drawing's layers that the table does not show.
@@ -310,7 +262,7 @@ QStringList VnQtEditLayerStateDlg::selectedNames() const
     QStringList names;
     for (const QTableWidgetSelectionRange& range : m_table->selectedRanges()) {
         for (int row = range.topRow(); row <= range.bottomRow(); ++row)
-            names += m_table->item(row, kName)->text();
+            names += m_table->item(row, kNameColumn)->text();
     }
     return names;
 }

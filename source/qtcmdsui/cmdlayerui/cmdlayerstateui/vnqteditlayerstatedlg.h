@@ -41,8 +41,6 @@ private:
     QStringList selectedNames() const;
 
     void makeCurrent(int row);
-    bool mayToggle(int row, int column) const;
-    void toggle(int row, int column);
     bool isRow(int row) const;
     void showCell(int row, int column);
     VnJsonPtr missingLayers() const;
