@@ -163,10 +163,12 @@ Provider::Provider(std::initializer_list<const char*> keys)
 
 const Provider& Provider::full()
 {
-    static const Provider all(
-        {key::kName, key::kStatus, key::kOff, key::kFrozen, key::kLock, key::kColor, key::kLinetype,
-            key::kLineWidth, key::kTransparency, key::kPlotStyle, key::kPrint, key::kVPortFrozen,
-            key::kDescription, key::kDepend, key::kUsed, key::kSelected, key::kModified});
+    static const Provider all = [] {
+        Provider provider({});
+        for (const Field& field : kFields)
+            provider.m_fields.push_back(&field);
+        return provider;
+    }();
     return all;
 }
 
