@@ -12,7 +12,8 @@ namespace {
 void useLanguage(const QString& code)
 {
     if (!language::isKnown(code))
-        dxflayers::refuse(drawing::Texts::tr("没有语言“%1”；可用 zh 或 en。").arg(code));
+        dxflayers::refuse(drawing::Texts::tr("没有语言“%1”；可用的语言: %2。")
+                              .arg(code, QString::fromLatin1(language::kCodes)));
     static int count = 1;
     static char name[] = "dxflayers";
     static char* words[] = {name, nullptr};

@@ -684,8 +684,8 @@
         <translation>A step is open already; steps do not nest.</translation>
     </message>
     <message>
-        <source>没有语言“%1”；可用 zh 或 en。</source>
-        <translation>There is no language “%1”; zh and en are there.</translation>
+        <source>没有语言“%1”；可用的语言: %2。</source>
+        <translation>There is no language “%1”. Languages: %2.</translation>
     </message>
     <message>
         <source>图层状态“%1”：图形中没有图层“%2”。</source>

@@ -181,6 +181,10 @@
         <source>跟随系统(&amp;S)</source>
         <translation>As the &amp;System</translation>
     </message>
+    <message>
+        <source>中文(&amp;Z)</source>
+        <translation>&amp;English</translation>
+    </message>
 </context>
 <context>
     <name>LayerEditor</name>

@@ -13,8 +13,8 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(layertool)
 };
 
-/// Sets the language of the program's texts: "zh", "en", or the locale's language when `code` is
-/// empty.
+/// Sets the language of the program's texts: one of `language::kCodes`, or the locale's when `code`
+/// is empty.
 inline void useLanguage(const QString& code)
 {
     language::use(code, {QStringLiteral("drawing"), QStringLiteral("layertool")});

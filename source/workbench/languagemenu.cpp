@@ -4,18 +4,22 @@
 
 #include <QActionGroup>
 #include <QSettings>
+#include <QTranslator>
 
 namespace {
 
 constexpr char kKey[] = "language";
 
-struct LanguageRow
+/// The name of a language in the language itself, so that its speakers recognise it: what it makes
+/// of the name of the sources' language.
+QString ownName(const QString& code)
 {
-    const char* code;
-    const char* name; ///< In the language itself, so that its speakers recognise it.
-};
-
-constexpr LanguageRow kLanguages[] = {{"zh", "中文(&Z)"}, {"en", "&English"}};
+    constexpr char kSource[] = QT_TRANSLATE_NOOP("LanguageMenu", "中文(&Z)");
+    QTranslator language;
+    const bool isTranslated =
+        language.load(QStringLiteral("workbench_") + code, QStringLiteral(":/i18n"));
+    return isTranslated ? language.translate("LanguageMenu", kSource) : QString::fromUtf8(kSource);
+}
 
 QString kept()
 {
@@ -39,8 +43,8 @@ LanguageMenu::LanguageMenu(QWidget* parent) : QMenu(tr("语言(&L)"), parent)
         });
     };
     offer(tr("跟随系统(&S)"), {});
-    for (const LanguageRow& row : kLanguages)
-        offer(QString::fromUtf8(row.name), QLatin1String(row.code));
+    for (const QString& code : QString::fromLatin1(language::kCodes).split(QLatin1Char(' ')))
+        offer(ownName(code), code);
 }
 
 void LanguageMenu::useLanguage(const QString& asked)

@@ -10,8 +10,9 @@ class LanguageMenu : public QMenu
 public:
     explicit LanguageMenu(QWidget* parent = nullptr);
 
-    /// Shows all texts in this language, "zh" or "en". When `asked` is empty, uses the language
-    /// chosen in the menu, or else that of the locale. Call this before any window is made.
+    /// Shows all texts in this language, one of `language::kCodes`. When `asked` is empty, uses the
+    /// language chosen in the menu, or else that of the locale. Call this before any window is
+    /// made.
     static void useLanguage(const QString& asked);
 
 signals:
