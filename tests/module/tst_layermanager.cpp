@@ -150,11 +150,13 @@ private slots:
         QCOMPARE(manager.label("layerCountLabel"), "全部：共4个图层");
         QCOMPARE(manager.selectedRows(), (QList<int>{1, 3}));
         QVERIFY(!manager.record(2)->GetDataB("Selected", true));
-        QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
+        QCOMPARE(
+            manager.root->GetDataJ("ColumnWidthList").ArrayCount(), manager.table->columnCount());
         QCOMPARE(manager.table->columnWidth(1), 222);
         QVERIFY(manager.isApplyEnabled());
         manager.press("newLayerButton"); // The widths are replaced, not appended.
-        QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
+        QCOMPARE(
+            manager.root->GetDataJ("ColumnWidthList").ArrayCount(), manager.table->columnCount());
     }
 
     void tellsOnlyDrawnWidths()
@@ -165,7 +167,7 @@ private slots:
         QVERIFY(!host::hasKey(manager.root, "ColumnWidthList"));
         drawColumn(*manager.table, 1, 180);
         const VnJsonPtr widths = manager.root->GetDataJ("ColumnWidthList");
-        QCOMPARE(widths.ArrayCount(), 13);
+        QCOMPARE(widths.ArrayCount(), manager.table->columnCount());
         QCOMPARE(hostextras::intOf(widths(1), 0), 180);
     }
 
@@ -227,7 +229,8 @@ private slots:
         QCOMPARE(manager.record(1)->GetDataB("Modified"), isCurrent);
         QVERIFY(manager.shows(0, 0, isCurrent ? "nocurrent" : "current"));
         QVERIFY(manager.isApplyEnabled());
-        QCOMPARE(manager.root->GetDataJ("ColumnWidthList").ArrayCount(), 13);
+        QCOMPARE(
+            manager.root->GetDataJ("ColumnWidthList").ArrayCount(), manager.table->columnCount());
         if (isCurrent) { // The restrictions of the current layer move with it.
             manager.click(1, 3);
             QVERIFY(!manager.record(1)->GetDataB("Frozen"));
@@ -475,7 +478,8 @@ private slots:
     {
         ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
         QWidget& dialog = *manager.dialog.window();
-        for (const auto& [row, column] : {std::pair(-1, 2), {2, 2}, {1, -1}, {1, 13}}) {
+        for (const auto& [row, column] :
+            {std::pair(-1, 2), {2, 2}, {1, -1}, {1, manager.table->columnCount()}}) {
             for (const char* slot : {"slot_TableCellClicked", "slot_TableCellDoubleClicked"})
                 QVERIFY(
                     QMetaObject::invokeMethod(&dialog, slot, Q_ARG(int, row), Q_ARG(int, column)));
