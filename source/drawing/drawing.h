@@ -243,7 +243,7 @@ public:
     void undo();
     void redo();
 
-signals:
+Q_SIGNALS:
     /// Emitted immediately before the drawing changes or is destroyed. Whoever reads the drawing on
     /// another thread must have stopped when this signal returns.
     void aboutToChange() const;

@@ -53,8 +53,12 @@ for example in renamelayers host; do
     quietly cmake --build "$work/$example"
 done
 export PKG_CONFIG_PATH=$lib/pkgconfig
+# Whoever includes a header may have turned off Qt's keywords.
+(cd "$prefix/include/quenlith-layers" && find . -name '*.h' -printf '#include "%P"\n' | sort) >"$work/headers.cpp"
+quietly g++ -std=c++17 -fPIC -fsyntax-only -DQT_NO_KEYWORDS -I"$prefix/include/quenlith-layers" "$work/headers.cpp" \
+    $(pkg-config --cflags quenlith-layers-host quenlith-layers-drawing)
 mkdir "$work/by-pkgconfig"
-quietly g++ -std=c++17 -fPIC "$source/examples/renamelayers/main.cpp" -o "$work/by-pkgconfig/renamelayers" \
+quietly g++ -std=c++17 -fPIC -DQT_NO_KEYWORDS "$source/examples/renamelayers/main.cpp" -o "$work/by-pkgconfig/renamelayers" \
     $(pkg-config --cflags --libs quenlith-layers-drawing)
 pkg-config --validate quenlith-layers-host
 
