@@ -28,7 +28,8 @@ QString escaped(const QString& text)
 QString title(const char* program, const QString& version)
 {
     const QString name = QLatin1String(program);
-    return QStringLiteral(".TH %1 1 \"\" \"%2 %3\"\n").arg(name.toUpper(), name, version);
+    // Lines of Chinese have no blanks to stretch.
+    return QStringLiteral(".TH %1 1 \"\" \"%2 %3\"\n.ad l\n").arg(name.toUpper(), name, version);
 }
 
 QString section(const QString& heading)
@@ -53,7 +54,10 @@ QString paragraph(const QString& text)
 
 QString option(const OptionText& option)
 {
-    QString head = QStringLiteral(".TP\n\\fB%1\\fR").arg(escaped(dashed(option.row)));
+    QString head = QStringLiteral(".TP\n");
+    if (option.row.letter)
+        head += QStringLiteral("\\fB\\-%1\\fR, ").arg(QLatin1Char(option.row.letter));
+    head += QStringLiteral("\\fB%1\\fR").arg(escaped(dashed(option.row)));
     if (!option.value.isEmpty())
         head += QStringLiteral(" \\fI%1\\fR").arg(escaped(option.value));
     return head + QLatin1Char('\n') + line(option.text);
