@@ -7,7 +7,7 @@ namespace {
 constexpr char kBashHead[] = R"bash(# bash completion of %1
 _%1() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD-1]}
-    local options= words= values=
+    local options= words= values= operands=drawings
     # "--name=value" comes as three words.
     if [ "$cur" = = ]; then
         cur=
@@ -26,7 +26,8 @@ constexpr char kBashTail[] = R"bash(    if [ -n "$values" ]; then
         local IFS=$' \t\n'
         COMPREPLY=($(compgen -W "$words" -- "$cur"))
         IFS=$'\n'
-        COMPREPLY+=($(compgen -f -X '!*.[dD][xX][fF]' -- "$cur") $(compgen -d -- "$cur"))
+        [ "$operands" = drawings ] && COMPREPLY+=($(compgen -f -X '!*.[dD][xX][fF]' -- "$cur"))
+        [ "$operands" = words ] || COMPREPLY+=($(compgen -d -- "$cur"))
         compopt -o filenames
     fi
 }
@@ -77,13 +78,34 @@ QString zshValues(const OptionRow& row)
     return values(row, &ValueRow::zsh, ":");
 }
 
+/// How scripts call a kind of operands: the word in that of bash, the last entry for `_arguments`.
+struct OperandsRow
+{
+    Operands operands;
+    const char* bash;
+    const char* zsh;
+};
+
+constexpr OperandsRow kOperands[] = {
+    {Operands::Drawings, "drawings", " \\\n        '*: :_files -g \"*.(#i)dxf(-.)\"'"},
+    {Operands::Folders, "folders", " \\\n        '*: :_files -/'"},
+    {Operands::Words, "words", ""},
+};
+
+const OperandsRow& rowOf(Operands operands)
+{
+    return kOperands[static_cast<int>(operands)];
+}
+
 QString zshOption(const OptionText& option)
 {
     const OptionRow& row = option.row;
-    QString text =
-        QStringLiteral("'%1%2[%3]")
-            .arg(row.several ? QStringLiteral("*") : QString(), dashed(row), zshText(option.text));
-    if (row.kind != OptionKind::Flag)
+    const bool takesValue = row.kind != OptionKind::Flag;
+    // With the sign, a value may come as the next word or behind the sign.
+    QString text = QStringLiteral("'%1%2%3[%4]")
+                       .arg(row.several ? QStringLiteral("*") : QString(), dashed(row),
+                           takesValue ? QStringLiteral("=") : QString(), zshText(option.text));
+    if (takesValue)
         text += QLatin1Char(':') +
                 zshText(row.kind == OptionKind::Choice ? QLatin1String(row.name) : option.value) +
                 zshValues(row);
@@ -100,7 +122,8 @@ QString bashScript(const char* program, const QString& body)
     return named(kBashHead) + body + named(kBashTail);
 }
 
-QString bashWords(const std::vector<OptionRow>& options, const QStringList& words)
+QString bashWords(
+    const std::vector<OptionRow>& options, const QStringList& words, Operands operands)
 {
     QStringList names;
     QString values;
@@ -110,9 +133,10 @@ QString bashWords(const std::vector<OptionRow>& options, const QStringList& word
             values +=
                 QStringLiteral("            %1) values=\"%2\" ;;\n").arg(dashed(row), offered);
     }
-    return QStringLiteral("        options='%1' words='%2'\n        case $prev in\n%3"
+    return QStringLiteral("        options='%1' words='%2' operands=%3\n        case $prev in\n%4"
                           "        esac\n")
-        .arg(names.join(QLatin1Char(' ')), words.join(QLatin1Char(' ')), values);
+        .arg(names.join(QLatin1Char(' ')), words.join(QLatin1Char(' ')),
+            QLatin1String(rowOf(operands).bash), values);
 }
 
 QString zshScript(const char* program, const QString& body)
@@ -120,14 +144,17 @@ QString zshScript(const char* program, const QString& body)
     return QString(QLatin1String(kZshFrame)).arg(QLatin1String(program), body);
 }
 
-QString zshArguments(const std::vector<OptionText>& options, const QStringList& words)
+QString zshArguments(
+    const std::vector<OptionText>& options, const QStringList& words, Operands operands)
 {
     QString text = QStringLiteral("_arguments");
     for (const OptionText& option : options)
         text += QLatin1String(" \\\n        ") + zshOption(option);
     if (!words.isEmpty())
-        text += QStringLiteral(" \\\n        '1: :(%1)'").arg(words.join(QLatin1Char(' ')));
-    return text + QStringLiteral(" \\\n        '*: :_files -g \"*.(#i)dxf(-.)\"'");
+        text += QStringLiteral(" \\\n        '%1: :(%2)'")
+                    .arg(operands == Operands::Words ? QStringLiteral("*") : QStringLiteral("1"),
+                        words.join(QLatin1Char(' ')));
+    return text + QLatin1String(rowOf(operands).zsh);
 }
 
 QString zshText(QString text)

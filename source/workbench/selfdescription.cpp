@@ -10,6 +10,7 @@ namespace selfdescription {
 
 namespace page = commandline::manualpage;
 
+using commandline::Operands;
 using commandline::OptionKind;
 using commandline::OptionRow;
 using commandline::OptionText;
@@ -111,10 +112,12 @@ QString manualPage()
 QString completionScript(const QString& shell)
 {
     if (shell == QLatin1String("bash"))
-        return commandline::bashScript("layerbench", commandline::bashWords(options(), {}));
+        return commandline::bashScript(
+            "layerbench", commandline::bashWords(options(), {}, Operands::Drawings));
     if (shell == QLatin1String("zsh"))
         return commandline::zshScript(
-            "layerbench", QLatin1String("    ") + commandline::zshArguments(optionTexts(), {}) +
+            "layerbench", QLatin1String("    ") +
+                              commandline::zshArguments(optionTexts(), {}, Operands::Drawings) +
                               QLatin1Char('\n'));
     return {};
 }

@@ -39,13 +39,26 @@ quietly "$prefix/bin/layerbench" --gallery "$work/gallery"
 [ -s "$work/gallery/layer-properties.png" ] || fail "the installed workbench shows no layer manager"
 for program in layertool layerbench; do
     grep -q '^\.TP' "$prefix/share/man/man1/$program.1" || fail "the manual page of $program tells no option"
-    offered=$(
-        . "$prefix/share/bash-completion/completions/$program"
-        COMP_WORDS=("$program" list --lang) COMP_CWORD=2
-        "_$program" && echo "${COMPREPLY[@]}"
-    )
-    [ "$offered" = --language ] || fail "bash is offered '$offered' for $program"
 done
+# What bash offers for the last of these words.
+offered() {
+    . "$prefix/share/bash-completion/completions/$1"
+    COMP_WORDS=("$@") COMP_CWORD=$(($# - 1))
+    "_$1" 2>/dev/null || true # It cannot set options outside of a completion.
+    echo "${COMPREPLY[@]}"
+}
+while IFS=: read -r words wanted; do
+    found=$(offered $words)
+    [ "$found" = "$wanted" ] || fail "bash offers '$found' for $words"
+done <<EOF
+layertool list --lang:--language
+layerbench --lang:--language
+layertool list --format = j:json
+layertool list $samples/office-f:$samples/office-floor.dxf
+layertool report $samples/off:
+layertool report $prefix/sh:$prefix/share
+layertool explain layer-un:layer-unused
+EOF
 
 for example in renamelayers host; do
     quietly cmake -S "$source/examples/$example" -B "$work/$example" -G Ninja \

@@ -17,9 +17,9 @@ QString bashScript()
             .arg(names.join(QLatin1Char(' ')), QLatin1String(kHelpRow.name));
     for (const VerbRow& verb : verbs())
         body += QStringLiteral("    %1)\n%2        ;;\n")
-                    .arg(QLatin1String(verb.name),
-                        commandline::bashWords(optionsOf(verb), operandWords(verb)));
-    body += QStringLiteral("    %1) words='%2' ;;\n    esac\n")
+                    .arg(QLatin1String(verb.name), commandline::bashWords(optionsOf(verb),
+                                                       operandWords(verb), operandsOf(verb)));
+    body += QStringLiteral("    %1) words='%2' operands=words ;;\n    esac\n")
                 .arg(QLatin1String(kHelpRow.name), names.join(QLatin1Char(' ')));
     return commandline::bashScript("layertool", body);
 }

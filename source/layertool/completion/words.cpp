@@ -14,4 +14,12 @@ QStringList operandWords(const VerbRow& verb)
     return ids;
 }
 
+commandline::Operands operandsOf(const VerbRow& verb)
+{
+    if (!verb.runAlone)
+        return commandline::Operands::Drawings;
+    const bool takesFolders = *verb.operands && operandWords(verb).isEmpty();
+    return takesFolders ? commandline::Operands::Folders : commandline::Operands::Words;
+}
+
 } // namespace layertool

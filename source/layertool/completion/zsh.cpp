@@ -24,14 +24,17 @@ QString zshScript()
     body += described(kHelpRow.name, kHelpRow.text);
     body += QStringLiteral("    )\n"
                            "    if (( CURRENT == 2 )); then\n"
-                           "        _describe -t commands command verbs\n        return\n    fi\n"
+                           "        if [[ $PREFIX == -* ]]; then\n"
+                           "            compadd -- --help --version\n        else\n"
+                           "            _describe -t commands command verbs\n        fi\n"
+                           "        return\n    fi\n"
                            "    local verb=$words[2]\n    shift words\n    (( CURRENT-- ))\n"
                            "    case $verb in\n");
     for (const VerbRow& verb : verbs())
-        body +=
-            QStringLiteral("    %1) %2 ;;\n")
-                .arg(QLatin1String(verb.name),
-                    commandline::zshArguments(optionTexts(optionsOf(verb)), operandWords(verb)));
+        body += QStringLiteral("    %1) %2 ;;\n")
+                    .arg(QLatin1String(verb.name),
+                        commandline::zshArguments(
+                            optionTexts(optionsOf(verb)), operandWords(verb), operandsOf(verb)));
     body += QStringLiteral("    %1) _describe -t commands command verbs ;;\n    esac\n")
                 .arg(QLatin1String(kHelpRow.name));
     return commandline::zshScript("layertool", body);
