@@ -6,7 +6,6 @@
 #include "steps.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
 
 /// The variable parts of the small house below. All kinds of places in it name the wall's layer.
 struct House

@@ -1,8 +1,6 @@
 #include "file/editjournal.h"
 #include "rows.h"
 
-#include <QtTest>
-
 using namespace drawing;
 
 struct JournalOp
@@ -26,7 +24,6 @@ private slots:
     void edits_data()
     {
         const Rows<JournalOps, QByteArray> row("ops", "expected");
-
         row("nothing", {}, "0123456789");
         row("both ends", {{0, 1, "A"}, {9, 10, "Z"}}, "A12345678Z");
         row("adjacent ranges", {{4, 6, "x"}, {2, 4, "y"}, {6, 7, "z"}}, "01yxz789");

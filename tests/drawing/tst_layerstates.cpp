@@ -104,11 +104,10 @@ private slots:
         for (const QJsonValue tag : last.value("tags").toArray())
             values.insert(tag.toArray().at(0).toInt(), tag.toArray().at(1).toString());
         const LayerProperties& p = second.layers.front().properties;
-        QCOMPARE(values.value(91), QString::number(kStateColor));
-        QCOMPARE(values.value(302), second.currentLayer);
         QCOMPARE(after.value("layers").toObject().value(values.value(330)).toString(), p.name);
-        QCOMPARE(values.value(62), QString::number(p.colorIndex));
-        QCOMPARE(values.value(370), QString::number(p.lineweight));
+        const QStringList read{values[91], values[302], values[62], values[370]};
+        QCOMPARE(read, QStringList({QString::number(kStateColor), second.currentLayer,
+                           QString::number(p.colorIndex), QString::number(p.lineweight)}));
         QVERIFY(*opened(contentOf(result))->layerState("First") == first);
     }
 
@@ -124,17 +123,16 @@ private slots:
         state.name = "Other";
         put(*drawing, state);
 
-        drawing->beginStep("names");
-        QVERIFY(!drawing->renameLayerState("other", "stAte"));
-        QVERIFY(!drawing->renameLayerState("none", "x"));
-        QVERIFY(drawing->renameLayerState("state", "First"));
-        drawing->commitStep();
+        inStep(*drawing, [&] {
+            return !drawing->renameLayerState("other", "stAte") &&
+                   !drawing->renameLayerState("none", "x") &&
+                   drawing->renameLayerState("state", "First");
+        });
         QCOMPARE(drawing->layerStateNames(), QStringList({"First", "Other"}));
-
-        drawing->beginStep("remove");
-        QVERIFY(!drawing->removeLayerStates({"none"}));
-        QVERIFY(drawing->removeLayerStates({"FIRST", "Other"}));
-        drawing->commitStep();
+        QVERIFY(inStep(*drawing, [&] {
+            return !drawing->removeLayerStates({"none"}) &&
+                   drawing->removeLayerStates({"FIRST", "Other"});
+        }));
         QVERIFY(!saved(*drawing).contains("XRECORD\n  5\nA2"));
         QCOMPARE(opened(saved(*drawing))->layerStateNames(), QStringList());
         drawing->undo();
@@ -259,16 +257,9 @@ private slots:
         QCOMPARE(state.mask, int(kStateEverything));
         QCOMPARE(dropUnknownLayers(state, *drawing), QStringList({"Nowhere"}));
         QCOMPARE(state.layers.size(), 2u);
-        LayerProperties wall;
-        wall.name = "WALL";
-        wall.off = wall.frozen = true;
-        wall.colorIndex = 3;
-        wall.trueColor = 0x10203;
-        wall.lineweight = 50;
-        wall.linetype = "Dashed";
-        wall.plotStyle = "Color_3";
-        wall.transparency = 50;
-        QVERIFY(state.layers.front().properties == wall);
+        QVERIFY((state.layers.front().properties == LayerProperties{"WALL", true, true, false, true,
+                                                        false, 3, 0x10203, "Dashed", 50, 50,
+                                                        "Color_3", ""}));
         const LayerStateLayer& empty = state.layers.back();
         QVERIFY(
             empty.properties.locked && empty.properties.plotted && empty.frozenInCurrentViewport);
@@ -423,9 +414,8 @@ private slots:
         LayerStateRestore how;
         how.mask = mask;
         const QStringList notices = restore(*drawing, state, how);
-        const Layer* current = drawing->layer(drawing->currentLayer());
-        QCOMPARE(current->properties.name, isKept ? before : wanted);
-        QVERIFY(!current->properties.frozen);
+        QCOMPARE(currentName(*drawing), isKept ? before : wanted);
+        QVERIFY(!drawing->layer(drawing->currentLayer())->properties.frozen);
         QCOMPARE(drawing->findLayer(wanted)->properties.frozen, isKept);
         QCOMPARE(notices.size(), isKept ? 1 : 0);
         QVERIFY(!isKept || (notices.first().contains(wanted) && notices.first().contains(before)));

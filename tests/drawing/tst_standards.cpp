@@ -2,8 +2,6 @@
 #include "readback.h"
 #include "standardsfile.h"
 
-#include <QJsonArray>
-
 using namespace drawing;
 
 namespace {

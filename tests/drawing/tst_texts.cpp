@@ -3,8 +3,6 @@
 #include "layers/layer.h"
 #include "rows.h"
 
-#include <QtTest>
-
 using namespace drawing;
 
 /// Tests values of tags: numbers, and texts in the possible code pages.
@@ -17,7 +15,6 @@ private slots:
     {
         const Rows<QByteArray, QByteArray, QByteArray, QString> row(
             "version", "codePage", "bytes", "text");
-
         const QString wall = "墙";
         row("UTF-8", "AC1021", "ANSI_936", "\xe5\xa2\x99", wall);
         row("GBK", "AC1018", "ANSI_936", "\xc7\xbd", wall);
@@ -71,7 +68,6 @@ private slots:
     {
         const Rows<QByteArray, QByteArray, QString, QByteArray> row(
             "version", "codePage", "text", "bytes");
-
         row("UTF-8", "AC1021", "", QString::fromUtf8("é墙😀"),
             "\xc3\xa9\xe5\xa2\x99\xf0\x9f\x98\x80");
         row("GBK", "AC1015", "ANSI_936", "A墙", "A\xc7\xbd");

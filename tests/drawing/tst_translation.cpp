@@ -103,13 +103,12 @@ private slots:
         std::vector<LayerRename> renames;
         for (const QString& rename : wanted)
             renames.push_back({id(*drawing, rename.section('>', 0, 0)), rename.section('>', 1)});
-        drawing->beginStep("rename");
-        for (const LayerRenamed& renamed : renameLayers(*drawing, renames, clash)) {
+        const auto done = inStep(*drawing, [&] { return renameLayers(*drawing, renames, clash); });
+        for (const LayerRenamed& renamed : done) {
             refused -= renamed.outcome == LayerRenamed::Outcome::Refused ? 1 : 0;
             // The temporary name must not appear.
             QVERIFY2(!renamed.cause.contains("X$"), qPrintable(renamed.cause));
         }
-        drawing->commitStep();
         QStringList after;
         for (const LayerId layer : ids) {
             const Layer* const found = drawing->layer(layer);
