@@ -1,11 +1,20 @@
 #pragma once
 
 #include "../drawing/readback.h"
+#include "files.h"
 #include "rows.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QTemporaryDir>
+
+/// The value at a path of keys and indices.
+inline QJsonValue at(QJsonValue json, const QString& path)
+{
+    for (const QString& part : path.split('/'))
+        json = json.isArray() ? json.toArray().at(part.toInt()) : json.toObject().value(part);
+    return json;
+}
 
 /// The outcome of a run of the program.
 struct Run
@@ -15,35 +24,43 @@ struct Run
     QString error;
 
     /// What the format "json" says about a drawing; null when it says nothing.
-    QJsonObject drawing(const QString& name) const
-    {
-        const QJsonObject json = QJsonDocument::fromJson(output).object();
-        for (const QJsonValue value : json.value("drawings").toArray()) {
-            if (value.toObject().value("name") == name)
-                return value.toObject();
-        }
-        return {};
-    }
+    QJsonObject drawing(const QString& name) const { return found(drawings(), "name", name); }
     QJsonArray rows(const QString& name) const { return drawing(name).value("data").toArray(); }
     /// The only row whose `key` has this value; null when there is none.
     QJsonObject row(const QString& name, const char* key, const QString& value) const
     {
-        for (const QJsonValue row : rows(name)) {
+        return found(rows(name), key, value);
+    }
+    /// The values of a key in all drawings.
+    QStringList values(const char* key) const
+    {
+        QStringList values;
+        for (const QJsonValue drawing : drawings())
+            values += drawing.toObject().value(QLatin1String(key)).toString();
+        return values;
+    }
+    QMap<QString, int> counted(const char* key) const
+    {
+        QMap<QString, int> counts;
+        for (const QString& value : values(key))
+            ++counts[value];
+        return counts;
+    }
+    QByteArray told() const { return output + error.toUtf8(); }
+
+private:
+    QJsonArray drawings() const
+    {
+        return QJsonDocument::fromJson(output).object().value("drawings").toArray();
+    }
+    static QJsonObject found(const QJsonArray& rows, const char* key, const QString& value)
+    {
+        for (const QJsonValue row : rows) {
             if (row.toObject().value(QLatin1String(key)).toString() == value)
                 return row.toObject();
         }
         return {};
     }
-    /// Counts the values of a key over all drawings.
-    QMap<QString, int> counted(const char* key) const
-    {
-        QMap<QString, int> counts;
-        const QJsonObject json = QJsonDocument::fromJson(output).object();
-        for (const QJsonValue value : json.value("drawings").toArray())
-            ++counts[value.toObject().value(QLatin1String(key)).toString()];
-        return counts;
-    }
-    QByteArray told() const { return output + error.toUtf8(); }
 };
 
 /// A temporary folder in which the program runs.
@@ -54,22 +71,12 @@ public:
     QString write(const QString& name, const QByteArray& bytes) const
     {
         QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write the fixture");
-        return path(name);
+        return writtenFile(path(name), bytes);
     }
-    QByteArray read(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
+    QByteArray read(const QString& name) const { return contentOf(path(name)); }
     void copy(const char* sample, const QString& name) const
     {
-        QFile file(QDir(QStringLiteral(SAMPLES_DIR)).filePath(QLatin1String(sample)));
-        if (!file.open(QIODevice::ReadOnly))
-            qFatal("no such sample");
-        write(name, file.readAll());
+        write(name, contentOf(QStringLiteral(SAMPLES_DIR "/") + sample));
     }
     void copies(const char* sample, int count) const
     {

@@ -1,4 +1,5 @@
 #include "fixture.h"
+#include "plan.h"
 
 #include <QUrl>
 #include <QXmlStreamReader>
@@ -6,26 +7,21 @@
 namespace {
 
 /// A drawing with entities, each given by its layer and further groups, and with empty layers.
-QByteArray drawingOf(std::initializer_list<std::pair<const char*, const char*>> entities,
+Plan drawingOf(std::initializer_list<std::pair<const char*, const char*>> entities,
     const char* version = "AC1015", QByteArrayList layers = {})
 {
-    QByteArray content;
+    Plan plan;
+    plan.version = version;
     int handle = 100;
     for (const auto& [layer, groups] : entities) {
-        content += "0\nPOINT\n5\n" + QByteArray::number(handle++, 16) + "\n100\nAcDbEntity\n8\n" +
-                   layer + '\n' + groups + "100\nAcDbPoint\n10\n0\n20\n0\n";
+        plan.entities += "0 POINT | 5 " + QByteArray::number(handle++, 16) +
+                         " | 100 AcDbEntity | 8 " + layer + '\n' + groups +
+                         "\n100 AcDbPoint | 10 0 | 20 0\n";
         layers.push_front(layer);
     }
-    QByteArray records;
     for (const QByteArray& layer : layers)
-        records += "0\nLAYER\n5\n" + QByteArray::number(handle++, 16) +
-                   "\n100\nAcDbSymbolTableRecord\n100\nAcDbLayerTableRecord\n2\n" + layer +
-                   "\n70\n0\n62\n7\n6\nCONTINUOUS\n";
-    return QByteArray("0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\n") + version +
-           "\n0\nENDSEC\n0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n5\n2\n100\nAcDbSymbolTable\n70"
-           "\n1\n" +
-           records + "0\nENDTAB\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + content +
-           "0\nENDSEC\n0\nEOF\n";
+        plan.layers += layerRecord(QByteArray::number(handle++, 16), layer, "7");
+    return plan;
 }
 
 /// A rule file in which only the given rules are on.
@@ -48,6 +44,8 @@ QByteArray rulesWith(const QByteArray& keys, const QByteArrayList& on)
 constexpr char kCheck[] = "check --standard rules.json --format json plan.dxf ";
 
 } // namespace
+
+Q_DECLARE_METATYPE(Plan)
 
 class TestCheck : public QObject
 {
@@ -72,9 +70,8 @@ private:
 
 void TestCheck::rules_data()
 {
-    const Rows<QByteArray, QByteArray, QByteArray, QByteArray> row(
-        "rule", "keys", "drawing", "layer");
-    const QByteArray plain = drawingOf({{"WALL", ""}, {"DOOR", ""}});
+    const Rows<QByteArray, QByteArray, Plan, QByteArray> row("rule", "keys", "drawing", "layer");
+    const Plan plain = drawingOf({{"WALL", ""}, {"DOOR", ""}});
     row("layer-required", "layer-required", R"({"required": ["WALL", "ROOF*"]})", plain, "ROOF*");
     row("layer-forbidden", "layer-forbidden", R"({"forbidden": ["w*"]})", plain, "WALL");
     row("layer-not-allowed", "layer-not-allowed", R"({"allowed": ["WALL"]})", plain, "DOOR");
@@ -86,35 +83,34 @@ void TestCheck::rules_data()
         "WALL");
     row("the property it has", "layer-property", R"({"layers": [{"name": "wall", "color": 7}]})",
         plain, "");
-    row("layer-hidden-content", "layer-hidden-content", "{}",
-        QByteArray(plain).replace("WALL\n70\n0", "WALL\n70\n1"), "WALL");
+    Plan hidden = plain;
+    hidden.layers.replace("WALL\n70 0", "WALL\n70 1");
+    row("layer-hidden-content", "layer-hidden-content", "{}", hidden, "WALL");
     row("layer-unused", "layer-unused", "{}", drawingOf({{"WALL", ""}}, "AC1015", {"ROOF"}),
         "ROOF");
     row("layer-duplicate", "layer-duplicate", "{}", drawingOf({{"DOOR", ""}}, "AC1015", {"Door"}),
         "Door");
     row("version-limits", "version-limits", "{}", drawingOf({{"A B", ""}, {"AB", ""}}, "AC1009"),
         "A B");
-    row("entity-color", "entity-color", "{}",
-        drawingOf({{"WALL", "62\n1\n"}, {"DOOR", "62\n256\n"}}), "WALL");
-    row("a true colour", "entity-color", "{}", drawingOf({{"WALL", "420\n255\n"}, {"DOOR", ""}}),
+    row("entity-color", "entity-color", "{}", drawingOf({{"WALL", "62 1"}, {"DOOR", "62 256"}}),
+        "WALL");
+    row("a true colour", "entity-color", "{}", drawingOf({{"WALL", "420 255"}, {"DOOR", ""}}),
         "WALL");
     row("a colour that an application keeps", "entity-color", "{}",
-        drawingOf({{"WALL", "102\n{APP\n62\n1\n102\n}\n"}}), "");
+        drawingOf({{"WALL", "102 {APP | 62 1 | 102 }"}}), "");
     row("entity-linetype", "entity-linetype", "{}",
-        drawingOf({{"WALL", "6\nDASHED\n"}, {"DOOR", "6\nByLayer\n"}}), "WALL");
+        drawingOf({{"WALL", "6 DASHED"}, {"DOOR", "6 ByLayer"}}), "WALL");
     row("entity-lineweight", "entity-lineweight", "{}",
-        drawingOf({{"WALL", "370\n25\n"}, {"DOOR", "370\n-1\n"}}), "WALL");
+        drawingOf({{"WALL", "370 25"}, {"DOOR", "370 -1"}}), "WALL");
     row("entity-transparency", "entity-transparency", "{}",
-        drawingOf({{"WALL", "440\n33554559\n"}, {"DOOR", "440\n0\n"}}), "WALL");
+        drawingOf({{"WALL", "440 33554559"}, {"DOOR", "440 0"}}), "WALL");
     row("entity-on-0", "entity-on-0", "{}", drawingOf({{"0", ""}, {"DOOR", ""}}), "0");
     row("entity-on-defpoints", "entity-on-defpoints", "{}",
         drawingOf({{"defpoints", ""}, {"DOOR", ""}}), "defpoints");
-    row("block-content", "block-content", "{}",
-        QByteArray(plain).replace("0\nSECTION\n2\nENT",
-            "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nB\n70\n0\n10\n0\n20\n0\n0\nPOINT\n8\nDOOR\n1"
-            "0\n0\n20"
-            "\n0\n0\nPOINT\n8\n0\n10\n0\n20\n0\n0\nENDBLK\n8\n0\n0\nENDSEC\n0\nSECTION\n2\nENT"),
-        "DOOR");
+    Plan inBlock = plain;
+    inBlock.blocks = "0 BLOCK | 8 0 | 2 B | 70 0 | 10 0 | 20 0\n0 POINT | 8 DOOR | 10 0 | 20 0\n"
+                     "0 POINT | 8 0 | 10 0 | 20 0\n0 ENDBLK | 8 0\n";
+    row("block-content", "block-content", "{}", inBlock, "DOOR");
 }
 
 /// Each rule reports its layer and no other, and nothing when it is off.
@@ -122,9 +118,9 @@ void TestCheck::rules()
 {
     QFETCH(QByteArray, rule);
     QFETCH(QByteArray, keys);
-    QFETCH(QByteArray, drawing);
+    QFETCH(Plan, drawing);
     QFETCH(QByteArray, layer);
-    m->write("plan.dxf", drawing);
+    m->write("plan.dxf", drawing.bytes());
     m->write("rules.json", rulesWith(keys, {rule}));
     const Run run = m->run(kCheck);
     QCOMPARE(run.code, layer.isEmpty() ? 0 : 1);
@@ -163,16 +159,13 @@ void TestCheck::naming()
     QFETCH(QByteArray, scheme);
     QFETCH(QByteArray, good);
     QFETCH(QByteArray, bad);
-    QByteArray drawing = "0\nSECTION\n2\nENTITIES\n";
-    for (const QByteArray& name : good.split(',') + bad.split(',')) {
-        if (!name.isEmpty())
-            drawing += "0\nPOINT\n8\n" + name + "\n10\n0\n20\n0\n";
-    }
-    m->write("plan.dxf", drawing + "0\nENDSEC\n0\nEOF\n");
+    Plan plan;
+    for (const QByteArray& name : good.split(',') + bad.split(','))
+        plan.entities += name.isEmpty() ? "" : "0 POINT | 8 " + name + " | 10 0 | 20 0\n";
+    m->write("plan.dxf", plan.bytes());
     m->write("rules.json", rulesWith("{\"naming\": " + scheme + "}", {"layer-name"}));
     QStringList found;
-    const Run run = m->run(kCheck);
-    for (const QJsonValue row : run.rows("plan.dxf"))
+    for (const QJsonValue row : m->run(kCheck).rows("plan.dxf"))
         found += row.toObject().value("layer").toString();
     QStringList expected = QString(bad).split(',');
     found.sort();
@@ -211,12 +204,12 @@ void TestCheck::misuse()
 
 void TestCheck::baseline()
 {
-    m->write("plan.dxf", drawingOf({{"WALL", ""}}));
+    m->write("plan.dxf", drawingOf({{"WALL", ""}}).bytes());
     m->write("rules.json", rulesWith(R"({"forbidden": ["WALL", "DOOR"]})", {"layer-forbidden"}));
     m->write("known", m->run("check --standard rules.json --format baseline plan.dxf").output);
     const QByteArray line = QByteArray(kCheck) + "--baseline known";
     QCOMPARE(m->run(line).code, 0);
-    m->write("plan.dxf", drawingOf({{"0", ""}, {"DOOR", ""}, {"WALL", ""}}));
+    m->write("plan.dxf", drawingOf({{"0", ""}, {"DOOR", ""}, {"WALL", ""}}).bytes());
     const Run run = m->run(line);
     QCOMPARE(run.code, 1);
     QCOMPARE(run.row("plan.dxf", "layer", "WALL").value("known").toBool(), true);
@@ -268,51 +261,43 @@ void TestCheck::sarif()
     const QJsonObject log = runOf("plan A|bad.dxf");
     QCOMPARE(log.value("version"), "2.1.0");
     QCOMPARE(log.value("runs").toArray().size(), 1);
-    const QJsonObject run = log.value("runs").toArray().at(0).toObject();
-    const QJsonObject driver = run.value("tool").toObject().value("driver").toObject();
-    QCOMPARE(driver.value("name"), "layertool");
+    const QJsonObject run = at(log, "runs/0").toObject();
+    QCOMPARE(at(run, "tool/driver/name").toString(), "layertool");
     QStringList ids;
-    for (const QJsonValue rule : driver.value("rules").toArray())
-        ids += rule.toObject().value("id").toString();
+    for (const QJsonValue rule : at(run, "tool/driver/rules").toArray())
+        ids += at(rule, "id").toString();
     QCOMPARE(QSet<QString>(ids.begin(), ids.end()).size(), ids.size());
     QVERIFY(run.value("results").toArray().size() > 1);
     const QList<QByteArray> lines = m->read("plan A/层#1.dxf").replace("\r\n", "\n").split('\n');
     for (const QJsonValue value : run.value("results").toArray()) {
-        const QJsonObject result = value.toObject();
-        QVERIFY(!result.value("message").toObject().value("text").toString().isEmpty());
-        QVERIFY(ids.contains(result.value("ruleId").toString()));
-        QVERIFY(
-            QStringList({"note", "warning", "error"}).contains(result.value("level").toString()));
-        QVERIFY(result.value("suppressions").isArray());
-        const QJsonObject location = result.value("locations").toArray().at(0).toObject();
-        const QJsonObject place = location.value("physicalLocation").toObject();
-        const QString uri = place.value("artifactLocation").toObject().value("uri").toString();
-        QCOMPARE(uri, QString("plan%20A/%E5%B1%82%231.dxf"));
-        const QJsonObject region = place.value("region").toObject();
-        const int first = region.value("startLine").toInt(), last = region.value("endLine").toInt();
+        QVERIFY(!at(value, "message/text").toString().isEmpty());
+        QVERIFY(ids.contains(at(value, "ruleId").toString()));
+        QVERIFY(QStringList({"note", "warning", "error"}).contains(at(value, "level").toString()));
+        QVERIFY(at(value, "suppressions").isArray());
+        const QJsonValue place = at(value, "locations/0/physicalLocation");
+        QCOMPARE(at(place, "artifactLocation/uri").toString(), "plan%20A/%E5%B1%82%231.dxf");
+        const int first = at(place, "region/startLine").toInt();
+        const int last = at(place, "region/endLine").toInt();
         QVERIFY(first >= 1 && last >= first);
         // The region is the layer's own record, from its first to its last line.
-        const QString layer =
-            location.value("logicalLocations").toArray().at(0).toObject().value("name").toString();
+        const QString layer = at(value, "locations/0/logicalLocations/0/name").toString();
         QCOMPARE(lines.at(first - 1).trimmed(), QByteArray("0"));
         QCOMPARE(lines.at(first).trimmed(), QByteArray("LAYER"));
         QCOMPARE(lines.at(last).trimmed(), QByteArray("0"));
         QVERIFY(lines.mid(first, last - first).contains(layer.toUtf8()));
     }
-    const QJsonObject invocation = run.value("invocations").toArray().at(0).toObject();
-    QCOMPARE(invocation.value("executionSuccessful"), false);
-    QCOMPARE(invocation.value("toolExecutionNotifications").toArray().size(), 1);
+    QCOMPARE(at(run, "invocations/0/executionSuccessful"), QJsonValue(false));
+    QCOMPARE(at(run, "invocations/0/toolExecutionNotifications").toArray().size(), 1);
     m->write("rules.json", rulesWith("{}", {}));
-    const QJsonObject clean = runOf("plan A").value("runs").toArray().at(0).toObject();
-    QVERIFY(clean.value("results").isArray());
-    QCOMPARE(clean.value("results").toArray().size(), 0);
+    const QJsonValue clean = at(runOf("plan A"), "runs/0/results");
+    QVERIFY(clean.isArray() && clean.toArray().isEmpty());
 }
 
 /// The XML is well-formed whatever the names of layers are, and each case has a different key.
 void TestCheck::junit()
 {
-    m->write(
-        "plan.dxf", drawingOf({{"A\x01<&\"'", ""}, {"\xef\xbf\xbf", ""}, {"WALL", "62\n1\n"}}));
+    m->write("plan.dxf",
+        drawingOf({{"A\x01<&\"'", ""}, {"\xef\xbf\xbf", ""}, {"WALL", "62 1"}}, "AC1021").bytes());
     m->write("bad.dxf", "notes");
     m->write("rules.json", R"({"forbidden": ["*"]})");
     const Run run = m->run("check --standard rules.json --format junit plan.dxf bad.dxf");
