@@ -7,7 +7,6 @@
 #include "vnstrings.h"
 
 #include <QLibrary>
-#include <QtTest>
 
 #include <memory>
 
@@ -101,5 +100,4 @@ private slots:
 };
 
 QTEST_MAIN(TestFileDialog)
-
 #include "tst_filedialog.moc"

@@ -1,6 +1,4 @@
-#include "listdriver.h"
-#include "rows.h"
-#include "valuetree.h"
+#include "listfixture.h"
 
 using namespace vnsi;
 
@@ -12,7 +10,7 @@ const char kLayers[] =
 
 } // namespace
 
-class TestLaydel : public QObject
+class TestLaydel : public ListFixture
 {
     Q_OBJECT
 
@@ -41,62 +39,61 @@ private slots:
         QFETCH(QList<int>, rows);
         QFETCH(bool, inBlocks);
         QFETCH(QString, question);
-        ListDriver driver(m_module, kName, kLayers, [&](const VnJsonPtr& root) {
+        open(kName, kLayers, [&](const VnJsonPtr& root) {
             QVERIFY(!root->GetDataB("IsExistBlock", true)); // The old answer was cleared.
             if (inBlocks)
                 root->SetDataB("IsExistBlock", true);
         });
-        driver.host.answer(2);
-        driver.host.answer(1);
-        const int result = driver.run([&](ListDriver& user) {
-            user.select(rows);
-            user.press("okButton"); // Declined at first.
+        m_host->answer(2);
+        m_host->answer(1);
+        const int result = run([&] {
+            select(rows);
+            press("okButton"); // Declined at first.
             for (int i = 0; i < 3; ++i) {
-                const VnJsonPtr record = user.record(i);
-                QCOMPARE(record->GetDataB("IsSelected", !rows.contains(i)), rows.contains(i));
-                QVERIFY(!host::hasKey(record, "CurLayer") && !host::hasKey(record, "Modified"));
+                const VnJsonPtr layer = record(i);
+                QCOMPARE(layer->GetDataB("IsSelected", !rows.contains(i)), rows.contains(i));
+                QVERIFY(!host::hasKey(layer, "CurLayer") && !host::hasKey(layer, "Modified"));
             }
-            QCOMPARE(user.list->selectedItems().size(), rows.size());
-            user.press("okButton");
+            QCOMPARE(m_list->selectedItems().size(), rows.size());
+            press("okButton");
         });
         QCOMPARE(result, 1);
-        QVERIFY(!driver.staysOpen);
-        QCOMPARE(driver.host.log().size(), 4);
-        QVERIFY(driver.host.log()[0].startsWith("request|6|0|"));
-        QCOMPARE(driver.host.log()[1], "messageEx|图层删除 - 删除确认|" + question + "|1|1|32");
+        QVERIFY(!m_staysOpen);
+        QCOMPARE(log().size(), 4);
+        QVERIFY(log()[0].startsWith("request|6|0|"));
+        QCOMPARE(log()[1], "messageEx|图层删除 - 删除确认|" + question + "|1|1|32");
         for (int i = 0; i < 3; ++i) {
-            const VnJsonPtr record = driver.record(i);
-            QCOMPARE(record->GetDataI("CurLayer", -1), rows.contains(i) ? 2 : -1);
-            QCOMPARE(record->GetDataI("Modified", -1), rows.contains(i) ? 1 : -1);
+            QCOMPARE(record(i)->GetDataI("CurLayer", -1), rows.contains(i) ? 2 : -1);
+            QCOMPARE(record(i)->GetDataI("Modified", -1), rows.contains(i) ? 1 : -1);
         }
     }
 
     void doubleClickIsOk()
     {
-        ListDriver driver(m_module, kName, kLayers);
-        driver.host.answer(1);
-        QCOMPARE(driver.run([](ListDriver& user) { user.doubleClick(1); }), 1);
-        QVERIFY(driver.host.log().last().contains("图层 b 将被删除"));
-        QVERIFY(!host::hasKey(driver.record(2), "CurLayer")); // Not "B".
+        open(kName, kLayers);
+        m_host->answer(1);
+        QCOMPARE(run([&] { doubleClick(1); }), 1);
+        QVERIFY(log().last().contains("图层 b 将被删除"));
+        QVERIFY(!host::hasKey(record(2), "CurLayer")); // Not "B".
     }
 
     void doesNothingUnselected()
     {
-        ListDriver driver(m_module, kName, kLayers);
-        QCOMPARE(driver.run([](ListDriver& user) {
-            QCOMPARE(textsOf(*user.list), (QStringList{"A%1", "b", "B"}));
-            QCOMPARE(user.dialog.window()->windowTitle(), QString("删除图层"));
-            QCOMPARE(user.list->currentRow(), 0);
-            user.list->clearSelection();
-            user.press("okButton");
-            user.press("helpButton");
-            QVERIFY(user.dialog.window()->isVisible());
-            user.press("cancelButton");
+        open(kName, kLayers);
+        QCOMPARE(run([&] {
+            QCOMPARE(textsOf(*m_list), (QStringList{"A%1", "b", "B"}));
+            QCOMPARE(title(), "删除图层");
+            QCOMPARE(m_list->currentRow(), 0);
+            m_list->clearSelection();
+            press("okButton");
+            press("helpButton");
+            QVERIFY(isOpen());
+            press("cancelButton");
         }),
             2);
-        QCOMPARE(driver.host.log(), QStringList{"help|0"});
-        QVERIFY(!driver.staysOpen);
-        QVERIFY(!host::hasKey(driver.root, "marker"));
+        QCOMPARE(log(), QStringList{"help|0"});
+        QVERIFY(!m_staysOpen);
+        QVERIFY(!host::hasKey(m_tree, "marker"));
     }
 
     void staysEmptyWithoutCommand()
@@ -104,11 +101,7 @@ private slots:
         const auto dialog = m_module.createDialog(kName, tree(kLayers));
         QCOMPARE(child<QListWidget>(dialog, "layerList").count(), 0);
     }
-
-private:
-    ModuleFixture m_module;
 };
 
 QTEST_MAIN(TestLaydel)
-
 #include "tst_laydel.moc"

@@ -1,14 +1,8 @@
-#include "hostextras.h"
-#include "managerdriver.h"
-#include "rows.h"
-#include "useracts.h"
-#include "valuetree.h"
+#include "managerfixture.h"
 
 #include <QButtonGroup>
 #include <QDialog>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QtTest>
 
 using namespace vnsi;
 
@@ -52,16 +46,16 @@ void typeKey(QWidget* widget, Qt::Key key, const QString& text)
 
 } // namespace
 
-class TestLayerManager : public QObject
+class TestLayerManager : public ManagerFixture
 {
     Q_OBJECT
 
 private slots:
     void tabLeavesTable()
     {
-        const ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
-        QTest::keyClick(manager.table, Qt::Key_Tab);
-        QVERIFY(manager.button("okButton")->hasFocus());
+        open(layerTree({layer("0", 0)}));
+        QTest::keyClick(m_table, Qt::Key_Tab);
+        QVERIFY(find<QPushButton>("okButton").hasFocus());
     }
 
     void deletesSelected_data()
@@ -94,80 +88,76 @@ private slots:
             rows.append(records.size());
             records.append(layer(record.section('|', 0, 0)));
         }
-        ManagerDriver manager(m_module, layerTree(records));
+        open(layerTree(records));
         for (int i = 0; i < more.size(); ++i)
-            merge(manager.record(i + 1), '{' + more[i].section('|', 1).mid(1) + '}');
-        manager.select(rows);
-        manager.press("deleteLayerButton");
+            merge(record(i + 1), '{' + more[i].section('|', 1).mid(1) + '}');
+        select(rows);
+        press("deleteLayerButton");
 
-        QStringList log;
-        if (refused)
-            log.append(refusal(refused, more.size()));
-        QCOMPARE(manager.host.log(), log << request(1));
+        QCOMPARE(log(), (refused ? QStringList{refusal(refused, more.size())} : QStringList())
+                            << request(1));
         for (int i = 0; i < after.size(); ++i) {
-            QCOMPARE(manager.recordText(i + 1), after[i]);
-            QVERIFY(manager.shows(i + 1, 0,
-                manager.record(i + 1)->GetDataI("CurLayer") == 2 ? "deleted" : "nocurrent"));
+            QCOMPARE(recordText(i + 1), after[i]);
+            QVERIFY(shows(
+                i + 1, 0, record(i + 1)->GetDataI("CurLayer") == 2 ? "deleted" : "nocurrent"));
         }
-        QVERIFY(manager.isApplyEnabled());
-        QCOMPARE(manager.selectedRows(), rows);
+        QVERIFY(isApplyEnabled());
+        QCOMPARE(selectedRows(), rows);
     }
 
     void deletesByKey()
     {
         for (const char* focused : {"layerTable", "okButton"}) {
-            ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
-            manager.select({0, 1});
-            auto& widget = child<QWidget>(manager.dialog, focused);
+            open(layerTree({layer("0", 0), layer("A")}));
+            select({0, 1});
+            auto& widget = find<QWidget>(focused);
             widget.setFocus();
             typeKey(&widget, Qt::Key_Delete, "\x7f");
-            QCOMPARE(manager.host.log(), (QStringList{refusal(1, 2), request(1)}));
-            QVERIFY(manager.shows(1, 0, "deleted"));
-            QCOMPARE(manager.table->currentRow(), 1); // The keyboard continues from this row.
+            QCOMPARE(m_host->takeLog(), (QStringList{refusal(1, 2), request(1)}));
+            QVERIFY(shows(1, 0, "deleted"));
+            QCOMPARE(m_table->currentRow(), 1); // The keyboard continues from this row.
         }
     }
 
     void deletesNothingUnselected()
     {
-        ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}), {}, {});
-        manager.press("deleteLayerButton");
-        QVERIFY(manager.host.log().isEmpty());
-        QVERIFY(!manager.isApplyEnabled());
-        QCOMPARE(manager.root->GetDataI("SelectCount", -1), 0);
-        QVERIFY(!host::hasKey(manager.root, "LastIndex"));
-        QVERIFY(!host::hasKey(manager.root, "ColumnWidthList"));
+        open(layerTree({layer("0", 0), layer("A")}), {}, {});
+        press("deleteLayerButton");
+        QVERIFY(log().isEmpty());
+        QVERIFY(!isApplyEnabled());
+        QCOMPARE(m_tree->GetDataI("SelectCount", -1), 0);
+        QVERIFY(!host::hasKey(m_tree, "LastIndex"));
+        QVERIFY(!host::hasKey(m_tree, "ColumnWidthList"));
     }
 
     void addsLayer()
     {
-        ManagerDriver manager(m_module,
+        open(
             layerTree({layer("0", 0), layer("A"), layer("B", 1, R"(,"Selected":true)")}), addLayer);
-        manager.table->setColumnWidth(1, 222);
-        manager.select({1});
-        manager.press("newLayerButton");
-        QCOMPARE(manager.host.log(), QStringList{request(0)});
-        QCOMPARE(manager.table->rowCount(), 4);
-        QCOMPARE(manager.label("layerCountLabel"), "全部：共4个图层");
-        QCOMPARE(manager.selectedRows(), (QList<int>{1, 3}));
-        QVERIFY(!manager.record(2)->GetDataB("Selected", true));
-        QCOMPARE(
-            manager.root->GetDataJ("ColumnWidthList").ArrayCount(), manager.table->columnCount());
-        QCOMPARE(manager.table->columnWidth(1), 222);
-        QVERIFY(manager.isApplyEnabled());
-        manager.press("newLayerButton"); // The widths are replaced, not appended.
-        QCOMPARE(
-            manager.root->GetDataJ("ColumnWidthList").ArrayCount(), manager.table->columnCount());
+        m_table->setColumnWidth(1, 222);
+        select({1});
+        press("newLayerButton");
+        QCOMPARE(log(), QStringList{request(0)});
+        QCOMPARE(m_table->rowCount(), 4);
+        QCOMPARE(label("layerCountLabel"), "全部：共4个图层");
+        QCOMPARE(selectedRows(), (QList<int>{1, 3}));
+        QVERIFY(!record(2)->GetDataB("Selected", true));
+        QCOMPARE(m_tree->GetDataJ("ColumnWidthList").ArrayCount(), m_table->columnCount());
+        QCOMPARE(m_table->columnWidth(1), 222);
+        QVERIFY(isApplyEnabled());
+        press("newLayerButton"); // The widths are replaced, not appended.
+        QCOMPARE(m_tree->GetDataJ("ColumnWidthList").ArrayCount(), m_table->columnCount());
     }
 
     void tellsOnlyDrawnWidths()
     {
-        ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
-        manager.table->setColumnWidth(1, 222);
-        manager.press("applyButton");
-        QVERIFY(!host::hasKey(manager.root, "ColumnWidthList"));
-        drawColumn(*manager.table, 1, 180);
-        const VnJsonPtr widths = manager.root->GetDataJ("ColumnWidthList");
-        QCOMPARE(widths.ArrayCount(), manager.table->columnCount());
+        open(layerTree({layer("0", 0)}));
+        m_table->setColumnWidth(1, 222);
+        press("applyButton");
+        QVERIFY(!host::hasKey(m_tree, "ColumnWidthList"));
+        drawColumn(*m_table, 1, 180);
+        const VnJsonPtr widths = m_tree->GetDataJ("ColumnWidthList");
+        QCOMPARE(widths.ArrayCount(), m_table->columnCount());
         QCOMPARE(hostextras::intOf(widths(1), 0), 180);
     }
 
@@ -176,23 +166,22 @@ private slots:
         QStringList records{layer("0", 0)};
         for (int i = 0; i < 60; ++i)
             records.append(layer(QString::number(i)));
-        ManagerDriver manager(m_module, layerTree(records), addLayer);
-        manager.table->setColumnWidth(12, 4000);
-        manager.press("newLayerButton");
-        const QRect last = manager.table->visualItemRect(manager.cell(61, 1));
-        QVERIFY(manager.table->horizontalScrollBar()->isVisible());
-        QVERIFY(last.bottom() <= manager.table->viewport()->rect().bottom());
+        open(layerTree(records), addLayer);
+        m_table->setColumnWidth(12, 4000);
+        press("newLayerButton");
+        const QRect last = m_table->visualItemRect(cell(61, 1));
+        QVERIFY(m_table->horizontalScrollBar()->isVisible());
+        QVERIFY(last.bottom() <= m_table->viewport()->rect().bottom());
     }
 
     void writesSelectionByRanges()
     {
-        ManagerDriver manager(m_module,
-            layerTree({layer("0", 0), layer("A"), layer("B"), layer("C"), layer("D")}), {},
+        open(layerTree({layer("0", 0), layer("A"), layer("B"), layer("C"), layer("D")}), {},
             {"SelectCount", "LastIndex", "LastSelectedIndex"});
-        manager.select({3, 4, 1}); // The last selected range ends at row 1.
-        manager.press("newLayerButton");
-        QCOMPARE(manager.host.log(), QStringList{R"(request|0|0|{"LastIndex":4,)"
-                                                 R"("LastSelectedIndex":1,"SelectCount":3})"});
+        select({3, 4, 1}); // The last selected range ends at row 1.
+        press("newLayerButton");
+        QCOMPARE(log(), QStringList{R"(request|0|0|{"LastIndex":4,)"
+                                    R"("LastSelectedIndex":1,"SelectCount":3})"});
     }
 
     void setsCurrentByButton_data()
@@ -212,28 +201,26 @@ private slots:
     {
         QFETCH(QString, more);
         QFETCH(int, answer);
-        QFETCH(QString, asked);
         QFETCH(bool, isCurrent);
-        ManagerDriver manager(m_module, layerTree({layer("Old", 0), layer("New")}));
-        merge(manager.record(1), more);
+        open(layerTree({layer("Old", 0), layer("New")}));
+        merge(record(1), more);
         if (answer)
-            manager.host.answer(answer);
-        manager.select({1});
-        manager.press("setCurrentButton");
-        QCOMPARE(manager.host.log().join('#'), asked);
-        QCOMPARE(manager.label("currentLayerLabel"),
-            QString(isCurrent ? "当前图层：New" : "当前图层：Old"));
-        QTEST(manager.record(1)->GetDataB("Off"), "isOff");
-        QCOMPARE(manager.record(0)->GetDataI("CurLayer"), isCurrent ? 1 : 0);
-        QCOMPARE(manager.record(0)->GetDataB("Modified"), isCurrent);
-        QCOMPARE(manager.record(1)->GetDataB("Modified"), isCurrent);
-        QVERIFY(manager.shows(0, 0, isCurrent ? "nocurrent" : "current"));
-        QVERIFY(manager.isApplyEnabled());
+            m_host->answer(answer);
+        select({1});
+        press("setCurrentButton");
+        QTEST(log().join('#'), "asked");
         QCOMPARE(
-            manager.root->GetDataJ("ColumnWidthList").ArrayCount(), manager.table->columnCount());
+            label("currentLayerLabel"), QString(isCurrent ? "当前图层：New" : "当前图层：Old"));
+        QTEST(record(1)->GetDataB("Off"), "isOff");
+        QCOMPARE(record(0)->GetDataI("CurLayer"), isCurrent ? 1 : 0);
+        QCOMPARE(record(0)->GetDataB("Modified"), isCurrent);
+        QCOMPARE(record(1)->GetDataB("Modified"), isCurrent);
+        QVERIFY(shows(0, 0, isCurrent ? "nocurrent" : "current"));
+        QVERIFY(isApplyEnabled());
+        QCOMPARE(m_tree->GetDataJ("ColumnWidthList").ArrayCount(), m_table->columnCount());
         if (isCurrent) { // The restrictions of the current layer move with it.
-            manager.click(1, 3);
-            QVERIFY(!manager.record(1)->GetDataB("Frozen"));
+            click(1, 3);
+            QVERIFY(!record(1)->GetDataB("Frozen"));
         }
     }
 
@@ -248,13 +235,13 @@ private slots:
     void setsNothingCurrentUnlessOneIsSelected()
     {
         QFETCH(QList<int>, rows);
-        ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B"), layer("C")}));
-        manager.select(rows);
-        manager.press("setCurrentButton");
-        QVERIFY(manager.host.log().isEmpty());
-        QCOMPARE(manager.label("currentLayerLabel"), "当前图层：A");
-        QVERIFY(!manager.record(0)->GetDataB("Modified"));
-        QTEST(manager.isApplyEnabled(), "enables");
+        open(layerTree({layer("A", 0), layer("B"), layer("C")}));
+        select(rows);
+        press("setCurrentButton");
+        QVERIFY(log().isEmpty());
+        QCOMPARE(label("currentLayerLabel"), "当前图层：A");
+        QVERIFY(!record(0)->GetDataB("Modified"));
+        QTEST(isApplyEnabled(), "enables");
     }
 
     void setsCurrentByDoubleClick_data()
@@ -274,22 +261,20 @@ private slots:
         QFETCH(int, row);
         QFETCH(QString, more);
         QFETCH(int, answer);
-        QFETCH(QString, asked);
         QFETCH(bool, changes);
-        ManagerDriver manager(
-            m_module, layerTree({layer("A", 0), layer("B", 1, R"(,"Selected":true)"), layer("C")}));
-        merge(manager.record(row), more);
+        open(layerTree({layer("A", 0), layer("B", 1, R"(,"Selected":true)"), layer("C")}));
+        merge(record(row), more);
         if (answer)
-            manager.host.answer(answer);
-        manager.doubleClick(row, 0);
-        QCOMPARE(manager.host.log().join('#'), asked);
-        QCOMPARE(manager.record(0)->GetDataI("CurLayer"), changes ? 1 : 0);
-        QCOMPARE(manager.record(1)->GetDataB("Selected"), !changes);
-        QCOMPARE(host::hasKey(manager.root, "ColumnWidthList"), changes);
-        QCOMPARE(manager.isApplyEnabled(), changes);
-        QTEST(manager.record(row)->GetDataB("Off"), "isOff");
+            m_host->answer(answer);
+        doubleClick(row, 0);
+        QTEST(log().join('#'), "asked");
+        QCOMPARE(record(0)->GetDataI("CurLayer"), changes ? 1 : 0);
+        QCOMPARE(record(1)->GetDataB("Selected"), !changes);
+        QCOMPARE(host::hasKey(m_tree, "ColumnWidthList"), changes);
+        QCOMPARE(isApplyEnabled(), changes);
+        QTEST(record(row)->GetDataB("Off"), "isOff");
         if (changes)
-            QCOMPARE(manager.selectedRows(), QList<int>{row});
+            QCOMPARE(selectedRows(), QList<int>{row});
     }
 
     void renames_data()
@@ -325,37 +310,35 @@ private slots:
     {
         QFETCH(QString, typed);
         QFETCH(QString, refused);
-        ManagerDriver manager(
-            m_module, layerTree({layer("0", 0), layer("A"), layer("layer1"), layer("étage")}));
-        manager.host.answer([&](const VnJsonPtr& question) {
+        open(layerTree({layer("0", 0), layer("A"), layer("layer1"), layer("étage")}));
+        m_host->answer([&](const VnJsonPtr& question) {
             merge(question, QJsonObject{{"Success", true}, {"NewName", typed}});
             return 1;
         });
-        manager.doubleClick(1, 1);
-        QStringList log{R"(dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|{"DefaultName":"A"})"};
-        if (!refused.isEmpty())
-            log.append(refused);
-        QCOMPARE(manager.host.log(), log);
-        QTEST(manager.text(1, 1), "stored");
-        QTEST(toJsonObject(manager.record(1))["LayerName"].toString(), "stored");
-        QCOMPARE(manager.cell(1, 1)->textAlignment(), 129);
-        QVERIFY(!(manager.cell(1, 1)->flags() & Qt::ItemIsEditable));
-        QVERIFY(manager.record(1)->GetDataB("Modified")); // Whether the name was refused or not.
-        QVERIFY(manager.isApplyEnabled());
-        QVERIFY(!manager.table->signalsBlocked());
+        doubleClick(1, 1);
+        QCOMPARE(log().first(),
+            QStringLiteral(R"(dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|{"DefaultName":"A"})"));
+        QCOMPARE(log().mid(1).join('#'), refused);
+        QTEST(text(1, 1), "stored");
+        QTEST(toJsonObject(record(1))["LayerName"].toString(), "stored");
+        QCOMPARE(cell(1, 1)->textAlignment(), 129);
+        QVERIFY(!(cell(1, 1)->flags() & Qt::ItemIsEditable));
+        QVERIFY(record(1)->GetDataB("Modified")); // Whether the name was refused or not.
+        QVERIFY(isApplyEnabled());
+        QVERIFY(!m_table->signalsBlocked());
     }
 
     void renamesOnlyLayerToAnything()
     {
-        ManagerDriver manager(m_module, layerTree({layer("A", 0)}));
-        manager.host.answer(1, R"({"Success":true,"NewName":" <> "})");
-        manager.doubleClick(0, 1);
-        QCOMPARE(manager.text(0, 1), " <> ");
+        open(layerTree({layer("A", 0)}));
+        m_host->answer(1, R"({"Success":true,"NewName":" <> "})");
+        doubleClick(0, 1);
+        QCOMPARE(text(0, 1), " <> ");
     }
 
     void refusesToRename_data()
     {
-        const Rows<QString, bool> row("record", "refused");
+        const Rows<QString, bool> row("given", "refused");
         row("0", layer("0"), true);
         row("of a reference", layer("x|A", 1, R"(,"bDepend":true)"), true);
         row("looks like 0", layer("0 "), false);
@@ -364,32 +347,31 @@ private slots:
 
     void refusesToRename()
     {
-        QFETCH(QString, record);
+        QFETCH(QString, given);
         QFETCH(bool, refused);
-        ManagerDriver manager(m_module, layerTree({layer("C", 0), record}));
-        manager.host.setLogsTrees(false);
+        open(layerTree({layer("C", 0), given}));
+        m_host->setLogsTrees(false);
         if (!refused)
-            manager.host.answer(2, R"({"Success":false,"NewName":"no"})");
-        manager.doubleClick(1, 1);
-        QCOMPARE(manager.host.log().join('#'),
+            m_host->answer(2, R"({"Success":false,"NewName":"no"})");
+        doubleClick(1, 1);
+        QCOMPARE(log().join('#'),
             QString(refused ? "message|不能重命名选定图层。\n\n不能重命名下列图层:\n    图层 0\n"
                               "    依赖外部参照的图层\n|Quenlith|64"
                             : "dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|"));
-        QCOMPARE(toJsonObject(manager.record(1)), toJsonObject(tree(record)));
-        QCOMPARE(manager.isApplyEnabled(), !refused);
+        QCOMPARE(toJsonObject(record(1)), toJsonObject(tree(given)));
+        QCOMPARE(isApplyEnabled(), !refused);
     }
 
     void describes()
     {
-        ManagerDriver manager(
-            m_module, layerTree({layer("0", 0, R"(,"Description":"旧","bDepend":true)")}));
-        manager.host.answer(1, R"({"Success":true,"NewName":" <新> "})");
-        manager.doubleClick(0, 12);
-        QCOMPARE(manager.host.log(), QStringList{"dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|"
-                                                 R"({"DefaultName":"旧","Tip":"说明:"})"});
-        QCOMPARE(manager.text(0, 12), " <新> ");
-        QCOMPARE(manager.cell(0, 12)->textAlignment(), 129);
-        QVERIFY(manager.record(0)->GetDataB("Modified"));
+        open(layerTree({layer("0", 0, R"(,"Description":"旧","bDepend":true)")}));
+        m_host->answer(1, R"({"Success":true,"NewName":" <新> "})");
+        doubleClick(0, 12);
+        QCOMPARE(log(), QStringList{"dialog|Dialog/CmdsUI|Dialog/CmdsUI/ReNameDlg|"
+                                    R"({"DefaultName":"旧","Tip":"说明:"})"});
+        QCOMPARE(text(0, 12), " <新> ");
+        QCOMPARE(cell(0, 12)->textAlignment(), 129);
+        QVERIFY(record(0)->GetDataB("Modified"));
     }
 
     void closes_data()
@@ -413,39 +395,38 @@ private slots:
         QFETCH(QByteArray, button);
         QFETCH(QString, modified);
         QFETCH(int, answer);
-        ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B")}));
-        merge(manager.record(1), modified);
+        open(layerTree({layer("A", 0), layer("B")}));
+        merge(record(1), modified);
         if (answer)
-            manager.host.answer(answer);
-        QSignalSpy finished(qobject_cast<QDialog*>(manager.dialog.window()), &QDialog::finished);
+            m_host->answer(answer);
+        QSignalSpy finished(qobject_cast<QDialog*>(m_dialog.window()), &QDialog::finished);
         if (button.isEmpty())
-            typeKey(manager.table, Qt::Key_Escape, "\x1b");
+            typeKey(m_table, Qt::Key_Escape, "\x1b");
         else
-            manager.press(button.constData());
+            press(button.constData());
         QCOMPARE(finished.size(), 1);
         QTEST(finished[0][0].toInt(), "code");
-        QTEST(manager.host.log().join('#'), "log");
-        QVERIFY(!host::hasKey(manager.root, "ColumnWidthList"));
-        QVERIFY(!host::hasKey(manager.root, "SelectCount"));
+        QTEST(log().join('#'), "log");
+        QVERIFY(!host::hasKey(m_tree, "ColumnWidthList"));
+        QVERIFY(!host::hasKey(m_tree, "SelectCount"));
     }
 
     void applies()
     {
-        ManagerDriver manager(
-            m_module, layerTree({layer("A", 0), layer("B")}), [](const VnJsonPtr& root) {
-                merge(root->GetDataJ("LayerList")(1), R"({"Off":false})");
-            });
-        manager.click(1, 2);
-        QVERIFY(manager.isApplyEnabled());
-        manager.record(0)->SetDataB("Selected", true); // A remainder of an earlier request.
-        manager.press("applyButton");
-        QCOMPARE(manager.host.log(), QStringList{request(4)});
+        open(layerTree({layer("A", 0), layer("B")}), [](const VnJsonPtr& root) {
+            merge(root->GetDataJ("LayerList")(1), R"({"Off":false})");
+        });
+        click(1, 2);
+        QVERIFY(isApplyEnabled());
+        record(0)->SetDataB("Selected", true); // A remainder of an earlier request.
+        press("applyButton");
+        QCOMPARE(log(), QStringList{request(4)});
         // The selection was sent with the request and is kept.
-        QCOMPARE(manager.selectedRows(), QList<int>{1});
-        QVERIFY(!manager.record(0)->GetDataB("Selected", true));
-        QVERIFY(manager.shows(1, 2, "on")); // The table was filled again from the command's answer.
-        QVERIFY(!manager.isApplyEnabled());
-        QVERIFY(manager.dialog.window()->isVisible());
+        QCOMPARE(selectedRows(), QList<int>{1});
+        QVERIFY(!record(0)->GetDataB("Selected", true));
+        QVERIFY(shows(1, 2, "on")); // The table was filled again from the command's answer.
+        QVERIFY(!isApplyEnabled());
+        QVERIFY(m_dialog.window()->isVisible());
     }
 
     void worksWithoutCommandOrTree_data()
@@ -458,55 +439,50 @@ private slots:
     void worksWithoutCommandOrTree()
     {
         QFETCH(QString, json);
-        RecordingHost host;
-        const QStringList buttons{"newLayerButton", "deleteLayerButton", "setCurrentButton",
-            "applyButton", "cancelButton", "okButton"};
-        for (const QString& name : buttons) {
-            const VnJsonPtr root = json.isEmpty() ? VnJsonPtr() : tree(json);
-            const auto dialog = m_module.createDialog("Dialog/CmdLayer", root);
-            dialog.window()->show();
-            child<QTableWidget>(dialog, "layerTable").selectRow(1);
-            auto& button = child<QPushButton>(dialog, qPrintable(name));
-            button.setEnabled(true);
-            button.click();
-            QCOMPARE(dialog.window()->isVisible(), buttons.indexOf(name) < 4);
+        for (const char* name : {"newLayerButton", "deleteLayerButton", "setCurrentButton",
+                 "applyButton", "cancelButton", "okButton"}) {
+            m_dialog = {};
+            m_dialog =
+                m_module.createDialog("Dialog/CmdLayer", json.isEmpty() ? VnJsonPtr() : tree(json));
+            m_dialog.window()->show();
+            find<QTableWidget>("layerTable").selectRow(1);
+            find<QPushButton>(name).setEnabled(true);
+            press(name);
+            QCOMPARE(
+                isOpen(), qstrcmp(name, "cancelButton") != 0 && qstrcmp(name, "okButton") != 0);
         }
-        QVERIFY(host.log().isEmpty());
+        QVERIFY(log().isEmpty());
     }
 
     void ignoresCellsThatAreNotThere()
     {
-        ManagerDriver manager(m_module, layerTree({layer("0", 0), layer("A")}));
-        QWidget& dialog = *manager.dialog.window();
+        open(layerTree({layer("0", 0), layer("A")}));
+        QWidget& dialog = *m_dialog.window();
         for (const auto& [row, column] :
-            {std::pair(-1, 2), {2, 2}, {1, -1}, {1, manager.table->columnCount()}}) {
+            {std::pair(-1, 2), {2, 2}, {1, -1}, {1, m_table->columnCount()}}) {
             for (const char* slot : {"slot_TableCellClicked", "slot_TableCellDoubleClicked"})
                 QVERIFY(
                     QMetaObject::invokeMethod(&dialog, slot, Q_ARG(int, row), Q_ARG(int, column)));
             QVERIFY(QMetaObject::invokeMethod(&dialog, "slot_TableCellChanged",
                 Q_ARG(OdString, L"x"), Q_ARG(int, row), Q_ARG(int, column)));
         }
-        QVERIFY(manager.host.log().isEmpty());
-        QVERIFY(!manager.isApplyEnabled());
+        QVERIFY(log().isEmpty());
+        QVERIFY(!isApplyEnabled());
     }
 
     void takesDataTwice()
     {
-        ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B")}));
+        open(layerTree({layer("A", 0), layer("B")}));
         const VnJsonPtr second = tree(layerTree({layer("C", 0)}));
-        manager.dialog->setData(second, manager.invoker);
-        QCOMPARE(manager.table->rowCount(), 1);
-        auto* const group = manager.dialog.window()->findChild<QButtonGroup*>();
+        m_dialog->setData(second, m_invoker);
+        QCOMPARE(m_table->rowCount(), 1);
+        auto* const group = m_dialog.window()->findChild<QButtonGroup*>();
         QVERIFY(QMetaObject::invokeMethod(group, "buttonClicked", Q_ARG(int, 0)));
         // And not one request per connection.
-        QCOMPARE(manager.host.log(), QStringList{request(0)});
-        QVERIFY(host::hasKey(second, "marker") && !host::hasKey(manager.root, "marker"));
+        QCOMPARE(log(), QStringList{request(0)});
+        QVERIFY(host::hasKey(second, "marker") && !host::hasKey(m_tree, "marker"));
     }
-
-private:
-    ModuleFixture m_module;
 };
 
 QTEST_MAIN(TestLayerManager)
-
 #include "tst_layermanager.moc"

@@ -1,18 +1,11 @@
 #include "dialogfixture.h"
-#include "hostextras.h"
-#include "rows.h"
 #include "sysvars.h"
-#include "valuetree.h"
 #include "vnsettings.h"
 #include "vnstrings.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLabel>
-#include <QTableWidget>
 #include <QTextEdit>
 
 #include <stdexcept>
@@ -142,14 +135,12 @@ class TestLayerStates : public DialogFixture
 private slots:
     void init()
     {
-        start();
+        DialogFixture::init();
         host::setVar(L"TILEMODE", 1);
         const VnJsonPtr config = vn_user_config(L"LayerState_dialog");
         for (const char* key : {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand"})
             hostextras::removeKey(*config, key);
     }
-
-    void cleanup() { stop(); }
 
     /// The last row is selected, whatever the records say.
     void filled()
@@ -348,7 +339,7 @@ private slots:
         emit table.itemClicked(table.item(1, kDescription));
         QCOMPARE(log().size(), 3);
         QVERIFY(log().first().contains(R"("dir":"A")"));
-        QCOMPARE(log().at(1), QStringLiteral(R"(request|7|1|{"LStateName":"A"})"));
+        QCOMPARE(log().at(1), R"(request|7|1|{"LStateName":"A"})");
     }
 
     void elementsChange_data()

@@ -1,41 +1,39 @@
-#include "managerdriver.h"
-#include "rows.h"
+#include "managerfixture.h"
 #include "vncolortext.h"
 #include "vnstrings.h"
 
 #include <QHeaderView>
-#include <QtTest>
 
 using namespace vnsi;
 
-class TestLayerTable : public QObject
+class TestLayerTable : public ManagerFixture
 {
     Q_OBJECT
 
 private slots:
     void columnsAreAsAgreed()
     {
-        const ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
-        QCOMPARE(headersOf(*manager.table),
+        open(layerTree({layer("0", 0)}));
+        QCOMPARE(headersOf(*m_table),
             "状态 名称 开 冻结 锁定 颜色 线型 线宽 透明度 打印样式 打印 新视口冻结 说明");
         const QList<int> alignments{
             129, 129, 132, 132, 132, 132, 129, 129, 129, 129, 132, 132, 129};
         for (int column = 0; column < alignments.size(); ++column)
-            QCOMPARE(manager.cell(0, column)->textAlignment(), alignments[column]);
-        QVERIFY(manager.table->hasFocus());
+            QCOMPARE(cell(0, column)->textAlignment(), alignments[column]);
+        QVERIFY(m_table->hasFocus());
     }
 
     void centresIcons()
     {
-        const ManagerDriver manager(m_module, layerTree({layer("0", 0)}));
-        manager.table->setMinimumWidth(1200);
-        for (int column = 0; column < manager.table->columnCount(); ++column)
-            manager.table->setColumnWidth(column, 90);
-        const QImage picture = manager.table->viewport()->grab().toImage();
+        open(layerTree({layer("0", 0)}));
+        m_table->setMinimumWidth(1200);
+        for (int column = 0; column < m_table->columnCount(); ++column)
+            m_table->setColumnWidth(column, 90);
+        const QImage picture = m_table->viewport()->grab().toImage();
         for (const int column : {0, 2, 3, 4, 10, 11}) {
-            const QRect cell = manager.table->visualItemRect(manager.cell(0, column));
-            const QRect inked = inkedPart(picture, cell.adjusted(2, 2, -2, -2));
-            const int off = qAbs(inked.center().x() - cell.center().x());
+            const QRect place = m_table->visualItemRect(cell(0, column));
+            const QRect inked = inkedPart(picture, place.adjusted(2, 2, -2, -2));
+            const int off = qAbs(inked.center().x() - place.center().x());
             QVERIFY2(column == 0 ? off > 20 : off <= 2, qPrintable(QString::number(off)));
         }
     }
@@ -67,9 +65,9 @@ private slots:
         QFETCH(QString, record);
         QFETCH(int, column);
         QFETCH(QByteArray, icon);
-        const ManagerDriver manager(m_module, layerTree({record}));
-        QVERIFY(manager.shows(0, column, icon.constData()));
-        QVERIFY(manager.text(0, column).isEmpty());
+        open(layerTree({record}));
+        QVERIFY(shows(0, column, icon.constData()));
+        QVERIFY(text(0, column).isEmpty());
     }
 
     void showsText_data()
@@ -96,8 +94,8 @@ private slots:
     {
         QFETCH(QString, record);
         QFETCH(int, column);
-        const ManagerDriver manager(m_module, layerTree({record}));
-        QTEST(manager.text(0, column), "text");
+        open(layerTree({record}));
+        QTEST(text(0, column), "text");
     }
 
     void showsColor_data()
@@ -115,8 +113,8 @@ private slots:
     {
         QFETCH(QString, color);
         QFETCH(QColor, swatch);
-        const ManagerDriver manager(m_module, layerTree({R"({"Color":)" + color + "}"}));
-        const QImage image = manager.cell(0, 5)->icon().pixmap(16, 16).toImage();
+        open(layerTree({R"({"Color":)" + color + "}"}));
+        const QImage image = cell(0, 5)->icon().pixmap(16, 16).toImage();
         QCOMPARE(image.size(), QSize(16, 16));
         QCOMPARE(image.pixelColor(0, 0), swatch);
         QCOMPARE(image.pixelColor(15, 15), swatch);
@@ -125,7 +123,7 @@ private slots:
         const VnJsonPtr given = tree(color);
         if (given->GetDataI("clrMethod") == 195)
             shown.setColorIndex(static_cast<OdInt16>(given->GetDataI("selectClr")));
-        QCOMPARE(manager.text(0, 5), vnutOdStringToQString(formatColor(shown, {}, {})));
+        QCOMPARE(text(0, 5), vnutOdStringToQString(formatColor(shown, {}, {})));
     }
 
     void fillsLabels_data()
@@ -145,9 +143,9 @@ private slots:
     void fillsLabels()
     {
         QFETCH(QString, json);
-        const ManagerDriver manager(m_module, json);
-        QTEST(manager.label("currentLayerLabel"), "current");
-        QTEST(manager.label("layerCountLabel"), "count");
+        open(json);
+        QTEST(label("currentLayerLabel"), "current");
+        QTEST(label("layerCountLabel"), "count");
     }
 
     void appliesColumnWidths_data()
@@ -165,21 +163,21 @@ private slots:
     {
         QFETCH(QString, list);
         QFETCH(QList<int>, widths);
-        const QStringList records{layer("0", 0)};
-        const ManagerDriver plain(m_module, layerTree(records));
-        const ManagerDriver manager(m_module, layerTree(records, R"(,"ColumnWidthList":)" + list));
+        open(layerTree({layer("0", 0)}));
         for (int column = 0; column < widths.size(); ++column) {
-            const int natural = plain.table->columnWidth(column);
-            QCOMPARE(
-                manager.table->columnWidth(column), widths[column] < 0 ? natural : widths[column]);
+            if (widths[column] < 0)
+                widths[column] = m_table->columnWidth(column);
         }
+        open(layerTree({layer("0", 0)}, R"(,"ColumnWidthList":)" + list));
+        for (int column = 0; column < widths.size(); ++column)
+            QCOMPARE(m_table->columnWidth(column), widths[column]);
     }
 
     void appliesColumnWidthsWithoutLayers()
     {
-        const ManagerDriver manager(m_module, R"({"ColumnWidthList":[123]})");
-        QCOMPARE(manager.table->columnWidth(0), 123);
-        QCOMPARE(manager.table->rowCount(), 0);
+        open(R"({"ColumnWidthList":[123]})");
+        QCOMPARE(m_table->columnWidth(0), 123);
+        QCOMPARE(m_table->rowCount(), 0);
     }
 
     void clicksCell_data()
@@ -219,35 +217,35 @@ private slots:
         QFETCH(QString, asked);
         QFETCH(QString, after);
         QFETCH(bool, marks);
-        ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B", 1)}));
-        merge(manager.record(row), before);
-        QJsonObject expected = toJsonObject(manager.record(row));
+        open(layerTree({layer("A", 0), layer("B", 1)}));
+        merge(record(row), before);
+        QJsonObject expected = toJsonObject(record(row));
         if (asked.endsWith("|68"))
-            manager.host.answer(answer);
+            m_host->answer(answer);
 
-        manager.click(row, column);
+        click(row, column);
 
         const QJsonObject changes = toJsonObject(tree(after.isEmpty() ? "{}" : after));
         for (auto change = changes.begin(); change != changes.end(); ++change)
             expected.insert(change.key(), change.value());
         if (marks)
             expected.insert("Modified", true);
-        QCOMPARE(toJsonObject(manager.record(row)), expected);
-        QCOMPARE(manager.host.log().join('#'), asked);
-        QCOMPARE(manager.isApplyEnabled(), marks);
+        QCOMPARE(toJsonObject(record(row)), expected);
+        QCOMPARE(log().join('#'), asked);
+        QCOMPARE(isApplyEnabled(), marks);
     }
 
     void togglesIcon()
     {
-        const ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B")}));
-        manager.click(1, 2);
-        QVERIFY(manager.shows(1, 2, "off"));
-        manager.click(1, 2);
-        QVERIFY(manager.shows(1, 2, "on"));
-        manager.click(1, 11);
-        QVERIFY(manager.shows(1, 11, "allfrozed"));
-        QCOMPARE(manager.cell(1, 11)->textAlignment(), 132);
-        QVERIFY(!(manager.cell(1, 11)->flags() & Qt::ItemIsEditable));
+        open(layerTree({layer("A", 0), layer("B")}));
+        click(1, 2);
+        QVERIFY(shows(1, 2, "off"));
+        click(1, 2);
+        QVERIFY(shows(1, 2, "on"));
+        click(1, 11);
+        QVERIFY(shows(1, 11, "allfrozed"));
+        QCOMPARE(cell(1, 11)->textAlignment(), 132);
+        QVERIFY(!(cell(1, 11)->flags() & Qt::ItemIsEditable));
     }
 
     void choosesColor_data()
@@ -277,42 +275,41 @@ private slots:
         QFETCH(QString, asked);
         QFETCH(int, result);
         QFETCH(QString, answer);
-        ManagerDriver manager(m_module,
-            layerTree(
-                {layer("A", 0), layer("B", 1, R"(,"PlotStyle":"Color_3","Color":)" + color)}));
-        manager.host.answer(result, answer);
-        manager.click(1, 5);
-        QCOMPARE(manager.host.log(), QStringList{"dialog|Dialog/Common|ColorDialog|" + asked});
-        QTEST(toText(manager.record(1)->GetDataJ("Color")), "stored");
-        QTEST(manager.cell(1, 5)->icon().pixmap(16, 16).toImage().pixelColor(8, 8), "swatch");
-        QTEST(manager.text(1, 9), "style");
-        QVERIFY(manager.record(1)->GetDataB("Modified")); // Even when the dialog was cancelled.
-        QVERIFY(manager.isApplyEnabled());
+        open(layerTree(
+            {layer("A", 0), layer("B", 1, R"(,"PlotStyle":"Color_3","Color":)" + color)}));
+        m_host->answer(result, answer);
+        click(1, 5);
+        QCOMPARE(log(), QStringList{"dialog|Dialog/Common|ColorDialog|" + asked});
+        QTEST(toText(record(1)->GetDataJ("Color")), "stored");
+        QTEST(cell(1, 5)->icon().pixmap(16, 16).toImage().pixelColor(8, 8), "swatch");
+        QTEST(text(1, 9), "style");
+        QVERIFY(record(1)->GetDataB("Modified")); // Even when the dialog was cancelled.
+        QVERIFY(isApplyEnabled());
     }
 
     void keepsSelectionBelowLastRow()
     {
-        const ManagerDriver manager(m_module, layerTree({layer("A", 0), layer("B"), layer("C")}));
-        manager.select({1});
-        const QRect last = manager.table->visualItemRect(manager.cell(2, 1));
-        QTest::mouseClick(manager.table->viewport(), Qt::LeftButton, Qt::NoModifier,
-            last.bottomLeft() + QPoint(5, 40));
-        QCOMPARE(manager.selectedRows(), QList<int>{1});
-        manager.click(2, 1);
-        QCOMPARE(manager.selectedRows(), QList<int>{2});
+        open(layerTree({layer("A", 0), layer("B"), layer("C")}));
+        select({1});
+        const QRect last = m_table->visualItemRect(cell(2, 1));
+        QTest::mouseClick(
+            m_table->viewport(), Qt::LeftButton, Qt::NoModifier, last.bottomLeft() + QPoint(5, 40));
+        QCOMPARE(selectedRows(), QList<int>{1});
+        click(2, 1);
+        QCOMPARE(selectedRows(), QList<int>{2});
     }
 
     void survivesStrangeRecords()
     {
-        ManagerDriver manager(m_module, R"({"LayerList":[5,null,"x",[],{}]})");
-        QCOMPARE(manager.table->rowCount(), 5);
+        open(R"({"LayerList":[5,null,"x",[],{}]})");
+        QCOMPARE(m_table->rowCount(), 5);
         for (int column = 2; column < 12; ++column) {
             if (column != 5 && column != 8)
-                manager.click(0, column);
+                click(0, column);
         }
-        manager.select({0, 1, 2, 3, 4});
-        manager.press("setCurrentButton");
-        manager.press("applyButton");
+        select({0, 1, 2, 3, 4});
+        press("setCurrentButton");
+        press("applyButton");
     }
 
 private:
@@ -328,10 +325,7 @@ private:
         }
         return inked.boundingRect();
     }
-
-    ModuleFixture m_module;
 };
 
 QTEST_MAIN(TestLayerTable)
-
 #include "tst_layertable.moc"

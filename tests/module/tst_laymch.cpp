@@ -1,5 +1,4 @@
-#include "listdriver.h"
-#include "rows.h"
+#include "listfixture.h"
 
 namespace {
 
@@ -9,7 +8,7 @@ const char kUnchanged[] = R"([{"LayerName":"0"},{"LayerName":"Layer1"}])";
 
 } // namespace
 
-class TestLaymch : public QObject
+class TestLaymch : public ListFixture
 {
     Q_OBJECT
 
@@ -47,53 +46,49 @@ private slots:
     {
         QFETCH(QString, typed);
         QFETCH(int, answer);
-        ListDriver driver(m_module, kName, kLayers);
+        open(kName, kLayers);
         if (answer)
-            driver.host.answer(answer);
-        const int result = driver.run([&](ListDriver& user) {
-            user.edit().setText(typed);
-            user.press("okButton");
+            m_host->answer(answer);
+        const int result = run([&] {
+            edit().setText(typed);
+            press("okButton");
         });
         QTEST(result, "result");
-        QTEST(driver.host.log().join('#'), "log");
-        QTEST(driver.listText(), "after");
-        QCOMPARE(driver.staysOpen, result == 2);
+        QTEST(log().join('#'), "log");
+        QTEST(listText(), "after");
+        QCOMPARE(m_staysOpen, result == 2);
     }
 
     void copiesListedName()
     {
-        ListDriver driver(m_module, kName, kLayers);
-        QCOMPARE(driver.run([](ListDriver& user) {
-            QCOMPARE(user.edit().text(), "0");
-            QTest::keyClick(user.list, Qt::Key_Down);
-            QCOMPARE(user.edit().text(), "Layer1");
-            user.edit().setText("other");
-            user.select({1}); // Clicking the current item copies it again.
-            QCOMPARE(user.edit().text(), "Layer1");
-            user.press("helpButton");
-            user.doubleClick(0);
+        open(kName, kLayers);
+        QCOMPARE(run([&] {
+            QCOMPARE(edit().text(), "0");
+            QTest::keyClick(m_list, Qt::Key_Down);
+            QCOMPARE(edit().text(), "Layer1");
+            edit().setText("other");
+            select({1}); // Clicking the current item copies it again.
+            QCOMPARE(edit().text(), "Layer1");
+            press("helpButton");
+            doubleClick(0);
         }),
             1);
-        QCOMPARE(driver.host.log(), QStringList{"help|0"}); // No request is sent.
-        QCOMPARE(driver.record(0)->GetDataI("CurLayer"), 4);
+        QCOMPARE(log(), QStringList{"help|0"}); // No request is sent.
+        QCOMPARE(record(0)->GetDataI("CurLayer"), 4);
     }
 
     void createsWithoutAnyRecord()
     {
-        ListDriver driver(m_module, kName, R"({"LayerList":[]})");
-        driver.host.answer(6);
-        QCOMPARE(driver.run([](ListDriver& user) {
-            user.edit().setText("x");
-            user.press("okButton");
+        open(kName, R"({"LayerList":[]})");
+        m_host->answer(6);
+        QCOMPARE(run([&] {
+            edit().setText("x");
+            press("okButton");
         }),
             1);
-        QCOMPARE(driver.listText(), "[]");
+        QCOMPARE(listText(), "[]");
     }
-
-private:
-    ModuleFixture m_module;
 };
 
 QTEST_MAIN(TestLaymch)
-
 #include "tst_laymch.moc"

@@ -1,5 +1,4 @@
-#include "listdriver.h"
-#include "rows.h"
+#include "listfixture.h"
 
 namespace {
 
@@ -22,39 +21,29 @@ QString layers(bool isFrom, int sources = 0, int blocks = 0)
     return QStringLiteral(R"({"LayerList":[%1]})").arg(records.join(','));
 }
 
-QList<int> marks(const ListDriver& driver)
-{
-    QList<int> all;
-    for (int i = 0; i < driver.list->count(); ++i) {
-        const vnsi::VnJsonPtr record = driver.record(i);
-        all.append(record->GetDataI("Modified") ? record->GetDataI("CurLayer") : 0);
-    }
-    return all;
-}
-
 } // namespace
 
-class TestLaymrg : public QObject
+class TestLaymrg : public ListFixture
 {
     Q_OBJECT
 
 private slots:
     void marksSources()
     {
-        ListDriver driver(m_module, kName, layers(true));
-        QCOMPARE(driver.dialog.window()->windowTitle(), "合并图层");
-        QVERIFY(!driver.dialog.window()->findChild<QLineEdit*>());
-        QCOMPARE(driver.list->selectionMode(), QAbstractItemView::ExtendedSelection);
-        QCOMPARE(driver.run([](ListDriver& user) {
-            user.list->clearSelection();
-            user.press("okButton");
-            QVERIFY(user.dialog.window()->isVisible());
-            user.select({0, 3});
-            user.press("okButton");
+        open(kName, layers(true));
+        QCOMPARE(title(), "合并图层");
+        QVERIFY(!m_dialog.window()->findChild<QLineEdit*>());
+        QCOMPARE(m_list->selectionMode(), QAbstractItemView::ExtendedSelection);
+        QCOMPARE(run([&] {
+            m_list->clearSelection();
+            press("okButton");
+            QVERIFY(isOpen());
+            select({0, 3});
+            press("okButton");
         }),
             1);
-        QCOMPARE(marks(driver), (QList<int>{5, 0, 0, 5, 0}));
-        QVERIFY(driver.host.log().isEmpty());
+        QCOMPARE(marks(), (QList<int>{5, 0, 0, 5, 0}));
+        QVERIFY(log().isEmpty());
     }
 
     void refusesTarget_data()
@@ -71,14 +60,14 @@ private slots:
     void refusesTarget()
     {
         QFETCH(QString, typed);
-        ListDriver driver(m_module, kName, layers(false, 1));
-        const int result = driver.run([&](ListDriver& user) {
-            user.edit().setText(typed);
-            user.press("okButton");
+        open(kName, layers(false, 1));
+        const int result = run([&] {
+            edit().setText(typed);
+            press("okButton");
         });
         QCOMPARE(result, 2);
-        QTEST(driver.host.log().join('#'), "log");
-        QCOMPARE(marks(driver), (QList<int>{0, 0, 0, 0, 0}));
+        QTEST(log().join('#'), "log");
+        QCOMPARE(marks(), (QList<int>{0, 0, 0, 0, 0}));
     }
 
     void confirmsTarget_data()
@@ -97,37 +86,42 @@ private slots:
         QFETCH(int, sources);
         QFETCH(int, blocks);
         QFETCH(QString, question);
-        ListDriver driver(m_module, kName, layers(false, sources, blocks));
-        QCOMPARE(driver.dialog.window()->windowTitle(), "合并到图层");
-        driver.host.answer(7);
-        driver.host.answer(6);
+        open(kName, layers(false, sources, blocks));
+        QCOMPARE(title(), "合并到图层");
+        m_host->answer(7);
+        m_host->answer(6);
         const QList<int> marked{0, 11, 0, 0, 0}; // Only the first of several layers with that name.
-        const int result = driver.run([&](ListDriver& user) {
-            QCOMPARE(user.edit().text(), "A");
-            user.select({1});
-            user.press("okButton");
-            QVERIFY(user.dialog.window()->isVisible());
-            QCOMPARE(marks(user), marked); // Still marked after the question was declined.
-            user.doubleClick(1);
+        const int result = run([&] {
+            QCOMPARE(edit().text(), "A");
+            select({1});
+            press("okButton");
+            QVERIFY(isOpen());
+            QCOMPARE(marks(), marked); // Still marked after the question was declined.
+            doubleClick(1);
         });
         QCOMPARE(result, 1);
-        QCOMPARE(marks(driver), marked);
-        QCOMPARE(driver.host.log().first(), "messageEx|合并到图层|" + question + "|4|1|32");
+        QCOMPARE(marks(), marked);
+        QCOMPARE(log().first(), "messageEx|合并到图层|" + question + "|4|1|32");
     }
 
     void keepsItsModeForNewData()
     {
-        ListDriver driver(m_module, kName, layers(true));
-        driver.root = tree(layers(false));
-        driver.dialog->setData(driver.root, {});
-        QCOMPARE(driver.run([](ListDriver& user) { user.press("okButton"); }), 1);
-        QCOMPARE(marks(driver), (QList<int>{5, 0, 0, 0, 0}));
+        open(kName, layers(true));
+        m_tree = tree(layers(false));
+        m_dialog->setData(m_tree, {});
+        QCOMPARE(run([&] { press("okButton"); }), 1);
+        QCOMPARE(marks(), (QList<int>{5, 0, 0, 0, 0}));
     }
 
 private:
-    ModuleFixture m_module;
+    QList<int> marks() const
+    {
+        QList<int> all;
+        for (int i = 0; i < m_list->count(); ++i)
+            all.append(record(i)->GetDataI("Modified") ? record(i)->GetDataI("CurLayer") : 0);
+        return all;
+    }
 };
 
 QTEST_MAIN(TestLaymrg)
-
 #include "tst_laymrg.moc"

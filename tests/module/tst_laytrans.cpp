@@ -1,13 +1,6 @@
 #include "dialogfixture.h"
-#include "hostextras.h"
-#include "rows.h"
 #include "translatorkeys.h"
-#include "valuetree.h"
 #include "vnsettings.h"
-
-#include <QLineEdit>
-#include <QListWidget>
-#include <QTableWidget>
 
 #include <stdexcept>
 
@@ -50,11 +43,9 @@ class TestLaytrans : public DialogFixture
 private slots:
     void init()
     {
-        start();
+        DialogFixture::init();
         hostextras::removeKey(*vn_user_config(transkey::kConfigSection), transkey::kConfigSettings);
     }
-
-    void cleanup() { stop(); }
 
     void shown()
     {
@@ -523,5 +514,4 @@ private:
 };
 
 QTEST_MAIN(TestLaytrans)
-
 #include "tst_laytrans.moc"

@@ -1,11 +1,6 @@
 #include "dialogfixture.h"
 #include "linetypes.h"
-#include "rows.h"
-#include "valuetree.h"
 #include "vnpickers.h"
-
-#include <QCheckBox>
-#include <QLineEdit>
 
 using namespace vnsi;
 
@@ -24,10 +19,9 @@ class TestLaytransForms : public DialogFixture
 private slots:
     void init()
     {
-        start();
+        DialogFixture::init();
         host::setLineTypes({{L"Dashed", OdDbObjectId(0x20)}, {L"CENTER", OdDbObjectId(0x21)}});
     }
-    void cleanup() { stop(); }
 
     /// Six elements are shown and returned; any other number is not a valid record.
     void settings_data()
@@ -177,5 +171,4 @@ private slots:
 };
 
 QTEST_MAIN(TestLaytransForms)
-
 #include "tst_laytransforms.moc"

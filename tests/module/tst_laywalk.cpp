@@ -1,24 +1,11 @@
-#include "hostextras.h"
+#include "dialogfixture.h"
 #include "modaldriver.h"
-#include "modulefixture.h"
-#include "recordinghost.h"
-#include "recordinginvoker.h"
-#include "rows.h"
 #include "settings.h"
-#include "trees.h"
-#include "useracts.h"
-#include "valuetree.h"
 #include "vnsettings.h"
 
 #include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
 #include <QToolButton>
-#include <QtTest>
 
 using namespace vnsi;
 
@@ -55,122 +42,7 @@ QString summary(const VnJsonPtr& layerTree)
 
 } // namespace
 
-/// The walk with a command that records its requests.
-class Walk
-{
-public:
-    using Answer = RecordingInvoker::Answer;
-
-    explicit Walk(
-        ModuleFixture& module, const QString& json = treeText(kLayers), bool hasCommand = true)
-        : root(tree(json)),
-          wrapper(module.createDialog("Dialog/CmdLaywalk", root,
-              hasCommand ? OdRxObjectPtr(RecordingInvoker::create(host, {"marker"},
-                               [this](const VnJsonPtr& asked) {
-                                   note(asked);
-                                   answer(asked);
-                               }))
-                         : OdRxObjectPtr())),
-          dialog(wrapper.window()),
-          list(&child<QListWidget>(wrapper, "layerList")),
-          filters(&child<QComboBox>(wrapper, "filterCombo"))
-    {
-    }
-
-    /// Records the code, the arguments and the layers.
-    void note(const VnJsonPtr& asked)
-    {
-        const int code = asked->GetDataI("marker");
-        const QJsonObject all = toJsonObject(asked);
-        QString line = QString::number(code);
-        const char* name = code == 4 ? "oldlaywalkLName" : "laywalkselLName";
-        line += all.contains(name) ? " " + all[name].toString() : QString();
-        for (const QJsonValue several : all["laywalkselLNameS"].toArray())
-            line += " [" + several.toString() + "]";
-        const VnJsonPtr parameter = asked->GetDataJ("parameter");
-        requests.append(line + ": " + summary(parameter));
-        QVERIFY(code != 4 || parameter->GetDataB("Modified"));
-    }
-    /// Changes how the command behaves from now on: it refuses, fails, obeys, or returns new layers
-    /// at the named place.
-    void changeCommand(const QString& how)
-    {
-        answer = [how](const VnJsonPtr& asked) {
-            const VnJsonPtr layers = hostextras::copyOf(asked->GetDataJ("parameter"));
-            if (how == "refuses")
-                asked->SetDataI("result", 0);
-            else if (how == "fails")
-                throw std::runtime_error("no");
-            else if (how.endsWith("/LayerList"))
-                asked->SetDataJ(qPrintable(how), layers->GetDataJ("LayerList"));
-            else if (how != "obeys")
-                asked->SetDataJ(qPrintable(how), layers);
-        };
-    }
-    void trigger(const QString& action) { dialog->findChild<QAction*>(action)->trigger(); }
-    void perform(const QString& act, const QString& what)
-    {
-        QWidget* const area = list->viewport();
-        const auto button = act == "right" ? Qt::RightButton : Qt::LeftButton;
-        const auto modifier = act == "ctrl" ? Qt::ControlModifier : Qt::NoModifier;
-        const QPoint at = list->visualItemRect(list->item(what.toInt())).center();
-        if (act == "command")
-            changeCommand(what);
-        else if (act == "click" || act == "ctrl" || act == "double" || act == "right")
-            QTest::mouseClick(area, button, modifier, at);
-        else if (act == "below")
-            QTest::mouseClick(area, button, {}, QPoint(5, area->height() - 3));
-        else if (act == "type")
-            filters->lineEdit()->setText(what);
-        else if (act == "key")
-            QTest::keyClick(what == "down" ? list : static_cast<QWidget*>(filters),
-                what == "enter" ? Qt::Key_Return : Qt::Key_Down);
-        else if (act == "leave")
-            leaveFilters();
-        else if (act == "press")
-            child<QAbstractButton>(wrapper, qPrintable(what)).click();
-        else
-            trigger(act + "Action");
-        if (act == "double" || act == "right")
-            QTest::mouseDClick(area, button, {}, at);
-    }
-    void perform(const QStringList& acts)
-    {
-        dialog->show();
-        for (const QString& act : acts)
-            perform(act.section(' ', 0, 0), act.section(' ', 1));
-    }
-    /// Moves the focus away from the edit line.
-    void leaveFilters() const
-    {
-        QFocusEvent away(QEvent::FocusOut, Qt::MouseFocusReason);
-        QCoreApplication::sendEvent(filters->lineEdit(), &away);
-    }
-    /// One character per row: # selected, @ selected with a star, . not selected, * not selected
-    /// with a star.
-    QString rows() const
-    {
-        QString signs;
-        for (int row = 0; row < list->count(); ++row) {
-            const bool isStarred = list->item(row)->text().startsWith('*');
-            signs +=
-                list->item(row)->isSelected() ? (isStarred ? '@' : '#') : (isStarred ? '*' : '.');
-        }
-        return signs;
-    }
-    bool mayPurge() const { return child<QPushButton>(wrapper, "purgeButton").isEnabled(); }
-
-    RecordingHost host;
-    Answer answer = [](const VnJsonPtr&) {};
-    QStringList requests;
-    VnJsonPtr root;
-    host::WatchedDialog wrapper;
-    QWidget* dialog;
-    QListWidget* list;
-    QComboBox* filters;
-};
-
-class TestLaywalk : public QObject
+class TestLaywalk : public DialogFixture
 {
     Q_OBJECT
 
@@ -179,20 +51,25 @@ private slots:
     {
         m_settings = std::make_unique<QTemporaryDir>();
         host::setSettingsFolder(m_settings->path());
+        m_answer = {};
+        DialogFixture::init();
     }
-    void cleanup() { host::setSettingsFolder({}); }
+    void cleanup()
+    {
+        DialogFixture::cleanup();
+        host::setSettingsFolder({});
+    }
 
     void opens()
     {
-        Walk walk(m_module);
-        QCOMPARE(textsOf(*walk.list),
+        open();
+        QCOMPARE(textsOf(*m_list),
             (QStringList{"  0", "  WALL", "  wall-2", "* door", "  ice", "  a*[1]"}));
-        QCOMPARE(walk.rows(), "##.@..");
-        QCOMPARE(walk.dialog->windowTitle(), "图层漫游 - 图层数: 6");
-        QVERIFY(!walk.mayPurge() && !child<QCheckBox>(walk.wrapper, "filterBox").isEnabled());
-        QCOMPARE(child<QToolButton>(walk.wrapper, "pickButton").toolTip(),
-            "选择对象\n选择对象及其图层。");
-        QVERIFY(walk.requests.isEmpty() && !host::hasKey(walk.root, "marker"));
+        QCOMPARE(shownRows(), "##.@..");
+        QCOMPARE(title(), "图层漫游 - 图层数: 6");
+        QVERIFY(!mayPurge() && !find<QCheckBox>("filterBox").isEnabled());
+        QCOMPARE(find<QToolButton>("pickButton").toolTip(), "选择对象\n选择对象及其图层。");
+        QVERIFY(m_requests.isEmpty() && !host::hasKey(m_tree, "marker"));
     }
 
     void acts_data()
@@ -270,21 +147,21 @@ private slots:
     {
         QFETCH(QStringList, acts);
         QFETCH(QString, rows); // One character for each row that passes the filter.
-        Walk walk(m_module);
-        walk.perform(acts);
-        QTEST(walk.requests, "requests");
-        QCOMPARE(walk.rows(), rows);
-        QCOMPARE(walk.dialog->windowTitle(),
-            rows.size() == 6
-                ? "图层漫游 - 图层数: 6"
-                : QStringLiteral("图层漫游 - 图层: 第 %1 层，共 6 层").arg(rows.size()));
-        QCOMPARE(child<QCheckBox>(walk.wrapper, "filterBox").isChecked(), rows.size() < 6);
-        if (!walk.requests.isEmpty())
-            QCOMPARE(walk.mayPurge(), rows.contains('#') || rows.contains('@'));
-        QCOMPARE(walk.filters->count(), 0);
+        open();
+        perform(acts);
+        QTEST(m_requests, "requests");
+        QCOMPARE(shownRows(), rows);
+        QCOMPARE(
+            title(), rows.size() == 6
+                         ? "图层漫游 - 图层数: 6"
+                         : QStringLiteral("图层漫游 - 图层: 第 %1 层，共 6 层").arg(rows.size()));
+        QCOMPARE(find<QCheckBox>("filterBox").isChecked(), rows.size() < 6);
+        if (!m_requests.isEmpty())
+            QCOMPARE(mayPurge(), rows.contains('#') || rows.contains('@'));
+        QCOMPARE(m_filters->count(), 0);
         // The dialog works on a copy of the caller's tree.
         if (!acts.first().contains("LayerStateMgr"))
-            QCOMPARE(summary(walk.root->GetDataJ("LayerStateMgr")), "C+-*++");
+            QCOMPARE(summary(m_tree->GetDataJ("LayerStateMgr")), "C+-*++");
     }
 
     void copiesNamesAsTheyAre()
@@ -292,18 +169,18 @@ private slots:
         QStringList records;
         for (const char* name : {"A-WALL", "b]~c", "~,`x", "#@.*?[", "A_WALL", "1xz!yy["})
             records += QStringLiteral("{\"LayerName\":\"%1\"}").arg(name);
-        Walk walk(m_module, treeText("[" + records.join(',') + "]"));
-        walk.perform({"click 0", "ctrl 1", "ctrl 2", "ctrl 3", "copyAsFilter"});
-        QCOMPARE(walk.filters->currentText(), "A-WALL,b]~c,`~`,``x,`#`@`.`*`?`[");
-        walk.perform({"key enter"});
-        QCOMPARE(walk.rows(), "####");
+        open(treeText("[" + records.join(',') + "]"));
+        perform({"click 0", "ctrl 1", "ctrl 2", "ctrl 3", "copyAsFilter"});
+        QCOMPARE(m_filters->currentText(), "A-WALL,b]~c,`~`,``x,`#`@`.`*`?`[");
+        perform({"key enter"});
+        QCOMPARE(shownRows(), "####");
     }
 
     void deletingAFilterMarksItsLayers()
     {
-        Walk walk(m_module);
-        walk.perform({"type d*", "key enter", "saveFilter", "deleteFilter"});
-        const VnJsonPtr pinned = walk.root->GetDataJ("parameter/LayerList")(3);
+        open();
+        perform({"type d*", "key enter", "saveFilter", "deleteFilter"});
+        const VnJsonPtr pinned = m_tree->GetDataJ("parameter/LayerList")(3);
         QVERIFY(pinned->GetDataB("Modified") && !pinned->GetDataB("Off"));
     }
 
@@ -322,16 +199,16 @@ private slots:
         for (const char* stale : {"LayerCount", "SelectLayerCount", "SelectLayerEntitys"})
             json[stale] = 77;
         json["laywalkpickLNameS"] = "another's";
-        Walk walk(m_module, QJsonDocument(json).toJson(), hasCommand);
-        walk.perform({"type W*", "key enter"});
-        QCOMPARE(walk.rows(), "##");
-        QCOMPARE(walk.root->GetDataI("LayerCount"), 77);
-        walk.host.answer(2);
-        walk.trigger("verifyAction");
-        QVERIFY2(walk.host.log().last().endsWith(
+        open(QJsonDocument(json).toJson(), hasCommand);
+        perform({"type W*", "key enter"});
+        QCOMPARE(shownRows(), "##");
+        QCOMPARE(m_tree->GetDataI("LayerCount"), 77);
+        m_host->answer(2);
+        trigger("verifyAction");
+        QVERIFY2(m_host->log().last().endsWith(
                      R"({"LayerCount":2,"SelectLayerCount":2,"SelectLayerEntitys":0})"),
-            qPrintable(walk.host.log().last()));
-        QCOMPARE(walk.root->GetDataSW("laywalkpickLNameS"), OdString(L"another's"));
+            qPrintable(m_host->log().last()));
+        QCOMPARE(m_tree->GetDataSW("laywalkpickLNameS"), OdString(L"another's"));
     }
 
     void purges_data()
@@ -350,27 +227,27 @@ private slots:
         QString layers = kLayers; // Makes "ice" the current layer.
         layers.replace("\"CurLayer\":0", "\"CurLayer\":1")
             .replace("\"ice\",\"CurLayer\":1", "\"ice\",\"CurLayer\":0");
-        Walk walk(m_module, treeText(layers));
-        walk.answer = [](const VnJsonPtr& root) {
+        open(treeText(layers));
+        m_answer = [](const VnJsonPtr& root) {
             if (root->GetDataI("marker") == 12)
                 root->SetDataJ("LayerStateMgr",
                     tree(R"({"LayerList":[{"LayerName":"left"},{"LayerName":"x","Off":true}]})"));
         };
-        walk.list->clearSelection();
-        walk.perform(acts);
-        walk.requests.clear();
-        walk.perform({"press purgeButton"});
+        m_list->clearSelection();
+        perform(acts);
+        m_requests.clear();
+        perform({"press purgeButton"});
         if (request.isEmpty()) {
-            QVERIFY(walk.requests.isEmpty());
+            QVERIFY(m_requests.isEmpty());
             return;
         }
         // The current layer, which the walk hid, is made current again first.
-        QCOMPARE(walk.requests.size(), 2);
-        QVERIFY(walk.requests[0].startsWith("4: ") && walk.requests[0].at(7) == 'c');
-        QVERIFY2(walk.requests[1].startsWith(request), qPrintable(walk.requests[1]));
-        QCOMPARE(textsOf(*walk.list), (QStringList{"  left", "  x"}));
-        QCOMPARE(walk.rows(), "#.");
-        QCOMPARE(walk.dialog->windowTitle(), "图层漫游 - 图层数: 2");
+        QCOMPARE(m_requests.size(), 2);
+        QVERIFY(m_requests[0].startsWith("4: ") && m_requests[0].at(7) == 'c');
+        QVERIFY2(m_requests[1].startsWith(request), qPrintable(m_requests[1]));
+        QCOMPARE(textsOf(*m_list), (QStringList{"  left", "  x"}));
+        QCOMPARE(shownRows(), "#.");
+        QCOMPARE(title(), "图层漫游 - 图层数: 2");
     }
 
     void menuEnables_data()
@@ -392,15 +269,15 @@ private slots:
         QFETCH(QString, layers);
         QFETCH(QList<int>, selected);
         QFETCH(QString, pattern);
-        Walk walk(m_module, treeText(layers));
-        walk.filters->addItem("Old*");
-        walk.filters->setEditText(pattern);
-        walk.list->clearSelection();
+        open(treeText(layers));
+        m_filters->addItem("Old*");
+        m_filters->setEditText(pattern);
+        m_list->clearSelection();
         for (const int row : selected)
-            walk.list->item(row)->setSelected(true);
-        emit walk.list->customContextMenuRequested(QPoint(1, 1));
+            m_list->item(row)->setSelected(true);
+        emit m_list->customContextMenuRequested(QPoint(1, 1));
         QString enabled;
-        for (const QAction* action : walk.dialog->findChild<QMenu*>()->actions())
+        for (const QAction* action : m_dialog.window()->findChild<QMenu*>()->actions())
             enabled += action->isEnabled() ? action->text().section('&', 1).left(1) : QString();
         QTEST(enabled, "enabled");
     }
@@ -432,36 +309,36 @@ private slots:
     {
         QFETCH(bool, restores);
         QFETCH(int, way);
-        Walk walk(m_module);
+        open();
         ModalDriver user;
         user.then([&](QDialog& dialog) {
             const auto close = [&] {
                 if (way == 0)
-                    press(*walk.dialog, "closeButton");
+                    press("closeButton");
                 else if (way == 1)
                     dialog.close();
                 else
                     QTest::keyClick(&dialog, Qt::Key_Escape);
             };
-            walk.filters->setEditText("A*");
-            walk.trigger("saveFilterAction");
-            child<QCheckBox>(walk.wrapper, "restoreBox").setChecked(restores);
-            walk.perform("click", "1");
+            m_filters->setEditText("A*");
+            trigger("saveFilterAction");
+            find<QCheckBox>("restoreBox").setChecked(restores);
+            perform("click", "1");
             if (!restores) {
-                walk.host.answer(1);
+                m_host->answer(1);
                 close();
                 QVERIFY(dialog.isVisible());
-                walk.host.answer(0);
+                m_host->answer(0);
             }
             close();
             QVERIFY(!dialog.isVisible());
         });
-        QCOMPARE(walk.wrapper->doModal(), 2);
-        const QStringList asked = walk.host.log().filter("messageEx");
+        QCOMPARE(m_dialog->doModal(), 2);
+        const QStringList asked = m_host->log().filter("messageEx");
         QCOMPARE(asked.size(), restores ? 0 : 2);
-        QCOMPARE(walk.requests.size(), restores ? 2 : 1);
+        QCOMPARE(m_requests.size(), restores ? 2 : 1);
         if (restores)
-            QCOMPARE(walk.requests[1], "4: C+-*++");
+            QCOMPARE(m_requests[1], "4: C+-*++");
         else
             QVERIFY(asked.first().startsWith(
                 "messageEx|图层 - 图层状态更改|关闭对话框时某些图层状态可能会发生更改。希望执行什么"
@@ -469,11 +346,11 @@ private slots:
         QCOMPARE(toText(vn_user_config(L"table_dialog")),
             QStringLiteral(R"({"FilterComboBoxList":[{"Item":"A*"}],"RecoverBoxChecked":%1})")
                 .arg(restores ? 2 : 0));
-        Walk again(m_module);
-        QCOMPARE(child<QCheckBox>(again.wrapper, "restoreBox").isChecked(), restores);
-        QCOMPARE(again.filters->itemText(0), "A*");
-        QCOMPARE(again.filters->currentIndex(), -1);
-        QCOMPARE(again.filters->currentText(), QString());
+        open();
+        QCOMPARE(find<QCheckBox>("restoreBox").isChecked(), restores);
+        QCOMPARE(m_filters->itemText(0), "A*");
+        QCOMPARE(m_filters->currentIndex(), -1);
+        QCOMPARE(m_filters->currentText(), QString());
     }
 
     void badInput_data()
@@ -492,31 +369,133 @@ private slots:
         QFETCH(QString, json);
         QFETCH(int, count);
         vn_user_config(L"table_dialog")->SetDataSW("FilterComboBoxList", L"none");
-        Walk walk(m_module, json);
-        QCOMPARE(walk.list->count(), count);
-        QCOMPARE(walk.dialog->windowTitle(), QStringLiteral("图层漫游 - 图层数: %1").arg(count));
+        open(json);
+        QCOMPARE(m_list->count(), count);
+        QCOMPARE(title(), QStringLiteral("图层漫游 - 图层数: %1").arg(count));
         for (int dialogs = json.contains("Mgr\":{") ? 2 : 1; dialogs > 0; --dialogs)
-            walk.host.answer(2); // Without a tree no state can be saved.
-        for (QAction* action : walk.dialog->findChild<QMenu*>()->actions())
+            m_host->answer(2); // Without a tree no state can be saved.
+        for (QAction* action : m_dialog.window()->findChild<QMenu*>()->actions())
             action->trigger();
         for (const QString& pattern : QStringList{QString(10000, '*') + "a[" + QString(10000, '?'),
                  "[a", QString("~*,").repeated(5000)})
-            walk.perform({"type " + pattern, "key enter"});
-        QVERIFY(child<QPushButton>(walk.wrapper, "closeButton").isEnabled());
+            perform({"type " + pattern, "key enter"});
+        QVERIFY(find<QPushButton>("closeButton").isEnabled());
     }
 
     void doublesGoTogether()
     {
-        Walk walk(m_module, treeText(R"([{"LayerName":"a"},{"LayerName":"b"},{"LayerName":"a"}])"));
-        walk.perform({"click 0"});
-        QVERIFY(walk.requests.last().contains(": +-C"));
+        open(treeText(R"([{"LayerName":"a"},{"LayerName":"b"},{"LayerName":"a"}])"));
+        perform({"click 0"});
+        QVERIFY(m_requests.last().contains(": +-C"));
     }
 
 private:
+    void open(const QString& json = treeText(kLayers), bool hasCommand = true)
+    {
+        m_requests.clear();
+        make("Dialog/CmdLaywalk", json, {"marker"});
+        m_invoker->setAnswer([this](const VnJsonPtr& asked) {
+            note(asked);
+            if (m_answer)
+                m_answer(asked);
+        });
+        if (!hasCommand)
+            m_dialog = m_module.createDialog("Dialog/CmdLaywalk", m_tree);
+        m_list = &find<QListWidget>("layerList");
+        m_filters = &find<QComboBox>("filterCombo");
+    }
+    /// Records the code, the arguments and the layers.
+    void note(const VnJsonPtr& asked)
+    {
+        const int code = asked->GetDataI("marker");
+        const QJsonObject all = toJsonObject(asked);
+        QString line = QString::number(code);
+        const char* name = code == 4 ? "oldlaywalkLName" : "laywalkselLName";
+        line += all.contains(name) ? " " + all[name].toString() : QString();
+        for (const QJsonValue several : all["laywalkselLNameS"].toArray())
+            line += " [" + several.toString() + "]";
+        const VnJsonPtr parameter = asked->GetDataJ("parameter");
+        m_requests.append(line + ": " + summary(parameter));
+        QVERIFY(code != 4 || parameter->GetDataB("Modified"));
+    }
+    /// Changes how the command behaves from now on: it refuses, fails, obeys, or returns new layers
+    /// at the named place.
+    void changeCommand(const QString& how)
+    {
+        m_answer = [how](const VnJsonPtr& asked) {
+            const VnJsonPtr layers = hostextras::copyOf(asked->GetDataJ("parameter"));
+            if (how == "refuses")
+                asked->SetDataI("result", 0);
+            else if (how == "fails")
+                throw std::runtime_error("no");
+            else if (how.endsWith("/LayerList"))
+                asked->SetDataJ(qPrintable(how), layers->GetDataJ("LayerList"));
+            else if (how != "obeys")
+                asked->SetDataJ(qPrintable(how), layers);
+        };
+    }
+    void trigger(const QString& action)
+    {
+        m_dialog.window()->findChild<QAction*>(action)->trigger();
+    }
+    void perform(const QString& act, const QString& what)
+    {
+        QWidget* const area = m_list->viewport();
+        const auto button = act == "right" ? Qt::RightButton : Qt::LeftButton;
+        const auto modifier = act == "ctrl" ? Qt::ControlModifier : Qt::NoModifier;
+        const QPoint at = m_list->visualItemRect(m_list->item(what.toInt())).center();
+        if (act == "command")
+            changeCommand(what);
+        else if (act == "click" || act == "ctrl" || act == "double" || act == "right")
+            QTest::mouseClick(area, button, modifier, at);
+        else if (act == "below")
+            QTest::mouseClick(area, button, {}, QPoint(5, area->height() - 3));
+        else if (act == "type")
+            m_filters->lineEdit()->setText(what);
+        else if (act == "key")
+            QTest::keyClick(what == "down" ? m_list : static_cast<QWidget*>(m_filters),
+                what == "enter" ? Qt::Key_Return : Qt::Key_Down);
+        else if (act == "leave")
+            leaveFilters();
+        else if (act == "press")
+            find<QAbstractButton>(qPrintable(what)).click();
+        else
+            trigger(act + "Action");
+        if (act == "double" || act == "right")
+            QTest::mouseDClick(area, button, {}, at);
+    }
+    void perform(const QStringList& acts)
+    {
+        m_dialog.window()->show();
+        for (const QString& act : acts)
+            perform(act.section(' ', 0, 0), act.section(' ', 1));
+    }
+    /// Moves the focus away from the edit line.
+    void leaveFilters() const
+    {
+        QFocusEvent away(QEvent::FocusOut, Qt::MouseFocusReason);
+        QCoreApplication::sendEvent(m_filters->lineEdit(), &away);
+    }
+    /// One character per row: # selected, @ selected with a star, . not selected, * not selected
+    /// with a star.
+    QString shownRows() const
+    {
+        QString signs;
+        for (int row = 0; row < m_list->count(); ++row) {
+            const bool isStarred = m_list->item(row)->text().startsWith('*');
+            signs +=
+                m_list->item(row)->isSelected() ? (isStarred ? '@' : '#') : (isStarred ? '*' : '.');
+        }
+        return signs;
+    }
+    bool mayPurge() const { return isEnabled("purgeButton"); }
+
+    RecordingInvoker::Answer m_answer;
+    QStringList m_requests;
+    QListWidget* m_list = nullptr;
+    QComboBox* m_filters = nullptr;
     std::unique_ptr<QTemporaryDir> m_settings;
-    ModuleFixture m_module;
 };
 
 QTEST_MAIN(TestLaywalk)
-
 #include "tst_laywalk.moc"

@@ -6,7 +6,6 @@
 #include "vornqt.h"
 
 #include <QThread>
-#include <QtTest>
 
 #include <memory>
 
@@ -83,27 +82,28 @@ private slots:
 
     void endsWithResult_data()
     {
-        using Step = ModalDriver::Step;
         const auto own = [](QDialog& dialog) {
             static_cast<Probe&>(dialog).host().resultData()->SetDataI("result", 3);
         };
-        const Rows<Step, int> row("step", "result");
-        row("close box", Step([](QDialog& d) { d.close(); }), 2);
-        row("escape", Step([](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }), 2);
-        row("accept", Step([](QDialog& d) { d.accept(); }), 1);
-        row("own result, then accept", Step([own](QDialog& d) {
+        const Rows<ModalDriver::Step, int> row("step", "result");
+        const auto escape = [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); };
+        const auto ownAndAccept = [own](QDialog& d) {
             own(d);
             d.accept();
-        }),
-            3);
-        row("own result, then close box", Step([own](QDialog& d) {
+        };
+        const auto ownAndClose = [own](QDialog& d) {
             own(d);
             d.close();
-        }),
-            3);
-        row("another exit code", Step([](QDialog& d) { d.done(9); }), -1);
-        row("ended though rejected", Step([](QDialog& d) { static_cast<Probe&>(d).endDialog(1); }),
-            1);
+        };
+        const auto end = [](QDialog& d) { static_cast<Probe&>(d).endDialog(1); };
+        row("close box", &QWidget::close, 2);
+        row("escape", escape, 2);
+        row("accept", &QDialog::accept, 1);
+        row("own result, then accept", ownAndAccept, 3);
+        row("own result, then close box", ownAndClose, 3);
+        row(
+            "another exit code", [](QDialog& d) { d.done(9); }, -1);
+        row("ended though rejected", end, 1);
     }
 
     void endsWithResult()
@@ -187,22 +187,6 @@ private slots:
         QCOMPARE(deletedOn, QThread::currentThread());
     }
 
-    void isDeletedOnUiThreadFromCommand()
-    {
-        const host::CommandScope command;
-        VnUiModeDialogBase* const dialog = make().detach();
-        bool isGoneAfterwards = false;
-        const std::unique_ptr<QThread> thread(QThread::create([&] {
-            dialog->release();
-            isGoneAfterwards = deletedOn; // The release waits for the deletion.
-        }));
-        thread->start();
-        QTRY_VERIFY(thread->isFinished());
-        QVERIFY(isGoneAfterwards);
-        QCOMPARE(deletedOn, QThread::currentThread());
-        QCOMPARE(host::markedScraps(), 0);
-    }
-
     void isLeftAliveWithoutCommand()
     {
         VnUiModeDialogBase* const dialog = make().detach();
@@ -227,5 +211,4 @@ private:
 };
 
 QTEST_MAIN(TestModalHost)
-
 #include "tst_modalhost.moc"

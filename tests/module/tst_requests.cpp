@@ -1,18 +1,15 @@
 #include "RxObjectImpl.h"
 #include "hostapi/hostcalls.h"
 #include "hostcodes.h"
-#include "hostextras.h"
 #include "hoststart.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
 #include "rows.h"
 #include "trees.h"
-#include "valuetree.h"
 #include "vornqt.h"
 
 #include <QJsonDocument>
 #include <QLoggingCategory>
-#include <QtTest>
 
 #include <stdexcept>
 
@@ -105,23 +102,23 @@ private slots:
         request.codeKey = "layTransUserType";
         request.parameterTree = tree(R"({"deep":1})");
         ask(root, invoker, request);
-        QCOMPARE(toText(root), QStringLiteral(R"({"layTransUserType":5,"parameter":{"deep":1}})"));
+        QCOMPARE(toText(root), R"({"layTransUserType":5,"parameter":{"deep":1}})");
         QCOMPARE(host.log(), QStringList{R"(request|5|-1|{"layTransUserType":5})"});
     }
 
     void readsAnswerWhereItAsked_data()
     {
         const Rows<Answer> row("meddle");
-        row("nothing", Answer([](const VnJsonPtr&) {}));
-        row("replaces", Answer([](const VnJsonPtr& root) {
+        row("nothing", [](const VnJsonPtr&) {});
+        row("replaces", [](const VnJsonPtr& root) {
             root->SetDataJ("LayerStateMgr", tree(R"([{},{"ok":false}])"));
-        }));
+        });
         row("removes",
-            Answer([](const VnJsonPtr& root) { hostextras::removeKey(*root, "LayerStateMgr"); }));
-        row("empties", Answer([](const VnJsonPtr& root) {
+            [](const VnJsonPtr& root) { hostextras::removeKey(*root, "LayerStateMgr"); });
+        row("empties", [](const VnJsonPtr& root) {
             host::clear(*root->GetDataJ("LayerStateMgr"));
             host::clear(*root);
-        }));
+        });
     }
 
     void readsAnswerWhereItAsked()
@@ -156,7 +153,7 @@ private slots:
         const VnQtAnswer answer = ask(hasTree ? root : VnJsonPtr(), invoker, {6, {"answer"}},
             [&](IElementValueBase&) { hasWritten = true; });
         QVERIFY(!answer && !hasWritten && !answer->GetDataB("answer"));
-        QCOMPARE(toText(root), QStringLiteral(R"({"answer":true})"));
+        QCOMPARE(toText(root), R"({"answer":true})");
     }
 
     void silentCommandLeavesDefaults()
@@ -169,11 +166,12 @@ private slots:
     void reportsWhatCommandThrows_data()
     {
         const Rows<Answer, QString> row("fail", "cause");
-        row("standard", Answer([](const VnJsonPtr&) { throw std::runtime_error("磁盘已满"); }),
-            "磁盘已满");
-        row("platform", Answer([](const VnJsonPtr&) { throw OdError_InvalidIndex(); }),
-            "Index outside the array");
-        row("anything", Answer([](const VnJsonPtr&) { throw 1; }), "未知");
+        const auto standard = [](const VnJsonPtr&) { throw std::runtime_error("磁盘已满"); };
+        const auto platform = [](const VnJsonPtr&) { throw OdError_InvalidIndex(); };
+        const auto anything = [](const VnJsonPtr&) { throw 1; };
+        row("standard", standard, "磁盘已满");
+        row("platform", platform, "Index outside the array");
+        row("anything", anything, "未知");
     }
 
     void reportsWhatCommandThrows()
@@ -243,5 +241,4 @@ private slots:
 };
 
 QTEST_MAIN(TestRequests)
-
 #include "tst_requests.moc"

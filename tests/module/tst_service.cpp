@@ -3,8 +3,6 @@
 #include "vnservicedict.h"
 #include "vnstrings.h"
 
-#include <QtTest>
-
 #include <dlfcn.h>
 
 using namespace vnsi;
@@ -83,5 +81,4 @@ private:
 };
 
 QTEST_MAIN(TestService)
-
 #include "tst_service.moc"

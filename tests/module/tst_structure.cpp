@@ -190,5 +190,4 @@ private:
 };
 
 QTEST_MAIN(TestStructure)
-
 #include "tst_structure.moc"

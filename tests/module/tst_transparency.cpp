@@ -1,12 +1,7 @@
-#include "managerdriver.h"
+#include "managerfixture.h"
 #include "modaldriver.h"
-#include "rows.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QtTest>
-
-class TestTransparency : public QObject
+class TestTransparency : public ManagerFixture
 {
     Q_OBJECT
 
@@ -31,7 +26,7 @@ private slots:
     {
         QFETCH(QString, typed);
         QFETCH(int, stored);
-        ManagerDriver manager(m_module, layerTree({layer("0", 0, R"(,"Transparency":35)")}));
+        open(layerTree({layer("0", 0, R"(,"Transparency":35)")}));
         ModalDriver user;
         user.then([&](QDialog& dialog) {
             auto& value = child<QComboBox>(dialog, "transparencyValue");
@@ -49,24 +44,18 @@ private slots:
                 return;
             QTest::keyClicks(dialog.focusWidget(), "20"); // Typing also replaces a refused value.
             QCOMPARE(value.currentText(), "20");
-            press(dialog, "cancelButton");
+            ::press(dialog, "cancelButton");
         });
-        manager.click(0, 8);
+        click(0, 8);
 
-        QStringList log;
-        if (stored < 0)
-            log.append("message|请输入一个0至90之间的整数||48");
-        QCOMPARE(manager.host.log(), log);
-        QCOMPARE(manager.record(0)->GetDataI("Transparency"), stored < 0 ? 35 : stored);
-        QCOMPARE(manager.text(0, 8), QString::number(stored < 0 ? 35 : stored));
-        QVERIFY(manager.record(0)->GetDataB("Modified")); // Even when the dialog was cancelled.
-        QVERIFY(manager.isApplyEnabled());
+        QCOMPARE(
+            log().join('#'), QString(stored < 0 ? "message|请输入一个0至90之间的整数||48" : ""));
+        QCOMPARE(record(0)->GetDataI("Transparency"), stored < 0 ? 35 : stored);
+        QCOMPARE(text(0, 8), QString::number(stored < 0 ? 35 : stored));
+        QVERIFY(record(0)->GetDataB("Modified")); // Even when the dialog was cancelled.
+        QVERIFY(isApplyEnabled());
     }
-
-private:
-    ModuleFixture m_module;
 };
 
 QTEST_MAIN(TestTransparency)
-
 #include "tst_transparency.moc"

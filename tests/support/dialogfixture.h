@@ -3,6 +3,7 @@
 #include "modulefixture.h"
 #include "recordinghost.h"
 #include "recordinginvoker.h"
+#include "rows.h"
 #include "trees.h"
 #include "useracts.h"
 
@@ -11,23 +12,33 @@
 /// A dialog of the module on the screen, with its tree, a recording host and a recording command.
 class DialogFixture : public QObject
 {
-protected:
-    void start() { m_host = std::make_unique<RecordingHost>(); }
-    void stop()
+    Q_OBJECT
+
+protected slots:
+    void init() { m_host = std::make_unique<RecordingHost>(); }
+    void cleanup()
     {
         m_dialog = {};
         m_host.reset();
     }
 
+protected:
     /// Opens a dialog. `keys` are the request keys that the log shows.
     void open(const char* name, const QString& json, const QStringList& keys = {"none"},
         const char* markerKey = "marker")
     {
-        m_tree = tree(json);
+        make(name, json, keys, markerKey);
+        m_dialog.window()->show();
+    }
+    /// Makes a dialog that is not on the screen yet.
+    void make(const char* name, const QString& json, const QStringList& keys,
+        const char* markerKey = "marker")
+    {
+        m_tree = json.isEmpty() ? vnsi::VnJsonPtr() : tree(json);
         m_invoker = RecordingInvoker::create(*m_host, keys);
         m_invoker->setMarkerKey(markerKey);
+        m_dialog = {}; // An open dialog would become the parent of the new one.
         m_dialog = m_module.createDialog(name, m_tree, OdRxObjectPtr(m_invoker.get()));
-        m_dialog.window()->show();
     }
 
     template <class T>

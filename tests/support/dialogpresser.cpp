@@ -62,11 +62,6 @@ void type(QLineEdit& edit, const char* text)
         pressKey(edit, Qt::Key_Return);
 }
 
-void addButton(QAbstractButton& button, Acts& acts)
-{
-    acts.push_back([&button] { button.click(); });
-}
-
 void addEdit(QLineEdit& edit, Acts& acts)
 {
     for (const char* text : kTexts)
@@ -125,7 +120,7 @@ void addView(QAbstractItemView& view, Acts& acts)
 void addActsOf(QWidget& widget, Acts& acts)
 {
     if (auto* const button = qobject_cast<QAbstractButton*>(&widget))
-        addButton(*button, acts);
+        acts.push_back([button] { button->click(); });
     else if (auto* const header = qobject_cast<QHeaderView*>(&widget))
         addHeader(*header, acts);
     else if (auto* const view = qobject_cast<QAbstractItemView*>(&widget))

@@ -1,7 +1,5 @@
 #include "dialogsamples.h"
 
-#include <algorithm>
-
 namespace {
 
 /// A part of several trees, which is inserted at its mark.
@@ -117,7 +115,9 @@ const std::vector<DialogSample>& dialogSamples()
 
 QString answerOfDialog(const QString& name)
 {
-    const auto* const row = std::find_if(std::begin(kAnswers), std::end(kAnswers),
-        [&](const AnswerRow& candidate) { return name == QLatin1String(candidate.name); });
-    return row == std::end(kAnswers) ? QStringLiteral("{}") : filledIn(row->answer);
+    for (const AnswerRow& row : kAnswers) {
+        if (name == QLatin1String(row.name))
+            return filledIn(row.answer);
+    }
+    return QStringLiteral("{}");
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "vnjson.h"
+#include "hostextras.h"
+#include "valuetree.h"
 
 #include <QJsonObject>
 #include <QStringList>

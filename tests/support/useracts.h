@@ -3,14 +3,13 @@
 #include "hostdialogs.h"
 #include "vndialogs.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
-#include <QStringList>
-
-class QAbstractItemView;
-class QComboBox;
-class QListWidget;
-class QListWidgetItem;
-class QTableWidget;
+#include <QTableWidget>
 
 // Actions of a user in a window, and functions that read what a window shows.
 
