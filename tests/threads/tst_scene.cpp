@@ -6,7 +6,6 @@
 #include "sketch.h"
 
 #include <QPainter>
-#include <QtTest>
 
 #include <dlfcn.h>
 #include <map>
@@ -184,14 +183,10 @@ private slots:
         canvas.setScene(m_scene);
         canvas.zoomToExtents();
         QVERIFY(!pictureOf(canvas).isNull());
-        QWheelEvent wheel({200, 150}, canvas.mapToGlobal(QPoint(200, 150)), {}, {0, notches * 120},
-            Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&canvas, &wheel);
+        turnWheel(canvas, {200, 150}, notches);
         pictureOf(canvas);
         QTest::mousePress(&canvas, Qt::MiddleButton, {}, {200, 150});
-        QMouseEvent drag(
-            QEvent::MouseMove, QPoint(200, 150) + pan, Qt::NoButton, Qt::MiddleButton, {});
-        QCoreApplication::sendEvent(&canvas, &drag);
+        moveMouse(canvas, QPoint(200, 150) + pan, Qt::MiddleButton);
         const QImage shown = pictureOf(canvas);
 
         QImage anew(400, 300, QImage::Format_RGB32);

@@ -42,6 +42,9 @@ protected:
     }
 
     QImage picture() { return pictureOf(*m_canvas); }
+    /// The pixel that shows a point of the drawing.
+    QPoint at(const QPointF& point) const { return m_canvas->view().toScreen(point).toPoint(); }
+    QColor colorAt(const QPointF& point) { return picture().pixelColor(at(point)); }
 
     std::unique_ptr<Sketch> m_sketch;
     std::unique_ptr<Canvas> m_canvas;

@@ -4,8 +4,23 @@
 
 #include <QCoreApplication>
 #include <QImage>
+#include <QMouseEvent>
+#include <QWheelEvent>
 
 #include <cstdlib>
+
+inline void turnWheel(QWidget& widget, const QPointF& at, int notches)
+{
+    QWheelEvent event(at, widget.mapToGlobal(at.toPoint()), {}, {0, notches * 120}, Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+inline void moveMouse(QWidget& widget, const QPointF& to, Qt::MouseButtons buttons)
+{
+    QMouseEvent event(QEvent::MouseMove, to, Qt::NoButton, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
 
 /// A picture of the canvas, taken when painting is complete.
 inline QImage pictureOf(Canvas& canvas)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "canvaspicture.h"
-#include "drawing.h"
 #include "files.h"
 #include "mainwindow.h"
 #include "modaldriver.h"

@@ -3,17 +3,13 @@
 #include "mainwindow.h"
 #include "modaldriver.h"
 #include "modulefixture.h"
+#include "ownsettings.h"
 #include "vndialogs.h"
 #include "vnmessages.h"
+#include "windowtexts.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QMenuBar>
-#include <QSettings>
 #include <QThread>
 #include <QtTest>
 
@@ -78,42 +74,6 @@ QStringList silentCells(const QWidget& window)
     return faults;
 }
 
-/// The texts of a window that hold a letter for Alt; labels may hold it in plain brackets.
-QStringList textsWithLetters(const QWidget& window)
-{
-    static const QRegularExpression plain("\\((?:<u>)?([A-Z])(?:</u>)?\\)");
-    QStringList texts;
-    const auto add = [&](const auto& widgets, auto text) {
-        for (const auto* widget : widgets) {
-            if (widget->isVisible())
-                texts += (widget->*text)();
-        }
-    };
-    add(window.findChildren<QLabel*>(), &QLabel::text);
-    texts.replaceInStrings(plain, "(&\\1)");
-    add(window.findChildren<QAbstractButton*>(), &QAbstractButton::text);
-    add(window.findChildren<QGroupBox*>(), &QGroupBox::title);
-    for (const QMenuBar* bar : window.findChildren<QMenuBar*>()) {
-        for (const QAction* action : bar->actions())
-            texts += action->text();
-    }
-    return texts;
-}
-
-QStringList doubleLetters(const QWidget& window)
-{
-    QStringList faults;
-    QSet<QString> used;
-    for (const QString& text : textsWithLetters(window)) {
-        const QString found = QKeySequence::mnemonic(text).toString();
-        if (used.contains(found))
-            faults += text + " is not alone with its letter";
-        if (!found.isEmpty())
-            used.insert(found);
-    }
-    return faults;
-}
-
 } // namespace
 
 class AccessibilityTest : public QObject
@@ -121,13 +81,6 @@ class AccessibilityTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("layerbench");
-        QCoreApplication::setApplicationName("test");
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
-    }
-
     /// Who hears a window instead of seeing it finds every control and every cell in it, and no two
     /// controls share a key.
     void everythingCanBeHeardAndReached()
@@ -151,9 +104,12 @@ private:
     {
         m_seen += name;
         QStringList faults = unnamedControls(window) + silentCells(window);
-        // Its letters are agreed, and some stand twice among them.
-        if (window.objectName() != "Dialog_CmdLayerState")
-            faults += doubleLetters(window);
+        // Their letters are agreed, and some stand twice among them.
+        const bool isAgreed =
+            QStringList{"Dialog_CmdLayerState", "Dialog_CmdLaytrans"}.contains(window.objectName());
+        const QString shared = isAgreed ? QString() : sharedLetters(window);
+        if (!shared.isEmpty())
+            faults += "shares letters: " + shared;
         for (const QString& fault : qAsConst(faults))
             m_faults += name + ": " + fault;
     }
@@ -173,8 +129,8 @@ private:
         vnsi::vnuiMessageBox(L"?", L"!", 4);
     }
 
+    const OwnSettings m_settings;
     ModuleFixture m_module;
-    QTemporaryDir m_settings;
     QStringList m_seen;
     QStringList m_faults;
 };

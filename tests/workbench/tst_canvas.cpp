@@ -1,9 +1,6 @@
 #include "canvasfixture.h"
 #include "rows.h"
 
-#include <QSignalSpy>
-#include <QWheelEvent>
-
 #include <cmath>
 
 namespace {
@@ -17,19 +14,6 @@ QByteArray fill(const QByteArray& layer, int x, int y, int width, int height)
     const QByteArray high = QByteArray::number(y + height);
     return "0 SOLID 8 " + layer + " 10 " + left + " 20 " + low + " 11 " + right + " 21 " + low +
            " 12 " + left + " 22 " + high + " 13 " + right + " 23 " + high + " ";
-}
-
-void turnWheel(QWidget& widget, const QPointF& at, int notches)
-{
-    QWheelEvent event(at, widget.mapToGlobal(at.toPoint()), {}, {0, notches * 120}, Qt::NoButton,
-        Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void moveMouse(QWidget& widget, const QPointF& to, Qt::MouseButtons buttons)
-{
-    QMouseEvent event(QEvent::MouseMove, to, Qt::NoButton, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &event);
 }
 
 } // namespace
@@ -99,19 +83,18 @@ private slots:
     {
         QFETCH(QByteArray, layers);
         QFETCH(QByteArray, codes);
-        QFETCH(QColor, onBlack);
         QFETCH(QColor, onWhite);
         m_sketch->layers = layers;
         show(fill("A", 0, 0, 10, 10) + codes);
-        QCOMPARE(colorAt(5, 5), onBlack);
+        QTEST(colorAt({5, 5}), "onBlack");
         QSignalSpy spy(m_canvas.get(), &Canvas::backgroundChanged);
         m_canvas->setDark(false);
         QCOMPARE(spy.size(), 1);
-        QCOMPARE(colorAt(5, 5), onWhite);
+        QCOMPARE(colorAt({5, 5}), onWhite);
         QCOMPARE(picture().pixelColor(2, 2), QColor(Qt::white));
         layer("A").transparency = 50;
         m_canvas->setLayers(m_layers);
-        QVERIFY(std::abs(colorAt(5, 5).red() - (onWhite.red() + 255) / 2) <= 2);
+        QVERIFY(std::abs(colorAt({5, 5}).red() - (onWhite.red() + 255) / 2) <= 2);
     }
 
     void laterFillsCoverEarlierOnes()
@@ -120,9 +103,9 @@ private slots:
         const QByteArray small = fill("A", 0, 0, 1, 1) + fill("B", 2, 0, 1, 1);
         const QByteArray a = fill("A", 0, 5, 10, 10), b = fill("B", 0, 5, 10, 10);
         show(small + a + b);
-        QCOMPARE(colorAt(5, 10), QColor(0, 0, 255));
+        QCOMPARE(colorAt({5, 10}), QColor(0, 0, 255));
         show(small + b + a);
-        QCOMPARE(colorAt(5, 10), QColor(255, 0, 0));
+        QCOMPARE(colorAt({5, 10}), QColor(255, 0, 0));
     }
 
     void textStandsAtItsPoint_data()
@@ -163,8 +146,7 @@ private slots:
     void wheelKeepsThePointUnderTheCursor()
     {
         show(fill("A", 1000000, 5, 10, 10));
-        const std::pair<QPointF, int> turns[] = {{{3, 290}, 4}, {{250, 60}, -7}};
-        for (const auto& [at, notches] : turns) {
+        for (const auto& [at, notches] : {std::pair(QPointF(3, 290), 4), {QPointF(250, 60), -7}}) {
             const QPointF before = m_canvas->view().toDrawing(at);
             const double scale = m_canvas->view().scale();
             turnWheel(*m_canvas, at, notches);
@@ -181,7 +163,7 @@ private slots:
             picture();
             QVERIFY(m_canvas->view().scale() > 0 && std::isfinite(m_canvas->view().scale()));
             m_canvas->zoomToExtents();
-            QCOMPARE(colorAt(5, 5), QColor(255, 0, 0));
+            QCOMPARE(colorAt({5, 5}), QColor(255, 0, 0));
         }
     }
 
@@ -248,11 +230,6 @@ private slots:
     }
 
 private:
-    QColor colorAt(double x, double y)
-    {
-        return picture().pixelColor(m_canvas->view().toScreen({x, y}).toPoint());
-    }
-
     QRectF onScreen(double x, double y, double width, double height) const
     {
         return QRectF(

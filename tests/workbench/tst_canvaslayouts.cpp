@@ -1,7 +1,6 @@
 #include "canvasfixture.h"
 #include "rows.h"
-
-#include <QSignalSpy>
+#include "steps.h"
 
 Q_DECLARE_METATYPE(drawing::SheetViewport)
 
@@ -30,7 +29,6 @@ private slots:
     {
         using Points = QVector<QPointF>;
         const Rows<QByteArray, Points, Points, QColor> row("codes", "ink", "blank", "color");
-
         const QColor red(255, 0, 0);
         const Points square{{50, 50}, {42, 42}, {58, 58}}, around{{38, 50}, {62, 50}, {50, 20}};
         row("at its scale", "5 40 45 20", square, around, red);
@@ -50,11 +48,10 @@ private slots:
         QFETCH(QByteArray, codes);
         QFETCH(QVector<QPointF>, ink);
         QFETCH(QVector<QPointF>, blank);
-        QFETCH(QColor, color);
         show(kModel + viewport(50, codes) +
              "0 LWPOLYLINE 5 50 67 1 8 0 70 1 10 30 20 30 10 70 20 30 10 50 20 70 " + kFrame);
         for (const QPointF& place : ink)
-            QCOMPARE(colorAt(place), color);
+            QTEST(colorAt(place), "color");
         for (const QPointF& place : blank)
             QCOMPARE(colorAt(place), QColor(Qt::black));
         layer("A").off = true;
@@ -75,11 +72,8 @@ private slots:
         QCOMPARE(entered.size(), 1);
         const int second = entered.first().first().toInt();
         QVERIFY(second != drawing->currentViewport() && drawing->setCurrentViewport(second));
-        {
-            drawing::DrawingStep step(*drawing, "freeze");
-            QVERIFY(drawing->setFrozenInViewport({drawing->findLayer("A")->id}).has_value());
-            step.commit();
-        }
+        QVERIFY(inStep(
+            *drawing, [&] { return drawing->setFrozenInViewport({drawing->findLayer("A")->id}); }));
         const drawing::Sheet sheet = *drawing->sheet();
         for (const drawing::SheetViewport& viewport : sheet.viewports) {
             QCOMPARE(viewport.isCurrent, viewport.entity == second);
@@ -109,7 +103,7 @@ private slots:
         QFETCH(bool, moves);
         show(kModel + viewport(50, codes + " 12 0 22 0 ") + kFrame);
         const CanvasView before = m_canvas->view();
-        const QPoint center = before.toScreen({50, 50}).toPoint();
+        const QPoint center = at({50, 50});
         QTest::mouseClick(m_canvas.get(), Qt::LeftButton, {}, center);
         QVERIFY(m_canvas->selection().empty());
         doubleClick({50, 50});
@@ -120,12 +114,8 @@ private slots:
 
         QSignalSpy moved(m_canvas.get(), &Canvas::viewportMoved);
         QTest::mousePress(m_canvas.get(), Qt::MiddleButton, {}, center);
-        QMouseEvent move(
-            QEvent::MouseMove, center + drag, Qt::NoButton, Qt::MiddleButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_canvas.get(), &move);
-        QWheelEvent wheel(center, m_canvas->mapToGlobal(center), {}, {0, notches * 120},
-            Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(m_canvas.get(), &wheel);
+        moveMouse(*m_canvas, center + drag, Qt::MiddleButton);
+        turnWheel(*m_canvas, center, notches);
         const QImage shown = picture();
         if (moves && drag.isNull())
             QVERIFY(moved.wait()); // The wheel has no end of its own.
@@ -136,9 +126,8 @@ private slots:
             return;
         // The drawing comes to the same picture, and back.
         const auto viewport = moved.first().first().value<drawing::SheetViewport>();
-        drawing::DrawingStep step(*m_drawing, "view");
-        QVERIFY(m_drawing->setViewportView(viewport.entity, viewport.view).has_value());
-        step.commit();
+        QVERIFY(inStep(*m_drawing,
+            [&] { return m_drawing->setViewportView(viewport.entity, viewport.view); }));
         m_canvas->setSheet(std::make_shared<const drawing::Sheet>(*m_drawing->sheet()));
         m_canvas->setLayers(m_layers);
         QVERIFY(differentPixels(picture(), shown, 64) < 0.001);
@@ -155,13 +144,7 @@ private:
 
     void doubleClick(const QPointF& place)
     {
-        QTest::mouseDClick(
-            m_canvas.get(), Qt::LeftButton, {}, m_canvas->view().toScreen(place).toPoint());
-    }
-
-    QColor colorAt(const QPointF& place)
-    {
-        return picture().pixelColor(m_canvas->view().toScreen(place).toPoint());
+        QTest::mouseDClick(m_canvas.get(), Qt::LeftButton, {}, at(place));
     }
 
     const QByteArray kModel = "0 SOLID 8 A 10 0 20 0 11 10 21 0 12 0 22 10 13 10 23 10 ";

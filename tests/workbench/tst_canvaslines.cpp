@@ -36,7 +36,6 @@ private slots:
         // Positions along y = 0 with and without ink, in drawing units.
         using Places = QVector<double>;
         const Rows<QByteArray, QByteArray, Places, Places> row("header", "entities", "ink", "gaps");
-
         // Ten repetitions of 6 and 4 fill a hundred units, so each end has a dash of 3.
         const Places ink{1, 12, 52, 98}, gaps{5, 45, 95};
         row("as the linetype says", "", line("6 DASHED"), ink, gaps);
@@ -114,8 +113,7 @@ private slots:
         show(entity + m_frame);
         layer("A").transparency = 20;
         m_canvas->setLayers(m_layers);
-        const QPoint middle = m_canvas->view().toScreen({50, 0}).toPoint();
-        QVERIFY(std::abs(picture().pixelColor(middle).red() - red) <= 2);
+        QVERIFY(std::abs(colorAt({50, 0}).red() - red) <= 2);
     }
 
     void widths_data()
@@ -153,16 +151,16 @@ private:
 
     bool hasInk(double x, double y)
     {
-        const QPoint at = m_canvas->view().toScreen({x, y}).toPoint();
+        const QPoint place = at({x, y});
         const QImage image = picture();
-        return isInk(image.pixelColor(at)) || isInk(image.pixelColor(at - QPoint(0, 1)));
+        return isInk(image.pixelColor(place)) || isInk(image.pixelColor(place - QPoint(0, 1)));
     }
 
     /// The number of ink pixels above and below 0 at `x`.
     int thickness(double x)
     {
         const QImage image = picture();
-        const int column = m_canvas->view().toScreen({x, 0}).toPoint().x();
+        const int column = at({x, 0}).x();
         int count = 0;
         for (int y = 0; y < image.height(); ++y)
             count += isInk(image.pixelColor(column, y)) ? 1 : 0;

@@ -3,74 +3,22 @@
 #include "languagemenu.h"
 #include "mainwindow.h"
 #include "modulefixture.h"
+#include "ownsettings.h"
 #include "rows.h"
 #include "trees.h"
 #include "vnstrings.h"
+#include "windowtexts.h"
 
-#include <QAbstractButton>
-#include <QGroupBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QMenuBar>
-#include <QSettings>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QToolButton>
-#include <QtTest>
 
 namespace {
 
 /// Makes a window and hands it to whoever looks at it.
 using Look = std::function<void(QWidget& window)>;
 using Show = std::function<void(const Look& look)>;
-
-/// Texts in a place where each letter can be pressed once: a window, a menu.
-using Place = QStringList;
-
-std::vector<Place> placesIn(const QWidget& window)
-{
-    std::vector<Place> places(1);
-    Place& own = places.front();
-    const auto add = [&own](const QWidget* widget, const QString& text) {
-        if (widget->isVisible())
-            own += text;
-    };
-    for (const auto* button : window.findChildren<QAbstractButton*>())
-        add(button, button->text());
-    for (const auto* label : window.findChildren<QLabel*>())
-        add(label, label->text());
-    for (const auto* group : window.findChildren<QGroupBox*>())
-        add(group, group->title());
-    for (const auto* tabs : window.findChildren<QTabBar*>()) {
-        for (int i = 0; i < tabs->count(); ++i)
-            add(tabs, tabs->tabText(i));
-    }
-    for (const auto* bar : window.findChildren<QMenuBar*>()) {
-        for (const QAction* action : bar->actions())
-            add(bar, action->text());
-    }
-    for (const auto* menu : window.findChildren<QMenu*>()) {
-        Place& place = places.emplace_back();
-        for (const QAction* action : menu->actions())
-            place += action->text();
-    }
-    return places;
-}
-
-/// The letters that stand twice in a place.
-QString sharedLetters(const QWidget& window)
-{
-    QString shared;
-    for (const Place& place : placesIn(window)) {
-        QString seen;
-        for (const QString& text : place) {
-            const QString letter = QKeySequence::mnemonic(text).toString().right(1);
-            (seen.contains(letter) ? shared : seen) += letter;
-        }
-    }
-    std::sort(shared.begin(), shared.end());
-    return shared;
-}
 
 /// All that a window says but what is in the drawing.
 QStringList textsIn(const QWidget& window)
@@ -127,17 +75,8 @@ class LanguagesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("layerbench");
-        QCoreApplication::setApplicationName("test");
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
-        m_module = std::make_unique<ModuleFixture>();
-    }
-
-    void init() { QSettings().clear(); }
+    void init() { m_settings.clear(); }
     void cleanup() { LanguageMenu::useLanguage(QStringLiteral("zh")); }
-    void cleanupTestCase() { m_module.reset(); }
 
     void windows_data()
     {
@@ -165,7 +104,7 @@ private slots:
         for (const DialogSample& sample : dialogSamples())
             add(sample.name, [=](const Look& look) {
                 const host::WatchedDialog dialog =
-                    m_module->createDialog(sample.name, tree(sample.tree));
+                    m_module.createDialog(sample.name, tree(sample.tree));
                 look(*dialog.window());
             });
     }
@@ -174,7 +113,6 @@ private slots:
     {
         QFETCH(QString, code);
         QFETCH(Show, show);
-        QFETCH(QString, shared);
         LanguageMenu::useLanguage(code);
         show([&](QWidget& window) {
             window.show();
@@ -185,7 +123,7 @@ private slots:
                 if (pages)
                     pages->setCurrentIndex(page);
                 QCoreApplication::processEvents();
-                QCOMPARE(sharedLetters(window), shared);
+                QTEST(sharedLetters(window), "shared");
                 if (code == "zh")
                     continue;
                 const QRegularExpression chinese("[\\x{4e00}-\\x{9fff}]");
@@ -219,14 +157,14 @@ private slots:
         LanguageMenu::useLanguage({});
         const MainWindow english;
         QVERIFY(english.findChild<QAction*>("language_en")->isChecked());
-        QCOMPARE(english.findChild<QAction*>("SAVE")->toolTip(), QString("Save (SAVE)"));
+        QCOMPARE(english.findChild<QAction*>("SAVE")->toolTip(), "Save (SAVE)");
         LanguageMenu::useLanguage(QStringLiteral("zh"));
-        QCOMPARE(MainWindow().findChild<QAction*>("SAVE")->toolTip(), QString("保存 (SAVE)"));
+        QCOMPARE(MainWindow().findChild<QAction*>("SAVE")->toolTip(), "保存 (SAVE)");
     }
 
 private:
-    QTemporaryDir m_settings;
-    std::unique_ptr<ModuleFixture> m_module;
+    const OwnSettings m_settings;
+    ModuleFixture m_module;
 };
 
 QTEST_MAIN(LanguagesTest)

@@ -1,9 +1,6 @@
 #include "commandfixture.h"
 #include "hostcodes.h"
 
-#include <QLineEdit>
-#include <QTableWidget>
-
 namespace {
 
 constexpr int kName = 1;
@@ -138,5 +135,4 @@ private:
 };
 
 QTEST_MAIN(LayerCommandTest)
-
 #include "tst_layercommand.moc"

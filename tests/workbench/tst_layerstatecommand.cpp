@@ -6,11 +6,8 @@
 #include "rows.h"
 #include "states/layerstatefile.h"
 
-#include <QComboBox>
-#include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
-#include <QTableWidget>
 #include <QToolButton>
 
 using namespace drawing;

@@ -3,9 +3,6 @@
 #include "hostcodes.h"
 #include "rows.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QRegularExpression>
 #include <QStatusBar>
 

@@ -1,8 +1,6 @@
 #include "canvasfixture.h"
 #include "rows.h"
 
-#include <QSignalSpy>
-
 using Selection = std::vector<int>;
 
 Q_DECLARE_METATYPE(Selection)
@@ -62,10 +60,9 @@ private slots:
         QFETCH(QPointF, point);
         QFETCH(int, pixelsUp);
         QFETCH(QString, change);
-        QFETCH(Selection, selected);
         changeLayer(change);
-        click(at(point.x(), point.y()) - QPoint(0, pixelsUp));
-        QCOMPARE(m_canvas->selection(), selected);
+        click(at(point) - QPoint(0, pixelsUp));
+        QTEST(m_canvas->selection(), "selected");
     }
 
     void windows_data()
@@ -89,42 +86,41 @@ private slots:
         QFETCH(QPointF, from);
         QFETCH(QPointF, to);
         QFETCH(QString, change);
-        QFETCH(Selection, selected);
         changeLayer(change);
-        drag(at(from.x(), from.y()), at(to.x(), to.y()));
-        QCOMPARE(m_canvas->selection(), selected);
+        drag(at(from), at(to));
+        QTEST(m_canvas->selection(), "selected");
     }
 
     void modifiers()
     {
         QSignalSpy changed(m_canvas.get(), &Canvas::selectionChanged);
-        click(at(20, 0));
-        click(at(20, 10));
+        click(at({20, 0}));
+        click(at({20, 10}));
         QCOMPARE(m_canvas->selection(), Selection{kHigh});
-        click(at(20, 0), kAdds);
+        click(at({20, 0}), kAdds);
         QCOMPARE(m_canvas->selection(), (Selection{kLow, kHigh}));
         QCOMPARE(changed.last().value(0).toInt(), 2);
-        click(at(20, 10), kAdds);
+        click(at({20, 10}), kAdds);
         QCOMPARE(m_canvas->selection(), Selection{kLow});
         // A window does not remove entities.
-        drag(at(-2, -2), at(102, 20), kAdds);
+        drag(at({-2, -2}), at({102, 20}), kAdds);
         QCOMPARE(m_canvas->selection(), (Selection{kLow, kHigh}));
-        click(at(30, 20), kAdds);
+        click(at({30, 20}), kAdds);
         QCOMPARE(m_canvas->selection().size(), std::size_t(2));
-        click(at(30, 20));
+        click(at({30, 20}));
         QVERIFY(m_canvas->selection().empty());
         const int count = changed.size();
-        click(at(30, 20));
+        click(at({30, 20}));
         QCOMPARE(changed.size(), count);
     }
 
     void escape()
     {
-        click(at(20, 0));
-        QTest::mousePress(m_canvas.get(), Qt::LeftButton, kNone, at(-2, 20));
-        move(at(95, -2));
+        click(at({20, 0}));
+        QTest::mousePress(m_canvas.get(), Qt::LeftButton, kNone, at({-2, 20}));
+        moveMouse(*m_canvas, at({95, -2}), Qt::LeftButton);
         QTest::keyClick(m_canvas.get(), Qt::Key_Escape);
-        QTest::mouseRelease(m_canvas.get(), Qt::LeftButton, kNone, at(95, -2));
+        QTest::mouseRelease(m_canvas.get(), Qt::LeftButton, kNone, at({95, -2}));
         QCOMPARE(m_canvas->selection(), Selection{kLow});
         QTest::keyClick(m_canvas.get(), Qt::Key_Escape);
         QVERIFY(m_canvas->selection().empty());
@@ -157,20 +153,14 @@ private slots:
     }
 
 private:
-    QPoint at(double x, double y) const { return m_canvas->view().toScreen({x, y}).toPoint(); }
     void click(const QPoint& pixel, Qt::KeyboardModifier modifier = kNone)
     {
         QTest::mouseClick(m_canvas.get(), Qt::LeftButton, modifier, pixel);
     }
-    void move(const QPoint& pixel)
-    {
-        QMouseEvent event(QEvent::MouseMove, pixel, Qt::NoButton, Qt::LeftButton, kNone);
-        QCoreApplication::sendEvent(m_canvas.get(), &event);
-    }
     void drag(const QPoint& from, const QPoint& to, Qt::KeyboardModifier modifier = kNone)
     {
         QTest::mousePress(m_canvas.get(), Qt::LeftButton, modifier, from);
-        move(to);
+        moveMouse(*m_canvas, to, Qt::LeftButton);
         QTest::mouseRelease(m_canvas.get(), Qt::LeftButton, modifier, to);
     }
     /// The changes "A off", "B frozen" or "A locked"; empty for none.

@@ -6,11 +6,6 @@
 #include "standardsfile.h"
 #include "vnsettings.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QListWidget>
-#include <QTableWidget>
-
 namespace {
 
 const QString kStandard = QStringLiteral(SAMPLES "/office-standard.dxf");
@@ -208,5 +203,4 @@ private:
 };
 
 QTEST_MAIN(LayerTranslateCommandTest)
-
 #include "tst_laytranscommand.moc"

@@ -3,10 +3,6 @@
 #include "plan.h"
 
 #include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QToolButton>
 
 using drawing::Layer;
@@ -272,5 +268,4 @@ private:
 };
 
 QTEST_MAIN(LayerWalkCommandTest)
-
 #include "tst_laywalkcommand.moc"

@@ -1,12 +1,11 @@
-#include "sketch.h"
 #include "rows.h"
+#include "sketch.h"
 
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QtTest>
 
 namespace {
 

@@ -1,11 +1,10 @@
-#include "sketch.h"
 #include "boxanswerer.h"
 #include "commandtable.h"
 #include "layermemory.h"
+#include "ownsettings.h"
 #include "rows.h"
-
-#include <QSettings>
-#include <QtTest>
+#include "sketch.h"
+#include "steps.h"
 
 using drawing::LayerId;
 
@@ -24,16 +23,9 @@ class QuickCommandsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName(QStringLiteral("layerbench"));
-        QCoreApplication::setApplicationName(QStringLiteral("quick"));
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
-    }
-
     void init()
     {
-        QSettings().clear();
+        m_settings.clear();
         m_sketch.layers = kLayers;
         m_drawing = m_sketch.open(kEntities);
         QVERIFY(m_drawing);
@@ -76,10 +68,9 @@ private slots:
     void commands()
     {
         QFETCH(QString, commands);
-        QFETCH(QString, layers);
         for (const QString& command : commands.split(' ', Qt::SkipEmptyParts))
             run(command);
-        QCOMPARE(states(), layers);
+        QTEST(states(), "layers");
         QVERIFY(m_picks == (commands.contains('?') ? 1 : 0));
     }
 
@@ -91,9 +82,9 @@ private slots:
         run("LAYFRZ:AB");
         QVERIFY(answers.waitForAll());
         QVERIFY(answers.texts().front().contains("不能冻结当前图层“A”"));
-        QCOMPARE(states(), QStringLiteral("0 A> B* C"));
+        QCOMPARE(states(), "0 A> B* C");
         run("LAYUNISO");
-        QCOMPARE(m_said.last(), QStringLiteral("没有隔离的图层。"));
+        QCOMPARE(m_said.last(), "没有隔离的图层。");
     }
 
     void movesToTheCurrentLayer()
@@ -106,7 +97,7 @@ private slots:
         QVERIFY(answers.texts().front().contains("1 个对象在锁定的图层上"));
         QCOMPARE(m_drawing->findLayer("A")->entityCount, 2);
         QCOMPARE(m_drawing->findLayer("C")->entityCount, 1);
-        QCOMPARE(m_drawing->undoName(), QStringLiteral("更改到当前图层"));
+        QCOMPARE(m_drawing->undoName(), "更改到当前图层");
     }
 
     /// The other layers are faded while isolation keeps them locked.
@@ -134,12 +125,13 @@ private:
             return m_drawing->undo();
         if (word == "lock")
             return QSettings().setValue("panel/isolateByLock", true);
+        if (word == "rename") {
+            edit(*m_drawing, "A", [](auto& layer) { layer.name = "New"; });
+            return;
+        }
         const CommandRow* const row = CommandTable().find(word.section(':', 0, 0));
-        drawing::DrawingStep step(*m_drawing, row ? row->displayTitle() : word);
-        if (row)
-            run(*row, word.section(':', 1));
-        else
-            rename();
+        drawing::DrawingStep step(*m_drawing, row->displayTitle());
+        run(*row, word.section(':', 1));
         step.commit();
     }
 
@@ -162,13 +154,6 @@ private:
         row.create()->run(context);
     }
 
-    void rename()
-    {
-        drawing::LayerProperties properties = m_drawing->findLayer("A")->properties;
-        properties.name = QStringLiteral("New");
-        QVERIFY(m_drawing->setLayerProperties(m_drawing->findLayer("A")->id, properties));
-    }
-
     QString states() const
     {
         QStringList states;
@@ -180,7 +165,7 @@ private:
         return states.join(' ');
     }
 
-    QTemporaryDir m_settings;
+    const OwnSettings m_settings;
     Sketch m_sketch;
     std::unique_ptr<drawing::Drawing> m_drawing;
     std::unique_ptr<LayerMemory> m_memory;
