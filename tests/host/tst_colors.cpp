@@ -10,10 +10,7 @@
 #include "vnstrings.h"
 
 #include <QColorDialog>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTabWidget>
-#include <QtTest>
 
 Q_DECLARE_METATYPE(ModalDriver::Step)
 
@@ -172,14 +169,14 @@ private slots:
         user.answer(1, R"({"clrMethod":194,"selectClr":66051})");
         openDialog();
         QVERIFY(user.takeLog().last().contains(R"("isByLayerEnable":1)"));
-        QCOMPARE(box.currentText(), QString("3,2,1"));
+        QCOMPARE(box.currentText(), "3,2,1");
         // Entries that were removed from the list cannot be chosen in the dialog either.
         for (const int index : {0, 256})
             box.removeItem(box.FindColor(indexColor(index)));
         user.answer(2);
         openDialog();
         QVERIFY(user.log().last().contains(R"("isByBLockEnable":0,"isByLayerEnable":0)"));
-        QCOMPARE(box.currentText(), QString("3,2,1"));
+        QCOMPARE(box.currentText(), "3,2,1");
     }
 
     void picksLineTypes()

@@ -1,6 +1,7 @@
 #include "RxObjectImpl.h"
 #include "coreservices.h"
 #include "filefilters.h"
+#include "files.h"
 #include "hoststart.h"
 #include "hostwindows.h"
 #include "modaldriver.h"
@@ -8,7 +9,6 @@
 #include "rows.h"
 #include "settings.h"
 #include "trees.h"
-#include "valuetree.h"
 #include "vnservicedict.h"
 #include "vnstrings.h"
 
@@ -18,7 +18,6 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTextBrowser>
-#include <QtTest>
 
 using vnsi::VnJsonPtr;
 
@@ -78,7 +77,7 @@ private slots:
         RecordingHost user;
         user.passThrough("X");
         QCOMPARE(vnsi::vnuiShowModelDialog(L"Test", L"X", {})->GetDataI("result", -1), 0);
-        QCOMPARE(user.log().last(), QStringLiteral("message|对话框“X”出错: broken|Quenlith|48"));
+        QCOMPARE(user.log().last(), "message|对话框“X”出错: broken|Quenlith|48");
         vnsi::vn_arbitDict_clearservice(L"Test");
     }
 
@@ -103,13 +102,12 @@ private slots:
         QFETCH(QString, keys);
         QFETCH(QString, typed);
         QFETCH(bool, accepts);
-        QFETCH(QString, labels);
         ModalDriver driver;
         driver.then([&](QDialog& dialog) {
             auto* const name = dialog.findChild<QLineEdit*>("name");
             const QString tip = dialog.findChild<QLabel*>("tip")->text();
             const QStringList seen{dialog.windowTitle(), tip, name->text()};
-            QCOMPARE(seen.join('|'), labels);
+            QTEST(seen.join('|'), "labels");
             if (!typed.isEmpty())
                 name->insert(typed); // Replaces the selected text.
             QTest::keyClick(name, accepts ? Qt::Key_Return : Qt::Key_Escape);
@@ -204,10 +202,8 @@ private slots:
         QCOMPARE(vnsi::vnutOdStringToQString(answer->GetDataSW("filePath")), path);
         QVERIFY(!host::hasKey(answer, "filePaths"));
 
-        for (const char* name : {"a.dws", "b.dws"}) {
-            QFile file(folder.filePath(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+        for (const char* name : {"a.dws", "b.dws"})
+            writtenFile(folder.filePath(name), {});
         driver.then([](QDialog& dialog) {
             dialog.findChild<QLineEdit*>("fileNameEdit")->setText("\"a.dws\" \"b.dws\"");
             dialog.accept();
@@ -246,7 +242,7 @@ private slots:
             server->help(0);
             const QList<QDialog*> windows = dialog.findChildren<QDialog*>("helpWindow");
             QCOMPARE(windows.size(), 1);
-            QCOMPARE(windows.first()->windowTitle(), QStringLiteral("帮助 - 图层漫游"));
+            QCOMPARE(windows.first()->windowTitle(), "帮助 - 图层漫游");
             QVERIFY(!windows.first()->isModal());
             const auto* const text = windows.first()->findChild<QTextBrowser*>("helpText");
             QVERIFY(text->toPlainText().contains("通配符"));
@@ -284,10 +280,8 @@ private slots:
     {
         const QTemporaryDir folder;
         QVERIFY(m_host.loadModule(folder.filePath("none.so")).contains("文件不存在"));
-        QFile broken(folder.filePath("broken.so"));
-        QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no library") > 0);
-        broken.close();
-        QVERIFY(m_host.loadModule(broken.fileName()).startsWith("无法加载模块“"));
+        const QString broken = writtenFile(folder.filePath("broken.so"), "no library");
+        QVERIFY(m_host.loadModule(broken).startsWith("无法加载模块“"));
         QVERIFY(!m_host.isModuleLoaded());
     }
 

@@ -9,7 +9,6 @@
 
 #include <QMessageBox>
 #include <QPushButton>
-#include <QtTest>
 
 namespace {
 
@@ -87,7 +86,7 @@ private slots:
                 auto& box = dynamic_cast<QMessageBox&>(dialog);
                 QCOMPARE(buttonTexts(box), buttons);
                 QCOMPARE(static_cast<int>(box.icon()), icon);
-                QCOMPARE(box.windowTitle(), QStringLiteral("标题"));
+                QCOMPARE(box.windowTitle(), "标题");
                 press(dialog, i < buttons.size() ? buttons[i] : kEscape);
             });
             const vnsi::VnJsonPtr answer =
@@ -112,7 +111,7 @@ private slots:
         driver.then([](QDialog& dialog) {
             const auto& box = dynamic_cast<QMessageBox&>(dialog);
             QCOMPARE(box.textFormat(), Qt::PlainText);
-            QCOMPARE(box.text(), QStringLiteral("<b>一</b>\n\n二"));
+            QCOMPARE(box.text(), "<b>一</b>\n\n二");
             dialog.reject();
         });
         QCOMPARE(vnsi::vnuiMessageBox(L"<b>一</b>\r\n\r\n二", L"", 64), 1);
@@ -131,7 +130,7 @@ private slots:
         QFETCH(QString, pressed);
         ModalDriver driver;
         driver.then([&](QDialog& dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("标题"));
+            QCOMPARE(dialog.windowTitle(), "标题");
             press(dialog, pressed);
         });
         vnsi::CVnUiTaskDialog task;
@@ -144,7 +143,7 @@ private slots:
 
     void makesTextsReadable()
     {
-        QCOMPARE(host::readable("a\r\nb"), QStringLiteral("a\nb"));
+        QCOMPARE(host::readable("a\r\nb"), "a\nb");
         const QString shown = host::readable(QString(100000, 'x'));
         QVERIFY(shown.size() < 5000);
         QVERIFY(shown.endsWith(QChar(0x2026)));

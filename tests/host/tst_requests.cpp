@@ -6,7 +6,6 @@
 #include "vnservicedict.h"
 
 #include <QThread>
-#include <QtTest>
 
 #include <atomic>
 #include <memory>

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "rows.h"
 #include "settings.h"
 #include "sysvars.h"
@@ -5,26 +6,8 @@
 #include "vndialogs.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
 
 Q_DECLARE_METATYPE(OdString)
-
-namespace {
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), static_cast<qint64>(bytes.size()));
-}
-
-} // namespace
 
 class TestSettings : public QObject
 {
@@ -44,16 +27,16 @@ private slots:
         const vnsi::VnJsonPtr section = vnsi::vn_user_config(L"table_dialog");
         QVERIFY(section == vnsi::vn_user_config(L"table_dialog"));
         section->SetDataB("RecoverBoxChecked", true);
-        QCOMPARE(contents(path("table_dialog.json")), QByteArray("no file"));
+        QCOMPARE(contentOf(path("table_dialog.json")), QByteArray("unreadable"));
         vnsi::vnuiShowModelDialog(L"no such service", L"dialog", {});
-        QCOMPARE(contents(path("table_dialog.json")), QByteArray(R"({"RecoverBoxChecked":true})"));
+        QCOMPARE(contentOf(path("table_dialog.json")), QByteArray(R"({"RecoverBoxChecked":true})"));
 
         host::setSettingsFolder(m_folder->path());
         QVERIFY(vnsi::vn_user_config(L"table_dialog")->GetDataB("RecoverBoxChecked"));
         // An unchanged section does not touch its file.
-        write(path("table_dialog.json"), "{}");
+        writtenFile(path("table_dialog.json"), "{}");
         QVERIFY(host::saveSettings());
-        QCOMPARE(contents(path("table_dialog.json")), QByteArray("{}"));
+        QCOMPARE(contentOf(path("table_dialog.json")), QByteArray("{}"));
     }
 
     void setsUnreadableFilesAside_data()
@@ -68,15 +51,15 @@ private slots:
     void setsUnreadableFilesAside()
     {
         QFETCH(QByteArray, bytes);
-        write(path("s.json.bad"), "older");
-        write(path("s.json"), bytes);
+        writtenFile(path("s.json.bad"), "older");
+        writtenFile(path("s.json"), bytes);
         const vnsi::VnJsonPtr section = vnsi::vn_user_config(L"s");
-        QCOMPARE(toText(section), QStringLiteral("{}"));
-        QCOMPARE(contents(path("s.json.bad")), bytes);
+        QCOMPARE(toText(section), "{}");
+        QCOMPARE(contentOf(path("s.json.bad")), bytes);
         section->SetDataI("a", 2);
         QVERIFY(host::saveSettings());
-        QCOMPARE(contents(path("s.json")), QByteArray(R"({"a":2})"));
-        QCOMPARE(contents(path("s.json.bad")), bytes);
+        QCOMPARE(contentOf(path("s.json")), QByteArray(R"({"a":2})"));
+        QCOMPARE(contentOf(path("s.json.bad")), bytes);
     }
 
     void staysInItsFolder_data()
@@ -109,11 +92,11 @@ private slots:
 
     void refusesToWriteWhereItCannot()
     {
-        write(path("file"), "x");
+        writtenFile(path("file"), "x");
         host::setSettingsFolder(path("file"));
         vnsi::vn_user_config(L"s")->SetDataI("a", 1);
         QVERIFY(!host::saveSettings());
-        QCOMPARE(contents(path("file")), QByteArray("x"));
+        QCOMPARE(contentOf(path("file")), QByteArray("x"));
     }
 
     void knowsSystemVariables()

@@ -1,10 +1,6 @@
-#include "hostextras.h"
 #include "rows.h"
 #include "trees.h"
-#include "valuetree.h"
 #include "vnstrings.h"
-
-#include <QtTest>
 
 #include <functional>
 #include <limits>
@@ -90,8 +86,8 @@ private slots:
         node->SetDataL("Color/selectClr", 3);
         node->SetDataI("scalar", 1);
         node->SetDataI("scalar/in/the/way", 2);
-        QCOMPARE(toText(node), QStringLiteral(R"({"Color":{"clrMethod":195,"selectClr":3},)"
-                                              R"("scalar":{"in":{"the":{"way":2}}}})"));
+        QCOMPARE(toText(node), R"({"Color":{"clrMethod":195,"selectClr":3},)"
+                               R"("scalar":{"in":{"the":{"way":2}}}})");
         QCOMPARE(node->GetDataJ("Color")->GetDataL("selectClr"), 3);
         QCOMPARE(node->GetDataI("Color/selectClr/deeper", 9), 9);
         hostextras::removeKey(*node, "Color/clrMethod");
@@ -118,7 +114,7 @@ private slots:
         hostextras::removeKey(*node, text);
         QCOMPARE(node->GetDataI(text, 7), 7);
         QVERIFY(!host::hasKey(node, text));
-        QCOMPARE(toText(node), QStringLiteral(R"({"a":{"b":1}})"));
+        QCOMPARE(toText(node), R"({"a":{"b":1}})");
     }
 
     void keepsArraysInOrder()
@@ -130,7 +126,7 @@ private slots:
         host::insert(list, 0, tree("[0]"));
         host::insert(list, -1, tree("[9]"));
         hostextras::append(list, {});
-        QCOMPARE(toText(list), QStringLiteral(R"([[0],1,"二",{"n":3},[9]])"));
+        QCOMPARE(toText(list), R"([[0],1,"二",{"n":3},[9]])");
         hostextras::removeItem(list, 1);
         hostextras::removeItem(list, 17);
         hostextras::removeItem(list, -1);
@@ -143,7 +139,7 @@ private slots:
             QVERIFY(!list(outside));
         list->SetDataI("key", 1);
         host::clear(*list);
-        QCOMPARE(toText(list), QStringLiteral("[]"));
+        QCOMPARE(toText(list), "[]");
         QCOMPARE(VnJsonPtr().ArrayCount(), 0);
         QVERIFY(!VnJsonPtr()(0));
     }
@@ -224,7 +220,7 @@ private slots:
         QCOMPARE(toText(copy), toText(original));
         copy->GetDataJ("a/b")(1)->SetDataI("c", 3);
         copy->SetDataI("t", 1);
-        QCOMPARE(toText(original), QStringLiteral(R"({"a":{"b":[1,{"c":2.5}]},"t":"x"})"));
+        QCOMPARE(toText(original), R"({"a":{"b":[1,{"c":2.5}]},"t":"x"})");
         QVERIFY(!hostextras::copyOf({}));
         QCOMPARE(hostextras::intOf(hostextras::copyOf(original->GetDataJ("a/b")(0)), 0), 1);
     }

@@ -2,8 +2,6 @@
 
 #include <QHash>
 
-#include <algorithm>
-
 namespace contract {
 
 namespace {
@@ -152,11 +150,11 @@ int typesOf(const char* path)
 
 const Request* findRequest(const QString& dialog, int code)
 {
-    const auto found =
-        std::find_if(kRequests.begin(), kRequests.end(), [&](const Request& candidate) {
-            return dialog == QLatin1String(candidate.dialog) && candidate.code == code;
-        });
-    return found == kRequests.end() ? nullptr : &*found;
+    for (const Request& request : kRequests) {
+        if (dialog == QLatin1String(request.dialog) && request.code == code)
+            return &request;
+    }
+    return nullptr;
 }
 
 const std::vector<Request>& requests()
@@ -166,12 +164,11 @@ const std::vector<Request>& requests()
 
 const Question* findQuestion(const QString& service, const QString& dialog)
 {
-    const auto* const found =
-        std::find_if(std::begin(kQuestions), std::end(kQuestions), [&](const Question& candidate) {
-            return service == QLatin1String(candidate.service) &&
-                   dialog == QLatin1String(candidate.dialog);
-        });
-    return found == std::end(kQuestions) ? nullptr : found;
+    for (const Question& question : kQuestions) {
+        if (service == QLatin1String(question.service) && dialog == QLatin1String(question.dialog))
+            return &question;
+    }
+    return nullptr;
 }
 
 const char* codeKeyOf(const QString& dialog)

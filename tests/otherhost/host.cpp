@@ -180,10 +180,9 @@ VnJsonPtr vn_user_config(const OdString& section)
     if (host().may(kNoSettings))
         return {};
     VnJsonPtr settings = ElementValue::createObject(0);
-    if (host().may(kOddSettings)) {
-        const char* const keys[] = {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand",
-            "RecoverBoxChecked", "FilterComboBoxList", "LtransSettingDates"};
-        for (const char* key : keys)
+    for (const char* key : {"isRefLayerCBox", "isWCheckBox", "isTCheckBox", "IsExpand",
+             "RecoverBoxChecked", "FilterComboBoxList", "LtransSettingDates"}) {
+        if (host().may(kOddSettings))
             settings->hang(key, hostextras::scalarOf(section));
     }
     return settings;
@@ -216,11 +215,13 @@ VnColorComboBox::VnColorComboBox(QWidget* parent) : QComboBox(parent)
 
 int VnColorComboBox::FindColor(const OdCmColor& color) const
 {
-    const auto found = std::find_if(m_colors.begin(), m_colors.end(), [&](const OdCmColor& one) {
-        return one.colorMethod() == color.colorMethod() && one.colorIndex() == color.colorIndex() &&
-               one.red() == color.red();
-    });
-    return found == m_colors.end() ? -1 : static_cast<int>(found - m_colors.begin());
+    for (int i = 0; i < m_colors.size(); ++i) {
+        const OdCmColor& one = m_colors[i];
+        if (one.colorMethod() == color.colorMethod() && one.colorIndex() == color.colorIndex() &&
+            one.red() == color.red())
+            return i;
+    }
+    return -1;
 }
 
 int VnColorComboBox::AppendColorItem(const OdCmColor& color)
@@ -232,31 +233,29 @@ int VnColorComboBox::AppendColorItem(const OdCmColor& color)
 
 } // namespace vnsi
 
-namespace hostextras {
-
-OdArray<ODCOLORREF> currentColorTable(const OdRxObjectPtr&)
+OdArray<ODCOLORREF> hostextras::currentColorTable(const OdRxObjectPtr&)
 {
     return {};
 }
 
-void callHelp(const OdRxObjectPtr& server, int topic)
+void hostextras::callHelp(const OdRxObjectPtr& server, int topic)
 {
     if (CoreService::cast(server.get()))
         host().note(QStringLiteral("help %1").arg(topic));
 }
 
-UiProxy* currentProxy(const OdRxObjectPtr& server)
+hostextras::UiProxy* hostextras::currentProxy(const OdRxObjectPtr& server)
 {
     static UiProxy proxy;
     return CoreService::cast(server.get()) ? &proxy : nullptr;
 }
 
-OdRxObjectPtr makeRequest(const std::function<void()>& work)
+OdRxObjectPtr hostextras::makeRequest(const std::function<void()>& work)
 {
     return OdRxObjectImpl<Work>::createObject(work);
 }
 
-int post(UiProxy&, const OdString& name, const OdRxObjectPtr& request)
+int hostextras::post(UiProxy&, const OdString& name, const OdRxObjectPtr& request)
 {
     if (text(name) != "proxyRequest")
         host().fault("posts " + text(name));
@@ -264,8 +263,6 @@ int post(UiProxy&, const OdString& name, const OdRxObjectPtr& request)
         Qt::BlockingQueuedConnection);
     return -5018;
 }
-
-} // namespace hostextras
 
 namespace otherhost {
 
@@ -383,16 +380,15 @@ void OtherHost::checkRequest(const vnsi::IElementValueBase& tree)
         if (left && left->valueOr(true))
             fault(name + " leaves an earlier " + key);
     }
-    if (*request->inList)
-        checkRecords(
-            memberOf(tree, wordsOf(request->inList)[0]), wordsOf(request->inList)[1], name);
+    const QStringList inList = wordsOf(request->inList);
+    if (!inList.isEmpty())
+        checkRecords(memberOf(tree, inList[0]), inList[1], name);
 }
 
 /// Checks that each record of a list has the key.
 void OtherHost::checkRecords(const vnsi::VnJsonPtr& list, const QString& key, const QString& name)
 {
-    for (int i = 0; list && i < list.ArrayCount(); ++i) {
-        const vnsi::VnJsonPtr record = list(i);
+    for (const vnsi::VnJsonPtr& record : list ? list->elements : std::vector<vnsi::VnJsonPtr>()) {
         if (record && record->form == vnsi::IElementValueBase::Form::Object &&
             !memberOf(*record, key))
             fault(name + " has a record without " + key);

@@ -52,25 +52,10 @@ Change changing(const char* key, std::function<VnJsonPtr(const VnJsonPtr& member
     };
 }
 
-VnJsonPtr replaced(const VnJsonPtr& member)
-{
-    return member->copy();
-}
-
 VnJsonPtr emptied(const VnJsonPtr& member)
 {
     member->clear();
     return member;
-}
-
-VnJsonPtr removed(const VnJsonPtr&)
-{
-    return {};
-}
-
-VnJsonPtr madeNumber(const VnJsonPtr&)
-{
-    return hostextras::scalarOf(1 << 30);
 }
 
 VnJsonPtr filledWithOthers(const VnJsonPtr& member)
@@ -207,8 +192,10 @@ std::vector<Mischief> makeMischiefs()
     {
         const char* name;
         VnJsonPtr (*change)(const VnJsonPtr&);
-    } kChanges[] = {{"replaces", replaced}, {"empties", emptied}, {"removes", removed},
-        {"makes a number of", madeNumber}, {"fills with others", filledWithOthers},
+    } kChanges[] = {{"replaces", [](const VnJsonPtr& member) { return member->copy(); }},
+        {"removes", [](const VnJsonPtr&) { return VnJsonPtr(); }},
+        {"makes a number of", [](const VnJsonPtr&) { return hostextras::scalarOf(1 << 30); }},
+        {"empties", emptied}, {"fills with others", filledWithOthers},
         {"shares one list as", sharedList}};
     static std::vector<std::string> names; // The rows point to these texts.
     names.reserve(32);

@@ -2,8 +2,6 @@
 #include "platformextras.h"
 #include "rows.h"
 
-#include <QtTest>
-
 class TestLoader : public QObject
 {
     Q_OBJECT
@@ -34,5 +32,4 @@ private slots:
 };
 
 QTEST_APPLESS_MAIN(TestLoader)
-
 #include "tst_loader.moc"

@@ -2,8 +2,6 @@
 #include "RxObjectImpl.h"
 #include "rows.h"
 
-#include <QtTest>
-
 #include <cstdlib>
 #include <new>
 
@@ -85,5 +83,4 @@ private slots:
 };
 
 QTEST_APPLESS_MAIN(TestMemory)
-
 #include "tst_memory.moc"

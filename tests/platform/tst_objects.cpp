@@ -96,5 +96,4 @@ private slots:
 };
 
 QTEST_APPLESS_MAIN(TestObjects)
-
 #include "tst_objects.moc"
