@@ -24,7 +24,7 @@ class Family
 public:
     explicit Family(const PatternLine& pattern) : m_pattern(pattern)
     {
-        const double angle = pattern.angle * kPi / 180;
+        const double angle = pattern.angle * kDegree;
         m_direction = {std::cos(angle), std::sin(angle), 0};
         m_spacing = m_direction.x * pattern.offset.y - m_direction.y * pattern.offset.x;
         m_shift = m_direction.x * pattern.offset.x + m_direction.y * pattern.offset.y;

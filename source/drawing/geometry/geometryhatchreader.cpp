@@ -79,10 +79,10 @@ void HatchReader::takeEdge(const Tag& tag)
         return;
     }
     case 50:
-        m_edge.start = tag.real() * kPi / 180;
+        m_edge.start = tag.real() * kDegree;
         return;
     case 51:
-        m_edge.end = tag.real() * kPi / 180;
+        m_edge.end = tag.real() * kDegree;
         return;
     default:
         takeSpline(tag);

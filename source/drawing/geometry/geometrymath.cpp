@@ -53,10 +53,15 @@ Transform3 Transform3::scaling(const Vec3& factors)
 
 Transform3 Transform3::rotation(double degrees)
 {
-    const double angle = degrees * kPi / 180;
+    const double angle = degrees * kDegree;
     const double c = std::cos(angle);
     const double s = std::sin(angle);
     return {{c, s, 0}, {-s, c, 0}, {0, 0, 1}, {}};
+}
+
+Transform3 Transform3::turnedAt(const Vec3& origin, double degrees)
+{
+    return translation(origin) * rotation(degrees);
 }
 
 bool Transform3::isFinite() const

@@ -9,6 +9,7 @@
 namespace drawing {
 
 constexpr double kPi = 3.14159265358979323846;
+constexpr double kDegree = kPi / 180; ///< In radians.
 
 /// A point or a direction in drawing units.
 struct Vec3
@@ -55,6 +56,8 @@ public:
     static Transform3 translation(const Vec3& by);
     static Transform3 scaling(const Vec3& factors);
     static Transform3 rotation(double degrees); ///< About the z axis.
+    /// Rotates about the z axis and moves the origin to `origin`.
+    static Transform3 turnedAt(const Vec3& origin, double degrees);
 
     Vec3 map(const Vec3& point) const { return mapDirection(point) + m_origin; }
     Vec3 mapDirection(const Vec3& direction) const

@@ -7,6 +7,9 @@
 
 namespace drawing {
 
+/// The default distance of lines of text, in text heights.
+constexpr double kLineDistance = 5.0 / 3;
+
 /// The text that a TEXT shows. The `%%` codes are resolved (degree, plus-minus, diameter,
 /// characters by number); switches for underlining are removed.
 QString plainText(const QString& text);

@@ -11,7 +11,6 @@ namespace {
 
 /// Elements with a smaller average length cannot be distinguished.
 constexpr double kFinestElement = 1;
-constexpr double kDegree = M_PI / 180;
 
 double lengthOf(const QPointF& way)
 {
@@ -115,7 +114,7 @@ void LineDasher::take(const LinetypePattern::Element& element, double at, double
     const QPointF aside(m_way.y(), -m_way.x()); // To the left of the line.
     letters.push_back(
         {element.text, pointAt(end + element.along * m_unit) + aside * (element.across * m_unit),
-            turned - element.rotation * kDegree, element.height * m_unit});
+            turned - element.rotation * drawing::kDegree, element.height * m_unit});
 }
 
 /// Adds a piece of a dash, and joins it to the previous piece if that ended here.
