@@ -162,6 +162,16 @@ private slots:
         QCOMPARE(MainWindow().findChild<QAction*>("SAVE")->toolTip(), "保存 (SAVE)");
     }
 
+    void widthsKeptInChineseSuitEnglish()
+    {
+        LanguageMenu::useLanguage(QStringLiteral("zh"));
+        std::make_unique<MainWindow>().reset();
+        LanguageMenu::useLanguage(QStringLiteral("en"));
+        MainWindow english;
+        english.show();
+        QCOMPARE(cutOff(english).join('|'), QString());
+    }
+
 private:
     const OwnSettings m_settings;
     ModuleFixture m_module;

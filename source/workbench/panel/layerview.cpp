@@ -14,9 +14,10 @@ using drawing::LayerId;
 namespace {
 
 const char kHeaderKey[] = "panel/header";
+const char kTitlesKey[] = "panel/headerTitles";
 const char kHiddenKey[] = "panel/hiddenColumns";
 constexpr int kRowSpace = 6;
-constexpr int kHeaderSpace = 8;
+constexpr int kHeaderSpace = 12;
 
 /// A selection of these rows with as few ranges as possible.
 QItemSelection selectionOf(const std::vector<int>& rows, const QAbstractItemModel& model)
@@ -31,6 +32,15 @@ QItemSelection selectionOf(const std::vector<int>& rows, const QAbstractItemMode
         i = end;
     }
     return selection;
+}
+
+/// The titles of all columns, as shown in the present language.
+QStringList titles()
+{
+    QStringList titles;
+    for (int column = 0; column < LayerColumns::count(); ++column)
+        titles += LayerColumns::at(column).displayTitle();
+    return titles;
 }
 
 } // namespace
@@ -61,10 +71,7 @@ LayerView::LayerView(LayerModel* model, QWidget* parent) : QTableView(parent), m
     head->setMinimumSectionSize(24);
     head->setContextMenuPolicy(Qt::CustomContextMenu);
     for (int column = 0; column < LayerColumns::count(); ++column)
-        setColumnWidth(
-            column, std::max(LayerColumns::at(column).width,
-                        fontMetrics().horizontalAdvance(LayerColumns::at(column).displayTitle()) +
-                            kHeaderSpace));
+        widen(column, LayerColumns::at(column).width);
     head->setSortIndicator(model->sortColumn(), model->sortDirection());
     setSortingEnabled(true);
     applyHidden();
@@ -266,10 +273,31 @@ void LayerView::applyHidden()
     }
 }
 
+/// Makes a column so wide, and at least as wide as its title.
+void LayerView::widen(int column, int width)
+{
+    const int title = horizontalHeader()->fontMetrics().horizontalAdvance(
+        LayerColumns::at(column).displayTitle());
+    setColumnWidth(column, std::max(width, title + kHeaderSpace));
+}
+
+/// A width that was kept in another language may be too small for the title in this one.
+void LayerView::restoreWidths(const QSettings& settings)
+{
+    horizontalHeader()->restoreState(settings.value(QLatin1String(kHeaderKey)).toByteArray());
+    const QStringList kept = settings.value(QLatin1String(kTitlesKey)).toStringList();
+    const QStringList shown = titles();
+    for (int column = 0; column < shown.size(); ++column) {
+        setColumnHidden(column, false); // A hidden column does not tell its width.
+        if (kept.value(column) != shown[column])
+            widen(column, columnWidth(column));
+    }
+}
+
 void LayerView::loadState()
 {
     const QSettings settings;
-    horizontalHeader()->restoreState(settings.value(QLatin1String(kHeaderKey)).toByteArray());
+    restoreWidths(settings);
     m_hidden = settings.value(QLatin1String(kHiddenKey)).toStringList();
     applyHidden();
     sortByColumn(
@@ -280,5 +308,6 @@ void LayerView::saveState() const
 {
     QSettings settings;
     settings.setValue(QLatin1String(kHeaderKey), horizontalHeader()->saveState());
+    settings.setValue(QLatin1String(kTitlesKey), titles());
     settings.setValue(QLatin1String(kHiddenKey), m_hidden);
 }

@@ -4,6 +4,8 @@
 
 #include <QTableView>
 
+class QSettings;
+
 /// The table of the layer panel. A click on a flag switches it, for all selected layers if the
 /// clicked one is selected. F2 renames, Space switches flags, a column header sorts, and its menu
 /// chooses the columns. The selection survives a change of the rows.
@@ -53,6 +55,8 @@ private:
     void restoreSelection();
     void showColumnMenu(const QPoint& at);
     void applyHidden();
+    void widen(int column, int width);
+    void restoreWidths(const QSettings& settings);
 
     LayerModel* m_model;
     QStringList m_hidden; ///< The keys of the columns that the user has hidden.
