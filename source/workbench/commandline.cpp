@@ -70,6 +70,9 @@ QString CommandLine::echo() const
 void CommandLine::enter()
 {
     const QString word = m_input->text().trimmed();
+    // A command may pick on the canvas, over which the list must not stay.
+    if (QCompleter* const completer = m_input->completer())
+        completer->popup()->hide();
     m_input->clear();
     m_shown = m_history.size();
     if (word.isEmpty())

@@ -115,9 +115,15 @@ private slots:
 
     void completionOffersButDoesNotChoose()
     {
-        QSignalSpy entered(m_window->findChild<CommandLine*>(), &CommandLine::entered);
+        const auto* const line = m_window->findChild<CommandLine*>();
+        QSignalSpy entered(line, &CommandLine::entered);
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QTest::keyClicks(input(), "layer");
         QCompleter* const completer = input()->completer();
+        QVERIFY(completer->popup()->isVisible());
+        // A command that picks on the canvas runs while the key is still being handled.
+        connect(line, &CommandLine::entered, completer,
+            [completer] { QVERIFY(!completer->popup()->isVisible()); });
         QStringList offered;
         for (int i = 0; completer->setCurrentRow(i); ++i)
             offered.append(completer->currentCompletion());
