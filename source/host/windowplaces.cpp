@@ -37,6 +37,18 @@ QRect keptPlace(const QDialog& dialog)
     return {values[0], values[1], values[2], values[3]};
 }
 
+/// In the middle of the window that the dialog belongs to, unless its owner has placed it.
+QRect firstPlace(const QDialog& dialog)
+{
+    QRect place = dialog.geometry();
+    if (dialog.testAttribute(Qt::WA_Moved))
+        return place;
+    const QWidget* const parent = dialog.parentWidget();
+    place.moveCenter(parent ? parent->window()->geometry().center()
+                            : QGuiApplication::primaryScreen()->availableGeometry().center());
+    return place;
+}
+
 /// What a window manager draws around a window; known only of windows that it has drawn already.
 QMargins frameOf(const QDialog& dialog)
 {
@@ -89,7 +101,7 @@ bool WindowPlaces::eventFilter(QObject* watched, QEvent* event)
 void WindowPlaces::restore(QDialog& dialog)
 {
     const QRect kept = isKept(dialog) ? keptPlace(dialog) : QRect();
-    QRect wanted = kept.isEmpty() ? dialog.geometry() : kept;
+    QRect wanted = kept.isEmpty() ? firstPlace(dialog) : kept;
     wanted.setSize(wanted.size().expandedTo(dialog.minimumSizeHint())); // Its texts may have grown.
     const QRect space = screenOf(wanted).availableGeometry().marginsRemoved(frameOf(dialog));
     const QRect fitting = within(space, wanted);
