@@ -285,7 +285,7 @@ private slots:
     void deletedSeveral()
     {
         QFETCH(QList<int>, answers);
-        openManager({0, 1, 3});
+        auto& table = openManager({0, 1, 3});
         QStringList sent;
         m_invoker->setAnswer([&](const VnJsonPtr& node) {
             sent +=
@@ -295,7 +295,8 @@ private slots:
         });
         for (const int answer : answers)
             m_host->answer(answer);
-        press("deleteButton");
+        QVERIFY(QTest::qWaitForWindowActive(table.window()));
+        QTest::keyClick(&table, Qt::Key_Delete);
         QCOMPARE(log().first(), "messageEx|图层 - 删除图层状态|是否确实要删除图层状态 A?|6|1|64|是|"
                                 "全部删除|否|取消");
         QTEST(sent.join(','), "sent");
