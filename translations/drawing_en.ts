@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>图层“%1”上有 %2 个对象，不能删除。</source>
-        <translation>Layer “%1” cannot be deleted: it holds %2 entities.</translation>
+        <translation>Layer “%1” cannot be deleted; entities on it: %2.</translation>
     </message>
     <message>
         <source>此图形的格式不能保存视口中的图层特性</source>

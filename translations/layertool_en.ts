@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>字段“%1”应为 %2 个字符，“%3”不是。</source>
-        <translation>the field “%1” must have %2 characters, which “%3” has not.</translation>
+        <translation>the field “%1” must have %2 characters, unlike “%3”.</translation>
     </message>
     <message>
         <source>字段“%1”的长度不对：“%2”。</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>字段“%1”的写法不对：“%2”。</source>
-        <translation>the field “%1” is not written like that: “%2”.</translation>
+        <translation>the field “%1” cannot be “%2”.</translation>
     </message>
     <message>
         <source>缺少字段“%1”。</source>
@@ -301,7 +301,7 @@ See layertool help.
     </message>
     <message>
         <source>处理它的进程意外结束。</source>
-        <translation>The process that worked on it was brought down.</translation>
+        <translation>The process that worked on it ended unexpectedly.</translation>
     </message>
     <message>
         <source>不能启动处理它的进程：%1。</source>
@@ -405,7 +405,7 @@ See layertool help.
     </message>
     <message>
         <source>因中断未处理</source>
-        <translation>Left by an interruption</translation>
+        <translation>Not reached</translation>
     </message>
     <message>
         <source>无法写入报告“%1”：%2。</source>
@@ -869,7 +869,7 @@ See layertool help.
     </message>
     <message>
         <source>一个图层的旧名；与 --to 一起给出。</source>
-        <translation>The name of a layer; goes with --to.</translation>
+        <translation>The present name of a layer; goes with --to.</translation>
     </message>
     <message>
         <source>它的新名。</source>

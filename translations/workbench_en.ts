@@ -40,11 +40,11 @@
     </message>
     <message>
         <source>已打开 %1: %2 个图层, %3 个对象</source>
-        <translation>Opened %1: %2 layers, %3 objects</translation>
+        <translation>Opened %1 (layers: %2, objects: %3)</translation>
     </message>
     <message>
         <source>已取消。</source>
-        <translation>Cancelled.</translation>
+        <translation>Canceled.</translation>
     </message>
 </context>
 <context>
@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>%1 个图层</source>
-        <translation>%1 layers</translation>
+        <translation>Layers: %1</translation>
     </message>
     <message>
         <source>不了解此过滤器，原样保留：%1</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>隔离时锁定并淡显其他图层</source>
-        <translation>Isolating Locks and Fades Other Layers</translation>
+        <translation>Lock and Fade Other Layers When Isolating</translation>
     </message>
     <message>
         <source>新建图层</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>%1 个图层</source>
-        <translation>%1 layers</translation>
+        <translation>Layers: %1</translation>
     </message>
     <message>
         <source>已选择 %1 个对象</source>
@@ -677,7 +677,7 @@
     </message>
     <message>
         <source>此图形没有图层 %1，状态中的这些图层没有输入。</source>
-        <translation>This drawing does not have the layers %1; what the state says of them was not imported.</translation>
+        <translation>This drawing lacks these layers of the state, which were not imported: %1.</translation>
     </message>
     <message>
         <source>全部打开</source>
@@ -1021,11 +1021,11 @@ That file exists and will be replaced.</translation>
 可以打开中断处之前完整的部分；它只能另存为其他文件。</source>
         <translation>%1
 
-The part before the break is whole and can be opened; it can only be saved to another file.</translation>
+The part before the break is intact and can be opened; it can only be saved to another file.</translation>
     </message>
     <message>
         <source>打开完整的部分</source>
-        <translation>Open the Whole Part</translation>
+        <translation>Open the Intact Part</translation>
     </message>
     <message>
         <source>命令“%1”出错，它所做的更改已撤回。
@@ -1341,7 +1341,7 @@ See --help for the usage.
     </message>
     <message>
         <source>%1中有 %2 个%3</source>
-        <translation>%1: %2 of %3</translation>
+        <translation>%1: %3 (%2)</translation>
     </message>
     <message>
         <source>共有 %1 个对象</source>
@@ -1361,7 +1361,7 @@ See --help for the usage.
     </message>
     <message>
         <source>--%1 没有“%2”；可用 %3。</source>
-        <translation>--%1 knows no “%2”; there are %3.</translation>
+        <translation>--%1: there is no “%2”; choose one of %3.</translation>
     </message>
     <message>
         <source>显示的语言: %1；不给时依菜单中的选择，再依区域设置。</source>
