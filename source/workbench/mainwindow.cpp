@@ -300,7 +300,7 @@ void MainWindow::setFile(std::shared_ptr<drawing::Drawing> drawing)
 
 void MainWindow::showDrawing()
 {
-    connect(drawing(), &drawing::Drawing::layersChanged, this, &MainWindow::showLayers);
+    connect(drawing(), &drawing::Drawing::layersChanged, this, &MainWindow::followLayers);
     connect(drawing(), &drawing::Drawing::modifiedChanged, this, &MainWindow::updateState);
     m_panel->setDrawing(drawing());
     drawing()->setBreak([this] { rest(); });
@@ -355,6 +355,17 @@ void MainWindow::keepViewportView(const drawing::SheetViewport& viewport)
     drawing::DrawingStep step(*drawing(), tr("移动视口中的视图"));
     if (drawing()->setViewportView(viewport.entity, viewport.view))
         step.commit();
+}
+
+/// The panel follows as well. With very many layers each of the two takes a moment, between which
+/// windows are painted.
+void MainWindow::followLayers()
+{
+    if (m_commandRunning)
+        rest();
+    showLayers();
+    if (m_commandRunning)
+        rest();
 }
 
 void MainWindow::showLayers()
@@ -503,7 +514,7 @@ void MainWindow::showOnly(const std::vector<drawing::LayerId>& ids)
         layer.properties.frozen = false;
     }
     m_showsOnly = true;
-    m_canvas->setLayers(layers);
+    m_canvas->setLayers(std::move(layers));
 }
 
 /// Entities that were hidden meanwhile have lost their selection, which is restored here.
@@ -529,9 +540,9 @@ std::vector<int> MainWindow::pick()
 std::vector<int> MainWindow::pickAnything()
 {
     std::optional<drawing::Sheet> sheet = drawing()->sheet();
-    const auto layers = withHiddenFaded(drawing()->layers(), sheet ? &*sheet : nullptr);
+    auto layers = withHiddenFaded(drawing()->layers(), sheet ? &*sheet : nullptr);
     showSheet(std::move(sheet));
-    m_canvas->setLayers(layers);
+    m_canvas->setLayers(std::move(layers));
     std::vector<int> picked = pick();
     showLayers();
     return picked;

@@ -91,6 +91,7 @@ private:
     int shownSpace() const;
     void enterViewport(int entity);
     void keepViewportView(const drawing::SheetViewport& viewport);
+    void followLayers();
     void showLayers();
     void showEntities(const std::vector<int>& entities, bool intoView);
     void reportRefusals(QStringList sentences);

@@ -52,9 +52,9 @@ Canvas::Canvas(QWidget* parent)
 
 Canvas::~Canvas() = default;
 
-void Canvas::setLayers(const std::vector<drawing::Layer>& layers)
+void Canvas::setLayers(std::vector<drawing::Layer> layers)
 {
-    m_layers = layers;
+    m_layers = std::move(layers);
     updateLooks();
 }
 

@@ -4,8 +4,6 @@
 #include "layers/colorindex.h"
 #include "layers/layermask.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <deque>
 
@@ -32,9 +30,12 @@ public:
           m_foreground(source.isDark ? Qt::white : Qt::black),
           m_isThroughViewports(source.viewport != nullptr)
     {
-        m_layers.reserve(static_cast<int>(source.layers.size()));
-        for (const Layer& layer : source.layers)
-            m_layers.insert(static_cast<int>(layer.id), &layer);
+        for (const Layer& layer : source.layers) {
+            const auto at = static_cast<std::size_t>(layer.id);
+            if (at >= m_layers.size())
+                m_layers.resize(std::max(at + 1, source.layers.size()));
+            m_layers[at] = &layer;
+        }
         if (source.viewport)
             overrideIn(*source.viewport);
     }
@@ -71,7 +72,7 @@ private:
             if (!layer)
                 return nullptr;
             m_overridden.push_back(*layer);
-            m_layers[static_cast<int>(id)] = &m_overridden.back();
+            m_layers[static_cast<std::size_t>(id)] = &m_overridden.back();
             return &m_overridden.back().properties;
         };
         for (const drawing::LayerInViewport& layer : viewport.overridden) {
@@ -85,7 +86,11 @@ private:
         }
     }
 
-    const Layer* find(LayerId id) const { return m_layers.value(static_cast<int>(id)); }
+    const Layer* find(LayerId id) const
+    {
+        const auto at = static_cast<std::size_t>(static_cast<int>(id));
+        return id != LayerId::None && at < m_layers.size() ? m_layers[at] : nullptr;
+    }
 
     int settingOf(const GeometrySetting& setting, int LayerProperties::*property) const
     {
@@ -127,8 +132,8 @@ private:
                                            : ofIndex(layer->properties.colorIndex);
     }
 
-    QHash<int, const Layer*> m_layers;
-    std::deque<Layer> m_overridden; ///< A deque keeps pointers to its elements valid.
+    std::vector<const Layer*> m_layers; ///< By id; null for ids without a layer.
+    std::deque<Layer> m_overridden;     ///< A deque keeps pointers to its elements valid.
     const LinetypePatterns& m_ownLinetypes;
     const LinetypePatterns& m_layerLinetypes;
     QColor m_foreground;

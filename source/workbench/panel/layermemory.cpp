@@ -15,25 +15,15 @@ namespace {
 constexpr size_t kMostSteps = 100;
 constexpr int kFaded = 75; ///< The minimum transparency in percent.
 
-bool isLess(const Layer& a, const Layer& b)
-{
-    return a.id < b.id;
-}
-
-std::vector<Layer> layersById(const Drawing& drawing)
-{
-    std::vector<Layer> layers = drawing.layers();
-    if (!std::is_sorted(layers.begin(), layers.end(), isLess))
-        std::sort(layers.begin(), layers.end(), isLess);
-    return layers;
-}
-
 /// Whether two layers differ at most in their names.
-bool isSameButName(LayerProperties a, const LayerProperties& b)
+bool isSameButName(const LayerProperties& a, const LayerProperties& b)
 {
-    a.name = b.name;
-    a.plotStyle = b.plotStyle; // It follows from the colour.
-    return a == b;
+    if (a == b)
+        return true;
+    LayerProperties renamed = a;
+    renamed.name = b.name;
+    renamed.plotStyle = b.plotStyle; // It follows from the colour.
+    return renamed == b;
 }
 
 void fade(LayerProperties& properties)
@@ -49,27 +39,26 @@ void LayerHistory::setDrawing(Drawing* drawing)
         m_drawing->disconnect(this);
     m_drawing = drawing;
     m_steps.clear();
-    m_layers.clear();
+    m_layers.follow(m_drawing);
     if (!m_drawing)
         return;
-    m_layers = layersById(*m_drawing);
     m_current = m_drawing->currentLayer();
     connect(m_drawing, &Drawing::layersChanged, this, &LayerHistory::follow);
 }
 
-LayerHistory::Step LayerHistory::stepTo(const std::vector<Layer>& now) const
+LayerHistory::Step LayerHistory::stepToPresent() const
 {
     Step step;
     step.currentBefore = m_current;
     step.currentAfter = m_drawing->currentLayer();
-    auto old = m_layers.begin();
-    for (const Layer& layer : now) {
-        while (old != m_layers.end() && old->id < layer.id)
-            ++old;
-        const bool isKnown = old != m_layers.end() && old->id == layer.id;
-        if (isKnown && !isSameButName(old->properties, layer.properties))
-            step.changes.push_back({old->properties, layer.properties, layer.id});
+    for (const Layer& layer : m_drawing->layers()) {
+        const int at = m_layers.find(layer.id);
+        if (at >= 0 && !isSameButName(m_layers[at].properties, layer.properties))
+            step.changes.push_back({m_layers[at].properties, layer.properties, layer.id});
     }
+    // The order of the layers in the drawing may change.
+    std::sort(step.changes.begin(), step.changes.end(),
+        [](const Change& a, const Change& b) { return a.layer < b.layer; });
     return step;
 }
 
@@ -85,9 +74,8 @@ bool LayerHistory::isReverse(const Step& a, const Step& b)
 
 void LayerHistory::follow()
 {
-    std::vector<Layer> now = layersById(*m_drawing);
-    Step step = stepTo(now);
-    m_layers = std::move(now);
+    Step step = stepToPresent();
+    m_layers.follow(m_drawing);
     m_current = step.currentAfter;
     if (step.changes.empty() && step.currentBefore == step.currentAfter)
         return;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drawing.h"
+#include "layersnapshot.h"
 
 #include <QObject>
 #include <QPointer>
@@ -38,11 +38,11 @@ private:
     };
 
     void follow();
-    Step stepTo(const std::vector<drawing::Layer>& now) const;
+    Step stepToPresent() const;
     static bool isReverse(const Step& a, const Step& b);
 
     QPointer<drawing::Drawing> m_drawing;
-    std::vector<drawing::Layer> m_layers; ///< The last known state.
+    LayerSnapshot m_layers; ///< The last known state.
     drawing::LayerId m_current = drawing::LayerId::None;
     std::vector<Step> m_steps;
 };

@@ -96,20 +96,19 @@ void LayerModel::publish()
         emit settled();
 }
 
-/// Takes a new snapshot. Rows are positions in the snapshot, so they may have to be replaced.
+/// Rows are positions in the snapshot. When the list of layers changes, they are replaced.
 void LayerModel::follow()
 {
-    LayerSnapshot now(m_drawing);
-    const LayerSnapshot::Differences found = now.differencesFrom(m_layers);
-    if (found & LayerSnapshot::List) {
+    const bool isNewList = !m_layers.hasListOf(m_drawing);
+    if (isNewList) {
         emit rowsAboutToChange();
         beginResetModel();
         m_rows.clear();
-        m_layers = std::move(now);
+    }
+    const LayerSnapshot::Differences found = m_layers.follow(m_drawing);
+    if (isNewList) {
         endResetModel();
         m_rowsAreGone = true;
-    } else {
-        m_layers = std::move(now);
     }
     const bool sortsTexts = LayerColumns::at(m_sortColumn).kind == LayerColumn::Text;
     const auto decides = sortsTexts ? LayerSnapshot::Names : LayerSnapshot::Values;
