@@ -602,7 +602,9 @@ void MainWindow::saveAs()
     const vnsi::VnJsonPtr keys = vnsi::ElementValue::createObject(4);
     keys->SetDataSW("title", vnsi::vnutQStringToOdString(tr("图形另存为")));
     keys->SetDataSW("filter", vnsi::vnutQStringToOdString(fileFilter()));
-    keys->SetDataSW("dir", vnsi::vnutQStringToOdString(drawing()->path()));
+    // A relative path would be taken for a mere name in whatever folder the dialog begins.
+    const QString present = QFileInfo(drawing()->path()).absoluteFilePath();
+    keys->SetDataSW("dir", vnsi::vnutQStringToOdString(present));
     keys->SetDataB("Open", false);
     const vnsi::VnJsonPtr answer =
         vnsi::vnuiShowModelDialogEx(L"Dialog/Common", L"FileDialogBox", keys, {}, this);
