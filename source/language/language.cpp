@@ -38,7 +38,7 @@ void use(const QString& code, const QStringList& libraries)
         if (translator->load(name, folder) && QCoreApplication::installTranslator(translator.get()))
             translators.push_back(std::move(translator));
     };
-    const QString chosen = code.isEmpty() ? ofLocale() : code;
+    const QString chosen = isKnown(code) ? code : ofLocale();
     const QString ofQt = chosen == QLatin1String("zh") ? QStringLiteral("zh_CN") : chosen;
     install(
         QStringLiteral("qtbase_") + ofQt, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
