@@ -1231,5 +1231,9 @@ See layertool help.
         <source>读取它的程序已经结束</source>
         <translation>the program that read it has ended</translation>
     </message>
+    <message>
+        <source>图层数</source>
+        <translation>Layers</translation>
+    </message>
 </context>
 </TS>

@@ -96,7 +96,7 @@ Expected<void> StatesVerb::prepare(const Arguments& arguments)
 std::vector<Column> StatesVerb::columns() const
 {
     return {{"state", QT_TRANSLATE_NOOP("layertool", "图层状态")},
-        {"layers", QT_TRANSLATE_NOOP("layertool", "图层")},
+        {"layers", QT_TRANSLATE_NOOP("layertool", "图层数")},
         {"mask", QT_TRANSLATE_NOOP("layertool", "恢复掩码")},
         {"current-layer", QT_TRANSLATE_NOOP("layertool", "当前图层")},
         {"same-as-drawing", QT_TRANSLATE_NOOP("layertool", "与图形相同")},
