@@ -40,10 +40,6 @@
         <translation>Drawing (*.dwg);;Standards (*.dws);;Drawing template (*.dwt);;Layer state (*.las)</translation>
     </message>
     <message>
-        <source>是否确实要删除 %1?</source>
-        <translation>Are you sure you want to delete %1?</translation>
-    </message>
-    <message>
         <source>
 名称 包含不支持的字符。
 
@@ -1197,6 +1193,10 @@ Enter another name.</translation>
     <message>
         <source>输出图层状态</source>
         <translation>Export Layer State</translation>
+    </message>
+    <message>
+        <source>是否确实要删除 %1?</source>
+        <translation>Are you sure you want to delete %1?</translation>
     </message>
 </context>
 <context>

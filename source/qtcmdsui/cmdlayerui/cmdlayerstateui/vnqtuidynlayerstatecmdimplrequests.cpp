@@ -179,7 +179,8 @@ void VnQtUiDynLayerStateCmdImpl::slot_DeleteBtnClicked(bool)
 
 void VnQtUiDynLayerStateCmdImpl::deleteOne(const QString& name)
 {
-    if (answersYes(Texts::tr(kDeleteCaption), tr("是否确实要删除 %1?").arg(name)))
+    const QString question = tr("是否确实要删除 %1?").arg(name);
+    if (answersYes(Texts::tr(kDeleteCaption), question))
         sendDeletion(name);
 }
 
