@@ -25,6 +25,14 @@ constexpr const char* kHeaders[] = {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerState
 constexpr int kTableWidth = 360;
 constexpr int kHeaderMargin = 10;
 
+/// How wide a column is at least: in pixels, and in characters where the font is a large one.
+struct ColumnWidth
+{
+    int pixels;
+    int characters;
+};
+constexpr ColumnWidth kColumnWidths[] = {{90, 12}, {66, 9}, {66, 9}, {0, 0}};
+
 struct MaskRow
 {
     const char* text;
@@ -85,11 +93,9 @@ QWidget* VnQtUiDynLayerStateCmdImpl::makeListPanel()
     auto* panel = new QWidget(this);
     m_table = new QTableWidget(panel);
     m_table->setObjectName(QStringLiteral("stateTable"));
-    m_table->setFixedWidth(kTableWidth);
     // By a key of its own: the table would take it for a search by typing.
     m_deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), this);
     m_deleteKey->setAutoRepeat(false);
-    m_referenceBox = makeCheckBox(QT_TR_NOOP("不列出外部参照中的图层状态(&F)"), "referenceBox");
     m_statusLabel = new QLabel(tr("当前图层状态: *未保存*"), panel);
     m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
     m_statusLabel->setTextFormat(Qt::PlainText);
@@ -102,6 +108,8 @@ QWidget* VnQtUiDynLayerStateCmdImpl::makeListPanel()
     grid->addWidget(label, 0, 0);
     grid->addWidget(m_table, 1, 0);
     grid->addLayout(makeButtonColumn(), 1, 1);
+    // After the buttons, which Tab reaches before it.
+    m_referenceBox = makeCheckBox(QT_TR_NOOP("不列出外部参照中的图层状态(&F)"), "referenceBox");
     grid->addWidget(m_referenceBox, 2, 0);
     grid->addWidget(makeRestoreOptions(), 3, 0);
     grid->addWidget(m_statusLabel, 4, 0);
@@ -197,17 +205,16 @@ void VnQtUiDynLayerStateCmdImpl::setUpTable()
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setSectionResizeMode(kDescriptionColumn, QHeaderView::Stretch);
-    int widths[] = {90, 66, 66, 0};
-    int room = kTableWidth - 2 * m_table->frameWidth();
-    for (int column = kColumnCount - 1; column > kNameColumn; --column) {
-        const int title = m_table->fontMetrics().horizontalAdvance(headers.at(column));
-        widths[column] = std::max(widths[column], title + kHeaderMargin);
-        room -= widths[column];
+    const QFontMetrics metrics = m_table->fontMetrics();
+    int width = 2 * m_table->frameWidth();
+    for (int column = 0; column < kColumnCount; ++column) {
+        const ColumnWidth& least = kColumnWidths[column];
+        const int needed = std::max({least.pixels, least.characters * metrics.averageCharWidth(),
+            metrics.horizontalAdvance(headers.at(column)) + kHeaderMargin});
+        m_table->setColumnWidth(column, needed);
+        width += needed;
     }
-    // What other languages need for their headers, the names give.
-    widths[kNameColumn] = std::min(widths[kNameColumn], room);
-    for (int column = 0; column < kDescriptionColumn; ++column)
-        m_table->setColumnWidth(column, widths[column]);
+    m_table->setFixedWidth(std::max(kTableWidth, width));
 }
 
 void VnQtUiDynLayerStateCmdImpl::connectWidgets()
