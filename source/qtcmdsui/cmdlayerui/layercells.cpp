@@ -170,8 +170,7 @@ void LayerCellDelegate::paint(
     const QRect iconPlace = QStyle::alignedRect(
         cell.direction, Qt::AlignLeft | Qt::AlignVCenter, QSize(iconWidth, place.height()), place);
     const bool isSwatch = !text.isEmpty(); // No other cell has both in its middle.
-    icon.paint(painter, iconPlace, Qt::AlignCenter,
-        isSelected && !isSwatch ? QIcon::Selected : QIcon::Normal);
+    icon.paint(painter, iconPlace);
     if (isSwatch)
         frameSwatch(*painter, iconPlace);
     style->drawItemText(painter, place,
@@ -194,10 +193,14 @@ const LayerCells::Look& LayerCells::iconLook(LayerIcon icon)
     const auto index = static_cast<std::size_t>(icon);
     const IconRow& row = kIcons[index];
     Look& made = m_icons[index];
-    if (!made)
-        made = makeLook(
-            QIcon(QStringLiteral(":/res/Resources/layer_%1.bmp").arg(QLatin1String(row.name))), {},
-            Texts::tr(row.meaning));
+    if (!made) {
+        const QString file =
+            QStringLiteral(":/res/Resources/layer_%1.bmp").arg(QLatin1String(row.name));
+        QIcon icon(file);
+        // Otherwise the style tints it in selected rows, where a green tick hardly shows on blue.
+        icon.addFile(file, {}, QIcon::Selected);
+        made = makeLook(icon, {}, Texts::tr(row.meaning));
+    }
     return made;
 }
 
