@@ -10,6 +10,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QTabWidget>
 #include <QThread>
 #include <QtTest>
 
@@ -103,6 +104,16 @@ private:
     void look(const QString& name, const QWidget& window)
     {
         m_seen += name;
+        auto* const pages = window.findChild<QTabWidget*>();
+        for (int page = 0; page < (pages ? pages->count() : 1); ++page) {
+            if (pages)
+                pages->setCurrentIndex(page);
+            lookAtPage(name, window);
+        }
+    }
+
+    void lookAtPage(const QString& name, const QWidget& window)
+    {
         QStringList faults = unnamedControls(window) + silentCells(window);
         // Their letters are agreed, and some stand twice among them.
         const bool isAgreed =
