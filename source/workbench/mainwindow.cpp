@@ -381,7 +381,11 @@ void MainWindow::showLayers()
     // A linetype may have been loaded meanwhile.
     m_canvas->setLinetypes(drawing::linetypePatterns(*drawing()));
     showSheet(drawing()->sheet());
-    m_canvas->setLayers(m_panel->memory()->isolation.shown(drawing()->layers()));
+    const LayerIsolation& isolation = m_panel->memory()->isolation;
+    if (isolation.fades())
+        m_canvas->setLayers(isolation.shown(drawing()->layers()));
+    else
+        m_canvas->setLayers(drawing()->layers());
     m_status->showLayers(drawing());
     updateState();
 }
@@ -514,7 +518,7 @@ void MainWindow::showOnly(const std::vector<drawing::LayerId>& ids)
         layer.properties.frozen = false;
     }
     m_showsOnly = true;
-    m_canvas->setLayers(std::move(layers));
+    m_canvas->setLayers(layers);
 }
 
 /// Entities that were hidden meanwhile have lost their selection, which is restored here.
@@ -540,9 +544,9 @@ std::vector<int> MainWindow::pick()
 std::vector<int> MainWindow::pickAnything()
 {
     std::optional<drawing::Sheet> sheet = drawing()->sheet();
-    auto layers = withHiddenFaded(drawing()->layers(), sheet ? &*sheet : nullptr);
+    const auto layers = withHiddenFaded(drawing()->layers(), sheet ? &*sheet : nullptr);
     showSheet(std::move(sheet));
-    m_canvas->setLayers(std::move(layers));
+    m_canvas->setLayers(layers);
     std::vector<int> picked = pick();
     showLayers();
     return picked;

@@ -1,6 +1,7 @@
 #include "layertable.h"
 
 #include "file/symbolname.h"
+#include "layercopies.h"
 
 #include <algorithm>
 #include <tuple>
@@ -119,11 +120,18 @@ const std::vector<Layer>& LayerTable::listed() const
 {
     if (m_isListed)
         return m_listed;
-    m_listed.clear();
+    // Most of them are as they were when they were last asked for.
+    size_t count = 0;
     for (const LayerEntry& entry : m_entries) {
-        if (entry.present)
+        if (!entry.present)
+            continue;
+        if (count == m_listed.size())
             m_listed.push_back(entry.layer);
+        else if (!isSame(m_listed[count], entry.layer))
+            m_listed[count] = entry.layer;
+        ++count;
     }
+    m_listed.resize(count);
     m_isListed = true;
     return m_listed;
 }

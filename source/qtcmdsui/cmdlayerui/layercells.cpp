@@ -196,10 +196,10 @@ const LayerCells::Look& LayerCells::iconLook(LayerIcon icon)
     if (!made) {
         const QString file =
             QStringLiteral(":/res/Resources/layer_%1.bmp").arg(QLatin1String(row.name));
-        QIcon icon(file);
+        QIcon plain(file);
         // Otherwise the style tints it in selected rows, where a green tick hardly shows on blue.
-        icon.addFile(file, {}, QIcon::Selected);
-        made = makeLook(icon, {}, Texts::tr(row.meaning));
+        plain.addFile(file, {}, QIcon::Selected);
+        made = makeLook(plain, {}, Texts::tr(row.meaning));
     }
     return made;
 }

@@ -4,6 +4,7 @@
 #include "canvashighlight.h"
 #include "canvaspick.h"
 #include "geometry/geometrytext.h"
+#include "layers/layercopies.h"
 #include "scenepainters.h"
 
 #include <QApplication>
@@ -52,9 +53,9 @@ Canvas::Canvas(QWidget* parent)
 
 Canvas::~Canvas() = default;
 
-void Canvas::setLayers(std::vector<drawing::Layer> layers)
+void Canvas::setLayers(const std::vector<drawing::Layer>& layers)
 {
-    m_layers = std::move(layers);
+    drawing::followLayers(m_layers, layers);
     updateLooks();
 }
 

@@ -35,7 +35,7 @@ public:
     /// still shown. For another drawing the caller must clear the selection.
     void setScene(Scene scene);
     /// Takes over the state of the layers and redraws.
-    void setLayers(std::vector<drawing::Layer> layers);
+    void setLayers(const std::vector<drawing::Layer>& layers);
 
     /// Sets where the layers' linetypes are looked up, beginning with the next `setLayers`; null
     /// means in the scene.

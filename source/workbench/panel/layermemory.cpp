@@ -145,7 +145,7 @@ QStringList LayerIsolation::restore(Drawing& drawing)
 
 std::vector<Layer> LayerIsolation::shown(std::vector<Layer> layers) const
 {
-    if (m_way != Way::LockAndFade || m_changed.empty())
+    if (!fades())
         return layers;
     for (Layer& layer : layers) {
         if (layer.properties.locked &&

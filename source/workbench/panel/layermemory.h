@@ -62,6 +62,8 @@ public:
     QStringList restore(drawing::Drawing& drawing);
     bool isActive() const { return !m_changed.empty(); }
     void forget() { *this = {}; } ///< Call this for another drawing.
+    /// Whether some layers are shown faded, see `shown`.
+    bool fades() const { return m_way == Way::LockAndFade && isActive(); }
     /// The layers as the canvas shows them: layers that isolation locked are faded.
     std::vector<drawing::Layer> shown(std::vector<drawing::Layer> layers) const;
 
