@@ -130,13 +130,19 @@ void StatusFields::showWork(const QString& what)
     m_bar->setValue(0);
     m_bar->show();
     m_cancel->show();
-    showMessage(what);
+    showWorkMessage(what);
 }
 
 void StatusFields::showWait(const QString& what)
 {
     m_bar->setRange(0, 0);
     m_bar->show();
+    showWorkMessage(what);
+}
+
+void StatusFields::showWorkMessage(const QString& what)
+{
+    m_workMessage = what;
     showMessage(what);
 }
 
@@ -150,5 +156,6 @@ void StatusFields::hideWork()
     m_bar->hide();
     m_bar->setRange(0, 100);
     m_cancel->hide();
-    clearMessage();
+    if (currentMessage() == m_workMessage) // Otherwise it already tells what came of the work.
+        clearMessage();
 }

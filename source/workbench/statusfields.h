@@ -40,11 +40,13 @@ signals:
 private:
     QToolButton* makeSpaceSwitch();
     void showSpaces(const drawing::Drawing* drawing);
+    void showWorkMessage(const QString& what);
     void addSpace(const QString& title, int space, int shown);
     QLabel* addField(const QString& name, const QString& widest);
 
     QToolButton* m_space = nullptr;
     QMenu* m_spaces = nullptr;
+    QString m_workMessage;
     int m_otherSpace = kModelSpace; ///< The space that a click on the switch shows.
     QLabel* m_viewport = nullptr;
     QLabel* m_current = nullptr;
