@@ -361,11 +361,14 @@ void MainWindow::keepViewportView(const drawing::SheetViewport& viewport)
 /// windows are painted.
 void MainWindow::followLayers()
 {
-    if (m_commandRunning)
-        rest();
+    const auto breathe = [this] {
+        // Without the note that rest() gives: the command may have said what it did already.
+        if (m_commandRunning && isRestDue())
+            paintWindows();
+    };
+    breathe();
     showLayers();
-    if (m_commandRunning)
-        rest();
+    breathe();
 }
 
 void MainWindow::showLayers()
@@ -497,14 +500,24 @@ void MainWindow::endEdit()
     updateState();
 }
 
-/// Lets windows be painted during a long edit.
+/// Lets windows be painted during a long edit, and says that it is one.
 void MainWindow::rest()
 {
-    constexpr qint64 kRestMilliseconds = 20;
-    if (m_sinceRest.elapsed() < kRestMilliseconds)
+    if (!isRestDue())
         return;
     if (++m_rests == kRestsToWait)
         m_status->showWait(tr("正在更改图形..."));
+    paintWindows();
+}
+
+bool MainWindow::isRestDue() const
+{
+    constexpr qint64 kRestMilliseconds = 20;
+    return m_sinceRest.elapsed() >= kRestMilliseconds;
+}
+
+void MainWindow::paintWindows()
+{
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     m_sinceRest.start();
 }

@@ -71,6 +71,8 @@ private:
     void beginEdit();
     void endEdit();
     void rest();
+    bool isRestDue() const;
+    void paintWindows();
     void zoomToExtents();
     void toggleBackground();
     void toggleLineweights();
