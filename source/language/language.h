@@ -12,8 +12,8 @@ inline constexpr char kCodes[] = "zh en";
 /// Whether the language with this code is available.
 bool isKnown(const QString& code);
 /// Shows the texts of these libraries, and those of Qt, in a language. An empty or unknown code
-/// means the language of the locale, or English when that is not available. This replaces the choice of an
-/// earlier call, but texts that are already visible stay as they are.
+/// means the language of the locale, or English when that is not available. This replaces the
+/// choice of an earlier call, but texts that are already visible stay as they are.
 void use(const QString& code, const QStringList& libraries);
 /// The value of "--language" anywhere on the command line; empty when it is missing. It is read
 /// before everything else because it also applies to help and error messages.
