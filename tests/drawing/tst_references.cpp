@@ -91,6 +91,11 @@ private slots:
         row("index of a deleted layer", Delete,
             index + "8 0 | 360 E1 | 90 1 | 8 Third | 360 E2 | 90 0\n0 IDBUFFER | 5 E2 | 330 0\n",
             index + "8 0 | 360 E1 | 90 1\n");
+
+        const QByteArray section = "0 SECTIONSETTINGS | 5 E0 | 100 AcDbSectionSettings | 90 1 | 8 ";
+        row("section", Rename, section + "third | 8 Empty\n", section + "N.1 | 8 Empty\n");
+        row("section of a merged layer", Merge, section + "Third\n", section + "Empty\n");
+        row("section of a deleted layer", Delete, section + "Third\n", section + "0\n");
     }
 
     void objects()

@@ -19,6 +19,7 @@ constexpr std::pair<std::string_view, ObjectKind> kObjects[] = {
     {"XRECORD", ObjectKind::XRecord},
     {"LAYER_FILTER", ObjectKind::LayerList},
     {"LAYER_INDEX", ObjectKind::LayerList},
+    {"SECTIONSETTINGS", ObjectKind::Section},
     {"LAYOUT", ObjectKind::Layout},
     {"ACAD_PROXY_OBJECT", ObjectKind::Proxy},
 };

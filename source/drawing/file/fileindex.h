@@ -33,7 +33,7 @@ struct TablePlace
 };
 
 /// The kinds of objects that need special treatment. `LayerList` objects name layers in 8 groups.
-enum class ObjectKind : quint8 { Other, Dictionary, XRecord, LayerList, Layout, Proxy };
+enum class ObjectKind : quint8 { Other, Dictionary, XRecord, LayerList, Section, Layout, Proxy };
 
 /// An object of the OBJECTS section.
 struct ObjectPlace

@@ -74,6 +74,8 @@ QSet<quint64> LayerObjects::follow(const LayerReplacements& replacements)
     for (const ObjectPlace& object : m_file.index().objects) {
         if (object.kind == ObjectKind::LayerList)
             rewrite(object.handle, [&](TagList& tags) { followList(tags, replacements); });
+        if (object.kind == ObjectKind::Section)
+            rewrite(object.handle, [&](TagList& tags) { followSection(tags, replacements); });
     }
     for (const LayerEntry& removed : replacements.removed())
         m_file.objects().eraseOwned(removed.extension);
@@ -133,6 +135,20 @@ void LayerObjects::followList(TagList& tags, const LayerReplacements& replacemen
             kept.push_back(at);
     }
     tags.keepOnly(kept);
+}
+
+/// Updates the layers that a section puts its outlines on. What was deleted falls to layer 0.
+void LayerObjects::followSection(TagList& tags, const LayerReplacements& replacements) const
+{
+    const RecordData data(tags);
+    for (int at = data.begin; at < data.end; ++at) {
+        if (tags.code(at) != group::kLayer)
+            continue;
+        const QString name = m_file.decoded(tags.trimmed(at));
+        const QString now = replacements.currentName(name);
+        if (!now.isNull() || replacements.isRemoved(name))
+            setText(tags, at, now.isNull() ? QStringLiteral("0") : now);
+    }
 }
 
 /// Appends the handles in one entity index to another.

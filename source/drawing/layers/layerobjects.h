@@ -23,6 +23,7 @@ public:
 private:
     void rewrite(quint64 handle, const std::function<void(TagList&)>& change);
     void followList(TagList& tags, const LayerReplacements& replacements);
+    void followSection(TagList& tags, const LayerReplacements& replacements) const;
     QSet<quint64> followFilters(const LayerReplacements& replacements);
     void followOldFilter(TagList& tags, const LayerReplacements& replacements) const;
     void followFilter(TagList& tags, const LayerReplacements& replacements) const;
