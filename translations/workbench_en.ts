@@ -1256,6 +1256,10 @@ See --help for the usage.
         <translation>Spline</translation>
     </message>
     <message>
+        <source>螺旋</source>
+        <translation>Helix</translation>
+    </message>
+    <message>
         <source>点</source>
         <translation>Point</translation>
     </message>

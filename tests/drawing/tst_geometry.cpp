@@ -105,6 +105,10 @@ private slots:
         row("a clamped spline meets its ends",
             spline + "40 0 40 0 40 0 40 1 40 1 40 1 10 0 20 0 10 1 20 2 10 2 20 0", {0, 0, 2, 1},
             {0, 0, 2, 0});
+        row("a helix without its axis",
+            "0 HELIX 8 A 100 AcDbSpline 70 8 71 1 40 0 40 0 40 1 40 1 10 0 20 0 10 2 20 1 "
+            "100 AcDbHelix 10 50 20 50 11 9 21 9 40 7 41 3",
+            {0, 0, 2, 1}, {0, 0, 2, 1});
         row("weights pull it",
             spline + "40 0 40 0 40 0 40 1 40 1 40 1 41 1 41 3 41 1 10 0 20 0 10 1 20 2 10 2 "
                      "20 0",

@@ -35,6 +35,7 @@ const EntityReader::HandlerRow EntityReader::kHandlers[] = {
     {"3DFACE", &EntityReader::face},
     {"ELLIPSE", &EntityReader::ellipse},
     {"SPLINE", &EntityReader::spline},
+    {"HELIX", &EntityReader::spline},
     {"LEADER", &EntityReader::leader},
     {"ATTRIB", &EntityReader::attribute},
     {"ATTDEF", &EntityReader::attributeDefinition},

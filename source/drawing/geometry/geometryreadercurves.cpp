@@ -125,6 +125,9 @@ void EntityReader::spline()
     spline.degree = static_cast<int>(std::clamp<qint64>(m_tags.integer(71, 3), 0, 100));
     spline.closed = m_tags.integer(70) & kClosed;
     for (const Tag& tag : m_tags) {
+        // A helix is stored as a spline, followed by its axis and turns in the same groups.
+        if (tag.code == group::kSubclass && tag.trimmed() == "AcDbHelix")
+            break;
         Path& path = tag.code % 10 == 0 ? spline.controls : spline.fitPoints;
         if (tag.code == 40)
             spline.knots.push_back(tag.real());

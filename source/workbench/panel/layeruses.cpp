@@ -35,6 +35,7 @@ constexpr KindName kNames[] = {
     {"ARC", QT_TRANSLATE_NOOP("workbench", "圆弧")},
     {"ELLIPSE", QT_TRANSLATE_NOOP("workbench", "椭圆")},
     {"SPLINE", QT_TRANSLATE_NOOP("workbench", "样条曲线")},
+    {"HELIX", QT_TRANSLATE_NOOP("workbench", "螺旋")},
     {"POINT", QT_TRANSLATE_NOOP("workbench", "点")},
     {"TEXT", QT_TRANSLATE_NOOP("workbench", "文字")},
     {"MTEXT", QT_TRANSLATE_NOOP("workbench", "多行文字")},
