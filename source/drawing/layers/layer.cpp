@@ -10,18 +10,25 @@ namespace {
 // Marks a transparency value, as opposed to "by layer" and "by block".
 constexpr qint64 kTransparencyByValue = 0x02000000;
 
-auto members(const LayerProperties& p)
+auto numbers(const LayerProperties& p)
 {
-    return std::tie(p.name, p.off, p.frozen, p.locked, p.plotted, p.frozenInNewViewports,
-        p.colorIndex, p.trueColor, p.linetype, p.lineweight, p.transparency, p.plotStyle,
-        p.description);
+    return std::tie(p.off, p.frozen, p.locked, p.plotted, p.frozenInNewViewports, p.colorIndex,
+        p.trueColor, p.lineweight, p.transparency);
+}
+
+/// Copies of a layer share their texts, which need not be read to be compared.
+bool isSameText(const QString& a, const QString& b)
+{
+    return a.isSharedWith(b) || a == b;
 }
 
 } // namespace
 
 bool operator==(const LayerProperties& a, const LayerProperties& b)
 {
-    return members(a) == members(b);
+    return numbers(a) == numbers(b) && isSameText(a.name, b.name) &&
+           isSameText(a.linetype, b.linetype) && isSameText(a.plotStyle, b.plotStyle) &&
+           isSameText(a.description, b.description);
 }
 
 bool operator!=(const LayerProperties& a, const LayerProperties& b)

@@ -4,6 +4,8 @@
 #include "layers/colorindex.h"
 #include "layers/layermask.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <deque>
 
@@ -107,7 +109,12 @@ private:
         const Layer* layer = find(setting.layer);
         if (!layer)
             return nullptr;
-        return m_layerLinetypes.at(m_layerLinetypes.find(layer->properties.linetype));
+        const QString& name = layer->properties.linetype;
+        auto known = m_linetypesOfLayers.constFind(name);
+        if (known == m_linetypesOfLayers.constEnd())
+            known =
+                m_linetypesOfLayers.insert(name, m_layerLinetypes.at(m_layerLinetypes.find(name)));
+        return *known;
     }
 
     QColor ofIndex(int index) const
@@ -136,6 +143,8 @@ private:
     std::deque<Layer> m_overridden;     ///< A deque keeps pointers to its elements valid.
     const LinetypePatterns& m_ownLinetypes;
     const LinetypePatterns& m_layerLinetypes;
+    /// By the names as layers spell them, which saves folding their letters for each group.
+    mutable QHash<QString, LinetypePatternPointer> m_linetypesOfLayers;
     QColor m_foreground;
     bool m_isThroughViewports = false;
 };

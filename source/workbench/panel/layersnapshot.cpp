@@ -1,18 +1,19 @@
 #include "layersnapshot.h"
 
+#include "layers/layercopies.h"
+
 #include <algorithm>
 
 namespace {
 
 LayerSnapshot::Differences difference(const drawing::Layer& a, const drawing::Layer& b)
 {
-    LayerSnapshot::Differences found;
+    if (drawing::isSame(a, b))
+        return LayerSnapshot::None;
+    LayerSnapshot::Differences found = LayerSnapshot::Values;
     if (a.properties.name != b.properties.name ||
         a.properties.description != b.properties.description)
         found |= LayerSnapshot::Names;
-    if (a.entityCount != b.entityCount || a.dependsOnReference != b.dependsOnReference ||
-        a.properties != b.properties)
-        found |= LayerSnapshot::Values;
     return found;
 }
 
