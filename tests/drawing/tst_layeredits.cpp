@@ -320,8 +320,11 @@ private slots:
     void implicitLayer()
     {
         const auto drawing = opened(House().bytes());
-        QCOMPARE(edit(*drawing, "implicit", set(&LayerProperties::name, "Real")), QString());
-        QCOMPARE(edit(*drawing, "real", set(&LayerProperties::colorIndex, 1)), QString());
+        const auto change = [](LayerProperties& p) {
+            p.name = "Real";
+            p.colorIndex = 1;
+        };
+        QCOMPARE(edit(*drawing, "implicit", change), QString());
         const QByteArray after = withRecord("Real\n70 0\n62 1", "Wall").bytes();
         QCOMPARE(saved(*drawing), QByteArray(after).replace("Implicit", "Real"));
     }

@@ -123,11 +123,11 @@ private slots:
         state.name = "Other";
         put(*drawing, state);
 
-        inStep(*drawing, [&] {
+        QVERIFY(inStep(*drawing, [&] {
             return !drawing->renameLayerState("other", "stAte") &&
                    !drawing->renameLayerState("none", "x") &&
                    drawing->renameLayerState("state", "First");
-        });
+        }));
         QCOMPARE(drawing->layerStateNames(), QStringList({"First", "Other"}));
         QVERIFY(inStep(*drawing, [&] {
             return !drawing->removeLayerStates({"none"}) &&

@@ -148,6 +148,12 @@ private slots:
         QVERIFY2(notices.contains(notice), qPrintable(notices));
     }
 
+    void unknownCodePageChosen()
+    {
+        const auto drawing = Drawing::open(write(House().bytes()), nullptr, nullptr, {"MARTIAN"});
+        QVERIFY(!drawing && drawing.error().text.contains("MARTIAN"));
+    }
+
     /// Names that cannot be decoded are still different names and are written unchanged.
     void unreadableNames()
     {

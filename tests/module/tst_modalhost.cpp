@@ -187,6 +187,22 @@ private slots:
         QCOMPARE(deletedOn, QThread::currentThread());
     }
 
+    void isDeletedOnUiThreadFromCommand()
+    {
+        const host::CommandScope command;
+        VnUiModeDialogBase* const dialog = make().detach();
+        bool isGoneAfterwards = false;
+        const std::unique_ptr<QThread> thread(QThread::create([&] {
+            dialog->release();
+            isGoneAfterwards = deletedOn; // The release waits for the deletion.
+        }));
+        thread->start();
+        QTRY_VERIFY(thread->isFinished());
+        QVERIFY(isGoneAfterwards);
+        QCOMPARE(deletedOn, QThread::currentThread());
+        QCOMPARE(host::markedScraps(), 0);
+    }
+
     void isLeftAliveWithoutCommand()
     {
         VnUiModeDialogBase* const dialog = make().detach();

@@ -288,6 +288,20 @@ private slots:
         QVERIFY(!m_window->drawing()->findLayer("A")->properties.off);
     }
 
+    void layerChangeReachesTheCanvas()
+    {
+        QVERIFY(open("0 SOLID 8 A 10 0 20 0 11 9 21 0 12 0 22 9 13 9 23 9 "));
+        Canvas* const canvas = m_window->canvas();
+        const auto pixel = [canvas] {
+            return canvas->grab().toImage().pixelColor(canvas->view().toScreen({4, 4}).toPoint());
+        };
+        QCOMPARE(pixel(), QColor(255, 0, 0));
+        turnOff();
+        QCOMPARE(pixel(), QColor(Qt::black));
+        action("UNDO")->trigger();
+        QCOMPARE(pixel(), QColor(255, 0, 0));
+    }
+
     void closingAsks_data()
     {
         // An empty answer stands for Esc.
