@@ -154,15 +154,8 @@ private:
             p.description = QStringLiteral("No. %1").arg(number);
             QVERIFY2(drawing.setLayerProperties(layer.id, p), qPrintable(p.name));
         }
-        LayerProperties added;
-        added.name = "新图层";
-        added.off = true;
-        added.plotted = false;
-        added.frozenInNewViewports = true;
-        added.trueColor = 0xfedcba;
-        added.lineweight = 9;
-        added.transparency = 50;
-        added.description = "说明 text";
+        const LayerProperties added{"新图层", true, false, false, false, true, 7, 0xfedcba,
+            "Continuous", 9, 50, "", "说明 text"};
         const auto made = drawing.addLayer(added);
         QVERIFY(made && drawing.setCurrentLayer(*made));
     }

@@ -210,51 +210,38 @@ private slots:
         QCOMPARE(m->run("report out").output.count("\r\n"), 4);
     }
 
-    void killed_data()
+    void stopped_data()
     {
-        const Rows<bool> row("worker");
-        row("a worker process", true);
-        row("the run", false);
+        const Rows<bool, int, int> row("worker", "number", "code");
+        row("a worker process killed", true, SIGKILL, 1);
+        row("the run killed", false, SIGKILL, -1);
+        row("the run interrupted", false, SIGINT, 130);
     }
 
-    void killed()
+    /// What is there is whole, and the next run does the rest.
+    void stopped()
     {
         QFETCH(bool, worker);
+        QFETCH(int, number);
+        QFETCH(int, code);
         QProcess process;
         startMany(process, "--jobs 1 --keep-going");
-        QVERIFY(worker ? signalChild(process, SIGKILL) : signalProcess(process, SIGKILL));
+        QVERIFY(worker ? signalChild(process, number) : signalProcess(process, number));
         const Run run = ToolFolder::finished(process);
-        QCOMPARE(run.code, worker ? 1 : -1);
-        if (worker) {
-            QCOMPARE(run.counted("error").value("process-ended"), 1);
-            QCOMPARE(run.counted("status").value("done"), kMany - 1);
-        }
+        QCOMPARE(run.code, code);
+        QCOMPARE(run.counted("error").value("process-ended"), worker ? 1 : 0);
+        QCOMPARE(run.counted("status").value("failed"), worker ? 1 : 0);
+        QCOMPARE(run.counted("status").value("cancelled") > 0, number == SIGINT);
+        const auto expected = whole(), sofar = m->tree("out");
+        for (auto file = sofar.begin(); file != sofar.end(); ++file)
+            QCOMPARE(*file, expected.value(file.key()));
         const int reported = m->run("report out").output.count(",done,");
-        QVERIFY(reported > 0);
+        QVERIFY(reported > 0 && (!worker || reported == kMany - 1));
         const Run rest = m->run(QByteArray(kRename) + "in");
         QCOMPARE(rest.code, 0);
         QCOMPARE(rest.counted("status").value("skipped"), reported);
-        QCOMPARE(m->tree("out"), whole());
-        QVERIFY(QDir(m->path("out/.layertool")).entryList({"staging-*"}, QDir::Dirs).isEmpty());
-    }
-
-    void interrupted()
-    {
-        QProcess process;
-        startMany(process, "");
-        QVERIFY(signalProcess(process, SIGINT));
-        const Run run = ToolFolder::finished(process);
-        QCOMPARE(run.code, 130);
-        QVERIFY(run.counted("status").value("cancelled") > 0);
-        QCOMPARE(run.counted("status").value("failed"), 0);
-        const auto expected = whole();
-        const auto sofar = m->tree("out");
-        for (auto file = sofar.begin(); file != sofar.end(); ++file)
-            QCOMPARE(*file, expected.value(file.key()));
-        const Run rest = m->run(QByteArray(kRename) + "in");
-        QCOMPARE(rest.code, 0);
-        QCOMPARE(rest.counted("status").value("skipped"), sofar.size());
         QCOMPARE(m->tree("out"), expected);
+        QVERIFY(QDir(m->path("out/.layertool")).entryList({"staging-*"}, QDir::Dirs).isEmpty());
     }
 
     void locked_data()

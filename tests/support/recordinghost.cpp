@@ -43,17 +43,12 @@ RecordingHost::~RecordingHost()
         QTest::qFail("fewer questions were asked than were answered", __FILE__, __LINE__);
 }
 
-void RecordingHost::answer(int value)
+void RecordingHost::answer(int value, const QString& json)
 {
-    m_answers.enqueue([value](const vnsi::VnJsonPtr&) { return value; });
-}
-
-void RecordingHost::answer(int result, const QString& json)
-{
-    m_answers.enqueue([result, json](const vnsi::VnJsonPtr& tree) {
+    m_answers.enqueue([value, json](const vnsi::VnJsonPtr& tree) {
         if (tree)
             merge(tree, json);
-        return result;
+        return value;
     });
 }
 

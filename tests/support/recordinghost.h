@@ -27,10 +27,9 @@ public:
     ~RecordingHost() override;
 
     /// Queues the answer of the next message box (its button), task dialog (its id) or dialog (its
-    /// result). Messages with only one button take no answer.
-    void answer(int value);
-    /// Queues a dialog's result and the members that are written into its tree, as JSON.
-    void answer(int result, const QString& json);
+    /// result, and the members that are written into its tree, as JSON). Messages with only one
+    /// button take no answer.
+    void answer(int value, const QString& json = QStringLiteral("{}"));
     /// Queues a function that receives a dialog's tree and returns the dialog's result.
     void answer(const Answer& answer);
 
