@@ -31,7 +31,7 @@ struct ColumnWidth
     int pixels;
     int characters;
 };
-constexpr ColumnWidth kColumnWidths[] = {{90, 12}, {66, 9}, {66, 9}, {0, 0}};
+constexpr ColumnWidth kColumnWidths[] = {{90, 12}, {66, 9}, {66, 9}, {0, 10}};
 
 struct MaskRow
 {
