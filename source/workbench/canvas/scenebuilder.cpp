@@ -26,9 +26,10 @@ constexpr std::size_t kPartLength = 32768;
 /// Drawings up to this size are flattened immediately.
 constexpr std::size_t kEntitiesAtOnce = 5000;
 constexpr GeometryAmount kRoomAtOnce{100000, 10000, 2000};
-/// The time until the first parts are published. It doubles each time, because painting an
-/// incomplete scene takes time from building the rest.
+/// The time until the first parts are published, and the factor by which it grows each time, because
+/// painting an incomplete scene takes time from building the rest.
 constexpr int kPublishMilliseconds = 60;
+constexpr int kPublishGrowth = 4;
 /// The event that a thread posts when it has finished a part.
 constexpr auto kPartBuilt = static_cast<QEvent::Type>(QEvent::User + 1);
 
@@ -259,7 +260,7 @@ void SceneBuilder::publishBeginning()
 void SceneBuilder::publish()
 {
     m_publish.stop();
-    m_publish.setInterval(m_publish.interval() * 2);
+    m_publish.setInterval(m_publish.interval() * kPublishGrowth);
     Scene scene;
     for (const GeometryPart& part : m_parts) {
         if (part && !part->groups.empty())
