@@ -321,6 +321,17 @@ private slots:
             QStringList({"names.csv", "other.csv", "plan.dxf", "plan.dxf.bak", "site.dxf"}));
     }
 
+    /// What could not be written is not reported as done.
+    void unwritten()
+    {
+        m->write("out/plan.dxf/notes.txt", "in the way");
+        const Run run = m->run("rename --table names.csv --out out --format json plan.dxf");
+        QCOMPARE(run.code, 1);
+        QCOMPARE(run.drawing("plan.dxf").value("error"), "not-written");
+        QVERIFY(run.rows("plan.dxf").isEmpty());
+        QVERIFY(run.drawing("plan.dxf").value("counts").toObject().isEmpty());
+    }
+
     /// The drawing is saved by somebody else after its first part was written.
     void changedMeanwhile()
     {

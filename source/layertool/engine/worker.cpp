@@ -83,6 +83,15 @@ Expected<void> keepBackup(const QString& path)
         Error{Texts::tr("无法把原图形留为“%1”，图形没有改动。").arg(backup)});
 }
 
+/// Takes back what the result says of a drawing that could not be written, because it is as it was.
+void forgetChanges(Result& result)
+{
+    result.changed = false;
+    result.counts = {};
+    result.data = {};
+    result.cells.clear();
+}
+
 /// Processes one job after the other.
 class Worker
 {
@@ -171,6 +180,7 @@ void Worker::answer(const Job& job, Result& result)
     // An unchanged drawing is not written in place; in an output folder every drawing is written.
     const bool writes = !job.output.isEmpty() && (result.changed || job.output != job.input);
     const auto refuseChanged = [&result] {
+        forgetChanges(result);
         result.fail(errorid::kChanged, Texts::tr("图形在处理期间被改动，请重做。"));
     };
     if (!isAsRead(job, result))
@@ -178,7 +188,10 @@ void Worker::answer(const Job& job, Result& result)
     if (!writes) {
         result.output.clear();
     } else if (const auto written = write(drawing, job, result); !written) {
-        return isAsRead(job, result) ? refuse(errorid::kWrite, written.error()) : refuseChanged();
+        if (!isAsRead(job, result))
+            return refuseChanged();
+        forgetChanges(result);
+        return refuse(errorid::kWrite, written.error());
     }
     result.status = Result::Status::Done;
 }
