@@ -151,6 +151,8 @@ private slots:
             QStringList({"A|模型|是|first", "B|布局|否|", "X|R|外部参照|否|", "D|模型|否|"}));
         QCOMPARE(table.selectionModel()->selectedRows().size(), 1);
         QVERIFY(table.item(3, 0)->isSelected());
+        QCOMPARE(table.minimumWidth(), 360);
+        QCOMPARE(table.maximumWidth(), 360);
         QCOMPARE(find<QLabel>("statusLabel").text(), "当前图层状态: B");
         find<QCheckBox>("referenceBox").click();
         QCOMPARE(table.rowCount(), 3);

@@ -25,13 +25,14 @@ constexpr const char* kHeaders[] = {QT_TRANSLATE_NOOP("vnsi::VnQtUiDynLayerState
 constexpr int kTableWidth = 360;
 constexpr int kHeaderMargin = 10;
 
-/// How wide a column is at least: in pixels, and in characters where the font is a large one.
+/// How wide a column is at least: in pixels, and in characters where the font is a large one. With
+/// fonts of the usual sizes all columns fit into the table's agreed width.
 struct ColumnWidth
 {
     int pixels;
     int characters;
 };
-constexpr ColumnWidth kColumnWidths[] = {{90, 12}, {66, 9}, {66, 9}, {0, 10}};
+constexpr ColumnWidth kColumnWidths[] = {{90, 10}, {66, 7}, {66, 7}, {0, 8}};
 
 struct MaskRow
 {
@@ -214,6 +215,9 @@ void VnQtUiDynLayerStateCmdImpl::setUpTable()
         m_table->setColumnWidth(column, needed);
         width += needed;
     }
+    // What is left over, the names get.
+    const int nameWidth = m_table->columnWidth(kNameColumn) + std::max(0, kTableWidth - width);
+    m_table->setColumnWidth(kNameColumn, nameWidth);
     m_table->setFixedWidth(std::max(kTableWidth, width));
 }
 
